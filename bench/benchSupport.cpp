@@ -1,0 +1,69 @@
+#include "benchSupport.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace benchSupport {
+
+QString generatedDatabase(int materials)
+{
+    const QString path = QStringLiteral(KIVZP_BENCH_DIR "/db_%1.xml").arg(materials);
+    if (!QFile::exists(path) &&
+        QProcess::execute(QStringLiteral("python3"),
+                          {QStringLiteral(KIVZP_SOURCE_DIR "/tools/makeSampleData.py"),
+                           QStringLiteral("--size"), QString::number(materials), path}) != 0)
+        qFatal("cannot make %s", qPrintable(path));
+    return path;
+}
+
+QString realDatabase()
+{
+    const QString folder = qEnvironmentVariable("KIVZP_REAL_DATA");
+    const QString packed = folder + QLatin1String("/db_100k.xml.gz");
+    if (folder.isEmpty() || !QFile::exists(packed))
+        return {};
+    const QString path = QStringLiteral(KIVZP_BENCH_DIR "/db_real_100k.xml");
+    if (!QFile::exists(path)) {
+        QProcess gzip;
+        gzip.setStandardOutputFile(path);
+        gzip.start(QStringLiteral("gzip"), {QStringLiteral("-dc"), packed});
+        if (!gzip.waitForFinished(-1) || gzip.exitCode() != 0)
+            qFatal("cannot unpack %s", qPrintable(packed));
+    }
+    return path;
+}
+
+processCost measure(const QStringList &command)
+{
+    std::vector<QByteArray> texts;
+    for (const QString &argument : command)
+        texts.push_back(argument.toLocal8Bit());
+    std::vector<char *> arguments;
+    for (QByteArray &text : texts)
+        arguments.push_back(text.data());
+    arguments.push_back(nullptr);
+
+    QElapsedTimer timer;
+    timer.start();
+    const pid_t child = fork();
+    if (child == 0) {
+        const int nothing = open("/dev/null", O_WRONLY);
+        dup2(nothing, STDOUT_FILENO);
+        dup2(nothing, STDERR_FILENO);
+        execvp(arguments[0], arguments.data());
+        _exit(127);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    return {double(timer.nsecsElapsed()) / 1e9, double(usage.ru_maxrss) / 1024,
+            WIFEXITED(status) && WEXITSTATUS(status) == 0};
+}
+
+} // namespace benchSupport

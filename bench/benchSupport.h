@@ -1,0 +1,26 @@
+// What the benchmarks share: the large files they read, and processes measured from outside.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace benchSupport {
+
+// A generated database of so many materials; made once and kept in the build folder.
+QString generatedDatabase(int materials);
+
+// The unpacked real database of 100,000 materials; empty when KIVZP_REAL_DATA does not name one.
+QString realDatabase();
+
+struct processCost
+{
+    double seconds = 0;
+    double megabytes = 0; // peak resident memory
+    bool succeeded = false;
+};
+// Runs a program to its end, its output dropped.
+processCost measure(const QStringList &command);
+
+} // namespace benchSupport

@@ -1,0 +1,12 @@
+# Copies the files that users edit (configuration, orders, databases) beside the program; what is
+# there already is never overwritten by an update. Set before: source, the project's folder.
+set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+foreach(dir _config _files _zp)
+    file(GLOB_RECURSE shipped RELATIVE "${source}" "${source}/${dir}/*")
+    foreach(file ${shipped})
+        if(NOT EXISTS "${root}/${file}")
+            get_filename_component(folder "${file}" DIRECTORY)
+            file(COPY "${source}/${file}" DESTINATION "${root}/${folder}")
+        endif()
+    endforeach()
+endforeach()

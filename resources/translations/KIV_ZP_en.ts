@@ -1,0 +1,185 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>XmlValidator</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>options</name>
+    <message>
+        <source>OPTION_EDIT_ZP</source>
+        <translation>Orders may be edited</translation>
+    </message>
+    <message>
+        <source>OPTION_EDIT_CONFIG</source>
+        <translation>Configuration may be edited</translation>
+    </message>
+    <message>
+        <source>OPTION_EDIT_DATABASE</source>
+        <translation>Material databases may be edited</translation>
+    </message>
+    <message>
+        <source>OPTION_EDIT_FIRM</source>
+        <translation>Firm register may be edited</translation>
+    </message>
+    <message>
+        <source>OPTION_EMAIL_MAPI</source>
+        <translation>E-mail through MAPI</translation>
+    </message>
+    <message>
+        <source>OPTION_OPEN_REPORT_HTML</source>
+        <translation>Open report files automatically</translation>
+    </message>
+    <message>
+        <source>OPTION_FONT_NAME</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>OPTION_FONT_SIZE</source>
+        <translation>Font size</translation>
+    </message>
+    <message>
+        <source>OPTION_THRESHOLD_LOW</source>
+        <translation>Low threshold [%]</translation>
+    </message>
+    <message>
+        <source>OPTION_THRESHOLD_AVERAGE</source>
+        <translation>Average threshold [%]</translation>
+    </message>
+    <message>
+        <source>OPTION_THRESHOLD_HIGH</source>
+        <translation>High threshold [%]</translation>
+    </message>
+    <message>
+        <source>OPTION_ORDER_TARGET</source>
+        <translation>Target</translation>
+    </message>
+    <message>
+        <source>OPTION_ORDER_DATE_ADD</source>
+        <translation>Order completion term</translation>
+    </message>
+    <message>
+        <source>OPTION_ORDER_NUMBER</source>
+        <translation>Order number</translation>
+    </message>
+    <message>
+        <source>OPTION_ORDER_DATE</source>
+        <translation>Order date</translation>
+    </message>
+    <message>
+        <source>OPTION_PERSON_AUTHOR</source>
+        <translation>Author</translation>
+    </message>
+    <message>
+        <source>OPTION_PERSON_APPROVED</source>
+        <translation>Approved by</translation>
+    </message>
+    <message>
+        <source>OPTION_PERSON_CONTRACTOR</source>
+        <translation>Carried out by</translation>
+    </message>
+    <message>
+        <source>OPTION_PERSON_ADMIN</source>
+        <translation>Administrator</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_CONFIG</source>
+        <translation>Configuration file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_DB_WAREHOUSE</source>
+        <translation>Warehouse database file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_DB_SERVICE</source>
+        <translation>Service database file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_DB_AUTHOR</source>
+        <translation>Author&apos;s database file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_DB_MECHANICS</source>
+        <translation>Mechanics database file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_FIRM</source>
+        <translation>Firm register file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_BOMS</source>
+        <translation>BOM set file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_NEWZP</source>
+        <translation>New order file</translation>
+    </message>
+    <message>
+        <source>OPTION_FILE_LASTZP</source>
+        <translation>Last order file</translation>
+    </message>
+    <message>
+        <source>OPTION_LOAD_DB_WAREHOUSE</source>
+        <translation>Load the warehouse database</translation>
+    </message>
+    <message>
+        <source>OPTION_LOAD_DB_SERVICE</source>
+        <translation>Load the service database</translation>
+    </message>
+    <message>
+        <source>OPTION_LOAD_DB_AUTHOR</source>
+        <translation>Load the author&apos;s database</translation>
+    </message>
+    <message>
+        <source>OPTION_LOAD_DB_MECHANICS</source>
+        <translation>Load the mechanics database</translation>
+    </message>
+    <message>
+        <source>OPTION_LOAD_BOMS</source>
+        <translation>Load the BOM set</translation>
+    </message>
+    <message>
+        <source>OPTION_PATH_BACKUP</source>
+        <translation>Backup folder</translation>
+    </message>
+    <message>
+        <source>OPTION_SERVER_NAME</source>
+        <translation>File server</translation>
+    </message>
+    <message>
+        <source>OPTION_SERVER_USER_NAME</source>
+        <translation>Server user name</translation>
+    </message>
+    <message>
+        <source>OPTION_SERVER_USER_PASSWORD</source>
+        <translation>Server user password</translation>
+    </message>
+</context>
+<context>
+    <name>orderReport</name>
+    <message numerus="yes">
+        <source>%n line(s) without a price or quantity not counted</source>
+        <translation>
+            <numerusform>%n line without a price or quantity not counted</numerusform>
+            <numerusform>%n lines without a price or quantity not counted</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

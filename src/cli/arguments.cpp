@@ -1,0 +1,120 @@
+#include "cli/arguments.h"
+
+#include "data/XmlValidator.h"
+#include "data/documentStruct.h"
+#include "data/loaders.h"
+#include "util/paths.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+namespace cli {
+
+namespace {
+
+QTextStream &utf8(QTextStream &stream)
+{
+    stream.setCodec("UTF-8");
+    return stream;
+}
+
+} // namespace
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return utf8(stream);
+}
+
+QTextStream &err()
+{
+    static QTextStream stream(stderr);
+    return utf8(stream);
+}
+
+parser::parser(const subcommand &command, const QString &fileNames, int minimum, int maximum)
+    : m_name(QLatin1String(command.name))
+    , m_minimum(minimum)
+    , m_maximum(maximum)
+{
+    setApplicationDescription(QCoreApplication::translate("cli", command.summary));
+    addPositionalArgument(m_name, {}, m_name + QLatin1Char(' ') + fileNames);
+    addHelpOption();
+}
+
+bool parser::accept(const QStringList &arguments)
+{
+    const bool parsed = parse(QStringList{QStringLiteral("kivzp-cli")} + arguments);
+    if (parsed && isSet(QStringLiteral("help"))) {
+        out() << helpText() << Qt::flush;
+        return false;
+    }
+    QString fault;
+    const int count = positionalArguments().size();
+    if (!parsed)
+        fault = errorText();
+    else if (count < m_minimum)
+        fault = QCoreApplication::translate("cli", "an argument is missing");
+    else if (m_maximum >= 0 && count > m_maximum)
+        fault = QCoreApplication::translate("cli", "too many arguments");
+    if (fault.isEmpty())
+        return true;
+    err() << m_name << ": " << fault << '\n'
+          << QCoreApplication::translate("cli", "Try: kivzp-cli %1 --help").arg(m_name) << '\n'
+          << Qt::flush;
+    m_code = wrongCall;
+    return false;
+}
+
+bool validateFile(const QString &path)
+{
+    // A file of no known kind is told by the schema with the most kinds.
+    const fileKind *kind = fileKinds::ofFile(path);
+    const QString schema = paths::schema(kind ? kind->schema : QStringLiteral("kiv_mat.xsd"));
+    XmlValidator validator;
+    if (validator.validate(path, schema, false))
+        return true;
+    const validationResult &details = validator.details();
+    if (!details.schemaLoaded) {
+        err() << QCoreApplication::translate("cli", "The schema %1 cannot be loaded").arg(schema)
+              << '\n'
+              << Qt::flush;
+        return false;
+    }
+    for (const validationMessage &message : details.messages) {
+        err() << path << ':';
+        if (message.line > 0)
+            err() << message.line << ':' << message.column << ':';
+        err() << ' ' << message.text << '\n';
+    }
+    const int rest = details.messageCount - details.messages.size();
+    if (rest > 0)
+        err() << path << ": " << QCoreApplication::translate("cli", "and %n more", nullptr, rest)
+              << '\n';
+    err() << Qt::flush;
+    return false;
+}
+
+bool databaseSet::load(const QStringList &databasePaths)
+{
+    for (const QString &path : databasePaths) {
+        if (!validateFile(path))
+            return false;
+        auto database = std::make_unique<kiv_mat_databaseStruct>();
+        QString error;
+        if (fileKinds::ofFile(path) != &fileKinds::database)
+            error = QCoreApplication::translate("cli", "is no material database");
+        else
+            loadDocument(path, database.get(), &error);
+        if (!error.isEmpty()) {
+            err() << path << ": " << error << '\n' << Qt::flush;
+            return false;
+        }
+        m_index.add(database.get());
+        m_databases.push_back(std::move(database));
+    }
+    return true;
+}
+
+} // namespace cli

@@ -1,0 +1,76 @@
+// What the subcommands of kivzp-cli have in common: exit codes, parsing, output, and the databases
+// given with -d.
+#pragma once
+
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/ktmIndex.h"
+
+#include <QCommandLineParser>
+#include <QStringList>
+#include <QTextStream>
+
+namespace cli {
+
+enum exitCode
+{
+    done = 0,
+    refused = 1,   // the input was refused, or the answer is no
+    wrongCall = 2, // unknown command, option or number of arguments
+    notWritten = 3 // an output file could not be written
+};
+
+// One subcommand. run() gets the arguments that follow its name.
+struct subcommand
+{
+    const char *name;
+    const char *summary; // English source text, context "cli"
+    int (*run)(const QStringList &arguments);
+};
+
+// Standard output and standard error, in UTF-8.
+QTextStream &out();
+QTextStream &err();
+
+// Parses the arguments of a subcommand. fileNames: the positional arguments as shown in the help;
+// minimum and maximum: how many there may be (maximum -1: any number).
+class parser : public QCommandLineParser
+{
+public:
+    parser(const subcommand &command, const QString &fileNames, int minimum, int maximum);
+
+    // True when the command shall run. Otherwise the help or the fault has been printed and code()
+    // is the exit code.
+    bool accept(const QStringList &arguments);
+    int code() const { return m_code; }
+
+private:
+    QString m_name;
+    int m_minimum;
+    int m_maximum;
+    int m_code = done;
+};
+
+// Validates a file against its kind's schema and prints the faults to standard error, each as
+// file:line:column: text. True when it is valid.
+bool validateFile(const QString &path);
+
+// The materials of several database files.
+class databaseSet
+{
+public:
+    // Validates, then reads each. Prints what is wrong; false when one was refused.
+    bool load(const QStringList &paths);
+
+    const ktmIndex &index() const { return m_index; }
+
+private:
+    std::vector<std::unique_ptr<kiv_mat_databaseStruct>> m_databases;
+    ktmIndex m_index;
+};
+
+extern const subcommand validateCommand;
+extern const subcommand infoCommand;
+extern const subcommand resaveCommand;
+extern const subcommand reportCommand;
+
+} // namespace cli

@@ -1,0 +1,50 @@
+// Checks files against their schemas and tells the user what is wrong with them.
+#pragma once
+
+#include "data/streamValidation.h"
+
+#include <QAbstractMessageHandler>
+
+#include <memory>
+
+class QXmlSchemaValidator;
+
+class XmlValidator : public QAbstractMessageHandler
+{
+    Q_OBJECT
+public:
+    XmlValidator();
+    ~XmlValidator() override;
+
+    // Whether the schema loads and the document is valid. The streaming validator looks first; when
+    // it refuses a file of up to 1 MB, QXmlSchemaValidator gives the verdict and its messages,
+    // above that size the streaming validator's own stand. With showMessages the first few are
+    // shown to the user, one box each, with line and column; a schema that does not load shows
+    // none.
+    bool validate(const QString &xmlPath, const QString &xsdPath, bool showMessages);
+
+    // What the streaming validator said in the last validate(): plain text, for lists.
+    const validationResult &details() const { return m_details; }
+
+protected:
+    void handleMessage(QtMsgType type, const QString &description, const QUrl &identifier,
+                       const QSourceLocation &sourceLocation) override;
+
+private:
+    bool secondLook(const QString &xmlPath, const QString &xsdPath);
+    void show(const QString &html, qint64 line, qint64 column);
+    void showRest();
+
+    std::unique_ptr<QXmlSchemaValidator> m_validator;
+    validationResult m_details;
+    bool m_showMessages = false;
+    int m_messageCount = 0;
+};
+
+// One such validation.
+bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessages);
+
+// Whether a KTM index or a CPV code has the right form. The forms stand in
+// "_validator/kiv_mat.xsd"; no message is shown. False also when the check file cannot be written.
+bool checkKtm(const QString &value);
+bool checkCpv(const QString &value);

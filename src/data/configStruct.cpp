@@ -1,0 +1,110 @@
+#include "data/configStruct.h"
+
+#include "data/loaders.h"
+#include "data/vocabulary.h"
+
+#include <QDir>
+
+namespace {
+
+QString icon(const char *name)
+{
+    return QStringLiteral(":/icons/icons/%1.png").arg(QLatin1String(name));
+}
+
+constexpr int defaultFontSize = 14;
+
+} // namespace
+
+configStruct::configStruct()
+    : documentStruct(fileKinds::config)
+    , statuses{{statusWord::grey, {}, icon("led_gray")},
+               {statusWord::blue, {}, icon("led_blue")},
+               {statusWord::green, {}, icon("led_green")},
+               {statusWord::violet, {}, icon("led_purple")}}
+    , probabilities{{statusWord::low, {}, icon("led_green")},
+                    {statusWord::high, {}, icon("led_red")}}
+    , goodWhenYes{{statusWord::no, {}, icon("led_red")}, {statusWord::yes, {}, icon("led_green")}}
+    , goodWhenNo{{statusWord::no, {}, icon("led_green")}, {statusWord::yes, {}, icon("led_red")}}
+    , manufacturerStatuses{{statusWord::grey, {}, icon("zp_add_manufacturer_grey_128")},
+                           {statusWord::blue, {}, icon("zp_add_manufacturer_blue_128")},
+                           {statusWord::green, {}, icon("zp_add_manufacturer_green_128")}}
+    , supplierStatuses{{statusWord::grey, {}, icon("zp_add_supplier_grey_128")},
+                       {statusWord::blue, {}, icon("zp_add_supplier_blue_128")},
+                       {statusWord::green, {}, icon("zp_add_supplier_green_128")}}
+    , fileTypes{QStringLiteral("FILE_TR"),        QStringLiteral("FILE_MD"),
+                QStringLiteral("FILE_SD"),        QStringLiteral("FILE_REACH"),
+                QStringLiteral("FILE_DATASHEET"), QStringLiteral("FILE_CATALOG"),
+                QStringLiteral("FILE_PDF"),       QStringLiteral("FILE_HTML"),
+                QStringLiteral("FILE_XML"),       QStringLiteral("FILE_XLS"),
+                QStringLiteral("FILE_CSV")}
+{
+}
+
+bool configStruct::load(const QString &path) { return loadConfig(path, this) == 0; }
+
+bool configStruct::save(const QString &path) const { return saveXmlNoEvents(path, this) == 0; }
+
+bool configStruct::isOn(const QString &key) const
+{
+    const QString value = options.value(key);
+    return value.compare(statusWord::yes, Qt::CaseInsensitive) == 0 ||
+           value.compare(statusWord::editableYes, Qt::CaseInsensitive) == 0;
+}
+
+QFont configStruct::font() const
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(defaultFontSize);
+    if (const optionStruct *name = options.findOption(optionKey::fontName)) {
+        font.setFamily(name->value1);
+        const int size = options.value(optionKey::fontSize).toInt();
+        font.setPixelSize(size > 0 ? size : defaultFontSize);
+    }
+    return font;
+}
+
+QString configStruct::backupPath()
+{
+    optionStruct *option = options.findOption(optionKey::pathBackup);
+    if (option && !option->value1.isEmpty())
+        return option->value1;
+    // An empty option is filled: a second one would never be found behind it.
+    if (!option) {
+        option = options.append(std::make_unique<optionStruct>());
+        option->editable = statusWord::editableYes;
+        option->type = optionKey::pathBackup;
+    }
+    option->value1 = option->value2 = QDir::tempPath() + QLatin1String("/KivZP_BACKUP");
+    return option->value1;
+}
+
+tagHandlerList configStruct::tagHandlers()
+{
+    static const std::vector<QString> tags{optionsStruct::element, personsStruct::element,
+                                           targetsStruct::element};
+    return {&tags, this};
+}
+
+int configStruct::readXml(QXmlStreamReader *reader)
+{
+    if (reader->name() == optionsStruct::element)
+        options.readElement(reader);
+    else if (reader->name() == personsStruct::element)
+        persons.readElement(reader);
+    else if (reader->name() == targetsStruct::element)
+        targets.readElement(reader);
+    else
+        reader->readNext();
+    return 1;
+}
+
+int configStruct::writeContent(QXmlStreamWriter *writer) const
+{
+    int result = options.writeXml(writer);
+    if (result >= 0)
+        result = persons.writeXml(writer);
+    if (result >= 0)
+        result = targets.writeXml(writer);
+    return result;
+}

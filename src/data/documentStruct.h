@@ -1,0 +1,67 @@
+// What all files have in common: a root element that names the format's version and schema, and the
+// table of the kinds of file.
+#pragma once
+
+#include "data/xmlData.h"
+
+// One kind of file.
+struct fileKind
+{
+    QString root;    // root element
+    QString xsiType; // version string of the format
+    QString schema;  // schema file in "_validator/"
+};
+
+// The kinds of file that have a record.
+namespace fileKinds {
+inline const fileKind order{QStringLiteral("kiv_mat_zp"), QStringLiteral("KIV_MAT_ZP_1"),
+                            QStringLiteral("kiv_mat.xsd")};
+inline const fileKind database{QStringLiteral("kiv_mat_database"),
+                               QStringLiteral("KIV_MAT_DATABASE_1"), QStringLiteral("kiv_mat.xsd")};
+inline const fileKind firm{QStringLiteral("kiv_mat_firm"), QStringLiteral("KIV_MAT_FIRM_1"),
+                           QStringLiteral("kiv_mat.xsd")};
+inline const fileKind config{QStringLiteral("kiv_config"), QStringLiteral("KIV_CONFIG_1"),
+                             QStringLiteral("kiv.xsd")};
+inline const fileKind bom{QStringLiteral("kiv_mat_bom"), QStringLiteral("KIV_MAT_BOM_1"),
+                          QStringLiteral("kiv_mat.xsd")};
+inline const fileKind boms{QStringLiteral("kiv_mat_boms"), QStringLiteral("KIV_MAT_BOMS_1"),
+                           QStringLiteral("kiv_mat_boms.xsd")};
+inline const fileKind info{QStringLiteral("kiv_info"), QStringLiteral("KIV_INFO_1"),
+                           QStringLiteral("kiv_info.xsd")};
+inline const fileKind update{QStringLiteral("kiv_update"), QStringLiteral("KIV_UPDATE_1"),
+                             QStringLiteral("kiv_update.xsd")};
+
+inline const QString xsiNamespace =
+    QStringLiteral("http://www.w3.org/2001/XMLSchema-instance"); // of the root attributes
+
+// The kind whose root element the file has; null when the file cannot be read or parsed that far,
+// or has another root.
+const fileKind *ofFile(const QString &filePath);
+} // namespace fileKinds
+
+class documentStruct : public xmlData
+{
+public:
+    explicit documentStruct(const fileKind &kind);
+
+    // As in the file's root element; a new document has those of its kind. What a file says is
+    // written back, not compared.
+    QString schemaLocation;
+    QString xsiNamespace; // always the XML Schema instance namespace
+    QString xsiType;
+    // Set by the loader before parsing: the file name, and the path as it was given.
+    QString fileName;
+    QString filePath;
+
+    const fileKind &kind() const { return m_kind; }
+    virtual tagHandlerList tagHandlers() = 0;
+
+    // The root element with its attributes and the content. Stops at the first negative result.
+    int writeXml(QXmlStreamWriter *writer) const final;
+
+protected:
+    virtual int writeContent(QXmlStreamWriter *writer) const = 0;
+
+private:
+    const fileKind &m_kind;
+};

@@ -1,0 +1,53 @@
+#include "data/kiv_mat_bomsStruct.h"
+
+#include "util/labels.h"
+
+const fieldTable<fileGroup> &fileGroup::fields()
+{
+    static const fieldTable<fileGroup> table{
+        {QStringLiteral("name"), &fileGroup::name, labels::name},
+    };
+    return table;
+}
+
+const fieldTable<fileCategory> &fileCategory::fields()
+{
+    static const fieldTable<fileCategory> table{
+        {QStringLiteral("name"), &fileCategory::name, labels::name},
+    };
+    return table;
+}
+
+kiv_mat_bomsStruct::kiv_mat_bomsStruct()
+    : documentStruct(fileKinds::boms)
+{
+}
+
+tagHandlerList kiv_mat_bomsStruct::tagHandlers()
+{
+    static const std::vector<QString> tags{QStringLiteral("update"),
+                                           QStringLiteral("server_release"), fileCategory::element};
+    return {&tags, this};
+}
+
+int kiv_mat_bomsStruct::readXml(QXmlStreamReader *reader)
+{
+    if (reader->name() == QLatin1String("update")) {
+        update = readText(reader);
+    } else if (reader->name() == QLatin1String("server_release")) {
+        serverRelease = readText(reader);
+    } else if (reader->name() == fileCategory::element) {
+        readAppended(reader, categories);
+    } else {
+        reader->readNext();
+    }
+    return 1;
+}
+
+int kiv_mat_bomsStruct::writeContent(QXmlStreamWriter *writer) const
+{
+    writer->writeTextElement(QStringLiteral("update"), update);
+    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    writer->writeComment(QStringLiteral(" "));
+    return writeAll(writer, categories);
+}

@@ -1,0 +1,165 @@
+#include "data/kiv_mat_databaseStruct.h"
+
+#include "util/labels.h"
+
+const fieldTable<materialStruct> &materialStruct::fields()
+{
+    using material = materialStruct;
+    static const fieldTable<material> table{
+        {QStringLiteral("d_ktm"), &material::d_ktm, labels::ktm},
+        {QStringLiteral("d_cpv"), &material::d_cpv, labels::cpv},
+        {QStringLiteral("d_name"), &material::d_name, labels::name},
+        {QStringLiteral("d_description"), &material::d_description, labels::description},
+        {QStringLiteral("d_value"), &material::d_value, labels::value},
+        {QStringLiteral("d_case"), &material::d_case, labels::case_},
+        {QStringLiteral("d_power"), &material::d_power, labels::power},
+        {QStringLiteral("d_voltage"), &material::d_voltage, labels::voltage},
+        {QStringLiteral("d_current"), &material::d_current, labels::current},
+        {QStringLiteral("d_tolerance"), &material::d_tolerance, labels::tolerance},
+        {QStringLiteral("d_otherParameters"), &material::d_otherParameters,
+         labels::otherParameters},
+        {QStringLiteral("d_price"), &material::d_price, labels::price},
+        {QStringLiteral("d_averagePrice"), &material::d_averagePrice, labels::averagePrice},
+        {QStringLiteral("d_inWarehouse"), &material::d_inWarehouse, labels::inWarehouse},
+        {QStringLiteral("d_unit"), &material::d_unit, labels::unit},
+        {QStringLiteral("d_active"), &material::d_active, labels::active},
+        {QStringLiteral("d_libraryRef"), &material::d_libraryRef, labels::libraryRef},
+        {QStringLiteral("d_footprintRef"), &material::d_footprintRef, labels::footprintRef},
+        {QStringLiteral("d_footprintRef2"), &material::d_footprintRef2, labels::footprintRef2},
+        {QStringLiteral("d_footprintRef3"), &material::d_footprintRef3, labels::footprintRef3},
+        {QStringLiteral("d_footprintRef4"), &material::d_footprintRef4, labels::footprintRef4},
+        {QStringLiteral("d_footprintRef5"), &material::d_footprintRef5, labels::footprintRef5},
+        {QStringLiteral("d_footprintRef6"), &material::d_footprintRef6, labels::footprintRef6},
+        {QStringLiteral("d_quantity"), &material::d_quantity, labels::quantity},
+    };
+    return table;
+}
+
+tagHandlerList materialStruct::tagHandlers()
+{
+    static const std::vector<QString> tags =
+        tagsOf(fields(), {QStringLiteral("d_designator"), informationsStruct::element,
+                          manufacturersStruct::element, suppliersStruct::element});
+    return {&tags, this};
+}
+
+void materialStruct::readElement(QXmlStreamReader *reader)
+{
+    readChildren(reader, tagHandlers(), element);
+}
+
+int materialStruct::readXml(QXmlStreamReader *reader)
+{
+    if (readField(reader, *this, fields()))
+        return 1;
+    if (reader->name() == informationsStruct::element)
+        information.readElement(reader);
+    else if (reader->name() == manufacturersStruct::element)
+        manufacturers.readElement(reader);
+    else if (reader->name() == suppliersStruct::element)
+        suppliers.readElement(reader);
+    else if (reader->name() == QLatin1String("d_designator"))
+        d_designator = readText(reader);
+    else
+        reader->readNext();
+    return 1;
+}
+
+int materialStruct::writeXml(QXmlStreamWriter *writer) const
+{
+    writer->writeStartElement(element);
+    writeFields(writer, *this, fields());
+    const std::initializer_list<const xmlData *> children{&information, &manufacturers, &suppliers};
+    int result = 0;
+    for (const xmlData *child : children) {
+        result = child->writeXml(writer);
+        if (result < 0)
+            return result;
+    }
+    writer->writeEndElement();
+    return result;
+}
+
+int materialStruct::writeShortXml(QXmlStreamWriter *writer) const
+{
+    writer->writeStartElement(element);
+    writer->writeTextElement(QStringLiteral("d_ktm"), d_ktm);
+    writer->writeTextElement(QStringLiteral("d_name"), d_name);
+    writer->writeTextElement(QStringLiteral("d_quantity"), d_quantity);
+    writer->writeTextElement(QStringLiteral("d_designator"), d_designator);
+    writer->writeEndElement();
+    return 0;
+}
+
+bool materialStruct::operator==(const materialStruct &other) const
+{
+    return equalFields(*this, other, fields()) && information == other.information &&
+           manufacturers == other.manufacturers && suppliers == other.suppliers;
+}
+
+const fieldTable<d_groupStruct> &d_groupStruct::fields()
+{
+    static const fieldTable<d_groupStruct> table{
+        {QStringLiteral("name"), &d_groupStruct::name, labels::group},
+        {QStringLiteral("cpv"), &d_groupStruct::cpv, labels::cpv},
+    };
+    return table;
+}
+
+const fieldTable<d_groupStruct> &d_groupStruct::readOnlyFields()
+{
+    static const fieldTable<d_groupStruct> table{
+        {QStringLiteral("ktm"), &d_groupStruct::ktm, labels::ktm},
+    };
+    return table;
+}
+
+kiv_mat_databaseStruct::kiv_mat_databaseStruct()
+    : documentStruct(fileKinds::database)
+{
+}
+
+int kiv_mat_databaseStruct::materialCount() const
+{
+    size_t count = 0;
+    for (const auto &group : groups)
+        count += group->items.size();
+    return int(count);
+}
+
+tagHandlerList kiv_mat_databaseStruct::tagHandlers()
+{
+    static const std::vector<QString> tags{
+        QStringLiteral("update"), QStringLiteral("server_release"), d_groupStruct::element};
+    return {&tags, this};
+}
+
+int kiv_mat_databaseStruct::readXml(QXmlStreamReader *reader)
+{
+    if (reader->name() == QLatin1String("update")) {
+        update = readText(reader);
+    } else if (reader->name() == QLatin1String("server_release")) {
+        serverRelease = readText(reader);
+    } else if (reader->name() == d_groupStruct::element) {
+        readAppended(reader, groups);
+    } else {
+        reader->readNext();
+    }
+    return 1;
+}
+
+int kiv_mat_databaseStruct::writeContent(QXmlStreamWriter *writer) const
+{
+    writer->writeTextElement(QStringLiteral("update"), update);
+    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    writer->writeComment(QStringLiteral(" "));
+    int result = 0;
+    for (const auto &group : groups) {
+        if (!writeEmptyGroups && group->items.empty())
+            continue;
+        result = group->writeXml(writer);
+        if (result < 0)
+            break;
+    }
+    return result;
+}

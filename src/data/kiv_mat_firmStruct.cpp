@@ -1,0 +1,50 @@
+#include "data/kiv_mat_firmStruct.h"
+
+#include "util/labels.h"
+
+const fieldTable<firmStruct> &firmStruct::fields()
+{
+    static const fieldTable<firmStruct> table{
+        {QStringLiteral("name"), &firmStruct::name, labels::name},
+        {QStringLiteral("fullname"), &firmStruct::fullname, labels::fullName},
+        {QStringLiteral("status"), &firmStruct::status, labels::status},
+        {QStringLiteral("business"), &firmStruct::business, labels::business},
+        {QStringLiteral("homepage"), &firmStruct::homepage, labels::homepage},
+        {QStringLiteral("awatar"), &firmStruct::awatar, labels::awatar},
+        {QStringLiteral("nip"), &firmStruct::nip, labels::taxNumber},
+    };
+    return table;
+}
+
+kiv_mat_firmStruct::kiv_mat_firmStruct()
+    : documentStruct(fileKinds::firm)
+{
+}
+
+tagHandlerList kiv_mat_firmStruct::tagHandlers()
+{
+    static const std::vector<QString> tags{QStringLiteral("server_release"),
+                                           firmSuppliersStruct::element,
+                                           firmManufacturersStruct::element};
+    return {&tags, this};
+}
+
+int kiv_mat_firmStruct::readXml(QXmlStreamReader *reader)
+{
+    if (reader->name() == firmManufacturersStruct::element)
+        manufacturers.readElement(reader);
+    else if (reader->name() == firmSuppliersStruct::element)
+        suppliers.readElement(reader);
+    else if (reader->name() == QLatin1String("server_release"))
+        serverRelease = readText(reader);
+    else
+        reader->readNext();
+    return 1;
+}
+
+int kiv_mat_firmStruct::writeContent(QXmlStreamWriter *writer) const
+{
+    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    const int result = manufacturers.writeXml(writer);
+    return result < 0 ? result : suppliers.writeXml(writer);
+}

@@ -1,0 +1,46 @@
+// Reading and writing whole files: one loader per kind of file, one writer for all.
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QIODevice;
+class configStruct;
+class documentStruct;
+class kiv_UpdateStruct;
+class kiv_infoStruct;
+class kiv_mat_bomStruct;
+class kiv_mat_bomsStruct;
+class kiv_mat_databaseStruct;
+class kiv_mat_firmStruct;
+class kiv_mat_zpStruct;
+class xmlData;
+struct fileKind;
+
+// Each fills a freshly constructed record; what the file is silent about keeps its default.
+// Results: 0 read to the end without a parse error (also when the root element is another kind's:
+// then nothing is read), -1 the file cannot be opened or is no XML (what was read so far stays in
+// the record), 1 (loadConfig only) refused by its schema, nothing read. No loader but loadConfig
+// validates: whoever opens a user's file validates first.
+int loadZp(const QString &filePath, kiv_mat_zpStruct *record);
+int loadDatabase(const QString &filePath, kiv_mat_databaseStruct *record);
+int loadFirm(const QString &filePath, kiv_mat_firmStruct *record);
+int loadConfig(const QString &filePath, configStruct *record);
+int loadBom(const QString &filePath, kiv_mat_bomStruct *record);
+int loadBoms(const QString &filePath, kiv_mat_bomsStruct *record);
+int loadInfo(const QString &filePath, kiv_infoStruct *record);
+int loadUpdate(const QString &filePath, kiv_UpdateStruct *record);
+
+// The same for a record whose kind is known only at run time. Sets error, if given, to the parser's
+// message with its line and column.
+int loadDocument(const QString &filePath, documentStruct *record, QString *error = nullptr);
+
+// An empty record of that kind.
+std::unique_ptr<documentStruct> newDocument(const fileKind &kind);
+
+// Writes a record as a file, creating missing folders. Returns the record's own result; -1 when the
+// file cannot be written whole or a text cannot be stored as XML. After a negative result the old
+// file is as it was. saveXml lets pending events through at the end, so that windows repaint.
+int saveXml(const QString &filePath, const xmlData *record);
+int saveXmlNoEvents(const QString &filePath, const xmlData *record);

@@ -1,0 +1,29 @@
+// The fast validator: libxml2 reads a file as a stream and checks it against a compiled schema,
+// with constant memory at any size of file.
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+struct validationMessage
+{
+    int line = 0; // from 1; 0 when unknown
+    int column = 0;
+    QString text; // plain text
+};
+
+struct validationResult
+{
+    bool schemaLoaded = false;
+    bool valid = false;
+    // Unreadable, has a document type declaration or an unknown root: no second look.
+    bool refusedOutright = false;
+    QVector<validationMessage> messages; // the first ones
+    int messageCount = 0;                // all of them
+};
+
+// Checks a file against a schema file. Messages beyond maxMessages are counted, not kept. Refuses
+// document type declarations before reading them, and fetches nothing that a file names. The
+// compiled schema is kept until its file changes.
+validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath,
+                                   int maxMessages = 100);

@@ -1,0 +1,102 @@
+#include "data/xmlData.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+#include <memory>
+
+namespace {
+
+// Remembers one text for each hash value. A text that lost its place is stored again when it comes
+// back, which costs memory but never more than without the table.
+class recentTexts
+{
+public:
+    void share(QString &text)
+    {
+        QString &slot = m_slots[qHash(text) % m_slots.size()];
+        if (slot == text)
+            text = slot;
+        else
+            slot = text;
+    }
+
+private:
+    std::vector<QString> m_slots = std::vector<QString>(1 << 15);
+};
+
+std::unique_ptr<recentTexts> sharedTexts;
+
+bool accepts(const tagHandlerList &handlers, const QStringRef &name)
+{
+    for (const QString &tag : *handlers.tags)
+        if (name == tag)
+            return true;
+    return false;
+}
+
+} // namespace
+
+int xmlData::readXml(QXmlStreamReader *) { return 0; }
+
+int xmlData::writeXml(QXmlStreamWriter *) const { return -1; }
+
+int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag)
+{
+    reader->readNext();
+    while (!reader->atEnd()) {
+        if (reader->isEndElement() && reader->name() == endTag)
+            return 1;
+        if (reader->isStartElement() && accepts(handlers, reader->name()))
+            handlers.handler->readXml(reader);
+        else
+            reader->readNext();
+    }
+    return -1;
+}
+
+bool readToElement(QXmlStreamReader *reader, const QString &name)
+{
+    while (!reader->atEnd()) {
+        reader->readNext();
+        if (reader->isDTD())
+            reader->raiseError(documentTypeRefused());
+        else if (reader->isStartElement() && (name.isEmpty() || reader->name() == name))
+            return true;
+    }
+    return false;
+}
+
+QString documentTypeRefused()
+{
+    return QCoreApplication::translate("data", "document type declarations are not allowed");
+}
+
+QString attributeValue(QXmlStreamReader *reader, const QString &localName)
+{
+    const QXmlStreamAttributes attributes = reader->attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        if (attribute.name() == localName)
+            return attribute.value().toString();
+    return {};
+}
+
+QString readText(QXmlStreamReader *reader)
+{
+    QString text = reader->readElementText();
+    if (text.contains(QLatin1Char('\r')))
+        text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+            .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return sharedText(std::move(text));
+}
+
+QString sharedText(QString text)
+{
+    if (sharedTexts && !text.isEmpty())
+        sharedTexts->share(text);
+    return text;
+}
+
+textSharing::textSharing() { sharedTexts = std::make_unique<recentTexts>(); }
+
+textSharing::~textSharing() { sharedTexts.reset(); }

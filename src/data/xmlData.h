@@ -1,0 +1,69 @@
+// The base of every record stored in a data file, and the reading loop that all of them share.
+#pragma once
+
+#include <QString>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <vector>
+
+class xmlData
+{
+public:
+    xmlData() = default;
+    // Records are held by pointer: trees and indexes look at them.
+    xmlData(const xmlData &) = delete;
+    xmlData &operator=(const xmlData &) = delete;
+    virtual ~xmlData() = default;
+
+    // Called with the reader on the start element of a tag that this record registered. Takes that
+    // element and returns 1. The base takes nothing and returns 0.
+    virtual int readXml(QXmlStreamReader *reader);
+
+    // Writes the record's element. Negative on failure, else 0 or the last child's result. The base
+    // returns -1.
+    virtual int writeXml(QXmlStreamWriter *writer) const;
+};
+
+// Which child elements a record accepts, in the order of the format, and the record whose readXml()
+// takes them. The names are the same for every record of a class, so all share one list: a database
+// holds a million records.
+struct tagHandlerList
+{
+    const std::vector<QString> *tags;
+    xmlData *handler;
+};
+
+// Reads on from the start element of a record until the end element endTag: every start element
+// that is in the list goes to the handler, any other is walked through token by token, so that its
+// own children are matched too. Returns 1 at endTag, -1 when the document ended first or the
+// reader found an error.
+int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag);
+
+// Reads on until a start element of that name, or until any when the name is empty; false when the
+// document ended first or the reader found an error. A document type declaration is made an error:
+// the program's files carry none, and refusing it keeps entity bombs and outside entities away.
+bool readToElement(QXmlStreamReader *reader, const QString &name = {});
+
+// The message of that refusal.
+QString documentTypeRefused();
+
+// The value of the first attribute with that local name, whatever its prefix; empty if none.
+QString attributeValue(QXmlStreamReader *reader, const QString &localName);
+
+// The text of the element the reader stands on, with line ends as LF, shared as below.
+QString readText(QXmlStreamReader *reader);
+
+// The same text; a copy that is shared with earlier equal texts while a textSharing lives.
+QString sharedText(QString text);
+
+// While one lives, the texts of a file that repeat (units, cases, codes, status words) take their
+// memory once. Costs a fixed table; not nestable.
+class textSharing
+{
+public:
+    textSharing();
+    ~textSharing();
+    textSharing(const textSharing &) = delete;
+    textSharing &operator=(const textSharing &) = delete;
+};

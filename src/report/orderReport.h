@@ -1,0 +1,25 @@
+// The page of an order: what the main window previews, saves beside the order, and prints.
+#pragma once
+
+#include <QString>
+
+class kiv_mat_zpStruct;
+class ktmIndex;
+
+// Sums over the lines of an order, in PLN.
+struct orderSums
+{
+    double price = 0;        // price times quantity
+    double averagePrice = 0; // average price times quantity
+    int uncounted = 0;       // lines whose price or quantity is no number
+};
+orderSums sumsOf(const kiv_mat_zpStruct &order);
+
+// The order as a complete HTML page that loads nothing: a header with number, date, target and
+// persons, one row a line, the sums and the attentions. Manufacturers and suppliers come from the
+// materials of the index; a line that it does not hold is shown without. Every text of the order is
+// escaped; the attentions, which are HTML, are reduced to plain markup.
+QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials);
+
+// "number / date" of the order, the text at the foot of every printed page.
+QString orderTitle(const kiv_mat_zpStruct &order);

@@ -1,0 +1,93 @@
+#include "util/files.h"
+
+#include "util/paths.h"
+#include "util/safeFile.h"
+#include "util/text.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <QTextStream>
+
+namespace files {
+
+bool folderExists(const QString &path) { return QDir(path).exists(); }
+
+bool removeFile(const QString &path) { return !QFile::exists(path) || QFile::remove(path); }
+
+bool removeFolder(const QString &path)
+{
+    QDir dir(path);
+    return !dir.exists() || dir.removeRecursively();
+}
+
+bool copyFile(const QString &from, const QString &to)
+{
+    return removeFile(to) && QFile::copy(from, to);
+}
+
+QString temporaryFileName()
+{
+    QTemporaryFile file;
+    if (!file.open())
+        return {};
+    const QString dir = paths::temporaryDirIfSet();
+    if (dir.isEmpty())
+        return file.fileName();
+    return dir + QLatin1Char('/') + text::fileNameOfPath(file.fileName());
+}
+
+bool writeText(const QString &path, const QString &text)
+{
+    safeFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(text.toUtf8());
+    return file.commit();
+}
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+bool readLines(const QString &path, QStringList *lines)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    QString line;
+    while (stream.readLineInto(&line))
+        lines->append(line);
+    return true;
+}
+
+qint64 folderSize(const QString &path)
+{
+    qint64 sum = 0;
+    QDirIterator entries(path, QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        entries.next();
+        sum += entries.fileInfo().size();
+    }
+    return sum;
+}
+
+QStringList list(const QString &folder, const QStringList &nameFilters)
+{
+    QStringList result;
+    QDirIterator entries(folder, nameFilters, QDir::Files | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        result.append(text::normalisePath(entries.next()));
+    result.sort();
+    return result;
+}
+
+} // namespace files

@@ -1,0 +1,38 @@
+#include "util/numbers.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+double parse(QString text, bool *ok)
+{
+    if (text.startsWith(QLatin1String("0x")))
+        return text.toUInt(ok, 16);
+    return text.replace(QLatin1Char(','), QLatin1Char('.')).toDouble(ok);
+}
+
+} // namespace
+
+namespace numbers {
+
+bool check(const QString &text, QString *errors)
+{
+    bool ok = false;
+    parse(text, &ok);
+    if (!ok && errors)
+        *errors += QLatin1String("&nbsp;") + text + QLatin1String("&nbsp;") +
+                   QCoreApplication::translate("numbers", "is not a number") +
+                   QLatin1String("<br>");
+    return ok;
+}
+
+double value(const QString &text)
+{
+    bool ok = false;
+    const double number = parse(text, &ok);
+    return ok ? number : 0.0;
+}
+
+QString money(double amount) { return QString::number(amount, 'f', 2); }
+
+} // namespace numbers

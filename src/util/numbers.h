@@ -1,0 +1,19 @@
+// Numbers as users type them: decimal comma or point, hexadecimal with "0x".
+#pragma once
+
+#include <QString>
+
+namespace numbers {
+
+// Whether the text is a number: "0x" and hexadecimal digits, or a decimal number with a comma or a
+// point. When it is none and errors is given, the HTML line "&nbsp;text&nbsp;is not a number<br>"
+// is appended to it, so that callers collect the faults of many fields into one message.
+bool check(const QString &text, QString *errors = nullptr);
+
+// The value of such a text; 0 when it is no number.
+double value(const QString &text);
+
+// Two decimals and a point, the form of amounts in reports and lists.
+QString money(double amount);
+
+} // namespace numbers

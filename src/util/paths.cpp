@@ -1,0 +1,60 @@
+#include "util/paths.h"
+
+#include "util/text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace {
+
+QString &programDirOverride()
+{
+    static QString dir;
+    return dir;
+}
+
+QString &temporaryDirStore()
+{
+    static QString dir;
+    return dir;
+}
+
+} // namespace
+
+namespace paths {
+
+QString programDir()
+{
+    const QString &dir = programDirOverride();
+    return dir.isEmpty() ? QCoreApplication::applicationDirPath() : dir;
+}
+
+void setProgramDir(const QString &dir) { programDirOverride() = dir; }
+
+QString beside(const QString &relative)
+{
+    return QDir::isAbsolutePath(relative) ? relative : programDir() + QLatin1Char('/') + relative;
+}
+
+QString schema(const QString &fileName)
+{
+    return beside(QLatin1String("_validator/") + text::fileNameOfPath(fileName));
+}
+
+QString config() { return beside(QStringLiteral("_config/kiv_mat_config.xml")); }
+
+QString temporaryDir()
+{
+    QString &dir = temporaryDirStore();
+    if (dir.isEmpty()) {
+        // Only the unique name is kept; the folder itself goes with the object.
+        const QTemporaryDir reserved;
+        dir = text::normalisePath(reserved.path());
+    }
+    return dir;
+}
+
+QString temporaryDirIfSet() { return temporaryDirStore(); }
+
+} // namespace paths

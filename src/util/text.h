@@ -1,0 +1,35 @@
+// Small operations on texts that users type or files hold: trimming, plain text out of HTML,
+// path separators, and the removal of characters that an XML file cannot store.
+#pragma once
+
+#include <QString>
+
+namespace text {
+
+// Removes every tab at the end of the text.
+QString chopTrailingTabs(const QString &text);
+
+// Remove every space (U+0020 only) at the start, or at the end.
+QString trimLeadingSpaces(const QString &text);
+QString trimTrailingSpaces(const QString &text);
+
+// Reduces every run of spaces to one space.
+QString collapseDoubleSpaces(const QString &text);
+
+// The text of an HTML fragment without tags and entities. Loads nothing the fragment refers to.
+QString htmlToPlain(const QString &html);
+
+// Reduces runs of "/" and runs of "\" to one; so the doubled start of a network path goes too.
+QString normalisePath(const QString &path);
+
+// The last component of a path, file name and extension.
+QString fileNameOfPath(const QString &path);
+
+// What an XML 1.0 file can hold of the text: line ends become LF, forbidden characters (control
+// characters, lone surrogates, U+FFFE, U+FFFF) are dropped. Call it where text enters the program.
+QString storable(const QString &text);
+
+// HTML-escaped text with its line ends as "<br>".
+QString toHtml(const QString &text);
+
+} // namespace text

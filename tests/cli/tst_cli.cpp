@@ -1,0 +1,190 @@
+// kivzp-cli from outside: exit codes, output and files.
+#include "testSupport.h"
+
+#include <QDir>
+#include <QProcess>
+
+using testSupport::order;
+
+class tst_cli : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup() { m_folder.reset(); }
+    void calls_data();
+    void calls();
+    void faultsHaveTheirPlace();
+    void longListsAreCut();
+    void reportWithDatabases();
+    void polishPathsAndLanguage();
+    void runsWithoutDisplayAndHome();
+
+private:
+    struct result
+    {
+        int code;
+        QString out;
+        QString err;
+    };
+    result run(const QStringList &arguments, const QStringList &unset = {}) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", "C");
+        for (const QString &name : unset)
+            environment.remove(name);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_folder->path());
+        // The program finds its schemas beside itself.
+        process.start(m_folder->path("kivzp-cli"), arguments);
+        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+            return {-1, {}, "crashed or hung"};
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+    std::unique_ptr<testSupport::programFolder> m_folder;
+};
+
+void tst_cli::init()
+{
+    m_folder = std::make_unique<testSupport::programFolder>();
+    QVERIFY(QFile::copy(KIVZP_CLI, m_folder->path("kivzp-cli")));
+    m_folder->write("good.xml", order("<order_items><order_item><ktm>K</ktm><price>2</price>"
+                                      "<quantity>3</quantity></order_item></order_items>"));
+    m_folder->write("bad.xml", order("\n<colour/>"));
+    m_folder->write("cut.xml", order("<options>"));
+    m_folder->write("twice.xml",
+                    testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                                          "<d_group><material><d_ktm>K</d_ktm></material><material>"
+                                          "<d_ktm>K</d_ktm></material></d_group>"));
+}
+
+void tst_cli::calls_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("err");
+    const auto row = [](const char *call, int code, const QString &out, const QString &err) {
+        QTest::newRow(call) << QString(call).split(' ', Qt::SkipEmptyParts) << code << out << err;
+    };
+    row("", 2, "", "Usage");
+    row("--help", 0, "validate", "");
+    row("unknown", 2, "", "unknown command: unknown");
+    row("--language xx info", 2, "", "xx");
+    row("validate", 2, "", "argument is missing");
+    row("validate --help", 0, "FILE...", "");
+    row("validate --colour good.xml", 2, "", "colour");
+    row("validate good.xml", 0, "good.xml: valid", "");
+    row("validate good.xml bad.xml", 1, "good.xml: valid", "bad.xml:3:");
+    row("validate none.xml", 1, "", "none.xml: the file cannot be read");
+    row("validate .", 1, "", "cannot be read");
+    row("validate cut.xml", 1, "", "cut.xml:2:");
+    row("info good.xml", 0,
+        "kind: kiv_mat_zp\nversion: KIV_MAT_ZP_1\noptions: 6\nlines: 1\nsum: 6.00", "");
+    row("info bad.xml", 0, "lines: 0", "");
+    row("info --validate bad.xml", 1, "", "bad.xml:3:");
+    row("info cut.xml", 1, "", "cut.xml:");
+    row("info twice.xml", 0, "materials: 2\nktms: 1\nduplicates: 1", "");
+    row("info good.xml bad.xml", 2, "", "too many");
+    row("info none.xml", 1, "", "cannot be read");
+    row("resave good.xml new/out.xml", 0, "", "");
+    row("resave cut.xml out.xml", 1, "", "cut.xml: line 2");
+    row("resave good.xml _validator", 3, "", "cannot be written");
+    row("report good.xml -o out.html", 0, "", "");
+    row("report good.xml -o out.txt", 2, "", ".html or .pdf");
+    row("report good.xml", 2, "", ".html or .pdf");
+    row("report bad.xml -o out.html", 1, "", "bad.xml:3:");
+    row("report twice.xml -o out.html", 1, "", "is no order");
+    row("report good.xml -d none.xml -o out.html", 1, "", "none.xml");
+    row("report good.xml -d good.xml -o out.html", 1, "", "is no material database");
+    row("report good.xml -o _validator/x/kiv.xsd/out.html", 0, "", "");
+    row("report good.xml -o good.xml/out.pdf", 3, "", "cannot be written");
+}
+
+void tst_cli::calls()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, out);
+    QFETCH(QString, err);
+    const result called = run(arguments);
+    QVERIFY2(called.out.contains(out) && called.out.isEmpty() == out.isEmpty(),
+             qPrintable(called.out));
+    QVERIFY2(called.err.contains(err) && called.err.isEmpty() == err.isEmpty(),
+             qPrintable(called.err));
+    QTEST(called.code, "code");
+    // Only a call that succeeded leaves a file.
+    QFETCH(int, code);
+    if (code != 0)
+        QVERIFY(QDir(m_folder->path()).entryList({"out*"}).isEmpty());
+}
+
+void tst_cli::faultsHaveTheirPlace()
+{
+    const QString path = m_folder->write("f.xml", order("\n<options>\n <option colour=\"1\"/>\n"
+                                                        " <colour>\n</colour></options>"));
+    const result called = run({"validate", path});
+    QCOMPARE(called.code, 1);
+    const QStringList lines = called.err.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(QRegularExpression("^" + QRegularExpression::escape(path) + ":4:[0-9]+: .*colour.*")
+                .match(lines[0])
+                .hasMatch());
+    QVERIFY(lines[1].startsWith(path + ":5:"));
+}
+
+void tst_cli::longListsAreCut()
+{
+    const QString path =
+        m_folder->write("f.xml", order("<order_items>" +
+                                       QByteArray("<order_item><x/></order_item>\n").repeated(250) +
+                                       "</order_items>"));
+    const QStringList lines = run({"validate", path}).err.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 101);
+    QVERIFY(lines.last().endsWith("and 150 more"));
+}
+
+void tst_cli::reportWithDatabases()
+{
+    const auto database = [this](const char *name, const QByteArray &maker) {
+        return m_folder->write(
+            name, testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                                        "<d_group><material><d_ktm>K</d_ktm><manufacturers>"
+                                        "<manufacturer><name>" +
+                                            maker +
+                                            "</name></manufacturer>"
+                                            "</manufacturers></material></d_group>"));
+    };
+    const QStringList call{
+        "report", "good.xml", "-d", database("1.xml", "First"), "-d", database("2.xml", "Second"),
+        "-o"};
+    QCOMPARE(run(call + QStringList("r.html")).code, 0);
+    const QByteArray page = testSupport::read(m_folder->path("r.html"));
+    QVERIFY(page.contains("First"));
+    QVERIFY(!page.contains("Second"));
+    QCOMPARE(run(call + QStringList("r.pdf")).code, 0);
+    QVERIFY(testSupport::read(m_folder->path("r.pdf")).startsWith("%PDF"));
+}
+
+void tst_cli::polishPathsAndLanguage()
+{
+    const QString path = m_folder->write("za\u017c\u00f3\u0142\u0107 g\u0119\u015bl\u0105/o.xml",
+                                         order("<colour/>"));
+    const result polish = run({"--language", "pl", "resave", path, path + "-2"});
+    QCOMPARE(polish.err, QString());
+    QVERIFY(QFile::exists(path + "-2"));
+    QVERIFY(run({"--language=pl", "validate", "good.xml"}).out.contains("poprawny"));
+    QVERIFY(run({"validate", path}).err.startsWith(path));
+}
+
+void tst_cli::runsWithoutDisplayAndHome()
+{
+    const result called = run({"report", "good.xml", "-o", "r.pdf"},
+                              {"DISPLAY", "HOME", "XDG_RUNTIME_DIR", "WAYLAND_DISPLAY"});
+    QCOMPARE(called.err, QString());
+    QCOMPARE(called.code, 0);
+}
+
+KIVZP_TEST(tst_cli)
+#include "tst_cli.moc"

@@ -1,0 +1,112 @@
+#include "testSupport.h"
+
+#include "util/paths.h"
+#include "util/text.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+
+namespace testSupport {
+
+namespace {
+
+struct testClass
+{
+    const char *name;
+    std::function<QObject *()> create;
+};
+
+std::vector<testClass> &classes()
+{
+    static std::vector<testClass> list;
+    return list;
+}
+
+} // namespace
+
+bool add(const char *name, const std::function<QObject *()> &create)
+{
+    classes().push_back({name, create});
+    return true;
+}
+
+// "tests NAME [QtTest arguments]" runs one class, "tests" runs all, "tests --list" names them.
+int run(int argc, char **argv)
+{
+    const QByteArray wanted = argc > 1 ? argv[1] : "";
+    int failures = 0;
+    bool found = false;
+    for (const testClass &test : classes()) {
+        if (wanted == "--list") {
+            std::printf("%s\n", test.name);
+            found = true;
+        } else if (wanted.isEmpty() || wanted == test.name) {
+            found = true;
+            const std::unique_ptr<QObject> object(test.create());
+            const int skip = wanted.isEmpty() ? 0 : 1;
+            failures += QTest::qExec(object.get(), argc - skip, argv + skip);
+        }
+    }
+    return found ? failures : 2;
+}
+
+programFolder::programFolder()
+{
+    QVERIFY2(m_dir.isValid(), "no temporary folder");
+    paths::setProgramDir(m_dir.path());
+    QVERIFY(QFile::link(source(QStringLiteral("_validator")), path(QStringLiteral("_validator"))));
+}
+
+programFolder::~programFolder() { paths::setProgramDir({}); }
+
+QString programFolder::path(const QString &relative) const
+{
+    return relative.isEmpty() ? m_dir.path() : m_dir.path() + QLatin1Char('/') + relative;
+}
+
+QString programFolder::write(const QString &relative, const QByteArray &content) const
+{
+    QString target = path(relative);
+    QDir().mkpath(QFileInfo(target).absolutePath());
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(target));
+    return target;
+}
+
+recordingPrompts::recordingPrompts()
+    : m_before(installPrompts(this))
+{
+}
+
+recordingPrompts::~recordingPrompts() { installPrompts(m_before); }
+
+void recordingPrompts::showError(const QString &html) { errors.append(text::htmlToPlain(html)); }
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString source(const QString &relative) { return QStringLiteral(KIVZP_SOURCE_DIR "/") + relative; }
+
+QByteArray document(const char *root, const char *type, const char *schema,
+                    const QByteArray &content)
+{
+    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<") + root +
+           " xsi:noNamespaceSchemaLocation=\"" + schema +
+           "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:type=\"" + type + "\">" +
+           content + "</" + root + ">\n";
+}
+
+QByteArray order(const QByteArray &content)
+{
+    return document("kiv_mat_zp", "KIV_MAT_ZP_1", "kiv_mat.xsd", content);
+}
+
+QString realData() { return qEnvironmentVariable("KIVZP_REAL_DATA"); }
+
+} // namespace testSupport

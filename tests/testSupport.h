@@ -1,0 +1,66 @@
+// What the tests share: the list of test classes, a program folder of their own, and prompts that
+// record instead of showing.
+#pragma once
+
+#include "util/prompts.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+// Puts a test class in the list of the executable: KIVZP_TEST(tst_text) at the end of its file.
+#define KIVZP_TEST(Class)                                                                          \
+    static const bool registered_##Class = testSupport::add(#Class, [] { return new Class; });
+
+namespace testSupport {
+
+bool add(const char *name, const std::function<QObject *()> &create);
+
+// A program folder with the real schemas, in use while it lives.
+class programFolder
+{
+public:
+    programFolder();
+    ~programFolder();
+
+    QString path(const QString &relative = {}) const;
+    // Writes bytes to a file in the folder and returns its path.
+    QString write(const QString &relative, const QByteArray &content) const;
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// In use while it lives.
+class recordingPrompts : public prompts
+{
+public:
+    recordingPrompts();
+    ~recordingPrompts() override;
+
+    void showError(const QString &html) override;
+
+    QStringList errors; // as plain text
+
+private:
+    prompts *m_before;
+};
+
+QByteArray read(const QString &path);
+
+// A file of the project's source tree.
+QString source(const QString &relative);
+
+// The root element's start tag of a file kind: root, xsi:type and schema as the program writes
+// them.
+QByteArray document(const char *root, const char *type, const char *schema,
+                    const QByteArray &content);
+// An order with that content.
+QByteArray order(const QByteArray &content);
+
+// The folder of real data, or an empty text.
+QString realData();
+
+} // namespace testSupport
