@@ -14,10 +14,11 @@ namespace benchSupport {
 QString generatedDatabase(int materials)
 {
     const QString path = QStringLiteral(KIVZP_BENCH_DIR "/db_%1.xml").arg(materials);
-    if (!QFile::exists(path) &&
-        QProcess::execute(QStringLiteral("python3"),
-                          {QStringLiteral(KIVZP_SOURCE_DIR "/tools/makeSampleData.py"),
-                           QStringLiteral("--size"), QString::number(materials), path}) != 0)
+    if (!QFile::exists(path)
+        && QProcess::execute(QStringLiteral("python3"),
+                             {QStringLiteral(KIVZP_SOURCE_DIR "/tools/makeSampleData.py"),
+                              QStringLiteral("--size"), QString::number(materials), path})
+               != 0)
         qFatal("cannot make %s", qPrintable(path));
     return path;
 }

@@ -18,7 +18,7 @@ namespace testSupport {
 
 bool add(const char *name, const std::function<QObject *()> &create);
 
-// A program folder with the real schemas, in use while it lives.
+// A program folder with copies of the schemas, in use while it lives.
 class programFolder
 {
 public:

@@ -72,8 +72,8 @@ int main(int argc, char *argv[])
         return cli::wrongCall;
     }
     const QString name = arguments.takeFirst();
-    if (name == QLatin1String("--help") || name == QLatin1String("-h") ||
-        name == QLatin1String("help")) {
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")
+        || name == QLatin1String("help")) {
         cli::out() << usage() << Qt::flush;
         return cli::done;
     }

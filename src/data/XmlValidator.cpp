@@ -182,8 +182,8 @@ bool checkValue(const QString &element, const QString &value)
     writer.writeEndDocument();
     file.close();
     QCoreApplication::processEvents();
-    return !writer.hasError() &&
-           validateXml(file.fileName(), paths::schema(QStringLiteral("kiv_mat.xsd")), false);
+    return !writer.hasError()
+           && validateXml(file.fileName(), paths::schema(QStringLiteral("kiv_mat.xsd")), false);
 }
 
 } // namespace

@@ -48,8 +48,8 @@ bool configStruct::save(const QString &path) const { return saveXmlNoEvents(path
 bool configStruct::isOn(const QString &key) const
 {
     const QString value = options.value(key);
-    return value.compare(statusWord::yes, Qt::CaseInsensitive) == 0 ||
-           value.compare(statusWord::editableYes, Qt::CaseInsensitive) == 0;
+    return value.compare(statusWord::yes, Qt::CaseInsensitive) == 0
+           || value.compare(statusWord::editableYes, Qt::CaseInsensitive) == 0;
 }
 
 QFont configStruct::font() const

@@ -93,8 +93,8 @@ int materialStruct::writeShortXml(QXmlStreamWriter *writer) const
 
 bool materialStruct::operator==(const materialStruct &other) const
 {
-    return equalFields(*this, other, fields()) && information == other.information &&
-           manufacturers == other.manufacturers && suppliers == other.suppliers;
+    return equalFields(*this, other, fields()) && information == other.information
+           && manufacturers == other.manufacturers && suppliers == other.suppliers;
 }
 
 const fieldTable<d_groupStruct> &d_groupStruct::fields()

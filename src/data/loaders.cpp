@@ -35,8 +35,8 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
             attributeValue(&reader, QStringLiteral("noNamespaceSchemaLocation"));
         record->xsiNamespace = fileKinds::xsiNamespace;
         record->xsiType = attributeValue(&reader, QStringLiteral("type"));
-        if (&record->kind() == &fileKinds::config &&
-            !validateXml(filePath, paths::schema(record->schemaLocation), true))
+        if (&record->kind() == &fileKinds::config
+            && !validateXml(filePath, paths::schema(record->schemaLocation), true))
             return 1;
         readChildren(&reader, record->tagHandlers(), root);
     }

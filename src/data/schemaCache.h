@@ -17,8 +17,8 @@ public:
     {
         const QFileInfo info(path);
         const auto found = m_entries.constFind(path);
-        if (found != m_entries.constEnd() && found->size == info.size() &&
-            found->changed == info.lastModified())
+        if (found != m_entries.constEnd() && found->size == info.size()
+            && found->changed == info.lastModified())
             return found->compiled;
         QFile file(path);
         if (!info.isFile() || !file.open(QIODevice::ReadOnly))

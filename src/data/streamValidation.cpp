@@ -120,8 +120,8 @@ void parse(runState &state, xmlSchema *schema)
         xmlSchemaValidateSetFilename(validator, nullptr);
         xmlParseDocument(state.parser);
         refuseTheUnreadable(state);
-        state.result.valid = plug && state.parser->wellFormed && !state.result.refusedOutright &&
-                             xmlSchemaIsValid(validator) == 1;
+        state.result.valid = plug && state.parser->wellFormed && !state.result.refusedOutright
+                             && xmlSchemaIsValid(validator) == 1;
         xmlSchemaSAXUnplug(plug);
     }
     if (state.parser)

@@ -3,6 +3,8 @@
 #include "util/inertDocument.h"
 #include "util/text.h"
 
+#include <QRegularExpression>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextFragment>
@@ -14,14 +16,35 @@
 
 namespace {
 
-// Tables in tables beyond this are no text of an order; the rich text classes recurse over them.
-constexpr int maxTables = 200;
+// Deeper than any text of an order; the rich text classes recurse over it and take minutes.
+constexpr int maxDepth = 100;
+
+// How deep elements stand in each other. Those whose end tag is often left out do not count, nor do
+// those that have none.
+int depthOf(const QString &html)
+{
+    static const QSet<QString> uncounted{
+        QStringLiteral("p"),    QStringLiteral("li"),    QStringLiteral("br"),
+        QStringLiteral("hr"),   QStringLiteral("img"),   QStringLiteral("meta"),
+        QStringLiteral("link"), QStringLiteral("input"), QStringLiteral("col")};
+    static const QRegularExpression tag(QStringLiteral("<(/?)([a-zA-Z][a-zA-Z0-9]*)"));
+    int depth = 0;
+    int deepest = 0;
+    for (auto it = tag.globalMatch(html); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        if (uncounted.contains(match.captured(2).toLower()))
+            continue;
+        depth = qMax(0, depth + (match.capturedLength(1) > 0 ? -1 : 1));
+        deepest = qMax(deepest, depth);
+    }
+    return deepest;
+}
 
 bool linkAllowed(const QString &href)
 {
     const QString scheme = QUrl(href).scheme().toLower();
-    return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
-           scheme == QLatin1String("mailto") || scheme == QLatin1String("ftp");
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https")
+           || scheme == QLatin1String("mailto") || scheme == QLatin1String("ftp");
 }
 
 // Spaces that HTML would fold stay visible.
@@ -113,8 +136,8 @@ private:
         }
         closeLists(0);
         // Nothing at the start, and the empty line that every table is followed by, are no text.
-        if (block.text().trimmed().isEmpty() &&
-            (markup.isEmpty() || markup.endsWith(QLatin1String("</table>\n"))))
+        if (block.text().trimmed().isEmpty()
+            && (markup.isEmpty() || markup.endsWith(QLatin1String("</table>\n"))))
             return;
         markup += QLatin1String("<p") + alignment(block) + QLatin1Char('>');
         if (block.text().isEmpty())
@@ -173,12 +196,12 @@ private:
         };
         if (format.isAnchor() && linkAllowed(format.anchorHref())) {
             // A link brings its own colour and line.
-            wrap(QStringLiteral("a"), QLatin1String(" href=\"") +
-                                          format.anchorHref().toHtmlEscaped() + QLatin1Char('"'));
+            wrap(QStringLiteral("a"), QLatin1String(" href=\"")
+                                          + format.anchorHref().toHtmlEscaped() + QLatin1Char('"'));
         } else {
             const QBrush brush = format.foreground();
-            if (!format.isAnchor() && brush.style() == Qt::SolidPattern &&
-                brush.color() != QColor(Qt::black))
+            if (!format.isAnchor() && brush.style() == Qt::SolidPattern
+                && brush.color() != QColor(Qt::black))
                 wrap(QStringLiteral("span"),
                      QLatin1String(" style=\"color:") + brush.color().name() + QLatin1Char('"'));
             if (!format.isAnchor() && format.fontUnderline())
@@ -205,8 +228,7 @@ QString cleanHtml(const QString &html)
     if (html.isEmpty())
         return {};
     inertDocument document;
-    if (!Qt::mightBeRichText(html) ||
-        html.count(QLatin1String("<table"), Qt::CaseInsensitive) > maxTables)
+    if (!Qt::mightBeRichText(html) || depthOf(html) > maxDepth)
         document.setPlainText(html);
     else
         document.setHtml(html);

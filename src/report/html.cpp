@@ -18,19 +18,19 @@ void htmlTable::closeRow() { m_text += QLatin1String("</tr>\n"); }
 
 void htmlTable::cell(const QString &attributes, const QString &content)
 {
-    m_text += QLatin1String("<td ") + attributes + QLatin1String(">") + content +
-              QLatin1String("</td>\n");
+    m_text += QLatin1String("<td ") + attributes + QLatin1String(">") + content
+              + QLatin1String("</td>\n");
 }
 
 void htmlTable::separatorRow(int kind, const QString &colour)
 {
     const QString line = QLatin1String("<hr size=\"1\" color=\"") + colour + QLatin1String("\"/>");
     if (kind == 1)
-        m_text += QLatin1String("<tr><td style=\"width:20%\">") + line +
-                  QLatin1String("</td><td/></tr>\n");
+        m_text += QLatin1String("<tr><td style=\"width:20%\">") + line
+                  + QLatin1String("</td><td/></tr>\n");
     else if (kind == 2)
-        m_text += QLatin1String("<tr><td style=\"width:20%\"/><td>") + line +
-                  QLatin1String("</td></tr>\n");
+        m_text += QLatin1String("<tr><td style=\"width:20%\"/><td>") + line
+                  + QLatin1String("</td></tr>\n");
     else
         m_text += QLatin1String("<tr><td colspan=\"2\" /><td>") + line + QLatin1String("</tr>\n");
 }
@@ -40,8 +40,8 @@ void htmlTable::labelRow(const QString &label, const QString &value)
     if (label.isEmpty())
         m_text += QLatin1String("<tr><td style=\"width:20%\" />");
     else
-        m_text += QLatin1String("<tr><td style=\"width:20%\" valign=\"top\" align=\"right\">") +
-                  label + QLatin1String(":</td>");
+        m_text += QLatin1String("<tr><td style=\"width:20%\" valign=\"top\" align=\"right\">")
+                  + label + QLatin1String(":</td>");
     m_text += QLatin1String("<td><b>") + value + QLatin1String("</b></td></tr>\n");
 }
 
@@ -88,8 +88,8 @@ void htmlTable::boldText(const QString &face, const QString &colour, const QStri
 void htmlTable::link(const QString &target, const QString &content)
 {
     if (!target.isEmpty())
-        m_text += QLatin1String("<a href=\"") + target + QLatin1String("\">") + content +
-                  QLatin1String("</a>\n");
+        m_text += QLatin1String("<a href=\"") + target + QLatin1String("\">") + content
+                  + QLatin1String("</a>\n");
 }
 
 } // namespace html

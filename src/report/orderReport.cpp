@@ -84,8 +84,8 @@ QString optionText(const kiv_mat_zpStruct &order, const QString &key)
 
 void writeHeader(html::htmlTable &page, const kiv_mat_zpStruct &order)
 {
-    page.append(QLatin1String("<h1>") + labels::deliveryOrder().toHtmlEscaped() +
-                QLatin1String("</h1>\n"));
+    page.append(QLatin1String("<h1>") + labels::deliveryOrder().toHtmlEscaped()
+                + QLatin1String("</h1>\n"));
     page.openTable(QStringLiteral("class=\"head\""));
     page.labelRow(labels::orderNumberDate(), text::toHtml(orderTitle(order)));
     page.labelRow(labels::target(), optionText(order, optionKey::orderTarget));
@@ -143,9 +143,9 @@ QString materialCell(const orderItemStruct &item, const ktmIndex &materials,
     QString content = QLatin1String("<b>") + text::toHtml(item.name) + QLatin1String("</b>");
     if (!item.description.isEmpty())
         content += QLatin1String("<br>") + text::toHtml(item.description);
-    content += QLatin1String("<br>") + note(ktmCaption) + text::toHtml(item.ktm) +
-               QLatin1String(" &nbsp; ") + note(rohsCaption) +
-               text::toHtml(labels::shown(item.rohsRequired));
+    content += QLatin1String("<br>") + note(ktmCaption) + text::toHtml(item.ktm)
+               + QLatin1String(" &nbsp; ") + note(rohsCaption)
+               + text::toHtml(labels::shown(item.rohsRequired));
     if (const ktmIndex::entry *known = materials.find(item.ktm)) {
         content += sources(manufacturersCaption, known->material->manufacturers);
         content += sources(suppliersCaption, known->material->suppliers);
@@ -170,8 +170,8 @@ void writeLines(html::htmlTable &page, const kiv_mat_zpStruct &order, const ktmI
         page.cell(number, QString::number(++ordinal));
         page.cell(plain, materialCell(*item, materials, manufacturersCaption, suppliersCaption,
                                       ktmCaption, rohsCaption));
-        page.cell(number, text::toHtml(item->quantity) + QLatin1Char(' ') +
-                              text::toHtml(labels::shown(item->unit)));
+        page.cell(number, text::toHtml(item->quantity) + QLatin1Char(' ')
+                              + text::toHtml(labels::shown(item->unit)));
         page.cell(middle, text::toHtml(item->target));
         page.cell(middle, text::toHtml(item->wait));
         page.cell(office, text::toHtml(item->delivery));
@@ -197,12 +197,12 @@ void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
     row(labels::sumAveragePrice(), sums.averagePrice);
     page.closeTable();
     if (sums.uncounted > 0)
-        page.append(QLatin1String("<p align=\"right\">") +
-                    note(QCoreApplication::translate(
-                             "orderReport", "%n line(s) without a price or quantity not counted",
-                             nullptr, sums.uncounted)
-                             .toHtmlEscaped()) +
-                    QLatin1String("</p>\n"));
+        page.append(QLatin1String("<p align=\"right\">")
+                    + note(QCoreApplication::translate(
+                               "orderReport", "%n line(s) without a price or quantity not counted",
+                               nullptr, sums.uncounted)
+                               .toHtmlEscaped())
+                    + QLatin1String("</p>\n"));
 }
 
 // A product that is a finite number is added; false when one of the texts is none.
@@ -230,18 +230,17 @@ orderSums sumsOf(const kiv_mat_zpStruct &order)
 
 QString orderTitle(const kiv_mat_zpStruct &order)
 {
-    return order.options.value(optionKey::orderNumber) + QLatin1String(" / ") +
-           order.options.value(optionKey::orderDate);
+    return order.options.value(optionKey::orderNumber) + QLatin1String(" / ")
+           + order.options.value(optionKey::orderDate);
 }
 
 QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
 {
     html::htmlTable page;
     page.reserve(4096 + int(order.orderItems.items.size()) * 1024);
-    page.append(
-        QLatin1String("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"UTF-8\">\n<title>") +
-        text::toHtml(orderTitle(order)) + QLatin1String("</title>\n<style>") +
-        QLatin1String(styleSheet) + QLatin1String("</style>\n</head>\n<body>\n"));
+    page.append(QLatin1String("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"UTF-8\">\n<title>")
+                + text::toHtml(orderTitle(order)) + QLatin1String("</title>\n<style>")
+                + QLatin1String(styleSheet) + QLatin1String("</style>\n</head>\n<body>\n"));
     writeHeader(page, order);
     page.openTable(QStringLiteral("class=\"lines\""));
     writeCaptions(page, columns());
@@ -251,8 +250,8 @@ QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
     writeSums(page, order);
     const QString attentions = cleanHtml(order.attentions);
     if (!attentions.isEmpty())
-        page.append(QLatin1String("<h2>") + labels::attentions().toHtmlEscaped() +
-                    QLatin1String("</h2>\n") + attentions);
+        page.append(QLatin1String("<h2>") + labels::attentions().toHtmlEscaped()
+                    + QLatin1String("</h2>\n") + attentions);
     page.append(QStringLiteral("</body>\n</html>\n"));
     return page.text();
 }

@@ -215,8 +215,8 @@ bool paintPages(QPrinter &printer, QWebFrame *frame, const QString &title,
     QPainter painter;
     if (!painter.begin(&printer))
         return false;
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                           QPainter::SmoothPixmapTransform);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing
+                           | QPainter::SmoothPixmapTransform);
     const qreal scale = qreal(printer.width()) / pageWidth;
     painter.scale(scale, scale);
     QFont font = painter.font();
@@ -234,8 +234,8 @@ bool paintPages(QPrinter &printer, QWebFrame *frame, const QString &title,
         painter.setFont(font);
         painter.drawText(0, top + footBaseline, title);
         painter.drawText(pageNumberLeft, top + footBaseline,
-                         QCoreApplication::translate("pdfPrinter", "Page no:") + QLatin1Char(' ') +
-                             QString::number(page + 1));
+                         QCoreApplication::translate("pdfPrinter", "Page no:") + QLatin1Char(' ')
+                             + QString::number(page + 1));
         painter.translate(0, -bandHeight);
         if (progress && !progress(page + 1, pages))
             return false;

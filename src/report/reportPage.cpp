@@ -23,8 +23,8 @@ protected:
         const QUrl url = request.url();
         const QString scheme = url.scheme().toLower();
         // A file address with a host is a share on the network.
-        const bool local = scheme == QLatin1String("qrc") || scheme == QLatin1String("data") ||
-                           (scheme == QLatin1String("file") && url.host().isEmpty());
+        const bool local = scheme == QLatin1String("qrc") || scheme == QLatin1String("data")
+                           || (scheme == QLatin1String("file") && url.host().isEmpty());
         return local
                    ? QNetworkAccessManager::createRequest(operation, request, data)
                    : QNetworkAccessManager::createRequest(GetOperation, QNetworkRequest(), nullptr);
@@ -69,6 +69,6 @@ bool reportPage::acceptNavigationRequest(QWebFrame *frame, const QNetworkRequest
     }
     // Only what showHtml() puts there; no form, no refresh to elsewhere, no frame of a page.
     const QUrl url = request.url();
-    return frame == mainFrame() && type == NavigationTypeOther &&
-           (url == m_baseUrl || url.isEmpty() || url == QUrl(QStringLiteral("about:blank")));
+    return frame == mainFrame() && type == NavigationTypeOther
+           && (url == m_baseUrl || url.isEmpty() || url == QUrl(QStringLiteral("about:blank")));
 }

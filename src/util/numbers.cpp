@@ -20,9 +20,9 @@ bool check(const QString &text, QString *errors)
     bool ok = false;
     parse(text, &ok);
     if (!ok && errors)
-        *errors += QLatin1String("&nbsp;") + text + QLatin1String("&nbsp;") +
-                   QCoreApplication::translate("numbers", "is not a number") +
-                   QLatin1String("<br>");
+        *errors += QLatin1String("&nbsp;") + text + QLatin1String("&nbsp;")
+                   + QCoreApplication::translate("numbers", "is not a number")
+                   + QLatin1String("<br>");
     return ok;
 }
 

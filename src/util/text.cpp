@@ -74,8 +74,8 @@ QString storable(const QString &text)
                 result.append(c);
                 result.append(text.at(++i));
             }
-        } else if (!c.isLowSurrogate() && c < QChar(0xfffe) &&
-                   (c >= QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n'))) {
+        } else if (!c.isLowSurrogate() && c < QChar(0xfffe)
+                   && (c >= QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n'))) {
             result.append(c);
         }
     }

@@ -53,8 +53,8 @@ QByteArray item(const QByteArray &content)
 QByteArray bomb(const QByteArray &kind)
 {
     // Each entity is ten times the one before: ten of them are 10 GB.
-    QByteArray dtd = "<?xml version=\"1.0\"?>\n<!DOCTYPE kiv_mat_zp [\n<!ENTITY " + kind +
-                     "e0 \"0123456789\">\n";
+    QByteArray dtd = "<?xml version=\"1.0\"?>\n<!DOCTYPE kiv_mat_zp [\n<!ENTITY " + kind
+                     + "e0 \"0123456789\">\n";
     for (int i = 1; i < 10; ++i) {
         dtd += "<!ENTITY " + kind + "e" + QByteArray::number(i) + " \"";
         for (int j = 0; j < 10; ++j)

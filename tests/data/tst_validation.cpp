@@ -239,8 +239,8 @@ void tst_validation::changedSchemaIsReadAgain()
 {
     const auto schemaOf = [](const char *root) {
         return QByteArray(
-                   "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"><xs:element name=\"") +
-               root + "\"/></xs:schema>";
+                   "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"><xs:element name=\"")
+               + root + "\"/></xs:schema>";
     };
     const QString xml = m_folder->write("v.xml", "<second/>");
     QVERIFY(!validateXml(xml, m_folder->write("s.xsd", schemaOf("first")), false));

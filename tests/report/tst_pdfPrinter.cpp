@@ -136,12 +136,12 @@ void tst_pdfPrinter::pageLoadsAndRunsNothing()
     const QString address = QString("http://127.0.0.1:%1/").arg(server.serverPort());
     m_page->showHtml(
         "<p id='p'>kept</p><script>document.getElementById('p').innerHTML='run'</script>"
-        "<img src='" +
-        address + "i.png'><iframe src='" + address + "f'></iframe><link rel='stylesheet' href='" +
-        address + "s.css'><object data='" + address +
-        "o.swf'></object>"
-        "<meta http-equiv='refresh' content='0;url=" +
-        address + "r'>");
+        "<img src='"
+        + address + "i.png'><iframe src='" + address + "f'></iframe><link rel='stylesheet' href='"
+        + address + "s.css'><object data='" + address
+        + "o.swf'></object>"
+          "<meta http-equiv='refresh' content='0;url="
+        + address + "r'>");
     QTest::qWait(300);
     QCOMPARE(m_page->mainFrame()->findFirstElement("#p").toPlainText(), QString("kept"));
     QVERIFY(!server.hasPendingConnections());
