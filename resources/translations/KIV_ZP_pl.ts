@@ -149,6 +149,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>XML of version %1 cannot be read</source>
         <translation>nie można odczytać XML w wersji %1</translation>
     </message>
+    <message>
+        <source>an element stands inside a text</source>
+        <translation>wewnątrz tekstu znajduje się element</translation>
+    </message>
 </context>
 <context>
     <name>labels</name>

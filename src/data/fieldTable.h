@@ -57,7 +57,7 @@ template <class Record>
 void readAttributes(QXmlStreamReader *reader, Record &record, const fieldTable<Record> &fields)
 {
     for (const auto &field : fields)
-        record.*field.member = sharedText(attributeValue(reader, field.name));
+        record.*field.member = attributeValue(reader, field.name);
 }
 
 template <class Record>

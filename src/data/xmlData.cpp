@@ -7,18 +7,20 @@
 
 namespace {
 
+// QStringRef::toString() may hand out the reader's own buffer, with its spare room.
+QString copyOf(const QStringRef &text) { return QString(text.data(), text.size()); }
+
 // Remembers one text for each hash value. A text that lost its place is stored again when it comes
 // back, which costs memory but never more than without the table.
 class recentTexts
 {
 public:
-    void share(QString &text)
+    QString share(const QStringRef &text)
     {
         QString &slot = m_slots[qHash(text) % m_slots.size()];
-        if (slot == text)
-            text = slot;
-        else
-            slot = text;
+        if (slot != text)
+            slot = copyOf(text);
+        return slot;
     }
 
 private:
@@ -77,24 +79,39 @@ QString attributeValue(QXmlStreamReader *reader, const QString &localName)
     const QXmlStreamAttributes attributes = reader->attributes();
     for (const QXmlStreamAttribute &attribute : attributes)
         if (attribute.name() == localName)
-            return attribute.value().toString();
+            return sharedText(attribute.value());
     return {};
 }
 
 QString readText(QXmlStreamReader *reader)
 {
-    QString text = reader->readElementText();
-    if (text.contains(QLatin1Char('\r')))
-        text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
-            .replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return sharedText(std::move(text));
+    // Nearly every text comes in one piece, and most of them came before: then nothing is copied.
+    if (reader->readNext() == QXmlStreamReader::EndElement)
+        return {};
+    QString text;
+    if (reader->isCharacters() && !reader->text().contains(QLatin1Char('\r'))) {
+        text = sharedText(reader->text());
+        if (reader->readNext() == QXmlStreamReader::EndElement)
+            return text;
+    }
+    // The rest as the reader does it, with its refusal of elements.
+    for (; !reader->isEndElement() && !reader->atEnd(); reader->readNext()) {
+        if (reader->isCharacters() || reader->isEntityReference())
+            text += reader->text();
+        else if (reader->isStartElement())
+            reader->raiseError(
+                QCoreApplication::translate("data", "an element stands inside a text"));
+    }
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return text;
 }
 
-QString sharedText(QString text)
+QString sharedText(const QStringRef &text)
 {
-    if (sharedTexts && !text.isEmpty())
-        sharedTexts->share(text);
-    return text;
+    if (text.isEmpty())
+        return {};
+    return sharedTexts ? sharedTexts->share(text) : copyOf(text);
 }
 
 textSharing::textSharing() { sharedTexts = std::make_unique<recentTexts>(); }

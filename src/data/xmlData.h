@@ -54,8 +54,8 @@ QString attributeValue(QXmlStreamReader *reader, const QString &localName);
 // The text of the element the reader stands on, with line ends as LF, shared as below.
 QString readText(QXmlStreamReader *reader);
 
-// The same text; a copy that is shared with earlier equal texts while a textSharing lives.
-QString sharedText(QString text);
+// The text, as a copy that is shared with earlier equal texts while a textSharing lives.
+QString sharedText(const QStringRef &text);
 
 // While one lives, the texts of a file that repeat (units, cases, codes, status words) take their
 // memory once. Costs a fixed table; not nestable.
