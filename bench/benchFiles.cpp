@@ -39,7 +39,7 @@ void validateAndRead(benchmark::State &state, const QString &file)
         const processCost xmllint = measure(
             {"xmllint", "--noout", "--stream", "--schema", paths::schema("kiv_mat.xsd"), file});
         const processCost cli = measure({KIVZP_BENCH_DIR "/kivzp-cli", "info", "--validate", file});
-        if (!xmllint.succeeded || !cli.succeeded) {
+        if (xmllint.exitCode != 0 || cli.exitCode != 0) {
             state.SkipWithError("one of the programs failed");
             return;
         }

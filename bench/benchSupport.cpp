@@ -64,7 +64,7 @@ processCost measure(const QStringList &command)
     rusage usage{};
     wait4(child, &status, 0, &usage);
     return {double(timer.nsecsElapsed()) / 1e9, double(usage.ru_maxrss) / 1024,
-            WIFEXITED(status) && WEXITSTATUS(status) == 0};
+            WIFEXITED(status) ? WEXITSTATUS(status) : -1};
 }
 
 } // namespace benchSupport

@@ -18,7 +18,7 @@ struct processCost
 {
     double seconds = 0;
     double megabytes = 0; // peak resident memory
-    bool succeeded = false;
+    int exitCode = -1;
 };
 // Runs a program to its end, its output dropped.
 processCost measure(const QStringList &command);

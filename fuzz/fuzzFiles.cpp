@@ -30,12 +30,6 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-class noPrompts : public prompts
-{
-public:
-    void showError(const QString &) override {}
-};
-
 void silence(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 } // namespace
@@ -48,7 +42,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     static char name[] = "fuzz";
     static char *argv[] = {name, nullptr};
     static QGuiApplication application(argc, argv);
-    static noPrompts nothingShown;
+    static prompts nothingShown;
     installPrompts(&nothingShown);
     paths::setProgramDir(QStringLiteral(KIVZP_SOURCE_DIR));
     return 0;

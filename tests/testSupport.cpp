@@ -4,6 +4,7 @@
 #include "util/text.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 
 #include <cstdio>
@@ -32,17 +33,14 @@ bool add(const char *name, const std::function<QObject *()> &create)
     return true;
 }
 
-// "tests NAME [QtTest arguments]" runs one class, "tests" runs all, "tests --list" names them.
+// "tests NAME [QtTest arguments]" runs one class, "tests" runs all.
 int run(int argc, char **argv)
 {
     const QByteArray wanted = argc > 1 ? argv[1] : "";
     int failures = 0;
     bool found = false;
     for (const testClass &test : classes()) {
-        if (wanted == "--list") {
-            std::printf("%s\n", test.name);
-            found = true;
-        } else if (wanted.isEmpty() || wanted == test.name) {
+        if (wanted.isEmpty() || wanted == test.name) {
             found = true;
             const std::unique_ptr<QObject> object(test.create());
             const int skip = wanted.isEmpty() ? 0 : 1;
@@ -56,9 +54,7 @@ programFolder::programFolder()
 {
     QVERIFY2(m_dir.isValid(), "no temporary folder");
     paths::setProgramDir(m_dir.path());
-    const QDir schemas(source(QStringLiteral("_validator")));
-    for (const QString &name : schemas.entryList(QDir::Files))
-        write(QStringLiteral("_validator/") + name, read(schemas.filePath(name)));
+    copyFolder(source(QStringLiteral("_validator")), path(QStringLiteral("_validator")));
 }
 
 programFolder::~programFolder() { paths::setProgramDir({}); }
@@ -87,10 +83,37 @@ recordingPrompts::~recordingPrompts() { installPrompts(m_before); }
 
 void recordingPrompts::showError(const QString &html) { errors.append(text::htmlToPlain(html)); }
 
+void recordingPrompts::showInformation(const QString &html)
+{
+    informations.append(text::htmlToPlain(html));
+}
+
+prompts::answer recordingPrompts::ask(const QString &html, bool)
+{
+    questions.append(text::htmlToPlain(html));
+    return nextAnswer;
+}
+
+QString recordingPrompts::saveFile(const QString &, const QString &name, const QString &)
+{
+    proposed = name;
+    return file;
+}
+
 QByteArray read(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void copyFolder(const QString &from, const QString &to)
+{
+    for (QDirIterator it(from, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString target = to + '/' + QDir(from).relativeFilePath(it.next());
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        if (!QFile::copy(it.filePath(), target))
+            qFatal("cannot copy %s", qPrintable(it.filePath()));
+    }
 }
 
 QString source(const QString &relative) { return QStringLiteral(KIVZP_SOURCE_DIR "/") + relative; }

@@ -41,14 +41,35 @@ public:
     ~recordingPrompts() override;
 
     void showError(const QString &html) override;
+    void showInformation(const QString &html) override;
+    answer ask(const QString &html, bool withCancel) override;
+    QString openFile(const QString &, const QString &, const QString &) override { return file; }
+    QString saveFile(const QString &, const QString &proposed, const QString &) override;
+    void log(const QString &html) override { logged += html; }
+    void listError(const QString &html) override { listed += html; }
 
-    QStringList errors; // as plain text
+    // What was shown, as plain text.
+    QStringList errors;
+    QStringList informations;
+    QStringList questions;
+    // What went to the log and errors windows, as HTML.
+    QString logged;
+    QString listed;
+    // The last name proposed by a dialog for saving.
+    QString proposed;
+
+    // What the user answers.
+    answer nextAnswer = answer::no;
+    QString file;
 
 private:
     prompts *m_before;
 };
 
 QByteArray read(const QString &path);
+
+// Copies a folder with all its files.
+void copyFolder(const QString &from, const QString &to);
 
 // A file of the project's source tree.
 QString source(const QString &relative);

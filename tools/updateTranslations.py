@@ -2,8 +2,9 @@
 """Brings the catalogues in resources/translations/ in step with the texts in src/.
 
 New texts appear in them as unfinished: translate them and run the tests. The Polish catalogue holds
-every text. The English one holds only plural forms and the captions of options, which are looked up
-by key; every other English text stands in the sources.
+every text. The English one holds only plural forms, the captions of options, which are looked up by
+key, and the beginnings of log lines, which end with a blank; every other English text stands in the
+sources.
 """
 import os
 import re
@@ -19,7 +20,7 @@ def path(language):
 def keep_needed(context):
     name = re.search("<name>(.*?)</name>", context)[1]
     messages = re.findall(r" *<message.*?</message>\n", context, re.S)
-    needed = [m for m in messages if 'numerus="yes"' in m or name == "options"]
+    needed = [m for m in messages if 'numerus="yes"' in m or name in ("options", "log")]
     if not needed:
         return ""
     return f"<context>\n    <name>{name}</name>\n{''.join(needed)}</context>\n"

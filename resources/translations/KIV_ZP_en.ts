@@ -22,6 +22,69 @@
     </message>
 </context>
 <context>
+    <name>log</name>
+    <message>
+        <source>Remove file</source>
+        <translation>Remove file </translation>
+    </message>
+    <message>
+        <source>Remove directory</source>
+        <translation>Remove directory </translation>
+    </message>
+    <message>
+        <source>Open link</source>
+        <translation>Open link </translation>
+    </message>
+    <message>
+        <source>Load config file</source>
+        <translation>Load config file </translation>
+    </message>
+    <message>
+        <source>Clean after update</source>
+        <translation>Clean after update</translation>
+    </message>
+    <message>
+        <source>The program&apos;s folder cannot be written; working in </source>
+        <translation>The program&apos;s folder cannot be written; working in </translation>
+    </message>
+    <message>
+        <source>Copy file</source>
+        <translation>Copy file </translation>
+    </message>
+    <message>
+        <source>Open file</source>
+        <translation>Open file </translation>
+    </message>
+    <message>
+        <source>Save file</source>
+        <translation>Save file </translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>Print to file </translation>
+    </message>
+    <message>
+        <source>File does not exist or corrupted</source>
+        <translation>File does not exist or corrupted </translation>
+    </message>
+    <message>
+        <source>Create default file</source>
+        <translation>Create default file </translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Not exists</source>
+        <translation>Not exists</translation>
+    </message>
+</context>
+<context>
     <name>options</name>
     <message>
         <source>OPTION_EDIT_ZP</source>

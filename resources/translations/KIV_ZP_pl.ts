@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>MainWindow</name>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>No order is open</source>
+        <translation>Nie otwarto zamówienia</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Pdf File</source>
+        <translation>Plik PDF</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drukowanie</translation>
+    </message>
+    <message>
+        <source>Printed to %1</source>
+        <translation>Wydrukowano do %1</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled</source>
+        <translation>Drukowanie przerwano</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened</source>
+        <translation>Nie można otworzyć podręcznika %1</translation>
+    </message>
+    <message>
+        <source>A newer version is available </source>
+        <translation>Dostępna jest nowsza wersja </translation>
+    </message>
+</context>
+<context>
     <name>XmlValidator</name>
     <message>
         <source>Line</source>
@@ -18,6 +61,91 @@
             <numerusform>i jeszcze %n</numerusform>
             <numerusform>i jeszcze %n</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>aboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>O programie</translation>
+    </message>
+    <message>
+        <source>Public-procurement orders of electronic materials</source>
+        <translation>Zamówienia publiczne na materiały elektroniczne</translation>
+    </message>
+    <message>
+        <source>Built on %1</source>
+        <translation>Zbudowano %1</translation>
+    </message>
+</context>
+<context>
+    <name>actions</name>
+    <message>
+        <source>Print</source>
+        <translation>Drukuj</translation>
+    </message>
+    <message>
+        <source>Print the order to a PDF file</source>
+        <translation>Drukuj zamówienie do pliku PDF</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Okno</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Dziennik</translation>
+    </message>
+    <message>
+        <source>What was done, and how it went</source>
+        <translation>Co zrobiono i z jakim skutkiem</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Błędy</translation>
+    </message>
+    <message>
+        <source>What could not be read or found</source>
+        <translation>Czego nie udało się odczytać lub znaleźć</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Pomoc</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Otwórz podręcznik</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programie</translation>
+    </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>Wersja programu</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>baseWindow</name>
+    <message>
+        <source>Tool bar</source>
+        <translation>Pasek narzędzi</translation>
     </message>
 </context>
 <context>
@@ -152,6 +280,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>an element stands inside a text</source>
         <translation>wewnątrz tekstu znajduje się element</translation>
+    </message>
+    <message>
+        <source>the file is of another kind</source>
+        <translation>plik jest innego rodzaju</translation>
+    </message>
+    <message>
+        <source>without the schemas no file is checked and opened</source>
+        <translation>bez schematów żaden plik nie jest sprawdzany ani otwierany</translation>
+    </message>
+</context>
+<context>
+    <name>errorsWindow</name>
+    <message>
+        <source>Errors</source>
+        <translation>Błędy</translation>
     </message>
 </context>
 <context>
@@ -694,6 +837,76 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>log</name>
+    <message>
+        <source>Remove file</source>
+        <translation>Usuń plik </translation>
+    </message>
+    <message>
+        <source>Remove directory</source>
+        <translation>Usuń folder </translation>
+    </message>
+    <message>
+        <source>Open link</source>
+        <translation>Otwórz odnośnik </translation>
+    </message>
+    <message>
+        <source>Load config file</source>
+        <translation>Wczytaj plik konfiguracji </translation>
+    </message>
+    <message>
+        <source>Clean after update</source>
+        <translation>Porządki po aktualizacji</translation>
+    </message>
+    <message>
+        <source>The program&apos;s folder cannot be written; working in </source>
+        <translation>Folderu programu nie można zapisywać; praca w </translation>
+    </message>
+    <message>
+        <source>Copy file</source>
+        <translation>Kopiuj plik </translation>
+    </message>
+    <message>
+        <source>Open file</source>
+        <translation>Otwarto plik </translation>
+    </message>
+    <message>
+        <source>Save file</source>
+        <translation>Zapisano plik </translation>
+    </message>
+    <message>
+        <source>Print to file</source>
+        <translation>Wydruk do pliku </translation>
+    </message>
+    <message>
+        <source>File does not exist or corrupted</source>
+        <translation>Plik nie istnieje lub jest uszkodzony </translation>
+    </message>
+    <message>
+        <source>Create default file</source>
+        <translation>Utworzono plik domyślny </translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Błąd</translation>
+    </message>
+    <message>
+        <source>Not exists</source>
+        <translation>Nie istnieje</translation>
+    </message>
+</context>
+<context>
+    <name>logWindow</name>
+    <message>
+        <source>Log</source>
+        <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
     <name>numbers</name>
     <message>
         <source>is not a number</source>
@@ -867,6 +1080,32 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Page no:</source>
         <translation>Strona nr:</translation>
+    </message>
+</context>
+<context>
+    <name>prompts</name>
+    <message>
+        <source>Error</source>
+        <translation>Błąd</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informacja</translation>
+    </message>
+    <message>
+        <source>Asking</source>
+        <translation>Pytanie</translation>
+    </message>
+</context>
+<context>
+    <name>workProgress</name>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
 </context>
 </TS>

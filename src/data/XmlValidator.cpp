@@ -86,11 +86,13 @@ XmlValidator::XmlValidator()
 
 XmlValidator::~XmlValidator() = default;
 
-bool XmlValidator::validate(const QString &xmlPath, const QString &xsdPath, bool showMessages)
+bool XmlValidator::validate(const QString &xmlPath, const QString &xsdPath, bool showMessages,
+                            const progressFunction &progress)
 {
     m_showMessages = showMessages;
     m_messageCount = 0;
-    m_details = validateStreaming(xmlPath, xsdPath);
+    constexpr int keptMessages = 100;
+    m_details = validateStreaming(xmlPath, xsdPath, keptMessages, progress);
     if (!m_details.schemaLoaded || m_details.valid)
         return m_details.valid;
 
@@ -161,9 +163,10 @@ void XmlValidator::showRest()
         userPrompts().showError(tr("and %n more", nullptr, m_messageCount - maxBoxes));
 }
 
-bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessages)
+bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessages,
+                 const progressFunction &progress)
 {
-    return std::make_unique<XmlValidator>()->validate(xmlPath, xsdPath, showMessages);
+    return std::make_unique<XmlValidator>()->validate(xmlPath, xsdPath, showMessages, progress);
 }
 
 namespace {

@@ -21,7 +21,9 @@ public:
     // above that size the streaming validator's own stand. With showMessages the first few are
     // shown to the user, one box each, with line and column; a schema that does not load shows
     // none.
-    bool validate(const QString &xmlPath, const QString &xsdPath, bool showMessages);
+    // progress as in validateStreaming().
+    bool validate(const QString &xmlPath, const QString &xsdPath, bool showMessages,
+                  const progressFunction &progress = {});
 
     // What the streaming validator said in the last validate(): plain text, for lists.
     const validationResult &details() const { return m_details; }
@@ -42,7 +44,8 @@ private:
 };
 
 // One such validation.
-bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessages);
+bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessages,
+                 const progressFunction &progress = {});
 
 // Whether a KTM index or a CPV code has the right form. The forms stand in
 // "_validator/kiv_mat.xsd"; no message is shown. False also when the check file cannot be written.

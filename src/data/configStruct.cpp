@@ -2,6 +2,7 @@
 
 #include "data/loaders.h"
 #include "data/vocabulary.h"
+#include "util/labels.h"
 
 #include <QDir>
 
@@ -13,6 +14,52 @@ QString icon(const char *name)
 }
 
 constexpr int defaultFontSize = 14;
+
+struct optionDefault
+{
+    QLatin1String key;
+    const char *value;
+    const char *unit;
+};
+
+// EMAIL_MAPI is left out, because its mere presence decides, and so is PATH_BACKUP, which is added
+// when it is first needed.
+constexpr optionDefault optionDefaults[] = {
+    {optionKey::editZp, "TAK", ""},
+    {optionKey::editConfig, "TAK", ""},
+    {optionKey::editDatabase, "TAK", ""},
+    {optionKey::editFirm, "TAK", ""},
+    {optionKey::openReportHtml, "NIE", ""},
+    {optionKey::fontName, "Arial", ""},
+    {optionKey::fontSize, "14", "px"},
+    {optionKey::thresholdLow, "25", "%"},
+    {optionKey::thresholdAverage, "50", "%"},
+    {optionKey::thresholdHigh, "75", "%"},
+    {optionKey::orderTarget, "xxx-xxxxxxxx", ""},
+    {optionKey::orderDateAdd, "14", "days"},
+    {optionKey::orderNumber, "", ""},
+    {optionKey::orderDate, "", ""},
+    {optionKey::personAuthor, "", ""},
+    {optionKey::personApproved, "", ""},
+    {optionKey::personContractor, "", ""},
+    {optionKey::personAdmin, "", ""},
+    {optionKey::fileConfig, "_config/kiv_mat_config.xml", ""},
+    {optionKey::fileDbWarehouse, "_files/db_warehouse.xml", ""},
+    {optionKey::fileDbService, "_files/db_service.xml", ""},
+    {optionKey::fileDbAuthor, "_files/db_author.xml", ""},
+    {optionKey::fileDbMechanics, "_files/db_mechanics.xml", ""},
+    {optionKey::fileFirm, "_files/firms.xml", ""},
+    {optionKey::fileBoms, "_files/boms.xml", ""},
+    {optionKey::fileNewZp, "_zp/zp_new.xml", ""},
+    {optionKey::fileLastZp, "_zp/zp_0.xml", ""},
+    {optionKey::loadDbWarehouse, "TAK", ""},
+    {optionKey::loadDbService, "TAK", ""},
+    {optionKey::loadDbAuthor, "TAK", ""},
+    {optionKey::loadDbMechanics, "TAK", ""},
+    {optionKey::loadBoms, "TAK", ""},
+    {optionKey::serverName, "", ""},
+    {optionKey::serverUserName, "", ""},
+    {optionKey::serverUserPassword, "", ""}};
 
 } // namespace
 
@@ -39,6 +86,21 @@ configStruct::configStruct()
                 QStringLiteral("FILE_XML"),       QStringLiteral("FILE_XLS"),
                 QStringLiteral("FILE_CSV")}
 {
+}
+
+void configStruct::setDefaults()
+{
+    options.items.clear();
+    persons.items.clear();
+    targets.items.clear();
+    for (const optionDefault &row : optionDefaults) {
+        optionStruct *option = options.append(std::make_unique<optionStruct>());
+        option->editable = statusWord::editableYes;
+        option->type = row.key;
+        option->value1 = QLatin1String(row.value);
+        option->unit = QLatin1String(row.unit);
+        option->description = labels::optionCaption(row.key);
+    }
 }
 
 bool configStruct::load(const QString &path) { return loadConfig(path, this) == 0; }

@@ -34,6 +34,10 @@ public:
     // The kinds offered for attached files.
     const QStringList fileTypes;
 
+    // Makes this the configuration of a new installation: every option with its default value, no
+    // persons and no targets.
+    void setDefaults();
+
     // Fills the record from a file; true when loadConfig() returned 0.
     bool load(const QString &path);
     // Writes the file; true when all of it was written.

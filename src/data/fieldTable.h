@@ -37,13 +37,12 @@ std::vector<QString> tagsOf(const fieldTable<Record> &fields,
 template <class Record>
 bool readField(QXmlStreamReader *reader, Record &record, const fieldTable<Record> &fields)
 {
-    for (const auto &field : fields) {
-        if (reader->name() == field.name) {
-            record.*field.member = readText(reader);
-            return true;
-        }
-    }
-    return false;
+    const size_t found = findFrom(matchedTag, fields.size(),
+                                  [&](size_t i) { return reader->name() == fields[i].name; });
+    if (found == fields.size())
+        return false;
+    record.*fields[found].member = readText(reader);
+    return true;
 }
 
 template <class Record>

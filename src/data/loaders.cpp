@@ -10,18 +10,19 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "util/paths.h"
+#include "util/progressFile.h"
 #include "util/safeFile.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
-int loadDocument(const QString &filePath, documentStruct *record, QString *error)
+int loadDocument(const QString &filePath, documentStruct *record, QString *error,
+                 const progressFunction &progress)
 {
     record->fileName = QFileInfo(filePath).fileName();
     record->filePath = filePath;
     // Not in text mode: that would drop bytes of UTF-16 files, and XML settles line ends itself.
-    QFile file(filePath);
+    progressFile file(filePath, progress);
     if (!file.open(QIODevice::ReadOnly)) {
         if (error)
             *error = file.errorString();

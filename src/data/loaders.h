@@ -1,6 +1,8 @@
 // Reading and writing whole files: one loader per kind of file, one writer for all.
 #pragma once
 
+#include "util/progress.h"
+
 #include <QString>
 
 #include <memory>
@@ -33,8 +35,10 @@ int loadInfo(const QString &filePath, kiv_infoStruct *record);
 int loadUpdate(const QString &filePath, kiv_UpdateStruct *record);
 
 // The same for a record whose kind is known only at run time. Sets error, if given, to the parser's
-// message with its line and column.
-int loadDocument(const QString &filePath, documentStruct *record, QString *error = nullptr);
+// message with its line and column. progress is told the bytes read; when it cancels, the result is
+// -1.
+int loadDocument(const QString &filePath, documentStruct *record, QString *error = nullptr,
+                 const progressFunction &progress = {});
 
 // An empty record of that kind.
 std::unique_ptr<documentStruct> newDocument(const fileKind &kind);

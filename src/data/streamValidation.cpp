@@ -2,6 +2,7 @@
 
 #include "data/schemaCache.h"
 #include "data/xmlData.h"
+#include "util/progressFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -23,7 +24,12 @@ using schemaPointer = std::shared_ptr<xmlSchema>;
 // What the callbacks of one validation share.
 struct runState
 {
-    QFile file;
+    runState(const QString &path, const progressFunction &progress)
+        : file(path, progress)
+    {
+    }
+
+    progressFile file;
     xmlParserCtxt *parser = nullptr;
     validationResult result;
     int maxMessages = 0;
@@ -77,6 +83,8 @@ void refuseDocumentType(void *context, const xmlChar *, const xmlChar *, const x
 void refuseTheUnreadable(runState &state)
 {
     const xmlParserInput *input = state.parser->input;
+    if (state.file.cancelled())
+        state.result.refusedOutright = true;
     if (!state.parser->wellFormed || !input)
         return;
     const QLatin1String version(reinterpret_cast<const char *>(state.parser->version));
@@ -131,7 +139,8 @@ void parse(runState &state, xmlSchema *schema)
 
 } // namespace
 
-validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath, int maxMessages)
+validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath, int maxMessages,
+                                   const progressFunction &progress)
 {
     static schemaCache<schemaPointer> schemas;
     static const bool initialised = [] {
@@ -141,14 +150,13 @@ validationResult validateStreaming(const QString &xmlPath, const QString &xsdPat
     }();
     Q_UNUSED(initialised)
 
-    runState state;
+    runState state(xmlPath, progress);
     state.maxMessages = maxMessages;
     const schemaPointer schema = schemas.get(xsdPath, compileSchema);
     if (!schema)
         return state.result;
     state.result.schemaLoaded = true;
 
-    state.file.setFileName(xmlPath);
     if (!QFileInfo(xmlPath).isFile() || !state.file.open(QIODevice::ReadOnly)) {
         state.result.refusedOutright = true;
         state.result.messages.append(

@@ -2,6 +2,8 @@
 // with constant memory at any size of file.
 #pragma once
 
+#include "util/progress.h"
+
 #include <QString>
 #include <QVector>
 
@@ -24,6 +26,7 @@ struct validationResult
 
 // Checks a file against a schema file. Messages beyond maxMessages are counted, not kept. Refuses
 // document type declarations before reading them, and fetches nothing that a file names. The
-// compiled schema is kept until its file changes.
+// compiled schema is kept until its file changes. progress is told the bytes read; when it cancels,
+// the file counts as unreadable.
 validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath,
-                                   int maxMessages = 100);
+                                   int maxMessages = 100, const progressFunction &progress = {});

@@ -29,14 +29,6 @@ private:
 
 std::unique_ptr<recentTexts> sharedTexts;
 
-bool accepts(const tagHandlerList &handlers, const QStringRef &name)
-{
-    for (const QString &tag : *handlers.tags)
-        if (name == tag)
-            return true;
-    return false;
-}
-
 } // namespace
 
 int xmlData::readXml(QXmlStreamReader *) { return 0; }
@@ -45,14 +37,23 @@ int xmlData::writeXml(QXmlStreamWriter *) const { return -1; }
 
 int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag)
 {
+    const std::vector<QString> &tags = *handlers.tags;
+    size_t expected = 0;
     reader->readNext();
     while (!reader->atEnd()) {
         if (reader->isEndElement() && reader->name() == endTag)
             return 1;
-        if (reader->isStartElement() && accepts(handlers, reader->name()))
+        size_t found = tags.size();
+        if (reader->isStartElement())
+            found = findFrom(expected, tags.size(),
+                             [&](size_t i) { return reader->name() == tags[i]; });
+        if (found < tags.size()) {
+            matchedTag = found;
+            expected = found + 1;
             handlers.handler->readXml(reader);
-        else
+        } else {
             reader->readNext();
+        }
     }
     return -1;
 }

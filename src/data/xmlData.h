@@ -40,6 +40,23 @@ struct tagHandlerList
 // reader found an error.
 int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag);
 
+// The place in its list of the tag that readChildren() matched last: where a record looks first.
+inline size_t matchedTag = 0;
+
+// The first index from 0 to count for which matches(index) holds, or count. Looks at start first
+// and goes on from there, since elements mostly stand in the order of their table.
+template <class Matches>
+size_t findFrom(size_t start, size_t count, const Matches &matches)
+{
+    for (size_t i = start; i < count; ++i)
+        if (matches(i))
+            return i;
+    for (size_t i = 0; i < start && i < count; ++i)
+        if (matches(i))
+            return i;
+    return count;
+}
+
 // Reads on until a start element of that name, or until any when the name is empty; false when the
 // document ended first or the reader found an error. A document type declaration is made an error:
 // the program's files carry none, and refusing it keeps entity bombs and outside entities away.

@@ -210,7 +210,7 @@ private:
 };
 
 bool paintPages(QPrinter &printer, QWebFrame *frame, const QString &title,
-                const std::function<bool(int, int)> &progress)
+                const progressFunction &progress)
 {
     QPainter painter;
     if (!painter.begin(&printer))
@@ -268,7 +268,7 @@ QString pdfPath(const QString &chosen)
 }
 
 bool printPdf(QWebView *view, const QString &chosenPath, const QString &title,
-              const std::function<bool(int, int)> &progress)
+              const progressFunction &progress)
 {
     const QString path = pdfPath(chosenPath);
     // A bad place is told before the long work.

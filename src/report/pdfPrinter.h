@@ -1,9 +1,9 @@
 // Prints a web view's page into a PDF file.
 #pragma once
 
-#include <QString>
+#include "util/progress.h"
 
-#include <functional>
+#include <QString>
 
 class QWebView;
 
@@ -18,4 +18,4 @@ QString pdfPath(const QString &chosen);
 // False, with an existing file untouched, when the file cannot be written or printing was
 // cancelled.
 bool printPdf(QWebView *view, const QString &chosenPath, const QString &title,
-              const std::function<bool(int, int)> &progress = {});
+              const progressFunction &progress = {});

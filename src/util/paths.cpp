@@ -14,6 +14,12 @@ QString &programDirOverride()
     return dir;
 }
 
+QString &dataDirOverride()
+{
+    static QString dir;
+    return dir;
+}
+
 QString &temporaryDirStore()
 {
     static QString dir;
@@ -42,7 +48,22 @@ QString schema(const QString &fileName)
     return beside(QLatin1String("_validator/") + text::fileNameOfPath(fileName));
 }
 
-QString config() { return beside(QStringLiteral("_config/kiv_mat_config.xml")); }
+QString dataDir()
+{
+    const QString &dir = dataDirOverride();
+    return dir.isEmpty() ? programDir() : dir;
+}
+
+void setDataDir(const QString &dir) { dataDirOverride() = dir; }
+
+QString data(const QString &relative)
+{
+    return QDir::isAbsolutePath(relative) ? relative : dataDir() + QLatin1Char('/') + relative;
+}
+
+QString config() { return data(QStringLiteral("_config/kiv_mat_config.xml")); }
+
+QString windowState() { return data(QStringLiteral("_config/windows.ini")); }
 
 QString temporaryDir()
 {

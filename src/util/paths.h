@@ -19,8 +19,18 @@ QString beside(const QString &relative);
 // document cannot name a schema elsewhere.
 QString schema(const QString &fileName);
 
-// "_config/kiv_mat_config.xml" beside the program.
+// The folder of what users change: "_config/", "_files/", "_zp/" and "_e-mail/". It is the
+// program's own folder unless setDataDir() named another because that one cannot be written.
+QString dataDir();
+void setDataDir(const QString &dir); // empty: the program's folder again
+
+// A path in that folder: dataDir() + "/" + relative. An absolute path is returned as it is.
+QString data(const QString &relative);
+
+// "_config/kiv_mat_config.xml" there, and the small file beside it in which windows remember their
+// places.
 QString config();
+QString windowState();
 
 // The scratch folder of this run: a unique path in the system's temporary folder, chosen at the
 // first call. Whoever writes there creates it.

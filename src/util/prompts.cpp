@@ -10,7 +10,12 @@ namespace {
 class plainPrompts : public prompts
 {
 public:
-    void showError(const QString &html) override
+    void showError(const QString &html) override { write(html); }
+    void showInformation(const QString &html) override { write(html); }
+    void listError(const QString &html) override { write(html); }
+
+private:
+    static void write(const QString &html)
     {
         std::fprintf(stderr, "%s\n", qUtf8Printable(text::htmlToPlain(html).trimmed()));
     }
@@ -19,6 +24,15 @@ public:
 prompts *installed = nullptr;
 
 } // namespace
+
+void prompts::showError(const QString &) {}
+void prompts::showInformation(const QString &) {}
+prompts::answer prompts::ask(const QString &, bool) { return answer::no; }
+QString prompts::openFile(const QString &, const QString &, const QString &) { return {}; }
+QString prompts::saveFile(const QString &, const QString &, const QString &) { return {}; }
+void prompts::log(const QString &) {}
+void prompts::listError(const QString &) {}
+void prompts::showErrors() {}
 
 prompts &userPrompts()
 {

@@ -1,23 +1,48 @@
 // The one door to the user: every message, question and file dialog of the program goes through
-// it. The windows install real dialogs, the command line and the tests install their own answers.
+// it, and every line for the log and errors windows. The program installs real dialogs and windows,
+// the command line and the tests install their own answers.
 #pragma once
 
 #include <QString>
 
+// By itself it shows nothing, answers every question with no and gives no file.
 class prompts
 {
 public:
+    enum class answer
+    {
+        yes,
+        no,
+        cancel
+    };
+
     prompts() = default;
     prompts(const prompts &) = delete;
     prompts &operator=(const prompts &) = delete;
     virtual ~prompts() = default;
 
-    // A refusal or failure, as HTML, under the title "Error".
-    virtual void showError(const QString &html) = 0;
+    // Boxes with one button, their text as HTML: a refusal or failure under the title "Error", and
+    // a note under "Information".
+    virtual void showError(const QString &html);
+    virtual void showInformation(const QString &html);
+
+    // A question under the title "Asking", with Yes and No, and Cancel when wanted. Closing the box
+    // answers cancel, or no where there is no Cancel.
+    virtual answer ask(const QString &html, bool withCancel);
+
+    // A file to read or to write; empty when the user gave none. filter as in "Xml File (*.xml)".
+    virtual QString openFile(const QString &title, const QString &directory, const QString &filter);
+    virtual QString saveFile(const QString &title, const QString &proposed, const QString &filter);
+
+    // A line of HTML for the log window, or for the errors window, which showErrors() brings up
+    // when there are lines.
+    virtual void log(const QString &html);
+    virtual void listError(const QString &html);
+    virtual void showErrors();
 };
 
-// The prompts in use; until some are installed, ones that write plain text to standard error and
-// answer every question with no.
+// The prompts in use; until some are installed, ones that write boxes and errors as plain text to
+// standard error.
 prompts &userPrompts();
 
 // Puts other prompts in use. The caller keeps them alive; null goes back to the plain ones.

@@ -33,12 +33,15 @@ void tst_translation::placesAndEndsAgree()
 {
     QXmlStreamReader reader(
         testSupport::read(testSupport::source("resources/translations/KIV_ZP_pl.ts")));
+    QString context;
     QString source;
     while (!reader.atEnd()) {
         reader.readNext();
         if (!reader.isStartElement())
             continue;
-        if (reader.name() == "source") {
+        if (reader.name() == "name") {
+            context = reader.readElementText();
+        } else if (reader.name() == "source") {
             source = reader.readElementText();
         } else if (reader.name() == "numerusform") {
             QVERIFY2(reader.readElementText().contains("%n"), qPrintable(source));
@@ -46,6 +49,9 @@ void tst_translation::placesAndEndsAgree()
             const QString text = reader.readElementText();
             for (const char *place : {"%1", "%2", "%3"})
                 QVERIFY2(text.count(place) == source.count(place), qPrintable(source));
+            // The beginnings of log lines get their blank from the catalogue.
+            if (context == "log")
+                continue;
             QVERIFY2(text.startsWith(' ') == source.startsWith(' '), qPrintable(source));
             QVERIFY2(text.endsWith(' ') == source.endsWith(' '), qPrintable(source));
         }

@@ -1,0 +1,171 @@
+#include "data/programData.h"
+
+#include "data/XmlValidator.h"
+#include "data/loaders.h"
+#include "data/validFiles.h"
+#include "data/vocabulary.h"
+#include "util/messages.h"
+#include "util/paths.h"
+#include "util/prompts.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+struct databaseOptions
+{
+    QLatin1String file;
+    QLatin1String load;
+};
+
+constexpr databaseOptions databaseKeys[programData::databaseCount] = {
+    {optionKey::fileDbWarehouse, optionKey::loadDbWarehouse},
+    {optionKey::fileDbService, optionKey::loadDbService},
+    {optionKey::fileDbMechanics, optionKey::loadDbMechanics},
+    {optionKey::fileDbAuthor, optionKey::loadDbAuthor}};
+
+void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+} // namespace
+
+bool readChecked(const QString &path, documentStruct *record, QString *error,
+                 const progressFunction &progress)
+{
+    const QString schema = paths::schema(record->kind().schema);
+    if (!validFiles::contains(path, schema)) {
+        XmlValidator validator;
+        if (!validator.validate(path, schema, false, progress)) {
+            const QVector<validationMessage> &messages = validator.details().messages;
+            if (!messages.isEmpty())
+                setError(error, QCoreApplication::translate("data", "line %1, column %2: %3")
+                                    .arg(messages.first().line)
+                                    .arg(messages.first().column)
+                                    .arg(messages.first().text));
+            return false;
+        }
+        validFiles::remember(path, schema);
+    }
+    // The schema of all kinds of the tools lets any of them pass.
+    const fileKind *kind = fileKinds::ofFile(path);
+    if (kind != &record->kind()) {
+        setError(error, QCoreApplication::translate("data", "the file is of another kind"));
+        return false;
+    }
+    return loadDocument(path, record, error, progress) == 0;
+}
+
+programData &programData::instance()
+{
+    static programData data;
+    return data;
+}
+
+void programData::clear()
+{
+    m_materials.clear();
+    m_config = std::make_unique<configStruct>();
+    m_firm = std::make_unique<kiv_mat_firmStruct>();
+    for (auto &database : m_databases)
+        database = std::make_unique<kiv_mat_databaseStruct>();
+    m_boms = std::make_unique<kiv_mat_bomsStruct>();
+    m_schemasReported = false;
+}
+
+void programData::loadConfiguration()
+{
+    const QString path = paths::config();
+    auto config = std::make_unique<configStruct>();
+    const bool missing = !QFileInfo::exists(path);
+    bool onDisk = !missing && config->load(path);
+    if (!onDisk) {
+        userPrompts().listError(messages::failed(messages::fileCorrupted(), path,
+                                                 QStringLiteral("\u00a0config.xml\u00a0")));
+        config = std::make_unique<configStruct>();
+        if (missing) {
+            config->setDefaults();
+            onDisk = config->save(path);
+            if (onDisk)
+                userPrompts().listError(messages::consequence(messages::createDefaultFile(), path));
+        }
+    }
+    m_config = std::move(config);
+    // Later runs are to find the folder for backups; a corrupt configuration stays as it is.
+    const bool known = !m_config->options.value(optionKey::pathBackup).isEmpty();
+    m_config->backupPath();
+    if (!known && onDisk)
+        m_config->save(path);
+}
+
+bool programData::replaceConfiguration(const QString &path)
+{
+    auto config = std::make_unique<configStruct>();
+    if (!config->load(path))
+        return false;
+    m_config = std::move(config);
+    return true;
+}
+
+bool programData::isSwitchedOff(QLatin1String loadKey) const
+{
+    return m_config->options.findOption(loadKey) && !m_config->isOn(loadKey);
+}
+
+bool programData::readInto(documentStruct &record, const QString &path,
+                           const progressFunction &progress)
+{
+    if (!QFileInfo::exists(path)) {
+        userPrompts().listError(messages::failed(messages::fileCorrupted(), path));
+        if (saveXmlNoEvents(path, &record) == 0)
+            userPrompts().listError(messages::consequence(messages::createDefaultFile(), path));
+        return true;
+    }
+    const QString schema = paths::schema(record.kind().schema);
+    if (!QFileInfo::exists(schema)) {
+        // Said once: without schemas every file is refused.
+        if (!m_schemasReported)
+            userPrompts().listError(
+                messages::failed(messages::fileCorrupted(), schema,
+                                 QCoreApplication::translate(
+                                     "data", "without the schemas no file is checked and opened")));
+        m_schemasReported = true;
+        return false;
+    }
+    QString reason;
+    if (readChecked(path, &record, &reason, progress))
+        return true;
+    userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+    return false;
+}
+
+void programData::loadFirm(const progressFunction &progress)
+{
+    const QString name = m_config->options.value(optionKey::fileFirm);
+    auto firm = std::make_unique<kiv_mat_firmStruct>();
+    if (!name.isEmpty() && readInto(*firm, paths::data(name), progress))
+        m_firm = std::move(firm);
+}
+
+void programData::loadDatabase(databaseKind kind, const progressFunction &progress)
+{
+    const QString name = m_config->options.value(databaseKeys[kind].file);
+    auto database = std::make_unique<kiv_mat_databaseStruct>();
+    if (name.isEmpty() || isSwitchedOff(databaseKeys[kind].load)
+        || !readInto(*database, paths::data(name), progress))
+        return;
+    m_databases[kind] = std::move(database);
+    m_materials.add(m_databases[kind].get());
+}
+
+void programData::loadBoms()
+{
+    const QString name = m_config->options.value(optionKey::fileBoms);
+    auto boms = std::make_unique<kiv_mat_bomsStruct>();
+    if (!name.isEmpty() && !isSwitchedOff(optionKey::loadBoms)
+        && readInto(*boms, paths::data(name), {}))
+        m_boms = std::move(boms);
+}

@@ -1,0 +1,71 @@
+// The data files that the program works with, as the configuration names them: firm register, four
+// material databases, set of BOM lists. One instance for the whole run.
+#pragma once
+
+#include "data/configStruct.h"
+#include "data/kiv_mat_bomsStruct.h"
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/kiv_mat_firmStruct.h"
+#include "data/ktmIndex.h"
+#include "util/progress.h"
+
+#include <array>
+
+class programData
+{
+public:
+    static programData &instance();
+
+    // In the order in which they are loaded and searched.
+    enum databaseKind
+    {
+        warehouse,
+        service,
+        mechanics,
+        author,
+        databaseCount
+    };
+
+    // Each reads one file. A file that is missing or invalid is listed in the errors window, with
+    // the place of its first fault; loading goes on without it. A missing one is made anew with
+    // default content, a corrupt one stays as it is. The configuration is read first: without it no
+    // other file has a name. A database or the BOM set is left out when its LOAD_ option says no.
+    // The folder for backups is settled with the configuration.
+    void loadConfiguration();
+    void loadFirm(const progressFunction &progress = {});
+    void loadDatabase(databaseKind kind, const progressFunction &progress = {});
+    void loadBoms();
+
+    // Puts another configuration in use; false, with the old one kept, when the file cannot be
+    // read.
+    bool replaceConfiguration(const QString &path);
+
+    configStruct &config() { return *m_config; }
+    kiv_mat_firmStruct &firm() { return *m_firm; }
+    kiv_mat_databaseStruct &database(databaseKind kind) { return *m_databases[kind]; }
+    kiv_mat_bomsStruct &boms() { return *m_boms; }
+    // All materials of the databases.
+    ktmIndex &materials() { return m_materials; }
+
+    // Everything empty again, as before the first load.
+    void clear();
+
+private:
+    programData() { clear(); }
+
+    bool isSwitchedOff(QLatin1String loadKey) const;
+    bool readInto(documentStruct &record, const QString &path, const progressFunction &progress);
+
+    std::unique_ptr<configStruct> m_config;
+    std::unique_ptr<kiv_mat_firmStruct> m_firm;
+    std::array<std::unique_ptr<kiv_mat_databaseStruct>, databaseCount> m_databases;
+    std::unique_ptr<kiv_mat_bomsStruct> m_boms;
+    ktmIndex m_materials;
+    bool m_schemasReported = false;
+};
+
+// Checks a file against its kind's schema, or remembers that it was valid, and reads it. error, if
+// given, gets the first fault with its place. True when all of it was read; else the record may
+// hold a part.
+bool readChecked(const QString &path, documentStruct *record, QString *error = nullptr,
+                 const progressFunction &progress = {});

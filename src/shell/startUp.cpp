@@ -1,0 +1,119 @@
+#include "shell/startUp.h"
+
+#include "shell/MainWindow.h"
+#include "shell/MyProxyStyle.h"
+#include "shell/cleanScript.h"
+#include "shell/startupDialog.h"
+#include "shell/userState.h"
+#include "util/dataFolder.h"
+#include "util/files.h"
+#include "util/localeSetup.h"
+#include "util/messages.h"
+#include "util/paths.h"
+#include "util/translation.h"
+#include "window/dialogPrompts.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+const QString styleFile = QStringLiteral("style.qss");
+bool styleIsFaulty = false;
+QtMessageHandler earlierHandler = nullptr;
+
+// Qt tells of a faulty style sheet only here, when it is first used.
+void noteStyleFaults(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (text.contains(QLatin1String("Could not parse"))
+        && text.contains(QLatin1String("stylesheet")))
+        styleIsFaulty = true;
+    else if (earlierHandler)
+        earlierHandler(type, context, text);
+}
+
+void applyStyleSheet()
+{
+    QFile file(styleFile);
+    if (file.exists() && file.open(QIODevice::ReadOnly | QIODevice::Text))
+        qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+}
+
+// A program that cannot write beside itself works in a folder of the user's.
+void settleDataFolder()
+{
+    const dataFolder::choice choice = dataFolder::choose(
+        paths::programDir(), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    if (!choice.perUser)
+        return;
+    paths::setDataDir(choice.dir);
+    userPrompts().log(
+        QCoreApplication::translate("log", "The program's folder cannot be written; working in ")
+        + QLatin1String("<b>") + choice.dir.toHtmlEscaped() + QLatin1String("</b><br>"));
+    for (const QString &file : choice.copied)
+        userPrompts().log(
+            messages::done(QCoreApplication::translate("log", "Copy file"), file, messages::ok()));
+    for (const QString &file : choice.failed)
+        userPrompts().listError(messages::failed(QCoreApplication::translate("log", "Copy file"),
+                                                 file, messages::error()));
+}
+
+} // namespace
+
+int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &whenShown)
+{
+    ensureUtf8Locale();
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("KivZP"));
+    QCoreApplication::setOrganizationName(QStringLiteral("VELT"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("velt.example"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KIVZP_VERSION));
+
+    userState &state = userState::instance();
+    state.load();
+    if (!state.runningMarker.isEmpty())
+        state.lastZp.clear();
+    state.runningMarker = QStringLiteral("1");
+
+    QApplication::setStyle(new MyProxyStyle);
+    styleIsFaulty = false;
+    earlierHandler = qInstallMessageHandler(noteStyleFaults);
+    applyStyleSheet();
+    translation::install(QStringLiteral("pl"));
+    dialogPrompts dialogs;
+    installPrompts(&dialogs);
+
+    auto dialog = std::make_unique<startupDialog>();
+    splash::hold(dialog.get());
+    constexpr int stepsBeforeLoading = 10;
+    splash::setProgress(0, stepsBeforeLoading);
+    splash::show();
+    QCoreApplication::processEvents();
+    paths::temporaryDir();
+    settleDataFolder();
+
+    auto window = std::make_unique<MainWindow>();
+    window->show();
+    cleanScript::run(cleanScript::ofProgram());
+    dialog->finish(window.get());
+    splash::hold(nullptr);
+    dialog.reset();
+    if (styleIsFaulty) {
+        userPrompts().listError(
+            messages::failed(messages::fileCorrupted(), QFileInfo(styleFile).absoluteFilePath()));
+        userPrompts().showErrors();
+    }
+    if (whenShown)
+        whenShown(*window);
+
+    const int code = QApplication::exec();
+
+    state.runningMarker.clear();
+    state.save();
+    files::removeFolder(paths::temporaryDir());
+    window.reset();
+    installPrompts(nullptr);
+    qInstallMessageHandler(earlierHandler);
+    return code;
+}

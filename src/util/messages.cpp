@@ -1,0 +1,53 @@
+#include "util/messages.h"
+
+#include <QCoreApplication>
+
+// The texts stand as they are in lines whose subject follows at once; the catalogues of both
+// languages end them with a blank.
+#define MESSAGE(name, text)                                                                        \
+    QString name() { return QCoreApplication::translate("log", text); }
+
+namespace messages {
+
+MESSAGE(openFile, QT_TRANSLATE_NOOP("log", "Open file"))
+MESSAGE(saveFile, QT_TRANSLATE_NOOP("log", "Save file"))
+MESSAGE(printToFile, QT_TRANSLATE_NOOP("log", "Print to file"))
+MESSAGE(fileCorrupted, QT_TRANSLATE_NOOP("log", "File does not exist or corrupted"))
+MESSAGE(createDefaultFile, QT_TRANSLATE_NOOP("log", "Create default file"))
+MESSAGE(ok, QT_TRANSLATE_NOOP("log", "Ok"))
+MESSAGE(error, QT_TRANSLATE_NOOP("log", "Error"))
+MESSAGE(notExists, QT_TRANSLATE_NOOP("log", "Not exists"))
+
+namespace {
+
+QString bold(const QString &subject)
+{
+    return QLatin1String("<b>") + subject.toHtmlEscaped() + QLatin1String("</b>");
+}
+
+QString bracketed(const QString &reason)
+{
+    return QLatin1Char('[') + reason.toHtmlEscaped().replace(QChar::Nbsp, QLatin1String("&nbsp;"))
+           + QLatin1Char(']');
+}
+
+} // namespace
+
+QString done(const QString &text, const QString &subject, const QString &reason)
+{
+    return text + bold(subject) + QLatin1Char(' ') + bracketed(reason) + QLatin1String("<br>");
+}
+
+QString failed(const QString &text, const QString &subject, const QString &reason)
+{
+    return text + bold(subject)
+           + (reason.isEmpty() ? QString() : QLatin1String("&nbsp;") + bracketed(reason))
+           + QLatin1String("<br>");
+}
+
+QString consequence(const QString &text, const QString &subject)
+{
+    return text + QLatin1String("&nbsp;") + bracketed(subject) + QLatin1String("<br>");
+}
+
+} // namespace messages

@@ -1,0 +1,30 @@
+// The lines of the log and errors windows: a text, its subject in bold, a reason in brackets.
+// Subjects and reasons are plain text and are escaped here.
+#pragma once
+
+#include <QString>
+
+namespace messages {
+
+// The texts that such lines begin with, in the user's language.
+QString openFile();
+QString saveFile();
+QString printToFile();
+QString fileCorrupted();
+QString createDefaultFile();
+
+// Result words.
+QString ok();
+QString error();
+QString notExists();
+
+// text<b>subject</b> [reason]<br>: what was done, for the log.
+QString done(const QString &text, const QString &subject, const QString &reason);
+
+// text<b>subject</b>&nbsp;[reason]<br>: a failure; the brackets only when there is a reason.
+QString failed(const QString &text, const QString &subject, const QString &reason = {});
+
+// text&nbsp;[subject]<br>: what came of the line before.
+QString consequence(const QString &text, const QString &subject);
+
+} // namespace messages

@@ -1,0 +1,18 @@
+// The prompts of the program with windows: message boxes, file dialogs, the log and errors windows.
+#pragma once
+
+#include "util/prompts.h"
+
+class dialogPrompts : public prompts
+{
+public:
+    void showError(const QString &html) override;
+    void showInformation(const QString &html) override;
+    answer ask(const QString &html, bool withCancel) override;
+    QString openFile(const QString &title, const QString &directory,
+                     const QString &filter) override;
+    QString saveFile(const QString &title, const QString &proposed, const QString &filter) override;
+    void log(const QString &html) override;
+    void listError(const QString &html) override;
+    void showErrors() override;
+};

@@ -1,0 +1,136 @@
+// Pictures of the program's windows on its sample data, taken without a display:
+//   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
+// writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
+#include "dialogs/aboutDialog.h"
+#include "shell/MainWindow.h"
+#include "shell/MyProxyStyle.h"
+#include "shell/logos.h"
+#include "shell/startupDialog.h"
+#include "shell/userState.h"
+#include "util/localeSetup.h"
+#include "util/messages.h"
+#include "util/paths.h"
+#include "util/prompts.h"
+#include "util/translation.h"
+#include "window/messageWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+
+#include <cstdio>
+
+namespace {
+
+// What the pictures show in the log and errors windows; boxes are not opened.
+class picturePrompts : public prompts
+{
+public:
+    void log(const QString &html) override { logWindow::instance().append(html); }
+    void listError(const QString &html) override { errorsWindow::instance().append(html); }
+};
+
+struct picture
+{
+    const char *name;
+    QWidget *(*show)(MainWindow &window);
+};
+
+QWidget *showLog(MainWindow &)
+{
+    userPrompts().log(messages::done(messages::printToFile(), QStringLiteral("zp_0.pdf"),
+                                     paths::data(QStringLiteral("_zp/zp_0.pdf"))));
+    logWindow::instance().showNow();
+    return &logWindow::instance();
+}
+
+QWidget *showErrors(MainWindow &)
+{
+    const QString path = paths::data(QStringLiteral("_files/db_author.xml"));
+    userPrompts().listError(messages::failed(messages::fileCorrupted(), path));
+    userPrompts().listError(messages::consequence(messages::createDefaultFile(), path));
+    errorsWindow::instance().showNow();
+    return &errorsWindow::instance();
+}
+
+QWidget *showSplash(MainWindow &)
+{
+    auto *dialog = new startupDialog;
+    dialog->setProgress(6, 9);
+    dialog->show();
+    return dialog;
+}
+
+QWidget *showAbout(MainWindow &window)
+{
+    auto *dialog = new aboutDialog(logos::logo(), &window);
+    dialog->show();
+    return dialog;
+}
+
+const picture pictures[] = {
+    {"main", [](MainWindow &window) -> QWidget * { return &window; }},
+    {"splash", showSplash},
+    {"log", showLog},
+    {"errors", showErrors},
+    {"about", showAbout},
+};
+
+void settle()
+{
+    constexpr int settleMs = 300;
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < settleMs)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, settleMs);
+}
+
+void silence(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ensureUtf8Locale();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(silence);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("KivZP"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KIVZP_VERSION));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 4) {
+        std::fprintf(stderr,
+                     "usage: kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER pl|en [NAME...]\n");
+        return 2;
+    }
+    paths::setProgramDir(QDir(arguments.at(1)).absolutePath());
+    const QDir out(arguments.at(2));
+    const QString language = arguments.at(3);
+    const QStringList wanted = arguments.mid(4);
+    translation::install(language);
+    QApplication::setStyle(new MyProxyStyle);
+    picturePrompts shown;
+    installPrompts(&shown);
+    userState::instance().lastZp = QStringLiteral("_zp/zp_0.xml");
+
+    MainWindow window;
+    window.show();
+    int code = QDir().mkpath(out.path()) ? 0 : 3;
+    for (const picture &one : pictures) {
+        if (!wanted.isEmpty() && !wanted.contains(QLatin1String(one.name)))
+            continue;
+        QWidget *widget = one.show(window);
+        settle();
+        const QString file =
+            out.filePath(QStringLiteral("%1.%2.png").arg(QLatin1String(one.name), language));
+        if (!widget->grab().save(file)) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+            code = 3;
+        }
+        if (widget != &window)
+            widget->hide();
+    }
+    installPrompts(nullptr);
+    return code;
+}
