@@ -83,6 +83,14 @@
         <source>Not exists</source>
         <translation>Not exists</translation>
     </message>
+    <message>
+        <source>No font with Polish letters is installed </source>
+        <translation>No font with Polish letters is installed </translation>
+    </message>
+    <message>
+        <source>The settings cannot be written </source>
+        <translation>The settings cannot be written </translation>
+    </message>
 </context>
 <context>
     <name>options</name>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>IPCtrl</name>
+    <message>
+        <source>Part %1 of the address</source>
+        <translation>Część %1 adresu</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Order</source>
@@ -254,6 +261,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Writes the report of an order as HTML or PDF.</source>
         <translation>Zapisuje raport zamówienia jako HTML lub PDF.</translation>
     </message>
+    <message>
+        <source>the schema %1 is missing</source>
+        <translation>brakuje schematu %1</translation>
+    </message>
 </context>
 <context>
     <name>data</name>
@@ -288,6 +299,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>without the schemas no file is checked and opened</source>
         <translation>bez schematów żaden plik nie jest sprawdzany ani otwierany</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>nie jest plikiem</translation>
+    </message>
+    <message>
+        <source>a tag has too many attributes</source>
+        <translation>znacznik ma zbyt wiele atrybutów</translation>
     </message>
 </context>
 <context>
@@ -898,12 +917,31 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Not exists</source>
         <translation>Nie istnieje</translation>
     </message>
+    <message>
+        <source>No font with Polish letters is installed </source>
+        <translation>Nie zainstalowano czcionki z polskimi literami </translation>
+    </message>
+    <message>
+        <source>The settings cannot be written </source>
+        <translation>Nie można zapisać ustawień </translation>
+    </message>
 </context>
 <context>
     <name>logWindow</name>
     <message>
         <source>Log</source>
         <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
+    <name>myCalendarWidget</name>
+    <message>
+        <source>Set</source>
+        <translation>Ustaw</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
     </message>
 </context>
 <context>
@@ -1095,6 +1133,69 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Asking</source>
         <translation>Pytanie</translation>
+    </message>
+</context>
+<context>
+    <name>richtexteditDialog</name>
+    <message>
+        <source>Edit text</source>
+        <translation>Edycja tekstu</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Pogrubienie</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursywa</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Podkreślenie</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kolor</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Numbered list</source>
+        <translation>Lista numerowana</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Do lewej</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Do środka</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Do prawej</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Odnośnik</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
     </message>
 </context>
 <context>

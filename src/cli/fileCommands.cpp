@@ -11,6 +11,7 @@
 #include "data/loaders.h"
 #include "report/orderReport.h"
 #include "util/numbers.h"
+#include "util/paths.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -86,6 +87,9 @@ std::unique_ptr<documentStruct> read(const QString &path)
     QString error;
     if (loadDocument(path, document.get(), &error) == 0)
         return document;
+    const QString schema = paths::schema(kind->schema);
+    if (error.isEmpty() && !QFileInfo::exists(schema))
+        error = QCoreApplication::translate("cli", "the schema %1 is missing").arg(schema);
     // The configuration's schema errors have been shown already.
     if (!error.isEmpty())
         err() << path << ": " << error << '\n' << Qt::flush;

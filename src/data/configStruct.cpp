@@ -103,7 +103,11 @@ void configStruct::setDefaults()
     }
 }
 
-bool configStruct::load(const QString &path) { return loadConfig(path, this) == 0; }
+bool configStruct::load(const QString &path)
+{
+    // The loader is content with a file that has no configuration in it.
+    return fileKinds::ofFile(path) == &fileKinds::config && loadConfig(path, this) == 0;
+}
 
 bool configStruct::save(const QString &path) const { return saveXmlNoEvents(path, this) == 0; }
 

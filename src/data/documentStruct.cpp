@@ -1,13 +1,16 @@
 #include "data/documentStruct.h"
 
-#include <QFile>
+#include "util/progressFile.h"
+
+#include <QFileInfo>
 
 namespace fileKinds {
 
 const fileKind *ofFile(const QString &filePath)
 {
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly))
+    progressFile file(filePath, {});
+    // A pipe or a device would be waited for.
+    if (!QFileInfo(filePath).isFile() || !file.open(QIODevice::ReadOnly))
         return nullptr;
     QXmlStreamReader reader(&file);
     if (!readToElement(&reader))

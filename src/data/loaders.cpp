@@ -23,6 +23,11 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
     record->filePath = filePath;
     // Not in text mode: that would drop bytes of UTF-16 files, and XML settles line ends itself.
     progressFile file(filePath, progress);
+    if (QFileInfo::exists(filePath) && !QFileInfo(filePath).isFile()) {
+        if (error)
+            *error = QCoreApplication::translate("data", "is no file");
+        return -1;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         if (error)
             *error = file.errorString();
@@ -47,7 +52,7 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
         *error = QCoreApplication::translate("data", "line %1, column %2: %3")
                      .arg(reader.lineNumber())
                      .arg(reader.columnNumber())
-                     .arg(reader.errorString());
+                     .arg(file.tooManyAttributes() ? tooManyAttributes() : reader.errorString());
     return reader.hasError() ? -1 : 0;
 }
 

@@ -34,18 +34,22 @@ void setError(QString *error, const QString &text)
 } // namespace
 
 bool readChecked(const QString &path, documentStruct *record, QString *error,
-                 const progressFunction &progress)
+                 const progressFunction &progress, bool showMessages)
 {
     const QString schema = paths::schema(record->kind().schema);
     if (!validFiles::contains(path, schema)) {
         XmlValidator validator;
-        if (!validator.validate(path, schema, false, progress)) {
+        if (!validator.validate(path, schema, showMessages, progress)) {
             const QVector<validationMessage> &messages = validator.details().messages;
-            if (!messages.isEmpty())
-                setError(error, QCoreApplication::translate("data", "line %1, column %2: %3")
-                                    .arg(messages.first().line)
-                                    .arg(messages.first().column)
-                                    .arg(messages.first().text));
+            if (messages.isEmpty())
+                return false;
+            const validationMessage &first = messages.first();
+            setError(error, first.line == 0
+                                ? first.text
+                                : QCoreApplication::translate("data", "line %1, column %2: %3")
+                                      .arg(first.line)
+                                      .arg(first.column)
+                                      .arg(first.text));
             return false;
         }
         validFiles::remember(path, schema);
@@ -79,6 +83,7 @@ void programData::clear()
 void programData::loadConfiguration()
 {
     const QString path = paths::config();
+    schemaIsThere(fileKinds::config);
     auto config = std::make_unique<configStruct>();
     const bool missing = !QFileInfo::exists(path);
     bool onDisk = !missing && config->load(path);
@@ -115,6 +120,20 @@ bool programData::isSwitchedOff(QLatin1String loadKey) const
     return m_config->options.findOption(loadKey) && !m_config->isOn(loadKey);
 }
 
+// Said once: without schemas every file is refused.
+bool programData::schemaIsThere(const fileKind &kind)
+{
+    const QString schema = paths::schema(kind.schema);
+    if (QFileInfo::exists(schema))
+        return true;
+    if (!std::exchange(m_schemasReported, true))
+        userPrompts().listError(
+            messages::failed(messages::fileCorrupted(), schema,
+                             QCoreApplication::translate(
+                                 "data", "without the schemas no file is checked and opened")));
+    return false;
+}
+
 bool programData::readInto(documentStruct &record, const QString &path,
                            const progressFunction &progress)
 {
@@ -124,17 +143,8 @@ bool programData::readInto(documentStruct &record, const QString &path,
             userPrompts().listError(messages::consequence(messages::createDefaultFile(), path));
         return true;
     }
-    const QString schema = paths::schema(record.kind().schema);
-    if (!QFileInfo::exists(schema)) {
-        // Said once: without schemas every file is refused.
-        if (!m_schemasReported)
-            userPrompts().listError(
-                messages::failed(messages::fileCorrupted(), schema,
-                                 QCoreApplication::translate(
-                                     "data", "without the schemas no file is checked and opened")));
-        m_schemasReported = true;
+    if (!schemaIsThere(record.kind()))
         return false;
-    }
     QString reason;
     if (readChecked(path, &record, &reason, progress))
         return true;

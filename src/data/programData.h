@@ -36,6 +36,9 @@ public:
     void loadDatabase(databaseKind kind, const progressFunction &progress = {});
     void loadBoms();
 
+    // Whether the schema of a kind is there. The first one that is missing is listed.
+    bool schemaIsThere(const fileKind &kind);
+
     // Puts another configuration in use; false, with the old one kept, when the file cannot be
     // read.
     bool replaceConfiguration(const QString &path);
@@ -65,7 +68,7 @@ private:
 };
 
 // Checks a file against its kind's schema, or remembers that it was valid, and reads it. error, if
-// given, gets the first fault with its place. True when all of it was read; else the record may
-// hold a part.
+// given, gets the first fault with its place; showMessages shows every fault in a box. True when
+// all of it was read; else the record may hold a part.
 bool readChecked(const QString &path, documentStruct *record, QString *error = nullptr,
-                 const progressFunction &progress = {});
+                 const progressFunction &progress = {}, bool showMessages = false);

@@ -85,6 +85,11 @@ void refuseTheUnreadable(runState &state)
     const xmlParserInput *input = state.parser->input;
     if (state.file.cancelled())
         state.result.refusedOutright = true;
+    if (state.file.tooManyAttributes()) {
+        state.result.refusedOutright = true;
+        state.add(input ? input->line : 0, input ? input->col : 0, tooManyAttributes());
+        state.parser->wellFormed = 0;
+    }
     if (!state.parser->wellFormed || !input)
         return;
     const QLatin1String version(reinterpret_cast<const char *>(state.parser->version));

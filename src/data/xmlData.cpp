@@ -70,6 +70,11 @@ bool readToElement(QXmlStreamReader *reader, const QString &name)
     return false;
 }
 
+QString tooManyAttributes()
+{
+    return QCoreApplication::translate("data", "a tag has too many attributes");
+}
+
 QString documentTypeRefused()
 {
     return QCoreApplication::translate("data", "document type declarations are not allowed");

@@ -64,6 +64,8 @@ bool readToElement(QXmlStreamReader *reader, const QString &name = {});
 
 // The message of that refusal.
 QString documentTypeRefused();
+// What to say of a file in which a tag has thousands of attributes.
+QString tooManyAttributes();
 
 // The value of the first attribute with that local name, whatever its prefix; empty if none.
 QString attributeValue(QXmlStreamReader *reader, const QString &localName);

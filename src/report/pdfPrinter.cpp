@@ -21,10 +21,11 @@ constexpr int bandHeight = 804;   // layout pixels of content on a page
 constexpr int footBaseline = 834; // of the line under the band
 constexpr int borderRoom = 2;     // keeps the captions' upper border off the page before
 constexpr int headingRoom = 40;   // what follows a heading on its page
+constexpr int titleLeft = 20;
 constexpr int pageNumberLeft = 1100;
 constexpr qreal footPointSize = 0.7;
 
-// Gives the view the printing width and its own back at the end.
+// Gives the view the printing width, unzoomed, and its own back at the end.
 class fixedWidth
 {
 public:
@@ -33,7 +34,9 @@ public:
         , m_minimum(view->minimumWidth())
         , m_maximum(view->maximumWidth())
         , m_viewport(view->page()->viewportSize())
+        , m_zoom(view->zoomFactor())
     {
+        view->setZoomFactor(1.0);
         view->setMinimumWidth(pageWidth);
         view->setMaximumWidth(pageWidth);
         // A view that was never shown has not told its page the new width.
@@ -44,6 +47,7 @@ public:
         m_view->setMinimumWidth(m_minimum);
         m_view->setMaximumWidth(m_maximum);
         m_view->page()->setViewportSize(m_viewport);
+        m_view->setZoomFactor(m_zoom);
     }
     Q_DISABLE_COPY(fixedWidth)
 
@@ -52,6 +56,7 @@ private:
     int m_minimum;
     int m_maximum;
     QSize m_viewport;
+    qreal m_zoom;
 };
 
 // Where the page begins that follows the one with this place.
@@ -232,7 +237,7 @@ bool paintPages(QPrinter &printer, QWebFrame *frame, const QString &title,
         painter.restore();
         painter.setPen(Qt::black);
         painter.setFont(font);
-        painter.drawText(0, top + footBaseline, title);
+        painter.drawText(titleLeft, top + footBaseline, title);
         painter.drawText(pageNumberLeft, top + footBaseline,
                          QCoreApplication::translate("pdfPrinter", "Page no:") + QLatin1Char(' ')
                              + QString::number(page + 1));
@@ -267,10 +272,9 @@ QString pdfPath(const QString &chosen)
     return chosen.contains(QLatin1String(".pdf")) ? chosen : chosen + QLatin1String(".pdf");
 }
 
-bool printPdf(QWebView *view, const QString &chosenPath, const QString &title,
+bool printPdf(QWebView *view, const QString &path, const QString &title,
               const progressFunction &progress)
 {
-    const QString path = pdfPath(chosenPath);
     // A bad place is told before the long work.
     if (!safeFile(path).open(QIODevice::WriteOnly))
         return false;

@@ -7,7 +7,7 @@
 
 class QWebView;
 
-// The file that printPdf() writes for a chosen name: ".pdf" is added when the name has none.
+// The file to print to for a name chosen in a dialog: ".pdf" is added when the name has none.
 QString pdfPath(const QString &chosen);
 
 // Prints the page of the view on A4 landscape, 1200 pixels of the page across the paper, whatever
@@ -17,5 +17,5 @@ QString pdfPath(const QString &chosen);
 // neither a printer nor a display.
 // False, with an existing file untouched, when the file cannot be written or printing was
 // cancelled.
-bool printPdf(QWebView *view, const QString &chosenPath, const QString &title,
+bool printPdf(QWebView *view, const QString &path, const QString &title,
               const progressFunction &progress = {});

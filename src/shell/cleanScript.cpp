@@ -56,12 +56,17 @@ QString removed(bool exists, const QString &path, const environment &env,
 QString removeFile(const QString &path, const environment &env)
 {
     const QFileInfo info(path);
-    return removed(info.isFile() || info.isSymLink(), path, env, files::removeFile);
+    // A link is removed itself, wherever it leads.
+    return removed(info.isFile() || info.isSymLink(), path, env,
+                   [](const QString &file) { return QFile::remove(file); });
 }
 
 QString removeDirectory(const QString &path, const environment &env)
 {
-    return removed(!path.isEmpty() && QDir(path).exists(), path, env, files::removeFolder);
+    return removed(!path.isEmpty() && QDir(path).exists(), path, env, [](const QString &folder) {
+        // What a link leads to is not removed through it.
+        return !QFileInfo(folder).isSymLink() && files::removeFolder(folder);
+    });
 }
 
 QString openHelp(const QString &path, const environment &env)

@@ -17,11 +17,12 @@ orderDocument &orderDocument::instance()
     return document;
 }
 
-bool orderDocument::load(const QString &path)
+bool orderDocument::load(const QString &path, bool showMessages)
 {
     auto order = std::make_unique<kiv_mat_zpStruct>();
     QString reason;
-    const bool read = readChecked(path, order.get(), &reason);
+    const bool read = programData::instance().schemaIsThere(fileKinds::order)
+                      && readChecked(path, order.get(), &reason, {}, showMessages);
     m_order = read ? std::move(order) : std::make_unique<kiv_mat_zpStruct>();
     m_path = read ? path : QString();
     if (read)

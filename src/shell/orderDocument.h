@@ -14,9 +14,9 @@ public:
     // The path of the order's file; empty when it has none.
     const QString &path() const { return m_path; }
 
-    // Checks and reads a file. True when it was read; else it is listed in the errors window, and
-    // the document is empty and without a path.
-    bool load(const QString &path);
+    // Checks and reads a file; showMessages shows each fault in a box. True when it was read; else
+    // it is listed in the errors window, and the document is empty and without a path.
+    bool load(const QString &path, bool showMessages = false);
 
     // The page of the order with the materials of the loaded databases, as it is now.
     QString report() const;

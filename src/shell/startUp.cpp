@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontMetrics>
 #include <QStandardPaths>
 
 namespace {
@@ -38,6 +39,20 @@ void applyStyleSheet()
     QFile file(styleFile);
     if (file.exists() && file.open(QIODevice::ReadOnly | QIODevice::Text))
         qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+}
+
+// Without a font for Polish, texts are rows of boxes.
+void listMissingLetters()
+{
+    const QFont font = QApplication::font();
+    const QFontMetrics metrics(font);
+    for (const QChar letter : QStringLiteral("ąćęłńóśźżĄĆĘŁŃÓŚŹŻ"))
+        if (!metrics.inFont(letter)) {
+            userPrompts().listError(messages::failed(
+                QCoreApplication::translate("log", "No font with Polish letters is installed "),
+                font.family()));
+            return;
+        }
 }
 
 // A program that cannot write beside itself works in a folder of the user's.
@@ -99,11 +114,15 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     dialog->finish(window.get());
     splash::hold(nullptr);
     dialog.reset();
-    if (styleIsFaulty) {
+    if (styleIsFaulty)
         userPrompts().listError(
             messages::failed(messages::fileCorrupted(), QFileInfo(styleFile).absoluteFilePath()));
-        userPrompts().showErrors();
-    }
+    if (const QString store = userState::unwritableStore(); !store.isEmpty())
+        userPrompts().listError(messages::failed(
+            QCoreApplication::translate("log", "The settings cannot be written "), store));
+    listMissingLetters();
+    // Over the main window, which has just come up.
+    userPrompts().showErrors();
     if (whenShown)
         whenShown(*window);
 

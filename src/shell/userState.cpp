@@ -22,6 +22,13 @@ void userState::load()
     altiumDir = settings.value(altiumDirKey).toString();
 }
 
+QString userState::unwritableStore()
+{
+    QSettings settings;
+    settings.sync();
+    return settings.isWritable() ? QString() : settings.fileName();
+}
+
 void userState::save() const
 {
     QSettings settings;

@@ -16,6 +16,8 @@ public:
     // application object has. What cannot be read has its default.
     void load();
     void save() const;
+    // The store's place when it cannot be written; empty when it can.
+    static QString unwritableStore();
 
 private:
     userState() = default;

@@ -28,6 +28,23 @@ prompts *installed = nullptr;
 void prompts::showError(const QString &) {}
 void prompts::showInformation(const QString &) {}
 prompts::answer prompts::ask(const QString &, bool) { return answer::no; }
+std::optional<QString> prompts::inputText(const QString &, const QString &, const QString &)
+{
+    return {};
+}
+
+std::optional<int> prompts::inputNumber(const QString &, const QString &, int, int, int)
+{
+    return {};
+}
+
+std::optional<QDate> prompts::inputDate(const QString &, const QDate &) { return {}; }
+
+std::optional<int> prompts::choose(const QString &, const QString &, const QStringList &, int)
+{
+    return {};
+}
+
 QString prompts::openFile(const QString &, const QString &, const QString &) { return {}; }
 QString prompts::saveFile(const QString &, const QString &, const QString &) { return {}; }
 void prompts::log(const QString &) {}

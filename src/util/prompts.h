@@ -3,7 +3,11 @@
 // the command line and the tests install their own answers.
 #pragma once
 
+#include <QDate>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 // By itself it shows nothing, answers every question with no and gives no file.
 class prompts
@@ -29,6 +33,16 @@ public:
     // A question under the title "Asking", with Yes and No, and Cancel when wanted. Closing the box
     // answers cancel, or no where there is no Cancel.
     virtual answer ask(const QString &html, bool withCancel);
+
+    // One value in a small dialog; nothing when the user gives none.
+    virtual std::optional<QString> inputText(const QString &title, const QString &label,
+                                             const QString &initial);
+    virtual std::optional<int> inputNumber(const QString &title, const QString &label, int initial,
+                                           int minimum, int maximum);
+    virtual std::optional<QDate> inputDate(const QString &title, const QDate &initial);
+    // The number of one of the texts.
+    virtual std::optional<int> choose(const QString &title, const QString &label,
+                                      const QStringList &texts, int initial);
 
     // A file to read or to write; empty when the user gave none. filter as in "Xml File (*.xml)".
     virtual QString openFile(const QString &title, const QString &directory, const QString &filter);

@@ -18,7 +18,8 @@ safeFile::safeFile(const QString &path)
 bool safeFile::open(OpenMode mode)
 {
     const QFileInfo info(m_file.fileName());
-    if (info.isDir() || !QDir().mkpath(info.absolutePath()))
+    // A folder, a pipe or a device is not replaced by a file.
+    if ((info.exists() && !info.isFile()) || !QDir().mkpath(info.absolutePath()))
         return false;
     // Line ends are translated once, by this device.
     if (!m_file.open(QIODevice::WriteOnly))

@@ -1,12 +1,17 @@
 #include "window/dialogPrompts.h"
 
 #include "util/labels.h"
+#include "util/text.h"
 #include "window/messageWindow.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -63,6 +68,53 @@ prompts::answer dialogPrompts::ask(const QString &html, bool withCancel)
     if (question.clickedButton() == yes)
         return answer::yes;
     return withCancel && question.clickedButton() == cancel ? answer::cancel : answer::no;
+}
+
+std::optional<QString> dialogPrompts::inputText(const QString &title, const QString &label,
+                                                const QString &initial)
+{
+    bool accepted = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), title, label,
+                                               QLineEdit::Normal, initial, &accepted);
+    return accepted ? std::optional(text::storable(text)) : std::nullopt;
+}
+
+std::optional<int> dialogPrompts::inputNumber(const QString &title, const QString &label,
+                                              int initial, int minimum, int maximum)
+{
+    bool accepted = false;
+    const int number = QInputDialog::getInt(QApplication::activeWindow(), title, label, initial,
+                                            minimum, maximum, 1, &accepted);
+    return accepted ? std::optional(number) : std::nullopt;
+}
+
+std::optional<QDate> dialogPrompts::inputDate(const QString &title, const QDate &initial)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(title);
+    auto *calendar = new QCalendarWidget(&dialog);
+    calendar->setDateRange(QDate::currentDate(), QDate::currentDate().addYears(1));
+    calendar->setSelectedDate(initial);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar->setAccessibleName(title);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    QObject::connect(calendar, &QCalendarWidget::activated, &dialog, &QDialog::accept);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(calendar);
+    layout->addWidget(buttons);
+    return dialog.exec() == QDialog::Accepted ? std::optional(calendar->selectedDate())
+                                              : std::nullopt;
+}
+
+std::optional<int> dialogPrompts::choose(const QString &title, const QString &label,
+                                         const QStringList &texts, int initial)
+{
+    bool accepted = false;
+    const QString text = QInputDialog::getItem(QApplication::activeWindow(), title, label, texts,
+                                               initial, false, &accepted);
+    return accepted ? std::optional(texts.indexOf(text)) : std::nullopt;
 }
 
 QString dialogPrompts::openFile(const QString &title, const QString &directory,

@@ -72,8 +72,9 @@ void tst_pdfPrinter::pagesRepeatCaptionsAndCutNoRow()
     }
     order.attentions = "<p>the attentions</p>";
     m_page->showHtml(orderReport(order, {}));
+    m_view->setZoomFactor(1.5);
     QVector<int> pages;
-    const QString path = m_folder->path("new folder/o");
+    const QString path = m_folder->path("new folder/o.pdf");
     QVERIFY(printPdf(m_view.get(), path, "the title", [&](int done, int total) {
         pages = {done, total};
         return true;
@@ -82,7 +83,7 @@ void tst_pdfPrinter::pagesRepeatCaptionsAndCutNoRow()
     QCOMPARE(pages[0], pages[1]);
     int lines = 0;
     for (int page = 1; page <= pages[1]; ++page) {
-        const QString text = textOf(path + ".pdf", page);
+        const QString text = textOf(path, page);
         QVERIFY(text.contains("the title"));
         QVERIFY(text.contains(QString("Page no: %1").arg(page)));
         const bool last = page == pages[1];
@@ -105,6 +106,7 @@ void tst_pdfPrinter::viewIsLeftAsItWas()
     m_view->setMinimumWidth(100);
     m_view->setMaximumWidth(2000);
     m_view->resize(700, 500);
+    m_view->setZoomFactor(1.5);
     kiv_mat_zpStruct order;
     for (int i = 0; i < 40; ++i)
         order.orderItems.append(std::make_unique<orderItemStruct>());
@@ -113,6 +115,7 @@ void tst_pdfPrinter::viewIsLeftAsItWas()
     QVERIFY(printPdf(m_view.get(), m_folder->path("o.pdf"), {}));
     QCOMPARE(m_view->minimumWidth(), 100);
     QCOMPARE(m_view->maximumWidth(), 2000);
+    QCOMPARE(m_view->zoomFactor(), 1.5);
     QCOMPARE(m_page->mainFrame()->toHtml(), before);
 }
 

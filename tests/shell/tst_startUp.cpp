@@ -106,7 +106,9 @@ void tst_startUp::faults_data()
     row("broken configuration", "", "_config/kiv_mat_config.xml", "<kiv_config",
         {corrupt + "@/_config/kiv_mat_config.xml [ config.xml ]"}, true);
     row("no schemas: said once", "_validator", "", "",
-        {"@/_config/kiv_mat_config.xml", "@/_zp/zp_0.xml"}, false);
+        {"@/_validator/", "@/_config/kiv_mat_config.xml", "@/_zp/zp_0.xml"}, false);
+    row("configuration of another root", "", "_config/kiv_mat_config.xml", "<kiv_confix/>",
+        {"@/_config/kiv_mat_config.xml"}, true);
     row("unreadable database", "", "_files/db_warehouse.xml", "nonsense",
         {corrupt + "@/_files/db_warehouse.xml [wiersz 1, kolumna 1"}, true);
     row("database of another kind", "", "_files/db_service.xml",
@@ -156,6 +158,9 @@ void tst_startUp::corruptFilesStayAsTheyAre()
     QCOMPARE(start().code, 7);
     for (const QString &file : files)
         QCOMPARE(testSupport::read(m_folder->path(file)), QByteArray("corrupt"));
+    m_folder->write(files.first(), "<kiv_confix/>");
+    QCOMPARE(start().code, 7);
+    QCOMPARE(testSupport::read(m_folder->path(files.first())), QByteArray("<kiv_confix/>"));
 }
 
 void tst_startUp::settingsAreReadAndWritten()

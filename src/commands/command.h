@@ -1,0 +1,18 @@
+// A change that a user made, kept so that it can be taken back and done again.
+#pragma once
+
+// Every subclass applies itself in its constructor: a stack never calls redo() on what it is given.
+// Neither call throws.
+class command
+{
+public:
+    command() = default;
+    command(const command &) = delete;
+    command &operator=(const command &) = delete;
+    virtual ~command() = default;
+
+    // Restores the state before the change. The base does nothing.
+    virtual void undo() {}
+    // Applies the change again. The base does nothing.
+    virtual void redo() {}
+};

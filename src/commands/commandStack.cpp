@@ -1,0 +1,87 @@
+#include "commands/commandStack.h"
+
+#include <QAction>
+
+namespace {
+
+void enable(QAction *action, bool on)
+{
+    if (action)
+        action->setEnabled(on);
+}
+
+// From the last one on: later commands may look at what earlier ones hold.
+template <class Steps>
+void discard(Steps &steps)
+{
+    while (!steps.empty())
+        steps.pop_back();
+}
+
+} // namespace
+
+commandStack::commandStack(QAction *undoAction, QAction *redoAction)
+    : m_undoAction(undoAction)
+    , m_redoAction(redoAction)
+{
+    enable(m_undoAction, false);
+    enable(m_redoAction, false);
+}
+
+commandStack::~commandStack()
+{
+    discard(m_done);
+    discard(m_undone);
+}
+
+void commandStack::push(std::unique_ptr<command> applied, const QString &what)
+{
+    m_done.push_back({std::move(applied), what});
+    clearRedo();
+    enable(m_redoAction, false);
+    enable(m_undoAction, true);
+}
+
+QString commandStack::undo()
+{
+    QString what;
+    if (!m_done.empty()) {
+        step last = std::move(m_done.back());
+        m_done.pop_back();
+        if (last.change)
+            last.change->undo();
+        what = last.what;
+        m_undone.push_back(std::move(last));
+        enable(m_redoAction, true);
+    }
+    if (m_done.empty())
+        enable(m_undoAction, false);
+    return what;
+}
+
+QString commandStack::redo()
+{
+    QString what;
+    if (!m_undone.empty()) {
+        step last = std::move(m_undone.back());
+        m_undone.pop_back();
+        if (last.change)
+            last.change->redo();
+        what = last.what;
+        m_done.push_back(std::move(last));
+        enable(m_undoAction, true);
+    }
+    if (m_undone.empty())
+        enable(m_redoAction, false);
+    return what;
+}
+
+void commandStack::clear()
+{
+    discard(m_done);
+    discard(m_undone);
+    enable(m_undoAction, false);
+    enable(m_redoAction, false);
+}
+
+void commandStack::clearRedo() { discard(m_undone); }

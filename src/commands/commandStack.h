@@ -1,0 +1,51 @@
+// The undo history of one editing window.
+#pragma once
+
+#include "commands/command.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class QAction;
+
+class commandStack
+{
+public:
+    // The window's two actions, which outlive the stack or are null; both are disabled at once and
+    // then follow what can be undone and redone.
+    commandStack(QAction *undoAction, QAction *redoAction);
+    ~commandStack();
+    commandStack(const commandStack &) = delete;
+    commandStack &operator=(const commandStack &) = delete;
+
+    // Takes a command that is already applied, and discards what could be redone. what names the
+    // change to the user. A null command stands for one that could not be made: it takes its step
+    // and does nothing.
+    void push(std::unique_ptr<command> applied, const QString &what = {});
+
+    // Take back the last change, do the last one taken back again. Return its name; nothing happens
+    // when there is none.
+    QString undo();
+    QString redo();
+
+    // Discards everything; only what could be redone.
+    void clear();
+    void clearRedo();
+
+    size_t undoCount() const { return m_done.size(); }
+    size_t redoCount() const { return m_undone.size(); }
+
+private:
+    struct step
+    {
+        std::unique_ptr<command> change;
+        QString what;
+    };
+
+    std::vector<step> m_done;   // the last one is the most recent
+    std::vector<step> m_undone; // the last one is the most recently undone
+    QAction *m_undoAction;
+    QAction *m_redoAction;
+};

@@ -1,0 +1,268 @@
+#include "commands/editCommands.h"
+
+#include "tree/myModel.h"
+
+#include <algorithm>
+#include <numeric>
+
+using myItem::myItemStandard;
+using myItem::row;
+
+namespace {
+
+myModel *modelOf(QStandardItem *item) { return qobject_cast<myModel *>(item->model()); }
+
+// Rows below a parent whose own rows are still to be made would come before them.
+void fetchFirst(QStandardItem *parent)
+{
+    if (myModel *model = modelOf(parent))
+        model->fetch(parent);
+}
+
+// At the end when the parent has fewer rows. Returns where the row is.
+int putIn(QStandardItem *parent, int at, const row &items)
+{
+    const int where = std::min(at, parent->rowCount());
+    if (myModel *model = modelOf(parent))
+        model->insertWithRecord(parent, where, items);
+    else
+        parent->insertRow(where, items);
+    return where;
+}
+
+row takeOut(QStandardItem *parent, int at)
+{
+    myModel *model = modelOf(parent);
+    return model ? model->takeWithRecord(parent, at) : parent->takeRow(at);
+}
+
+void writeCell(QStandardItem *item)
+{
+    myModel *model = modelOf(item);
+    if (model && item->type() >= myItem::standardKind)
+        model->writeCell(static_cast<myItemStandard *>(item));
+}
+
+} // namespace
+
+appendCommands::appendCommands(std::vector<std::unique_ptr<command>> members)
+    : m_members(std::move(members))
+{
+}
+
+appendCommands::~appendCommands()
+{
+    while (!m_members.empty())
+        m_members.pop_back();
+}
+
+void appendCommands::undo()
+{
+    const changeBatch batch;
+    for (auto member = m_members.rbegin(); member != m_members.rend(); ++member)
+        if (*member)
+            (*member)->undo();
+}
+
+void appendCommands::redo()
+{
+    const changeBatch batch;
+    for (const auto &member : m_members)
+        if (member)
+            member->redo();
+}
+
+appendItems::appendItems(QStandardItem *parent, const row &items)
+    : m_items(items)
+    , m_parent(parent)
+    , m_row(0)
+{
+    if (m_parent) {
+        fetchFirst(m_parent);
+        m_row = m_parent->rowCount();
+    }
+    appendItems::redo();
+}
+
+void appendItems::undo()
+{
+    if (m_parent)
+        m_items.hold(takeOut(m_parent, m_row));
+}
+
+void appendItems::redo()
+{
+    if (m_parent)
+        m_row = putIn(m_parent, m_row, m_items.release());
+}
+
+appendNewMaterial::appendNewMaterial(myModel *model, const row &items)
+    : m_model(model)
+    , m_items(items)
+    , m_row(model->rowCount())
+{
+    appendNewMaterial::redo();
+}
+
+void appendNewMaterial::undo()
+{
+    m_items.hold(m_model->takeWithRecord(m_model->invisibleRootItem(), m_row));
+    m_model->emitRemoveOccured();
+}
+
+void appendNewMaterial::redo()
+{
+    m_row = putIn(m_model->invisibleRootItem(), m_row, m_items.release());
+    m_model->emitAppendOccured();
+}
+
+changeRow::changeRow(QStandardItem *parent, int at, const row &items)
+    : m_parent(parent)
+    , m_new(items)
+    , m_row(at)
+{
+    changeRow::redo();
+}
+
+void changeRow::undo()
+{
+    m_new.hold(takeOut(m_parent, m_row));
+    putIn(m_parent, m_row, m_old.release());
+}
+
+void changeRow::redo()
+{
+    m_old.hold(takeOut(m_parent, m_row));
+    putIn(m_parent, m_row, m_new.release());
+}
+
+changeValue::changeValue(myModel *model, myItemStandard *item, const QVariant &value)
+    : m_model(model)
+    , m_item(item)
+    , m_new(value)
+{
+    changeValue::redo();
+}
+
+void changeValue::undo()
+{
+    myItem::restore(m_item, m_old, m_oldText);
+    written();
+}
+
+void changeValue::redo()
+{
+    m_old = myItem::valueOf(*m_item);
+    m_oldText = m_item->text();
+    myItem::setValue(m_item, m_new);
+    written();
+}
+
+void changeValue::written()
+{
+    m_model->writeCell(m_item);
+    m_model->emitChangeValueOccured();
+}
+
+deleteFromItem::deleteFromItem(QStandardItem *parent, QStandardItem *item)
+    : m_parent(parent)
+    , m_row(item->row())
+{
+    deleteFromItem::redo();
+}
+
+void deleteFromItem::undo() { putIn(m_parent, m_row, m_items.release()); }
+
+void deleteFromItem::redo() { m_items.hold(takeOut(m_parent, m_row)); }
+
+deleteMaterial::deleteMaterial(myModel *model, const QModelIndex &index)
+    : m_model(model)
+    , m_row(index.row())
+{
+    deleteMaterial::redo();
+}
+
+void deleteMaterial::undo()
+{
+    putIn(m_model->invisibleRootItem(), m_row, m_items.release());
+    m_model->emitAppendOccured();
+}
+
+void deleteMaterial::redo()
+{
+    m_items.hold(m_model->takeWithRecord(m_model->invisibleRootItem(), m_row));
+    m_model->emitRemoveOccured();
+}
+
+increaseValue::increaseValue(QStandardItem *item, unsigned step)
+    : m_item(item)
+    , m_old(item->text().toUInt())
+    , m_new(m_old + step)
+{
+    increaseValue::redo();
+}
+
+void increaseValue::undo() { set(m_old); }
+
+void increaseValue::redo() { set(m_new); }
+
+void increaseValue::set(unsigned value)
+{
+    const QString text = QString::number(value);
+    if (m_item->type() >= myItem::standardKind)
+        myItem::setStoredText(static_cast<myItemStandard *>(m_item), text);
+    else
+        m_item->setText(text);
+    writeCell(m_item);
+}
+
+sortOrderModel::sortOrderModel(myModel *model, int keyColumn)
+    : m_model(model)
+{
+    std::vector<std::pair<QString, QStandardItem *>> keyed;
+    for (int r = 0; r < model->rowCount(); ++r) {
+        QStandardItem *first = model->item(r);
+        const QStandardItem *key = model->item(r, keyColumn);
+        m_oldOrder.push_back(first);
+        keyed.emplace_back(key ? key->text() : QString(), first);
+    }
+    std::stable_sort(keyed.begin(), keyed.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    for (const auto &[key, first] : keyed)
+        m_newOrder.push_back(first);
+    sortOrderModel::redo();
+}
+
+void sortOrderModel::undo() { arrange(m_oldOrder); }
+
+void sortOrderModel::redo() { arrange(m_newOrder); }
+
+void sortOrderModel::arrange(const std::vector<QStandardItem *> &firstCells)
+{
+    QStandardItem *root = m_model->invisibleRootItem();
+    QHash<QStandardItem *, row> rows;
+    // From the last row on, where taking one moves none of the others.
+    for (int r = m_model->rowCount() - 1; r >= 0; --r) {
+        const row items = m_model->takeWithRecord(root, r);
+        if (!items.isEmpty())
+            rows.insert(items.first(), items);
+    }
+    for (QStandardItem *first : firstCells) {
+        const row items = rows.take(first);
+        if (items.isEmpty())
+            continue;
+        m_model->insertWithRecord(root, m_model->rowCount(), items);
+        first->setText(QString::number(m_model->rowCount()));
+        writeCell(first);
+    }
+}
+
+refreshHtml::refreshHtml(htmlView *view)
+    : m_view(view)
+{
+    refreshHtml::redo();
+}
+
+void refreshHtml::undo() { m_view->refreshHtml(); }
+
+void refreshHtml::redo() { m_view->refreshHtml(); }

@@ -1,0 +1,164 @@
+// A tree says its columns once. From such a table the rows of its records are made, cells are
+// written back to them, and the headers get their captions and widths.
+#pragma once
+
+#include "data/fieldTable.h"
+#include "tree/myModel.h"
+
+#include <functional>
+
+template <class Record>
+struct treeColumn
+{
+    QString key; // the cells' what's-this
+    QString label;
+    int width; // pixels
+    myItem::kind kind;
+    std::function<QString(const Record &)> read;
+    std::function<void(Record &, const QString &)> write; // none: the cell shows only
+    bool editable = true;
+    myItem::comboEntries entries = {}; // of combo boxes
+    bool canBeTyped = false;           // values beside the entries
+    int minimum = 0;                   // of spin boxes
+    int maximum = 0;
+    std::function<void(const Record &, myItem::myItemStandard *)> look = {}; // pictures, tool tips
+};
+
+template <class Record>
+using treeColumns = std::vector<treeColumn<Record>>;
+
+// The column of a record's text field, captioned as the field unless a label is given.
+template <class Record>
+treeColumn<Record> fieldColumn(const fieldTable<Record> &fields, const QString &key, int width,
+                               myItem::kind kind, bool editable, const QString &label = {})
+{
+    for (const textField<Record> &field : fields)
+        if (field.name == key)
+            return {key,
+                    label.isEmpty() && field.label ? field.label() : label,
+                    width,
+                    kind,
+                    [member = field.member](const Record &r) { return r.*member; },
+                    [member = field.member](Record &r, const QString &text) { r.*member = text; },
+                    editable};
+    Q_ASSERT_X(false, "fieldColumn", "the record has no such field");
+    return {};
+}
+
+// A cell of a kind, with its key, value range and choices, that holds a stored text.
+struct cellTraits
+{
+    QString key;
+    myItem::kind kind;
+    bool editable;
+    myItem::comboEntries entries;
+    bool canBeTyped;
+    int minimum;
+    int maximum;
+};
+myItem::myItemStandard *makeCell(const cellTraits &traits, const QString &stored);
+
+template <class Record>
+myItem::row makeRow(const treeColumns<Record> &columns, Record *record)
+{
+    myItem::row items;
+    for (const treeColumn<Record> &c : columns) {
+        myItem::myItemStandard *cell =
+            makeCell({c.key, c.kind, c.editable, c.entries, c.canBeTyped, c.minimum, c.maximum},
+                     c.read(*record));
+        if (c.look)
+            c.look(*record, cell);
+        items.append(cell);
+    }
+    if (!items.isEmpty())
+        static_cast<myItem::myItemStandard *>(items.first())->record = record;
+    return items;
+}
+
+// Keeps a list of records in step with the top-level rows of a model that shows them.
+template <class Record>
+class listRows : public modelRecords
+{
+public:
+    using recordList = std::vector<std::unique_ptr<Record>>;
+
+    explicit listRows(treeColumns<Record> columns)
+        : m_columns(std::move(columns))
+    {
+    }
+
+    const treeColumns<Record> &columns() const { return m_columns; }
+
+    // Shows another list, which outlives its use, in place of the one before.
+    void show(myModel *model, recordList *list)
+    {
+        m_list = list;
+        model->removeRows(0, model->rowCount());
+        for (const auto &record : *list)
+            model->appendRow(makeRow(m_columns, record.get()));
+    }
+
+    // The row of a record that is in no list yet, which the row owns.
+    myItem::row makeDetachedRow(std::unique_ptr<Record> record) const
+    {
+        const myItem::row items = makeRow(m_columns, record.get());
+        static_cast<myItem::myItemStandard *>(items.first())->ownedRecord = std::move(record);
+        return items;
+    }
+
+    static Record *recordOf(const myItem::myItemStandard *first)
+    {
+        return static_cast<Record *>(first->record);
+    }
+
+    void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) override
+    {
+        const treeColumn<Record> &c = m_columns.at(size_t(item->column()));
+        if (c.write)
+            c.write(*recordOf(first), item->text());
+        if (onChange)
+            onChange(item, first);
+    }
+
+    void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override
+    {
+        auto place = m_list->end();
+        if (row + 1 < parent->rowCount())
+            place = find(static_cast<myItem::myItemStandard *>(parent->child(row + 1)), row);
+        first->ownedRecord.release();
+        m_list->insert(place, std::unique_ptr<Record>(recordOf(first)));
+    }
+
+    void rowTaken(QStandardItem *, int row, myItem::myItemStandard *first) override
+    {
+        const auto place = find(first, row);
+        first->ownedRecord = std::move(*place);
+        m_list->erase(place);
+    }
+
+    // Called after a cell's text went to its record.
+    std::function<void(myItem::myItemStandard *item, myItem::myItemStandard *first)> onChange;
+
+private:
+    // A sorted tree shows the list in another order, so the row is only where to look first.
+    typename recordList::iterator find(const myItem::myItemStandard *first, int row)
+    {
+        if (size_t(row) < m_list->size() && (*m_list)[size_t(row)].get() == first->record)
+            return m_list->begin() + row;
+        return std::find_if(m_list->begin(), m_list->end(),
+                            [first](const auto &r) { return r.get() == first->record; });
+    }
+
+    treeColumns<Record> m_columns;
+    recordList *m_list = nullptr;
+};
+
+// Gives a model the captions of a table's columns.
+template <class Record>
+void setCaptions(myModel *model, const treeColumns<Record> &columns)
+{
+    QStringList captions;
+    for (const treeColumn<Record> &c : columns)
+        captions.append(c.label);
+    model->setHorizontalHeaderLabels(captions);
+}

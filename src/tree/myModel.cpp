@@ -1,0 +1,190 @@
+#include "tree/myModel.h"
+
+#include "commands/commandStack.h"
+#include "commands/editCommands.h"
+
+#include <QPointer>
+#include <QSignalBlocker>
+
+using myItem::myItemStandard;
+
+namespace {
+
+int openBatches = 0;
+// Models that wait for the end of the outermost batch.
+QVector<QPointer<myModel>> waiting;
+
+constexpr int sortKeyRole = Qt::UserRole + 100;
+
+// The keys are made for the sort alone: kept always, they would cost more memory than the texts.
+void setSortKeys(QStandardItem *parent, int column)
+{
+    for (int row = 0; row < parent->rowCount(); ++row) {
+        QStandardItem *item = parent->child(row, column);
+        if (item && item->type() >= myItem::standardKind)
+            item->setData(myItem::sortValue(*static_cast<myItemStandard *>(item)), sortKeyRole);
+        if (QStandardItem *first = parent->child(row, 0); first && first->hasChildren())
+            setSortKeys(first, column);
+    }
+}
+
+} // namespace
+
+myModel::myModel(QObject *parent)
+    : QStandardItemModel(parent)
+{
+    setSortRole(sortKeyRole);
+}
+
+void myModel::sort(int column, Qt::SortOrder order)
+{
+    if (column >= 0) {
+        const QSignalBlocker quiet(this);
+        setSortKeys(invisibleRootItem(), column);
+    }
+    QStandardItemModel::sort(column, order);
+    emit sorted();
+}
+
+bool myModel::hasChildren(const QModelIndex &parent) const
+{
+    return canFetchMore(parent) || QStandardItemModel::hasChildren(parent);
+}
+
+bool myModel::canFetchMore(const QModelIndex &parent) const
+{
+    const myItemStandard *item = cell(parent);
+    return item && parent.column() == 0 && item->childrenPending;
+}
+
+void myModel::fetchMore(const QModelIndex &parent)
+{
+    if (canFetchMore(parent))
+        fetch(itemFromIndex(parent));
+}
+
+void myModel::fetch(QStandardItem *item)
+{
+    if (!item || item == invisibleRootItem() || item->type() < myItem::standardKind)
+        return;
+    auto *first = static_cast<myItemStandard *>(item);
+    if (!std::exchange(first->childrenPending, false) || !m_records)
+        return;
+    for (const myItem::row &row : m_records->childRows(first))
+        first->appendRow(row);
+}
+
+void myModel::setValue(myItemStandard *item, const QVariant &value)
+{
+    if (!m_stack) {
+        myItem::setValue(item, value);
+        writeCell(item);
+        return;
+    }
+    if (myItem::hasValue(*item, value) && !myItem::isForeign(*item))
+        return;
+    const QString what = headerData(item->column(), Qt::Horizontal).toString();
+    m_stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(this, item, value)),
+                  what);
+}
+
+myItem::row myModel::rowOf(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return {};
+    const QStandardItem *parent = itemFromIndex(index.parent());
+    return myItem::childRow(parent ? parent : invisibleRootItem(), index.row());
+}
+
+myItemStandard *myModel::cell(const QModelIndex &index) const
+{
+    QStandardItem *item = index.isValid() && index.model() == this ? itemFromIndex(index) : nullptr;
+    return item && item->type() >= myItem::standardKind ? static_cast<myItemStandard *>(item)
+                                                        : nullptr;
+}
+
+void myModel::appendRow(const myItem::row &items)
+{
+    if (!items.isEmpty())
+        QStandardItemModel::appendRow(items);
+}
+
+void myModel::insertWithRecord(QStandardItem *parent, int row, const myItem::row &items)
+{
+    parent->insertRow(row, items);
+    if (m_records && !items.isEmpty())
+        if (myItemStandard *first = cell(items.first()->index()))
+            m_records->rowInserted(parent, row, first);
+}
+
+myItem::row myModel::takeWithRecord(QStandardItem *parent, int row)
+{
+    const myItem::row items = parent->takeRow(row);
+    if (m_records && !items.isEmpty() && items.first()->type() >= myItem::standardKind)
+        m_records->rowTaken(parent, row, static_cast<myItemStandard *>(items.first()));
+    return items;
+}
+
+void myModel::writeCell(myItemStandard *item)
+{
+    if (!m_records)
+        return;
+    const QModelIndex index = item->index();
+    if (myItemStandard *first = cell(index.sibling(index.row(), 0)))
+        m_records->cellChanged(item, first);
+}
+
+void myModel::emitAppendOccured()
+{
+    if (changeBatch::holdsBack(this))
+        m_appendHeldBack = true;
+    else
+        emit appendOccured();
+}
+
+void myModel::emitRemoveOccured()
+{
+    if (changeBatch::holdsBack(this))
+        m_removeHeldBack = true;
+    else
+        emit removeOccured();
+}
+
+void myModel::emitChangeValueOccured()
+{
+    if (changeBatch::holdsBack(this))
+        m_changeHeldBack = true;
+    else
+        emit changeValueOccured();
+}
+
+void myModel::emitHeldBack()
+{
+    if (std::exchange(m_removeHeldBack, false))
+        emit removeOccured();
+    if (std::exchange(m_appendHeldBack, false))
+        emit appendOccured();
+    if (std::exchange(m_changeHeldBack, false))
+        emit changeValueOccured();
+}
+
+changeBatch::changeBatch() { ++openBatches; }
+
+changeBatch::~changeBatch()
+{
+    if (--openBatches > 0)
+        return;
+    const auto models = std::exchange(waiting, {});
+    for (const QPointer<myModel> &model : models)
+        if (model)
+            model->emitHeldBack();
+}
+
+bool changeBatch::holdsBack(myModel *model)
+{
+    if (openBatches == 0)
+        return false;
+    if (!waiting.contains(model))
+        waiting.append(model);
+    return true;
+}

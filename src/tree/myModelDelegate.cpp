@@ -1,0 +1,535 @@
+#include "tree/myModelDelegate.h"
+
+#include "tree/IPCtrl.h"
+#include "tree/myCalendarWidget.h"
+#include "tree/myModel.h"
+#include "tree/richtexteditDialog.h"
+#include "util/text.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QFontComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QProgressBar>
+#include <QSpinBox>
+
+#include <algorithm>
+
+using namespace myItem;
+
+namespace {
+
+constexpr int defaultIndentation = 4;
+constexpr int barScale = 1000;
+const QColor highlightColour(0x00, 0xBC, 0xFF);
+
+const myModel *modelOf(const QModelIndex &index)
+{
+    return qobject_cast<const myModel *>(index.model());
+}
+
+myItemStandard *itemAt(const QModelIndex &index)
+{
+    const myModel *model = modelOf(index);
+    return model ? model->cell(index) : nullptr;
+}
+
+// Set on an editor once the user changed something in it. What only was looked at is not written
+// back: the editor may be unable to show it as it is.
+constexpr const char *touchedProperty = "touched";
+
+template <class Editor, class... Signals>
+void noteTouch(Editor *editor, Signals... changed)
+{
+    (QObject::connect(editor, changed, editor,
+                      [editor] { editor->setProperty(touchedProperty, true); }),
+     ...);
+}
+
+// The wanted colour where it can be read on what is behind it, else black or white.
+QColor readable(const QColor &wanted, const QColor &behind)
+{
+    const auto luma = [](const QColor &c) {
+        return 0.299 * c.redF() + 0.587 * c.greenF() + 0.114 * c.blueF();
+    };
+    constexpr double leastDifference = 0.4;
+    constexpr double middle = 0.5;
+    if (std::abs(luma(wanted) - luma(behind)) >= leastDifference)
+        return wanted;
+    return luma(behind) > middle ? Qt::black : Qt::white;
+}
+
+double shareOf(int value, int minimum, int maximum)
+{
+    return maximum > minimum ? std::clamp(double(value - minimum) / (maximum - minimum), 0.0, 1.0)
+                             : 0.0;
+}
+
+// The item's font where it was given one, else the tree's.
+QFont fontOf(const myItemStandard &item, const QFont &otherwise)
+{
+    return item.data(Qt::FontRole).isValid() ? item.font() : otherwise;
+}
+
+QSpinBox *makeSpinBox(QWidget *parent, const myItemSpinBox &item)
+{
+    auto *box = new QSpinBox(parent);
+    box->setRange(item.minimum, item.maximum);
+    box->setValue(item.value());
+    noteTouch(box, qOverload<int>(&QSpinBox::valueChanged));
+    box->setFrame(false);
+    box->setAlignment(Qt::AlignRight);
+    if (auto *line = box->findChild<QLineEdit *>())
+        QObject::connect(line, &QLineEdit::textEdited, box,
+                         [box] { box->setProperty(touchedProperty, true); });
+    return box;
+}
+
+QDoubleSpinBox *makeDoubleSpinBox(QWidget *parent, double minimum, double maximum, int decimals,
+                                  double value)
+{
+    auto *box = new QDoubleSpinBox(parent);
+    box->setDecimals(decimals);
+    box->setRange(minimum, maximum);
+    box->setValue(value);
+    noteTouch(box, qOverload<double>(&QDoubleSpinBox::valueChanged));
+    box->setFrame(false);
+    box->setAlignment(Qt::AlignRight);
+    if (auto *line = box->findChild<QLineEdit *>())
+        QObject::connect(line, &QLineEdit::textEdited, box,
+                         [box] { box->setProperty(touchedProperty, true); });
+    return box;
+}
+
+QComboBox *makeComboBox(QWidget *parent, const myItemComboBox &item)
+{
+    auto *box = new QComboBox(parent);
+    for (const comboEntry &entry : item.entries())
+        box->insertItem(box->count(), entry.icon, entry.shown.isEmpty() ? entry.value : entry.shown,
+                        entry.value);
+    if (!item.entries().isEmpty() && !item.entries().first().icon.isNull())
+        box->setIconSize(item.entries().first().icon.actualSize(box->iconSize()));
+    box->setEditable(item.canBeTyped);
+    box->setCurrentIndex(item.currentIndex());
+    return box;
+}
+
+myCalendarWidget *makeCalendar(QWidget *parent, const myItemDateEdit &item)
+{
+    auto *calendar = new myCalendarWidget(parent);
+    calendar->setRange(firstDate(), lastDate());
+    calendar->setSelectedDate(item.date());
+    return calendar;
+}
+
+QFileDialog *makePathDialog(QWidget *parent, const QString &path)
+{
+    auto *dialog = new QFileDialog(parent->window());
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setDirectory(path);
+    return dialog;
+}
+
+// The typed text may be none of the entries; then it becomes one.
+int chosenIndex(const QComboBox *box, myItemComboBox *item)
+{
+    if (!box->isEditable())
+        return box->currentIndex();
+    const QString typed = text::storable(box->currentText().trimmed());
+    for (int i = 0; i < item->entries().size(); ++i)
+        if (item->entries().at(i).shown == typed || item->entries().at(i).value == typed)
+            return i;
+    return item->indexOf(typed);
+}
+
+} // namespace
+
+myModelDelegate::myModelDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_indentation(defaultIndentation)
+{
+}
+
+// --- Painting
+// -------------------------------------------------------------------------------------
+
+void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given,
+                            const QModelIndex &index) const
+{
+    const myItemStandard *item = itemAt(index);
+    if (!item) {
+        QStyledItemDelegate::paint(painter, given, index);
+        return;
+    }
+    QStyleOptionViewItem option(given);
+    initStyleOption(&option, index);
+    option.font = fontOf(*item, given.font);
+    option.textElideMode = Qt::ElideRight;
+    option.text = myItem::displayText(*item);
+    option.features |= QStyleOptionViewItem::HasDisplay;
+
+    QColor behind = given.palette.color(option.features & QStyleOptionViewItem::Alternate
+                                            ? QPalette::AlternateBase
+                                            : QPalette::Base);
+    if (item->highlighted)
+        behind = highlightColour;
+    else if (item->colourOn)
+        behind = item->colour;
+    if (item->highlighted || item->colourOn) {
+        painter->fillRect(option.rect, behind);
+        option.backgroundBrush = Qt::NoBrush;
+    }
+    if (item->highlighted)
+        option.state &= ~QStyle::State_Selected;
+    const QColor wanted = item->foreground().style() == Qt::NoBrush
+                              ? given.palette.color(QPalette::Text)
+                              : item->foreground().color();
+    option.palette.setColor(QPalette::Text, readable(wanted, behind));
+
+    const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
+    switch (item->type()) {
+    case comboBoxKind: {
+        const auto *combo = static_cast<const myItemComboBox *>(item);
+        if (combo->entries().isEmpty())
+            break;
+        const QIcon &icon = combo->entries().at(combo->currentIndex()).icon;
+        if (icon.isNull())
+            break;
+        option.icon = icon;
+        option.features |= QStyleOptionViewItem::HasDecoration;
+        option.decorationSize = QSize(option.rect.height() - 2, option.rect.height() - 2);
+        break;
+    }
+    case spinBoxKind:
+        if (static_cast<const myItemSpinBox *>(item)->displayMode != 0)
+            paintBar(painter, option, *item);
+        break;
+    case progressBarKind: {
+        const auto *progress = static_cast<const myItemProgressBar *>(item);
+        QStyleOptionProgressBar bar;
+        bar.rect = option.rect;
+        bar.state = item->isEnabled() ? QStyle::State_Enabled : QStyle::State_None;
+        bar.state |= QStyle::State_Horizontal;
+        bar.minimum = progress->minimum;
+        bar.maximum = progress->maximum;
+        bar.progress = progress->value();
+        bar.text = QString::number(progress->value());
+        bar.textVisible = false;
+        QApplication::style()->drawControl(QStyle::CE_ProgressBar, &bar, painter);
+        option.displayAlignment = Qt::AlignCenter;
+        option.text = bar.text;
+        break;
+    }
+    case checkBoxKind: {
+        QStyleOptionButton box;
+        box.rect = option.rect.adjusted(2 * m_indentation, 0, 0, 0);
+        box.state = item->isEnabled() ? QStyle::State_Enabled : QStyle::State_None;
+        const auto *check = static_cast<const myItemCheckBox *>(item);
+        box.state |= check->state() == Qt::Checked            ? QStyle::State_On
+                     : check->state() == Qt::PartiallyChecked ? QStyle::State_NoChange
+                                                              : QStyle::State_Off;
+        QApplication::style()->drawControl(QStyle::CE_CheckBox, &box, painter);
+        option.text.clear();
+        break;
+    }
+    default:
+        break;
+    }
+    style->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+}
+
+void myModelDelegate::paintBar(QPainter *painter, const QStyleOptionViewItem &option,
+                               const myItemStandard &item) const
+{
+    const auto &spin = static_cast<const myItemSpinBox &>(item);
+    const int share = int(barScale * shareOf(spin.value(), spin.minimum, spin.maximum));
+    QRect bar = option.rect.adjusted(1, 2, -1, -2);
+    bar.setWidth(bar.width() * share / barScale);
+    static const QColor plainBar(0xFF, 0xBE, 0xFF);
+    painter->fillRect(bar, spin.displayMode == 1
+                               ? plainBar
+                               : barColour(spin.value(), spin.minimum, spin.maximum));
+}
+
+QColor myModelDelegate::barColour(int value, int minimum, int maximum) const
+{
+    constexpr int percent = 100;
+    const double share = percent * shareOf(value, minimum, maximum);
+    if (share <= m_thresholds.low)
+        return QColor(0xFE, 0x5A, 0x3C);
+    if (share <= m_thresholds.average)
+        return QColor(0xFF, 0xBE, 0x1E);
+    if (share <= m_thresholds.high)
+        return QColor(0xFF, 0xFF, 0x64);
+    return QColor(0xBE, 0xFF, 0xBE);
+}
+
+QSize myModelDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    constexpr QSize withoutItem(30, 17);
+    const myItemStandard *item = itemAt(index);
+    if (!item)
+        return withoutItem;
+    return {withoutItem.width(), QFontMetrics(fontOf(*item, option.font)).height() + 2};
+}
+
+// --- Editors
+// --------------------------------------------------------------------------------------
+
+QWidget *myModelDelegate::makeEditor(QWidget *parent, const myItemStandard &item) const
+{
+    switch (item.type()) {
+    case comboBoxKind: {
+        QComboBox *box = makeComboBox(parent, static_cast<const myItemComboBox &>(item));
+        connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] {
+            auto *self = const_cast<myModelDelegate *>(this);
+            emit self->commitData(box);
+            emit self->closeEditor(box);
+        });
+        return box;
+    }
+    case progressBarKind: {
+        const auto &progress = static_cast<const myItemProgressBar &>(item);
+        auto *bar = new QProgressBar(parent);
+        bar->setValue(progress.value());
+        bar->setMaximum(progress.maximum);
+        bar->setMinimum(progress.minimum);
+        return bar;
+    }
+    case labelKind:
+    case lineEditKind:
+    case passwordEditKind: {
+        auto *line = new QLineEdit(item.text(), parent);
+        line->setFrame(false);
+        if (item.type() == passwordEditKind)
+            line->setEchoMode(QLineEdit::Password);
+        return line;
+    }
+    case spinBoxKind:
+        return makeSpinBox(parent, static_cast<const myItemSpinBox &>(item));
+    case doubleSpinBoxKind: {
+        const auto &box = static_cast<const myItemDoubleSpinBox &>(item);
+        return makeDoubleSpinBox(parent, box.minimum, box.maximum, box.decimals, box.value());
+    }
+    case moneyKind: {
+        constexpr int decimals = 2;
+        return makeDoubleSpinBox(parent, 0, moneyMaximum, decimals,
+                                 static_cast<const myItemMoney &>(item).value());
+    }
+    case checkBoxKind: {
+        auto *box = new QCheckBox(parent);
+        box->setCheckState(static_cast<const myItemCheckBox &>(item).state());
+        return box;
+    }
+    case ipEditKind: {
+        auto *ip = new IPCtrl(parent);
+        ip->setText(item.text());
+        return ip;
+    }
+    case textEditKind: {
+        auto *dialog = new richtexteditDialog(parent->window());
+        dialog->setHtml(item.text());
+        closeWith(dialog);
+        return dialog;
+    }
+    case dateEditKind:
+        return makeCalendar(parent, static_cast<const myItemDateEdit &>(item));
+    case fontComboBoxKind: {
+        auto *box = new QFontComboBox(parent);
+        box->setFontFilters(QFontComboBox::ScalableFonts);
+        box->setCurrentFont(static_cast<const myItemFontComboBox &>(item).chosenFont());
+        return box;
+    }
+    case pathEditKind: {
+        QFileDialog *dialog = makePathDialog(parent, item.text());
+        closeWith(dialog);
+        return dialog;
+    }
+    default:
+        return nullptr;
+    }
+}
+
+// A dialog is closed by its own buttons, and only what it accepted is written.
+void myModelDelegate::closeWith(QDialog *dialog) const
+{
+    dialog->setModal(true);
+    connect(dialog, &QDialog::finished, this, [this, dialog](int result) {
+        auto *self = const_cast<myModelDelegate *>(this);
+        if (result == QDialog::Accepted)
+            emit self->commitData(dialog);
+        emit self->closeEditor(dialog);
+    });
+}
+
+QWidget *myModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                       const QModelIndex &index) const
+{
+    const myItemStandard *item = itemAt(index);
+    if (!item || item->readOnly)
+        return nullptr;
+    QWidget *editor = makeEditor(parent, *item);
+    if (!editor)
+        return nullptr;
+    editor->setObjectName(QStringLiteral("editor"));
+    editor->setAccessibleName(
+        modelOf(index)->headerData(index.column(), Qt::Horizontal).toString());
+    if (qobject_cast<QDialog *>(editor))
+        editor->move(parent->mapToGlobal(option.rect.topLeft()));
+    else if (item->type() != dateEditKind)
+        editor->setFont(fontOf(*item, option.font));
+    editor->setEnabled(item->isEnabled());
+    return editor;
+}
+
+void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const myItemStandard *item = itemAt(index);
+    if (!item) {
+        QStyledItemDelegate::setEditorData(editor, index);
+        return;
+    }
+    const QVariant value = valueOf(*item);
+    switch (item->type()) {
+    case comboBoxKind:
+        static_cast<QComboBox *>(editor)->setCurrentIndex(value.toInt());
+        break;
+    case progressBarKind:
+        static_cast<QProgressBar *>(editor)->setValue(value.toInt());
+        break;
+    case spinBoxKind:
+        static_cast<QSpinBox *>(editor)->setValue(value.toInt());
+        break;
+    case doubleSpinBoxKind:
+    case moneyKind:
+        static_cast<QDoubleSpinBox *>(editor)->setValue(value.toDouble());
+        break;
+    case checkBoxKind:
+        static_cast<QCheckBox *>(editor)->setCheckState(Qt::CheckState(value.toInt()));
+        break;
+    case passwordEditKind:
+        static_cast<QLineEdit *>(editor)->setText(item->text());
+        break;
+    case ipEditKind:
+        static_cast<IPCtrl *>(editor)->setText(item->text());
+        break;
+    case textEditKind:
+        static_cast<richtexteditDialog *>(editor)->setHtml(item->text());
+        break;
+    case dateEditKind:
+        static_cast<myCalendarWidget *>(editor)->setSelectedDate(value.toDate());
+        break;
+    case fontComboBoxKind:
+        static_cast<QFontComboBox *>(editor)->setCurrentFont(value.value<QFont>());
+        break;
+    case pathEditKind: {
+        auto *dialog = static_cast<QFileDialog *>(editor);
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setDirectory(item->text());
+        break;
+    }
+    case labelKind:
+    case lineEditKind:
+        // They have their text since they were made.
+        break;
+    default:
+        QStyledItemDelegate::setEditorData(editor, index);
+    }
+    editor->setProperty(touchedProperty, false);
+}
+
+void myModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
+                                   const QModelIndex &index) const
+{
+    auto *own = qobject_cast<myModel *>(model);
+    myItemStandard *item = itemAt(index);
+    if (!own || !item) {
+        QStyledItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    QVariant value;
+    switch (item->type()) {
+    case comboBoxKind:
+        value = chosenIndex(static_cast<QComboBox *>(editor), static_cast<myItemComboBox *>(item));
+        break;
+    case progressBarKind:
+        value = static_cast<QProgressBar *>(editor)->value();
+        break;
+    case labelKind:
+    case lineEditKind:
+    case passwordEditKind:
+        value = text::storable(static_cast<QLineEdit *>(editor)->text());
+        break;
+    case spinBoxKind:
+        static_cast<QSpinBox *>(editor)->interpretText();
+        if (editor->property(touchedProperty).toBool())
+            value = static_cast<QSpinBox *>(editor)->value();
+        break;
+    case doubleSpinBoxKind:
+    case moneyKind:
+        static_cast<QDoubleSpinBox *>(editor)->interpretText();
+        if (editor->property(touchedProperty).toBool())
+            value = static_cast<QDoubleSpinBox *>(editor)->value();
+        break;
+    case checkBoxKind:
+        value = int(static_cast<QCheckBox *>(editor)->checkState());
+        break;
+    case ipEditKind:
+        value = static_cast<IPCtrl *>(editor)->text();
+        break;
+    case textEditKind:
+        if (static_cast<QDialog *>(editor)->result() == QDialog::Accepted)
+            value = static_cast<richtexteditDialog *>(editor)->html();
+        break;
+    case dateEditKind:
+        if (static_cast<myCalendarWidget *>(editor)->isChosen())
+            value = static_cast<myCalendarWidget *>(editor)->selectedDate();
+        break;
+    case fontComboBoxKind:
+        value = static_cast<QFontComboBox *>(editor)->currentFont();
+        break;
+    case pathEditKind: {
+        auto *dialog = static_cast<QFileDialog *>(editor);
+        const QStringList files = dialog->selectedFiles();
+        if (dialog->result() == QDialog::Accepted && !files.isEmpty())
+            value = files.first();
+        break;
+    }
+    default:
+        QStyledItemDelegate::setModelData(editor, model, index);
+    }
+    if (value.isValid())
+        own->setValue(item, value);
+}
+
+void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                           const QModelIndex &index) const
+{
+    const myItemStandard *item = itemAt(index);
+    if (!item || qobject_cast<QDialog *>(editor))
+        return;
+    constexpr QSize calendarSize(220, 182);
+    constexpr QSize fontBoxSize(150, 25);
+    QRect place = option.rect;
+    if (item->type() == checkBoxKind)
+        place.setLeft(place.left() + 2 * m_indentation);
+    else if (item->type() == dateEditKind)
+        place.setSize(calendarSize);
+    else if (item->type() == fontComboBoxKind)
+        place.setSize(fontBoxSize);
+    editor->setGeometry(place);
+    editor->update();
+}
+
+bool myModelDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    // What the base takes for the end of an edit is everyday life in a dialog.
+    if (qobject_cast<QDialog *>(watched))
+        return false;
+    return QStyledItemDelegate::eventFilter(watched, event);
+}

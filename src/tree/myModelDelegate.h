@@ -1,0 +1,52 @@
+// The one delegate of all editing trees: it opens the editor of each kind of cell, takes its value
+// to the model, and paints the cells.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace myItem {
+class myItemStandard;
+}
+
+// Percentages of a cell's range at which the colour of its bar changes.
+struct barThresholds
+{
+    int low = 25;
+    int average = 50;
+    int high = 75;
+};
+
+class myModelDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+public:
+    explicit myModelDelegate(QObject *parent = nullptr);
+
+    void setThresholds(const barThresholds &thresholds) { m_thresholds = thresholds; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
+
+    // The colour of a coloured bar at that value of a range.
+    QColor barColour(int value, int minimum, int maximum) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *makeEditor(QWidget *parent, const myItem::myItemStandard &item) const;
+    void closeWith(class QDialog *dialog) const;
+    void paintBar(QPainter *painter, const QStyleOptionViewItem &option,
+                  const myItem::myItemStandard &item) const;
+
+    int m_indentation;
+    barThresholds m_thresholds;
+};

@@ -1,0 +1,234 @@
+#include "tree/myTreeView.h"
+
+#include "tree/myHeaderView.h"
+#include "tree/myModel.h"
+#include "tree/myModelDelegate.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+myTreeView::myTreeView(QWidget *parent)
+    : QTreeView(parent)
+{
+    setHeader(new myHeaderView(this));
+    // Without a section to sort by, nothing is sorted until the user clicks.
+    setSortingEnabled(true);
+    setTextElideMode(Qt::ElideRight);
+    setAlternatingRowColors(true);
+    setStyleSheet(QLatin1String("alternate-background-color: ") + QLatin1String("#FCF7D9"));
+    setUniformRowHeights(true);
+    setMouseTracking(true);
+    setTabKeyNavigation(true);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectItems);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    auto *delegate = new myModelDelegate(this);
+    setItemDelegate(delegate);
+    // Escape in an editor ends there and never comes here as a key.
+    connect(delegate, &QAbstractItemDelegate::closeEditor, this,
+            [this](QWidget *, QAbstractItemDelegate::EndEditHint hint) {
+                if (hint == QAbstractItemDelegate::RevertModelCache)
+                    escape();
+            });
+}
+
+void myTreeView::setModel(QAbstractItemModel *newModel)
+{
+    clearHighlight();
+    if (model())
+        disconnect(model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, nullptr);
+    QTreeView::setModel(newModel);
+    if (newModel)
+        // A row that leaves the model takes no mark along.
+        connect(newModel, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+                [this](const QModelIndex &parent, int first, int last) {
+                    QModelIndex row = m_highlighted;
+                    while (row.isValid() && row.parent() != parent)
+                        row = row.parent();
+                    if (row.isValid() && row.row() >= first && row.row() <= last)
+                        clearHighlight();
+                });
+}
+
+void myTreeView::expandItem(QStandardItem *item)
+{
+    if (auto *own = qobject_cast<myModel *>(model()))
+        own->fetch(item);
+    for (int row = 0; row < item->rowCount(); ++row)
+        if (QStandardItem *child = item->child(row); child && child->hasChildren())
+            expandItem(child);
+    expand(item->index());
+}
+
+void myTreeView::collapseItem(QStandardItem *item) { collapse(item->index()); }
+
+QModelIndexList myTreeView::selectedCells() const
+{
+    QModelIndexList cells =
+        selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList();
+    // Rows from the root down, then columns as they stand on the screen.
+    const auto placeOf = [this](const QModelIndex &index) {
+        std::vector<int> place{header()->visualIndex(index.column())};
+        for (QModelIndex i = index; i.isValid(); i = i.parent())
+            place.insert(place.begin(), i.row());
+        return place;
+    };
+    std::vector<std::pair<std::vector<int>, QModelIndex>> placed;
+    placed.reserve(size_t(cells.size()));
+    for (const QModelIndex &cell : qAsConst(cells))
+        placed.emplace_back(placeOf(cell), cell);
+    std::sort(placed.begin(), placed.end(),
+              [](const auto &a, const auto &b) { return a.first < b.first; });
+    cells.clear();
+    for (const auto &[place, cell] : placed)
+        cells.append(cell);
+    return cells;
+}
+
+QModelIndex myTreeView::hitItem(const QMouseEvent *event) const
+{
+    const auto *own = qobject_cast<const myModel *>(model());
+    const QModelIndex index = indexAt(event->pos());
+    return own && index.isValid() && own->itemFromIndex(index) ? index : QModelIndex();
+}
+
+void myTreeView::mouseMoveEvent(QMouseEvent *event)
+{
+    QTreeView::mouseMoveEvent(event);
+    moveHighlight();
+}
+
+void myTreeView::mousePressEvent(QMouseEvent *event)
+{
+    QTreeView::mousePressEvent(event);
+    if (const QModelIndex index = hitItem(event); index.isValid()) {
+        emit clicked(event->pos(), uint(event->buttons()), index);
+        emit clicked(event->pos(), uint(event->buttons()));
+    }
+    moveHighlight();
+}
+
+void myTreeView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTreeView::mouseDoubleClickEvent(event);
+    if (const QModelIndex index = hitItem(event); index.isValid()) {
+        emit doubleClicked(event->pos(), uint(event->buttons()), index);
+        emit doubleClicked(event->pos(), uint(event->buttons()));
+    }
+    moveHighlight();
+}
+
+void myTreeView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    if (const QModelIndex index = hitItem(event); index.isValid()) {
+        emit release(event->pos(), uint(event->buttons()), index);
+        emit release(index);
+    }
+    moveHighlight();
+}
+
+void myTreeView::keyPressEvent(QKeyEvent *event)
+{
+    const bool editing = state() == EditingState;
+    // The base would start an edit with it.
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+        event->ignore();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        event->accept();
+        escape();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->accept();
+        if (editing) {
+            // The delegate writes the value once the events before are done.
+            QMetaObject::invokeMethod(this, &myTreeView::keyEnter, Qt::QueuedConnection);
+        } else {
+            edit(currentIndex(), AllEditTriggers, event);
+            emit keyEnter();
+        }
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        moveHighlight();
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        event->accept();
+        moveHighlight();
+        emit keyUpDown();
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+void myTreeView::escape()
+{
+    clearHighlight();
+    clearSelection();
+    emit keyEscape();
+}
+
+void myTreeView::moveHighlight()
+{
+    const QModelIndex current = currentIndex();
+    const QModelIndex row = current.sibling(current.row(), 0);
+    auto *own = qobject_cast<myModel *>(model());
+    if (!own || m_highlighted == row)
+        return;
+    clearHighlight();
+    if (!row.isValid())
+        return;
+    myItem::setHighlighted(own->rowOf(row), true);
+    m_highlighted = row;
+    viewport()->update();
+}
+
+void myTreeView::clearHighlight()
+{
+    auto *own = qobject_cast<myModel *>(model());
+    if (own && m_highlighted.isValid()) {
+        myItem::setHighlighted(own->rowOf(m_highlighted), false);
+        viewport()->update();
+    }
+    m_highlighted = QPersistentModelIndex();
+}
+
+QModelIndex myTreeView::nextEditable(bool forward) const
+{
+    const auto *own = qobject_cast<const myModel *>(model());
+    if (!own || !currentIndex().isValid())
+        return {};
+    const int step = forward ? 1 : -1;
+    QModelIndex row = currentIndex();
+    int visual = header()->visualIndex(row.column()) + step;
+    while (row.isValid()) {
+        for (; visual >= 0 && visual < header()->count(); visual += step) {
+            const int column = header()->logicalIndex(visual);
+            if (header()->isSectionHidden(column))
+                continue;
+            const QModelIndex index = row.sibling(row.row(), column);
+            const myItem::myItemStandard *item = own->cell(index);
+            if (item && !item->readOnly && item->type() != myItem::standardKind)
+                return index;
+        }
+        row = forward ? indexBelow(row) : indexAbove(row);
+        visual = forward ? 0 : header()->count() - 1;
+    }
+    return {};
+}
+
+QModelIndex myTreeView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action == MoveNext || action == MovePrevious)
+        return nextEditable(action == MoveNext);
+    return QTreeView::moveCursor(action, modifiers);
+}

@@ -1,0 +1,57 @@
+// The view of all editing trees: it marks the current row, tells of clicks and keys with the item
+// they met, and is driven by the keyboard alone where the user likes.
+#pragma once
+
+#include <QPersistentModelIndex>
+#include <QTreeView>
+
+class QStandardItem;
+class myHeaderView;
+class myModel;
+
+class myTreeView : public QTreeView
+{
+    Q_OBJECT
+public:
+    explicit myTreeView(QWidget *parent = nullptr);
+
+    void setModel(QAbstractItemModel *model) override;
+
+    // Expands an item with everything below it; collapses one.
+    void expandItem(QStandardItem *item);
+    void collapseItem(QStandardItem *item);
+
+    // The cells selected, in the order in which they are seen.
+    QModelIndexList selectedCells() const;
+
+signals:
+    void clicked(QPoint MousePos, uint b, QModelIndex i);
+    void clicked(QPoint MousePos, uint b);
+    void doubleClicked(QPoint MousePos, uint b, QModelIndex i);
+    void doubleClicked(QPoint MousePos, uint b);
+    void release(QPoint MousePos, uint b, QModelIndex i);
+    void release(QModelIndex i);
+    void keyUpDown();
+    void keyEscape();
+    // On Return or Enter. When it ends an edit, the value is in the cell by then.
+    void keyEnter();
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    // Tab goes from one editable cell to the next.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    // Marks the current row in place of the one before. Touches these two rows only.
+    void moveHighlight();
+    void clearHighlight();
+    void escape();
+    QModelIndex hitItem(const QMouseEvent *event) const;
+    QModelIndex nextEditable(bool forward) const;
+
+    QPersistentModelIndex m_highlighted;
+};
