@@ -62,6 +62,7 @@ public:
     bool load(const QStringList &paths);
 
     const ktmIndex &index() const { return m_index; }
+    const std::vector<std::unique_ptr<kiv_mat_databaseStruct>> &all() const { return m_databases; }
 
 private:
     std::vector<std::unique_ptr<kiv_mat_databaseStruct>> m_databases;
@@ -72,5 +73,10 @@ extern const subcommand validateCommand;
 extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
 extern const subcommand reportCommand;
+extern const subcommand findCommand;
+extern const subcommand helpersCommand;
+extern const subcommand downloadCommand;
+extern const subcommand packCommand;
+extern const subcommand unpackCommand;
 
 } // namespace cli

@@ -9,8 +9,10 @@ namespace {
 
 const QList<const cli::subcommand *> &commands()
 {
-    static const QList<const cli::subcommand *> table{&cli::validateCommand, &cli::reportCommand,
-                                                      &cli::infoCommand, &cli::resaveCommand};
+    static const QList<const cli::subcommand *> table{
+        &cli::validateCommand, &cli::reportCommand, &cli::findCommand,
+        &cli::infoCommand,     &cli::resaveCommand, &cli::helpersCommand,
+        &cli::downloadCommand, &cli::packCommand,   &cli::unpackCommand};
     return table;
 }
 
