@@ -9,8 +9,10 @@ namespace {
 
 const QList<const cli::subcommand *> &commands()
 {
-    static const QList<const cli::subcommand *> table{&cli::validateCommand, &cli::reportCommand,
-                                                      &cli::infoCommand, &cli::resaveCommand};
+    static const QList<const cli::subcommand *> table{
+        &cli::validateCommand, &cli::reportCommand, &cli::infoCommand,
+        &cli::resaveCommand,   &cli::altiumCommand, &cli::groupsCommand,
+    };
     return table;
 }
 
@@ -20,7 +22,7 @@ QString usage()
         "cli", "Usage: kivzp-cli [--language pl|en] COMMAND ARGUMENTS...\n\nCommands:\n");
     for (const cli::subcommand *command : commands())
         text += QStringLiteral("  %1 %2\n")
-                    .arg(QLatin1String(command->name), -10)
+                    .arg(QLatin1String(command->name), -13)
                     .arg(QCoreApplication::translate("cli", command->summary));
     text += QCoreApplication::translate(
         "cli", "\nkivzp-cli COMMAND --help tells the arguments of a command.\n"

@@ -1,0 +1,95 @@
+// The operations of the material database on 100,000 materials.
+#include "benchSupport.h"
+
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/loaders.h"
+#include "database/altiumExport.h"
+#include "util/localeSetup.h"
+#include "util/paths.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
+
+// The workbook of the CAD tool against XlsxWriter writing the same cells. ratio: the bound is 0.5.
+void workbookAgainstPython(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/exportXXXXXX");
+    double ours = 0;
+    double reference = 0;
+    for (auto _ : state) {
+        QProcess python;
+        python.start(QStringLiteral("/usr/bin/python3"),
+                     {QStringLiteral(KIVZP_SOURCE_DIR "/bench/writeWorkbook.py"), database.filePath,
+                      folder.filePath(QStringLiteral("python.xlsx"))});
+        python.waitForFinished(-1);
+        reference += python.readAllStandardOutput().trimmed().toDouble();
+        QElapsedTimer timer;
+        timer.start();
+        const exportResult result =
+            exportAltiumXlsx(database, folder.filePath(QStringLiteral("ours.xlsx")));
+        state.SetIterationTime(since(timer));
+        ours += since(timer);
+        if (result.result != exportResult::done || reference <= 0) {
+            state.SkipWithError("one of the two failed");
+            return;
+        }
+    }
+    state.counters["ratio"] = ours / reference;
+}
+
+// The script. ratio: the time over what 50 MB/s allow.
+void script(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/exportXXXXXX");
+    const QString path = folder.filePath(QStringLiteral("parts.sqlite"));
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        if (exportAltiumSqlite(database, path).result != exportResult::done) {
+            state.SkipWithError("the export failed");
+            return;
+        }
+        state.SetIterationTime(since(timer));
+        seconds += since(timer);
+    }
+    const double megabytes = double(QFileInfo(scriptPath(path)).size()) / 1e6;
+    state.counters["MB"] = megabytes;
+    state.counters["ratio"] = seconds / double(state.iterations()) / (megabytes / 50);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ensureUtf8Locale();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    paths::setProgramDir(QStringLiteral(KIVZP_SOURCE_DIR));
+    kiv_mat_databaseStruct database;
+    if (loadDatabase(benchSupport::generatedDatabase(100000), &database) != 0)
+        return 1;
+
+    const auto add = [&database](const char *name, auto function) {
+        return benchmark::RegisterBenchmark(
+                   name,
+                   [&database, function](benchmark::State &state) { function(state, database); })
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("altium/xlsx", workbookAgainstPython)->Iterations(2);
+    add("altium/script", script)->Iterations(3);
+
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
