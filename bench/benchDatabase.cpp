@@ -4,6 +4,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/loaders.h"
 #include "database/altiumExport.h"
+#include "database/databaseChecks.h"
 #include "util/localeSetup.h"
 #include "util/paths.h"
 
@@ -67,6 +68,34 @@ void script(benchmark::State &state, const kiv_mat_databaseStruct &database)
     state.counters["ratio"] = seconds / double(state.iterations()) / (megabytes / 50);
 }
 
+// Runs work and measures it against the seconds allowed; work answers whether all was right.
+template <class Work>
+void againstTime(benchmark::State &state, double allowed, const Work &work)
+{
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        const bool good = work();
+        seconds += since(timer);
+        state.SetIterationTime(since(timer));
+        if (!good) {
+            state.SkipWithError("a wrong result");
+            return;
+        }
+    }
+    state.counters["ratio"] = seconds / double(state.iterations()) / allowed;
+}
+
+// Both lists, on data in which no KTM stands twice.
+void duplicates(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    againstTime(state, 0.2, [&database] {
+        benchmark::DoNotOptimize(duplicatePartNumbers(database).size());
+        return duplicateKtms(database).empty();
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -88,6 +117,7 @@ int main(int argc, char **argv)
     };
     add("altium/xlsx", workbookAgainstPython)->Iterations(2);
     add("altium/script", script)->Iterations(3);
+    add("duplicates", duplicates)->Iterations(5);
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -87,5 +87,9 @@ extern const subcommand resaveCommand;
 extern const subcommand reportCommand;
 extern const subcommand altiumCommand;
 extern const subcommand groupsCommand;
+extern const subcommand duplicatesCommand;
+extern const subcommand emptyCommand;
+extern const subcommand checkUrlsCommand;
+extern const subcommand dbReportCommand;
 
 } // namespace cli

@@ -2,27 +2,10 @@
 // the script that fills it; and the list of groups as a workbook. See docs/altium.md.
 #pragma once
 
+#include "database/exportResult.h"
 #include "util/progress.h"
 
-#include <QString>
-#include <QStringList>
-
 class kiv_mat_databaseStruct;
-
-struct exportResult
-{
-    enum outcome
-    {
-        done,
-        cancelled, // by the progress function; nothing was written
-        failed     // older files are as they were; error tells why
-    };
-    outcome result = done;
-    QString error;     // plain text
-    QStringList notes; // HTML lines for the errors window: names changed, texts cut
-    QStringList files; // paths written
-    int materials = 0;
-};
 
 // Each writes the whole database to path, replacing what was there only when all of it has been
 // made. progress is told materials; the last part, the packing of the workbook, cannot be

@@ -58,6 +58,10 @@ void tst_cli::init()
                     testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
                                           "<d_ktm>K</d_ktm></material></d_group>"));
+    m_folder->write("one.xml",
+                    testSupport::document(
+                        "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                        "<d_group name=\"G\"><material><d_ktm>K</d_ktm></material></d_group>"));
 }
 
 void tst_cli::calls_data()
@@ -108,6 +112,15 @@ void tst_cli::calls_data()
     row("altium twice.xml -o good.xml/out.sqlite", 3, "", "cannot be written");
     row("groups twice.xml -o out.xlsx", 0, "out.xlsx", "[Group]");
     row("groups twice.xml -o out.sqlite", 2, "", "ends in .xlsx");
+    row("duplicates twice.xml", 1, "The same KTM:\nK\t[] []", "");
+    row("duplicates one.xml", 0, "All materials has unique KTM", "");
+    row("duplicates bad.xml", 1, "", "bad.xml:3:");
+    row("empty one.xml", 1, "K\t\tCPV, Name", "");
+    row("check-urls one.xml -o out.xlsx", 0, "", "");
+    row("check-urls one.xml -o _validator", 3, "", "cannot be written");
+    row("db-report one.xml -o out.html", 0, "", "");
+    row("db-report one.xml -f good.xml -o out.html", 1, "", "is no firm register");
+    row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 
 void tst_cli::calls()
