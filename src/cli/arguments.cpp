@@ -125,6 +125,13 @@ bool databaseSet::load(const QStringList &databasePaths)
     return true;
 }
 
+QCommandLineOption databaseOption(const char *description)
+{
+    return {{QStringLiteral("d"), QStringLiteral("database")},
+            QCoreApplication::translate("cli", description),
+            QStringLiteral("DB")};
+}
+
 QCommandLineOption outputOption(const char *description)
 {
     return {{QStringLiteral("o"), QStringLiteral("output")},

@@ -72,6 +72,9 @@ private:
     ktmIndex m_index;
 };
 
+// The option -d DB. description: the English source text, context "cli".
+QCommandLineOption databaseOption(const char *description);
+
 // The option -o OUT. description: the English source text, context "cli".
 QCommandLineOption outputOption(const char *description);
 
@@ -91,5 +94,6 @@ extern const subcommand duplicatesCommand;
 extern const subcommand emptyCommand;
 extern const subcommand checkUrlsCommand;
 extern const subcommand dbReportCommand;
+extern const subcommand parseListingCommand;
 
 } // namespace cli

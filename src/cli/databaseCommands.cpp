@@ -22,7 +22,7 @@ void printDuplicates(const QString &caption, const std::vector<duplicateSet> &du
     for (const duplicateSet &set : duplicates) {
         out() << set.key << '\t';
         for (const materialStruct *material : set.materials)
-            out() << '[' << material->d_name << "] ";
+            out() << '[' << duplicateName(set, *material) << "] ";
         out() << '\n';
     }
 }

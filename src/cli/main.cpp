@@ -10,9 +10,10 @@ namespace {
 const QList<const cli::subcommand *> &commands()
 {
     static const QList<const cli::subcommand *> table{
-        &cli::validateCommand,  &cli::reportCommand,   &cli::infoCommand,       &cli::resaveCommand,
-        &cli::altiumCommand,    &cli::groupsCommand,   &cli::duplicatesCommand, &cli::emptyCommand,
-        &cli::checkUrlsCommand, &cli::dbReportCommand,
+        &cli::validateCommand,   &cli::reportCommand,       &cli::infoCommand,
+        &cli::resaveCommand,     &cli::altiumCommand,       &cli::groupsCommand,
+        &cli::duplicatesCommand, &cli::emptyCommand,        &cli::checkUrlsCommand,
+        &cli::dbReportCommand,   &cli::parseListingCommand,
     };
     return table;
 }

@@ -105,13 +105,20 @@ std::vector<duplicateSet> duplicatePartNumbers(const kiv_mat_databaseStruct &dat
     return sharing(candidates, key, shown);
 }
 
+QString duplicateName(const duplicateSet &set, const materialStruct &material)
+{
+    return set.key == material.d_ktm ? material.d_name
+                                     : material.d_ktm + QLatin1Char(' ') + material.d_name;
+}
+
 QStringList duplicateLines(const std::vector<duplicateSet> &duplicates)
 {
     QStringList lines;
     for (const duplicateSet &set : duplicates) {
         QStringList names;
         for (const materialStruct *material : set.materials)
-            names.append(QLatin1Char('[') + material->d_name.toHtmlEscaped() + QLatin1Char(']'));
+            names.append(QLatin1Char('[') + duplicateName(set, *material).toHtmlEscaped()
+                         + QLatin1Char(']'));
         lines.append(QLatin1String("<b>") + set.key.toHtmlEscaped() + QLatin1String("</b> ")
                      + names.join(QLatin1String(", ")) + QLatin1String("<br>"));
     }

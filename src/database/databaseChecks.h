@@ -23,7 +23,11 @@ std::vector<duplicateSet> duplicateKtms(const kiv_mat_databaseStruct &database);
 // around do not count; entries without a part number are left out.
 std::vector<duplicateSet> duplicatePartNumbers(const kiv_mat_databaseStruct &database);
 
-// An HTML line for each: the key in bold and the names in brackets.
+// What tells a material of a set from the others: its name, behind its KTM where that is not the
+// key.
+QString duplicateName(const duplicateSet &set, const materialStruct &material);
+
+// An HTML line for each: the key in bold and those names in brackets.
 QStringList duplicateLines(const std::vector<duplicateSet> &duplicates);
 
 // What the user is told when no KTM stands twice.

@@ -103,6 +103,12 @@ public:
             m_manufacturers = statusesOf(firms->manufacturers);
             m_suppliers = statusesOf(firms->suppliers);
         }
+        for (const auto &field : materialStruct::fields())
+            m_captions.append(field.label().toHtmlEscaped());
+        for (const auto &field : informationsStruct::fields())
+            m_captions.append(field.label().toHtmlEscaped());
+        m_captions << labels::manufacturers().toHtmlEscaped()
+                   << labels::suppliers().toHtmlEscaped();
     }
 
     QString start(const kiv_mat_databaseStruct &database) const;
@@ -115,6 +121,7 @@ private:
     databaseReportKind m_kind;
     statusByName m_manufacturers;
     statusByName m_suppliers;
+    QStringList m_captions; // of the full report, in its order
     int m_ordinal = 0;
 };
 
@@ -184,23 +191,26 @@ void reportWriter::writeRow(html::htmlTable &page, const materialStruct &materia
 void reportWriter::writeAll(html::htmlTable &page, const materialStruct &material) const
 {
     page.openTable(QStringLiteral("class=\"material\""));
-    const auto row = [&page](const QString &caption, const QString &content) {
+    int caption = 0;
+    const auto row = [&](const QString &content) {
         if (!content.isEmpty())
-            page.labelRow(caption.toHtmlEscaped(), content);
+            page.labelRow(m_captions.at(caption), content);
+        ++caption;
     };
     for (const auto &field : materialStruct::fields()) {
         const QString &stored = material.*field.member;
-        const bool isPrice = field.member == &materialStruct::d_price
-                             || field.member == &materialStruct::d_averagePrice;
         if (field.member == &materialStruct::d_ktm)
-            row(field.label(), dot(material.information.status) + text::toHtml(stored));
+            row(dot(material.information.status) + text::toHtml(stored));
+        else if (field.member == &materialStruct::d_price
+                 || field.member == &materialStruct::d_averagePrice)
+            row(price(stored));
         else
-            row(field.label(), isPrice ? price(stored) : text::toHtml(labels::shown(stored)));
+            row(text::toHtml(labels::shown(stored)));
     }
     for (const auto &field : informationsStruct::fields())
-        row(field.label(), text::toHtml(labels::shown(material.information.*field.member)));
-    row(labels::manufacturers(), sourceText(material.manufacturers, m_manufacturers));
-    row(labels::suppliers(), sourceText(material.suppliers, m_suppliers));
+        row(text::toHtml(labels::shown(material.information.*field.member)));
+    row(sourceText(material.manufacturers, m_manufacturers));
+    row(sourceText(material.suppliers, m_suppliers));
     page.closeTable();
 }
 

@@ -58,6 +58,7 @@ void tst_cli::init()
                     testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
                                           "<d_ktm>K</d_ktm></material></d_group>"));
+    m_folder->write("stock.txt", "Towar: K\nIlosc: 2\nWartosc: 5\nTowar: brak\n");
     m_folder->write("one.xml",
                     testSupport::document(
                         "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
@@ -120,6 +121,14 @@ void tst_cli::calls_data()
     row("check-urls one.xml -o _validator", 3, "", "cannot be written");
     row("db-report one.xml -o out.html", 0, "", "");
     row("db-report one.xml -f good.xml -o out.html", 1, "", "is no firm register");
+    row("parse-listing stock.txt -d one.xml", 0, "K\td_inWarehouse\t\t2\nK\td_averagePrice\t\t2.50",
+        "brak Error in KTM line");
+    row("parse-listing stock.txt -d one.xml -o out.xml", 0, "d_averagePrice", "brak");
+    row("parse-listing stock.txt -d one.xml -o _validator", 3, "d_averagePrice",
+        "cannot be written");
+    row("parse-listing stock.txt", 2, "", "-d");
+    row("parse-listing none.txt -d one.xml", 1, "", "corrupted");
+    row("parse-listing good.xml -d one.xml", 1, "", "good.xml");
     row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 

@@ -73,7 +73,7 @@ void tst_databaseChecks::samePartNumber()
     manufacturer(third, " YAGEO ", "rc0603");
     manufacturer(third, "Yageo", "RC0603");
     QCOMPARE(duplicateLines(duplicatePartNumbers(database)),
-             QStringList("<b>Yageo RC0603</b> [first], [third]<br>"));
+             QStringList("<b>Yageo RC0603</b> [1 first], [3 third]<br>"));
 }
 
 void tst_databaseChecks::emptyFields_data()
