@@ -2,9 +2,12 @@
 #include "benchSupport.h"
 
 #include "data/kiv_mat_databaseStruct.h"
+#include "data/ktmIndex.h"
 #include "data/loaders.h"
 #include "database/altiumExport.h"
 #include "database/databaseChecks.h"
+#include "database/databaseMerge.h"
+#include "database/warehouseListing.h"
 #include "util/localeSetup.h"
 #include "util/paths.h"
 
@@ -96,6 +99,51 @@ void duplicates(benchmark::State &state, const kiv_mat_databaseStruct &database)
     });
 }
 
+// Comparing with a copy in which every tenth material is changed, and taking that over.
+void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    kiv_mat_databaseStruct mine;
+    kiv_mat_databaseStruct other;
+    int number = 0;
+    for (const auto &group : database.groups) {
+        for (kiv_mat_databaseStruct *copy : {&mine, &other}) {
+            copy->groups.push_back(std::make_unique<d_groupStruct>());
+            copy->groups.back()->name = group->name;
+        }
+        for (const auto &material : group->items) {
+            mine.groups.back()->append(copyOf(*material));
+            if (++number % 10 == 0)
+                other.groups.back()->append(copyOf(*material))->d_description += QLatin1Char('x');
+            else
+                other.groups.back()->append(copyOf(*material));
+        }
+    }
+    // The texts of the two are their own, as when they come from two files.
+    for (const auto &group : other.groups)
+        for (const auto &material : group->items)
+            for (const auto &field : materialStruct::fields())
+                ((*material).*field.member).detach();
+    againstTime(state, 1.0, [&] {
+        return compareDatabases(mine, other).differences.size() == size_t(number / 10);
+    });
+}
+
+// A listing with an entry for each of 100,000 materials: cut, read and matched.
+void listing(benchmark::State &state, kiv_mat_databaseStruct &database)
+{
+    QString text;
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            text += QStringLiteral("Towar: %1\n Ilosc: 1 234,50 szt.\n Wartosc: 617,25\n")
+                        .arg(material->d_ktm);
+    ktmIndex index;
+    index.add(&database);
+    againstTime(state, 1.0, [&] {
+        const listingResult result = matchListing(parseListing(text), index);
+        return result.problems.isEmpty() && result.found == database.materialCount();
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -118,6 +166,8 @@ int main(int argc, char **argv)
     add("altium/xlsx", workbookAgainstPython)->Iterations(2);
     add("altium/script", script)->Iterations(3);
     add("duplicates", duplicates)->Iterations(5);
+    add("compare", compareWithCopy)->Iterations(3);
+    add("listing", listing)->Iterations(3);
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

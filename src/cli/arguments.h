@@ -95,5 +95,6 @@ extern const subcommand emptyCommand;
 extern const subcommand checkUrlsCommand;
 extern const subcommand dbReportCommand;
 extern const subcommand parseListingCommand;
+extern const subcommand mergeCommand;
 
 } // namespace cli

@@ -1,7 +1,9 @@
-// parse-listing: shows what would change in a material database, and writes it when asked to.
+// parse-listing and merge: show what would change in a material database, and write it when asked
+// to.
 #include "cli/arguments.h"
 
 #include "data/loaders.h"
+#include "database/databaseMerge.h"
 #include "database/warehouseListing.h"
 
 #include <QCoreApplication>
@@ -69,8 +71,73 @@ int runParseListing(const QStringList &arguments)
     return saveTo(options.value(output), *database);
 }
 
+// new, changed or absent, KTM and name; below a changed one its fields with both values.
+void printDifference(const materialDifference &difference)
+{
+    static const char *const words[] = {"new", "changed", "absent"};
+    const materialStruct &shown = difference.other ? *difference.other : *difference.mine;
+    out() << words[difference.kind] << '\t' << shown.d_ktm << '\t' << shown.d_name << '\n';
+    for (int index : difference.fields) {
+        const comparedField &field = comparedFields()[size_t(index)];
+        const auto oneLine = [&field](const materialStruct &material) {
+            return field.text(material).replace(QLatin1Char('\n'), QLatin1String("; "));
+        };
+        out() << '\t' << field.name << '\t' << oneLine(*difference.mine) << '\t'
+              << oneLine(*difference.other) << '\n';
+    }
+}
+
+int runMerge(const QStringList &arguments)
+{
+    parser options(mergeCommand, QStringLiteral("DB OTHER"), 2, 2);
+    const QCommandLineOption apply(
+        QStringLiteral("apply"),
+        QCoreApplication::translate("cli", "Take over what is new or changed; wants -o."));
+    const QCommandLineOption update(
+        QStringLiteral("update"),
+        QCoreApplication::translate(
+            "cli", "The other database wins: list, and with --apply delete, what it lacks."));
+    const QCommandLineOption output =
+        outputOption(QT_TRANSLATE_NOOP("cli", "Where the merged database goes."));
+    options.addOption(apply);
+    options.addOption(update);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    if (options.isSet(apply) != options.isSet(output)) {
+        err() << "merge: " << QCoreApplication::translate("cli", "--apply and -o belong together")
+              << '\n'
+              << Qt::flush;
+        return wrongCall;
+    }
+    const auto mine = readDatabase(options.positionalArguments().at(0));
+    const auto other = mine ? readDatabase(options.positionalArguments().at(1)) : nullptr;
+    if (!other)
+        return refused;
+    std::vector<materialDifference> differences = compareDatabases(*mine, *other).differences;
+    if (!options.isSet(update))
+        std::erase_if(differences, [](const materialDifference &difference) {
+            return difference.kind == materialDifference::absent;
+        });
+    if (differences.empty())
+        out() << allMaterialsInDatabase() << '\n';
+    for (const materialDifference &difference : differences)
+        printDifference(difference);
+    out() << Qt::flush;
+    if (options.isSet(update))
+        updateDatabase(*mine, differences);
+    else
+        mergeDatabase(*mine, differences);
+    return saveTo(options.value(output), *mine);
+}
+
 } // namespace
 
+const subcommand mergeCommand{
+    "merge",
+    QT_TRANSLATE_NOOP("cli", "Lists the materials of another database that are new or changed, and "
+                             "takes them over when asked to."),
+    runMerge};
 const subcommand parseListingCommand{
     "parse-listing",
     QT_TRANSLATE_NOOP("cli",

@@ -13,7 +13,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::validateCommand,   &cli::reportCommand,       &cli::infoCommand,
         &cli::resaveCommand,     &cli::altiumCommand,       &cli::groupsCommand,
         &cli::duplicatesCommand, &cli::emptyCommand,        &cli::checkUrlsCommand,
-        &cli::dbReportCommand,   &cli::parseListingCommand,
+        &cli::dbReportCommand,   &cli::parseListingCommand, &cli::mergeCommand,
     };
     return table;
 }

@@ -17,6 +17,7 @@ private slots:
     void faultsHaveTheirPlace();
     void longListsAreCut();
     void reportWithDatabases();
+    void changesAreWritten();
     void polishPathsAndLanguage();
     void runsWithoutDisplayAndHome();
 
@@ -59,6 +60,11 @@ void tst_cli::init()
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
                                           "<d_ktm>K</d_ktm></material></d_group>"));
     m_folder->write("stock.txt", "Towar: K\nIlosc: 2\nWartosc: 5\nTowar: brak\n");
+    m_folder->write("other.xml", testSupport::document(
+                                     "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                                     "<d_group "
+                                     "name=\"G\"><material><d_ktm>K</d_ktm><d_price>5</d_price></"
+                                     "material><material><d_ktm>L</d_ktm></material></d_group>"));
     m_folder->write("one.xml",
                     testSupport::document(
                         "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
@@ -129,6 +135,13 @@ void tst_cli::calls_data()
     row("parse-listing stock.txt", 2, "", "-d");
     row("parse-listing none.txt -d one.xml", 1, "", "corrupted");
     row("parse-listing good.xml -d one.xml", 1, "", "good.xml");
+    row("merge one.xml one.xml", 0, "All materials in database", "");
+    row("merge one.xml other.xml", 0, "changed\tK\t\n\td_price\t\t5\nnew\tL\t\n", "");
+    row("merge one.xml other.xml --apply -o out.xml", 0, "new\tL", "");
+    row("merge other.xml one.xml --update", 0, "changed\tK\t\n\td_price\t5\t\nabsent\tL", "");
+    row("merge one.xml other.xml --apply", 2, "", "belong together");
+    row("merge one.xml other.xml --apply -o _validator", 3, "new\tL", "cannot be written");
+    row("merge one.xml good.xml", 1, "", "is no material database");
     row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 
@@ -193,6 +206,19 @@ void tst_cli::reportWithDatabases()
     QVERIFY(!page.contains("Second"));
     QCOMPARE(run(call + QStringList("r.pdf")).code, 0);
     QVERIFY(testSupport::read(m_folder->path("r.pdf")).startsWith("%PDF"));
+}
+
+// What merge and parse-listing write is what they said.
+void tst_cli::changesAreWritten()
+{
+    QCOMPARE(run({"merge", "one.xml", "other.xml", "--apply", "-o", "m.xml"}).code, 0);
+    QVERIFY(run({"merge", "m.xml", "other.xml", "--update"}).out.startsWith("All materials"));
+    QCOMPARE(run({"merge", "m.xml", "one.xml", "--update", "--apply", "-o", "u.xml"}).code, 0);
+    QVERIFY(run({"merge", "u.xml", "one.xml", "--update"}).out.startsWith("All materials"));
+    QCOMPARE(run({"parse-listing", "stock.txt", "-d", "one.xml", "-o", "s.xml"}).code, 0);
+    QCOMPARE(run({"parse-listing", "stock.txt", "-d", "s.xml"}).out, QString());
+    QVERIFY(testSupport::read(m_folder->path("s.xml"))
+                .contains("<d_averagePrice>2.50</d_averagePrice>"));
 }
 
 void tst_cli::polishPathsAndLanguage()
