@@ -96,5 +96,8 @@ extern const subcommand checkUrlsCommand;
 extern const subcommand dbReportCommand;
 extern const subcommand parseListingCommand;
 extern const subcommand mergeCommand;
+extern const subcommand loadCpvCommand;
+extern const subcommand moveCpvCommand;
+extern const subcommand checkNipCommand;
 
 } // namespace cli

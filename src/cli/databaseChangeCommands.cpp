@@ -1,12 +1,14 @@
-// parse-listing and merge: show what would change in a material database, and write it when asked
-// to.
+// parse-listing, merge, load-cpv and move-cpv: show what would change in a material database, and
+// write it when asked to.
 #include "cli/arguments.h"
 
 #include "data/loaders.h"
+#include "database/cpvOperations.h"
 #include "database/databaseMerge.h"
 #include "database/warehouseListing.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace cli {
 
@@ -36,26 +38,39 @@ void printChanges(const std::vector<materialChange> &changes)
     out() << Qt::flush;
 }
 
+const char *const changedDatabase =
+    QT_TRANSLATE_NOOP("cli", "Where the changed database goes; without it nothing is written.");
+
+// The database of the option -d, or null with the exit code in code.
+std::unique_ptr<kiv_mat_databaseStruct> readNamed(const parser &options,
+                                                  const QCommandLineOption &option,
+                                                  const char *command, int *code)
+{
+    if (options.isSet(option)) {
+        *code = refused;
+        return readDatabase(options.value(option));
+    }
+    *code = wrongCall;
+    err() << command << ": "
+          << QCoreApplication::translate("cli", "give a material database with -d") << '\n'
+          << Qt::flush;
+    return nullptr;
+}
+
 int runParseListing(const QStringList &arguments)
 {
     parser options(parseListingCommand, QStringLiteral("LISTING"), 1, 1);
     const QCommandLineOption databaseFile =
         databaseOption(QT_TRANSLATE_NOOP("cli", "The material database."));
-    const QCommandLineOption output = outputOption(QT_TRANSLATE_NOOP(
-        "cli", "Where the changed database goes; without it nothing is written."));
+    const QCommandLineOption output = outputOption(changedDatabase);
     options.addOption(databaseFile);
     options.addOption(output);
     if (!options.accept(arguments))
         return options.code();
-    if (!options.isSet(databaseFile)) {
-        err() << "parse-listing: "
-              << QCoreApplication::translate("cli", "give a material database with -d") << '\n'
-              << Qt::flush;
-        return wrongCall;
-    }
-    const auto database = readDatabase(options.value(databaseFile));
+    int code = done;
+    const auto database = readNamed(options, databaseFile, parseListingCommand.name, &code);
     if (!database)
-        return refused;
+        return code;
     QString error;
     const auto entries = readListing(options.positionalArguments().at(0), &error);
     if (!entries) {
@@ -65,6 +80,49 @@ int runParseListing(const QStringList &arguments)
     ktmIndex index;
     index.add(database.get());
     const listingResult result = matchListing(*entries, index);
+    printNotes(result.problems);
+    printChanges(result.changes);
+    applyChanges(result.changes);
+    return saveTo(options.value(output), *database);
+}
+
+int runLoadCpv(const QStringList &arguments)
+{
+    parser options(loadCpvCommand, QStringLiteral("LIST"), 1, 1);
+    const QCommandLineOption databaseFile =
+        databaseOption(QT_TRANSLATE_NOOP("cli", "The material database."));
+    const QCommandLineOption output = outputOption(changedDatabase);
+    options.addOption(databaseFile);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    int code = done;
+    const auto database = readNamed(options, databaseFile, loadCpvCommand.name, &code);
+    if (!database)
+        return code;
+    const QString list = options.positionalArguments().at(0);
+    const auto result = loadCpvForGroups(list, *database);
+    printNotes(result.problems);
+    if (!QFileInfo(list).isFile())
+        return refused;
+    for (const groupChange &change : result.changes)
+        out() << change.record->name << '\t' << change.before << '\t' << change.after << '\n';
+    out() << Qt::flush;
+    applyChanges(result.changes);
+    return saveTo(options.value(output), *database);
+}
+
+int runMoveCpv(const QStringList &arguments)
+{
+    parser options(moveCpvCommand, QStringLiteral("DB"), 1, 1);
+    const QCommandLineOption output = outputOption(changedDatabase);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    const auto database = readDatabase(options.positionalArguments().at(0));
+    if (!database)
+        return refused;
+    const auto result = moveCpvToMaterials(*database);
     printNotes(result.problems);
     printChanges(result.changes);
     applyChanges(result.changes);
@@ -144,5 +202,17 @@ const subcommand parseListingCommand{
                       "Lists the stock and average prices that a listing of the warehouse, or "
                       "another database, changes in a material database."),
     runParseListing};
+
+const subcommand loadCpvCommand{
+    "load-cpv",
+    QT_TRANSLATE_NOOP("cli", "Lists the CPV codes of groups that a text file changes in a material "
+                             "database."),
+    runLoadCpv};
+const subcommand moveCpvCommand{
+    "move-cpv",
+    QT_TRANSLATE_NOOP("cli",
+                      "Lists the materials whose CPV code is another than their group's, and "
+                      "gives them that."),
+    runMoveCpv};
 
 } // namespace cli

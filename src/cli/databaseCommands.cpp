@@ -1,4 +1,5 @@
-// duplicates, empty, check-urls and db-report: what a material database holds and lacks.
+// duplicates, empty, check-urls and db-report: what a material database holds and lacks; and
+// check-nip for the firm register.
 #include "cli/arguments.h"
 
 #include "data/kiv_mat_firmStruct.h"
@@ -6,7 +7,7 @@
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
 #include "database/linkOperations.h"
-#include "util/text.h"
+#include "firm/firmChecks.h"
 
 #include <QCoreApplication>
 
@@ -103,6 +104,33 @@ int runCheckUrls(const QStringList &arguments)
     return allAnswer ? done : refused;
 }
 
+// Validates, then reads a firm register. Prints what is wrong; false when it is refused.
+bool readFirms(const QString &path, kiv_mat_firmStruct *firms)
+{
+    if (!validateFile(path))
+        return false;
+    if (fileKinds::ofFile(path) == &fileKinds::firm && loadFirm(path, firms) == 0)
+        return true;
+    err() << path << ": " << QCoreApplication::translate("cli", "is no firm register") << '\n'
+          << Qt::flush;
+    return false;
+}
+
+int runCheckNip(const QStringList &arguments)
+{
+    parser options(checkNipCommand, QStringLiteral("FIRMS"), 1, 1);
+    if (!options.accept(arguments))
+        return options.code();
+    kiv_mat_firmStruct firms;
+    if (!readFirms(options.positionalArguments().at(0), &firms))
+        return refused;
+    const std::vector<const firmStruct *> wrong = firmsWithWrongTaxNumber(firms);
+    for (const firmStruct *firm : wrong)
+        out() << firm->name << '\t' << firm->nip << '\n';
+    out() << Qt::flush;
+    return wrong.empty() ? done : refused;
+}
+
 int runDbReport(const QStringList &arguments)
 {
     parser options(dbReportCommand, QStringLiteral("DB"), 1, 1);
@@ -125,15 +153,8 @@ int runDbReport(const QStringList &arguments)
         return refused;
     kiv_mat_firmStruct firms;
     if (options.isSet(firmFile)) {
-        const QString path = options.value(firmFile);
-        if (!validateFile(path))
+        if (!readFirms(options.value(firmFile), &firms))
             return refused;
-        if (fileKinds::ofFile(path) != &fileKinds::firm || loadFirm(path, &firms) != 0) {
-            err() << path << ": " << QCoreApplication::translate("cli", "is no firm register")
-                  << '\n'
-                  << Qt::flush;
-            return refused;
-        }
     }
     const databaseReportKind kind =
         options.isSet(brief) ? databaseReportKind::brief : databaseReportKind::full;
@@ -165,5 +186,12 @@ const subcommand checkUrlsCommand{
 const subcommand dbReportCommand{
     "db-report", QT_TRANSLATE_NOOP("cli", "Writes the report of a material database as HTML."),
     runDbReport};
+
+const subcommand checkNipCommand{
+    "check-nip",
+    QT_TRANSLATE_NOOP("cli",
+                      "Lists the firms whose tax number is wrong. Exit code 1 when there are "
+                      "some."),
+    runCheckNip};
 
 } // namespace cli

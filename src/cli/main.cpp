@@ -14,6 +14,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::resaveCommand,     &cli::altiumCommand,       &cli::groupsCommand,
         &cli::duplicatesCommand, &cli::emptyCommand,        &cli::checkUrlsCommand,
         &cli::dbReportCommand,   &cli::parseListingCommand, &cli::mergeCommand,
+        &cli::loadCpvCommand,    &cli::moveCpvCommand,      &cli::checkNipCommand,
     };
     return table;
 }

@@ -59,12 +59,20 @@ void tst_cli::init()
                     testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
                                           "<d_ktm>K</d_ktm></material></d_group>"));
+    m_folder->write("cpv.txt", "G\t31712340-5 Diody\nX\t31712340-5\n");
+    m_folder->write(
+        "firms.xml",
+        testSupport::document(
+            "kiv_mat_firm", "KIV_MAT_FIRM_1", "kiv_mat.xsd",
+            "<suppliers><firm><name>Wrong</name><nip>5260250275</nip></firm></suppliers>"));
     m_folder->write("stock.txt", "Towar: K\nIlosc: 2\nWartosc: 5\nTowar: brak\n");
-    m_folder->write("other.xml", testSupport::document(
-                                     "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
-                                     "<d_group "
-                                     "name=\"G\"><material><d_ktm>K</d_ktm><d_price>5</d_price></"
-                                     "material><material><d_ktm>L</d_ktm></material></d_group>"));
+    m_folder->write(
+        "other.xml",
+        testSupport::document(
+            "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+            "<d_group "
+            "name=\"G\" cpv=\"31711130-3\"><material><d_ktm>K</d_ktm><d_price>5</d_price></"
+            "material><material><d_ktm>L</d_ktm></material></d_group>"));
     m_folder->write("one.xml",
                     testSupport::document(
                         "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
@@ -142,6 +150,13 @@ void tst_cli::calls_data()
     row("merge one.xml other.xml --apply", 2, "", "belong together");
     row("merge one.xml other.xml --apply -o _validator", 3, "new\tL", "cannot be written");
     row("merge one.xml good.xml", 1, "", "is no material database");
+    row("load-cpv cpv.txt -d one.xml", 0, "G\t\t31712340-5", "X");
+    row("load-cpv cpv.txt -d one.xml -o _validator", 3, "31712340-5", "cannot be written");
+    row("load-cpv cpv.txt", 2, "", "-d");
+    row("load-cpv none.txt -d one.xml", 1, "", "none.txt");
+    row("move-cpv other.xml -o out.xml", 0, "L\td_cpv\t\t31711130-3", "");
+    row("check-nip firms.xml", 1, "Wrong\t5260250275", "");
+    row("check-nip one.xml", 1, "", "is no firm register");
     row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 
