@@ -138,7 +138,7 @@ void listing(benchmark::State &state, kiv_mat_databaseStruct &database)
                         .arg(material->d_ktm);
     ktmIndex index;
     index.add(&database);
-    againstTime(state, 1.0, [&] {
+    againstTime(state, 2.0, [&] {
         const listingResult result = matchListing(parseListing(text), index);
         return result.problems.isEmpty() && result.found == database.materialCount();
     });

@@ -42,6 +42,7 @@ public:
 
     void showError(const QString &html) override;
     void showInformation(const QString &html) override;
+    void showWarning(const QString &html) override { showInformation(html); }
     answer ask(const QString &html, bool withCancel) override;
     QString openFile(const QString &, const QString &, const QString &) override { return file; }
     QString saveFile(const QString &, const QString &proposed, const QString &) override;

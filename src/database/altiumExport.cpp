@@ -6,6 +6,7 @@
 #include "database/workbook.h"
 #include "util/files.h"
 #include "util/labels.h"
+#include "util/messages.h"
 #include "util/safeFile.h"
 #include "util/text.h"
 
@@ -82,25 +83,40 @@ QStringList groupNames(const kiv_mat_databaseStruct &database)
     return names;
 }
 
+// A line for the errors window. text: English source, context "altiumExport".
+QString note(const char *text, const QString &subject, const QString &reason = {})
+{
+    return messages::failed(QCoreApplication::translate("altiumExport", text).toHtmlEscaped()
+                                + QLatin1String("&nbsp;"),
+                            subject, reason);
+}
+
 // Tells which groups got another name than the replacement of letters alone gives.
 QStringList renameNotes(const QStringList &wanted, const QStringList &given)
 {
     QStringList notes;
     for (int i = 0; i < wanted.size(); ++i)
         if (exportNames::replaceCharacters(wanted.at(i)) != given.at(i))
-            notes.append(QCoreApplication::translate("altiumExport", "Name changed").toHtmlEscaped()
-                         + QLatin1String("&nbsp;<b>") + wanted.at(i).toHtmlEscaped()
-                         + QLatin1String("</b>&nbsp;[") + given.at(i).toHtmlEscaped()
-                         + QLatin1String("]<br>"));
+            notes.append(
+                note(QT_TRANSLATE_NOOP("altiumExport", "Name changed"), wanted.at(i), given.at(i)));
+    return notes;
+}
+
+// Tells which tables the CAD tool will not see.
+QStringList undescribedNotes(const QStringList &tables)
+{
+    QStringList notes;
+    for (const QString &table : tables)
+        if (!libraryDescription::canDescribe(table))
+            notes.append(note(
+                QT_TRANSLATE_NOOP("altiumExport", "Left out of the library description"), table));
     return notes;
 }
 
 QString cutNote(const QString &caption, const QString &subject)
 {
-    return QCoreApplication::translate("altiumExport", "Text too long for a cell, cut")
-               .toHtmlEscaped()
-           + QLatin1String("&nbsp;<b>") + subject.toHtmlEscaped() + QLatin1String("</b>&nbsp;[")
-           + caption.toHtmlEscaped() + QLatin1String("]<br>");
+    return note(QT_TRANSLATE_NOOP("altiumExport", "Text too long for a cell, cut"), subject,
+                caption);
 }
 
 QString notWritten(const QString &path)
@@ -280,7 +296,7 @@ exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QStr
     exportResult result;
     const QStringList wanted = groupNames(database);
     const QStringList sheets = exportNames::sheetNames(wanted);
-    result.notes = renameNotes(wanted, sheets);
+    result.notes = renameNotes(wanted, sheets) + undescribedNotes(sheets);
     const QStringList columnNames = captions();
     const std::vector<exportColumn> &columns = exportColumns();
     workbook book;
@@ -324,7 +340,7 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
     exportResult result;
     const QStringList wanted = groupNames(database);
     const QStringList tables = exportNames::sqlNames(wanted);
-    result.notes = renameNotes(wanted, tables);
+    result.notes = renameNotes(wanted, tables) + undescribedNotes(tables);
     // The first column, "id", numbers the rows.
     const QStringList columnNames = exportNames::sqlNames(captions(), {QStringLiteral("id")});
 
@@ -334,19 +350,20 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
                                                         "The SQLite driver cannot be used"));
     const QByteArray description =
         descriptionOf(libraryDescription::sqliteFile, path, tables, columnNames);
-    const QStringList paths{scriptPath(path), path, libraryPath(path)};
-    safeFile script(paths.at(0));
-    safeFile data(paths.at(1));
+    // The file that a program may hold open comes first: when it cannot be replaced, none is.
+    const QStringList paths{path, scriptPath(path), libraryPath(path)};
+    safeFile data(paths.at(0));
+    safeFile script(paths.at(1));
     safeFile library(paths.at(2));
     if (!script.open(QIODevice::WriteOnly)
         || !writeScript(database, tables, columnNames, script, result, progress))
         return result.result == exportResult::cancelled ? result
-                                                        : fail(result, notWritten(paths.at(0)));
+                                                        : fail(result, notWritten(paths.at(1)));
     if (!data.open(QIODevice::WriteOnly) || data.write(empty) != empty.size())
         return fail(result, notWritten(path));
     if (!library.open(QIODevice::WriteOnly) || library.write(description) != description.size())
         return fail(result, notWritten(paths.at(2)));
-    const QList<safeFile *> written{&script, &data, &library};
+    const QList<safeFile *> written{&data, &script, &library};
     for (int i = 0; i < written.size(); ++i)
         if (!written.at(i)->commit())
             return fail(result, notWritten(paths.at(i)));

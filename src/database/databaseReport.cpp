@@ -161,6 +161,7 @@ QString reportWriter::group(const d_groupStruct &group)
         return page.text();
     }
     page.openTable(QStringLiteral("class=\"lines\""));
+    page.append(QStringLiteral("<col style=\"width:4%\">"));
     page.openRow(QStringLiteral("class=\"caption\""));
     for (const QString &caption :
          {labels::number(), labels::ktm(), labels::name(), labels::description(), labels::value(),

@@ -2,7 +2,7 @@
 
 namespace {
 
-// Separates the settings of a field; a name that holds it cannot be described.
+// Separates the settings of a field.
 constexpr QLatin1Char separator('|');
 
 // How the spreadsheet driver calls a sheet: two characters have another meaning for it.
@@ -29,6 +29,13 @@ QString connection(libraryDescription::source kind, const QString &fileName)
 
 namespace libraryDescription {
 
+bool canDescribe(const QString &table)
+{
+    // Brackets quote names in the tool's queries.
+    return !table.contains(separator) && !table.contains(QLatin1Char('['))
+           && !table.contains(QLatin1Char(']'));
+}
+
 QByteArray text(source kind, const QString &fileName, const QStringList &tables,
                 const QList<column> &columns, int keyColumn)
 {
@@ -51,7 +58,7 @@ QByteArray text(source kind, const QString &fileName, const QStringList &tables,
 
     QStringList described;
     for (const QString &table : tables)
-        if (!table.contains(separator))
+        if (canDescribe(table))
             described.append(driverName(kind, table));
     const column &key = columns.at(keyColumn);
     for (int i = 0; i < described.size(); ++i) {

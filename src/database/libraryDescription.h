@@ -20,8 +20,12 @@ struct column
     QString parameter;
 };
 
+// Whether a table of that name can stand in a description: some characters have a meaning there.
+bool canDescribe(const QString &table);
+
 // fileName: the exported file, which lies beside the description. tables: the names of its sheets
-// or tables. keyColumn: the place in columns of the one that finds a part again.
+// or tables; those that cannot be described are left out. keyColumn: the place in columns of the
+// one that finds a part again.
 QByteArray text(source kind, const QString &fileName, const QStringList &tables,
                 const QList<column> &columns, int keyColumn);
 

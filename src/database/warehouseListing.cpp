@@ -64,11 +64,11 @@ std::optional<double> numberBehind(const QStringList &lines, QLatin1String key)
     return {};
 }
 
-QString firstWord(const QString &line)
+QString firstWord(const QString &trimmed)
 {
-    static const QRegularExpression blanks(QStringLiteral("\\s+"),
-                                           QRegularExpression::UseUnicodePropertiesOption);
-    return line.trimmed().section(blanks, 0, 0);
+    const auto blank =
+        std::find_if(trimmed.begin(), trimmed.end(), [](QChar c) { return c.isSpace(); });
+    return trimmed.left(int(blank - trimmed.begin()));
 }
 
 listingEntry parseEntry(const QStringList &lines)
@@ -131,12 +131,15 @@ void addChange(std::vector<materialChange> &changes, materialStruct *material,
 std::vector<listingEntry> parseListing(const QString &text)
 {
     std::vector<listingEntry> entries;
+    QString lines = text;
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
     const QString mark = QStringLiteral("Towar:");
-    static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
-    for (int at = text.indexOf(mark); at >= 0;) {
+    for (int at = lines.indexOf(mark); at >= 0;) {
         const int begin = at + mark.size();
-        at = text.indexOf(mark, begin);
-        entries.push_back(parseEntry(text.mid(begin, at < 0 ? -1 : at - begin).split(lineEnd)));
+        at = lines.indexOf(mark, begin);
+        entries.push_back(
+            parseEntry(lines.mid(begin, at < 0 ? -1 : at - begin).split(QLatin1Char('\n'))));
     }
     return entries;
 }

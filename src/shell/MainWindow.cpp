@@ -4,6 +4,7 @@
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "dialogs/configWindow.h"
 #include "shell/logos.h"
@@ -167,6 +168,10 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Delete all lines")},
      &MainWindow::commandZpDeleteAll},
 
+    {{"database", QT_TRANSLATE_NOOP("actions", "Tools"),
+      QT_TRANSLATE_NOOP("actions", "Database of material"), "action_database", "Ctrl+D",
+      QT_TRANSLATE_NOOP("actions", "Browse and edit a material database"), true},
+     &MainWindow::databaseCommand},
     {{"config", QT_TRANSLATE_NOOP("actions", "Tools"),
       QT_TRANSLATE_NOOP("actions", "Configuration"), "action_config", nullptr,
       QT_TRANSLATE_NOOP("actions", "Options, persons and targets")},
@@ -328,6 +333,14 @@ void MainWindow::showDocument()
     showState();
 }
 
+// Statuses and stock may have changed in a database window.
+void MainWindow::changeEvent(QEvent *event)
+{
+    baseWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_order)
+        m_order->refreshLooks();
+}
+
 void MainWindow::refreshHtml() { m_refresh->start(); }
 
 void MainWindow::refreshPreview()
@@ -421,6 +434,44 @@ void MainWindow::commandPreviewBeside(bool on)
         m_tabs->addTab(m_preview, labels::previewDo());
     }
     currentTabChanged(0);
+}
+
+Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kind)
+{
+    auto &window = m_databases[kind];
+    if (!window) {
+        window = std::make_unique<Kiv_mat_databaseWindow>(kind);
+        connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
+                &MainWindow::appendToOrder);
+    }
+    return *window;
+}
+
+void MainWindow::databaseCommand(bool)
+{
+    programData &known = programData::instance();
+    QStringList names;
+    std::vector<programData::databaseKind> kinds;
+    for (int kind = 0; kind < programData::databaseCount; ++kind) {
+        const QString &path = known.database(programData::databaseKind(kind)).filePath;
+        if (path.isEmpty())
+            continue;
+        names.append(QFileInfo(path).fileName());
+        kinds.push_back(programData::databaseKind(kind));
+    }
+    if (kinds.empty()) {
+        statusBar()->showMessage(tr("No database is loaded"));
+        return;
+    }
+    size_t chosen = 0;
+    if (kinds.size() > 1) {
+        const auto answer =
+            userPrompts().choose(tr("Database of material"), tr("Database"), names, 0);
+        if (!answer)
+            return;
+        chosen = size_t(*answer);
+    }
+    databaseWindow(kinds[chosen]).showNow();
 }
 
 void MainWindow::configCommand(bool)

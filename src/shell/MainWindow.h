@@ -3,16 +3,19 @@
 #pragma once
 
 #include "commands/editCommands.h"
+#include "data/programData.h"
 #include "shell/orderOperations.h"
 #include "shell/orderRecovery.h"
 #include "window/baseWindow.h"
 
+#include <array>
 #include <optional>
 
 class QLabel;
 class QSplitter;
 class QTabWidget;
 class QTimer;
+class Kiv_mat_databaseWindow;
 class addMaterialDialog;
 class configWindow;
 class myWebView;
@@ -37,6 +40,8 @@ public:
     void offerRecovery();
 
     orderView &view() { return *m_order; }
+    // The window of a database, made when it is first asked for.
+    Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
     // The report brought up to date at once.
     void refreshPreview();
 
@@ -74,6 +79,7 @@ public slots:
     void commandArchiveDD(bool);
     void commandArchiveDatabase(bool);
     void commandPreviewBeside(bool on);
+    void databaseCommand(bool);
     void configCommand(bool);
     void commandShowLog(bool);
     void commandShowErrors(bool);
@@ -95,6 +101,7 @@ private slots:
     void currentTabChanged(int index);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -137,6 +144,7 @@ private:
     std::unique_ptr<orderRecovery> m_recovery;
     std::unique_ptr<configWindow> m_config;
     addMaterialDialog *m_addMaterial = nullptr;
+    std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     QString m_wanted; // what is searched in the order
     bool m_previewIsOld = true;
     bool m_unstored = false; // changed since the recovery copy was written

@@ -4,6 +4,7 @@
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/configWindow.h"
 #include "dialogs/linesDialog.h"
@@ -267,6 +268,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
     document.setModified(false);
     if (m_config)
         m_config->close();
+    for (const auto &window : m_databases)
+        if (window)
+            window->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     baseWindow::closeEvent(event);

@@ -469,6 +469,7 @@ QString displayText(const myItemStandard &item)
     case moneyKind:
         return numbers::check(item.text())
                    ? numbers::money(static_cast<const myItemMoney &>(item).value())
+                         + static_cast<const myItemMoney &>(item).suffix
                    : item.text();
     case checkBoxKind:
         return labels::shown(item.text());

@@ -185,6 +185,8 @@ public:
     void setValue(double value);
     void setStoredText(const QString &text);
 
+    QString suffix; // shown behind the amount, never stored
+
 private:
     double m_value = 0;
 };

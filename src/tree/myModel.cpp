@@ -42,6 +42,8 @@ void myModel::sort(int column, Qt::SortOrder order)
         const QSignalBlocker quiet(this);
         setSortKeys(invisibleRootItem(), column);
     }
+    m_sortColumn = column;
+    m_sortOrder = order;
     QStandardItemModel::sort(column, order);
     emit sorted();
 }
@@ -72,6 +74,13 @@ void myModel::fetch(QStandardItem *item)
         return;
     for (const myItem::row &row : m_records->childRows(first))
         first->appendRow(row);
+    if (m_sortColumn < 0)
+        return;
+    {
+        const QSignalBlocker quiet(this);
+        setSortKeys(first, m_sortColumn);
+    }
+    first->sortChildren(m_sortColumn, m_sortOrder);
 }
 
 void myModel::setValue(myItemStandard *item, const QVariant &value)

@@ -87,6 +87,8 @@ private:
 
     commandStack *m_stack = nullptr;
     modelRecords *m_records = nullptr;
+    int m_sortColumn = -1; // rows made later are sorted likewise
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     bool m_appendHeldBack = false;
     bool m_removeHeldBack = false;
     bool m_changeHeldBack = false;

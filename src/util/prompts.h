@@ -29,6 +29,8 @@ public:
     // a note under "Information".
     virtual void showError(const QString &html);
     virtual void showInformation(const QString &html);
+    // A refusal under the title "Warning".
+    virtual void showWarning(const QString &html);
 
     // A question under the title "Asking", with Yes and No, and Cancel when wanted. Closing the box
     // answers cancel, or no where there is no Cancel.

@@ -55,6 +55,13 @@ void dialogPrompts::showInformation(const QString &html)
     message.exec();
 }
 
+void dialogPrompts::showWarning(const QString &html)
+{
+    box message(titleOf(QT_TRANSLATE_NOOP("prompts", "Warning")), html);
+    message.showPicture(QStringLiteral("system_error_trans_128"));
+    message.exec();
+}
+
 prompts::answer dialogPrompts::ask(const QString &html, bool withCancel)
 {
     box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")), html);

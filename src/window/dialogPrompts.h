@@ -8,6 +8,7 @@ class dialogPrompts : public prompts
 public:
     void showError(const QString &html) override;
     void showInformation(const QString &html) override;
+    void showWarning(const QString &html) override;
     answer ask(const QString &html, bool withCancel) override;
     std::optional<int> decide(const QString &html, const QStringList &buttons) override;
     std::optional<QString> inputText(const QString &title, const QString &label,

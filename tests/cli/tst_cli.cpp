@@ -140,7 +140,7 @@ void tst_cli::calls_data()
     row("unpack good.xml", 2, "", "argument is missing");
     row("download http://127.0.0.1:1/ out.bin", 1, "", "cannot be started");
     row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.DbLib", "[Group]");
-    row("altium twice.xml -o out.SQLITE", 0, "out.txt\nout.SQLITE\nout.DbLib", "[Group]");
+    row("altium twice.xml -o out.SQLITE", 0, "out.SQLITE\nout.txt\nout.DbLib", "[Group]");
     row("altium twice.xml -o out.txt", 2, "", ".xlsx / .sqlite");
     row("altium good.xml -o out.xlsx", 1, "", "is no material database");
     row("altium twice.xml -o good.xml/out.sqlite", 3, "", "cannot be written");

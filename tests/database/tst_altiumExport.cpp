@@ -359,17 +359,20 @@ void tst_altiumExport::descriptionNamesWhatIsThere()
     kiv_mat_databaseStruct database;
     material(database, "A.b", "K");
     material(database, "with|bar", "K");
+    material(database, "with]bracket", "K");
     material(database, "Group", "K");
     QVERIFY(exportAltiumXlsx(database, path("part s.xlsx")).files.contains(path("part s.DbLib")));
     const QString text = QString::fromUtf8(testSupport::read(path("part s.DbLib")));
     QVERIFY(text.contains("Data Source=.\\part s.xlsx;"));
-    QVERIFY(!text.contains("with"));
+    QVERIFY(!text.contains("with|"));
+    QVERIFY(text.contains("TableName=with_bracket$"));
     QVERIFY(text.contains("TableName=A#b$\r\n"));
     QVERIFY(text.contains("TableName=Group$\r\n"));
-    QCOMPARE(text.count("[FieldMap"), 2 * 23);
+    QCOMPARE(text.count("[FieldMap"), 3 * 23);
     QVERIFY(text.contains("FieldName=Group$.LibraryRef|TableNameOnly=Group$|FieldNameOnly="
                           "LibraryRef|FieldType=1|ParameterName=[Library Ref]|"));
-    exportAltiumSqlite(database, path("p.sqlite"));
+    const QStringList notes = exportAltiumSqlite(database, path("p.sqlite")).notes;
+    QCOMPARE(notes.filter("<b>with").size(), 2);
     const QString sql = QString::fromUtf8(testSupport::read(path("p.DbLib")));
     QVERIFY(sql.contains("Database=.\\p.sqlite;"));
     QVERIFY(sql.contains("TableName=A.b\r\n"));

@@ -1,0 +1,258 @@
+#include "database/Kiv_mat_databaseMergeWindow.h"
+
+#include "commands/editCommands.h"
+#include "data/programData.h"
+#include "database/Kiv_mat_databaseWindow.h"
+#include "tree/myModel.h"
+#include "tree/myTreeView.h"
+#include "util/labels.h"
+#include "util/messages.h"
+#include "util/paths.h"
+#include "util/prompts.h"
+#include "window/workProgress.h"
+
+#include <QDir>
+#include <QHeaderView>
+#include <QStatusBar>
+
+#include <map>
+#include <set>
+
+using window = Kiv_mat_databaseMergeWindow;
+using myItem::myItemStandard;
+
+namespace {
+
+const windowAction<window> actionTable[] = {
+    {{"open", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Open"),
+      "action_open", "Ctrl+O", QT_TRANSLATE_NOOP("actions", "Compare with another file"), true},
+     &window::commandOpen},
+    {{"set", "File", QT_TRANSLATE_NOOP("actions", "Set"), "action_set", "Ctrl+S",
+      QT_TRANSLATE_NOOP("actions", "Take over the selected materials or fields, or all"), true},
+     &window::commandSet},
+    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
+     &window::commandClose},
+    {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
+      "action_undo", "Ctrl+Z", nullptr, true},
+     &window::commandUndo},
+    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
+     &window::commandRedo},
+    {{"leaveOut", "Edit", QT_TRANSLATE_NOOP("actions", "Leave out"), "action_delete", "Del",
+      QT_TRANSLATE_NOOP("actions", "Take the selected materials out of the list"), true},
+     &window::commandLeaveOut},
+    {{"expand", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Expand"),
+      "action_expand", nullptr, nullptr, true},
+     &window::commandExpand},
+    {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
+      nullptr, true},
+     &window::commandCollaps},
+};
+
+// In the first cell of a row: the place of its difference, or of its field.
+constexpr int placeRole = Qt::UserRole + 2;
+
+myItem::row rowOf(const QString &name, const QString &mine, const QString &other, int place)
+{
+    myItem::row row;
+    for (const QString &text : {name, mine, other}) {
+        auto *item = new myItemStandard(QString());
+        item->setText(text);
+        item->setToolTip(text);
+        item->setEditable(false);
+        row.append(item);
+    }
+    row.first()->setData(place, placeRole);
+    return row;
+}
+
+// A difference is told by the type's weight, and by colour.
+void mark(const myItem::row &row)
+{
+    static const QBrush colour(QColor(0xA0, 0x20, 0x20));
+    QFont font;
+    font.setBold(true);
+    for (QStandardItem *item : row)
+        item->setForeground(colour);
+    myItem::setFont(row, font);
+}
+
+} // namespace
+
+window::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database)
+    : baseWindow(QStringLiteral("Kiv_mat_databaseMergeWindow"))
+    , m_database(database)
+    , m_model(new myModel(this))
+    , m_view(new myTreeView(this))
+{
+    setWindowTitle(tr("Merge"));
+    addActions(actionTable);
+    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
+    m_view->setObjectName(QStringLiteral("differences"));
+    m_view->setAccessibleName(tr("Differences"));
+    m_view->setModel(m_model);
+    m_view->setSortingEnabled(false);
+    m_model->setHorizontalHeaderLabels({labels::name(), tr("Value [orgin]"), tr("Value [new]")});
+    m_view->header()->setObjectName(QStringLiteral("differencesHeader"));
+    constexpr int columnWidth = 300;
+    m_view->header()->resizeSection(0, columnWidth);
+    m_view->header()->resizeSection(1, columnWidth);
+    m_view->header()->setStretchLastSection(true);
+    connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
+            &window::itemTreeClicked);
+    setCentralWidget(m_view);
+    constexpr QSize usualSize(1000, 680);
+    resize(usualSize);
+    updateActions();
+}
+
+window::~Kiv_mat_databaseMergeWindow() { m_stack->clear(); }
+
+void window::commandOpen(bool)
+{
+    const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(),
+                                                tr("Xml File") + QLatin1String(" (*.xml)"));
+    if (!path.isEmpty())
+        open(path);
+}
+
+bool window::open(const QString &path)
+{
+    auto other = std::make_unique<kiv_mat_databaseStruct>();
+    QString reason;
+    workProgress::scope work(progress(), tr("Comparing"));
+    if (!readChecked(path, other.get(), &reason, work.function())) {
+        if (!work.cancelled()) {
+            userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+            userPrompts().showErrors();
+        }
+        return false;
+    }
+    comparison found = compareDatabases(m_database->rows().database(), *other, work.function());
+    if (found.cancelled)
+        return false;
+    m_path = path;
+    m_other = std::move(other);
+    m_comparison = std::move(found);
+    showDifferences();
+    setWindowTitle(tr("Merge") + QLatin1String(" [") + QDir::toNativeSeparators(path)
+                   + QLatin1Char(']'));
+    if (m_model->rowCount() == 0)
+        userPrompts().showInformation(allMaterialsInDatabase().toHtmlEscaped());
+    return true;
+}
+
+void window::showDifferences()
+{
+    m_stack->clear();
+    m_model->removeRows(0, m_model->rowCount());
+    int place = -1;
+    for (const materialDifference &difference : m_comparison.differences) {
+        ++place;
+        if (difference.kind == materialDifference::absent)
+            continue;
+        const bool isNew = difference.kind == materialDifference::added;
+        const myItem::row row =
+            rowOf(difference.other->d_name, isNew ? tr("new") : difference.mine->d_ktm,
+                  difference.other->d_ktm, place);
+        int field = -1;
+        for (const comparedField &compared : comparedFields()) {
+            ++field;
+            const bool differs =
+                isNew
+                || std::find(difference.fields.begin(), difference.fields.end(), field)
+                       != difference.fields.end();
+            const myItem::row below =
+                rowOf(compared.caption(), isNew ? QString() : compared.text(*difference.mine),
+                      compared.text(*difference.other), field);
+            if (differs && !isNew)
+                mark(below);
+            row.first()->appendRow(below);
+        }
+        m_model->appendRow(row);
+    }
+    statusBar()->showMessage(tr("%n material(s) differ", nullptr, m_model->rowCount()));
+    updateActions();
+}
+
+void window::updateActions()
+{
+    const bool empty = m_model->rowCount() == 0;
+    for (const char *name : {"leaveOut", "expand", "collaps"})
+        setAvailable(name, !empty, tr("nothing differs"));
+    const bool locked = m_database->view()->isEditingLocked();
+    setAvailable("set", !empty && !locked,
+                 locked ? tr("editing of the database is locked") : tr("nothing differs"));
+}
+
+void window::commandSet(bool)
+{
+    // Of each material in the list: all of its fields, or those selected.
+    std::map<int, std::set<int>> selected;
+    for (const QModelIndex &cell : m_view->selectedCells()) {
+        const QModelIndex first = cell.sibling(cell.row(), 0);
+        if (first.parent().isValid())
+            selected[first.parent().data(placeRole).toInt()].insert(first.data(placeRole).toInt());
+        else
+            selected[first.data(placeRole).toInt()];
+    }
+    if (selected.empty())
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            selected[m_model->item(row)->data(placeRole).toInt()];
+    std::vector<materialDifference> wanted;
+    for (const auto &[place, fields] : selected) {
+        materialDifference difference = m_comparison.differences[size_t(place)];
+        if (!fields.empty() && difference.kind == materialDifference::changed)
+            difference.fields.assign(fields.begin(), fields.end());
+        wanted.push_back(std::move(difference));
+    }
+    const int count = int(wanted.size());
+    m_database->takeOver(wanted, false, tr("Merge"));
+    // What is left of the differences, against the database as it is now.
+    m_comparison = compareDatabases(m_database->rows().database(), *m_other);
+    showDifferences();
+    statusBar()->showMessage(tr("%n material(s) taken over", nullptr, count));
+}
+
+void window::commandLeaveOut(bool)
+{
+    std::set<int> rows;
+    for (const QModelIndex &cell : m_view->selectedCells())
+        rows.insert(cell.parent().isValid() ? cell.parent().row() : cell.row());
+    std::vector<std::unique_ptr<command>> members;
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+        members.push_back(std::make_unique<deleteMaterial>(m_model, m_model->index(*row, 0)));
+    if (!members.empty())
+        m_stack->push(std::make_unique<appendCommands>(std::move(members)), tr("Leave out"));
+    updateActions();
+}
+
+void window::commandUndo(bool)
+{
+    statusBar()->showMessage(tr("Undone: %1").arg(m_stack->undo()));
+    updateActions();
+}
+
+void window::commandRedo(bool)
+{
+    statusBar()->showMessage(tr("Done again: %1").arg(m_stack->redo()));
+    updateActions();
+}
+
+void window::commandCollaps(bool) { m_view->collapseAll(); }
+
+void window::commandExpand(bool) { m_view->expandAll(); }
+
+void window::commandClose(bool) { close(); }
+
+void window::itemTreeClicked(QPoint, uint, const QModelIndex &index)
+{
+    const QModelIndex row = index.sibling(index.row(), 0);
+    const QModelIndex material = row.parent().isValid() ? row.parent() : row;
+    const materialDifference &difference =
+        m_comparison.differences[size_t(material.data(placeRole).toInt())];
+    statusBar()->showMessage(
+        difference.kind == materialDifference::added
+            ? tr("New in the other file")
+            : tr("%n field(s) differ", nullptr, int(difference.fields.size())));
+}

@@ -1,0 +1,54 @@
+// Compares another database file with the one of a database window, material by material and field
+// by field, and takes over what the user selects.
+#pragma once
+
+#include "commands/commandStack.h"
+#include "database/databaseMerge.h"
+#include "window/baseWindow.h"
+
+class Kiv_mat_databaseWindow;
+class kiv_mat_databaseStruct;
+class myModel;
+class myTreeView;
+
+class Kiv_mat_databaseMergeWindow : public baseWindow
+{
+    Q_OBJECT
+public:
+    explicit Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database);
+    ~Kiv_mat_databaseMergeWindow() override;
+
+    // Compares with a file; false, listed in the errors window, when it cannot be read.
+    bool open(const QString &path);
+
+    myModel *model() { return m_model; }
+    myTreeView *view() { return m_view; }
+
+public slots:
+    void commandOpen(bool);
+    // Takes over the selected materials or single fields, or all when nothing is selected, as one
+    // step of the database window. Nothing is ever deleted there.
+    void commandSet(bool);
+    // Takes the selected materials out of the list: they stay as they are.
+    void commandLeaveOut(bool);
+    void commandUndo(bool);
+    void commandRedo(bool);
+    void commandCollaps(bool);
+    void commandExpand(bool);
+    void commandClose(bool);
+
+private slots:
+    void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
+
+private:
+    void showDifferences();
+    void updateActions();
+
+    Kiv_mat_databaseWindow *m_database;
+    std::unique_ptr<kiv_mat_databaseStruct> m_other;
+    QString m_path;
+    comparison m_comparison;
+    myModel *m_model;
+    myTreeView *m_view;
+    std::unique_ptr<commandStack> m_stack;
+};

@@ -1,0 +1,813 @@
+#include "database/Kiv_mat_databaseWindow.h"
+
+#include "database/Kiv_mat_databaseMergeWindow.h"
+
+#include "commands/cellBlock.h"
+#include "data/XmlValidator.h"
+#include "data/loaders.h"
+#include "data/vocabulary.h"
+#include "tree/myModelDelegate.h"
+#include "tree/myTreeView.h"
+#include "util/fileVersions.h"
+#include "util/labels.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+#include "util/text.h"
+#include "window/workProgress.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <set>
+
+using materialRows = databaseTree::rows;
+using myItem::myItemStandard;
+using window = Kiv_mat_databaseWindow;
+
+namespace {
+
+constexpr int filterDelayMs = 40;
+constexpr int sliceMs = 25;
+// Groups with matches open by themselves while no more materials than these are found.
+constexpr int openedMatches = 300;
+
+const actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true};
+const actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
+const actionRow toolsSeparator{nullptr, "Tools", nullptr, nullptr, nullptr, nullptr, false};
+
+const windowAction<window> actionTable[] = {
+    {{"save", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Save"),
+      "action_save", "Ctrl+S", nullptr, true},
+     &window::commandSave},
+    {{"update", "File", QT_TRANSLATE_NOOP("actions", "Update"), "action_update", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Make this database like another file")},
+     &window::commandUpdate},
+    {{"merge", "File", QT_TRANSLATE_NOOP("actions", "Merge"), "action_merge", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
+     &window::commandMerge},
+    {fileSeparator, nullptr},
+    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
+     &window::commandClose},
+
+    {{"fullReport", QT_TRANSLATE_NOOP("actions", "Report"), QT_TRANSLATE_NOOP("actions", "Full"),
+      "action_report", nullptr, QT_TRANSLATE_NOOP("actions", "Write a page of all materials")},
+     &window::commandFullReport},
+    {{"shortReport", "Report", QT_TRANSLATE_NOOP("actions", "Short"), "action_report_short",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Write a short page of all materials")},
+     &window::commandShortReport},
+
+    {{"edit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
+      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the database"), true,
+      true},
+     &window::commandEdit},
+    {{"undo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr, true},
+     &window::commandUndo},
+    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
+     &window::commandRedo},
+    {editSeparator, nullptr},
+    {{"copyText", "Edit", QT_TRANSLATE_NOOP("actions", "Copy text"), "data_copy_128", "Ctrl+C",
+      QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
+     &window::commandCopyText},
+    {{"copyMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Copy"), "data_copy_element2_128",
+      "Ctrl+Shift+C", QT_TRANSLATE_NOOP("actions", "Copy the selected materials")},
+     &window::commandCopyMaterials},
+    {{"cutMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Cut"), "data_cut_128", "Ctrl+X",
+      QT_TRANSLATE_NOOP("actions", "Cut the selected materials")},
+     &window::commandCutMaterials},
+    {{"pasteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Past"), "data_past_element2_128",
+      "Ctrl+V", QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group")},
+     &window::commandPasteMaterials},
+    {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
+      "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
+     &window::commandDeleteMaterials},
+    {editSeparator, nullptr},
+    {{"addGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new group"), "zp_open_group_128",
+      nullptr, nullptr},
+     &window::commandAddGroup},
+    {{"addMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new material"),
+      "data_new_element2_128", "Ins", nullptr, true},
+     &window::commandAddMaterial},
+    {{"editParameters", "Edit", QT_TRANSLATE_NOOP("actions", "Edit parameters"),
+      "data_open_element2_128", "F4", nullptr},
+     &window::commandEditParameters},
+    {{"editCpv", "Edit", QT_TRANSLATE_NOOP("actions", "Edit CPV"), "zp_cpv_edit_128", nullptr,
+      nullptr},
+     &window::commandEditCpv},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
+    {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
+      QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
+     &window::commandFind},
+
+    {{"expand", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Expand"),
+      "action_expand", nullptr, QT_TRANSLATE_NOOP("actions", "Open all groups"), true},
+     &window::commandExpand},
+    {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Close all groups"), true},
+     &window::commandCollaps},
+    {{"columns", "Tools", QT_TRANSLATE_NOOP("actions", "Columns"), "action_list", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Choose the columns shown")},
+     &window::commandColumns},
+    {toolsSeparator, nullptr},
+    {{"gray", "Tools", QT_TRANSLATE_NOOP("actions", "Gray"), "led_gray", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
+     &window::commandGray},
+    {{"green", "Tools", QT_TRANSLATE_NOOP("actions", "Green"), "led_green", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
+     &window::commandGreen},
+    {{"violet", "Tools", QT_TRANSLATE_NOOP("actions", "Violet"), "led_purple", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
+     &window::commandViolet},
+    {{"blue", "Tools", QT_TRANSLATE_NOOP("actions", "Blue"), "led_blue", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
+     &window::commandBlue},
+    {{"edited", "Tools", QT_TRANSLATE_NOOP("actions", "Edited"), "action_filter", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show only materials marked as edited"), true, true},
+     &window::commandEdited},
+    {toolsSeparator, nullptr},
+    {{"findDuplicate", "Tools", QT_TRANSLATE_NOOP("actions", "Find Duplicate"), "action_duplicate",
+      nullptr, QT_TRANSLATE_NOOP("actions", "List materials that share a KTM or a part number")},
+     &window::commandFindDuplicate},
+    {{"findEmpty", "Tools", QT_TRANSLATE_NOOP("actions", "Find empty"), "action_empty", nullptr,
+      QT_TRANSLATE_NOOP("actions", "List materials with empty fields")},
+     &window::commandFindEmpty},
+    {{"checkUrls", "Tools", QT_TRANSLATE_NOOP("actions", "Check urls"), "action_links", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Test every link of the materials")},
+     &window::commandCheck_urls},
+    {{"parse", "Tools", QT_TRANSLATE_NOOP("actions", "Parse"), "action_parse", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Take stock and prices from a listing")},
+     &window::commandParse},
+    {{"information", "Tools", QT_TRANSLATE_NOOP("actions", "Information"), "action_information",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Count materials and groups")},
+     &window::commandInformation},
+
+    {{"altiumXlsx", QT_TRANSLATE_NOOP("actions", "Altium"),
+      QT_TRANSLATE_NOOP("actions", "Create altium xlsx"), "action_xlsx", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Export the component library as a workbook")},
+     &window::commandAltiumXlsx},
+    {{"altiumSqlite", "Altium", QT_TRANSLATE_NOOP("actions", "Create altium sqlite"),
+      "action_sqlite", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Export the component library as a database")},
+     &window::commandAltiumSQLite},
+
+    {{"groups", QT_TRANSLATE_NOOP("actions", "Others"), QT_TRANSLATE_NOOP("actions", "Groups"),
+      "action_groups", nullptr, QT_TRANSLATE_NOOP("actions", "Export the list of groups")},
+     &window::commandGroups},
+    {{"loadCpv", "Others", QT_TRANSLATE_NOOP("actions", "Load CPV for groups"), "action_cpv",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Read the groups' CPV codes from a text file")},
+     &window::commandLoadCPVForGroups},
+    {{"moveCpv", "Others", QT_TRANSLATE_NOOP("actions", "Move CPV from group to materials"),
+      "action_cpv", nullptr, nullptr},
+     &window::commandMoveCPVFromGroupToMaterials},
+    {{"cpvIndex", "Others", QT_TRANSLATE_NOOP("actions", "CPV index"), "action_help", nullptr,
+      nullptr},
+     &window::commandCPVIndex},
+    {{"cpvIndexWww", "Others", QT_TRANSLATE_NOOP("actions", "CPV index www"), "action_link",
+      nullptr, nullptr},
+     &window::commandCPVIndexWWW},
+
+    // Without a menu: of the context menu and the tool bar only.
+    {{"expand2", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "action_expand", nullptr,
+      nullptr},
+     &window::commandExpand2},
+    {{"openLink", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
+     &window::commandOpenLink},
+    {{"expandGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
+      nullptr, nullptr},
+     &window::commandExpandGroup},
+    {{"collapsGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
+      nullptr, nullptr},
+     &window::commandCollapsGroup},
+    {{"insertToBom", nullptr, QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
+      "data_insert_to_bom_128", nullptr, nullptr},
+     &window::commandInsertToBom},
+    {{"toOrder", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
+      "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
+     &window::commandToOrder},
+    {{"toOrderN", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
+      "action_add_material", "Ctrl+Shift+Return",
+      QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
+     &window::commandToOrderN},
+};
+
+const std::pair<const char *, QLatin1String> statusFilters[] = {
+    {"gray", statusWord::grey},
+    {"green", statusWord::green},
+    {"violet", statusWord::violet},
+    {"blue", statusWord::blue},
+};
+
+} // namespace
+
+// --- Construction
+// ---------------------------------------------------------------------------------
+
+window::Kiv_mat_databaseWindow(programData::databaseKind kind)
+    : baseWindow(QStringLiteral("Kiv_mat_databaseWindow"))
+    , m_kind(kind)
+{
+    buildWidgets();
+    showDatabase();
+    commandEdit(false);
+}
+
+window::~Kiv_mat_databaseWindow() { m_stack->clear(); }
+
+void window::buildWidgets()
+{
+    setWindowIcon(QIcon(QStringLiteral(":/icons/icons/action_database.png")));
+    addActions(actionTable);
+    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
+    m_model = new myModel(this);
+    m_model->setStack(m_stack.get());
+
+    auto *page = new QWidget(this);
+    m_words = new QLineEdit(page);
+    m_words->setObjectName(QStringLiteral("words"));
+    m_words->setAccessibleName(tr("Words to search for"));
+    m_words->setPlaceholderText(
+        tr("Name, KTM, value, part number: 100n 0603, case:SOT23, price:<2"));
+    m_words->setClearButtonEnabled(true);
+    m_view = new myTreeView(page);
+    m_view->setObjectName(QStringLiteral("materials"));
+    m_view->setAccessibleName(tr("Materials"));
+    m_view->setModel(m_model);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->header()->setObjectName(QStringLiteral("materialsHeader"));
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(m_words);
+    layout->addWidget(m_view);
+    setCentralWidget(page);
+    constexpr QSize usualSize(1280, 800);
+    resize(usualSize);
+
+    m_filterDelay = new QTimer(this);
+    m_filterDelay->setSingleShot(true);
+    m_filterDelay->setInterval(filterDelayMs);
+    connect(m_filterDelay, &QTimer::timeout, this, &window::applyFilter);
+    connect(m_words, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
+    connect(m_words, &QLineEdit::returnPressed, this, [this] {
+        applyFilter();
+        m_view->setFocus();
+    });
+    // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
+    connect(m_model, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &parent, int first, int last) {
+                if (QStandardItem *group = m_model->itemFromIndex(parent))
+                    for (int row = first; row <= last; ++row)
+                        filterRow(group, row);
+            });
+    connect(m_model, &myModel::sorted, this, &window::clearCommands);
+    for (auto signal :
+         {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
+        connect(m_model, signal, this, &window::changed);
+    connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
+            &window::itemTreeClicked);
+    connect(m_view, &QWidget::customContextMenuRequested, this, &window::showContextMenu);
+}
+
+void window::showDatabase()
+{
+    programData &known = programData::instance();
+    m_stack->clear();
+    m_model->setRecords(nullptr);
+    const bool first = !m_rows;
+    m_rows = std::make_unique<materialRows>(&known.database(m_kind),
+                                            databaseTree::columns(known.config()),
+                                            &known.materials(), &known.search());
+    m_rows->show(m_model);
+    if (first) {
+        QHeaderView *header = m_view->header();
+        for (size_t c = 0; c < m_rows->columns().size(); ++c) {
+            header->resizeSection(int(c), m_rows->columns()[c].width);
+            header->setSectionHidden(int(c), int(c) >= databaseTree::usuallyShown());
+        }
+    }
+    m_view->setFont(known.config().font());
+    m_modified = false;
+    applyFilter();
+    showTitle();
+}
+
+void window::showTitle()
+{
+    QString title = tr("Database of material") + QLatin1String(" [")
+                    + QDir::toNativeSeparators(m_rows->database().filePath) + QLatin1Char(']');
+    if (m_view->isEditingLocked())
+        title += QLatin1Char(' ') + tr("Editing locked");
+    setWindowTitle(title + (m_modified ? QStringLiteral(" *") : QString()));
+}
+
+void window::showNow()
+{
+    if (!isVisible())
+        showDatabase();
+    show();
+    raise();
+    activateWindow();
+    m_words->setFocus();
+}
+
+void window::updateActions()
+{
+    const bool locked = m_view->isEditingLocked();
+    const QString reason = tr("editing is locked");
+    for (const char *name :
+         {"save", "update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
+          "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"})
+        setAvailable(name, !locked, reason);
+    setAvailable("pasteMaterials", !locked && !m_copied.empty(),
+                 locked ? reason : tr("no material was copied"));
+}
+
+void window::showContextMenu(const QPoint &position)
+{
+    QMenu menu(this);
+    const bool onMaterial =
+        materialRows::materialOf(m_model->itemFromIndex(m_view->currentIndex()));
+    for (const char *name :
+         {"copyText", "openLink", "editParameters", "copyMaterials", "cutMaterials",
+          "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup", "collapsGroup",
+          "insertToBom", "", "toOrder", "toOrderN"})
+        if (*name)
+            menu.addAction(action(name));
+        else
+            menu.addSeparator();
+    for (const char *name : {"openLink", "insertToBom", "toOrder", "toOrderN"})
+        setAvailable(name, onMaterial, tr("no material is selected"));
+    menu.exec(m_view->viewport()->mapToGlobal(position));
+}
+
+void window::itemTreeClicked(QPoint, uint, const QModelIndex &index)
+{
+    const QStandardItem *item = m_model->itemFromIndex(index);
+    if (const materialStruct *material = materialRows::materialOf(item))
+        statusBar()->showMessage(material->d_ktm + QLatin1String("  ") + material->d_name
+                                 + QLatin1String("  ") + material->d_description);
+}
+
+// --- Life
+// -----------------------------------------------------------------------------------------
+
+void window::changed()
+{
+    if (!m_modified) {
+        m_modified = true;
+        showTitle();
+    }
+}
+
+void window::push(std::unique_ptr<command> change, const QString &what)
+{
+    if (!change)
+        return;
+    m_stack->push(std::move(change), what);
+    changed();
+    applyFilter();
+    statusBar()->showMessage(what);
+}
+
+void window::commandSave(bool)
+{
+    kiv_mat_databaseStruct &database = m_rows->database();
+    const QString path = database.filePath;
+    configStruct &config = programData::instance().config();
+    constexpr int usualCount = 20;
+    const QString before = database.update;
+    database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    fileVersions::keep(path, config.backupPath(), usualCount);
+    const bool saved = saveXml(path, &database) >= 0;
+    QApplication::restoreOverrideCursor();
+    if (!saved) {
+        database.update = before;
+        userPrompts().showError(tr("The file %1 cannot be written")
+                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        return;
+    }
+    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
+    m_stack->clear();
+    m_modified = false;
+    showTitle();
+    statusBar()->showMessage(tr("Saved"));
+}
+
+void window::commandClose(bool) { close(); }
+
+void window::closeEvent(QCloseEvent *event)
+{
+    if (m_modified) {
+        if (userPrompts().ask(tr("Save database"), false) == prompts::answer::yes) {
+            commandSave(false);
+            if (m_modified) {
+                event->ignore();
+                return;
+            }
+        } else {
+            // What the program works with is what the file holds.
+            m_stack->clear();
+            m_model->setRecords(nullptr);
+            m_model->removeRows(0, m_model->rowCount());
+            workProgress::scope work(progress(), tr("Reading"));
+            programData::instance().loadDatabase(m_kind, work.function());
+            showDatabase();
+        }
+    }
+    m_stack->clear();
+    action("edit")->setChecked(false);
+    baseWindow::closeEvent(event);
+}
+
+void window::commandEdit(bool on)
+{
+    m_view->setEditingLocked(!on);
+    showTitle();
+    updateActions();
+}
+
+void window::commandUndo(bool)
+{
+    const QString what = m_stack->undo();
+    changed();
+    applyFilter();
+    statusBar()->showMessage(tr("Undone: %1").arg(what));
+}
+
+void window::commandRedo(bool)
+{
+    const QString what = m_stack->redo();
+    changed();
+    applyFilter();
+    statusBar()->showMessage(tr("Done again: %1").arg(what));
+}
+
+void window::clearCommands() { m_stack->clear(); }
+
+// --- Searching and filtering
+// ----------------------------------------------------------------------
+
+void window::commandFind(bool)
+{
+    m_words->setFocus();
+    m_words->selectAll();
+}
+
+void window::setFilter(const char *name, const QString &word, bool on)
+{
+    // The active one chosen again shows all.
+    m_statusFilter = on ? word : QString();
+    for (const auto &[other, otherWord] : statusFilters)
+        if (on && qstrcmp(other, name) != 0)
+            action(other)->setChecked(false);
+    if (on)
+        m_statusFilter = word;
+    applyFilter();
+}
+
+void window::commandGray(bool on) { setFilter("gray", statusWord::grey, on); }
+void window::commandGreen(bool on) { setFilter("green", statusWord::green, on); }
+void window::commandViolet(bool on) { setFilter("violet", statusWord::violet, on); }
+void window::commandBlue(bool on) { setFilter("blue", statusWord::blue, on); }
+
+void window::commandEdited(bool on)
+{
+    m_editedFilter = on;
+    applyFilter();
+}
+
+bool window::isShown(const materialStruct &material)
+{
+    if (!m_statusFilter.isEmpty() && !material.information.status.contains(m_statusFilter))
+        return false;
+    if (m_editedFilter
+        && material.information.edited.compare(statusWord::yes, Qt::CaseInsensitive) != 0)
+        return false;
+    return m_query.terms().empty() || programData::instance().search().matches(&material, m_query);
+}
+
+void window::filterRow(QStandardItem *group, int row)
+{
+    const auto *first = static_cast<const myItemStandard *>(group->child(row));
+    const auto *material = first ? static_cast<materialStruct *>(first->record) : nullptr;
+    if (!material)
+        return;
+    const bool hidden = !isShown(*material);
+    if (m_view->isRowHidden(row, group->index()) != hidden)
+        m_view->setRowHidden(row, group->index(), hidden);
+}
+
+void window::applyFilter()
+{
+    m_filterDelay->stop();
+    m_query = searchQuery::parse(m_words->text());
+    const bool searching = !m_query.terms().empty();
+    m_shownCount = 0;
+    int all = 0;
+    std::vector<QStandardItem *> matching;
+    for (const auto &group : m_rows->database().groups) {
+        int matches = 0;
+        for (const auto &material : group->items)
+            matches += isShown(*material);
+        all += int(group->items.size());
+        m_shownCount += matches;
+        QStandardItem *item = m_rows->groupItem(group.get());
+        if (!item)
+            continue;
+        const bool hidden = searching && matches == 0;
+        if (m_view->isRowHidden(item->row(), {}) != hidden)
+            m_view->setRowHidden(item->row(), {}, hidden);
+        if (matches > 0)
+            matching.push_back(item);
+    }
+    m_filterGroup = 0;
+    filterSlice();
+    if (searching && m_shownCount <= openedMatches)
+        for (QStandardItem *item : matching)
+            m_view->expand(item->index());
+    QString told = m_query.errors().join(QLatin1String(", "));
+    if (told.isEmpty())
+        told = m_shownCount == all
+                   ? tr("%n material(s)", nullptr, all)
+                   : tr("%1 of %n material(s) shown", nullptr, all).arg(m_shownCount);
+    statusBar()->showMessage(told);
+}
+
+// Rows that are made already, some at a time, so that the next key need not wait.
+void window::filterSlice()
+{
+    QElapsedTimer time;
+    time.start();
+    while (m_filterGroup >= 0 && m_filterGroup < m_model->rowCount()) {
+        QStandardItem *group = m_model->item(m_filterGroup++);
+        for (int row = 0; row < group->rowCount(); ++row)
+            filterRow(group, row);
+        if (time.elapsed() > sliceMs) {
+            QTimer::singleShot(0, this, &window::filterSlice);
+            return;
+        }
+    }
+    m_filterGroup = -1;
+}
+
+void window::selectItem(QTreeView *view, QStandardItem *item)
+{
+    view->setCurrentIndex(item->index());
+    view->scrollTo(item->index());
+}
+
+void window::selectMaterial(materialStruct *material)
+{
+    if (!m_rows->find(material))
+        for (const auto &group : m_rows->database().groups)
+            for (const auto &candidate : group->items)
+                if (candidate.get() == material)
+                    m_model->fetch(m_rows->groupItem(group.get()));
+    if (myItemStandard *first = m_rows->find(material))
+        selectItem(m_view, first);
+}
+
+void window::commandExpand(bool)
+{
+    workProgress::scope work(progress(), tr("Opening groups"));
+    const auto step = work.function();
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        m_view->expandItem(m_model->item(row));
+        if (!step(row + 1, m_model->rowCount()))
+            return;
+    }
+}
+
+void window::commandExpand2(bool on) { commandExpand(on); }
+
+void window::commandCollaps(bool) { m_view->collapseAll(); }
+
+void window::commandColumns(bool)
+{
+    QMenu menu(this);
+    QHeaderView *header = m_view->header();
+    for (size_t c = 1; c < m_rows->columns().size(); ++c) {
+        QAction *column = menu.addAction(m_rows->columns()[c].label);
+        column->setCheckable(true);
+        column->setChecked(!header->isSectionHidden(int(c)));
+        connect(column, &QAction::toggled, header,
+                [header, c](bool on) { header->setSectionHidden(int(c), !on); });
+    }
+    menu.exec(QCursor::pos());
+}
+
+// --- Materials and groups
+// -------------------------------------------------------------------------
+
+std::vector<materialStruct *> window::selectedMaterials() const
+{
+    std::vector<materialStruct *> found;
+    QModelIndexList cells = m_view->selectedCells();
+    if (cells.isEmpty() && m_view->currentIndex().isValid())
+        cells.append(m_view->currentIndex());
+    for (const QModelIndex &cell : cells)
+        if (materialStruct *material = materialRows::materialOf(m_model->itemFromIndex(cell)))
+            if (found.empty() || found.back() != material)
+                found.push_back(material);
+    return found;
+}
+
+QStandardItem *window::currentGroup() const
+{
+    QModelIndex index = m_view->currentIndex();
+    if (index.parent().isValid())
+        index = index.parent();
+    return m_model->item(index.isValid() ? index.row() : 0);
+}
+
+void window::commandCopyText(bool)
+{
+    QModelIndexList cells = m_view->selectedCells();
+    if (cells.isEmpty() && m_view->currentIndex().isValid())
+        cells.append(m_view->currentIndex());
+    QApplication::clipboard()->setText(cellBlock::copied(cells));
+}
+
+void window::commandOpenLink(bool)
+{
+    const QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    const materialStruct *material = materialRows::materialOf(item);
+    const QString link = material ? databaseTree::linkOf(*material) : QString();
+    if (link.isEmpty() || !QDesktopServices::openUrl(QUrl::fromUserInput(link)))
+        statusBar()->showMessage(tr("This material has no link that can be opened"));
+}
+
+void window::commandCopyMaterials(bool)
+{
+    m_copied.clear();
+    for (const materialStruct *material : selectedMaterials())
+        m_copied.push_back(copyOf(*material));
+    updateActions();
+    statusBar()->showMessage(tr("%n material(s) copied", nullptr, int(m_copied.size())));
+}
+
+void window::commandCutMaterials(bool on)
+{
+    commandCopyMaterials(on);
+    commandDeleteMaterials(on);
+}
+
+void window::commandPasteMaterials(bool)
+{
+    QStandardItem *group = currentGroup();
+    if (!group)
+        return;
+    const ktmIndex &known = programData::instance().materials();
+    std::vector<std::unique_ptr<command>> members;
+    int withoutKtm = 0;
+    for (const auto &material : m_copied) {
+        auto copy = copyOf(*material);
+        // A KTM stands for one material.
+        if (known.find(copy->d_ktm)) {
+            copy->d_ktm.clear();
+            ++withoutKtm;
+        }
+        members.push_back(std::make_unique<appendItems>(group, m_rows->makeRow(std::move(copy))));
+    }
+    if (members.empty())
+        return;
+    const int count = int(members.size());
+    push(std::make_unique<appendCommands>(std::move(members)),
+         tr("%n material(s) pasted", nullptr, count));
+    m_view->expand(group->index());
+    if (withoutKtm > 0)
+        statusBar()->showMessage(tr("%n of them need(s) a new KTM", nullptr, withoutKtm));
+}
+
+void window::commandDeleteMaterials(bool)
+{
+    std::vector<std::unique_ptr<command>> members;
+    const std::vector<materialStruct *> materials = selectedMaterials();
+    for (auto material = materials.rbegin(); material != materials.rend(); ++material)
+        if (myItemStandard *first = m_rows->find(*material))
+            members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
+    if (members.empty()) {
+        const QStandardItem *group = currentGroup();
+        if (!group || !materialRows::groupOf(group)->items.empty()) {
+            statusBar()->showMessage(tr("Only empty groups are deleted"));
+            return;
+        }
+        members.push_back(std::make_unique<deleteMaterial>(m_model, group->index()));
+    }
+    const int count = int(members.size());
+    push(std::make_unique<appendCommands>(std::move(members)),
+         tr("%n material(s) deleted", nullptr, count));
+}
+
+void window::commandEditCpv(bool)
+{
+    QStandardItem *group = currentGroup();
+    if (!group)
+        return;
+    auto *cell =
+        static_cast<myItemStandard *>(m_model->item(group->row(), databaseTree::cpvColumn));
+    const auto code = userPrompts().inputText(tr("Edit CPV"), labels::cpv(), cell->text());
+    if (!code || *code == cell->text())
+        return;
+    if (!checkCpv(*code)) {
+        userPrompts().showError(tr("CPV syntax error"));
+        return;
+    }
+    push(std::make_unique<changeValue>(m_model, cell, *code), tr("Edit CPV"));
+}
+
+void window::commandAddGroup(bool)
+{
+    const auto name = userPrompts().inputText(tr("Add. new group"), tr("Group name"), {});
+    if (!name || name->trimmed().isEmpty())
+        return;
+    for (const auto &group : m_rows->database().groups)
+        if (group->name == *name) {
+            userPrompts().showWarning(tr("Group already exists"));
+            return;
+        }
+    auto group = std::make_unique<d_groupStruct>();
+    group->name = *name;
+    push(std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(group))),
+         tr("Add. new group"));
+    selectItem(m_view, m_model->item(m_model->rowCount() - 1));
+}
+
+void window::commandExpandGroup(bool)
+{
+    if (QStandardItem *group = currentGroup())
+        m_view->expandItem(group);
+}
+
+void window::commandCollapsGroup(bool)
+{
+    if (QStandardItem *group = currentGroup())
+        m_view->collapseItem(group);
+}
+
+void window::commandInsertToBom(bool)
+{
+    for (const materialStruct *material : selectedMaterials())
+        emit insertToBom(material->d_ktm);
+}
+
+void window::commandToOrder(bool)
+{
+    QStringList ktms;
+    for (const materialStruct *material : selectedMaterials())
+        ktms.append(material->d_ktm);
+    if (!ktms.isEmpty())
+        emit appendToOrder(ktms, 1);
+    statusBar()->showMessage(tr("%n material(s) sent to the order", nullptr, ktms.size()));
+}
+
+void window::commandToOrderN(bool)
+{
+    QStringList ktms;
+    for (const materialStruct *material : selectedMaterials())
+        ktms.append(material->d_ktm);
+    constexpr int mostPieces = 1000000;
+    const auto quantity =
+        ktms.isEmpty()
+            ? std::nullopt
+            : userPrompts().inputNumber(labels::addN(), labels::quantity(), 1, 1, mostPieces);
+    if (!quantity)
+        return;
+    emit appendToOrder(ktms, uint(*quantity));
+    statusBar()->showMessage(tr("%n material(s) sent to the order", nullptr, ktms.size()));
+}
+
+// --- The material editor
+// --------------------------------------------------------------------------
+
+void window::commandAddMaterial(bool) {}
+void window::commandEditParameters(bool) {}
+
+void window::commandAddNew(QStandardItem *group, materialStruct *material)
+{
+    push(std::make_unique<appendItems>(group,
+                                       m_rows->makeRow(std::unique_ptr<materialStruct>(material))),
+         tr("Add. new material"));
+    selectMaterial(material);
+}
+
+void window::commandEditExist(QStandardItem *item, materialStruct *material)
+{
+    push(std::make_unique<changeRow>(item->parent(), item->row(),
+                                     m_rows->makeRow(std::unique_ptr<materialStruct>(material))),
+         tr("Edit parameters"));
+    selectMaterial(material);
+}

@@ -1,0 +1,158 @@
+// The window of one material database: browse, search, filter, edit, check, report, export.
+// Construction, showing and editing stand in Kiv_mat_databaseWindow.cpp, the tools over the whole
+// database in databaseTools.cpp.
+#pragma once
+
+#include "commands/commandStack.h"
+#include "commands/editCommands.h"
+#include "data/programData.h"
+#include "database/databaseMerge.h"
+#include "database/databaseTree.h"
+#include "database/exportResult.h"
+#include "database/materialChange.h"
+#include "window/baseWindow.h"
+
+class Kiv_mat_databaseMergeWindow;
+class QLineEdit;
+class QTimer;
+class QTreeView;
+class myTreeView;
+enum class databaseReportKind;
+
+using materialKtm = QString;
+
+class Kiv_mat_databaseWindow : public baseWindow
+{
+    Q_OBJECT
+public:
+    // Shows a loaded database of the program; every change counts in the program at once, and is
+    // taken back when the window is closed without saving.
+    explicit Kiv_mat_databaseWindow(programData::databaseKind kind);
+    ~Kiv_mat_databaseWindow() override;
+
+    void showNow();
+    bool isModified() const { return m_modified; }
+
+    myModel *model() { return m_model; }
+    myTreeView *view() { return m_view; }
+    databaseTree::rows &rows() { return *m_rows; }
+    commandStack &stack() { return *m_stack; }
+
+    // How many materials the search field and the filters let be seen.
+    int shownCount() const { return m_shownCount; }
+    // Fetches, expands and selects a material's row.
+    void selectMaterial(materialStruct *material);
+    void selectItem(QTreeView *view, QStandardItem *item);
+
+public slots:
+    void commandSave(bool);
+    void commandClose(bool);
+    void commandEdit(bool on);
+    void commandUndo(bool);
+    void commandRedo(bool);
+    void commandFullReport(bool);
+    void commandShortReport(bool);
+    void commandExpand(bool);
+    void commandExpand2(bool);
+    void commandCollaps(bool);
+    void commandMerge(bool);
+    void commandAltiumXlsx(bool);
+    void commandAltiumSQLite(bool);
+    void commandUpdate(bool);
+    void commandCheck_urls(bool);
+    void commandFindDuplicate(bool);
+    void commandFindEmpty(bool);
+    void commandParse(bool);
+    void commandInformation(bool);
+    void commandGroups(bool);
+    void commandLoadCPVForGroups(bool);
+    void commandMoveCPVFromGroupToMaterials(bool);
+    void commandCPVIndex(bool);
+    void commandCPVIndexWWW(bool);
+    void commandGray(bool on);
+    void commandGreen(bool on);
+    void commandViolet(bool on);
+    void commandBlue(bool on);
+    void commandEdited(bool on);
+    void commandFind(bool);
+    void commandColumns(bool);
+
+    // Of the context menu, on the current cell or the selected materials.
+    void commandCopyText(bool);
+    void commandOpenLink(bool);
+    void commandEditParameters(bool);
+    void commandCopyMaterials(bool);
+    void commandCutMaterials(bool);
+    void commandPasteMaterials(bool);
+    void commandDeleteMaterials(bool);
+    void commandAddMaterial(bool);
+    void commandEditCpv(bool);
+    void commandAddGroup(bool);
+    void commandExpandGroup(bool);
+    void commandCollapsGroup(bool);
+    void commandInsertToBom(bool);
+    void commandToOrder(bool);
+    void commandToOrderN(bool);
+
+    // From the material editor: the receiver owns the material.
+    void commandAddNew(QStandardItem *group, materialStruct *material);
+    void commandEditExist(QStandardItem *item, materialStruct *material);
+
+    // Takes over the selected differences as one step.
+    void takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
+                  const QString &what);
+    void clearCommands();
+
+signals:
+    void appendToOrder(const QStringList &ktms, uint quantity);
+    void insertToBom(const materialKtm &ktm);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
+
+private:
+    // --- Kiv_mat_databaseWindow.cpp ---
+    void buildWidgets();
+    void showDatabase();
+    void showTitle();
+    void updateActions();
+    void showContextMenu(const QPoint &position);
+    void changed();
+    void push(std::unique_ptr<command> change, const QString &what);
+    void setFilter(const char *name, const QString &word, bool on);
+    void applyFilter();
+    void filterSlice();
+    void filterRow(QStandardItem *group, int row);
+    bool isShown(const materialStruct &material);
+    std::vector<materialStruct *> selectedMaterials() const;
+    QStandardItem *currentGroup() const;
+    void edit(QStandardItem *item, QStandardItem *group);
+
+    // --- databaseTools.cpp ---
+    void writeReport(databaseReportKind kind);
+    void exportTo(const QString &path,
+                  exportResult (*write)(const kiv_mat_databaseStruct &, const QString &,
+                                        const progressFunction &));
+    void tell(const exportResult &result);
+    void applyTexts(std::vector<materialChange> changes, const QString &what);
+    void list(const QString &heading, const QStringList &lines);
+
+    programData::databaseKind m_kind;
+    myModel *m_model = nullptr;
+    myTreeView *m_view = nullptr;
+    QLineEdit *m_words = nullptr;
+    QTimer *m_filterDelay = nullptr;
+    std::unique_ptr<commandStack> m_stack;
+    std::unique_ptr<databaseTree::rows> m_rows;
+    std::vector<std::unique_ptr<materialStruct>> m_copied;
+    std::unique_ptr<Kiv_mat_databaseMergeWindow> m_merge;
+    searchQuery m_query;
+    QString m_statusFilter;
+    bool m_editedFilter = false;
+    bool m_modified = false;
+    int m_shownCount = 0;
+    int m_filterGroup = -1; // the group from which a filter in slices goes on
+};

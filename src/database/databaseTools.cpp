@@ -1,0 +1,405 @@
+// What the database window does with the whole database: it asks, calls the operations, and shows.
+#include "database/Kiv_mat_databaseMergeWindow.h"
+#include "database/Kiv_mat_databaseWindow.h"
+
+#include "data/loaders.h"
+#include "data/vocabulary.h"
+#include "database/altiumExport.h"
+#include "database/cpvOperations.h"
+#include "database/databaseChecks.h"
+#include "database/databaseReport.h"
+#include "database/linkOperations.h"
+#include "database/warehouseListing.h"
+#include "dialogs/changesDialog.h"
+#include "shell/orderDocument.h"
+#include "shell/userState.h"
+#include "tree/myTreeView.h"
+#include "util/labels.h"
+#include "util/messages.h"
+#include "util/paths.h"
+#include "util/prompts.h"
+#include "util/text.h"
+#include "window/workProgress.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QStatusBar>
+#include <QUrl>
+
+using window = Kiv_mat_databaseWindow;
+
+namespace {
+
+QString xmlFilter() { return window::tr("Xml File") + QLatin1String(" (*.xml)"); }
+
+// Many texts of records as one step; rows that are made follow.
+class changeTexts : public command
+{
+public:
+    changeTexts(databaseTree::rows *rows, std::vector<materialChange> changes)
+        : m_rows(rows)
+        , m_changes(std::move(changes))
+    {
+        changeTexts::redo();
+    }
+    void undo() override
+    {
+        revertChanges(m_changes);
+        refresh();
+    }
+    void redo() override
+    {
+        applyChanges(m_changes);
+        refresh();
+    }
+
+private:
+    void refresh()
+    {
+        for (const materialChange &change : m_changes)
+            m_rows->refresh(change.record);
+    }
+
+    databaseTree::rows *m_rows;
+    std::vector<materialChange> m_changes;
+};
+
+// A material of mine as it is once the listed fields of the other one are taken over.
+std::unique_ptr<materialStruct> merged(const materialDifference &difference)
+{
+    auto material = copyOf(*difference.mine);
+    for (int field : difference.fields)
+        comparedFields()[size_t(field)].take(*material, *difference.other);
+    return material;
+}
+
+} // namespace
+
+void window::list(const QString &heading, const QStringList &lines)
+{
+    if (lines.isEmpty())
+        return;
+    userPrompts().listError((heading.isEmpty() ? QString() : heading + QLatin1String("<br>"))
+                            + lines.join(QString()));
+    userPrompts().showErrors();
+}
+
+void window::tell(const exportResult &result)
+{
+    switch (result.result) {
+    case exportResult::cancelled:
+        statusBar()->showMessage(tr("Cancelled"));
+        return;
+    case exportResult::failed:
+        userPrompts().showError(result.error.toHtmlEscaped());
+        return;
+    case exportResult::done:
+        break;
+    }
+    for (const QString &file : result.files)
+        userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(file), file));
+    list({}, result.notes);
+    statusBar()->showMessage(tr("%n material(s) written to %1", nullptr, result.materials)
+                                 .arg(QDir::toNativeSeparators(result.files.value(0))));
+}
+
+// --- Reports and exports
+// --------------------------------------------------------------------------
+
+void window::writeReport(databaseReportKind kind)
+{
+    const QString path = databaseReportPath(m_rows->database().filePath, kind);
+    if (userPrompts().ask(tr("Do you want create ?").toHtmlEscaped() + QLatin1String("<br>")
+                              + QDir::toNativeSeparators(path).toHtmlEscaped(),
+                          false)
+        != prompts::answer::yes)
+        return;
+    workProgress::scope work(progress(), tr("Writing the report"));
+    const exportResult result = writeDatabaseReport(
+        m_rows->database(), &programData::instance().firm(), kind, path, work.function());
+    tell(result);
+    if (result.result == exportResult::done
+        && programData::instance().config().isOn(optionKey::openReportHtml))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void window::commandFullReport(bool) { writeReport(databaseReportKind::full); }
+void window::commandShortReport(bool) { writeReport(databaseReportKind::brief); }
+
+void window::exportTo(const QString &path,
+                      exportResult (*write)(const kiv_mat_databaseStruct &, const QString &,
+                                            const progressFunction &))
+{
+    if (path.isEmpty())
+        return;
+    userState::instance().altiumDir = QFileInfo(path).absolutePath();
+    workProgress::scope work(progress(), tr("Exporting"));
+    tell(write(m_rows->database(), path, work.function()));
+}
+
+void window::commandAltiumXlsx(bool)
+{
+    exportTo(userPrompts().saveFile(tr("Save to File"),
+                                    proposedExportPath(m_rows->database().filePath,
+                                                       userState::instance().altiumDir,
+                                                       QStringLiteral(".xlsx")),
+                                    QStringLiteral("Xlsx (*.xlsx)")),
+             exportAltiumXlsx);
+}
+
+void window::commandAltiumSQLite(bool)
+{
+    exportTo(userPrompts().saveFile(tr("Save to File"),
+                                    proposedExportPath(m_rows->database().filePath,
+                                                       userState::instance().altiumDir,
+                                                       QStringLiteral(".sqlite")),
+                                    QStringLiteral("SQLite (*.sqlite)")),
+             exportAltiumSqlite);
+}
+
+void window::commandGroups(bool)
+{
+    exportTo(userPrompts().saveFile(tr("Save to File"),
+                                    QFileInfo(m_rows->database().filePath).absolutePath()
+                                        + QLatin1String("/groups.xlsx"),
+                                    QStringLiteral("Xlsx (*.xlsx)")),
+             exportGroups);
+}
+
+// --- Checks
+// ---------------------------------------------------------------------------------------
+
+void window::commandFindDuplicate(bool)
+{
+    const QStringList ktms = duplicateLines(duplicateKtms(m_rows->database()));
+    const QStringList parts = duplicateLines(duplicatePartNumbers(m_rows->database()));
+    list(tr("The same KTM:"), ktms);
+    list(tr("The same part number of a manufacturer:"), parts);
+    if (ktms.isEmpty())
+        userPrompts().showInformation(allKtmsAreUnique().toHtmlEscaped());
+}
+
+void window::commandFindEmpty(bool)
+{
+    QStringList lines;
+    for (const incompleteMaterial &found : incompleteMaterials(m_rows->database()))
+        lines.append(
+            messages::failed({}, found.material->d_ktm + QLatin1Char(' ') + found.material->d_name,
+                             found.missing.join(QLatin1String(", "))));
+    list(tr("Materials with empty fields:"), lines);
+    if (lines.isEmpty())
+        userPrompts().showInformation(tr("No material has empty fields"));
+}
+
+void window::commandInformation(bool)
+{
+    userPrompts().showInformation(informationText(m_rows->database()));
+}
+
+void window::commandCheck_urls(bool)
+{
+    linkCheckResult checked;
+    {
+        workProgress::scope work(progress(), tr("Checking links"));
+        checked = checkUrls(m_rows->database(), work.function());
+    }
+    list({}, linkErrorLines(checked));
+    statusBar()->showMessage(tr("%n link(s) checked", nullptr, int(checked.links.size())));
+    if (checked.links.empty())
+        return;
+    const QString path = userPrompts().saveFile(
+        tr("Save to File"),
+        QFileInfo(m_rows->database().filePath).absolutePath() + QLatin1String("/links.xlsx"),
+        QStringLiteral("Xlsx (*.xlsx)"));
+    if (!path.isEmpty())
+        tell(exportLinks(checked, path));
+}
+
+// --- Taking over
+// ----------------------------------------------------------------------------------
+
+void window::applyTexts(std::vector<materialChange> changes, const QString &what)
+{
+    if (changes.empty()) {
+        statusBar()->showMessage(tr("Nothing differs"));
+        return;
+    }
+    QList<QStringList> shown;
+    for (const materialChange &change : changes) {
+        QString caption;
+        for (const auto &field : materialStruct::fields())
+            if (field.member == change.field)
+                caption = field.label();
+        shown.append(
+            {change.record->d_ktm, change.record->d_name, caption, change.before, change.after});
+    }
+    changesDialog dialog(
+        what, {labels::ktm(), labels::name(), tr("Field"), tr("Before"), tr("After")}, shown, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    std::vector<materialChange> wanted;
+    for (int row : dialog.chosen())
+        wanted.push_back(changes[size_t(row)]);
+    if (!wanted.empty())
+        push(std::make_unique<changeTexts>(m_rows.get(), std::move(wanted)), what);
+}
+
+void window::commandParse(bool)
+{
+    const QString path = userPrompts().openFile(
+        tr("Open File"), paths::programDir(), tr("Xml/Txt File") + QLatin1String(" (*.txt *.xml)"));
+    if (path.isEmpty())
+        return;
+    QString error;
+    const auto entries = readListing(path, &error);
+    if (!entries) {
+        list({}, {error});
+        return;
+    }
+    listingResult result;
+    {
+        workProgress::scope work(progress(), tr("Comparing"));
+        ktmIndex own;
+        own.add(&m_rows->database());
+        result = matchListing(*entries, own, work.function());
+    }
+    list({}, result.problems);
+    if (!result.cancelled)
+        applyTexts(std::move(result.changes), tr("Parse"));
+}
+
+void window::commandLoadCPVForGroups(bool)
+{
+    const QString path =
+        userPrompts().openFile(tr("Open File"), paths::programDir(), QStringLiteral("(*.txt)"));
+    if (path.isEmpty())
+        return;
+    workProgress::scope work(progress(), tr("Reading"));
+    auto result = loadCpvForGroups(path, m_rows->database(), work.function());
+    list(tr("CPV syntax error"), result.problems);
+    std::vector<std::unique_ptr<command>> members;
+    for (const groupChange &change : result.changes)
+        if (const QStandardItem *group = m_rows->groupItem(change.record))
+            members.push_back(
+                std::make_unique<changeValue>(m_model,
+                                              static_cast<myItem::myItemStandard *>(m_model->item(
+                                                  group->row(), databaseTree::cpvColumn)),
+                                              change.after));
+    if (!members.empty())
+        push(std::make_unique<appendCommands>(std::move(members)), tr("Load CPV for groups"));
+}
+
+void window::commandMoveCPVFromGroupToMaterials(bool)
+{
+    auto result = moveCpvToMaterials(m_rows->database());
+    list({}, result.problems);
+    applyTexts(std::move(result.changes), tr("Move CPV from group to materials"));
+}
+
+void window::commandCPVIndex(bool)
+{
+    const QUrl file = cpvIndexFile();
+    if (file.isEmpty())
+        statusBar()->showMessage(tr("The dictionary of CPV codes is not there"));
+    else
+        QDesktopServices::openUrl(file);
+}
+
+void window::commandCPVIndexWWW(bool) { QDesktopServices::openUrl(cpvIndexPage()); }
+
+void window::takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
+                      const QString &what)
+{
+    const changeBatch batch;
+    std::vector<std::unique_ptr<command>> members;
+    const auto groupNamed = [this, &members](const d_groupStruct &like) -> QStandardItem * {
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            if (databaseTree::rows::groupOf(m_model->item(row))->name == like.name)
+                return m_model->item(row);
+        auto group = std::make_unique<d_groupStruct>();
+        group->name = like.name;
+        group->cpv = like.cpv;
+        members.push_back(
+            std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(group))));
+        return m_model->item(m_model->rowCount() - 1);
+    };
+    for (const materialDifference &difference : selected) {
+        if (difference.kind == materialDifference::added) {
+            members.push_back(std::make_unique<appendItems>(
+                groupNamed(*difference.otherGroup), m_rows->makeRow(copyOf(*difference.other))));
+            continue;
+        }
+        if (difference.kind == materialDifference::absent && !deleteAbsent)
+            continue;
+        m_model->fetch(m_rows->groupItem(difference.myGroup));
+        myItem::myItemStandard *first = m_rows->find(difference.mine);
+        if (!first)
+            continue;
+        if (difference.kind == materialDifference::absent)
+            members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
+        else
+            members.push_back(std::make_unique<changeRow>(first->parent(), first->row(),
+                                                          m_rows->makeRow(merged(difference))));
+    }
+    if (!members.empty())
+        push(std::make_unique<appendCommands>(std::move(members)), what);
+}
+
+void window::commandMerge(bool)
+{
+    m_merge = std::make_unique<Kiv_mat_databaseMergeWindow>(this);
+    m_merge->show();
+    m_merge->commandOpen(false);
+}
+
+void window::commandUpdate(bool)
+{
+    const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(), xmlFilter());
+    if (path.isEmpty())
+        return;
+    kiv_mat_databaseStruct other;
+    QString reason;
+    comparison found;
+    {
+        workProgress::scope work(progress(), tr("Comparing"));
+        if (!readChecked(path, &other, &reason, work.function())) {
+            if (!work.cancelled())
+                list({}, {messages::failed(messages::fileCorrupted(), path, reason)});
+            return;
+        }
+        found = compareDatabases(m_rows->database(), other, work.function());
+    }
+    if (found.differences.empty()) {
+        if (!found.cancelled)
+            userPrompts().showInformation(allMaterialsInDatabase().toHtmlEscaped());
+        return;
+    }
+    QList<QStringList> shown;
+    QSet<QString> deleted;
+    for (const materialDifference &difference : found.differences) {
+        const materialStruct *material = difference.other ? difference.other : difference.mine;
+        QStringList fields;
+        for (int field : difference.fields)
+            fields.append(comparedFields()[size_t(field)].caption());
+        shown.append({material->d_ktm, material->d_name,
+                      difference.kind == materialDifference::added    ? tr("new")
+                      : difference.kind == materialDifference::absent ? tr("deleted")
+                                                                      : tr("changed"),
+                      fields.join(QLatin1String(", "))});
+        if (difference.kind == materialDifference::absent)
+            deleted.insert(material->d_ktm);
+    }
+    changesDialog dialog(tr("Update"), {labels::ktm(), labels::name(), tr("Change"), tr("Fields")},
+                         shown, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QStringList lines = deletedLines(found.differences);
+    QStringList uses = usesOf(deleted, orderDocument::instance().order());
+    std::vector<materialDifference> wanted;
+    for (int row : dialog.chosen())
+        wanted.push_back(found.differences[size_t(row)]);
+    list({}, lines);
+    list(tr("The open order uses deleted materials:"), uses);
+    takeOver(wanted, true, tr("Update"));
+}
