@@ -1,5 +1,6 @@
 #include "benchSupport.h"
 
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -21,6 +22,16 @@ QString generatedDatabase(int materials)
                != 0)
         qFatal("cannot make %s", qPrintable(path));
     return path;
+}
+
+void copyFolder(const QString &from, const QString &to)
+{
+    for (QDirIterator it(from, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString target = to + QLatin1Char('/') + QDir(from).relativeFilePath(it.next());
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        if (!QFile::copy(it.filePath(), target))
+            qFatal("cannot copy %s", qPrintable(it.filePath()));
+    }
 }
 
 QString realDatabase()

@@ -11,6 +11,9 @@ namespace benchSupport {
 // A generated database of so many materials; made once and kept in the build folder.
 QString generatedDatabase(int materials);
 
+// Copies a folder with all its files.
+void copyFolder(const QString &from, const QString &to);
+
 // The unpacked real database of 100,000 materials; empty when KIVZP_REAL_DATA does not name one.
 QString realDatabase();
 

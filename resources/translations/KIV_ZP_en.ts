@@ -2,6 +2,96 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Kiv_mat_databaseMergeWindow</name>
+    <message numerus="yes">
+        <source>%n material(s) differ</source>
+        <translation>
+            <numerusform>%n material differs</numerusform>
+            <numerusform>%n materials differ</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) taken over</source>
+        <translation>
+            <numerusform>%n material taken over</numerusform>
+            <numerusform>%n materials taken over</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) differ</source>
+        <translation>
+            <numerusform>%n field differs</numerusform>
+            <numerusform>%n fields differ</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Kiv_mat_databaseWindow</name>
+    <message numerus="yes">
+        <source>%n material(s) written to %1</source>
+        <translation>
+            <numerusform>%n material written to %1</numerusform>
+            <numerusform>%n materials written to %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) checked</source>
+        <translation>
+            <numerusform>%n link checked</numerusform>
+            <numerusform>%n links checked</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n material(s) shown</source>
+        <translation>
+            <numerusform>%1 of %n material shown</numerusform>
+            <numerusform>%1 of %n materials shown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) copied</source>
+        <translation>
+            <numerusform>%n material copied</numerusform>
+            <numerusform>%n materials copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) pasted</source>
+        <translation>
+            <numerusform>%n material pasted</numerusform>
+            <numerusform>%n materials pasted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them need(s) a new KTM</source>
+        <translation>
+            <numerusform>%n of them needs a new KTM</numerusform>
+            <numerusform>%n of them need a new KTM</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) deleted</source>
+        <translation>
+            <numerusform>%n material deleted</numerusform>
+            <numerusform>%n materials deleted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) sent to the order</source>
+        <translation>
+            <numerusform>%n material sent to the order</numerusform>
+            <numerusform>%n materials sent to the order</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n selected line(s), %1 PLN</source>
@@ -102,12 +192,32 @@
     </message>
 </context>
 <context>
+    <name>changesDialog</name>
+    <message numerus="yes">
+        <source>%n change(s). What stays marked is taken over.</source>
+        <translation>
+            <numerusform>%n change. What stays marked is taken over.</numerusform>
+            <numerusform>%n changes. What stays marked is taken over.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>cli</name>
     <message numerus="yes">
         <source>and %n more</source>
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>databaseTree</name>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
         </translation>
     </message>
 </context>

@@ -16,6 +16,376 @@
     </message>
 </context>
 <context>
+    <name>Kiv_mat_databaseMergeWindow</name>
+    <message>
+        <source>Merge</source>
+        <translation>Scalanie</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Różnice</translation>
+    </message>
+    <message>
+        <source>Value [orgin]</source>
+        <translation>Wartość [orgin]</translation>
+    </message>
+    <message>
+        <source>Value [new]</source>
+        <translation>Wartość [nowa]</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Porównywanie</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nowy</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) differ</source>
+        <translation>
+            <numerusform>Różni się %n materiał</numerusform>
+            <numerusform>Różnią się %n materiały</numerusform>
+            <numerusform>Różni się %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing differs</source>
+        <translation>nic się nie różni</translation>
+    </message>
+    <message>
+        <source>editing of the database is locked</source>
+        <translation>edycja bazy danych jest zablokowana</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) taken over</source>
+        <translation>
+            <numerusform>Przejęto %n materiał</numerusform>
+            <numerusform>Przejęto %n materiały</numerusform>
+            <numerusform>Przejęto %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Pomiń</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>New in the other file</source>
+        <translation>Nowy w drugim pliku</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) differ</source>
+        <translation>
+            <numerusform>Różni się %n pole</numerusform>
+            <numerusform>Różnią się %n pola</numerusform>
+            <numerusform>Różni się %n pól</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Kiv_mat_databaseWindow</name>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) written to %1</source>
+        <translation>
+            <numerusform>Zapisano %n materiał w %1</numerusform>
+            <numerusform>Zapisano %n materiały w %1</numerusform>
+            <numerusform>Zapisano %n materiałów w %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you want create ?</source>
+        <translation>Czy chcesz utworzyć ?</translation>
+    </message>
+    <message>
+        <source>Writing the report</source>
+        <translation>Zapis raportu</translation>
+    </message>
+    <message>
+        <source>Exporting</source>
+        <translation>Eksport</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>The same KTM:</source>
+        <translation>Ten sam KTM:</translation>
+    </message>
+    <message>
+        <source>The same part number of a manufacturer:</source>
+        <translation>Ten sam numer producenta:</translation>
+    </message>
+    <message>
+        <source>Materials with empty fields:</source>
+        <translation>Materiały z pustymi polami:</translation>
+    </message>
+    <message>
+        <source>No material has empty fields</source>
+        <translation>Żaden materiał nie ma pustych pól</translation>
+    </message>
+    <message>
+        <source>Checking links</source>
+        <translation>Sprawdzanie odnośników</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) checked</source>
+        <translation>
+            <numerusform>Sprawdzono %n odnośnik</numerusform>
+            <numerusform>Sprawdzono %n odnośniki</numerusform>
+            <numerusform>Sprawdzono %n odnośników</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing differs</source>
+        <translation>Nic się nie różni</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>Xml/Txt File</source>
+        <translation>Plik XML/TXT</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Porównywanie</translation>
+    </message>
+    <message>
+        <source>Parse</source>
+        <translation>Wczytaj zestawienie</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Odczyt</translation>
+    </message>
+    <message>
+        <source>CPV syntax error</source>
+        <translation>Błąd składni CPV</translation>
+    </message>
+    <message>
+        <source>Load CPV for groups</source>
+        <translation>Wczytaj CPV dla grup</translation>
+    </message>
+    <message>
+        <source>Move CPV from group to materials</source>
+        <translation>Przenieś CPV z grup do materiałów</translation>
+    </message>
+    <message>
+        <source>The dictionary of CPV codes is not there</source>
+        <translation>Nie ma słownika kodów CPV</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nowy</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>usunięty</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>zmieniono</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizuj</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Zmiana</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Pola</translation>
+    </message>
+    <message>
+        <source>The open order uses deleted materials:</source>
+        <translation>Otwarte zamówienie używa usuniętych materiałów:</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Szukane słowa</translation>
+    </message>
+    <message>
+        <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
+        <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>Database of material</source>
+        <translation>Baza danych materiałów</translation>
+    </message>
+    <message>
+        <source>Editing locked</source>
+        <translation>Edycja zablokowana</translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>no material was copied</source>
+        <translation>nie skopiowano materiału</translation>
+    </message>
+    <message>
+        <source>no material is selected</source>
+        <translation>nie zaznaczono materiału</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Save database</source>
+        <translation>Zapisać bazę danych</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n material(s) shown</source>
+        <translation>
+            <numerusform>Pokazano %1 z %n materiału</numerusform>
+            <numerusform>Pokazano %1 z %n materiałów</numerusform>
+            <numerusform>Pokazano %1 z %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opening groups</source>
+        <translation>Rozwijanie grup</translation>
+    </message>
+    <message>
+        <source>This material has no link that can be opened</source>
+        <translation>Ten materiał nie ma odnośnika do otwarcia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n materiał</numerusform>
+            <numerusform>Skopiowano %n materiały</numerusform>
+            <numerusform>Skopiowano %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n materiał</numerusform>
+            <numerusform>Wklejono %n materiały</numerusform>
+            <numerusform>Wklejono %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them need(s) a new KTM</source>
+        <translation>
+            <numerusform>%n z nich wymaga nowego KTM</numerusform>
+            <numerusform>%n z nich wymagają nowego KTM</numerusform>
+            <numerusform>%n z nich wymaga nowego KTM</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only empty groups are deleted</source>
+        <translation>Usuwane są tylko puste grupy</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) deleted</source>
+        <translation>
+            <numerusform>Usunięto %n materiał</numerusform>
+            <numerusform>Usunięto %n materiały</numerusform>
+            <numerusform>Usunięto %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Edit CPV</source>
+        <translation>Edytuj CPV</translation>
+    </message>
+    <message>
+        <source>Add. new group</source>
+        <translation>Dodaj nową grupę</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>Nazwa grupy</translation>
+    </message>
+    <message>
+        <source>Group already exists</source>
+        <translation>Grupa już istnieje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) sent to the order</source>
+        <translation>
+            <numerusform>Wysłano do zamówienia %n materiał</numerusform>
+            <numerusform>Wysłano do zamówienia %n materiały</numerusform>
+            <numerusform>Wysłano do zamówienia %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add. new material</source>
+        <translation>Dodaj nowy materiał</translation>
+    </message>
+    <message>
+        <source>Edit parameters</source>
+        <translation>Edycja parametrów</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Order</source>
@@ -352,6 +722,18 @@
     <message>
         <source>No line holds %1</source>
         <translation>Żadna pozycja nie zawiera %1</translation>
+    </message>
+    <message>
+        <source>No database is loaded</source>
+        <translation>Nie wczytano żadnej bazy danych</translation>
+    </message>
+    <message>
+        <source>Database of material</source>
+        <translation>Baza danych materiałów</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Baza danych</translation>
     </message>
 </context>
 <context>
@@ -730,6 +1112,298 @@
         <source>Version of the program</source>
         <translation>Wersja programu</translation>
     </message>
+    <message>
+        <source>Compare with another file</source>
+        <translation>Porównaj z innym plikiem</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Ustaw</translation>
+    </message>
+    <message>
+        <source>Take over the selected materials or fields, or all</source>
+        <translation>Przejmij zaznaczone materiały lub pola albo wszystko</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Pomiń</translation>
+    </message>
+    <message>
+        <source>Take the selected materials out of the list</source>
+        <translation>Usuń zaznaczone materiały z listy</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Rozwiń</translation>
+    </message>
+    <message>
+        <source>Collaps</source>
+        <translation>Zwiń</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizuj</translation>
+    </message>
+    <message>
+        <source>Make this database like another file</source>
+        <translation>Uaktualnij bazę według innego pliku</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Scalanie</translation>
+    </message>
+    <message>
+        <source>Compare with another file and take over changes</source>
+        <translation>Porównaj z innym plikiem i przejmij zmiany</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Raport</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Pełny</translation>
+    </message>
+    <message>
+        <source>Write a page of all materials</source>
+        <translation>Zapisz stronę ze wszystkimi materiałami</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Skrócony</translation>
+    </message>
+    <message>
+        <source>Write a short page of all materials</source>
+        <translation>Zapisz skróconą stronę ze wszystkimi materiałami</translation>
+    </message>
+    <message>
+        <source>Allow changes of the database</source>
+        <translation>Zezwól na zmiany bazy danych</translation>
+    </message>
+    <message>
+        <source>Copy text</source>
+        <translation>Kopiuj tekst</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy the selected materials</source>
+        <translation>Kopiuj zaznaczone materiały</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Wytnij</translation>
+    </message>
+    <message>
+        <source>Cut the selected materials</source>
+        <translation>Wytnij zaznaczone materiały</translation>
+    </message>
+    <message>
+        <source>Past</source>
+        <translation>Wklej</translation>
+    </message>
+    <message>
+        <source>Paste the copied materials into this group</source>
+        <translation>Wklej skopiowane materiały do tej grupy</translation>
+    </message>
+    <message>
+        <source>Delete materials</source>
+        <translation>Usuń materiały</translation>
+    </message>
+    <message>
+        <source>Delete the selected materials, or empty groups</source>
+        <translation>Usuń zaznaczone materiały lub puste grupy</translation>
+    </message>
+    <message>
+        <source>Add. new group</source>
+        <translation>Dodaj nową grupę</translation>
+    </message>
+    <message>
+        <source>Add. new material</source>
+        <translation>Dodaj nowy materiał</translation>
+    </message>
+    <message>
+        <source>Edit parameters</source>
+        <translation>Edycja parametrów</translation>
+    </message>
+    <message>
+        <source>Edit CPV</source>
+        <translation>Edytuj CPV</translation>
+    </message>
+    <message>
+        <source>Go to the search field</source>
+        <translation>Przejdź do pola wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Open all groups</source>
+        <translation>Rozwiń wszystkie grupy</translation>
+    </message>
+    <message>
+        <source>Close all groups</source>
+        <translation>Zwiń wszystkie grupy</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Kolumny</translation>
+    </message>
+    <message>
+        <source>Choose the columns shown</source>
+        <translation>Wybierz pokazywane kolumny</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Szary</translation>
+    </message>
+    <message>
+        <source>Show only materials with this status</source>
+        <translation>Pokaż tylko materiały o tym statusie</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Zielony</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Fioletowy</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Niebieski</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation>Edytowane</translation>
+    </message>
+    <message>
+        <source>Show only materials marked as edited</source>
+        <translation>Pokaż tylko materiały oznaczone jako edytowane</translation>
+    </message>
+    <message>
+        <source>Find Duplicate</source>
+        <translation>Znajdź duplikaty</translation>
+    </message>
+    <message>
+        <source>List materials that share a KTM or a part number</source>
+        <translation>Wypisz materiały o wspólnym KTM lub numerze producenta</translation>
+    </message>
+    <message>
+        <source>Find empty</source>
+        <translation>Znajdź puste</translation>
+    </message>
+    <message>
+        <source>List materials with empty fields</source>
+        <translation>Wypisz materiały z pustymi polami</translation>
+    </message>
+    <message>
+        <source>Check urls</source>
+        <translation>Sprawdź odnośniki</translation>
+    </message>
+    <message>
+        <source>Test every link of the materials</source>
+        <translation>Sprawdź każdy odnośnik materiałów</translation>
+    </message>
+    <message>
+        <source>Parse</source>
+        <translation>Wczytaj zestawienie</translation>
+    </message>
+    <message>
+        <source>Take stock and prices from a listing</source>
+        <translation>Przejmij stany i ceny z zestawienia</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informacja</translation>
+    </message>
+    <message>
+        <source>Count materials and groups</source>
+        <translation>Policz materiały i grupy</translation>
+    </message>
+    <message>
+        <source>Altium</source>
+        <translation>Altium</translation>
+    </message>
+    <message>
+        <source>Create altium xlsx</source>
+        <translation>Utwórz altium xlsx</translation>
+    </message>
+    <message>
+        <source>Export the component library as a workbook</source>
+        <translation>Eksportuj bibliotekę elementów jako skoroszyt</translation>
+    </message>
+    <message>
+        <source>Create altium sqlite</source>
+        <translation>Utwórz altium sqlite</translation>
+    </message>
+    <message>
+        <source>Export the component library as a database</source>
+        <translation>Eksportuj bibliotekę elementów jako bazę danych</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Inne</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupy</translation>
+    </message>
+    <message>
+        <source>Export the list of groups</source>
+        <translation>Eksportuj listę grup</translation>
+    </message>
+    <message>
+        <source>Load CPV for groups</source>
+        <translation>Wczytaj CPV dla grup</translation>
+    </message>
+    <message>
+        <source>Read the groups&apos; CPV codes from a text file</source>
+        <translation>Wczytaj kody CPV grup z pliku tekstowego</translation>
+    </message>
+    <message>
+        <source>Move CPV from group to materials</source>
+        <translation>Przenieś CPV z grup do materiałów</translation>
+    </message>
+    <message>
+        <source>CPV index</source>
+        <translation>Indeks CPV</translation>
+    </message>
+    <message>
+        <source>CPV index www</source>
+        <translation>Indeks CPV www</translation>
+    </message>
+    <message>
+        <source>Open the link of this material</source>
+        <translation>Otwórz odnośnik tego materiału</translation>
+    </message>
+    <message>
+        <source>Insert to BOM</source>
+        <translation>Wstaw do BOM</translation>
+    </message>
+    <message>
+        <source>To the order: 1</source>
+        <translation>Do zamówienia: 1</translation>
+    </message>
+    <message>
+        <source>Add the selected materials to the order</source>
+        <translation>Dodaj zaznaczone materiały do zamówienia</translation>
+    </message>
+    <message>
+        <source>To the order: N ...</source>
+        <translation>Do zamówienia: N ...</translation>
+    </message>
+    <message>
+        <source>Add the selected materials to the order with a quantity</source>
+        <translation>Dodaj zaznaczone materiały do zamówienia z podaną ilością</translation>
+    </message>
+    <message>
+        <source>Database of material</source>
+        <translation>Baza danych materiałów</translation>
+    </message>
+    <message>
+        <source>Browse and edit a material database</source>
+        <translation>Przeglądaj i edytuj bazę materiałów</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -796,6 +1470,10 @@
         <source>The SQLite driver cannot be used</source>
         <translation>Nie można użyć sterownika SQLite</translation>
     </message>
+    <message>
+        <source>Left out of the library description</source>
+        <translation>Pominięto w opisie biblioteki</translation>
+    </message>
 </context>
 <context>
     <name>baseWindow</name>
@@ -809,6 +1487,29 @@
     <message>
         <source>%1, row %2: %3</source>
         <translation>%1, wiersz %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>changesDialog</name>
+    <message>
+        <source>Changes</source>
+        <translation>Zmiany</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Przejmij</translation>
+    </message>
+    <message>
+        <source>Mark none</source>
+        <translation>Odznacz wszystko</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s). What stays marked is taken over.</source>
+        <translation>
+            <numerusform>%n zmiana. Przejęte zostanie to, co pozostanie zaznaczone.</numerusform>
+            <numerusform>%n zmiany. Przejęte zostanie to, co pozostanie zaznaczone.</numerusform>
+            <numerusform>%n zmian. Przejęte zostanie to, co pozostanie zaznaczone.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1295,6 +1996,17 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 cannot be written</source>
         <translation>Nie można zapisać %1</translation>
+    </message>
+</context>
+<context>
+    <name>databaseTree</name>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1898,7 +2610,7 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
     <message>
         <source>Copy to</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiuj do</translation>
     </message>
 </context>
 <context>
@@ -2267,6 +2979,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Asking</source>
         <translation>Pytanie</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Ostrzeżenie</translation>
     </message>
 </context>
 <context>

@@ -18,35 +18,34 @@
 #include <map>
 #include <set>
 
-using window = Kiv_mat_databaseMergeWindow;
 using myItem::myItemStandard;
 
 namespace {
 
-const windowAction<window> actionTable[] = {
+const windowAction<Kiv_mat_databaseMergeWindow> actionTable[] = {
     {{"open", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Open"),
       "action_open", "Ctrl+O", QT_TRANSLATE_NOOP("actions", "Compare with another file"), true},
-     &window::commandOpen},
+     &Kiv_mat_databaseMergeWindow::commandOpen},
     {{"set", "File", QT_TRANSLATE_NOOP("actions", "Set"), "action_set", "Ctrl+S",
       QT_TRANSLATE_NOOP("actions", "Take over the selected materials or fields, or all"), true},
-     &window::commandSet},
+     &Kiv_mat_databaseMergeWindow::commandSet},
     {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
     {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &window::commandClose},
+     &Kiv_mat_databaseMergeWindow::commandClose},
     {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
       "action_undo", "Ctrl+Z", nullptr, true},
-     &window::commandUndo},
+     &Kiv_mat_databaseMergeWindow::commandUndo},
     {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &window::commandRedo},
+     &Kiv_mat_databaseMergeWindow::commandRedo},
     {{"leaveOut", "Edit", QT_TRANSLATE_NOOP("actions", "Leave out"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Take the selected materials out of the list"), true},
-     &window::commandLeaveOut},
+     &Kiv_mat_databaseMergeWindow::commandLeaveOut},
     {{"expand", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Expand"),
       "action_expand", nullptr, nullptr, true},
-     &window::commandExpand},
+     &Kiv_mat_databaseMergeWindow::commandExpand},
     {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
       nullptr, true},
-     &window::commandCollaps},
+     &Kiv_mat_databaseMergeWindow::commandCollaps},
 };
 
 // In the first cell of a row: the place of its difference, or of its field.
@@ -79,7 +78,7 @@ void mark(const myItem::row &row)
 
 } // namespace
 
-window::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database)
+Kiv_mat_databaseMergeWindow::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database)
     : baseWindow(QStringLiteral("Kiv_mat_databaseMergeWindow"))
     , m_database(database)
     , m_model(new myModel(this))
@@ -99,16 +98,16 @@ window::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database)
     m_view->header()->resizeSection(1, columnWidth);
     m_view->header()->setStretchLastSection(true);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
-            &window::itemTreeClicked);
+            &Kiv_mat_databaseMergeWindow::itemTreeClicked);
     setCentralWidget(m_view);
     constexpr QSize usualSize(1000, 680);
     resize(usualSize);
     updateActions();
 }
 
-window::~Kiv_mat_databaseMergeWindow() { m_stack->clear(); }
+Kiv_mat_databaseMergeWindow::~Kiv_mat_databaseMergeWindow() { m_stack->clear(); }
 
-void window::commandOpen(bool)
+void Kiv_mat_databaseMergeWindow::commandOpen(bool)
 {
     const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(),
                                                 tr("Xml File") + QLatin1String(" (*.xml)"));
@@ -116,7 +115,7 @@ void window::commandOpen(bool)
         open(path);
 }
 
-bool window::open(const QString &path)
+bool Kiv_mat_databaseMergeWindow::open(const QString &path)
 {
     auto other = std::make_unique<kiv_mat_databaseStruct>();
     QString reason;
@@ -142,7 +141,7 @@ bool window::open(const QString &path)
     return true;
 }
 
-void window::showDifferences()
+void Kiv_mat_databaseMergeWindow::showDifferences()
 {
     m_stack->clear();
     m_model->removeRows(0, m_model->rowCount());
@@ -175,7 +174,7 @@ void window::showDifferences()
     updateActions();
 }
 
-void window::updateActions()
+void Kiv_mat_databaseMergeWindow::updateActions()
 {
     const bool empty = m_model->rowCount() == 0;
     for (const char *name : {"leaveOut", "expand", "collaps"})
@@ -185,7 +184,7 @@ void window::updateActions()
                  locked ? tr("editing of the database is locked") : tr("nothing differs"));
 }
 
-void window::commandSet(bool)
+void Kiv_mat_databaseMergeWindow::commandSet(bool)
 {
     // Of each material in the list: all of its fields, or those selected.
     std::map<int, std::set<int>> selected;
@@ -214,7 +213,7 @@ void window::commandSet(bool)
     statusBar()->showMessage(tr("%n material(s) taken over", nullptr, count));
 }
 
-void window::commandLeaveOut(bool)
+void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
 {
     std::set<int> rows;
     for (const QModelIndex &cell : m_view->selectedCells())
@@ -227,25 +226,25 @@ void window::commandLeaveOut(bool)
     updateActions();
 }
 
-void window::commandUndo(bool)
+void Kiv_mat_databaseMergeWindow::commandUndo(bool)
 {
     statusBar()->showMessage(tr("Undone: %1").arg(m_stack->undo()));
     updateActions();
 }
 
-void window::commandRedo(bool)
+void Kiv_mat_databaseMergeWindow::commandRedo(bool)
 {
     statusBar()->showMessage(tr("Done again: %1").arg(m_stack->redo()));
     updateActions();
 }
 
-void window::commandCollaps(bool) { m_view->collapseAll(); }
+void Kiv_mat_databaseMergeWindow::commandCollaps(bool) { m_view->collapseAll(); }
 
-void window::commandExpand(bool) { m_view->expandAll(); }
+void Kiv_mat_databaseMergeWindow::commandExpand(bool) { m_view->expandAll(); }
 
-void window::commandClose(bool) { close(); }
+void Kiv_mat_databaseMergeWindow::commandClose(bool) { close(); }
 
-void window::itemTreeClicked(QPoint, uint, const QModelIndex &index)
+void Kiv_mat_databaseMergeWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
 {
     const QModelIndex row = index.sibling(index.row(), 0);
     const QModelIndex material = row.parent().isValid() ? row.parent() : row;

@@ -34,7 +34,6 @@
 
 using materialRows = databaseTree::rows;
 using myItem::myItemStandard;
-using window = Kiv_mat_databaseWindow;
 
 namespace {
 
@@ -47,159 +46,159 @@ const actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullpt
 const actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
 const actionRow toolsSeparator{nullptr, "Tools", nullptr, nullptr, nullptr, nullptr, false};
 
-const windowAction<window> actionTable[] = {
+const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"save", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Save"),
       "action_save", "Ctrl+S", nullptr, true},
-     &window::commandSave},
+     &Kiv_mat_databaseWindow::commandSave},
     {{"update", "File", QT_TRANSLATE_NOOP("actions", "Update"), "action_update", nullptr,
       QT_TRANSLATE_NOOP("actions", "Make this database like another file")},
-     &window::commandUpdate},
+     &Kiv_mat_databaseWindow::commandUpdate},
     {{"merge", "File", QT_TRANSLATE_NOOP("actions", "Merge"), "action_merge", nullptr,
       QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
-     &window::commandMerge},
+     &Kiv_mat_databaseWindow::commandMerge},
     {fileSeparator, nullptr},
     {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &window::commandClose},
+     &Kiv_mat_databaseWindow::commandClose},
 
     {{"fullReport", QT_TRANSLATE_NOOP("actions", "Report"), QT_TRANSLATE_NOOP("actions", "Full"),
       "action_report", nullptr, QT_TRANSLATE_NOOP("actions", "Write a page of all materials")},
-     &window::commandFullReport},
+     &Kiv_mat_databaseWindow::commandFullReport},
     {{"shortReport", "Report", QT_TRANSLATE_NOOP("actions", "Short"), "action_report_short",
       nullptr, QT_TRANSLATE_NOOP("actions", "Write a short page of all materials")},
-     &window::commandShortReport},
+     &Kiv_mat_databaseWindow::commandShortReport},
 
     {{"edit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
       "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the database"), true,
       true},
-     &window::commandEdit},
+     &Kiv_mat_databaseWindow::commandEdit},
     {{"undo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr, true},
-     &window::commandUndo},
+     &Kiv_mat_databaseWindow::commandUndo},
     {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &window::commandRedo},
+     &Kiv_mat_databaseWindow::commandRedo},
     {editSeparator, nullptr},
     {{"copyText", "Edit", QT_TRANSLATE_NOOP("actions", "Copy text"), "data_copy_128", "Ctrl+C",
       QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
-     &window::commandCopyText},
+     &Kiv_mat_databaseWindow::commandCopyText},
     {{"copyMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Copy"), "data_copy_element2_128",
       "Ctrl+Shift+C", QT_TRANSLATE_NOOP("actions", "Copy the selected materials")},
-     &window::commandCopyMaterials},
+     &Kiv_mat_databaseWindow::commandCopyMaterials},
     {{"cutMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Cut"), "data_cut_128", "Ctrl+X",
       QT_TRANSLATE_NOOP("actions", "Cut the selected materials")},
-     &window::commandCutMaterials},
+     &Kiv_mat_databaseWindow::commandCutMaterials},
     {{"pasteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Past"), "data_past_element2_128",
       "Ctrl+V", QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group")},
-     &window::commandPasteMaterials},
+     &Kiv_mat_databaseWindow::commandPasteMaterials},
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
-     &window::commandDeleteMaterials},
+     &Kiv_mat_databaseWindow::commandDeleteMaterials},
     {editSeparator, nullptr},
     {{"addGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new group"), "zp_open_group_128",
       nullptr, nullptr},
-     &window::commandAddGroup},
+     &Kiv_mat_databaseWindow::commandAddGroup},
     {{"addMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new material"),
       "data_new_element2_128", "Ins", nullptr, true},
-     &window::commandAddMaterial},
+     &Kiv_mat_databaseWindow::commandAddMaterial},
     {{"editParameters", "Edit", QT_TRANSLATE_NOOP("actions", "Edit parameters"),
       "data_open_element2_128", "F4", nullptr},
-     &window::commandEditParameters},
+     &Kiv_mat_databaseWindow::commandEditParameters},
     {{"editCpv", "Edit", QT_TRANSLATE_NOOP("actions", "Edit CPV"), "zp_cpv_edit_128", nullptr,
       nullptr},
-     &window::commandEditCpv},
+     &Kiv_mat_databaseWindow::commandEditCpv},
     {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
-     &window::commandFind},
+     &Kiv_mat_databaseWindow::commandFind},
 
     {{"expand", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Expand"),
       "action_expand", nullptr, QT_TRANSLATE_NOOP("actions", "Open all groups"), true},
-     &window::commandExpand},
+     &Kiv_mat_databaseWindow::commandExpand},
     {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Close all groups"), true},
-     &window::commandCollaps},
+     &Kiv_mat_databaseWindow::commandCollaps},
     {{"columns", "Tools", QT_TRANSLATE_NOOP("actions", "Columns"), "action_list", nullptr,
       QT_TRANSLATE_NOOP("actions", "Choose the columns shown")},
-     &window::commandColumns},
+     &Kiv_mat_databaseWindow::commandColumns},
     {toolsSeparator, nullptr},
     {{"gray", "Tools", QT_TRANSLATE_NOOP("actions", "Gray"), "led_gray", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
-     &window::commandGray},
+     &Kiv_mat_databaseWindow::commandGray},
     {{"green", "Tools", QT_TRANSLATE_NOOP("actions", "Green"), "led_green", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
-     &window::commandGreen},
+     &Kiv_mat_databaseWindow::commandGreen},
     {{"violet", "Tools", QT_TRANSLATE_NOOP("actions", "Violet"), "led_purple", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
-     &window::commandViolet},
+     &Kiv_mat_databaseWindow::commandViolet},
     {{"blue", "Tools", QT_TRANSLATE_NOOP("actions", "Blue"), "led_blue", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
-     &window::commandBlue},
+     &Kiv_mat_databaseWindow::commandBlue},
     {{"edited", "Tools", QT_TRANSLATE_NOOP("actions", "Edited"), "action_filter", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials marked as edited"), true, true},
-     &window::commandEdited},
+     &Kiv_mat_databaseWindow::commandEdited},
     {toolsSeparator, nullptr},
     {{"findDuplicate", "Tools", QT_TRANSLATE_NOOP("actions", "Find Duplicate"), "action_duplicate",
       nullptr, QT_TRANSLATE_NOOP("actions", "List materials that share a KTM or a part number")},
-     &window::commandFindDuplicate},
+     &Kiv_mat_databaseWindow::commandFindDuplicate},
     {{"findEmpty", "Tools", QT_TRANSLATE_NOOP("actions", "Find empty"), "action_empty", nullptr,
       QT_TRANSLATE_NOOP("actions", "List materials with empty fields")},
-     &window::commandFindEmpty},
+     &Kiv_mat_databaseWindow::commandFindEmpty},
     {{"checkUrls", "Tools", QT_TRANSLATE_NOOP("actions", "Check urls"), "action_links", nullptr,
       QT_TRANSLATE_NOOP("actions", "Test every link of the materials")},
-     &window::commandCheck_urls},
+     &Kiv_mat_databaseWindow::commandCheck_urls},
     {{"parse", "Tools", QT_TRANSLATE_NOOP("actions", "Parse"), "action_parse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Take stock and prices from a listing")},
-     &window::commandParse},
+     &Kiv_mat_databaseWindow::commandParse},
     {{"information", "Tools", QT_TRANSLATE_NOOP("actions", "Information"), "action_information",
       nullptr, QT_TRANSLATE_NOOP("actions", "Count materials and groups")},
-     &window::commandInformation},
+     &Kiv_mat_databaseWindow::commandInformation},
 
     {{"altiumXlsx", QT_TRANSLATE_NOOP("actions", "Altium"),
       QT_TRANSLATE_NOOP("actions", "Create altium xlsx"), "action_xlsx", nullptr,
       QT_TRANSLATE_NOOP("actions", "Export the component library as a workbook")},
-     &window::commandAltiumXlsx},
+     &Kiv_mat_databaseWindow::commandAltiumXlsx},
     {{"altiumSqlite", "Altium", QT_TRANSLATE_NOOP("actions", "Create altium sqlite"),
       "action_sqlite", nullptr,
       QT_TRANSLATE_NOOP("actions", "Export the component library as a database")},
-     &window::commandAltiumSQLite},
+     &Kiv_mat_databaseWindow::commandAltiumSQLite},
 
     {{"groups", QT_TRANSLATE_NOOP("actions", "Others"), QT_TRANSLATE_NOOP("actions", "Groups"),
       "action_groups", nullptr, QT_TRANSLATE_NOOP("actions", "Export the list of groups")},
-     &window::commandGroups},
+     &Kiv_mat_databaseWindow::commandGroups},
     {{"loadCpv", "Others", QT_TRANSLATE_NOOP("actions", "Load CPV for groups"), "action_cpv",
       nullptr, QT_TRANSLATE_NOOP("actions", "Read the groups' CPV codes from a text file")},
-     &window::commandLoadCPVForGroups},
+     &Kiv_mat_databaseWindow::commandLoadCPVForGroups},
     {{"moveCpv", "Others", QT_TRANSLATE_NOOP("actions", "Move CPV from group to materials"),
       "action_cpv", nullptr, nullptr},
-     &window::commandMoveCPVFromGroupToMaterials},
+     &Kiv_mat_databaseWindow::commandMoveCPVFromGroupToMaterials},
     {{"cpvIndex", "Others", QT_TRANSLATE_NOOP("actions", "CPV index"), "action_help", nullptr,
       nullptr},
-     &window::commandCPVIndex},
+     &Kiv_mat_databaseWindow::commandCPVIndex},
     {{"cpvIndexWww", "Others", QT_TRANSLATE_NOOP("actions", "CPV index www"), "action_link",
       nullptr, nullptr},
-     &window::commandCPVIndexWWW},
+     &Kiv_mat_databaseWindow::commandCPVIndexWWW},
 
     // Without a menu: of the context menu and the tool bar only.
     {{"expand2", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "action_expand", nullptr,
       nullptr},
-     &window::commandExpand2},
+     &Kiv_mat_databaseWindow::commandExpand2},
     {{"openLink", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
-     &window::commandOpenLink},
+     &Kiv_mat_databaseWindow::commandOpenLink},
     {{"expandGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
       nullptr, nullptr},
-     &window::commandExpandGroup},
+     &Kiv_mat_databaseWindow::commandExpandGroup},
     {{"collapsGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
       nullptr, nullptr},
-     &window::commandCollapsGroup},
+     &Kiv_mat_databaseWindow::commandCollapsGroup},
     {{"insertToBom", nullptr, QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
       "data_insert_to_bom_128", nullptr, nullptr},
-     &window::commandInsertToBom},
+     &Kiv_mat_databaseWindow::commandInsertToBom},
     {{"toOrder", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
       "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
-     &window::commandToOrder},
+     &Kiv_mat_databaseWindow::commandToOrder},
     {{"toOrderN", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
       "action_add_material", "Ctrl+Shift+Return",
       QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
-     &window::commandToOrderN},
+     &Kiv_mat_databaseWindow::commandToOrderN},
 };
 
 const std::pair<const char *, QLatin1String> statusFilters[] = {
@@ -214,7 +213,7 @@ const std::pair<const char *, QLatin1String> statusFilters[] = {
 // --- Construction
 // ---------------------------------------------------------------------------------
 
-window::Kiv_mat_databaseWindow(programData::databaseKind kind)
+Kiv_mat_databaseWindow::Kiv_mat_databaseWindow(programData::databaseKind kind)
     : baseWindow(QStringLiteral("Kiv_mat_databaseWindow"))
     , m_kind(kind)
 {
@@ -223,9 +222,9 @@ window::Kiv_mat_databaseWindow(programData::databaseKind kind)
     commandEdit(false);
 }
 
-window::~Kiv_mat_databaseWindow() { m_stack->clear(); }
+Kiv_mat_databaseWindow::~Kiv_mat_databaseWindow() { m_stack->clear(); }
 
-void window::buildWidgets()
+void Kiv_mat_databaseWindow::buildWidgets()
 {
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/action_database.png")));
     addActions(actionTable);
@@ -258,7 +257,7 @@ void window::buildWidgets()
     m_filterDelay = new QTimer(this);
     m_filterDelay->setSingleShot(true);
     m_filterDelay->setInterval(filterDelayMs);
-    connect(m_filterDelay, &QTimer::timeout, this, &window::applyFilter);
+    connect(m_filterDelay, &QTimer::timeout, this, &Kiv_mat_databaseWindow::applyFilter);
     connect(m_words, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
     connect(m_words, &QLineEdit::returnPressed, this, [this] {
         applyFilter();
@@ -271,16 +270,17 @@ void window::buildWidgets()
                     for (int row = first; row <= last; ++row)
                         filterRow(group, row);
             });
-    connect(m_model, &myModel::sorted, this, &window::clearCommands);
+    connect(m_model, &myModel::sorted, this, &Kiv_mat_databaseWindow::clearCommands);
     for (auto signal :
          {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
-        connect(m_model, signal, this, &window::changed);
+        connect(m_model, signal, this, &Kiv_mat_databaseWindow::changed);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
-            &window::itemTreeClicked);
-    connect(m_view, &QWidget::customContextMenuRequested, this, &window::showContextMenu);
+            &Kiv_mat_databaseWindow::itemTreeClicked);
+    connect(m_view, &QWidget::customContextMenuRequested, this,
+            &Kiv_mat_databaseWindow::showContextMenu);
 }
 
-void window::showDatabase()
+void Kiv_mat_databaseWindow::showDatabase()
 {
     programData &known = programData::instance();
     m_stack->clear();
@@ -303,7 +303,7 @@ void window::showDatabase()
     showTitle();
 }
 
-void window::showTitle()
+void Kiv_mat_databaseWindow::showTitle()
 {
     QString title = tr("Database of material") + QLatin1String(" [")
                     + QDir::toNativeSeparators(m_rows->database().filePath) + QLatin1Char(']');
@@ -312,7 +312,7 @@ void window::showTitle()
     setWindowTitle(title + (m_modified ? QStringLiteral(" *") : QString()));
 }
 
-void window::showNow()
+void Kiv_mat_databaseWindow::showNow()
 {
     if (!isVisible())
         showDatabase();
@@ -322,7 +322,7 @@ void window::showNow()
     m_words->setFocus();
 }
 
-void window::updateActions()
+void Kiv_mat_databaseWindow::updateActions()
 {
     const bool locked = m_view->isEditingLocked();
     const QString reason = tr("editing is locked");
@@ -334,7 +334,7 @@ void window::updateActions()
                  locked ? reason : tr("no material was copied"));
 }
 
-void window::showContextMenu(const QPoint &position)
+void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
     const bool onMaterial =
@@ -352,7 +352,7 @@ void window::showContextMenu(const QPoint &position)
     menu.exec(m_view->viewport()->mapToGlobal(position));
 }
 
-void window::itemTreeClicked(QPoint, uint, const QModelIndex &index)
+void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
 {
     const QStandardItem *item = m_model->itemFromIndex(index);
     if (const materialStruct *material = materialRows::materialOf(item))
@@ -363,7 +363,7 @@ void window::itemTreeClicked(QPoint, uint, const QModelIndex &index)
 // --- Life
 // -----------------------------------------------------------------------------------------
 
-void window::changed()
+void Kiv_mat_databaseWindow::changed()
 {
     if (!m_modified) {
         m_modified = true;
@@ -371,7 +371,7 @@ void window::changed()
     }
 }
 
-void window::push(std::unique_ptr<command> change, const QString &what)
+void Kiv_mat_databaseWindow::push(std::unique_ptr<command> change, const QString &what)
 {
     if (!change)
         return;
@@ -381,7 +381,7 @@ void window::push(std::unique_ptr<command> change, const QString &what)
     statusBar()->showMessage(what);
 }
 
-void window::commandSave(bool)
+void Kiv_mat_databaseWindow::commandSave(bool)
 {
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString path = database.filePath;
@@ -406,9 +406,9 @@ void window::commandSave(bool)
     statusBar()->showMessage(tr("Saved"));
 }
 
-void window::commandClose(bool) { close(); }
+void Kiv_mat_databaseWindow::commandClose(bool) { close(); }
 
-void window::closeEvent(QCloseEvent *event)
+void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 {
     if (m_modified) {
         if (userPrompts().ask(tr("Save database"), false) == prompts::answer::yes) {
@@ -432,14 +432,14 @@ void window::closeEvent(QCloseEvent *event)
     baseWindow::closeEvent(event);
 }
 
-void window::commandEdit(bool on)
+void Kiv_mat_databaseWindow::commandEdit(bool on)
 {
     m_view->setEditingLocked(!on);
     showTitle();
     updateActions();
 }
 
-void window::commandUndo(bool)
+void Kiv_mat_databaseWindow::commandUndo(bool)
 {
     const QString what = m_stack->undo();
     changed();
@@ -447,7 +447,7 @@ void window::commandUndo(bool)
     statusBar()->showMessage(tr("Undone: %1").arg(what));
 }
 
-void window::commandRedo(bool)
+void Kiv_mat_databaseWindow::commandRedo(bool)
 {
     const QString what = m_stack->redo();
     changed();
@@ -455,18 +455,18 @@ void window::commandRedo(bool)
     statusBar()->showMessage(tr("Done again: %1").arg(what));
 }
 
-void window::clearCommands() { m_stack->clear(); }
+void Kiv_mat_databaseWindow::clearCommands() { m_stack->clear(); }
 
 // --- Searching and filtering
 // ----------------------------------------------------------------------
 
-void window::commandFind(bool)
+void Kiv_mat_databaseWindow::commandFind(bool)
 {
     m_words->setFocus();
     m_words->selectAll();
 }
 
-void window::setFilter(const char *name, const QString &word, bool on)
+void Kiv_mat_databaseWindow::setFilter(const char *name, const QString &word, bool on)
 {
     // The active one chosen again shows all.
     m_statusFilter = on ? word : QString();
@@ -478,18 +478,18 @@ void window::setFilter(const char *name, const QString &word, bool on)
     applyFilter();
 }
 
-void window::commandGray(bool on) { setFilter("gray", statusWord::grey, on); }
-void window::commandGreen(bool on) { setFilter("green", statusWord::green, on); }
-void window::commandViolet(bool on) { setFilter("violet", statusWord::violet, on); }
-void window::commandBlue(bool on) { setFilter("blue", statusWord::blue, on); }
+void Kiv_mat_databaseWindow::commandGray(bool on) { setFilter("gray", statusWord::grey, on); }
+void Kiv_mat_databaseWindow::commandGreen(bool on) { setFilter("green", statusWord::green, on); }
+void Kiv_mat_databaseWindow::commandViolet(bool on) { setFilter("violet", statusWord::violet, on); }
+void Kiv_mat_databaseWindow::commandBlue(bool on) { setFilter("blue", statusWord::blue, on); }
 
-void window::commandEdited(bool on)
+void Kiv_mat_databaseWindow::commandEdited(bool on)
 {
     m_editedFilter = on;
     applyFilter();
 }
 
-bool window::isShown(const materialStruct &material)
+bool Kiv_mat_databaseWindow::isShown(const materialStruct &material)
 {
     if (!m_statusFilter.isEmpty() && !material.information.status.contains(m_statusFilter))
         return false;
@@ -499,7 +499,7 @@ bool window::isShown(const materialStruct &material)
     return m_query.terms().empty() || programData::instance().search().matches(&material, m_query);
 }
 
-void window::filterRow(QStandardItem *group, int row)
+void Kiv_mat_databaseWindow::filterRow(QStandardItem *group, int row)
 {
     const auto *first = static_cast<const myItemStandard *>(group->child(row));
     const auto *material = first ? static_cast<materialStruct *>(first->record) : nullptr;
@@ -510,7 +510,7 @@ void window::filterRow(QStandardItem *group, int row)
         m_view->setRowHidden(row, group->index(), hidden);
 }
 
-void window::applyFilter()
+void Kiv_mat_databaseWindow::applyFilter()
 {
     m_filterDelay->stop();
     m_query = searchQuery::parse(m_words->text());
@@ -547,7 +547,7 @@ void window::applyFilter()
 }
 
 // Rows that are made already, some at a time, so that the next key need not wait.
-void window::filterSlice()
+void Kiv_mat_databaseWindow::filterSlice()
 {
     QElapsedTimer time;
     time.start();
@@ -556,20 +556,20 @@ void window::filterSlice()
         for (int row = 0; row < group->rowCount(); ++row)
             filterRow(group, row);
         if (time.elapsed() > sliceMs) {
-            QTimer::singleShot(0, this, &window::filterSlice);
+            QTimer::singleShot(0, this, &Kiv_mat_databaseWindow::filterSlice);
             return;
         }
     }
     m_filterGroup = -1;
 }
 
-void window::selectItem(QTreeView *view, QStandardItem *item)
+void Kiv_mat_databaseWindow::selectItem(QTreeView *view, QStandardItem *item)
 {
     view->setCurrentIndex(item->index());
     view->scrollTo(item->index());
 }
 
-void window::selectMaterial(materialStruct *material)
+void Kiv_mat_databaseWindow::selectMaterial(materialStruct *material)
 {
     if (!m_rows->find(material))
         for (const auto &group : m_rows->database().groups)
@@ -580,7 +580,7 @@ void window::selectMaterial(materialStruct *material)
         selectItem(m_view, first);
 }
 
-void window::commandExpand(bool)
+void Kiv_mat_databaseWindow::commandExpand(bool)
 {
     workProgress::scope work(progress(), tr("Opening groups"));
     const auto step = work.function();
@@ -591,11 +591,11 @@ void window::commandExpand(bool)
     }
 }
 
-void window::commandExpand2(bool on) { commandExpand(on); }
+void Kiv_mat_databaseWindow::commandExpand2(bool on) { commandExpand(on); }
 
-void window::commandCollaps(bool) { m_view->collapseAll(); }
+void Kiv_mat_databaseWindow::commandCollaps(bool) { m_view->collapseAll(); }
 
-void window::commandColumns(bool)
+void Kiv_mat_databaseWindow::commandColumns(bool)
 {
     QMenu menu(this);
     QHeaderView *header = m_view->header();
@@ -612,7 +612,7 @@ void window::commandColumns(bool)
 // --- Materials and groups
 // -------------------------------------------------------------------------
 
-std::vector<materialStruct *> window::selectedMaterials() const
+std::vector<materialStruct *> Kiv_mat_databaseWindow::selectedMaterials() const
 {
     std::vector<materialStruct *> found;
     QModelIndexList cells = m_view->selectedCells();
@@ -625,7 +625,7 @@ std::vector<materialStruct *> window::selectedMaterials() const
     return found;
 }
 
-QStandardItem *window::currentGroup() const
+QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
 {
     QModelIndex index = m_view->currentIndex();
     if (index.parent().isValid())
@@ -633,7 +633,7 @@ QStandardItem *window::currentGroup() const
     return m_model->item(index.isValid() ? index.row() : 0);
 }
 
-void window::commandCopyText(bool)
+void Kiv_mat_databaseWindow::commandCopyText(bool)
 {
     QModelIndexList cells = m_view->selectedCells();
     if (cells.isEmpty() && m_view->currentIndex().isValid())
@@ -641,7 +641,7 @@ void window::commandCopyText(bool)
     QApplication::clipboard()->setText(cellBlock::copied(cells));
 }
 
-void window::commandOpenLink(bool)
+void Kiv_mat_databaseWindow::commandOpenLink(bool)
 {
     const QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
     const materialStruct *material = materialRows::materialOf(item);
@@ -650,7 +650,7 @@ void window::commandOpenLink(bool)
         statusBar()->showMessage(tr("This material has no link that can be opened"));
 }
 
-void window::commandCopyMaterials(bool)
+void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
 {
     m_copied.clear();
     for (const materialStruct *material : selectedMaterials())
@@ -659,13 +659,13 @@ void window::commandCopyMaterials(bool)
     statusBar()->showMessage(tr("%n material(s) copied", nullptr, int(m_copied.size())));
 }
 
-void window::commandCutMaterials(bool on)
+void Kiv_mat_databaseWindow::commandCutMaterials(bool on)
 {
     commandCopyMaterials(on);
     commandDeleteMaterials(on);
 }
 
-void window::commandPasteMaterials(bool)
+void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
 {
     QStandardItem *group = currentGroup();
     if (!group)
@@ -692,7 +692,7 @@ void window::commandPasteMaterials(bool)
         statusBar()->showMessage(tr("%n of them need(s) a new KTM", nullptr, withoutKtm));
 }
 
-void window::commandDeleteMaterials(bool)
+void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
 {
     std::vector<std::unique_ptr<command>> members;
     const std::vector<materialStruct *> materials = selectedMaterials();
@@ -712,7 +712,7 @@ void window::commandDeleteMaterials(bool)
          tr("%n material(s) deleted", nullptr, count));
 }
 
-void window::commandEditCpv(bool)
+void Kiv_mat_databaseWindow::commandEditCpv(bool)
 {
     QStandardItem *group = currentGroup();
     if (!group)
@@ -729,7 +729,7 @@ void window::commandEditCpv(bool)
     push(std::make_unique<changeValue>(m_model, cell, *code), tr("Edit CPV"));
 }
 
-void window::commandAddGroup(bool)
+void Kiv_mat_databaseWindow::commandAddGroup(bool)
 {
     const auto name = userPrompts().inputText(tr("Add. new group"), tr("Group name"), {});
     if (!name || name->trimmed().isEmpty())
@@ -746,25 +746,25 @@ void window::commandAddGroup(bool)
     selectItem(m_view, m_model->item(m_model->rowCount() - 1));
 }
 
-void window::commandExpandGroup(bool)
+void Kiv_mat_databaseWindow::commandExpandGroup(bool)
 {
     if (QStandardItem *group = currentGroup())
         m_view->expandItem(group);
 }
 
-void window::commandCollapsGroup(bool)
+void Kiv_mat_databaseWindow::commandCollapsGroup(bool)
 {
     if (QStandardItem *group = currentGroup())
         m_view->collapseItem(group);
 }
 
-void window::commandInsertToBom(bool)
+void Kiv_mat_databaseWindow::commandInsertToBom(bool)
 {
     for (const materialStruct *material : selectedMaterials())
         emit insertToBom(material->d_ktm);
 }
 
-void window::commandToOrder(bool)
+void Kiv_mat_databaseWindow::commandToOrder(bool)
 {
     QStringList ktms;
     for (const materialStruct *material : selectedMaterials())
@@ -774,7 +774,7 @@ void window::commandToOrder(bool)
     statusBar()->showMessage(tr("%n material(s) sent to the order", nullptr, ktms.size()));
 }
 
-void window::commandToOrderN(bool)
+void Kiv_mat_databaseWindow::commandToOrderN(bool)
 {
     QStringList ktms;
     for (const materialStruct *material : selectedMaterials())
@@ -793,10 +793,10 @@ void window::commandToOrderN(bool)
 // --- The material editor
 // --------------------------------------------------------------------------
 
-void window::commandAddMaterial(bool) {}
-void window::commandEditParameters(bool) {}
+void Kiv_mat_databaseWindow::commandAddMaterial(bool) {}
+void Kiv_mat_databaseWindow::commandEditParameters(bool) {}
 
-void window::commandAddNew(QStandardItem *group, materialStruct *material)
+void Kiv_mat_databaseWindow::commandAddNew(QStandardItem *group, materialStruct *material)
 {
     push(std::make_unique<appendItems>(group,
                                        m_rows->makeRow(std::unique_ptr<materialStruct>(material))),
@@ -804,7 +804,7 @@ void window::commandAddNew(QStandardItem *group, materialStruct *material)
     selectMaterial(material);
 }
 
-void window::commandEditExist(QStandardItem *item, materialStruct *material)
+void Kiv_mat_databaseWindow::commandEditExist(QStandardItem *item, materialStruct *material)
 {
     push(std::make_unique<changeRow>(item->parent(), item->row(),
                                      m_rows->makeRow(std::unique_ptr<materialStruct>(material))),

@@ -27,11 +27,9 @@
 #include <QStatusBar>
 #include <QUrl>
 
-using window = Kiv_mat_databaseWindow;
-
 namespace {
 
-QString xmlFilter() { return window::tr("Xml File") + QLatin1String(" (*.xml)"); }
+QString xmlFilter() { return Kiv_mat_databaseWindow::tr("Xml File") + QLatin1String(" (*.xml)"); }
 
 // Many texts of records as one step; rows that are made follow.
 class changeTexts : public command
@@ -76,7 +74,7 @@ std::unique_ptr<materialStruct> merged(const materialDifference &difference)
 
 } // namespace
 
-void window::list(const QString &heading, const QStringList &lines)
+void Kiv_mat_databaseWindow::list(const QString &heading, const QStringList &lines)
 {
     if (lines.isEmpty())
         return;
@@ -85,7 +83,7 @@ void window::list(const QString &heading, const QStringList &lines)
     userPrompts().showErrors();
 }
 
-void window::tell(const exportResult &result)
+void Kiv_mat_databaseWindow::tell(const exportResult &result)
 {
     switch (result.result) {
     case exportResult::cancelled:
@@ -107,7 +105,7 @@ void window::tell(const exportResult &result)
 // --- Reports and exports
 // --------------------------------------------------------------------------
 
-void window::writeReport(databaseReportKind kind)
+void Kiv_mat_databaseWindow::writeReport(databaseReportKind kind)
 {
     const QString path = databaseReportPath(m_rows->database().filePath, kind);
     if (userPrompts().ask(tr("Do you want create ?").toHtmlEscaped() + QLatin1String("<br>")
@@ -124,12 +122,13 @@ void window::writeReport(databaseReportKind kind)
         QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
-void window::commandFullReport(bool) { writeReport(databaseReportKind::full); }
-void window::commandShortReport(bool) { writeReport(databaseReportKind::brief); }
+void Kiv_mat_databaseWindow::commandFullReport(bool) { writeReport(databaseReportKind::full); }
+void Kiv_mat_databaseWindow::commandShortReport(bool) { writeReport(databaseReportKind::brief); }
 
-void window::exportTo(const QString &path,
-                      exportResult (*write)(const kiv_mat_databaseStruct &, const QString &,
-                                            const progressFunction &))
+void Kiv_mat_databaseWindow::exportTo(const QString &path,
+                                      exportResult (*write)(const kiv_mat_databaseStruct &,
+                                                            const QString &,
+                                                            const progressFunction &))
 {
     if (path.isEmpty())
         return;
@@ -138,7 +137,7 @@ void window::exportTo(const QString &path,
     tell(write(m_rows->database(), path, work.function()));
 }
 
-void window::commandAltiumXlsx(bool)
+void Kiv_mat_databaseWindow::commandAltiumXlsx(bool)
 {
     exportTo(userPrompts().saveFile(tr("Save to File"),
                                     proposedExportPath(m_rows->database().filePath,
@@ -148,7 +147,7 @@ void window::commandAltiumXlsx(bool)
              exportAltiumXlsx);
 }
 
-void window::commandAltiumSQLite(bool)
+void Kiv_mat_databaseWindow::commandAltiumSQLite(bool)
 {
     exportTo(userPrompts().saveFile(tr("Save to File"),
                                     proposedExportPath(m_rows->database().filePath,
@@ -158,7 +157,7 @@ void window::commandAltiumSQLite(bool)
              exportAltiumSqlite);
 }
 
-void window::commandGroups(bool)
+void Kiv_mat_databaseWindow::commandGroups(bool)
 {
     exportTo(userPrompts().saveFile(tr("Save to File"),
                                     QFileInfo(m_rows->database().filePath).absolutePath()
@@ -170,7 +169,7 @@ void window::commandGroups(bool)
 // --- Checks
 // ---------------------------------------------------------------------------------------
 
-void window::commandFindDuplicate(bool)
+void Kiv_mat_databaseWindow::commandFindDuplicate(bool)
 {
     const QStringList ktms = duplicateLines(duplicateKtms(m_rows->database()));
     const QStringList parts = duplicateLines(duplicatePartNumbers(m_rows->database()));
@@ -180,7 +179,7 @@ void window::commandFindDuplicate(bool)
         userPrompts().showInformation(allKtmsAreUnique().toHtmlEscaped());
 }
 
-void window::commandFindEmpty(bool)
+void Kiv_mat_databaseWindow::commandFindEmpty(bool)
 {
     QStringList lines;
     for (const incompleteMaterial &found : incompleteMaterials(m_rows->database()))
@@ -192,12 +191,12 @@ void window::commandFindEmpty(bool)
         userPrompts().showInformation(tr("No material has empty fields"));
 }
 
-void window::commandInformation(bool)
+void Kiv_mat_databaseWindow::commandInformation(bool)
 {
     userPrompts().showInformation(informationText(m_rows->database()));
 }
 
-void window::commandCheck_urls(bool)
+void Kiv_mat_databaseWindow::commandCheck_urls(bool)
 {
     linkCheckResult checked;
     {
@@ -219,7 +218,7 @@ void window::commandCheck_urls(bool)
 // --- Taking over
 // ----------------------------------------------------------------------------------
 
-void window::applyTexts(std::vector<materialChange> changes, const QString &what)
+void Kiv_mat_databaseWindow::applyTexts(std::vector<materialChange> changes, const QString &what)
 {
     if (changes.empty()) {
         statusBar()->showMessage(tr("Nothing differs"));
@@ -245,7 +244,7 @@ void window::applyTexts(std::vector<materialChange> changes, const QString &what
         push(std::make_unique<changeTexts>(m_rows.get(), std::move(wanted)), what);
 }
 
-void window::commandParse(bool)
+void Kiv_mat_databaseWindow::commandParse(bool)
 {
     const QString path = userPrompts().openFile(
         tr("Open File"), paths::programDir(), tr("Xml/Txt File") + QLatin1String(" (*.txt *.xml)"));
@@ -269,7 +268,7 @@ void window::commandParse(bool)
         applyTexts(std::move(result.changes), tr("Parse"));
 }
 
-void window::commandLoadCPVForGroups(bool)
+void Kiv_mat_databaseWindow::commandLoadCPVForGroups(bool)
 {
     const QString path =
         userPrompts().openFile(tr("Open File"), paths::programDir(), QStringLiteral("(*.txt)"));
@@ -290,14 +289,14 @@ void window::commandLoadCPVForGroups(bool)
         push(std::make_unique<appendCommands>(std::move(members)), tr("Load CPV for groups"));
 }
 
-void window::commandMoveCPVFromGroupToMaterials(bool)
+void Kiv_mat_databaseWindow::commandMoveCPVFromGroupToMaterials(bool)
 {
     auto result = moveCpvToMaterials(m_rows->database());
     list({}, result.problems);
     applyTexts(std::move(result.changes), tr("Move CPV from group to materials"));
 }
 
-void window::commandCPVIndex(bool)
+void Kiv_mat_databaseWindow::commandCPVIndex(bool)
 {
     const QUrl file = cpvIndexFile();
     if (file.isEmpty())
@@ -306,10 +305,10 @@ void window::commandCPVIndex(bool)
         QDesktopServices::openUrl(file);
 }
 
-void window::commandCPVIndexWWW(bool) { QDesktopServices::openUrl(cpvIndexPage()); }
+void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { QDesktopServices::openUrl(cpvIndexPage()); }
 
-void window::takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
-                      const QString &what)
+void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
+                                      bool deleteAbsent, const QString &what)
 {
     const changeBatch batch;
     std::vector<std::unique_ptr<command>> members;
@@ -346,14 +345,14 @@ void window::takeOver(const std::vector<materialDifference> &selected, bool dele
         push(std::make_unique<appendCommands>(std::move(members)), what);
 }
 
-void window::commandMerge(bool)
+void Kiv_mat_databaseWindow::commandMerge(bool)
 {
     m_merge = std::make_unique<Kiv_mat_databaseMergeWindow>(this);
     m_merge->show();
     m_merge->commandOpen(false);
 }
 
-void window::commandUpdate(bool)
+void Kiv_mat_databaseWindow::commandUpdate(bool)
 {
     const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(), xmlFilter());
     if (path.isEmpty())
