@@ -1,6 +1,8 @@
 // Pictures of the program's windows on its sample data, taken without a display:
 //   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
+#include "data/programData.h"
+#include "database/materialWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/linesDialog.h"
@@ -113,6 +115,18 @@ QWidget *showAddMaterial(MainWindow &window)
     return dialog;
 }
 
+// One with several manufacturers and suppliers, and with files.
+QWidget *showMaterial(MainWindow &window)
+{
+    auto *editor = new materialWindow(&window);
+    programData &known = programData::instance();
+    known.config().options.findOption(QStringLiteral("SERVER_NAME"))->value1 =
+        QStringLiteral("files.example.com");
+    editor->openExisting(nullptr,
+                         *known.database(programData::warehouse).groups.front()->items.front());
+    return editor;
+}
+
 QWidget *showLines(MainWindow &window)
 {
     auto *dialog =
@@ -138,6 +152,7 @@ const picture pictures[] = {
     {"addMaterial", showAddMaterial},
     {"config", showConfig},
     {"lines", showLines},
+    {"material", showMaterial},
     {"richText", showRichText},
     {"mainBeside", showBeside},
     {"mainEmpty", showEmpty},
