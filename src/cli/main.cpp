@@ -10,9 +10,10 @@ namespace {
 const QList<const cli::subcommand *> &commands()
 {
     static const QList<const cli::subcommand *> table{
-        &cli::validateCommand, &cli::reportCommand, &cli::findCommand,
-        &cli::infoCommand,     &cli::resaveCommand, &cli::helpersCommand,
-        &cli::downloadCommand, &cli::packCommand,   &cli::unpackCommand};
+        &cli::validateCommand,       &cli::reportCommand,   &cli::findCommand,
+        &cli::checkMaterialsCommand, &cli::infoCommand,     &cli::resaveCommand,
+        &cli::helpersCommand,        &cli::downloadCommand, &cli::packCommand,
+        &cli::unpackCommand};
     return table;
 }
 
