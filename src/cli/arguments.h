@@ -90,6 +90,7 @@ extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
 extern const subcommand reportCommand;
 extern const subcommand findCommand;
+extern const subcommand checkMaterialsCommand;
 extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;
 extern const subcommand packCommand;

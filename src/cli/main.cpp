@@ -15,7 +15,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::groupsCommand,    &cli::duplicatesCommand, &cli::emptyCommand,
         &cli::checkUrlsCommand, &cli::dbReportCommand,   &cli::parseListingCommand,
         &cli::mergeCommand,     &cli::loadCpvCommand,    &cli::moveCpvCommand,
-        &cli::checkNipCommand,  &cli::helpersCommand,    &cli::downloadCommand,
+        &cli::checkNipCommand,  &cli::checkMaterialsCommand,  &cli::helpersCommand,    &cli::downloadCommand,
         &cli::packCommand,      &cli::unpackCommand,
     };
     return table;

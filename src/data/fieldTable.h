@@ -76,6 +76,13 @@ bool equalFields(const Record &a, const Record &b, const fieldTable<Record> &fie
     return true;
 }
 
+template <class Record>
+void copyFields(Record &to, const Record &from, const fieldTable<Record> &fields)
+{
+    for (const auto &field : fields)
+        to.*field.member = from.*field.member;
+}
+
 // A new child at the end of the list, filled from the element the reader stands on.
 template <class Child>
 void readAppended(QXmlStreamReader *reader, std::vector<std::unique_ptr<Child>> &list)

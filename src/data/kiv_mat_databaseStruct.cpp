@@ -91,6 +91,19 @@ int materialStruct::writeShortXml(QXmlStreamWriter *writer) const
     return 0;
 }
 
+std::unique_ptr<materialStruct> materialStruct::copy() const
+{
+    auto result = std::make_unique<materialStruct>();
+    copyFields(*result, *this, fields());
+    result->d_designator = d_designator;
+    copyFields(result->information, information, informationsStruct::fields());
+    for (const auto &manufacturer : manufacturers.items)
+        result->manufacturers.append(manufacturer->copy());
+    for (const auto &supplier : suppliers.items)
+        result->suppliers.append(supplier->copy());
+    return result;
+}
+
 bool materialStruct::operator==(const materialStruct &other) const
 {
     return equalFields(*this, other, fields()) && information == other.information

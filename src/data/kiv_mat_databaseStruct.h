@@ -49,6 +49,9 @@ public:
     // The form of a BOM line: KTM, name, quantity and designator only.
     int writeShortXml(QXmlStreamWriter *writer) const;
 
+    // A material of its own with the same content.
+    std::unique_ptr<materialStruct> copy() const;
+
     // Equality of everything that a database file holds of the material.
     bool operator==(const materialStruct &other) const;
 };

@@ -18,8 +18,7 @@ const fieldTable<optionStruct> &optionStruct::fields()
 std::unique_ptr<optionStruct> optionStruct::copy() const
 {
     auto result = std::make_unique<optionStruct>();
-    for (const auto &field : fields())
-        (*result).*field.member = this->*field.member;
+    copyFields(*result, *this, fields());
     return result;
 }
 
@@ -117,6 +116,17 @@ int sourceRecord<Self>::writeXml(QXmlStreamWriter *writer) const
     const int result = files.writeXml(writer);
     if (result >= 0)
         writer->writeEndElement();
+    return result;
+}
+
+template <class Self>
+std::unique_ptr<Self> sourceRecord<Self>::copy() const
+{
+    auto result = std::make_unique<Self>();
+    copyFields(*result, static_cast<const Self &>(*this), fields());
+    for (const auto &file : files.items)
+        copyFields(*result->files.append(std::make_unique<fileStruct>()), *file,
+                   fileStruct::fields());
     return result;
 }
 

@@ -139,6 +139,8 @@ public:
     }
     int readXml(QXmlStreamReader *reader) override;
     int writeXml(QXmlStreamWriter *writer) const override;
+    // One with the same texts and files.
+    std::unique_ptr<Self> copy() const;
     friend bool operator==(const Self &a, const Self &b)
     {
         return equalFields(a, b, fields()) && a.files == b.files;

@@ -1,6 +1,7 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
 #include "database/Kiv_mat_databaseMergeWindow.h"
+#include "database/materialWindow.h"
 
 #include "commands/cellBlock.h"
 #include "data/XmlValidator.h"
@@ -793,8 +794,34 @@ void Kiv_mat_databaseWindow::commandToOrderN(bool)
 // --- The material editor
 // --------------------------------------------------------------------------
 
-void Kiv_mat_databaseWindow::commandAddMaterial(bool) {}
-void Kiv_mat_databaseWindow::commandEditParameters(bool) {}
+materialWindow &Kiv_mat_databaseWindow::editor()
+{
+    if (!m_editor) {
+        m_editor = new materialWindow(this);
+        connect(m_editor, &materialWindow::addNew, this, &Kiv_mat_databaseWindow::commandAddNew);
+        connect(m_editor,
+                qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
+                &Kiv_mat_databaseWindow::commandEditExist);
+    }
+    return *m_editor;
+}
+
+void Kiv_mat_databaseWindow::commandAddMaterial(bool)
+{
+    if (QStandardItem *group = currentGroup())
+        editor().openNew(group, materialRows::groupOf(group)->cpv);
+}
+
+void Kiv_mat_databaseWindow::commandEditParameters(bool)
+{
+    QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    const materialStruct *material = materialRows::materialOf(item);
+    if (!material
+        || userPrompts().ask(tr("Do you want to edit material ?").toHtmlEscaped(), false)
+               != prompts::answer::yes)
+        return;
+    editor().openExisting(item, *material);
+}
 
 void Kiv_mat_databaseWindow::commandAddNew(QStandardItem *group, materialStruct *material)
 {

@@ -16,6 +16,7 @@ class Kiv_mat_databaseMergeWindow;
 class QLineEdit;
 class QTimer;
 class QTreeView;
+class materialWindow;
 class myTreeView;
 enum class databaseReportKind;
 
@@ -129,7 +130,7 @@ private:
     bool isShown(const materialStruct &material);
     std::vector<materialStruct *> selectedMaterials() const;
     QStandardItem *currentGroup() const;
-    void edit(QStandardItem *item, QStandardItem *group);
+    materialWindow &editor();
 
     // --- databaseTools.cpp ---
     void writeReport(databaseReportKind kind);
@@ -149,6 +150,7 @@ private:
     std::unique_ptr<databaseTree::rows> m_rows;
     std::vector<std::unique_ptr<materialStruct>> m_copied;
     std::unique_ptr<Kiv_mat_databaseMergeWindow> m_merge;
+    materialWindow *m_editor = nullptr;
     searchQuery m_query;
     QString m_statusFilter;
     bool m_editedFilter = false;

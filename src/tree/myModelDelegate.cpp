@@ -147,9 +147,12 @@ int chosenIndex(const QComboBox *box, myItemComboBox *item)
     if (!box->isEditable())
         return box->currentIndex();
     const QString typed = text::storable(box->currentText().trimmed());
-    for (int i = 0; i < item->entries().size(); ++i)
-        if (item->entries().at(i).shown == typed || item->entries().at(i).value == typed)
+    for (int i = 0; i < item->entries().size(); ++i) {
+        const comboEntry &entry = item->entries().at(i);
+        // An entry that shows its value has no other text, which an emptied box is not to choose.
+        if (entry.value == typed || (!entry.shown.isEmpty() && entry.shown == typed))
             return i;
+    }
     return item->indexOf(typed);
 }
 

@@ -132,6 +132,9 @@ void tst_cli::calls_data()
     row("find K -n x -d twice.xml", 2, "", "x is no number");
     row("find -d twice.xml", 2, "", "argument is missing");
     row("find K -d good.xml", 1, "", "is no material database");
+    row("check-materials twice.xml", 1, "K\t\tCPV empty\nK\t\tCPV empty\n", "");
+    row("check-materials good.xml", 1, "", "is no material database");
+    row("check-materials", 2, "", "argument is missing");
     row("report good.xml -o good.xml/out.pdf", 3, "", "cannot be written");
     row("helpers", 1, "_bin/zip.exe: found", "KIV_TEMPLATE_DOC.exe: not found");
     row("pack _validator out.zip", 1, "", "cannot be started");

@@ -1,6 +1,10 @@
 // Pictures of the program's windows on its sample data, taken without a display:
 //   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
+#include "data/programData.h"
+#include "database/materialWindow.h"
+#include "database/Kiv_mat_databaseMergeWindow.h"
+#include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/linesDialog.h"
@@ -12,6 +16,7 @@
 #include "shell/startupDialog.h"
 #include "shell/userState.h"
 #include "tree/richtexteditDialog.h"
+#include "tree/myTreeView.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -99,6 +104,25 @@ QWidget *showEmpty(MainWindow &window)
     return &window;
 }
 
+QWidget *showDatabase(MainWindow &window)
+{
+    Kiv_mat_databaseWindow &database = window.databaseWindow(programData::warehouse);
+    database.showNow();
+    database.findChild<QLineEdit *>(QStringLiteral("words"))->setText(QStringLiteral("stm32"));
+    return &database;
+}
+
+QWidget *showMerge(MainWindow &window)
+{
+    Kiv_mat_databaseWindow &database = window.databaseWindow(programData::warehouse);
+    database.commandEdit(true);
+    auto *merge = new Kiv_mat_databaseMergeWindow(&database);
+    merge->open(paths::data(QStringLiteral("_files/db_service.xml")));
+    merge->show();
+    merge->view()->expand(merge->model()->index(0, 0));
+    return merge;
+}
+
 QWidget *showConfig(MainWindow &window)
 {
     return shownBy(window, "configWindow", [&] { window.configCommand(true); });
@@ -111,6 +135,18 @@ QWidget *showAddMaterial(MainWindow &window)
     dialog->findChild<QLineEdit *>(QStringLiteral("words"))
         ->setText(QStringLiteral("rezystor 0603 stock:>100"));
     return dialog;
+}
+
+// One with several manufacturers and suppliers, and with files.
+QWidget *showMaterial(MainWindow &window)
+{
+    auto *editor = new materialWindow(&window);
+    programData &known = programData::instance();
+    known.config().options.findOption(QStringLiteral("SERVER_NAME"))->value1 =
+        QStringLiteral("files.example.com");
+    editor->openExisting(nullptr,
+                         *known.database(programData::warehouse).groups.front()->items.front());
+    return editor;
 }
 
 QWidget *showLines(MainWindow &window)
@@ -136,8 +172,11 @@ const picture pictures[] = {
     {"errors", showErrors},
     {"about", showAbout},
     {"addMaterial", showAddMaterial},
+    {"database", showDatabase},
+    {"merge", showMerge},
     {"config", showConfig},
     {"lines", showLines},
+    {"material", showMaterial},
     {"richText", showRichText},
     {"mainBeside", showBeside},
     {"mainEmpty", showEmpty},

@@ -1,0 +1,126 @@
+#include "database/materialFiles.h"
+
+#include "data/configStruct.h"
+#include "data/vocabulary.h"
+#include "util/text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace materialFiles {
+
+namespace {
+
+const QLatin1String serverFolder("/redfiles/");
+
+struct linkFolder
+{
+    const char *folder;
+    const char *fileKind;
+};
+// By linkKind.
+constexpr linkFolder linkFolders[] = {{"/redfiles/DATASHEET/", "FILE_DATASHEET"},
+                                      {"/redfiles/RoHS/", "FILE_MD"}};
+
+struct kindCaption
+{
+    QLatin1String fileKind;
+    const char *text;
+};
+constexpr kindCaption captions[] = {
+    {word("FILE_TR"), QT_TRANSLATE_NOOP("materialFiles", "Test report (TR)")},
+    {word("FILE_MD"), QT_TRANSLATE_NOOP("materialFiles", "Material declaration (MD)")},
+    {word("FILE_SD"), QT_TRANSLATE_NOOP("materialFiles", "Supplier's declaration (SD)")},
+    {word("FILE_REACH"), QT_TRANSLATE_NOOP("materialFiles", "REACH declaration")},
+    {word("FILE_DATASHEET"), QT_TRANSLATE_NOOP("materialFiles", "Datasheet")},
+    {word("FILE_CATALOG"), QT_TRANSLATE_NOOP("materialFiles", "Catalogue")},
+    {word("FILE_PDF"), QT_TRANSLATE_NOOP("materialFiles", "PDF file")},
+    {word("FILE_HTML"), QT_TRANSLATE_NOOP("materialFiles", "Web page")},
+    {word("FILE_XML"), QT_TRANSLATE_NOOP("materialFiles", "XML file")},
+    {word("FILE_XLS"), QT_TRANSLATE_NOOP("materialFiles", "Spreadsheet")},
+    {word("FILE_CSV"), QT_TRANSLATE_NOOP("materialFiles", "CSV file")},
+};
+
+QString tr(const char *text) { return QCoreApplication::translate("materialFiles", text); }
+
+QUrl addressOf(const fileServer &server)
+{
+    QUrl address = QUrl::fromUserInput(server.name);
+    address.setScheme(QStringLiteral("http"));
+    return address;
+}
+
+QString lineOf(const QString &text, const QString &file, const QString &target)
+{
+    return text + QLatin1String(" <b>") + file.toHtmlEscaped() + QLatin1String("</b>&nbsp;[")
+           + target.toHtmlEscaped() + QLatin1Char(']');
+}
+
+} // namespace
+
+QString fileKindOf(linkKind kind) { return QLatin1String(linkFolders[kind].fileKind); }
+
+QString caption(const QString &fileKind)
+{
+    for (const kindCaption &one : captions)
+        if (one.fileKind == fileKind)
+            return tr(one.text);
+    return fileKind;
+}
+
+fileServer serverOf(const configStruct &config)
+{
+    const QUrl address = QUrl::fromUserInput(config.options.value(optionKey::serverName).trimmed());
+    return {address.host().isEmpty() ? QString() : address.authority(QUrl::FullyEncoded),
+            config.options.value(optionKey::serverUserName),
+            config.options.value(optionKey::serverUserPassword)};
+}
+
+QString hostOf(const fileServer &server) { return addressOf(server).host(); }
+
+QString proposedPath(const QString &localFile)
+{
+    const QFileInfo file(localFile);
+    const QString folder =
+        text::normalisePath(QDir::fromNativeSeparators(file.path()) + QLatin1Char('/'));
+    const QString mark = serverFolder.mid(1);
+    const int at = folder.indexOf(mark);
+    const QString below = at < 0 ? QString() : folder.mid(at + mark.size());
+    return text::normalisePath(below + QLatin1Char('/') + file.fileName());
+}
+
+QString linkTo(const fileServer &server, linkKind kind, const QString &path)
+{
+    const QString folder = QLatin1String(linkFolders[kind].folder);
+    const QString place = QDir::cleanPath(folder + QDir::fromNativeSeparators(path.trimmed()));
+    if (server.name.isEmpty() || !place.startsWith(folder))
+        return {};
+    QUrl link = addressOf(server);
+    link.setPath(place);
+    return link.toString(QUrl::FullyEncoded);
+}
+
+QString placeOnServer(const fileServer &server, const QString &link)
+{
+    const QUrl address(link.trimmed());
+    const QString place = QDir::cleanPath(address.path(QUrl::FullyDecoded));
+    const bool isThere = !server.name.isEmpty() && address.host() == hostOf(server)
+                         && address.scheme().startsWith(QLatin1String("http"))
+                         && place.startsWith(serverFolder);
+    return isThere ? place : QString();
+}
+
+QString sentLine(const QString &file, const QString &target, bool completed)
+{
+    return lineOf(tr("Send file"), file, target) + QLatin1String("&nbsp;")
+           + (completed ? tr("completed") : tr("error")) + QLatin1String("<br>");
+}
+
+QString notSentLine(const QString &file, const QString &target)
+{
+    return lineOf(tr("Sending error"), file, target) + QLatin1String("<br>");
+}
+
+} // namespace materialFiles

@@ -1,0 +1,53 @@
+// The file server that keeps the datasheets and declarations of materials: the links to its files,
+// their places on the server, and what is told of sending one there.
+#pragma once
+
+#include <QString>
+
+class configStruct;
+
+namespace materialFiles {
+
+enum linkKind
+{
+    datasheet,
+    declaration
+};
+
+// The kind of attached file that such a link is.
+QString fileKindOf(linkKind kind);
+
+// What a user sees for the kind of an attached file ("FILE_DATASHEET"); an unknown one unchanged.
+QString caption(const QString &fileKind);
+
+struct fileServer
+{
+    QString name;    // with a port where the web server has one
+    QString account; // of secure copy
+    QString password;
+};
+
+// As the configuration names it; a name may be written as a web address.
+fileServer serverOf(const configStruct &config);
+
+// Its name without a port.
+QString hostOf(const fileServer &server);
+
+// Where a local file is proposed to stand on the server: what its folder says behind "redfiles/",
+// and its name.
+QString proposedPath(const QString &localFile);
+
+// The link to a path below the folder of that kind. Empty when the server has no name, or when the
+// path is empty or leads out of that folder.
+QString linkTo(const fileServer &server, linkKind kind, const QString &path);
+
+// The file's place on the server; empty when the link leads elsewhere.
+QString placeOnServer(const fileServer &server, const QString &link);
+
+// The line of the log about a file that was sent to a target, or was not.
+QString sentLine(const QString &file, const QString &target, bool completed);
+
+// The line about one whose sending could not begin.
+QString notSentLine(const QString &file, const QString &target);
+
+} // namespace materialFiles

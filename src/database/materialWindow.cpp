@@ -1,0 +1,493 @@
+#include "database/materialWindow.h"
+
+#include "commands/editCommands.h"
+#include "data/programData.h"
+#include "database/materialChecks.h"
+#include "tools/KivScp.h"
+#include "tree/myTreeView.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+#include "util/text.h"
+#include "window/workProgress.h"
+
+#include <QAbstractItemDelegate>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+#include <QThread>
+#include <QUrl>
+
+using myItem::myItemStandard;
+
+namespace {
+
+const windowAction<materialWindow> actionTable[] = {
+    {{"set", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Set"),
+      "action_set", "Ctrl+S",
+      QT_TRANSLATE_NOOP("actions", "Check the material and give it to its database"), true},
+     &materialWindow::commandSet},
+    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
+     &materialWindow::commandClose},
+    {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
+      "action_undo", "Ctrl+Z", nullptr, true},
+     &materialWindow::commandUndo},
+    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
+     &materialWindow::commandRedo},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {{"addManufacturer", QT_TRANSLATE_NOOP("actions", "Commands"),
+      QT_TRANSLATE_NOOP("actions", "Add manufacturer"), "zp_add_manufacturer_grey_128", "Ctrl+M",
+      nullptr, true},
+     &materialWindow::commandAddManufacture},
+    {{"addSuppler", "Commands", QT_TRANSLATE_NOOP("actions", "Add suppler"),
+      "zp_add_supplier_grey_128", "Ctrl+L", nullptr, true},
+     &materialWindow::commandAddSuppler},
+    {{"addFile", "Commands", QT_TRANSLATE_NOOP("actions", "Add file"), "action_add_row", "Ins",
+      QT_TRANSLATE_NOOP("actions", "Add a file or link to the manufacturer or supplier"), true},
+     &materialWindow::commandAddFile},
+    {{"deleteRows", "Edit", QT_TRANSLATE_NOOP("actions", "Delete rows"), "action_delete", "Del",
+      QT_TRANSLATE_NOOP("actions", "Delete the selected manufacturers, suppliers and files"), true},
+     &materialWindow::commandDeleteRows},
+    {{"deleteFile", "Edit", QT_TRANSLATE_NOOP("actions", "Delete file"), "action_clear", nullptr,
+      nullptr},
+     &materialWindow::commandDeleteFile},
+    {{"deleteFiles", "Edit", QT_TRANSLATE_NOOP("actions", "Delete files"), "action_empty", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Delete all files of the manufacturer or supplier")},
+     &materialWindow::commandDeleteFiles},
+    {{nullptr, "Commands", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {{"datasheets", "Commands", QT_TRANSLATE_NOOP("actions", "Datasheets"), "action_report",
+      "Ctrl+D", QT_TRANSLATE_NOOP("actions", "Add the link to a datasheet on the file server"),
+      true},
+     &materialWindow::commandDatasheets},
+    {{"declarations", "Commands", QT_TRANSLATE_NOOP("actions", "Declarations"), "action_rohs",
+      "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Add the link to a RoHS declaration on the file server"), true},
+     &materialWindow::commandDeclarations},
+    {{"copyFileToServer", "Commands", QT_TRANSLATE_NOOP("actions", "CopyFileToServer"),
+      "action_send", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Copy the file of the current link to the file server"), true},
+     &materialWindow::commandCopyFileToServer},
+    {{"open", "Commands", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", "Ctrl+O",
+      QT_TRANSLATE_NOOP("actions", "Open the current file or link"), true},
+     &materialWindow::commandOpen},
+};
+
+// What the context menu of the tree offers, in its order.
+constexpr const char *menuActions[] = {"addManufacturer", "addSuppler",  "addFile",
+                                       "deleteFile",      "deleteFiles", "open"};
+
+QStandardItem *firstOf(const QStandardItemModel *model, const QModelIndex &index)
+{
+    return model->itemFromIndex(index.sibling(index.row(), 0));
+}
+
+// A link that the desktop may be given: what else a file may hold could start a program.
+QUrl openable(const QString &link)
+{
+    const QUrl url(link.trimmed());
+    const QString scheme = url.scheme().toLower();
+    const bool isWeb = scheme == QLatin1String("http") || scheme == QLatin1String("https")
+                       || scheme == QLatin1String("ftp");
+    return isWeb && !url.host().isEmpty() ? url : QUrl();
+}
+
+QString logLine(const QString &text) { return text::toHtml(text) + QLatin1String("<br>"); }
+
+} // namespace
+
+materialWindow::materialWindow(QWidget *parent)
+    : baseWindow(QStringLiteral("materialWindow"), parent)
+    , m_model(new myModel(this))
+    , m_view(new myTreeView(this))
+    , m_menu(new QMenu(this))
+    , m_counts(new QLabel(this))
+{
+    setWindowModality(Qt::WindowModal);
+    addActions(actionTable);
+    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
+    m_model->setStack(m_stack.get());
+    m_view->setObjectName(QStringLiteral("material"));
+    m_view->setAccessibleName(tr("Fields, manufacturers, suppliers and files of the material"));
+    m_view->setModel(m_model);
+    m_view->setSortingEnabled(false);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->header()->setObjectName(QStringLiteral("materialHeader"));
+    setCentralWidget(m_view);
+    m_menu->setObjectName(QStringLiteral("contextMenu"));
+    for (const char *name : menuActions)
+        m_menu->QWidget::addAction(action(name));
+    m_counts->setObjectName(QStringLiteral("counts"));
+    statusBar()->addPermanentWidget(m_counts);
+
+    connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
+            &materialWindow::itemTreeClicked);
+    // The menu key, which no click comes before.
+    connect(m_view, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
+        if (!m_menu->isVisible())
+            itemTreeClicked(position, Qt::RightButton, m_view->currentIndex());
+    });
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &materialWindow::updateActions);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &materialWindow::updateActions);
+    connect(m_model, &myModel::changeValueOccured, this, &materialWindow::updateActions);
+    constexpr QSize usualSize(900, 780);
+    resize(usualSize);
+    updateActions();
+}
+
+materialWindow::~materialWindow()
+{
+    // Rows held by commands go before the records that rows in the tree look at.
+    m_stack->clear();
+}
+
+bool materialWindow::openNew(QStandardItem *group, const QString &cpv)
+{
+    auto material = materialChecks::newMaterial();
+    material->d_cpv = cpv;
+    return open({group, newRow}, std::move(material));
+}
+
+bool materialWindow::openExisting(QStandardItem *group, int row, const materialStruct &material)
+{
+    return open({group, row}, material.copy());
+}
+
+bool materialWindow::openExisting(QStandardItem *item, const materialStruct &material)
+{
+    return open({item, ownRow}, material.copy());
+}
+
+bool materialWindow::open(const origin &from, std::unique_ptr<materialStruct> material)
+{
+    if (isVisible() && !mayLeave())
+        return false;
+    m_stack->clear();
+    m_sources.clear();
+    m_origin = from;
+    // Its records are looked at until the tree shows the new ones.
+    const auto before = std::exchange(m_edited, std::move(material));
+    programData &known = programData::instance();
+    m_rows.show(m_model, *m_edited, known.config(), known.firm());
+    m_view->setFont(known.config().font());
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        m_view->setFirstColumnSpanned(row, {}, true);
+    m_view->expandAll();
+    constexpr int nameWidth = 260;
+    constexpr int valueWidth = 380;
+    m_view->header()->resizeSection(materialTree::nameColumn, nameWidth);
+    m_view->header()->resizeSection(materialTree::valueColumn, valueWidth);
+    m_view->header()->setStretchLastSection(true);
+    setWindowTitle(from.row == newRow
+                       ? tr("New material")
+                       : tr("Edit parameters") + QStringLiteral(" [%1]").arg(m_edited->d_ktm));
+    statusBar()->clearMessage();
+    show();
+    raise();
+    activateWindow();
+    goTo(m_rows.valueOf(QStringLiteral("d_ktm")));
+    return true;
+}
+
+void materialWindow::goTo(const QStandardItem *item)
+{
+    if (!item)
+        return;
+    m_view->setCurrentIndex(item->index());
+    m_view->scrollTo(item->index());
+    m_view->setFocus();
+}
+
+QStandardItem *materialWindow::currentRow() const
+{
+    return m_view->currentIndex().isValid() ? firstOf(m_model, m_view->currentIndex()) : nullptr;
+}
+
+QStandardItem *materialWindow::currentFirm() const { return materialTree::firmOf(currentRow()); }
+
+QString materialWindow::currentLink() const
+{
+    QStandardItem *row = currentRow();
+    return materialTree::kindOf(row) == materialTree::file
+               ? row->parent()->child(row->row(), materialTree::valueColumn)->text()
+               : QString();
+}
+
+void materialWindow::updateActions()
+{
+    const materialFiles::fileServer server =
+        materialFiles::serverOf(programData::instance().config());
+    const QStandardItem *firm = currentFirm();
+    const QString noFirm = tr("no manufacturer or supplier is selected");
+    const QString noFile = tr("no file is selected");
+    setAvailable("addFile", firm, noFirm);
+    setAvailable("deleteRows", firm, noFirm);
+    setAvailable("deleteFile", materialTree::kindOf(currentRow()) == materialTree::file, noFile);
+    setAvailable("deleteFiles", firm && firm->hasChildren(), firm ? tr("it has no files") : noFirm);
+    setAvailable("open", openable(currentLink()).isValid(), tr("no link is selected"));
+    for (const char *name : {"datasheets", "declarations"})
+        setAvailable(name, firm && !server.name.isEmpty(),
+                     firm ? tr("the configuration names no file server") : noFirm);
+    const bool hasAccount = !server.account.isEmpty() && !server.password.isEmpty();
+    setAvailable("copyFileToServer",
+                 hasAccount && !materialFiles::placeOnServer(server, currentLink()).isEmpty(),
+                 hasAccount ? tr("no link to the file server is selected")
+                            : tr("the configuration has no account on the file server"));
+    const int manufacturers = int(m_edited->manufacturers.items.size());
+    const int suppliers = int(m_edited->suppliers.items.size());
+    m_counts->setText(tr("%n manufacturer(s)", nullptr, manufacturers) + QLatin1String(", ")
+                      + tr("%n supplier(s)", nullptr, suppliers)
+                      + (isChanged() ? QLatin1String(", ") + tr("changed") : QString()));
+}
+
+// A value that is just being typed counts, too.
+void materialWindow::finishEditing()
+{
+    QWidget *editor = QApplication::focusWidget();
+    while (editor && editor->parentWidget() != m_view->viewport())
+        editor = editor->parentWidget();
+    if (!editor)
+        return;
+    QAbstractItemDelegate *delegate = m_view->itemDelegate();
+    emit delegate->commitData(editor);
+    emit delegate->closeEditor(editor);
+}
+
+void materialWindow::commandSet(bool)
+{
+    finishEditing();
+    auto material = m_edited->copy();
+    materialChecks::tidy(material.get());
+    if (const auto fault = materialChecks::firstFault(*material)) {
+        userPrompts().showError(fault->text.toHtmlEscaped());
+        const QStandardItem *field = m_rows.valueOf(fault->field);
+        goTo(field ? field : m_rows.section(materialTree::manufacturer));
+        return;
+    }
+    m_stack->clear();
+    hide();
+    switch (m_origin.row) {
+    case newRow:
+        emit addNew(m_origin.item, material.release());
+        break;
+    case ownRow:
+        emit editExist(m_origin.item, material.release());
+        break;
+    default:
+        emit editExist(m_origin.item, m_origin.row, material.release());
+    }
+}
+
+void materialWindow::commandClose(bool) { close(); }
+
+// Whether nothing of the material shown is lost, or the user lets it go.
+bool materialWindow::mayLeave()
+{
+    finishEditing();
+    if (!isChanged())
+        return true;
+    const prompts::answer answer = userPrompts().ask(tr("Set the changed material?"), true);
+    if (answer == prompts::answer::yes)
+        commandSet(false);
+    return answer == prompts::answer::no || (answer == prompts::answer::yes && !isChanged());
+}
+
+void materialWindow::closeEvent(QCloseEvent *event)
+{
+    if (isVisible() && !mayLeave()) {
+        event->ignore();
+        return;
+    }
+    m_stack->clear();
+    baseWindow::closeEvent(event);
+}
+
+void materialWindow::commandUndo(bool)
+{
+    const QString what = m_stack->undo();
+    updateActions();
+    statusBar()->showMessage(tr("Undone: %1").arg(what));
+}
+
+void materialWindow::commandRedo(bool)
+{
+    const QString what = m_stack->redo();
+    updateActions();
+    statusBar()->showMessage(tr("Done again: %1").arg(what));
+}
+
+void materialWindow::addRow(QStandardItem *parent, const myItem::row &items, const QString &what,
+                            int column)
+{
+    m_stack->push(std::make_unique<appendItems>(parent, items), what);
+    m_view->expand(parent->index());
+    const QModelIndex cell = items.at(column)->index();
+    goTo(items.at(column));
+    updateActions();
+    if (items.at(column)->text().isEmpty())
+        m_view->edit(cell);
+}
+
+void materialWindow::commandAddManufacture(bool)
+{
+    addRow(m_rows.section(materialTree::manufacturer), m_rows.newFirm(materialTree::manufacturer),
+           tr("Add manufacturer"), materialTree::nameColumn);
+}
+
+void materialWindow::commandAddSuppler(bool)
+{
+    addRow(m_rows.section(materialTree::supplier), m_rows.newFirm(materialTree::supplier),
+           tr("Add suppler"), materialTree::nameColumn);
+}
+
+void materialWindow::commandAddFile(bool)
+{
+    if (QStandardItem *firm = currentFirm())
+        addRow(firm, m_rows.newFile(materialFiles::fileKindOf(materialFiles::datasheet), {}),
+               tr("Add file"), materialTree::valueColumn);
+}
+
+void materialWindow::deleteRows(const QList<QStandardItem *> &firstCells, const QString &what)
+{
+    std::vector<std::unique_ptr<command>> members;
+    for (QStandardItem *first : firstCells)
+        members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
+    if (!members.empty())
+        m_stack->push(std::make_unique<appendCommands>(std::move(members)), what);
+    updateActions();
+}
+
+void materialWindow::commandDeleteFile(bool)
+{
+    if (materialTree::kindOf(currentRow()) == materialTree::file)
+        deleteRows({currentRow()}, tr("Delete file"));
+}
+
+void materialWindow::commandDeleteFiles(bool)
+{
+    QList<QStandardItem *> files;
+    if (const QStandardItem *firm = currentFirm())
+        for (int row = 0; row < firm->rowCount(); ++row)
+            files.append(firm->child(row));
+    deleteRows(files, tr("Delete files"));
+}
+
+// A file goes with its firm when that is deleted too.
+void materialWindow::commandDeleteRows(bool)
+{
+    QList<QStandardItem *> rows;
+    for (const QModelIndex &cell : m_view->selectedCells()) {
+        QStandardItem *first = firstOf(m_model, cell);
+        if (materialTree::firmOf(first) && !rows.contains(first)
+            && !rows.contains(materialTree::firmOf(first)))
+            rows.append(first);
+    }
+    deleteRows(rows, tr("Delete rows"));
+}
+
+void materialWindow::commandOpen(bool)
+{
+    const QUrl url = openable(currentLink());
+    if (url.isValid() && !QDesktopServices::openUrl(url))
+        userPrompts().showError(tr("%1 cannot be opened").arg(currentLink().toHtmlEscaped()));
+}
+
+void materialWindow::itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index)
+{
+    if (!(buttons & Qt::RightButton) || !index.isValid())
+        return;
+    updateActions();
+    m_menu->popup(m_view->viewport()->mapToGlobal(position));
+}
+
+QString materialWindow::chooseFile()
+{
+    const QString path = userPrompts().openFile(tr("Open File"), QDir::homePath(),
+                                                tr("All files") + QLatin1String(" (*)"));
+    if (path.isEmpty() || QFileInfo(path).isFile())
+        return path;
+    userPrompts().showError(
+        messages::failed(messages::fileCorrupted(), path, messages::notExists()));
+    return {};
+}
+
+void materialWindow::addServerFile(materialFiles::linkKind kind)
+{
+    QStandardItem *firm = currentFirm();
+    const QString source = firm ? chooseFile() : QString();
+    if (source.isEmpty())
+        return;
+    const auto path = userPrompts().inputText(tr("Please set path where write file"), tr("Path"),
+                                              materialFiles::proposedPath(source));
+    if (!path || path->trimmed().isEmpty())
+        return;
+    const QString link = materialFiles::linkTo(
+        materialFiles::serverOf(programData::instance().config()), kind, *path);
+    if (link.isEmpty()) {
+        userPrompts().showError(
+            tr("%1 is no path below the folder of the file server").arg(path->toHtmlEscaped()));
+        return;
+    }
+    m_sources.insert(link, source);
+    addRow(firm, m_rows.newFile(materialFiles::fileKindOf(kind), link), tr("Add file"),
+           materialTree::valueColumn);
+}
+
+void materialWindow::commandDatasheets(bool) { addServerFile(materialFiles::datasheet); }
+
+void materialWindow::commandDeclarations(bool) { addServerFile(materialFiles::declaration); }
+
+int materialWindow::send(const QString &source, const QString &target)
+{
+    const materialFiles::fileServer server =
+        materialFiles::serverOf(programData::instance().config());
+    KivScp::scp runner;
+    connect(&runner, &KivScp::scp::updateLog, this,
+            [](const QString &text) { userPrompts().log(logLine(text)); });
+    constexpr int timeoutMs = 10 * 60 * 1000;
+    constexpr int pauseMs = 10;
+    workProgress::scope work(progress(), tr("Send file"));
+    const progressFunction goesOn = work.function();
+    runner.start(
+        {server.account, server.password, materialFiles::hostOf(server), source, target, {}},
+        timeoutMs);
+    while (!runner.isDone()) {
+        // How far the helper is nobody tells.
+        if (!goesOn(0, 0))
+            runner.stop();
+        QCoreApplication::processEvents(QEventLoop::AllEvents, pauseMs);
+        QThread::msleep(pauseMs);
+    }
+    return runner.result();
+}
+
+void materialWindow::commandCopyFileToServer(bool)
+{
+    const materialFiles::fileServer server =
+        materialFiles::serverOf(programData::instance().config());
+    const QString link = currentLink();
+    const QString target = materialFiles::placeOnServer(server, link);
+    QString source = target.isEmpty() ? QString() : m_sources.value(link);
+    if (!target.isEmpty() && !QFileInfo(source).isFile())
+        source = chooseFile();
+    if (source.isEmpty())
+        return;
+    m_sources.insert(link, source);
+    const int result = send(source, target);
+    const QString shown = materialFiles::hostOf(server) + QLatin1Char(':') + target;
+    if (result == 0) {
+        userPrompts().log(materialFiles::sentLine(source, shown, true));
+        statusBar()->showMessage(tr("%1 is on the file server").arg(QFileInfo(source).fileName()));
+        return;
+    }
+    userPrompts().listError(result == childRunner::notStarted
+                                ? materialFiles::notSentLine(source, shown)
+                                : materialFiles::sentLine(source, shown, false));
+    userPrompts().showErrors();
+}

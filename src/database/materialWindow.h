@@ -1,0 +1,97 @@
+// The editor of one material: its fields, manufacturers, suppliers and their files, with undo. It
+// works on a copy, which goes to the material's database only after six checks.
+#pragma once
+
+#include "commands/commandStack.h"
+#include "database/materialFiles.h"
+#include "database/materialTree.h"
+#include "window/baseWindow.h"
+
+class QLabel;
+class QMenu;
+class myTreeView;
+
+class materialWindow : public baseWindow
+{
+    Q_OBJECT
+public:
+    // While it is shown its parent takes no input, so that the rows it was opened for stay.
+    explicit materialWindow(QWidget *parent = nullptr);
+    ~materialWindow() override;
+
+    // Each shows the window on a copy of a material, and says which signal gives it back: addNew()
+    // with the group's row; editExist() with the group's row and the number of the material's row
+    // in it; editExist() with the material's own row. The window only carries these rows. cpv is
+    // that of the group. False when the material shown before has changes that the user keeps.
+    bool openNew(QStandardItem *group, const QString &cpv = {});
+    bool openExisting(QStandardItem *group, int row, const materialStruct &material);
+    bool openExisting(QStandardItem *item, const materialStruct &material);
+
+    const materialStruct &edited() const { return *m_edited; }
+    const materialTree &rows() const { return m_rows; }
+    myModel *model() { return m_model; }
+    myTreeView *view() { return m_view; }
+
+public slots:
+    void commandSet(bool);
+    void commandClose(bool);
+    void commandUndo(bool);
+    void commandRedo(bool);
+    void commandAddManufacture(bool);
+    void commandAddSuppler(bool);
+    void commandAddFile(bool);
+    void commandDeleteFile(bool);
+    void commandDeleteFiles(bool);
+    void commandDeleteRows(bool);
+    void commandOpen(bool);
+    void commandDatasheets(bool);
+    void commandDeclarations(bool);
+    void commandCopyFileToServer(bool);
+    void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
+
+signals:
+    // A material that passed the checks. The receiver, of which each signal has one, owns it.
+    void addNew(QStandardItem *group, materialStruct *material);
+    void editExist(QStandardItem *group, int row, materialStruct *material);
+    void editExist(QStandardItem *item, materialStruct *material);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    struct origin
+    {
+        QStandardItem *item = nullptr; // the group's, or the material's own when row is ownRow
+        int row = 0;
+    };
+    enum : int
+    {
+        newRow = -1,
+        ownRow = -2
+    };
+
+    bool open(const origin &from, std::unique_ptr<materialStruct> material);
+    bool isChanged() const { return m_stack->undoCount() > 0; }
+    bool mayLeave();
+    void finishEditing();
+    void goTo(const QStandardItem *item);
+    void updateActions();
+    QStandardItem *currentRow() const;
+    QStandardItem *currentFirm() const;
+    QString currentLink() const;
+    void addRow(QStandardItem *parent, const myItem::row &items, const QString &what, int column);
+    void deleteRows(const QList<QStandardItem *> &firstCells, const QString &what);
+    QString chooseFile();
+    void addServerFile(materialFiles::linkKind kind);
+    int send(const QString &source, const QString &target);
+
+    std::unique_ptr<materialStruct> m_edited = std::make_unique<materialStruct>();
+    std::unique_ptr<commandStack> m_stack;
+    origin m_origin;
+    materialTree m_rows;
+    myModel *m_model;
+    myTreeView *m_view;
+    QMenu *m_menu;
+    QLabel *m_counts;
+    QHash<QString, QString> m_sources; // by link: the local file it was made from
+};
