@@ -94,6 +94,49 @@ prompts::answer recordingPrompts::ask(const QString &html, bool)
     return nextAnswer;
 }
 
+namespace {
+
+template <class Value>
+std::optional<Value> valueIn(const QVariant &input)
+{
+    return input.isValid() ? std::optional(input.value<Value>()) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<int> recordingPrompts::decide(const QString &html, const QStringList &)
+{
+    questions.append(text::htmlToPlain(html));
+    return valueIn<int>(input);
+}
+
+std::optional<QString> recordingPrompts::inputText(const QString &title, const QString &,
+                                                   const QString &)
+{
+    questions.append(title);
+    return valueIn<QString>(input);
+}
+
+std::optional<int> recordingPrompts::inputNumber(const QString &title, const QString &, int, int,
+                                                 int)
+{
+    questions.append(title);
+    return valueIn<int>(input);
+}
+
+std::optional<QDate> recordingPrompts::inputDate(const QString &title, const QDate &)
+{
+    questions.append(title);
+    return valueIn<QDate>(input);
+}
+
+std::optional<int> recordingPrompts::choose(const QString &title, const QString &,
+                                            const QStringList &, int)
+{
+    questions.append(title);
+    return valueIn<int>(input);
+}
+
 QString recordingPrompts::saveFile(const QString &, const QString &name, const QString &)
 {
     proposed = name;

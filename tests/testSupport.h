@@ -59,6 +59,12 @@ public:
     QString proposed;
 
     // What the user answers.
+    std::optional<int> decide(const QString &html, const QStringList &) override;
+    std::optional<QString> inputText(const QString &, const QString &, const QString &) override;
+    std::optional<int> inputNumber(const QString &, const QString &, int, int, int) override;
+    std::optional<QDate> inputDate(const QString &, const QDate &) override;
+    std::optional<int> choose(const QString &, const QString &, const QStringList &, int) override;
+    QVariant input; // invalid: cancelled
     answer nextAnswer = answer::no;
     QString file;
 

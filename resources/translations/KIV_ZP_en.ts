@@ -2,12 +2,102 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%n selected line(s), %1 PLN</source>
+        <translation>
+            <numerusform>%n selected line, %1 PLN</numerusform>
+            <numerusform>%n selected lines, %1 PLN</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s), %1 PLN</source>
+        <translation>
+            <numerusform>%n line, %1 PLN</numerusform>
+            <numerusform>%n lines, %1 PLN</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n database(s) archived</source>
+        <translation>
+            <numerusform>%n database archived</numerusform>
+            <numerusform>%n databases archived</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>%n cell copied</numerusform>
+            <numerusform>%n cells copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>%n cell pasted</numerusform>
+            <numerusform>%n cells pasted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected line(s)</source>
+        <translation>
+            <numerusform>%n selected line</numerusform>
+            <numerusform>%n selected lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) copied</source>
+        <translation>
+            <numerusform>%n line copied</numerusform>
+            <numerusform>%n lines copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) copied to %1</source>
+        <translation>
+            <numerusform>%n line copied to %1</numerusform>
+            <numerusform>%n lines copied to %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) deleted</source>
+        <translation>
+            <numerusform>%n line deleted</numerusform>
+            <numerusform>%n lines deleted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added</source>
+        <translation>
+            <numerusform>%n line added</numerusform>
+            <numerusform>%n lines added</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>XmlValidator</name>
     <message numerus="yes">
         <source>and %n more</source>
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>addMaterialDialog</name>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added to the order</source>
+        <translation>
+            <numerusform>%n line added to the order</numerusform>
+            <numerusform>%n lines added to the order</numerusform>
         </translation>
     </message>
 </context>
@@ -90,6 +180,14 @@
     <message>
         <source>The settings cannot be written </source>
         <translation>The settings cannot be written </translation>
+    </message>
+    <message>
+        <source>No backup could be written </source>
+        <translation>No backup could be written </translation>
+    </message>
+    <message>
+        <source>File corrupted</source>
+        <translation>File corrupted </translation>
     </message>
 </context>
 <context>
@@ -241,6 +339,14 @@
     <message>
         <source>OPTION_SERVER_USER_PASSWORD</source>
         <translation>Server user password</translation>
+    </message>
+    <message>
+        <source>OPTION_BACKUP_COUNT</source>
+        <translation>OPTION_BACKUP_COUNT </translation>
+    </message>
+    <message>
+        <source>OPTION_LANGUAGE</source>
+        <translation>OPTION_LANGUAGE </translation>
     </message>
 </context>
 <context>

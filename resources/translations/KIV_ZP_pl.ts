@@ -9,14 +9,17 @@
     </message>
 </context>
 <context>
+    <name>KivScp::scp</name>
+    <message>
+        <source>Server, account, password or file is missing</source>
+        <translation>Brak serwera, konta, hasła lub pliku</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Order</source>
         <translation>Zamówienie</translation>
-    </message>
-    <message>
-        <source>No order is open</source>
-        <translation>Nie otwarto zamówienia</translation>
     </message>
     <message>
         <source>Save to File</source>
@@ -49,6 +52,306 @@
     <message>
         <source>A newer version is available </source>
         <translation>Dostępna jest nowsza wersja </translation>
+    </message>
+    <message>
+        <source>File Do</source>
+        <translation>Plik DO</translation>
+    </message>
+    <message>
+        <source>The order is open elsewhere, too </source>
+        <translation>Zamówienie jest otwarte także gdzie indziej </translation>
+    </message>
+    <message>
+        <source>New order</source>
+        <translation>Nowe zamówienie</translation>
+    </message>
+    <message>
+        <source>Changed since it was saved</source>
+        <translation>Zmienione od ostatniego zapisu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected line(s), %1 PLN</source>
+        <translation>
+            <numerusform>%n zaznaczona pozycja, %1 PLN</numerusform>
+            <numerusform>%n zaznaczone pozycje, %1 PLN</numerusform>
+            <numerusform>%n zaznaczonych pozycji, %1 PLN</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s), %1 PLN</source>
+        <translation>
+            <numerusform>%n pozycja, %1 PLN</numerusform>
+            <numerusform>%n pozycje, %1 PLN</numerusform>
+            <numerusform>%n pozycji, %1 PLN</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>the order has no lines</source>
+        <translation>zamówienie nie ma pozycji</translation>
+    </message>
+    <message>
+        <source>the order was not saved yet</source>
+        <translation>zamówienia jeszcze nie zapisano</translation>
+    </message>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>Save &amp; close order</source>
+        <translation>Zapisać i zamknąć zamówienie</translation>
+    </message>
+    <message>
+        <source>A new order was begun</source>
+        <translation>Rozpoczęto nowe zamówienie</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>The order %1 is open elsewhere, too: %2. Whoever saves last would replace what the other one saved.</source>
+        <translation>Zamówienie %1 jest otwarte także gdzie indziej: %2. Kto zapisze jako ostatni, zastąpi to, co zapisał drugi.</translation>
+    </message>
+    <message>
+        <source>a new order</source>
+        <translation>nowe zamówienie</translation>
+    </message>
+    <message>
+        <source>An order was left unsaved: %1, changed %2. Open it as it was then?</source>
+        <translation>Pozostało niezapisane zamówienie: %1, zmienione %2. Otworzyć je w tamtym stanie?</translation>
+    </message>
+    <message>
+        <source>The unsaved order was put aside </source>
+        <translation>Niezapisane zamówienie odłożono </translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened.</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
+    </message>
+    <message>
+        <source>Reload it and lose the changes here</source>
+        <translation>Wczytaj ponownie i porzuć zmiany</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Nadpisz</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Zapisz jako</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Zapisano jako %1</translation>
+    </message>
+    <message>
+        <source>Save order</source>
+        <translation>Zapisać zamówienie</translation>
+    </message>
+    <message>
+        <source>No copy of %1 could be made</source>
+        <translation>Nie można wykonać kopii %1</translation>
+    </message>
+    <message>
+        <source>Archive </source>
+        <translation>Archiwizacja </translation>
+    </message>
+    <message>
+        <source>Archived as %1</source>
+        <translation>Zarchiwizowano jako %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n database(s) archived</source>
+        <translation>
+            <numerusform>Zarchiwizowano %n bazę danych</numerusform>
+            <numerusform>Zarchiwizowano %n bazy danych</numerusform>
+            <numerusform>Zarchiwizowano %n baz danych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n komórkę</numerusform>
+            <numerusform>Skopiowano %n komórki</numerusform>
+            <numerusform>Skopiowano %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklejanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n komórkę</numerusform>
+            <numerusform>Wklejono %n komórki</numerusform>
+            <numerusform>Wklejono %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>These texts do not fit their cells:</source>
+        <translation>Te teksty nie pasują do swoich komórek:</translation>
+    </message>
+    <message>
+        <source>Change all lines, or the selected ones only?</source>
+        <translation>Zmienić wszystkie pozycje czy tylko zaznaczone?</translation>
+    </message>
+    <message>
+        <source>All lines</source>
+        <translation>Wszystkie pozycje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected line(s)</source>
+        <translation>
+            <numerusform>%n zaznaczona pozycja</numerusform>
+            <numerusform>%n zaznaczone pozycje</numerusform>
+            <numerusform>%n zaznaczonych pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change target for all materials ?</source>
+        <translation>Zmienić zlecenie dla wszystkich materiałów ?</translation>
+    </message>
+    <message>
+        <source>Selected lines</source>
+        <translation>Zaznaczone pozycje</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Lines that could not be counted</source>
+        <translation>Pozycje, których nie można policzyć</translation>
+    </message>
+    <message>
+        <source>Clear Price</source>
+        <translation>Wyzeruj ceny</translation>
+    </message>
+    <message>
+        <source>Take prices and stock of the lines from the databases again?</source>
+        <translation>Pobrać ponownie ceny i stany pozycji z baz danych?</translation>
+    </message>
+    <message>
+        <source>Refresh prices and stock</source>
+        <translation>Odśwież ceny i stany</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n pozycję</numerusform>
+            <numerusform>Skopiowano %n pozycje</numerusform>
+            <numerusform>Skopiowano %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This order is open here. Choose another one.</source>
+        <translation>To zamówienie jest tu otwarte. Wybierz inne.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) copied to %1</source>
+        <translation>
+            <numerusform>Skopiowano %n pozycję do %1</numerusform>
+            <numerusform>Skopiowano %n pozycje do %1</numerusform>
+            <numerusform>Skopiowano %n pozycji do %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) deleted</source>
+        <translation>
+            <numerusform>Usunięto %n pozycję</numerusform>
+            <numerusform>Usunięto %n pozycje</numerusform>
+            <numerusform>Usunięto %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete all lines of the order?</source>
+        <translation>Usunąć wszystkie pozycje zamówienia?</translation>
+    </message>
+    <message>
+        <source>All lines deleted</source>
+        <translation>Usunięto wszystkie pozycje</translation>
+    </message>
+    <message>
+        <source>In Do can be only one entry SHIPMENT of KTM: </source>
+        <translation>W DO może być tylko jedna pozycja TRANSPORT o KTM: </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added</source>
+        <translation>
+            <numerusform>Dodano %n pozycję</numerusform>
+            <numerusform>Dodano %n pozycje</numerusform>
+            <numerusform>Dodano %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In Do can be only ten entries SHIPMENT</source>
+        <translation>W DO może być tylko dziesięć pozycji TRANSPORT</translation>
+    </message>
+    <message>
+        <source>SHIPMENT</source>
+        <translation>TRANSPORT</translation>
+    </message>
+    <message>
+        <source>Only one PCB order</source>
+        <translation>Tylko jedno zamówienie PCB</translation>
+    </message>
+    <message>
+        <source>PCB</source>
+        <translation>PCB</translation>
+    </message>
+    <message>
+        <source>No loaded database has the material %1</source>
+        <translation>Żadna wczytana baza nie zawiera materiału %1</translation>
+    </message>
+    <message>
+        <source>Editing is locked</source>
+        <translation>Edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>A double click opens the editor of formatted text</source>
+        <translation>Dwukrotne kliknięcie otwiera edytor tekstu sformatowanego</translation>
+    </message>
+    <message>
+        <source>Sort by %1</source>
+        <translation>Sortowanie według: %1</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Tekst w dowolnej kolumnie</translation>
+    </message>
+    <message>
+        <source>Found in line %1</source>
+        <translation>Znaleziono w pozycji %1</translation>
+    </message>
+    <message>
+        <source>No line holds %1</source>
+        <translation>Żadna pozycja nie zawiera %1</translation>
     </message>
 </context>
 <context>
@@ -88,6 +391,90 @@
 <context>
     <name>actions</name>
     <message>
+        <source>File</source>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Check the configuration, write it and use it</source>
+        <translation>Sprawdź konfigurację, zapisz ją i zastosuj</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Wartości domyślne</translation>
+    </message>
+    <message>
+        <source>Give every option its default value</source>
+        <translation>Nadaj wszystkim opcjom wartości domyślne</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edycja</translation>
+    </message>
+    <message>
+        <source>Allow changes of the configuration</source>
+        <translation>Zezwól na zmiany konfiguracji</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Add row</source>
+        <translation>Dodaj wiersz</translation>
+    </message>
+    <message>
+        <source>Add a person or a target</source>
+        <translation>Dodaj osobę lub zlecenie</translation>
+    </message>
+    <message>
+        <source>Delete rows</source>
+        <translation>Usuń wiersze</translation>
+    </message>
+    <message>
+        <source>Delete the selected persons or targets</source>
+        <translation>Usuń zaznaczone osoby lub zlecenia</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nowe</translation>
+    </message>
+    <message>
+        <source>Start an empty order</source>
+        <translation>Rozpocznij puste zamówienie</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Otwórz</translation>
+    </message>
+    <message>
+        <source>Open an order</source>
+        <translation>Otwórz zamówienie</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Zapisz jako</translation>
+    </message>
+    <message>
+        <source>Save under another name, with the report beside it</source>
+        <translation>Zapisz pod inną nazwą, z raportem obok</translation>
+    </message>
+    <message>
         <source>Print</source>
         <translation>Drukuj</translation>
     </message>
@@ -96,12 +483,220 @@
         <translation>Drukuj zamówienie do pliku PDF</translation>
     </message>
     <message>
+        <source>Archive dd</source>
+        <translation>Archiwizuj DO</translation>
+    </message>
+    <message>
+        <source>Put a dated copy of the order into the backup folder</source>
+        <translation>Zapisz datowaną kopię zamówienia w folderze kopii</translation>
+    </message>
+    <message>
+        <source>Archive database</source>
+        <translation>Archiwizuj bazy danych</translation>
+    </message>
+    <message>
+        <source>Put dated copies of the material databases into the backup folder</source>
+        <translation>Zapisz datowane kopie baz danych w folderze kopii</translation>
+    </message>
+    <message>
         <source>Exit</source>
         <translation>Zakończ</translation>
     </message>
     <message>
+        <source>Allow changes of the order</source>
+        <translation>Zezwól na zmiany zamówienia</translation>
+    </message>
+    <message>
+        <source>Copy cells</source>
+        <translation>Kopiuj komórki</translation>
+    </message>
+    <message>
+        <source>Copy the selected cells as text</source>
+        <translation>Kopiuj zaznaczone komórki jako tekst</translation>
+    </message>
+    <message>
+        <source>Paste cells</source>
+        <translation>Wklej komórki</translation>
+    </message>
+    <message>
+        <source>Paste text into the cells from the current one on</source>
+        <translation>Wklej tekst do komórek, począwszy od bieżącej</translation>
+    </message>
+    <message>
+        <source>Copy ...</source>
+        <translation>Kopiuj ...</translation>
+    </message>
+    <message>
+        <source>Copy lines to another order or to the clipboard</source>
+        <translation>Kopiuj pozycje do innego zamówienia lub do schowka</translation>
+    </message>
+    <message>
+        <source>Clear ...</source>
+        <translation>Wyczyść ...</translation>
+    </message>
+    <message>
+        <source>Empty chosen columns of the lines</source>
+        <translation>Opróżnij wybrane kolumny pozycji</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>Find a text in the lines</source>
+        <translation>Znajdź tekst w pozycjach</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Znajdź następny</translation>
+    </message>
+    <message>
+        <source>Config</source>
+        <translation>Dane zamówienia</translation>
+    </message>
+    <message>
+        <source>Go to the order&apos;s number, date, target and persons</source>
+        <translation>Przejdź do numeru, daty, zlecenia i osób</translation>
+    </message>
+    <message>
+        <source>Edit attentions</source>
+        <translation>Edytuj uwagi</translation>
+    </message>
+    <message>
+        <source>Do</source>
+        <translation>DO</translation>
+    </message>
+    <message>
+        <source>Add material ...</source>
+        <translation>Dodaj materiał ...</translation>
+    </message>
+    <message>
+        <source>Search the databases and add materials</source>
+        <translation>Szukaj w bazach i dodaj materiały</translation>
+    </message>
+    <message>
+        <source>Shipment</source>
+        <translation>Transport</translation>
+    </message>
+    <message>
+        <source>Add a line for shipment</source>
+        <translation>Dodaj pozycję transportu</translation>
+    </message>
+    <message>
+        <source>PCB</source>
+        <translation>PCB</translation>
+    </message>
+    <message>
+        <source>All Quantities</source>
+        <translation>Wszystkie ilości</translation>
+    </message>
+    <message>
+        <source>Set the quantity of all lines</source>
+        <translation>Ustaw ilość wszystkich pozycji</translation>
+    </message>
+    <message>
+        <source>All Dates</source>
+        <translation>Wszystkie terminy</translation>
+    </message>
+    <message>
+        <source>Set the date of all lines</source>
+        <translation>Ustaw termin wszystkich pozycji</translation>
+    </message>
+    <message>
+        <source>All Descriptions</source>
+        <translation>Wszystkie opisy</translation>
+    </message>
+    <message>
+        <source>Set the description of all lines</source>
+        <translation>Ustaw opis wszystkich pozycji</translation>
+    </message>
+    <message>
+        <source>All RoHS</source>
+        <translation>Wszystkie RoHS</translation>
+    </message>
+    <message>
+        <source>Set whether the materials have to comply with RoHS</source>
+        <translation>Ustaw wymóg RoHS materiałów</translation>
+    </message>
+    <message>
+        <source>All Units</source>
+        <translation>Wszystkie jednostki</translation>
+    </message>
+    <message>
+        <source>Set the unit of all lines</source>
+        <translation>Ustaw jednostkę wszystkich pozycji</translation>
+    </message>
+    <message>
+        <source>All Targets</source>
+        <translation>Wszystkie zlecenia</translation>
+    </message>
+    <message>
+        <source>Set the target of all lines</source>
+        <translation>Ustaw zlecenie wszystkich pozycji</translation>
+    </message>
+    <message>
+        <source>All Sum</source>
+        <translation>Sumy</translation>
+    </message>
+    <message>
+        <source>Sums over all or the selected lines</source>
+        <translation>Sumy wszystkich lub zaznaczonych pozycji</translation>
+    </message>
+    <message>
+        <source>Clear Price</source>
+        <translation>Wyzeruj ceny</translation>
+    </message>
+    <message>
+        <source>Set the prices of the lines to 0</source>
+        <translation>Ustaw ceny pozycji na 0</translation>
+    </message>
+    <message>
+        <source>Refresh prices and stock</source>
+        <translation>Odśwież ceny i stany</translation>
+    </message>
+    <message>
+        <source>Take prices and stock from the databases again</source>
+        <translation>Pobierz ponownie ceny i stany z baz</translation>
+    </message>
+    <message>
+        <source>Delete lines</source>
+        <translation>Usuń pozycje</translation>
+    </message>
+    <message>
+        <source>Delete the selected lines (Del)</source>
+        <translation>Usuń zaznaczone pozycje (Del)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń wszystko</translation>
+    </message>
+    <message>
+        <source>Delete all lines</source>
+        <translation>Usuń wszystkie pozycje</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Narzędzia</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfiguracja</translation>
+    </message>
+    <message>
+        <source>Options, persons and targets</source>
+        <translation>Opcje, osoby i zlecenia</translation>
+    </message>
+    <message>
         <source>Window</source>
         <translation>Okno</translation>
+    </message>
+    <message>
+        <source>Preview beside the order</source>
+        <translation>Podgląd obok zamówienia</translation>
+    </message>
+    <message>
+        <source>Show the report beside the lines</source>
+        <translation>Pokaż raport obok pozycji</translation>
     </message>
     <message>
         <source>Log</source>
@@ -109,7 +704,7 @@
     </message>
     <message>
         <source>What was done, and how it went</source>
-        <translation>Co zrobiono i z jakim skutkiem</translation>
+        <translation>Co wykonano i z jakim skutkiem</translation>
     </message>
     <message>
         <source>Errors</source>
@@ -135,17 +730,71 @@
         <source>Version of the program</source>
         <translation>Wersja programu</translation>
     </message>
+</context>
+<context>
+    <name>addMaterialDialog</name>
     <message>
-        <source>File</source>
-        <translation>Plik</translation>
+        <source>Add to the order</source>
+        <translation>Dodaj do zamówienia</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>Wyczyść</translation>
+        <source>Add material</source>
+        <translation>Dodawanie materiału</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Szukane słowa</translation>
+    </message>
+    <message>
+        <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
+        <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
+    </message>
+    <message>
+        <source>Materials found</source>
+        <translation>Znalezione materiały</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Zamknij</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the first %1 are shown</source>
+        <translation>pokazano pierwsze %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added to the order</source>
+        <translation>
+            <numerusform>Dodano %n pozycję do zamówienia</numerusform>
+            <numerusform>Dodano %n pozycje do zamówienia</numerusform>
+            <numerusform>Dodano %n pozycji do zamówienia</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>altiumExport</name>
+    <message>
+        <source>Name changed</source>
+        <translation>Zmieniono nazwę</translation>
+    </message>
+    <message>
+        <source>Text too long for a cell, cut</source>
+        <translation>Tekst za długi na komórkę, obcięty</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>The SQLite driver cannot be used</source>
+        <translation>Nie można użyć sterownika SQLite</translation>
     </message>
 </context>
 <context>
@@ -153,6 +802,20 @@
     <message>
         <source>Tool bar</source>
         <translation>Pasek narzędzi</translation>
+    </message>
+</context>
+<context>
+    <name>cellBlock</name>
+    <message>
+        <source>%1, row %2: %3</source>
+        <translation>%1, wiersz %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>childRunner</name>
+    <message>
+        <source>The program cannot be started</source>
+        <translation>Nie można uruchomić programu</translation>
     </message>
 </context>
 <context>
@@ -265,6 +928,282 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>the schema %1 is missing</source>
         <translation>brakuje schematu %1</translation>
     </message>
+    <message>
+        <source>A material database to search. May be given several times.</source>
+        <translation>Baza materiałów do przeszukania. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>How many materials to print at most (0: all).</source>
+        <translation>Ile materiałów wypisać najwyżej (0: wszystkie).</translation>
+    </message>
+    <message>
+        <source>%1 is no number of materials</source>
+        <translation>%1 nie jest liczbą materiałów</translation>
+    </message>
+    <message>
+        <source>give a database with -d</source>
+        <translation>podaj bazę materiałów opcją -d</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>nic nie znaleziono</translation>
+    </message>
+    <message>
+        <source>%1 of %2 materials shown</source>
+        <translation>pokazano %1 z %2 materiałów</translation>
+    </message>
+    <message>
+        <source>Searches the materials of databases.</source>
+        <translation>Wyszukuje materiały w bazach.</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>znaleziono</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nie znaleziono</translation>
+    </message>
+    <message>
+        <source>Tells where the helper programs are.</source>
+        <translation>Podaje, gdzie są programy pomocnicze.</translation>
+    </message>
+    <message>
+        <source>Downloads a file.</source>
+        <translation>Pobiera plik.</translation>
+    </message>
+    <message>
+        <source>Packs a folder into a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold a password.</source>
+        <translation>Pakuje folder do archiwum ZIP; hasło można podać w zmiennej KIVZP_ARCHIVE_PASSWORD.</translation>
+    </message>
+    <message>
+        <source>Unpacks a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold its password.</source>
+        <translation>Rozpakowuje archiwum ZIP; jego hasło można podać w zmiennej KIVZP_ARCHIVE_PASSWORD.</translation>
+    </message>
+    <message>
+        <source>Where the changed database goes; without it nothing is written.</source>
+        <translation>Dokąd zapisać zmienioną bazę; bez tego nic nie jest zapisywane.</translation>
+    </message>
+    <message>
+        <source>give a material database with -d</source>
+        <translation>podaj bazę materiałów opcją -d</translation>
+    </message>
+    <message>
+        <source>The material database.</source>
+        <translation>Baza materiałów.</translation>
+    </message>
+    <message>
+        <source>Take over what is new or changed; wants -o.</source>
+        <translation>Przejmij, co nowe lub zmienione; wymaga -o.</translation>
+    </message>
+    <message>
+        <source>The other database wins: list, and with --apply delete, what it lacks.</source>
+        <translation>Druga baza rozstrzyga: wymień, a z --apply usuń, czego w niej nie ma.</translation>
+    </message>
+    <message>
+        <source>Where the merged database goes.</source>
+        <translation>Dokąd zapisać połączoną bazę.</translation>
+    </message>
+    <message>
+        <source>--apply and -o belong together</source>
+        <translation>--apply i -o podaje się razem</translation>
+    </message>
+    <message>
+        <source>Lists the materials of another database that are new or changed, and takes them over when asked to.</source>
+        <translation>Wymienia materiały innej bazy, które są nowe lub zmienione, i na żądanie je przejmuje.</translation>
+    </message>
+    <message>
+        <source>Lists the stock and average prices that a listing of the warehouse, or another database, changes in a material database.</source>
+        <translation>Wymienia stany i średnie ceny, które zestawienie magazynowe lub inna baza zmienia w bazie materiałów.</translation>
+    </message>
+    <message>
+        <source>Lists the CPV codes of groups that a text file changes in a material database.</source>
+        <translation>Wymienia kody CPV grup, które plik tekstowy zmienia w bazie materiałów.</translation>
+    </message>
+    <message>
+        <source>Lists the materials whose CPV code is another than their group&apos;s, and gives them that.</source>
+        <translation>Wymienia materiały, których kod CPV jest inny niż kod grupy, i nadaje im kod grupy.</translation>
+    </message>
+    <message>
+        <source>The same KTM:</source>
+        <translation>Ten sam KTM:</translation>
+    </message>
+    <message>
+        <source>The same manufacturer&apos;s part number:</source>
+        <translation>Ten sam numer producenta:</translation>
+    </message>
+    <message>
+        <source>A workbook (.xlsx) for the results.</source>
+        <translation>Skoroszyt (.xlsx) na wyniki.</translation>
+    </message>
+    <message>
+        <source>Tell on standard error how many links are checked.</source>
+        <translation>Podawaj na standardowym wyjściu błędów liczbę sprawdzonych odnośników.</translation>
+    </message>
+    <message>
+        <source>is no firm register</source>
+        <translation>nie jest rejestrem firm</translation>
+    </message>
+    <message>
+        <source>The HTML file to write.</source>
+        <translation>Plik HTML do zapisania.</translation>
+    </message>
+    <message>
+        <source>One row a material instead of everything.</source>
+        <translation>Po jednym wierszu na materiał zamiast wszystkich danych.</translation>
+    </message>
+    <message>
+        <source>The firm register, for the status of firms.</source>
+        <translation>Rejestr firm, dla statusu firm.</translation>
+    </message>
+    <message>
+        <source>Lists materials with the same KTM, or with the same part number of a manufacturer. Exit code 1 when there are some.</source>
+        <translation>Wymienia materiały o tym samym KTM lub o tym samym numerze producenta. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Lists materials with empty fields. Exit code 1 when there are some.</source>
+        <translation>Wymienia materiały z pustymi polami. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Lists the links of a material database that do not answer. Exit code 1 when there are some.</source>
+        <translation>Wymienia odnośniki bazy materiałów, które nie odpowiadają. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Writes the report of a material database as HTML.</source>
+        <translation>Zapisuje raport bazy materiałów jako HTML.</translation>
+    </message>
+    <message>
+        <source>Lists the firms whose tax number is wrong. Exit code 1 when there are some.</source>
+        <translation>Wymienia firmy z błędnym numerem NIP. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending decides its kind.</source>
+        <translation>Plik do zapisania; jego rozszerzenie określa rodzaj.</translation>
+    </message>
+    <message>
+        <source>give an output file that ends in %1</source>
+        <translation>podaj plik wyjściowy o rozszerzeniu %1</translation>
+    </message>
+    <message>
+        <source>Writes a material database as a component library for Altium: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and the description OUT.DbLib.</source>
+        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programu Altium: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt oraz opis OUT.DbLib.</translation>
+    </message>
+    <message>
+        <source>Writes the groups of a material database as a workbook.</source>
+        <translation>Zapisuje grupy bazy materiałów jako skoroszyt.</translation>
+    </message>
+</context>
+<context>
+    <name>configOperations</name>
+    <message>
+        <source>is no number from %1 to %2</source>
+        <translation>nie jest liczbą od %1 do %2</translation>
+    </message>
+    <message>
+        <source>is no date</source>
+        <translation>nie jest datą</translation>
+    </message>
+    <message>
+        <source>is no folder</source>
+        <translation>nie jest folderem</translation>
+    </message>
+</context>
+<context>
+    <name>configWindow</name>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfiguracja</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>Persons</source>
+        <translation>Osoby</translation>
+    </message>
+    <message>
+        <source>Targets</source>
+        <translation>Zlecenia</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Opcja</translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>options are neither added nor deleted</source>
+        <translation>opcji nie dodaje się ani nie usuwa</translation>
+    </message>
+    <message>
+        <source>Changed, not saved</source>
+        <translation>Zmienione, niezapisane</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>Add row</source>
+        <translation>Dodaj wiersz</translation>
+    </message>
+    <message>
+        <source>Delete rows</source>
+        <translation>Usuń wiersze</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Wartości domyślne</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>These options count from the next start on:</source>
+        <translation>Te opcje zadziałają po ponownym uruchomieniu:</translation>
+    </message>
+    <message>
+        <source>Save the changed configuration?</source>
+        <translation>Zapisać zmienioną konfigurację?</translation>
+    </message>
+</context>
+<context>
+    <name>cpvOperations</name>
+    <message>
+        <source>CPV syntax error</source>
+        <translation>Błąd składni CPV</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>nie można odczytać pliku</translation>
+    </message>
+    <message>
+        <source>Group does not exist</source>
+        <translation>Grupa nie istnieje</translation>
+    </message>
+</context>
+<context>
+    <name>curl_download</name>
+    <message>
+        <source>Address or file is missing</source>
+        <translation>Brak adresu lub pliku</translation>
+    </message>
+    <message>
+        <source>Download failed: the host could not be resolved</source>
+        <translation>Pobieranie nie powiodło się: nie można odnaleźć adresu serwera</translation>
+    </message>
 </context>
 <context>
     <name>data</name>
@@ -310,10 +1249,66 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>databaseChecks</name>
+    <message>
+        <source>All materials has unique KTM</source>
+        <translation>Wszystkie materiały mają niepowtarzalny KTM</translation>
+    </message>
+    <message>
+        <source>Materials count</source>
+        <translation>Liczba materiałów</translation>
+    </message>
+    <message>
+        <source>Materials count in database</source>
+        <translation>Liczba materiałów w bazie</translation>
+    </message>
+    <message>
+        <source>Groups count in database</source>
+        <translation>Liczba grup w bazie</translation>
+    </message>
+    <message>
+        <source>Materials count with status</source>
+        <translation>Liczba materiałów ze statusem</translation>
+    </message>
+</context>
+<context>
+    <name>databaseMerge</name>
+    <message>
+        <source>All materials in database</source>
+        <translation>Wszystkie materiały są w bazie</translation>
+    </message>
+    <message>
+        <source>Materials deleted</source>
+        <translation>Usunięte materiały</translation>
+    </message>
+</context>
+<context>
+    <name>databaseReport</name>
+    <message>
+        <source>Groups</source>
+        <translation>Grupy</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
+</context>
+<context>
     <name>errorsWindow</name>
     <message>
         <source>Errors</source>
         <translation>Błędy</translation>
+    </message>
+</context>
+<context>
+    <name>firmChecks</name>
+    <message>
+        <source>The tax number %1 is not correct</source>
+        <translation>Numer NIP %1 jest niepoprawny</translation>
     </message>
 </context>
 <context>
@@ -856,6 +1851,57 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>linesDialog</name>
+    <message>
+        <source>Selected lines</source>
+        <translation>Zaznaczone pozycje</translation>
+    </message>
+    <message>
+        <source>Copy ...</source>
+        <translation>Kopiuj ...</translation>
+    </message>
+    <message>
+        <source>Clear ...</source>
+        <translation>Wyczyść ...</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Kolumny</translation>
+    </message>
+    <message>
+        <source>All lines</source>
+        <translation>Wszystkie pozycje</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>To the clipboard</source>
+        <translation>Do schowka</translation>
+    </message>
+    <message>
+        <source>To another order ...</source>
+        <translation>Do innego zamówienia ...</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>no column is chosen</source>
+        <translation>nie wybrano żadnej kolumny</translation>
+    </message>
+    <message>
+        <source>Copy to</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>log</name>
     <message>
         <source>Remove file</source>
@@ -924,6 +1970,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>The settings cannot be written </source>
         <translation>Nie można zapisać ustawień </translation>
+    </message>
+    <message>
+        <source>No backup could be written </source>
+        <translation>Nie można zapisać kopii zapasowej </translation>
+    </message>
+    <message>
+        <source>File corrupted</source>
+        <translation>Plik uszkodzony </translation>
     </message>
 </context>
 <context>
@@ -1101,6 +2155,36 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>OPTION_SERVER_USER_PASSWORD</source>
         <translation>Hasło użytkownika serwera</translation>
     </message>
+    <message>
+        <source>OPTION_BACKUP_COUNT</source>
+        <translation>Liczba przechowywanych wersji pliku</translation>
+    </message>
+    <message>
+        <source>OPTION_LANGUAGE</source>
+        <translation>Język programu</translation>
+    </message>
+</context>
+<context>
+    <name>orderDocument</name>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Materials does not exist in database:</source>
+        <translation>Materiały nie istnieją w bazie danych:</translation>
+    </message>
+    <message>
+        <source>Materials does not has valid status:</source>
+        <translation>Materiały nie mają prawidłowego statusu:</translation>
+    </message>
+</context>
+<context>
+    <name>orderOperations</name>
+    <message>
+        <source>the file cannot be written</source>
+        <translation>nie można zapisać pliku</translation>
+    </message>
 </context>
 <context>
     <name>orderReport</name>
@@ -1111,6 +2195,56 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>%n pozycje bez ceny lub ilości nie zostały policzone</numerusform>
             <numerusform>%n pozycji bez ceny lub ilości nie zostało policzonych</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>orderTree</name>
+    <message>
+        <source>unknown</source>
+        <translation>nieznany</translation>
+    </message>
+    <message>
+        <source>No loaded database has this KTM</source>
+        <translation>Żadna wczytana baza nie zawiera tego KTM</translation>
+    </message>
+    <message>
+        <source>Known material, status %1</source>
+        <translation>Znany materiał, status %1</translation>
+    </message>
+    <message>
+        <source>The status of this material does not allow to order it</source>
+        <translation>Status tego materiału nie pozwala go zamówić</translation>
+    </message>
+    <message>
+        <source>%1 in stock, %2 ordered</source>
+        <translation>na stanie %1, zamówiono %2</translation>
+    </message>
+    <message>
+        <source>Enough: %1</source>
+        <translation>Wystarczy: %1</translation>
+    </message>
+    <message>
+        <source>Too little: %1</source>
+        <translation>Za mało: %1</translation>
+    </message>
+</context>
+<context>
+    <name>orderView</name>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>Options of the order</source>
+        <translation>Dane zamówienia</translation>
+    </message>
+    <message>
+        <source>Lines of the order</source>
+        <translation>Pozycje zamówienia</translation>
+    </message>
+    <message>
+        <source>The order has no lines. &lt;a href=&quot;addMaterial&quot;&gt;Add a material&lt;/a&gt;, or &lt;a href=&quot;zpOpen&quot;&gt;open an order&lt;/a&gt;.</source>
+        <translation>Zamówienie nie ma pozycji. &lt;a href=&quot;addMaterial&quot;&gt;Dodaj materiał&lt;/a&gt; lub &lt;a href=&quot;zpOpen&quot;&gt;otwórz zamówienie&lt;/a&gt;.</translation>
     </message>
 </context>
 <context>
@@ -1199,6 +2333,36 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>searchQuery</name>
+    <message>
+        <source>There is no field %1</source>
+        <translation>Nie ma pola %1</translation>
+    </message>
+    <message>
+        <source>The field %1 is no number to compare with</source>
+        <translation>Pole %1 nie jest liczbą, z którą można porównywać</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>warehouseListing</name>
+    <message>
+        <source>Stands again further down, this one not used</source>
+        <translation>Występuje ponownie niżej, ta pozycja pominięta</translation>
+    </message>
+    <message>
+        <source>Error in KTM line</source>
+        <translation>Błąd w wierszu KTM</translation>
+    </message>
+    <message>
+        <source>Does not exist in databases</source>
+        <translation>Nie istnieje w bazach</translation>
+    </message>
+</context>
+<context>
     <name>workProgress</name>
     <message>
         <source>Progress</source>
@@ -1207,6 +2371,48 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>workbook</name>
+    <message>
+        <source>the file cannot be written</source>
+        <translation>nie można zapisać pliku</translation>
+    </message>
+</context>
+<context>
+    <name>zip_compress</name>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>Folder nie istnieje</translation>
+    </message>
+    <message>
+        <source>File cannot be replaced</source>
+        <translation>Nie można zastąpić pliku</translation>
+    </message>
+    <message>
+        <source>Compression complete</source>
+        <translation>Zakończono kompresję</translation>
+    </message>
+    <message>
+        <source>Compression start</source>
+        <translation>Rozpoczęto kompresję</translation>
+    </message>
+    <message>
+        <source>Archive cannot be read</source>
+        <translation>Nie można odczytać archiwum</translation>
+    </message>
+    <message>
+        <source>Archive entry lies outside the folder</source>
+        <translation>Element archiwum wykracza poza folder docelowy</translation>
+    </message>
+    <message>
+        <source>Folder cannot be created</source>
+        <translation>Nie można utworzyć folderu</translation>
+    </message>
+    <message>
+        <source>Decompression complete</source>
+        <translation>Zakończono dekompresję</translation>
     </message>
 </context>
 </TS>

@@ -66,6 +66,7 @@ public:
     bool load(const QStringList &paths);
 
     const ktmIndex &index() const { return m_index; }
+    const std::vector<std::unique_ptr<kiv_mat_databaseStruct>> &all() const { return m_databases; }
 
 private:
     std::vector<std::unique_ptr<kiv_mat_databaseStruct>> m_databases;
@@ -88,6 +89,11 @@ extern const subcommand validateCommand;
 extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
 extern const subcommand reportCommand;
+extern const subcommand findCommand;
+extern const subcommand helpersCommand;
+extern const subcommand downloadCommand;
+extern const subcommand packCommand;
+extern const subcommand unpackCommand;
 extern const subcommand altiumCommand;
 extern const subcommand groupsCommand;
 extern const subcommand duplicatesCommand;

@@ -3,6 +3,7 @@
 
 #include "commands/command.h"
 
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -46,6 +47,7 @@ private:
 
     std::vector<step> m_done;   // the last one is the most recent
     std::vector<step> m_undone; // the last one is the most recently undone
-    QAction *m_undoAction;
-    QAction *m_redoAction;
+    // A window's actions may go before its stack.
+    QPointer<QAction> m_undoAction;
+    QPointer<QAction> m_redoAction;
 };

@@ -159,6 +159,8 @@ class sortOrderModel : public command
 {
 public:
     sortOrderModel(myModel *model, int keyColumn);
+    // Whether the rows stood in another order before.
+    bool changesOrder() const { return m_oldOrder != m_newOrder; }
     void undo() override;
     void redo() override;
 

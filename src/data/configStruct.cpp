@@ -5,6 +5,8 @@
 #include "util/labels.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -57,6 +59,8 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::loadDbAuthor, "TAK", ""},
     {optionKey::loadDbMechanics, "TAK", ""},
     {optionKey::loadBoms, "TAK", ""},
+    {optionKey::backupCount, "20", ""},
+    {optionKey::language, "pl", ""},
     {optionKey::serverName, "", ""},
     {optionKey::serverUserName, "", ""},
     {optionKey::serverUserPassword, "", ""}};
@@ -116,6 +120,20 @@ bool configStruct::isOn(const QString &key) const
     const QString value = options.value(key);
     return value.compare(statusWord::yes, Qt::CaseInsensitive) == 0
            || value.compare(statusWord::editableYes, Qt::CaseInsensitive) == 0;
+}
+
+QString configStruct::languageIn(const QString &path)
+{
+    QFile file(path);
+    if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)) {
+        QXmlStreamReader reader(&file);
+        while (readToElement(&reader, optionStruct::element))
+            if (attributeValue(&reader, QStringLiteral("type")) == optionKey::language)
+                return attributeValue(&reader, QStringLiteral("value1")) == QLatin1String("en")
+                           ? QStringLiteral("en")
+                           : QStringLiteral("pl");
+    }
+    return QStringLiteral("pl");
 }
 
 QFont configStruct::font() const

@@ -46,6 +46,10 @@ public:
     // Whether an option says yes: TAK or YES in any case. False when it is missing.
     bool isOn(const QString &key) const;
 
+    // The language that a configuration file asks for: "pl", which is also that of a file that asks
+    // for none or cannot be read, or "en". Nothing is checked or shown.
+    static QString languageIn(const QString &path);
+
     // The editors' font: FONT_NAME with FONT_SIZE pixels, or Arial with 14.
     QFont font() const;
 

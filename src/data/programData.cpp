@@ -72,6 +72,7 @@ programData &programData::instance()
 void programData::clear()
 {
     m_materials.clear();
+    m_search.clear();
     m_config = std::make_unique<configStruct>();
     m_firm = std::make_unique<kiv_mat_firmStruct>();
     for (auto &database : m_databases)
@@ -167,8 +168,20 @@ void programData::loadDatabase(databaseKind kind, const progressFunction &progre
     if (name.isEmpty() || isSwitchedOff(databaseKeys[kind].load)
         || !readInto(*database, paths::data(name), progress))
         return;
-    m_databases[kind] = std::move(database);
-    m_materials.add(m_databases[kind].get());
+    const bool again = m_databases[kind]->materialCount() > 0;
+    const auto before = std::exchange(m_databases[kind], std::move(database));
+    if (!again) {
+        m_materials.add(m_databases[kind].get());
+        m_search.add(m_databases[kind].get());
+        return;
+    }
+    // The indexes look at the materials of the one before.
+    m_materials.clear();
+    m_search.clear();
+    for (const auto &known : m_databases) {
+        m_materials.add(known.get());
+        m_search.add(known.get());
+    }
 }
 
 void programData::loadBoms()

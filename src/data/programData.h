@@ -7,6 +7,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/ktmIndex.h"
+#include "data/materialSearch.h"
 #include "util/progress.h"
 
 #include <array>
@@ -49,6 +50,7 @@ public:
     kiv_mat_bomsStruct &boms() { return *m_boms; }
     // All materials of the databases.
     ktmIndex &materials() { return m_materials; }
+    materialSearch &search() { return m_search; }
 
     // Everything empty again, as before the first load.
     void clear();
@@ -64,6 +66,7 @@ private:
     std::array<std::unique_ptr<kiv_mat_databaseStruct>, databaseCount> m_databases;
     std::unique_ptr<kiv_mat_bomsStruct> m_boms;
     ktmIndex m_materials;
+    materialSearch m_search;
     bool m_schemasReported = false;
 };
 

@@ -3,21 +3,24 @@
 #include "data/kiv_infoStruct.h"
 #include "data/loaders.h"
 #include "data/programData.h"
+#include "data/vocabulary.h"
 #include "dialogs/aboutDialog.h"
-#include "report/orderReport.h"
-#include "report/pdfPrinter.h"
+#include "dialogs/configWindow.h"
 #include "shell/logos.h"
 #include "shell/orderDocument.h"
+#include "shell/orderView.h"
 #include "shell/startupDialog.h"
 #include "shell/userState.h"
+#include "tree/myHeaderView.h"
+#include "tree/myTextEdit.h"
+#include "tree/myTreeView.h"
 #include "tree/myWebView.h"
 #include "util/labels.h"
 #include "util/messages.h"
+#include "util/numbers.h"
 #include "util/paths.h"
 #include "util/prompts.h"
-#include "util/text.h"
 #include "window/messageWindow.h"
-#include "window/workProgress.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -25,27 +28,156 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QSplitter>
 #include <QSslConfiguration>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <QVersionNumber>
 
 namespace {
 
 constexpr int stages = 9;
 constexpr int updateCheckDelayMs = 50;
+constexpr int refreshDelayMs = 250;
+constexpr int autoSaveMs = 60000;
+
+const actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true};
+const actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
+const actionRow doSeparator{nullptr, "Do", nullptr, nullptr, nullptr, nullptr, false};
 
 const windowAction<MainWindow> actionTable[] = {
+    {{"zpNew", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "New"),
+      "action_new", "Ctrl+N", QT_TRANSLATE_NOOP("actions", "Start an empty order"), true},
+     &MainWindow::commandZpNew},
+    {{"zpOpen", "File", QT_TRANSLATE_NOOP("actions", "Open"), "action_open", "Ctrl+O",
+      QT_TRANSLATE_NOOP("actions", "Open an order"), true},
+     &MainWindow::commandZpOpen},
+    {{"zpSave", "File", QT_TRANSLATE_NOOP("actions", "Save"), "action_save", "Ctrl+S", nullptr,
+      true},
+     &MainWindow::commandZpSave},
+    {{"zpSaveAs", "File", QT_TRANSLATE_NOOP("actions", "Save as"), "action_save_as", "Ctrl+Alt+S",
+      QT_TRANSLATE_NOOP("actions", "Save under another name, with the report beside it")},
+     &MainWindow::commandZpSaveAs},
+    {fileSeparator, nullptr},
     {{"zpPrint", "File", QT_TRANSLATE_NOOP("actions", "Print"), "action_print", "Ctrl+P",
       QT_TRANSLATE_NOOP("actions", "Print the order to a PDF file"), true},
      &MainWindow::commandZpPrint},
-    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {fileSeparator, nullptr},
+    {{"archiveDD", "File", QT_TRANSLATE_NOOP("actions", "Archive dd"), "action_archive", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Put a dated copy of the order into the backup folder")},
+     &MainWindow::commandArchiveDD},
+    {{"archiveDatabase", "File", QT_TRANSLATE_NOOP("actions", "Archive database"), "action_archive",
+      nullptr,
+      QT_TRANSLATE_NOOP("actions",
+                        "Put dated copies of the material databases into the backup folder")},
+     &MainWindow::commandArchiveDatabase},
+    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"exit", "File", QT_TRANSLATE_NOOP("actions", "Exit"), "action_exit", "Ctrl+Q", nullptr},
      &MainWindow::commandExit},
-    {{"log", QT_TRANSLATE_NOOP("actions", "Window"), QT_TRANSLATE_NOOP("actions", "Log"),
-      "action_log", nullptr, QT_TRANSLATE_NOOP("actions", "What was done, and how it went"), true},
+
+    {{"zpEdit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
+      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the order"), true,
+      true},
+     &MainWindow::commandZpEdit},
+    {editSeparator, nullptr},
+    {{"zpUndo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr,
+      true},
+     &MainWindow::commandZpUndo},
+    {{"zpRedo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr,
+      true},
+     &MainWindow::commandZpRedo},
+    {editSeparator, nullptr},
+    {{"copyCells", "Edit", QT_TRANSLATE_NOOP("actions", "Copy cells"), "action_copy", "Ctrl+C",
+      QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
+     &MainWindow::commandCopyCells},
+    {{"pasteCells", "Edit", QT_TRANSLATE_NOOP("actions", "Paste cells"), "action_paste", "Ctrl+V",
+      QT_TRANSLATE_NOOP("actions", "Paste text into the cells from the current one on")},
+     &MainWindow::commandPasteCells},
+    {{"zpCopy", "Edit", QT_TRANSLATE_NOOP("actions", "Copy ..."), "action_duplicate", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Copy lines to another order or to the clipboard")},
+     &MainWindow::commandZpCopy},
+    {{"zpClear", "Edit", QT_TRANSLATE_NOOP("actions", "Clear ..."), "action_empty", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Empty chosen columns of the lines")},
+     &MainWindow::commandZpClear},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
+    {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
+      QT_TRANSLATE_NOOP("actions", "Find a text in the lines"), true},
+     &MainWindow::commandFind},
+    {{"findNext", "Edit", QT_TRANSLATE_NOOP("actions", "Find next"), "action_find_next", "F3",
+      nullptr},
+     &MainWindow::commandFindNext},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
+    {{"zpConfig", "Edit", QT_TRANSLATE_NOOP("actions", "Config"), "action_set", "Ctrl+K",
+      QT_TRANSLATE_NOOP("actions", "Go to the order's number, date, target and persons")},
+     &MainWindow::commandZpConfig},
+    {{"editAttentions", "Edit", QT_TRANSLATE_NOOP("actions", "Edit attentions"),
+      "action_attentions", nullptr, nullptr},
+     &MainWindow::commandEditAttentions},
+
+    {{"addMaterial", QT_TRANSLATE_NOOP("actions", "Do"),
+      QT_TRANSLATE_NOOP("actions", "Add material ..."), "action_add_material", "Ins",
+      QT_TRANSLATE_NOOP("actions", "Search the databases and add materials"), true},
+     &MainWindow::commandAddMaterial},
+    {{"addShipment", "Do", QT_TRANSLATE_NOOP("actions", "Shipment"), "action_shipment", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Add a line for shipment")},
+     &MainWindow::commandAddShipment},
+    {{"addPCB", "Do", QT_TRANSLATE_NOOP("actions", "PCB"), "action_pcb", nullptr, nullptr},
+     &MainWindow::commandAddPCB},
+    {doSeparator, nullptr},
+    {{"allQuantities", "Do", QT_TRANSLATE_NOOP("actions", "All Quantities"), "action_quantities",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Set the quantity of all lines")},
+     &MainWindow::commandZpAllQuantities},
+    {{"allDates", "Do", QT_TRANSLATE_NOOP("actions", "All Dates"), "action_dates", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Set the date of all lines")},
+     &MainWindow::commandZpAllDates},
+    {{"allDescriptions", "Do", QT_TRANSLATE_NOOP("actions", "All Descriptions"),
+      "action_descriptions", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Set the description of all lines")},
+     &MainWindow::commandZpAllDescriptions},
+    {{"allRoHS", "Do", QT_TRANSLATE_NOOP("actions", "All RoHS"), "action_rohs", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Set whether the materials have to comply with RoHS")},
+     &MainWindow::commandZpAllRoHS},
+    {{"allUnits", "Do", QT_TRANSLATE_NOOP("actions", "All Units"), "action_units", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Set the unit of all lines")},
+     &MainWindow::commandZpAllUnits},
+    {{"allTargets", "Do", QT_TRANSLATE_NOOP("actions", "All Targets"), "action_targets", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Set the target of all lines")},
+     &MainWindow::commandZpAllTargets},
+    {doSeparator, nullptr},
+    {{"allSum", "Do", QT_TRANSLATE_NOOP("actions", "All Sum"), "action_sum", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Sums over all or the selected lines")},
+     &MainWindow::commandZpAllSum},
+    {{"clearPrice", "Do", QT_TRANSLATE_NOOP("actions", "Clear Price"), "action_clear_price",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Set the prices of the lines to 0")},
+     &MainWindow::commandZpClearPrices},
+    {{"refreshPrices", "Do", QT_TRANSLATE_NOOP("actions", "Refresh prices and stock"),
+      "action_refresh", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Take prices and stock from the databases again")},
+     &MainWindow::commandZpRefreshPrices},
+    {doSeparator, nullptr},
+    {{"deleteLines", "Do", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Delete the selected lines (Del)")},
+     &MainWindow::commandDeleteLines},
+    {{"deleteAll", "Do", QT_TRANSLATE_NOOP("actions", "Delete"), "action_clear", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Delete all lines")},
+     &MainWindow::commandZpDeleteAll},
+
+    {{"config", QT_TRANSLATE_NOOP("actions", "Tools"),
+      QT_TRANSLATE_NOOP("actions", "Configuration"), "action_config", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Options, persons and targets")},
+     &MainWindow::configCommand},
+
+    {{"previewBeside", QT_TRANSLATE_NOOP("actions", "Window"),
+      QT_TRANSLATE_NOOP("actions", "Preview beside the order"), "action_preview", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show the report beside the lines"), true, true},
+     &MainWindow::commandPreviewBeside},
+    {{"log", "Window", QT_TRANSLATE_NOOP("actions", "Log"), "action_log", nullptr,
+      QT_TRANSLATE_NOOP("actions", "What was done, and how it went"), true},
      &MainWindow::commandShowLog},
     {{"errors", "Window", QT_TRANSLATE_NOOP("actions", "Errors"), "action_errors", nullptr,
       QT_TRANSLATE_NOOP("actions", "What could not be read or found"), true},
@@ -80,6 +212,7 @@ void prepareCertificates()
 
 MainWindow::MainWindow()
     : baseWindow(QStringLiteral("MainWindow"))
+    , m_recovery(std::make_unique<orderRecovery>(paths::data(QStringLiteral("_config/recovery"))))
 {
     buildWidgets();
     prepareCertificates();
@@ -90,20 +223,66 @@ MainWindow::MainWindow()
     userPrompts().showErrors();
 }
 
+MainWindow::~MainWindow() = default;
+
 void MainWindow::buildWidgets()
 {
     setWindowTitle(tr("Order"));
     setWindowIcon(logos::logo());
+    setAcceptDrops(true);
     addActions(actionTable);
+
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("tabs"));
+    m_beside = new QSplitter(Qt::Horizontal, m_tabs);
+    m_beside->setObjectName(QStringLiteral("besideSplitter"));
+    m_beside->setChildrenCollapsible(false);
+    m_order = new orderView(action("zpUndo"), action("zpRedo"), m_beside);
+    m_order->setObjectName(QStringLiteral("order"));
+    m_beside->addWidget(m_order);
     m_preview = new myWebView(m_tabs);
     m_preview->setObjectName(QStringLiteral("preview"));
     m_preview->setAccessibleName(labels::previewDo());
+    m_tabs->addTab(m_beside, tr("File Do"));
     m_tabs->addTab(m_preview, labels::previewDo());
     setCentralWidget(m_tabs);
+    m_path = new QLabel(this);
+    m_sums = new QLabel(this);
+    constexpr int labelMargin = 8;
+    for (QLabel *label : {m_path, m_sums})
+        label->setContentsMargins(labelMargin, 0, labelMargin, 0);
+    statusBar()->addPermanentWidget(m_sums);
+    statusBar()->addPermanentWidget(m_path);
     constexpr QSize usualSize(1240, 820);
     resize(usualSize);
+
+    m_refresh = new QTimer(this);
+    m_refresh->setSingleShot(true);
+    m_refresh->setInterval(refreshDelayMs);
+    connect(m_refresh, &QTimer::timeout, this, [this] {
+        if (isPreviewVisible())
+            refreshPreview();
+        showState();
+    });
+    m_autoSave = new QTimer(this);
+    m_autoSave->start(autoSaveMs);
+    connect(m_autoSave, &QTimer::timeout, this, &MainWindow::storeRecovery);
+
+    connect(m_order, &orderView::changed, this, &MainWindow::orderChanged);
+    connect(m_order, &orderView::actionWanted, this,
+            [this](const QString &name) { action(name.toLatin1().constData())->trigger(); });
+    connect(m_order->lines(), &myModel::removeOccured, this, &MainWindow::reOrdinalRows);
+    connect(m_order->lines(), &myModel::appendOccured, this, &MainWindow::reOrdinalRows);
+    connect(m_order->linesView(), qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
+            &MainWindow::modelTreeClicked);
+    connect(m_order->linesView(), &QWidget::customContextMenuRequested, this,
+            &MainWindow::showContextMenu);
+    connect(static_cast<myHeaderView *>(m_order->linesView()->header()), &myHeaderView::clicked,
+            this, &MainWindow::headerTreeClicked);
+    connect(m_order->attentions(), &myTextEdit::clicked, this, &MainWindow::textEditDoubleClicked);
+    connect(m_order->attentions(), &myTextEdit::doubleClicked, this,
+            [this] { commandEditAttentions(false); });
+    connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::currentTabChanged);
 }
 
 void MainWindow::loadDataFiles()
@@ -130,41 +309,133 @@ void MainWindow::openLastOrder()
     const QString last = userState::instance().lastZp;
     if (!last.isEmpty() && !orderDocument::instance().load(paths::data(last)))
         userState::instance().lastZp.clear();
+    const QString &other = orderDocument::instance().otherUser();
+    if (!other.isEmpty())
+        userPrompts().listError(messages::failed(tr("The order is open elsewhere, too "),
+                                                 orderDocument::instance().path(), other));
+    showDocument();
+}
+
+// What was opened or begun, from its beginning.
+void MainWindow::showDocument()
+{
+    m_order->show(orderDocument::instance().order());
+    // A locked order is opened for reading; the user may unlock it.
+    action("zpEdit")->setChecked(programData::instance().config().isOn(optionKey::editZp));
+    commandZpEdit(action("zpEdit")->isChecked());
+    m_unstored = false;
     refreshPreview();
-    showPath();
+    showState();
 }
 
-void MainWindow::refreshPreview() { m_preview->showReport(orderDocument::instance().report()); }
+void MainWindow::refreshHtml() { m_refresh->start(); }
 
-void MainWindow::showPath()
+void MainWindow::refreshPreview()
 {
-    const QString path = orderDocument::instance().path();
-    statusBar()->showMessage(path.isEmpty() ? tr("No order is open")
-                                            : QDir::toNativeSeparators(path));
+    m_refresh->stop();
+    m_order->takeAttentions();
+    m_previewIsOld = !isPreviewVisible() && isVisible();
+    if (!m_previewIsOld)
+        m_preview->showReport(orderDocument::instance().report());
 }
 
-void MainWindow::commandZpPrint(bool)
+bool MainWindow::isPreviewVisible() const
 {
-    QString proposed = orderDocument::instance().path();
-    if (proposed.endsWith(QLatin1String(".xml")))
-        proposed.chop(int(qstrlen(".xml")));
-    const QString chosen =
-        userPrompts().saveFile(tr("Save to File"), proposed + QLatin1String(".pdf"),
-                               tr("Pdf File") + QLatin1String(" (*.pdf)"));
-    if (chosen.isEmpty())
-        return;
-    const QString path = pdfPath(chosen);
-    userPrompts().log(messages::done(messages::printToFile(), text::fileNameOfPath(path), path));
-    workProgress::scope work(progress(), tr("Printing"));
-    const bool printed =
-        printPdf(m_preview, path, orderTitle(orderDocument::instance().order()), work.function());
-    if (printed)
-        statusBar()->showMessage(tr("Printed to %1").arg(QDir::toNativeSeparators(path)));
-    else if (work.cancelled())
-        statusBar()->showMessage(tr("Printing was cancelled"));
-    else
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+    return m_preview->parentWidget() == m_beside || m_tabs->currentWidget() == m_preview;
+}
+
+void MainWindow::orderChanged()
+{
+    orderDocument::instance().setModified(true);
+    m_unstored = true;
+    m_previewIsOld = true;
+    refreshHtml();
+    updateActions();
+}
+
+void MainWindow::showState()
+{
+    orderDocument &document = orderDocument::instance();
+    const QString &path = document.path();
+    QString shown = path.isEmpty() ? tr("New order") : QDir::toNativeSeparators(path);
+    if (document.isModified())
+        shown += QLatin1String(" *");
+    m_path->setText(shown);
+    m_path->setToolTip(document.isModified() ? tr("Changed since it was saved") : QString());
+    const std::vector<int> selected = m_order->selectedRows();
+    const bool several = selected.size() > 1;
+    const orderOperations::lineSums sums =
+        orderOperations::sumsOf(m_order->records(several ? selected : m_order->allRows()));
+    m_sums->setText((several ? tr("%n selected line(s), %1 PLN", nullptr, sums.lines)
+                             : tr("%n line(s), %1 PLN", nullptr, sums.lines))
+                        .arg(numbers::money(sums.price)));
+    updateActions();
+}
+
+void MainWindow::updateActions()
+{
+    const bool locked = m_order->linesView()->isEditingLocked();
+    const bool empty = m_order->lines()->rowCount() == 0;
+    for (const char *name :
+         {"pasteCells", "addMaterial", "addShipment", "addPCB", "editAttentions"})
+        setAvailable(name, !locked, tr("editing is locked"));
+    for (const char *name :
+         {"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS", "allUnits",
+          "allTargets", "clearPrice", "refreshPrices", "deleteLines", "deleteAll"})
+        setAvailable(name, !locked && !empty,
+                     locked ? tr("editing is locked") : tr("the order has no lines"));
+    for (const char *name : {"zpCopy", "allSum", "find", "findNext", "copyCells"})
+        setAvailable(name, !empty, tr("the order has no lines"));
+    setAvailable("archiveDD", !orderDocument::instance().path().isEmpty(),
+                 tr("the order was not saved yet"));
+}
+
+void MainWindow::showContextMenu(const QPoint &position)
+{
+    QMenu menu(this);
+    for (const char *name : {"copyCells", "pasteCells", "", "addMaterial", "addShipment", "addPCB",
+                             "", "allQuantities", "allDates", "allDescriptions", "allRoHS",
+                             "allUnits", "allTargets", "", "deleteLines"})
+        if (*name)
+            menu.addAction(action(name));
+        else
+            menu.addSeparator();
+    menu.exec(m_order->linesView()->viewport()->mapToGlobal(position));
+}
+
+void MainWindow::currentTabChanged(int)
+{
+    if (isPreviewVisible() && m_previewIsOld)
+        refreshPreview();
+}
+
+void MainWindow::commandPreviewBeside(bool on)
+{
+    if (on) {
+        m_tabs->removeTab(m_tabs->indexOf(m_preview));
+        m_beside->addWidget(m_preview);
+        m_preview->show();
+        const int half = m_beside->width() / 2;
+        m_beside->setSizes({half, half});
+    } else {
+        m_tabs->addTab(m_preview, labels::previewDo());
+    }
+    currentTabChanged(0);
+}
+
+void MainWindow::configCommand(bool)
+{
+    if (!m_config) {
+        m_config = std::make_unique<configWindow>();
+        connect(m_config.get(), &configWindow::configChange, this, &MainWindow::configChange);
+    }
+    m_config->showNow();
+}
+
+void MainWindow::configChange()
+{
+    m_order->refreshSettings();
+    refreshHtml();
 }
 
 void MainWindow::commandShowLog(bool) { logWindow::instance().showNow(); }
@@ -196,9 +467,22 @@ void MainWindow::checkUpdate()
                                          info.kivServerLink));
 }
 
-void MainWindow::closeEvent(QCloseEvent *event)
+void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    logWindow::instance().hideNow();
-    errorsWindow::instance().hideNow();
-    baseWindow::closeEvent(event);
+    baseWindow::keyPressEvent(event);
+    if (event->key() == Qt::Key_Delete && m_order->linesView()->hasFocus()
+        && action("deleteLines")->isEnabled())
+        commandDeleteLines(false);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    openFile(event->mimeData()->urls().first().toLocalFile());
 }

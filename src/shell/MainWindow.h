@@ -1,12 +1,24 @@
-// The main window: the open order and the ways to everything else.
+// The main window: the open order and the ways to everything else. Construction and what concerns
+// the program stand in MainWindow.cpp, what concerns the order in MainWindowOrder.cpp.
 #pragma once
 
+#include "commands/editCommands.h"
+#include "shell/orderOperations.h"
+#include "shell/orderRecovery.h"
 #include "window/baseWindow.h"
 
-class QTabWidget;
-class myWebView;
+#include <optional>
 
-class MainWindow : public baseWindow
+class QLabel;
+class QSplitter;
+class QTabWidget;
+class QTimer;
+class addMaterialDialog;
+class configWindow;
+class myWebView;
+class orderView;
+
+class MainWindow : public baseWindow, public htmlView
 {
     Q_OBJECT
 public:
@@ -14,26 +26,118 @@ public:
     // picture shows. What cannot be read is in the errors window, which is shown when it holds
     // anything.
     MainWindow();
+    ~MainWindow() override;
+
+    // Has the preview follow the order once the burst of changes is over.
+    void refreshHtml() override;
+
+    // Writes an order aside that was changed since it was written so last.
+    void storeRecovery();
+    // Asks whether to open the order that a run before left unsaved, if one did.
+    void offerRecovery();
+
+    orderView &view() { return *m_order; }
+    // The report brought up to date at once.
+    void refreshPreview();
 
 public slots:
+    void commandZpNew(bool);
+    void commandZpOpen(bool);
+    void commandZpSave(bool);
+    void commandZpSaveAs(bool);
     void commandZpPrint(bool);
+    void commandZpEdit(bool on);
+    void commandZpUndo(bool);
+    void commandZpRedo(bool);
+    void commandZpConfig(bool);
+    void commandCopyCells(bool);
+    void commandPasteCells(bool);
+    void commandZpCopy(bool);
+    void commandZpClear(bool);
+    void commandZpAllQuantities(bool);
+    void commandZpAllDates(bool);
+    void commandZpAllDescriptions(bool);
+    void commandZpAllRoHS(bool);
+    void commandZpAllUnits(bool);
+    void commandZpAllTargets(bool);
+    void commandZpAllSum(bool);
+    void commandZpClearPrices(bool);
+    void commandZpRefreshPrices(bool);
+    void commandZpDeleteAll(bool);
+    void commandDeleteLines(bool);
+    void commandEditAttentions(bool);
+    void commandAddMaterial(bool);
+    void commandAddShipment(bool);
+    void commandAddPCB(bool);
+    void commandFind(bool);
+    void commandFindNext(bool);
+    void commandArchiveDD(bool);
+    void commandArchiveDatabase(bool);
+    void commandPreviewBeside(bool on);
+    void configCommand(bool);
     void commandShowLog(bool);
     void commandShowErrors(bool);
     void commandHelp(bool);
     void commandAbout(bool);
     void commandExit(bool);
     void checkUpdate();
+    void configChange();
+
+    // Appends a line for each material; those of shipment and service that the order holds already
+    // are refused.
+    void appendToOrder(const materialKtms_list &ktms, uint quantity);
+    void reOrdinalRows();
+
+private slots:
+    void modelTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
+    void headerTreeClicked(QPoint position, uint buttons, int section);
+    void textEditDoubleClicked(QPoint position, uint buttons);
+    void currentTabChanged(int index);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    // --- MainWindow.cpp ---
     void buildWidgets();
     void loadDataFiles();
     void openLastOrder();
-    void refreshPreview();
-    void showPath();
+    void showDocument();
+    void orderChanged();
+    void showState();
+    void updateActions();
+    bool isPreviewVisible() const;
+    void showContextMenu(const QPoint &position);
+
+    // --- MainWindowOrder.cpp ---
+    bool closeDocument();
+    void leaveUnsaved();
+    void openFile(const QString &path);
+    bool saveTo(const QString &path);
+    bool saveAs();
+    bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
+                   const QString &what);
+    std::optional<std::vector<int>> wantedRows();
+    void appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines, const QString &what);
+    void addSpecialLine(const QString &ktm, const QString &description);
+    void deleteRows(const std::vector<int> &rows, const QString &what);
+    void push(std::unique_ptr<command> change, const QString &what);
 
     QTabWidget *m_tabs = nullptr;
+    QSplitter *m_beside = nullptr;
+    orderView *m_order = nullptr;
     myWebView *m_preview = nullptr;
+    QLabel *m_path = nullptr;
+    QLabel *m_sums = nullptr;
+    QTimer *m_refresh = nullptr;
+    QTimer *m_autoSave = nullptr;
+    std::unique_ptr<orderRecovery> m_recovery;
+    std::unique_ptr<configWindow> m_config;
+    addMaterialDialog *m_addMaterial = nullptr;
+    QString m_wanted; // what is searched in the order
+    bool m_previewIsOld = true;
+    bool m_unstored = false; // changed since the recovery copy was written
 };

@@ -1,10 +1,18 @@
 #include "shell/orderDocument.h"
 
+#include "data/loaders.h"
 #include "data/programData.h"
+#include "data/vocabulary.h"
 #include "report/orderReport.h"
+#include "shell/orderOperations.h"
+#include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 
 orderDocument::orderDocument()
     : m_order(std::make_unique<kiv_mat_zpStruct>())
@@ -17,6 +25,40 @@ orderDocument &orderDocument::instance()
     return document;
 }
 
+orderDocument::fileState orderDocument::stateOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
+}
+
+// The document belongs to that file from now on, and this program claims it where it can.
+void orderDocument::settle(const QString &path)
+{
+    m_onDisk = stateOf(path);
+    m_modified = false;
+    if (path == m_path && (m_lock || path.isEmpty()))
+        return;
+    m_path = path;
+    m_lock.reset();
+    m_otherUser.clear();
+    if (path.isEmpty())
+        return;
+    const QFileInfo info(path);
+    m_lock = std::make_unique<QLockFile>(info.absolutePath() + QLatin1String("/.") + info.fileName()
+                                         + QLatin1String(".lock"));
+    // Only the lock of a dead program is void, however old it is.
+    m_lock->setStaleLockTime(0);
+    if (m_lock->tryLock())
+        return;
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (m_lock->error() == QLockFile::LockFailedError
+        && m_lock->getLockInfo(&process, &host, &program))
+        m_otherUser = QStringLiteral("%1, %2, %3").arg(program, host).arg(process);
+    m_lock.reset();
+}
+
 bool orderDocument::load(const QString &path, bool showMessages)
 {
     auto order = std::make_unique<kiv_mat_zpStruct>();
@@ -24,12 +66,75 @@ bool orderDocument::load(const QString &path, bool showMessages)
     const bool read = programData::instance().schemaIsThere(fileKinds::order)
                       && readChecked(path, order.get(), &reason, {}, showMessages);
     m_order = read ? std::move(order) : std::make_unique<kiv_mat_zpStruct>();
-    m_path = read ? path : QString();
-    if (read)
+    settle(read ? path : QString());
+    if (read) {
         userPrompts().log(messages::done(messages::openFile(), text::fileNameOfPath(path), path));
-    else
+        listFaults();
+    } else {
         userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+    }
     return read;
+}
+
+bool orderDocument::recover(const QString &copy, const QString &path)
+{
+    auto order = std::make_unique<kiv_mat_zpStruct>();
+    if (!readChecked(copy, order.get()))
+        return false;
+    m_order = std::move(order);
+    settle(path);
+    m_modified = true;
+    return true;
+}
+
+void orderDocument::startNew()
+{
+    m_order = std::make_unique<kiv_mat_zpStruct>();
+    m_order->initialise(programData::instance().config());
+    settle({});
+}
+
+bool orderDocument::save(const QString &path)
+{
+    configStruct &config = programData::instance().config();
+    constexpr int usualCount = 20;
+    const optionStruct *count = config.options.findOption(optionKey::backupCount);
+    const QString backups = config.backupPath();
+    if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
+        userPrompts().log(messages::done(
+            QCoreApplication::translate("log", "No backup could be written "), path, backups));
+    if (saveXml(path, m_order.get()) < 0) {
+        userPrompts().showError(
+            QCoreApplication::translate("orderDocument", "The file %1 cannot be written")
+                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        return false;
+    }
+    settle(path);
+    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
+    return true;
+}
+
+bool orderDocument::changedOnDisk() const
+{
+    return !m_path.isEmpty() && !(stateOf(m_path) == m_onDisk);
+}
+
+void orderDocument::listFaults() const
+{
+    const orderOperations::lineFaults faults =
+        orderOperations::faultsOf(*m_order, programData::instance().materials());
+    const auto list = [](const QString &heading, const QStringList &ktms) {
+        if (ktms.isEmpty())
+            return;
+        QString lines = heading.toHtmlEscaped() + QLatin1String("<br>");
+        for (const QString &ktm : ktms)
+            lines += QLatin1String("<b>") + ktm.toHtmlEscaped() + QLatin1String("</b><br>");
+        userPrompts().listError(lines);
+    };
+    list(QCoreApplication::translate("orderDocument", "Materials does not exist in database:"),
+         faults.unknown);
+    list(QCoreApplication::translate("orderDocument", "Materials does not has valid status:"),
+         faults.withoutStatus);
 }
 
 QString orderDocument::report() const

@@ -3,6 +3,9 @@
 
 #include "data/kiv_mat_zpStruct.h"
 
+#include <QDateTime>
+#include <QLockFile>
+
 #include <memory>
 
 class orderDocument
@@ -14,16 +17,50 @@ public:
     // The path of the order's file; empty when it has none.
     const QString &path() const { return m_path; }
 
+    bool isModified() const { return m_modified; }
+    void setModified(bool modified) { m_modified = modified; }
+
     // Checks and reads a file; showMessages shows each fault in a box. True when it was read; else
-    // it is listed in the errors window, and the document is empty and without a path.
+    // it is listed in the errors window, and the document is empty and without a path. Lines that
+    // no database knows, or whose material may not be ordered, are listed too.
     bool load(const QString &path, bool showMessages = false);
+
+    // Reads the copy of an order that was never saved; it counts as modified, and belongs to path.
+    bool recover(const QString &copy, const QString &path);
+
+    // An empty order with the configuration's persons and target, without a path.
+    void startNew();
+
+    // Writes the order, which then belongs to that path; an earlier version goes to the backup
+    // folder. False, told to the user, with everything as it was, when it cannot be written.
+    bool save(const QString &path);
+
+    // Whether the file is another one than was read or written last.
+    bool changedOnDisk() const;
+
+    // Who else has the order open: "program, process" of the other one; empty when nobody.
+    const QString &otherUser() const { return m_otherUser; }
 
     // The page of the order with the materials of the loaded databases, as it is now.
     QString report() const;
 
 private:
+    struct fileState
+    {
+        qint64 size = -1;
+        QDateTime time;
+        bool operator==(const fileState &) const = default;
+    };
+
     orderDocument();
+    static fileState stateOf(const QString &path);
+    void settle(const QString &path);
+    void listFaults() const;
 
     std::unique_ptr<kiv_mat_zpStruct> m_order;
     QString m_path;
+    bool m_modified = false;
+    fileState m_onDisk;
+    std::unique_ptr<QLockFile> m_lock;
+    QString m_otherUser;
 };

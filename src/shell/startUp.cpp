@@ -1,5 +1,6 @@
 #include "shell/startUp.h"
 
+#include "data/configStruct.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
@@ -55,11 +56,21 @@ void listMissingLetters()
         }
 }
 
+QString userDataDir() { return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation); }
+
+// The configuration that will be read, known before the data folder is settled.
+QString configPath()
+{
+    const QString ofUser = userDataDir() + QLatin1String("/_config/kiv_mat_config.xml");
+    return !dataFolder::isWritable(paths::programDir()) && QFileInfo::exists(ofUser)
+               ? ofUser
+               : paths::config();
+}
+
 // A program that cannot write beside itself works in a folder of the user's.
 void settleDataFolder()
 {
-    const dataFolder::choice choice = dataFolder::choose(
-        paths::programDir(), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    const dataFolder::choice choice = dataFolder::choose(paths::programDir(), userDataDir());
     if (!choice.perUser)
         return;
     paths::setDataDir(choice.dir);
@@ -95,7 +106,7 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     styleIsFaulty = false;
     earlierHandler = qInstallMessageHandler(noteStyleFaults);
     applyStyleSheet();
-    translation::install(QStringLiteral("pl"));
+    translation::install(configStruct::languageIn(configPath()));
     dialogPrompts dialogs;
     installPrompts(&dialogs);
 
@@ -125,6 +136,7 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     userPrompts().showErrors();
     if (whenShown)
         whenShown(*window);
+    window->offerRecovery();
 
     const int code = QApplication::exec();
 

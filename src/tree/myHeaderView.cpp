@@ -6,6 +6,7 @@ myHeaderView::myHeaderView(QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent)
 {
     setSectionsMovable(true);
+    setTextElideMode(Qt::ElideRight);
     setSortIndicator(-1, Qt::AscendingOrder);
     connect(this, &QHeaderView::sectionClicked, this, &myHeaderView::clickedSection);
 }

@@ -341,8 +341,10 @@ QVariant valueOf(const myItemStandard &item)
 
 void setValue(myItemStandard *item, const QVariant &value)
 {
-    if (!onTyped<bool>(*item, valueWriter{value}, false))
-        item->setText(value.toString());
+    if (value.type() == QVariant::String)
+        setStoredText(item, value.toString());
+    else
+        onTyped<bool>(*item, valueWriter{value}, false);
 }
 
 void restore(myItemStandard *item, const QVariant &value, const QString &text)
@@ -367,6 +369,15 @@ void setStoredText(myItemStandard *item, const QString &text)
     case dateEditKind:
         static_cast<myItemDateEdit *>(item)->setStoredText(text);
         break;
+    case fontComboBoxKind:
+        static_cast<myItemFontComboBox *>(item)->setChosenFont(QFont(text));
+        break;
+    case progressBarKind:
+        static_cast<myItemProgressBar *>(item)->setValue(text.toInt());
+        break;
+    case doubleSpinBoxKind:
+        static_cast<myItemDoubleSpinBox *>(item)->setValue(numbers::value(text));
+        break;
     case checkBoxKind:
         static_cast<myItemCheckBox *>(item)->setCheckState(isYes(text) ? Qt::Checked
                                                                        : Qt::Unchecked);
@@ -379,14 +390,18 @@ void setStoredText(myItemStandard *item, const QString &text)
 
 bool isForeign(const myItemStandard &item) { return item.text() != canonicalText(item); }
 
-bool hasValue(const myItemStandard &item, const QVariant &value)
+bool differs(const myItemStandard &item, const QVariant &value)
 {
+    if (value.type() == QVariant::String)
+        return item.text() != value.toString();
+    if (isForeign(item))
+        return true;
     if (item.type() == dateEditKind)
         return dateText(static_cast<const myItemDateEdit &>(item).date())
-               == dateText(value.toDate());
+               != dateText(value.toDate());
     if (item.type() == fontComboBoxKind)
-        return valueOf(item).value<QFont>() == value.value<QFont>();
-    return valueOf(item) == value;
+        return valueOf(item).value<QFont>() != value.value<QFont>();
+    return valueOf(item) != value;
 }
 
 QVariant parsed(const myItemStandard &item, const QString &typed)
@@ -401,7 +416,8 @@ QVariant parsed(const myItemStandard &item, const QString &typed)
                 || entry.shown.compare(trimmed, Qt::CaseInsensitive) == 0)
                 return i;
         }
-        return {};
+        return combo.canBeTyped && !trimmed.isEmpty() ? QVariant(text::storable(trimmed))
+                                                      : QVariant();
     }
     case progressBarKind:
     case spinBoxKind: {

@@ -18,6 +18,9 @@ struct comboBoxStruct;
 
 namespace myItem {
 
+// True in a path that is to be chosen as a file, not as a folder.
+constexpr int fileRole = Qt::UserRole + 1;
+
 // What type() returns.
 enum kind
 {
@@ -249,7 +252,7 @@ using myItemTextEdit = textItem<textEditKind>; // the text is HTML
 using myItemPathEdit = textItem<pathEditKind>;
 
 // The typed value: int (combo box: the index; check box: the state), double, QDate, QFont or
-// QString.
+// QString. Every kind also takes a QString, as a text that a file holds.
 QVariant valueOf(const myItemStandard &item);
 // Sets it, and the text that follows from it.
 void setValue(myItemStandard *item, const QVariant &value);
@@ -262,8 +265,9 @@ void setStoredText(myItemStandard *item, const QString &text);
 // Whether the text is another one than the value would give: kept from a file until it is edited.
 bool isForeign(const myItemStandard &item);
 
-// Whether the value is the item's. Doubles are compared exactly, dates by their texts.
-bool hasValue(const myItemStandard &item, const QVariant &value);
+// Whether setting the value would change the item. Doubles are compared exactly, dates by their
+// texts; a text that is no proper one for the value is changed too.
+bool differs(const myItemStandard &item, const QVariant &value);
 
 // The value of a typed or pasted text; invalid when the text does not fit the item's kind.
 QVariant parsed(const myItemStandard &item, const QString &text);

@@ -68,7 +68,7 @@ void myModel::fetch(QStandardItem *item)
     if (!item || item == invisibleRootItem() || item->type() < myItem::standardKind)
         return;
     auto *first = static_cast<myItemStandard *>(item);
-    if (!std::exchange(first->childrenPending, false) || !m_records)
+    if (!m_records || !std::exchange(first->childrenPending, false))
         return;
     for (const myItem::row &row : m_records->childRows(first))
         first->appendRow(row);
@@ -81,7 +81,7 @@ void myModel::setValue(myItemStandard *item, const QVariant &value)
         writeCell(item);
         return;
     }
-    if (myItem::hasValue(*item, value) && !myItem::isForeign(*item))
+    if (!myItem::differs(*item, value))
         return;
     const QString what = headerData(item->column(), Qt::Horizontal).toString();
     m_stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(this, item, value)),

@@ -4,6 +4,7 @@
 #include "tree/myCalendarWidget.h"
 #include "tree/myModel.h"
 #include "tree/richtexteditDialog.h"
+#include "util/paths.h"
 #include "util/text.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontComboBox>
 #include <QLineEdit>
 #include <QPainter>
@@ -126,13 +128,17 @@ myCalendarWidget *makeCalendar(QWidget *parent, const myItemDateEdit &item)
     return calendar;
 }
 
-QFileDialog *makePathDialog(QWidget *parent, const QString &path)
+void loadPath(QFileDialog *dialog, const myItemStandard &item)
 {
-    auto *dialog = new QFileDialog(parent->window());
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setDirectory(path);
-    return dialog;
+    const QString path = paths::data(item.text());
+    if (item.data(fileRole).toBool()) {
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        dialog->setDirectory(QFileInfo(path).absolutePath());
+        dialog->selectFile(path);
+    } else {
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setDirectory(path);
+    }
 }
 
 // The typed text may be none of the entries; then it becomes one.
@@ -172,6 +178,7 @@ void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
     option.textElideMode = Qt::ElideRight;
     option.text = myItem::displayText(*item);
     option.features |= QStyleOptionViewItem::HasDisplay;
+    option.decorationSize = QSize(option.rect.height() - 2, option.rect.height() - 2);
 
     QColor behind = given.palette.color(option.features & QStyleOptionViewItem::Alternate
                                             ? QPalette::AlternateBase
@@ -202,7 +209,6 @@ void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
             break;
         option.icon = icon;
         option.features |= QStyleOptionViewItem::HasDecoration;
-        option.decorationSize = QSize(option.rect.height() - 2, option.rect.height() - 2);
         break;
     }
     case spinBoxKind:
@@ -346,7 +352,9 @@ QWidget *myModelDelegate::makeEditor(QWidget *parent, const myItemStandard &item
         return box;
     }
     case pathEditKind: {
-        QFileDialog *dialog = makePathDialog(parent, item.text());
+        auto *dialog = new QFileDialog(parent->window());
+        dialog->setOption(QFileDialog::DontUseNativeDialog);
+        loadPath(dialog, item);
         closeWith(dialog);
         return dialog;
     }
@@ -427,12 +435,9 @@ void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
     case fontComboBoxKind:
         static_cast<QFontComboBox *>(editor)->setCurrentFont(value.value<QFont>());
         break;
-    case pathEditKind: {
-        auto *dialog = static_cast<QFileDialog *>(editor);
-        dialog->setFileMode(QFileDialog::Directory);
-        dialog->setDirectory(item->text());
+    case pathEditKind:
+        loadPath(static_cast<QFileDialog *>(editor), *item);
         break;
-    }
     case labelKind:
     case lineEditKind:
         // They have their text since they were made.

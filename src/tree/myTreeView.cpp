@@ -23,7 +23,7 @@ myTreeView::myTreeView(QWidget *parent)
     setTabKeyNavigation(true);
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectItems);
-    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setEditTriggers(usualTriggers);
     auto *delegate = new myModelDelegate(this);
     setItemDelegate(delegate);
     // Escape in an editor ends there and never comes here as a key.
@@ -50,6 +50,11 @@ void myTreeView::setModel(QAbstractItemModel *newModel)
                     if (row.isValid() && row.row() >= first && row.row() <= last)
                         clearHighlight();
                 });
+}
+
+void myTreeView::setEditingLocked(bool locked)
+{
+    setEditTriggers(locked ? EditTriggers(NoEditTriggers) : EditTriggers(usualTriggers));
 }
 
 void myTreeView::expandItem(QStandardItem *item)
@@ -151,12 +156,15 @@ void myTreeView::keyPressEvent(QKeyEvent *event)
             // The delegate writes the value once the events before are done.
             QMetaObject::invokeMethod(this, &myTreeView::keyEnter, Qt::QueuedConnection);
         } else {
-            edit(currentIndex(), AllEditTriggers, event);
+            if (!isEditingLocked())
+                edit(currentIndex(), AllEditTriggers, event);
             emit keyEnter();
         }
         break;
     case Qt::Key_Left:
     case Qt::Key_Right:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
         moveHighlight();
         break;
     case Qt::Key_Up:

@@ -21,6 +21,10 @@ public:
     void expandItem(QStandardItem *item);
     void collapseItem(QStandardItem *item);
 
+    // While locked no editor opens.
+    void setEditingLocked(bool locked);
+    bool isEditingLocked() const { return editTriggers() == NoEditTriggers; }
+
     // The cells selected, in the order in which they are seen.
     QModelIndexList selectedCells() const;
 
@@ -46,6 +50,8 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
+    static constexpr EditTriggers usualTriggers = DoubleClicked | EditKeyPressed | AnyKeyPressed;
+
     // Marks the current row in place of the one before. Touches these two rows only.
     void moveHighlight();
     void clearHighlight();

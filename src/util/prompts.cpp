@@ -28,6 +28,8 @@ prompts *installed = nullptr;
 void prompts::showError(const QString &) {}
 void prompts::showInformation(const QString &) {}
 prompts::answer prompts::ask(const QString &, bool) { return answer::no; }
+std::optional<int> prompts::decide(const QString &, const QStringList &) { return {}; }
+
 std::optional<QString> prompts::inputText(const QString &, const QString &, const QString &)
 {
     return {};

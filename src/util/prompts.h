@@ -34,6 +34,10 @@ public:
     // answers cancel, or no where there is no Cancel.
     virtual answer ask(const QString &html, bool withCancel);
 
+    // A question with a button for each answer, which names what it does; the number of the one
+    // pressed, nothing when the box was closed otherwise.
+    virtual std::optional<int> decide(const QString &html, const QStringList &buttons);
+
     // One value in a small dialog; nothing when the user gives none.
     virtual std::optional<QString> inputText(const QString &title, const QString &label,
                                              const QString &initial);

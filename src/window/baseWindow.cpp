@@ -19,6 +19,8 @@ namespace {
 
 QString translated(const char *text) { return QCoreApplication::translate("actions", text); }
 
+constexpr const char *usualToolTip = "usualToolTip";
+
 // The children whose layout the user can change, by the method that gives and takes it.
 template <class Widget>
 void saveChildren(const QWidget *window, QSettings &settings)
@@ -49,6 +51,19 @@ baseWindow::baseWindow(const QString &name, QWidget *parent)
 QAction *baseWindow::action(const char *name) const
 {
     return findChild<QAction *>(QLatin1String(name));
+}
+
+void baseWindow::setAvailable(const char *name, bool available, const QString &whyNot)
+{
+    QAction *const found = action(name);
+    if (!found)
+        return;
+    const QVariant usual = found->property(usualToolTip);
+    if (!usual.isValid())
+        found->setProperty(usualToolTip, found->toolTip());
+    const QString toolTip = found->property(usualToolTip).toString();
+    found->setEnabled(available);
+    found->setToolTip(available ? toolTip : QStringLiteral("%1: %2").arg(toolTip, whyNot));
 }
 
 QMenu *baseWindow::menuOf(const char *title)

@@ -39,6 +39,9 @@ public:
     // The action of that name; null when there is none.
     QAction *action(const char *name) const;
 
+    // Enables an action, or disables it and has its tool tip say why.
+    void setAvailable(const char *name, bool available, const QString &whyNot);
+
     // Where long work shows how far it is.
     workProgress &progress() { return *m_progress; }
 

@@ -70,6 +70,19 @@ prompts::answer dialogPrompts::ask(const QString &html, bool withCancel)
     return withCancel && question.clickedButton() == cancel ? answer::cancel : answer::no;
 }
 
+std::optional<int> dialogPrompts::decide(const QString &html, const QStringList &buttons)
+{
+    box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")), html);
+    question.setIcon(QMessageBox::Question);
+    QList<QAbstractButton *> made;
+    for (const QString &button : buttons)
+        made.append(question.addButton(button, QMessageBox::ActionRole));
+    question.setEscapeButton(question.addButton(labels::cancel(), QMessageBox::RejectRole));
+    question.exec();
+    const int pressed = made.indexOf(question.clickedButton());
+    return pressed < 0 ? std::nullopt : std::optional(pressed);
+}
+
 std::optional<QString> dialogPrompts::inputText(const QString &title, const QString &label,
                                                 const QString &initial)
 {

@@ -20,6 +20,7 @@ private slots:
     void changesAreWritten();
     void polishPathsAndLanguage();
     void runsWithoutDisplayAndHome();
+    void archives();
 
 private:
     struct result
@@ -53,6 +54,9 @@ void tst_cli::init()
     QVERIFY(QFile::copy(KIVZP_CLI, m_folder->path("kivzp-cli")));
     m_folder->write("good.xml", order("<order_items><order_item><ktm>K</ktm><price>2</price>"
                                       "<quantity>3</quantity></order_item></order_items>"));
+    // Of the helpers only one is there, and that cannot be started.
+    QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"),
+                          QFile::ReadOwner | QFile::ExeOwner);
     m_folder->write("bad.xml", order("\n<colour/>"));
     m_folder->write("cut.xml", order("<options>"));
     m_folder->write("twice.xml",
@@ -119,7 +123,22 @@ void tst_cli::calls_data()
     row("report good.xml -d none.xml -o out.html", 1, "", "none.xml");
     row("report good.xml -d good.xml -o out.html", 1, "", "is no material database");
     row("report good.xml -o new/sub/out.html", 0, "", "");
+    row("find ktm:k -d twice.xml", 0, "K\t", "");
+    row("find K -n 1 -d twice.xml", 0, "K\t", "1 of 2 materials shown");
+    row("find K -n 0 -d twice.xml -d twice.xml", 0, "K\t", "");
+    row("find none -d twice.xml", 1, "", "nothing found");
+    row("find colour:red -d twice.xml", 2, "", "There is no field colour");
+    row("find K", 2, "", "-d");
+    row("find K -n x -d twice.xml", 2, "", "x is no number");
+    row("find -d twice.xml", 2, "", "argument is missing");
+    row("find K -d good.xml", 1, "", "is no material database");
     row("report good.xml -o good.xml/out.pdf", 3, "", "cannot be written");
+    row("helpers", 1, "_bin/zip.exe: found", "KIV_TEMPLATE_DOC.exe: not found");
+    row("pack _validator out.zip", 1, "", "cannot be started");
+    row("pack none new.zip", 1, "", "Folder does not exist [none]");
+    row("unpack good.xml out", 1, "", "Archive cannot be read [good.xml]");
+    row("unpack good.xml", 2, "", "argument is missing");
+    row("download http://127.0.0.1:1/ out.bin", 1, "", "cannot be started");
     row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.DbLib", "[Group]");
     row("altium twice.xml -o out.SQLITE", 0, "out.SQLITE\nout.txt\nout.DbLib", "[Group]");
     row("altium twice.xml -o out.txt", 2, "", ".xlsx / .sqlite");
@@ -253,6 +272,26 @@ void tst_cli::runsWithoutDisplayAndHome()
                               {"DISPLAY", "HOME", "XDG_RUNTIME_DIR", "WAYLAND_DISPLAY"});
     QCOMPARE(called.err, QString());
     QCOMPARE(called.code, 0);
+}
+
+void tst_cli::archives()
+{
+    QFile::remove(m_folder->path("_bin/zip.exe"));
+    testSupport::copyFolder(testSupport::source("_bin"), m_folder->path("_bin"));
+    QCOMPARE(run({"helpers"}).code, 0);
+    qputenv("KIVZP_ARCHIVE_PASSWORD", "two words");
+    const result packed = run({"pack", "_validator", "a.zip"});
+    const result unpacked = run({"unpack", "a.zip", "out"});
+    qputenv("KIVZP_ARCHIVE_PASSWORD", "wrong");
+    const result refused = run({"unpack", "a.zip", "out2"});
+    qunsetenv("KIVZP_ARCHIVE_PASSWORD");
+    QVERIFY2(packed.code == 0 && packed.err.contains("Compression complete"),
+             qPrintable(packed.err));
+    QVERIFY2(unpacked.code == 0, qPrintable(unpacked.err));
+    QCOMPARE(testSupport::read(m_folder->path("out/kiv.xsd")),
+             testSupport::read(m_folder->path("_validator/kiv.xsd")));
+    QCOMPARE(refused.code, 1);
+    QVERIFY(!QFile::exists(m_folder->path("out2/kiv.xsd")));
 }
 
 KIVZP_TEST(tst_cli)

@@ -2,11 +2,16 @@
 //   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
 #include "dialogs/aboutDialog.h"
+#include "dialogs/addMaterialDialog.h"
+#include "dialogs/linesDialog.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
+#include "shell/orderDocument.h"
+#include "shell/orderView.h"
 #include "shell/startupDialog.h"
 #include "shell/userState.h"
+#include "tree/richtexteditDialog.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -17,6 +22,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLineEdit>
 
 #include <cstdio>
 
@@ -68,12 +74,73 @@ QWidget *showAbout(MainWindow &window)
     return dialog;
 }
 
+template <class Show>
+QWidget *shownBy(MainWindow &window, const char *name, const Show &show)
+{
+    show();
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+            return widget;
+    return &window;
+}
+
+QWidget *showBeside(MainWindow &window)
+{
+    window.action("previewBeside")->setChecked(true);
+    window.resize(1600, 900);
+    return &window;
+}
+
+QWidget *showEmpty(MainWindow &window)
+{
+    window.action("previewBeside")->setChecked(false);
+    window.resize(1240, 820);
+    window.commandZpNew(true);
+    return &window;
+}
+
+QWidget *showConfig(MainWindow &window)
+{
+    return shownBy(window, "configWindow", [&] { window.configCommand(true); });
+}
+
+QWidget *showAddMaterial(MainWindow &window)
+{
+    window.commandAddMaterial(true);
+    auto *dialog = window.findChild<addMaterialDialog *>();
+    dialog->findChild<QLineEdit *>(QStringLiteral("words"))
+        ->setText(QStringLiteral("rezystor 0603 stock:>100"));
+    return dialog;
+}
+
+QWidget *showLines(MainWindow &window)
+{
+    auto *dialog =
+        new linesDialog(linesDialog::copying, window.view().lineRows().columns(), true, &window);
+    dialog->show();
+    return dialog;
+}
+
+QWidget *showRichText(MainWindow &window)
+{
+    auto *dialog = new richtexteditDialog(&window);
+    dialog->setHtml(orderDocument::instance().order().attentions);
+    dialog->show();
+    return dialog;
+}
+
 const picture pictures[] = {
     {"main", [](MainWindow &window) -> QWidget * { return &window; }},
     {"splash", showSplash},
     {"log", showLog},
     {"errors", showErrors},
     {"about", showAbout},
+    {"addMaterial", showAddMaterial},
+    {"config", showConfig},
+    {"lines", showLines},
+    {"richText", showRichText},
+    {"mainBeside", showBeside},
+    {"mainEmpty", showEmpty},
 };
 
 void settle()

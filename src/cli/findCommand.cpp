@@ -1,0 +1,83 @@
+// find: searches the materials of databases.
+#include "cli/arguments.h"
+
+#include "data/materialSearch.h"
+
+#include <QCoreApplication>
+
+namespace cli {
+
+namespace {
+
+constexpr int shownAtMost = 200;
+
+int runFind(const QStringList &arguments)
+{
+    parser options(findCommand, QStringLiteral("WORDS..."), 1, -1);
+    const QCommandLineOption database(
+        {QStringLiteral("d"), QStringLiteral("database")},
+        QCoreApplication::translate("cli",
+                                    "A material database to search. May be given several times."),
+        QStringLiteral("DB"));
+    const QCommandLineOption number(
+        {QStringLiteral("n"), QStringLiteral("number")},
+        QCoreApplication::translate("cli", "How many materials to print at most (0: all)."),
+        QStringLiteral("N"), QString::number(shownAtMost));
+    options.addOption(database);
+    options.addOption(number);
+    if (!options.accept(arguments))
+        return options.code();
+    const auto refuse = [](const QString &fault) {
+        err() << "find: " << fault << '\n' << Qt::flush;
+        return wrongCall;
+    };
+    bool isNumber = false;
+    int limit = options.value(number).toInt(&isNumber);
+    if (!isNumber || limit < 0)
+        return refuse(QCoreApplication::translate("cli", "%1 is no number of materials")
+                          .arg(options.value(number)));
+    if (limit == 0)
+        limit = std::numeric_limits<int>::max();
+    if (!options.isSet(database))
+        return refuse(QCoreApplication::translate("cli", "give a database with -d"));
+    const searchQuery query =
+        searchQuery::parse(options.positionalArguments().join(QLatin1Char(' ')));
+    if (!query.errors().isEmpty())
+        return refuse(query.errors().join(QLatin1String("; ")));
+
+    databaseSet databases;
+    if (!databases.load(options.values(database)))
+        return refused;
+    materialSearch search;
+    for (const auto &loaded : databases.all())
+        search.add(loaded.get());
+    const materialSearch::result found = search.find(query, limit);
+    for (const materialSearch::entry &entry : found.entries) {
+        const materialStruct &m = *entry.material;
+        QStringList cells{m.d_ktm,         m.d_name, m.d_description, m.d_value,           m.d_case,
+                          m.d_inWarehouse, m.d_unit, m.d_price,       m.information.status};
+        // Tabs and line ends would break the columns.
+        for (QString &cell : cells)
+            cell = cell.simplified();
+        out() << cells.join(QLatin1Char('\t')) << '\n';
+    }
+    out() << Qt::flush;
+    if (found.total == 0) {
+        err() << QCoreApplication::translate("cli", "nothing found") << '\n' << Qt::flush;
+        return refused;
+    }
+    if (found.total > int(found.entries.size()))
+        err() << QCoreApplication::translate("cli", "%1 of %2 materials shown")
+                     .arg(found.entries.size())
+                     .arg(found.total)
+              << '\n'
+              << Qt::flush;
+    return done;
+}
+
+} // namespace
+
+const subcommand findCommand{
+    "find", QT_TRANSLATE_NOOP("cli", "Searches the materials of databases."), runFind};
+
+} // namespace cli

@@ -1,0 +1,111 @@
+// helpers: where the helper programs are. download, pack, unpack: what they do for the program.
+#include "cli/arguments.h"
+
+#include "tools/curl_download.h"
+#include "tools/helpers.h"
+#include "tools/zip_compress.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace cli {
+
+namespace {
+
+// Exit codes of curl and unzip that say the target could not be written.
+constexpr int curlNotWritten = 23;
+constexpr int unzipDiskFull = 50;
+
+// What the helper says goes to standard error as it comes.
+template <class Runner>
+void showProgress(const Runner &runner)
+{
+    QObject::connect(&runner, &Runner::updateProgress, &runner, [](const QString &text) {
+        err() << text << '\n' << Qt::flush;
+    });
+}
+
+// From the environment, where other users do not see it.
+QString archivePassword() { return qEnvironmentVariable("KIVZP_ARCHIVE_PASSWORD"); }
+
+int runHelpers(const QStringList &arguments)
+{
+    parser options(helpersCommand, QString(), 0, 0);
+    if (!options.accept(arguments))
+        return options.code();
+    int result = done;
+    for (const QString &name : helpers::all()) {
+        const QString path = helpers::path(name);
+        if (QFileInfo(path).isExecutable()) {
+            out() << path << ": " << QCoreApplication::translate("cli", "found") << '\n';
+        } else {
+            err() << path << ": " << QCoreApplication::translate("cli", "not found") << '\n';
+            result = refused;
+        }
+    }
+    out() << Qt::flush;
+    err() << Qt::flush;
+    return result;
+}
+
+int runDownload(const QStringList &arguments)
+{
+    parser options(downloadCommand, QStringLiteral("ADDRESS FILE"), 2, 2);
+    if (!options.accept(arguments))
+        return options.code();
+    curl_download runner;
+    showProgress(runner);
+    runner.start(options.positionalArguments().at(0), options.positionalArguments().at(1));
+    if (runner.wait() == curlNotWritten)
+        return notWritten;
+    return runner.failed() ? refused : done;
+}
+
+int runPack(const QStringList &arguments)
+{
+    parser options(packCommand, QStringLiteral("FOLDER ARCHIVE"), 2, 2);
+    if (!options.accept(arguments))
+        return options.code();
+    zip_compress runner;
+    showProgress(runner);
+    runner.compress(options.positionalArguments().at(0), options.positionalArguments().at(1),
+                    archivePassword());
+    const int result = runner.wait();
+    if (result == childRunner::notStarted)
+        return refused;
+    return result == 0 ? done : notWritten;
+}
+
+int runUnpack(const QStringList &arguments)
+{
+    parser options(unpackCommand, QStringLiteral("ARCHIVE FOLDER"), 2, 2);
+    if (!options.accept(arguments))
+        return options.code();
+    zip_compress runner;
+    showProgress(runner);
+    runner.decompress(options.positionalArguments().at(0), options.positionalArguments().at(1),
+                      archivePassword());
+    const int result = runner.wait();
+    if (result == unzipDiskFull)
+        return notWritten;
+    return result == 0 ? done : refused;
+}
+
+} // namespace
+
+const subcommand helpersCommand{
+    "helpers", QT_TRANSLATE_NOOP("cli", "Tells where the helper programs are."), runHelpers};
+const subcommand downloadCommand{"download", QT_TRANSLATE_NOOP("cli", "Downloads a file."),
+                                 runDownload};
+const subcommand packCommand{
+    "pack",
+    QT_TRANSLATE_NOOP(
+        "cli", "Packs a folder into a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold a password."),
+    runPack};
+const subcommand unpackCommand{
+    "unpack",
+    QT_TRANSLATE_NOOP("cli",
+                      "Unpacks a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold its password."),
+    runUnpack};
+
+} // namespace cli

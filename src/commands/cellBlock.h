@@ -1,0 +1,50 @@
+// Copying, pasting and setting many cells at once, each as one step of the undo history.
+#pragma once
+
+#include "commands/command.h"
+#include "tree/myItem.h"
+
+#include <QModelIndexList>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class htmlView;
+class myModel;
+
+namespace cellBlock {
+
+// The cells' texts: tabs between those of a row, a line for each row. Cells come in the order in
+// which they are seen. Tabs and line ends within a text become blanks.
+QString copied(const QModelIndexList &cells);
+
+enum whichCells
+{
+    editableOnly,
+    readOnlyToo
+};
+
+// One step that gives each cell what value() says for it; cells that take no value (read-only, or
+// value() is invalid) or have it already are left out. Null when none changes. With a view, the
+// step ends with its refresh.
+std::unique_ptr<command> set(myModel *model, const QList<myItem::myItemStandard *> &cells,
+                             const std::function<QVariant(const myItem::myItemStandard &)> &value,
+                             htmlView *view = nullptr, whichCells which = editableOnly);
+
+// One step that empties the cells.
+std::unique_ptr<command> clear(myModel *model, const QList<myItem::myItemStandard *> &cells,
+                               htmlView *view = nullptr);
+
+struct pasted
+{
+    std::unique_ptr<command> change; // null when nothing changed
+    int changed = 0;
+    QStringList refused; // "column, row: text" of what does not fit its cell
+};
+// Pastes tab-separated text into the cells from start on, to the right along the given columns and
+// down along its sisters; a single text goes into all the selected cells.
+pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
+             const QList<int> &columns, const QString &text, htmlView *view = nullptr);
+
+} // namespace cellBlock

@@ -1,0 +1,54 @@
+// The fields by which materials are searched, in one table: their names in a query, where their
+// texts stand, and whether they are words, numbers, or found by any word.
+#pragma once
+
+#include "util/quantity.h"
+
+#include <QString>
+
+#include <array>
+#include <string>
+#include <vector>
+
+class d_groupStruct;
+class materialStruct;
+
+struct searchField
+{
+    enum fieldKind
+    {
+        key,      // searched by any word, and matches in it come first
+        text,     // searched by any word
+        measure,  // a number with a unit: searched by any word and by any equal number
+        number,   // a number, searched by its name only
+        yesNo,    // TAK or NIE, searched by its name only
+        colour,   // a status word, searched by any word
+        plainText // a text searched by its name only
+    };
+    using textList = std::vector<const QString *>;
+
+    // English and Polish names, folded.
+    std::vector<const char *> names;
+    fieldKind kind;
+    // Appends the field's texts of a material in a group (null: in none).
+    void (*collect)(const materialStruct &material, const d_groupStruct *group, textList &texts);
+
+    bool numeric() const { return kind == measure || kind == number; }
+    bool byAnyWord() const
+    {
+        return kind == key || kind == text || kind == measure || kind == colour;
+    }
+
+    // All of them: the keys first, then those found by any word, then the others.
+    static const std::vector<searchField> &all();
+    // The field with that name, or null.
+    static const searchField *find(const std::string &foldedName);
+    // The numeric ones, and the place of one among them.
+    static constexpr size_t numericCount = 8;
+    static const std::array<const searchField *, numericCount> &numericFields();
+    size_t numericPlace() const;
+};
+
+// Texts stand in files in Polish; what a user may type for one instead, folded: "green" for
+// "zielony", "yes" for "tak". Empty when there is none.
+std::string storedWord(const std::string &foldedWord);

@@ -1,0 +1,194 @@
+#include "dialogs/addMaterialDialog.h"
+
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/programData.h"
+#include "shell/orderTree.h"
+#include "util/labels.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <set>
+
+namespace {
+
+constexpr int shownMaterials = 200;
+
+struct foundColumn
+{
+    QString (*label)();
+    int width;
+    QString materialStruct::*text; // null: the status
+    bool isNumber;
+};
+
+const foundColumn columns[] = {
+    {labels::name, 190, &materialStruct::d_name, false},
+    {labels::ktm, 180, &materialStruct::d_ktm, false},
+    {labels::value, 90, &materialStruct::d_value, false},
+    {labels::case_, 90, &materialStruct::d_case, false},
+    {labels::description, 240, &materialStruct::d_description, false},
+    {labels::inWarehouse, 140, &materialStruct::d_inWarehouse, true},
+    {labels::price, 80, &materialStruct::d_price, true},
+    {labels::status, 110, nullptr, false},
+};
+
+QString statusIcon(const QString &status)
+{
+    for (const comboBoxStruct &known : programData::instance().config().statuses)
+        if (known.value == status)
+            return known.icon;
+    return {};
+}
+
+QList<QStandardItem *> rowOf(const materialStruct &material)
+{
+    QList<QStandardItem *> row;
+    for (const foundColumn &column : columns) {
+        auto *item =
+            new QStandardItem(column.text ? material.*column.text : material.information.status);
+        item->setEditable(false);
+        item->setToolTip(item->text());
+        if (column.isNumber)
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        if (!column.text)
+            item->setIcon(QIcon(statusIcon(material.information.status)));
+        row.append(item);
+    }
+    row.first()->setData(material.d_ktm);
+    return row;
+}
+
+} // namespace
+
+addMaterialDialog::addMaterialDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_words(new QLineEdit(this))
+    , m_view(new QTreeView(this))
+    , m_found(new QStandardItemModel(this))
+    , m_quantity(new QSpinBox(this))
+    , m_add(new QPushButton(tr("Add to the order"), this))
+    , m_count(new QLabel(this))
+{
+    setWindowTitle(tr("Add material"));
+    m_words->setObjectName(QStringLiteral("words"));
+    m_words->setAccessibleName(tr("Words to search for"));
+    m_words->setPlaceholderText(
+        tr("Name, KTM, value, part number: 100n 0603, case:SOT23, price:<2"));
+    m_words->setClearButtonEnabled(true);
+    m_words->installEventFilter(this);
+    m_view->setObjectName(QStringLiteral("found"));
+    m_view->setAccessibleName(tr("Materials found"));
+    m_view->setModel(m_found);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAlternatingRowColors(true);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_quantity->setObjectName(QStringLiteral("quantity"));
+    m_quantity->setAccessibleName(labels::quantity());
+    m_quantity->setRange(1, orderTree::quantityMaximum);
+    m_add->setDefault(true);
+    auto *close = new QPushButton(tr("Close"), this);
+    close->setAutoDefault(false);
+
+    QStringList captions;
+    for (const foundColumn &column : columns)
+        captions.append(column.label());
+    m_found->setHorizontalHeaderLabels(captions);
+    for (int i = 0; i < captions.size(); ++i)
+        m_view->header()->resizeSection(i, columns[i].width);
+
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(m_count, 1);
+    bottom->addWidget(new QLabel(labels::quantity(), this));
+    bottom->addWidget(m_quantity);
+    bottom->addWidget(m_add);
+    bottom->addWidget(close);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_words);
+    layout->addWidget(m_view);
+    layout->addLayout(bottom);
+    constexpr QSize usualSize(1100, 560);
+    resize(usualSize);
+
+    connect(m_words, &QLineEdit::textChanged, this, &addMaterialDialog::search);
+    connect(m_view, &QTreeView::doubleClicked, this, &addMaterialDialog::add);
+    connect(m_add, &QPushButton::clicked, this, &addMaterialDialog::add);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void addMaterialDialog::showNow()
+{
+    show();
+    raise();
+    activateWindow();
+}
+
+void addMaterialDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    m_words->setFocus();
+    m_words->selectAll();
+    search();
+}
+
+void addMaterialDialog::search()
+{
+    const searchQuery query = searchQuery::parse(m_words->text());
+    const materialSearch::result result =
+        programData::instance().search().find(query, shownMaterials);
+    m_found->removeRows(0, m_found->rowCount());
+    for (const materialSearch::entry &entry : result.entries)
+        m_found->appendRow(rowOf(*entry.material));
+    if (m_found->rowCount() > 0)
+        m_view->setCurrentIndex(m_found->index(0, 0));
+    m_add->setEnabled(m_found->rowCount() > 0);
+    QString told = tr("%n material(s)", nullptr, result.total);
+    if (result.total > shownMaterials)
+        told += QLatin1String(", ") + tr("the first %1 are shown").arg(shownMaterials);
+    if (!query.errors().isEmpty())
+        told = query.errors().join(QLatin1String(", "));
+    m_count->setText(told);
+}
+
+void addMaterialDialog::add()
+{
+    std::set<int> rows;
+    for (const QModelIndex &index : m_view->selectionModel()->selectedIndexes())
+        rows.insert(index.row());
+    QStringList ktms;
+    for (int row : rows)
+        ktms.append(m_found->item(row)->data().toString());
+    if (ktms.isEmpty())
+        return;
+    emit wanted(ktms, uint(m_quantity->value()));
+    m_count->setText(tr("%n line(s) added to the order", nullptr, ktms.size()));
+    m_words->setFocus();
+    m_words->selectAll();
+}
+
+bool addMaterialDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_words && event->type() == QEvent::KeyPress)
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            QApplication::sendEvent(m_view, event);
+            return true;
+        default:
+            break;
+        }
+    return QDialog::eventFilter(watched, event);
+}

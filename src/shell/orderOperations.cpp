@@ -1,0 +1,183 @@
+#include "shell/orderOperations.h"
+
+#include "data/configStruct.h"
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/loaders.h"
+#include "data/programData.h"
+#include "data/vocabulary.h"
+#include "util/fileVersions.h"
+#include "util/labels.h"
+#include "util/numbers.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orderOperations {
+
+namespace {
+
+const QString shipmentPrefix = QStringLiteral("SRV-000.10");
+const QString serviceKtm = QStringLiteral("SRV-000.001");
+constexpr int shipmentLines = 10;
+
+bool isCount(const QString &text, double *value)
+{
+    *value = numbers::value(text);
+    return numbers::check(text) && std::isfinite(*value);
+}
+
+void appendOnce(QStringList &list, const QString &text)
+{
+    if (!text.isEmpty() && !list.contains(text))
+        list.append(text);
+}
+
+} // namespace
+
+lineState stateOf(const orderItemStruct &line, const ktmIndex &materials)
+{
+    lineState state;
+    if (const ktmIndex::entry *found = materials.find(line.ktm)) {
+        state.known = true;
+        state.status = found->material->information.status;
+    }
+    double wanted = 0;
+    double there = 0;
+    if (isCount(line.quantity, &wanted) && isCount(line.inWarehouse, &there))
+        state.inStock = there >= wanted ? stock::enough : stock::tooLittle;
+    return state;
+}
+
+bool isOrderable(const QString &status)
+{
+    const QString word = status.trimmed();
+    return !word.isEmpty() && word.compare(statusWord::grey, Qt::CaseInsensitive) != 0;
+}
+
+lineFaults faultsOf(const kiv_mat_zpStruct &order, const ktmIndex &materials)
+{
+    lineFaults faults;
+    for (const auto &line : order.orderItems.items) {
+        const lineState state = stateOf(*line, materials);
+        if (!state.known)
+            appendOnce(faults.unknown, line->ktm.isEmpty() ? line->name : line->ktm);
+        else if (!isOrderable(state.status))
+            appendOnce(faults.withoutStatus, line->ktm);
+    }
+    return faults;
+}
+
+lineSums sumsOf(const std::vector<const orderItemStruct *> &lines)
+{
+    lineSums sums;
+    for (const orderItemStruct *line : lines) {
+        ++sums.lines;
+        double quantity = 0;
+        double price = 0;
+        if (!isCount(line->quantity, &quantity)) {
+            ++sums.uncounted;
+            continue;
+        }
+        sums.quantity += quantity;
+        if (isCount(line->price, &price))
+            sums.price += price * quantity;
+        else
+            ++sums.uncounted;
+        if (isCount(line->averagePrice, &price))
+            sums.averagePrice += price * quantity;
+    }
+    return sums;
+}
+
+const QString &pcbKtm()
+{
+    static const QString ktm = QStringLiteral("SRV-001.100");
+    return ktm;
+}
+
+bool isShipment(const QString &ktm)
+{
+    return ktm.contains(serviceKtm) || ktm.contains(shipmentPrefix);
+}
+
+bool holds(const kiv_mat_zpStruct &order, const QString &ktm)
+{
+    return std::any_of(order.orderItems.items.begin(), order.orderItems.items.end(),
+                       [&ktm](const auto &line) { return line->ktm == ktm; });
+}
+
+QString freeShipmentKtm(const kiv_mat_zpStruct &order)
+{
+    for (int n = 0; n < shipmentLines; ++n) {
+        const QString ktm = shipmentPrefix + QString::number(n);
+        if (!holds(order, ktm))
+            return ktm;
+    }
+    return {};
+}
+
+std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
+                                         const kiv_mat_zpStruct &order, const QString &quantity,
+                                         const QDate &wait)
+{
+    auto line = std::make_unique<orderItemStruct>();
+    line->index = QString::number(order.orderItems.items.size() + 1);
+    line->name = material.d_name;
+    line->price = material.d_price;
+    line->averagePrice = material.d_averagePrice;
+    line->inWarehouse = material.d_inWarehouse;
+    line->quantity = quantity;
+    line->unit = material.d_unit.isEmpty() ? labels::storedUnits().first() : material.d_unit;
+    line->wait = wait.toString(labels::dateFormat());
+    line->description = material.d_description;
+    line->rohsRequired = material.information.rohsRequired.isEmpty()
+                             ? QString(statusWord::yes)
+                             : material.information.rohsRequired;
+    line->target = order.options.value(optionKey::orderTarget);
+    line->ktm = material.d_ktm;
+    line->cpv = material.d_cpv;
+    return line;
+}
+
+bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
+                  const std::vector<int> &columns, QString *reason)
+{
+    kiv_mat_zpStruct order;
+    if (!readChecked(path, &order, reason))
+        return false;
+    for (const orderItemStruct *line : lines) {
+        auto copy = std::make_unique<orderItemStruct>();
+        for (int column : columns) {
+            const auto member = orderItemStruct::fields()[size_t(column)].member;
+            (*copy).*member = line->*member;
+        }
+        copy->index = QString::number(order.orderItems.items.size() + 1);
+        order.orderItems.append(std::move(copy));
+    }
+    constexpr int keptVersions = 20;
+    fileVersions::keep(path, programData::instance().config().backupPath(), keptVersions);
+    if (saveXmlNoEvents(path, &order) >= 0)
+        return true;
+    *reason = QCoreApplication::translate("orderOperations", "the file cannot be written");
+    return false;
+}
+
+QDate usualDate(const configStruct &config)
+{
+    return QDate::currentDate().addDays(config.options.value(optionKey::orderDateAdd).toInt());
+}
+
+QStringList units() { return labels::storedUnits(); }
+
+QStringList targets(const configStruct &config, const kiv_mat_zpStruct &order)
+{
+    QStringList names;
+    for (const auto &target : config.targets.items)
+        appendOnce(names, target->name);
+    appendOnce(names, order.options.value(optionKey::orderTarget));
+    return names;
+}
+
+} // namespace orderOperations

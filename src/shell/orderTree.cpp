@@ -1,0 +1,212 @@
+#include "shell/orderTree.h"
+
+#include "data/configStruct.h"
+#include "data/vocabulary.h"
+#include "util/labels.h"
+
+#include <QCoreApplication>
+
+using namespace myItem;
+
+namespace orderTree {
+
+namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("orderTree", text); }
+
+const QIcon &icon(const QString &name)
+{
+    static QHash<QString, QIcon> icons;
+    auto found = icons.find(name);
+    if (found == icons.end())
+        found = icons.insert(name, QIcon(QStringLiteral(":/icons/icons/%1.png").arg(name)));
+    return *found;
+}
+
+void set(myItemStandard *cell, const QString &text, const QString &picture, const QString &toolTip)
+{
+    if (!text.isNull())
+        cell->setText(text);
+    cell->setIcon(picture.isEmpty() ? QIcon() : icon(picture));
+    cell->setToolTip(toolTip);
+}
+
+void showStatus(const orderItemStruct &line, myItemStandard *cell, const ktmIndex &materials,
+                const configStruct &config)
+{
+    const orderOperations::lineState state = orderOperations::stateOf(line, materials);
+    if (!state.known) {
+        set(cell, tr("unknown"), QStringLiteral("line_unknown"),
+            tr("No loaded database has this KTM"));
+        return;
+    }
+    QString picture = QStringLiteral("line_known");
+    for (const comboBoxStruct &status : config.statuses)
+        if (status.value == state.status)
+            picture = status.icon.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0);
+    set(cell, state.status, picture,
+        orderOperations::isOrderable(state.status)
+            ? tr("Known material, status %1").arg(state.status)
+            : tr("The status of this material does not allow to order it"));
+}
+
+void showStock(const orderItemStruct &line, myItemStandard *cell, const ktmIndex &materials)
+{
+    using orderOperations::stock;
+    const stock state = orderOperations::stateOf(line, materials).inStock;
+    const QString numbers = tr("%1 in stock, %2 ordered").arg(line.inWarehouse, line.quantity);
+    set(cell, {},
+        state == stock::enough      ? QStringLiteral("line_enough")
+        : state == stock::tooLittle ? QStringLiteral("line_short")
+                                    : QString(),
+        state == stock::enough      ? tr("Enough: %1").arg(numbers)
+        : state == stock::tooLittle ? tr("Too little: %1").arg(numbers)
+                                    : QString());
+}
+
+struct lineColumn
+{
+    const char *key;
+    int width;
+    kind cellKind;
+    bool editable;
+};
+
+// In the order of the record's fields.
+constexpr lineColumn lineColumns[] = {
+    {"index", 56, standardKind, false},
+    {"name", 190, lineEditKind, true},
+    {"price", 90, moneyKind, true},
+    {"average_price", 116, moneyKind, true},
+    {"in_warehouse", 136, standardKind, false},
+    {"quantity", 84, spinBoxKind, true},
+    {"unit", 92, comboBoxKind, true},
+    {"wait", 92, dateEditKind, true},
+    {"description", 230, lineEditKind, true},
+    {"rohs_required", 70, comboBoxKind, true},
+    {"target", 120, comboBoxKind, true},
+    {"ktm", 150, lineEditKind, true},
+    {"cpv", 96, lineEditKind, true},
+    {"delivery", 110, lineEditKind, true},
+    {"invoice", 110, lineEditKind, true},
+    {"attentions", 160, lineEditKind, true},
+};
+constexpr int statusWidth = 110;
+
+struct optionRow
+{
+    QLatin1String key;
+    kind cellKind;
+};
+
+constexpr optionRow optionTable[] = {
+    {optionKey::orderNumber, lineEditKind},    {optionKey::orderDate, dateEditKind},
+    {optionKey::orderTarget, comboBoxKind},    {optionKey::personAuthor, comboBoxKind},
+    {optionKey::personApproved, comboBoxKind}, {optionKey::personContractor, comboBoxKind},
+};
+
+comboEntries targetEntries(const configStruct &config)
+{
+    comboEntries entries;
+    for (const auto &target : config.targets.items)
+        entries.append({target->name, target->description, {}, {}});
+    return entries;
+}
+
+comboEntries personEntries(const configStruct &config, const QString &role)
+{
+    comboEntries entries;
+    for (const auto &person : config.persons.items)
+        if (person->type == role)
+            entries.append({person->name, person->phone, {}, {}});
+    return entries;
+}
+
+} // namespace
+
+treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_zpStruct &order,
+                                     const ktmIndex &materials)
+{
+    const QString noNumber;
+    treeColumns<orderItemStruct> table;
+    for (const lineColumn &c : lineColumns)
+        table.push_back(fieldColumn(orderItemStruct::fields(), QLatin1String(c.key), c.width,
+                                    c.cellKind, c.editable));
+    table[indexColumn].label = labels::ordinalNumber();
+    table[quantityColumn].maximum = quantityMaximum;
+    table[unitColumn].entries = entriesOf(orderOperations::units());
+    table[rohsColumn].entries = entriesOf(config.goodWhenYes);
+    table[targetColumn].canBeTyped = true;
+    table[targetColumn].entries = entriesOf(orderOperations::targets(config, order));
+    table[inWarehouseColumn].look = [&materials](const orderItemStruct &line,
+                                                 myItemStandard *cell) {
+        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        showStock(line, cell, materials);
+    };
+    table[indexColumn].look = [](const orderItemStruct &, myItemStandard *cell) {
+        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    };
+    treeColumn<orderItemStruct> status{QStringLiteral("status"),
+                                       labels::status(),
+                                       statusWidth,
+                                       standardKind,
+                                       [](const orderItemStruct &) { return QString(); },
+                                       {},
+                                       false};
+    status.look = [&materials, &config](const orderItemStruct &line, myItemStandard *cell) {
+        showStatus(line, cell, materials, config);
+    };
+    table.push_back(std::move(status));
+    return table;
+}
+
+const std::vector<int> &usualOrder()
+{
+    static const std::vector<int> order{
+        indexColumn,   statusColumn,    nameColumn,        descriptionColumn, quantityColumn,
+        unitColumn,    waitColumn,      inWarehouseColumn, priceColumn,       averagePriceColumn,
+        targetColumn,  rohsColumn,      ktmColumn,         cpvColumn,         deliveryColumn,
+        invoiceColumn, attentionsColumn};
+    return order;
+}
+
+void refreshLooks(const myModel *model, int row, const treeColumns<orderItemStruct> &table)
+{
+    const auto *first = static_cast<myItemStandard *>(model->item(row));
+    for (int c : {inWarehouseColumn, statusColumn})
+        table[size_t(c)].look(*listRows<orderItemStruct>::recordOf(first),
+                              static_cast<myItemStandard *>(model->item(row, c)));
+}
+
+void optionRows::show(myModel *model, kiv_mat_zpStruct &order, const configStruct &config)
+{
+    model->removeRows(0, model->rowCount());
+    m_secondValues.clear();
+    for (const auto &person : config.persons.items)
+        m_secondValues.insert(person->name, person->phone);
+    for (const optionRow &line : optionTable) {
+        optionStruct *option = order.options.findOption(line.key);
+        if (!option)
+            continue;
+        m_secondValues.insert(option->value1, option->value2);
+        auto *caption = new myItemStandard(line.key);
+        caption->setText(labels::optionCaption(line.key));
+        caption->setEditable(false);
+        caption->record = option;
+        const bool isTarget = line.key == optionKey::orderTarget;
+        myItemStandard *value = makeCell(
+            {line.key, line.cellKind, option->editable == statusWord::editableYes,
+             isTarget ? targetEntries(config) : personEntries(config, line.key), true, 0, 0},
+            option->value1);
+        model->appendRow({caption, value});
+    }
+}
+
+void optionRows::cellChanged(myItemStandard *item, myItemStandard *first)
+{
+    auto *option = static_cast<optionStruct *>(first->record);
+    option->value1 = item->text();
+    option->value2 = m_secondValues.value(option->value1);
+}
+
+} // namespace orderTree

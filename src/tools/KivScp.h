@@ -1,0 +1,39 @@
+// Copies a file to the file server by secure copy.
+#pragma once
+
+#include "tools/childRunner.h"
+
+namespace KivScp {
+
+struct upload
+{
+    QString account;
+    QString password;
+    QString host;
+    QString source; // a file here
+    QString target; // a path on the server
+    // The server's key as pscp's -hostkey takes it ("SHA256:..."); empty: a key that was accepted
+    // on this computer before.
+    QString hostKey;
+};
+
+class scp : public timedRunner
+{
+    Q_OBJECT
+public:
+    explicit scp(QObject *parent = nullptr);
+
+    // The port is always 22. An upload without account, password, host, source or target is
+    // refused. The result is 0 when the file was copied. timeoutMs: more than 0.
+    void start(const upload &job, int timeoutMs);
+
+    static QString command(const upload &job);
+
+signals:
+    void updateLog(const QString &text);
+
+protected:
+    void log(const QString &text) override { emit updateLog(text); }
+};
+
+} // namespace KivScp

@@ -1,0 +1,20 @@
+// Earlier versions of files that are saved, kept in a folder of their own.
+#pragma once
+
+#include <QStringList>
+
+namespace fileVersions {
+
+// Copies the file as it is into the folder, under its name and the time, and removes the oldest of
+// its versions beyond count. Files of one name from different folders are told apart. True when
+// there was nothing to keep or it was kept.
+bool keep(const QString &path, const QString &folder, int count);
+
+// The versions of a file, the newest first.
+QStringList of(const QString &path, const QString &folder);
+
+// Copies the file as keep() does, but for good: the copy is none of its versions. Returns its path,
+// empty when it could not be made.
+QString archive(const QString &path, const QString &folder);
+
+} // namespace fileVersions
