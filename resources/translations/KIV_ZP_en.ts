@@ -301,6 +301,23 @@
     </message>
 </context>
 <context>
+    <name>materialWindow</name>
+    <message numerus="yes">
+        <source>%n manufacturer(s)</source>
+        <translation>
+            <numerusform>%n manufacturer</numerusform>
+            <numerusform>%n manufacturers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n supplier</numerusform>
+            <numerusform>%n suppliers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>options</name>
     <message>
         <source>OPTION_EDIT_ZP</source>

@@ -384,6 +384,10 @@
         <source>Edit parameters</source>
         <translation>Edycja parametrów</translation>
     </message>
+    <message>
+        <source>Do you want to edit material ?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1404,6 +1408,74 @@
         <source>Browse and edit a material database</source>
         <translation>Przeglądaj i edytuj bazę materiałów</translation>
     </message>
+    <message>
+        <source>Check the material and give it to its database</source>
+        <translation>Sprawdź materiał i przekaż go do jego bazy</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Polecenia</translation>
+    </message>
+    <message>
+        <source>Add manufacturer</source>
+        <translation>Dodaj producenta</translation>
+    </message>
+    <message>
+        <source>Add suppler</source>
+        <translation>Dodaj dostawcę</translation>
+    </message>
+    <message>
+        <source>Add file</source>
+        <translation>Dodaj plik</translation>
+    </message>
+    <message>
+        <source>Add a file or link to the manufacturer or supplier</source>
+        <translation>Dodaj plik lub odnośnik do producenta albo dostawcy</translation>
+    </message>
+    <message>
+        <source>Delete the selected manufacturers, suppliers and files</source>
+        <translation>Usuń zaznaczonych producentów, dostawców i pliki</translation>
+    </message>
+    <message>
+        <source>Delete file</source>
+        <translation>Usuń plik</translation>
+    </message>
+    <message>
+        <source>Delete files</source>
+        <translation>Usuń pliki</translation>
+    </message>
+    <message>
+        <source>Delete all files of the manufacturer or supplier</source>
+        <translation>Usuń wszystkie pliki producenta albo dostawcy</translation>
+    </message>
+    <message>
+        <source>Datasheets</source>
+        <translation>Karty katalogowe</translation>
+    </message>
+    <message>
+        <source>Add the link to a datasheet on the file server</source>
+        <translation>Dodaj odnośnik do karty katalogowej na serwerze plików</translation>
+    </message>
+    <message>
+        <source>Declarations</source>
+        <translation>Deklaracje</translation>
+    </message>
+    <message>
+        <source>Add the link to a RoHS declaration on the file server</source>
+        <translation>Dodaj odnośnik do deklaracji RoHS na serwerze plików</translation>
+    </message>
+    <message>
+        <source>CopyFileToServer</source>
+        <translation>Kopiuj plik na serwer</translation>
+    </message>
+    <message>
+        <source>Copy the file of the current link to the file server</source>
+        <translation>Skopiuj plik bieżącego odnośnika na serwer plików</translation>
+    </message>
+    <message>
+        <source>Open the current file or link</source>
+        <translation>Otwórz bieżący odnośnik</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -1792,6 +1864,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Writes the groups of a material database as a workbook.</source>
         <translation>Zapisuje grupy bazy materiałów jako skoroszyt.</translation>
+    </message>
+    <message>
+        <source>Lists the materials that the editor would not accept, with the reason. Exit code 1 when there are some.</source>
+        <translation>Wypisuje materiały, których edytor by nie przyjął, i powód. Kod wyjścia 1, gdy takie są.</translation>
     </message>
 </context>
 <context>
@@ -2697,6 +2773,254 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Log</source>
         <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
+    <name>materialChecks</name>
+    <message>
+        <source>KTM empty</source>
+        <translation>Brak KTM</translation>
+    </message>
+    <message>
+        <source>CPV empty</source>
+        <translation>Brak CPV</translation>
+    </message>
+    <message>
+        <source>Name empty</source>
+        <translation>Brak nazwy</translation>
+    </message>
+    <message>
+        <source>Sets manufacturer or supplier first</source>
+        <translation>Najpierw podaj producenta lub dostawcę</translation>
+    </message>
+    <message>
+        <source>Ktm syntax error</source>
+        <translation>Błąd składni KTM</translation>
+    </message>
+    <message>
+        <source>CPV syntax error</source>
+        <translation>Błąd składni CPV</translation>
+    </message>
+</context>
+<context>
+    <name>materialFiles</name>
+    <message>
+        <source>Test report (TR)</source>
+        <translation>Raport z badań (TR)</translation>
+    </message>
+    <message>
+        <source>Material declaration (MD)</source>
+        <translation>Deklaracja materiałowa (MD)</translation>
+    </message>
+    <message>
+        <source>Supplier&apos;s declaration (SD)</source>
+        <translation>Deklaracja dostawcy (SD)</translation>
+    </message>
+    <message>
+        <source>REACH declaration</source>
+        <translation>Deklaracja REACH</translation>
+    </message>
+    <message>
+        <source>Datasheet</source>
+        <translation>Karta katalogowa</translation>
+    </message>
+    <message>
+        <source>Catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>PDF file</source>
+        <translation>Plik PDF</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Strona WWW</translation>
+    </message>
+    <message>
+        <source>XML file</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Arkusz kalkulacyjny</translation>
+    </message>
+    <message>
+        <source>CSV file</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Send file</source>
+        <translation>Wysyłanie pliku</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>zakończono</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>błąd</translation>
+    </message>
+    <message>
+        <source>Sending error</source>
+        <translation>Błąd wysyłania</translation>
+    </message>
+</context>
+<context>
+    <name>materialTree</name>
+    <message>
+        <source>%1, status %2</source>
+        <translation>%1, status %2</translation>
+    </message>
+    <message>
+        <source>Not in the firm register</source>
+        <translation>Brak w bazie firm</translation>
+    </message>
+    <message>
+        <source>Value, part number or link</source>
+        <translation>Wartość, numer części lub odnośnik</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parametry</translation>
+    </message>
+    <message>
+        <source>Price and stock</source>
+        <translation>Cena i stan magazynu</translation>
+    </message>
+    <message>
+        <source>CAD library</source>
+        <translation>Biblioteka CAD</translation>
+    </message>
+</context>
+<context>
+    <name>materialWindow</name>
+    <message>
+        <source>Fields, manufacturers, suppliers and files of the material</source>
+        <translation>Pola, producenci, dostawcy i pliki materiału</translation>
+    </message>
+    <message>
+        <source>New material</source>
+        <translation>Nowy materiał</translation>
+    </message>
+    <message>
+        <source>Edit parameters</source>
+        <translation>Edycja parametrów</translation>
+    </message>
+    <message>
+        <source>no manufacturer or supplier is selected</source>
+        <translation>nie zaznaczono producenta ani dostawcy</translation>
+    </message>
+    <message>
+        <source>no file is selected</source>
+        <translation>nie zaznaczono pliku</translation>
+    </message>
+    <message>
+        <source>it has no files</source>
+        <translation>nie ma on plików</translation>
+    </message>
+    <message>
+        <source>no link is selected</source>
+        <translation>nie zaznaczono odnośnika</translation>
+    </message>
+    <message>
+        <source>the configuration names no file server</source>
+        <translation>konfiguracja nie podaje serwera plików</translation>
+    </message>
+    <message>
+        <source>no link to the file server is selected</source>
+        <translation>nie zaznaczono odnośnika do serwera plików</translation>
+    </message>
+    <message>
+        <source>the configuration has no account on the file server</source>
+        <translation>konfiguracja nie podaje konta na serwerze plików</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n manufacturer(s)</source>
+        <translation>
+            <numerusform>%n producent</numerusform>
+            <numerusform>%n producentów</numerusform>
+            <numerusform>%n producentów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n dostawca</numerusform>
+            <numerusform>%n dostawców</numerusform>
+            <numerusform>%n dostawców</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>zmieniono</translation>
+    </message>
+    <message>
+        <source>Set the changed material?</source>
+        <translation>Ustawić zmieniony materiał?</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>Add manufacturer</source>
+        <translation>Dodaj producenta</translation>
+    </message>
+    <message>
+        <source>Add suppler</source>
+        <translation>Dodaj dostawcę</translation>
+    </message>
+    <message>
+        <source>Add file</source>
+        <translation>Dodaj plik</translation>
+    </message>
+    <message>
+        <source>Delete file</source>
+        <translation>Usuń plik</translation>
+    </message>
+    <message>
+        <source>Delete files</source>
+        <translation>Usuń pliki</translation>
+    </message>
+    <message>
+        <source>Delete rows</source>
+        <translation>Usuń wiersze</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć %1</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Wszystkie pliki</translation>
+    </message>
+    <message>
+        <source>Please set path where write file</source>
+        <translation>Podaj ścieżkę, pod którą zapisać plik</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ścieżka</translation>
+    </message>
+    <message>
+        <source>%1 is no path below the folder of the file server</source>
+        <translation>%1 nie jest ścieżką wewnątrz folderu na serwerze plików</translation>
+    </message>
+    <message>
+        <source>Send file</source>
+        <translation>Wysyłanie pliku</translation>
+    </message>
+    <message>
+        <source>%1 is on the file server</source>
+        <translation>%1 jest na serwerze plików</translation>
     </message>
 </context>
 <context>

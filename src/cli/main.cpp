@@ -10,13 +10,13 @@ namespace {
 const QList<const cli::subcommand *> &commands()
 {
     static const QList<const cli::subcommand *> table{
-        &cli::validateCommand,  &cli::reportCommand,     &cli::findCommand,
-        &cli::infoCommand,      &cli::resaveCommand,     &cli::altiumCommand,
-        &cli::groupsCommand,    &cli::duplicatesCommand, &cli::emptyCommand,
-        &cli::checkUrlsCommand, &cli::dbReportCommand,   &cli::parseListingCommand,
-        &cli::mergeCommand,     &cli::loadCpvCommand,    &cli::moveCpvCommand,
-        &cli::checkNipCommand,  &cli::checkMaterialsCommand,  &cli::helpersCommand,    &cli::downloadCommand,
-        &cli::packCommand,      &cli::unpackCommand,
+        &cli::validateCommand,  &cli::reportCommand,         &cli::findCommand,
+        &cli::infoCommand,      &cli::resaveCommand,         &cli::altiumCommand,
+        &cli::groupsCommand,    &cli::duplicatesCommand,     &cli::emptyCommand,
+        &cli::checkUrlsCommand, &cli::dbReportCommand,       &cli::parseListingCommand,
+        &cli::mergeCommand,     &cli::loadCpvCommand,        &cli::moveCpvCommand,
+        &cli::checkNipCommand,  &cli::checkMaterialsCommand, &cli::helpersCommand,
+        &cli::downloadCommand,  &cli::packCommand,           &cli::unpackCommand,
     };
     return table;
 }

@@ -799,9 +799,8 @@ materialWindow &Kiv_mat_databaseWindow::editor()
     if (!m_editor) {
         m_editor = new materialWindow(this);
         connect(m_editor, &materialWindow::addNew, this, &Kiv_mat_databaseWindow::commandAddNew);
-        connect(m_editor,
-                qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
-                &Kiv_mat_databaseWindow::commandEditExist);
+        connect(m_editor, qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist),
+                this, &Kiv_mat_databaseWindow::commandEditExist);
     }
     return *m_editor;
 }

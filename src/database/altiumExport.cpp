@@ -388,8 +388,8 @@ exportResult exportGroups(const kiv_mat_databaseStruct &database, const QString 
     workbook book;
     sheetWriter sheet(book, columnNames, result.notes);
     const auto row = [&sheet](const QString &name, const QString &ktm, const QString &cpv) {
-        const QString *const cells[] = {&name, &ktm, &cpv};
-        return sheet.row([&cells](int column) { return *cells[column]; }, name);
+        const QStringList cells{name, ktm, cpv};
+        return sheet.row([&cells](int column) { return cells.at(column); }, name);
     };
     bool good = sheet.begin(overview);
     for (const auto &group : database.groups)

@@ -48,6 +48,7 @@ std::vector<duplicateSet> sharing(std::vector<candidate> &candidates, const KeyO
         begin = end;
     }
     std::vector<duplicateSet> result;
+    result.reserve(sets.size());
     for (auto &entry : sets)
         result.push_back(std::move(entry.second));
     return result;

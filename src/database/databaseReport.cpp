@@ -56,7 +56,7 @@ QString price(const QString &stored)
 QString fileText(const QString &name)
 {
     const QString scheme = QUrl(name).scheme().toLower();
-    const QString shown = text::toHtml(name);
+    QString shown = text::toHtml(name);
     if (scheme != QLatin1String("http") && scheme != QLatin1String("https")
         && scheme != QLatin1String("ftp"))
         return shown;

@@ -2,9 +2,9 @@
 //   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
 #include "data/programData.h"
-#include "database/materialWindow.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
+#include "database/materialWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/linesDialog.h"
@@ -15,8 +15,8 @@
 #include "shell/orderView.h"
 #include "shell/startupDialog.h"
 #include "shell/userState.h"
-#include "tree/richtexteditDialog.h"
 #include "tree/myTreeView.h"
+#include "tree/richtexteditDialog.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
