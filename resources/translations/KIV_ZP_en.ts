@@ -185,6 +185,10 @@
         <source>No backup could be written </source>
         <translation>No backup could be written </translation>
     </message>
+    <message>
+        <source>File corrupted</source>
+        <translation>File corrupted </translation>
+    </message>
 </context>
 <context>
     <name>options</name>

@@ -779,6 +779,25 @@
     </message>
 </context>
 <context>
+    <name>altiumExport</name>
+    <message>
+        <source>Name changed</source>
+        <translation>Zmieniono nazwę</translation>
+    </message>
+    <message>
+        <source>Text too long for a cell, cut</source>
+        <translation>Tekst za długi na komórkę, obcięty</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>The SQLite driver cannot be used</source>
+        <translation>Nie można użyć sterownika SQLite</translation>
+    </message>
+</context>
+<context>
     <name>baseWindow</name>
     <message>
         <source>Tool bar</source>
@@ -961,6 +980,118 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Unpacks a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold its password.</source>
         <translation>Rozpakowuje archiwum ZIP; jego hasło można podać w zmiennej KIVZP_ARCHIVE_PASSWORD.</translation>
     </message>
+    <message>
+        <source>Where the changed database goes; without it nothing is written.</source>
+        <translation>Dokąd zapisać zmienioną bazę; bez tego nic nie jest zapisywane.</translation>
+    </message>
+    <message>
+        <source>give a material database with -d</source>
+        <translation>podaj bazę materiałów opcją -d</translation>
+    </message>
+    <message>
+        <source>The material database.</source>
+        <translation>Baza materiałów.</translation>
+    </message>
+    <message>
+        <source>Take over what is new or changed; wants -o.</source>
+        <translation>Przejmij, co nowe lub zmienione; wymaga -o.</translation>
+    </message>
+    <message>
+        <source>The other database wins: list, and with --apply delete, what it lacks.</source>
+        <translation>Druga baza rozstrzyga: wymień, a z --apply usuń, czego w niej nie ma.</translation>
+    </message>
+    <message>
+        <source>Where the merged database goes.</source>
+        <translation>Dokąd zapisać połączoną bazę.</translation>
+    </message>
+    <message>
+        <source>--apply and -o belong together</source>
+        <translation>--apply i -o podaje się razem</translation>
+    </message>
+    <message>
+        <source>Lists the materials of another database that are new or changed, and takes them over when asked to.</source>
+        <translation>Wymienia materiały innej bazy, które są nowe lub zmienione, i na żądanie je przejmuje.</translation>
+    </message>
+    <message>
+        <source>Lists the stock and average prices that a listing of the warehouse, or another database, changes in a material database.</source>
+        <translation>Wymienia stany i średnie ceny, które zestawienie magazynowe lub inna baza zmienia w bazie materiałów.</translation>
+    </message>
+    <message>
+        <source>Lists the CPV codes of groups that a text file changes in a material database.</source>
+        <translation>Wymienia kody CPV grup, które plik tekstowy zmienia w bazie materiałów.</translation>
+    </message>
+    <message>
+        <source>Lists the materials whose CPV code is another than their group&apos;s, and gives them that.</source>
+        <translation>Wymienia materiały, których kod CPV jest inny niż kod grupy, i nadaje im kod grupy.</translation>
+    </message>
+    <message>
+        <source>The same KTM:</source>
+        <translation>Ten sam KTM:</translation>
+    </message>
+    <message>
+        <source>The same manufacturer&apos;s part number:</source>
+        <translation>Ten sam numer producenta:</translation>
+    </message>
+    <message>
+        <source>A workbook (.xlsx) for the results.</source>
+        <translation>Skoroszyt (.xlsx) na wyniki.</translation>
+    </message>
+    <message>
+        <source>Tell on standard error how many links are checked.</source>
+        <translation>Podawaj na standardowym wyjściu błędów liczbę sprawdzonych odnośników.</translation>
+    </message>
+    <message>
+        <source>is no firm register</source>
+        <translation>nie jest rejestrem firm</translation>
+    </message>
+    <message>
+        <source>The HTML file to write.</source>
+        <translation>Plik HTML do zapisania.</translation>
+    </message>
+    <message>
+        <source>One row a material instead of everything.</source>
+        <translation>Po jednym wierszu na materiał zamiast wszystkich danych.</translation>
+    </message>
+    <message>
+        <source>The firm register, for the status of firms.</source>
+        <translation>Rejestr firm, dla statusu firm.</translation>
+    </message>
+    <message>
+        <source>Lists materials with the same KTM, or with the same part number of a manufacturer. Exit code 1 when there are some.</source>
+        <translation>Wymienia materiały o tym samym KTM lub o tym samym numerze producenta. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Lists materials with empty fields. Exit code 1 when there are some.</source>
+        <translation>Wymienia materiały z pustymi polami. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Lists the links of a material database that do not answer. Exit code 1 when there are some.</source>
+        <translation>Wymienia odnośniki bazy materiałów, które nie odpowiadają. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>Writes the report of a material database as HTML.</source>
+        <translation>Zapisuje raport bazy materiałów jako HTML.</translation>
+    </message>
+    <message>
+        <source>Lists the firms whose tax number is wrong. Exit code 1 when there are some.</source>
+        <translation>Wymienia firmy z błędnym numerem NIP. Kod zakończenia 1, gdy takie są.</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending decides its kind.</source>
+        <translation>Plik do zapisania; jego rozszerzenie określa rodzaj.</translation>
+    </message>
+    <message>
+        <source>give an output file that ends in %1</source>
+        <translation>podaj plik wyjściowy o rozszerzeniu %1</translation>
+    </message>
+    <message>
+        <source>Writes a material database as a component library for Altium: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and the description OUT.DbLib.</source>
+        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programu Altium: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt oraz opis OUT.DbLib.</translation>
+    </message>
+    <message>
+        <source>Writes the groups of a material database as a workbook.</source>
+        <translation>Zapisuje grupy bazy materiałów jako skoroszyt.</translation>
+    </message>
 </context>
 <context>
     <name>configOperations</name>
@@ -1049,6 +1180,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>cpvOperations</name>
+    <message>
+        <source>CPV syntax error</source>
+        <translation>Błąd składni CPV</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>nie można odczytać pliku</translation>
+    </message>
+    <message>
+        <source>Group does not exist</source>
+        <translation>Grupa nie istnieje</translation>
+    </message>
+</context>
+<context>
     <name>curl_download</name>
     <message>
         <source>Address or file is missing</source>
@@ -1103,10 +1249,66 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>databaseChecks</name>
+    <message>
+        <source>All materials has unique KTM</source>
+        <translation>Wszystkie materiały mają niepowtarzalny KTM</translation>
+    </message>
+    <message>
+        <source>Materials count</source>
+        <translation>Liczba materiałów</translation>
+    </message>
+    <message>
+        <source>Materials count in database</source>
+        <translation>Liczba materiałów w bazie</translation>
+    </message>
+    <message>
+        <source>Groups count in database</source>
+        <translation>Liczba grup w bazie</translation>
+    </message>
+    <message>
+        <source>Materials count with status</source>
+        <translation>Liczba materiałów ze statusem</translation>
+    </message>
+</context>
+<context>
+    <name>databaseMerge</name>
+    <message>
+        <source>All materials in database</source>
+        <translation>Wszystkie materiały są w bazie</translation>
+    </message>
+    <message>
+        <source>Materials deleted</source>
+        <translation>Usunięte materiały</translation>
+    </message>
+</context>
+<context>
+    <name>databaseReport</name>
+    <message>
+        <source>Groups</source>
+        <translation>Grupy</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
+</context>
+<context>
     <name>errorsWindow</name>
     <message>
         <source>Errors</source>
         <translation>Błędy</translation>
+    </message>
+</context>
+<context>
+    <name>firmChecks</name>
+    <message>
+        <source>The tax number %1 is not correct</source>
+        <translation>Numer NIP %1 jest niepoprawny</translation>
     </message>
 </context>
 <context>
@@ -1683,10 +1885,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Do innego zamówienia ...</translation>
     </message>
     <message>
-        <source>Target</source>
-        <translation>Zlecenie</translation>
-    </message>
-    <message>
         <source>Copy</source>
         <translation>Kopiuj</translation>
     </message>
@@ -1697,6 +1895,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>no column is chosen</source>
         <translation>nie wybrano żadnej kolumny</translation>
+    </message>
+    <message>
+        <source>Copy to</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1974,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>No backup could be written </source>
         <translation>Nie można zapisać kopii zapasowej </translation>
+    </message>
+    <message>
+        <source>File corrupted</source>
+        <translation>Plik uszkodzony </translation>
     </message>
 </context>
 <context>
@@ -2038,7 +2244,7 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
     <message>
         <source>The order has no lines. &lt;a href=&quot;addMaterial&quot;&gt;Add a material&lt;/a&gt;, or &lt;a href=&quot;zpOpen&quot;&gt;open an order&lt;/a&gt;.</source>
-        <translation>Zamówienie nie ma pozycji. &lt;a href="addMaterial"&gt;Dodaj materiał&lt;/a&gt; lub &lt;a href="zpOpen"&gt;otwórz zamówienie&lt;/a&gt;.</translation>
+        <translation>Zamówienie nie ma pozycji. &lt;a href=&quot;addMaterial&quot;&gt;Dodaj materiał&lt;/a&gt; lub &lt;a href=&quot;zpOpen&quot;&gt;otwórz zamówienie&lt;/a&gt;.</translation>
     </message>
 </context>
 <context>
@@ -2142,6 +2348,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>warehouseListing</name>
+    <message>
+        <source>Stands again further down, this one not used</source>
+        <translation>Występuje ponownie niżej, ta pozycja pominięta</translation>
+    </message>
+    <message>
+        <source>Error in KTM line</source>
+        <translation>Błąd w wierszu KTM</translation>
+    </message>
+    <message>
+        <source>Does not exist in databases</source>
+        <translation>Nie istnieje w bazach</translation>
+    </message>
+</context>
+<context>
     <name>workProgress</name>
     <message>
         <source>Progress</source>
@@ -2150,6 +2371,13 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>workbook</name>
+    <message>
+        <source>the file cannot be written</source>
+        <translation>nie można zapisać pliku</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "data/documentStruct.h"
 #include "data/loaders.h"
 #include "util/paths.h"
+#include "util/text.h"
 
 #include <QCoreApplication>
 
@@ -96,25 +97,61 @@ bool validateFile(const QString &path)
     return false;
 }
 
+std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path)
+{
+    if (!validateFile(path))
+        return nullptr;
+    auto database = std::make_unique<kiv_mat_databaseStruct>();
+    QString error;
+    if (fileKinds::ofFile(path) != &fileKinds::database)
+        error = QCoreApplication::translate("cli", "is no material database");
+    else
+        loadDocument(path, database.get(), &error);
+    if (error.isEmpty())
+        return database;
+    err() << path << ": " << error << '\n' << Qt::flush;
+    return nullptr;
+}
+
 bool databaseSet::load(const QStringList &databasePaths)
 {
     for (const QString &path : databasePaths) {
-        if (!validateFile(path))
+        auto database = readDatabase(path);
+        if (!database)
             return false;
-        auto database = std::make_unique<kiv_mat_databaseStruct>();
-        QString error;
-        if (fileKinds::ofFile(path) != &fileKinds::database)
-            error = QCoreApplication::translate("cli", "is no material database");
-        else
-            loadDocument(path, database.get(), &error);
-        if (!error.isEmpty()) {
-            err() << path << ": " << error << '\n' << Qt::flush;
-            return false;
-        }
         m_index.add(database.get());
         m_databases.push_back(std::move(database));
     }
     return true;
+}
+
+QCommandLineOption databaseOption(const char *description)
+{
+    return {{QStringLiteral("d"), QStringLiteral("database")},
+            QCoreApplication::translate("cli", description),
+            QStringLiteral("DB")};
+}
+
+QCommandLineOption outputOption(const char *description)
+{
+    return {{QStringLiteral("o"), QStringLiteral("output")},
+            QCoreApplication::translate("cli", description),
+            QStringLiteral("OUT")};
+}
+
+int cannotWrite(const QString &path)
+{
+    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
+          << Qt::flush;
+    return notWritten;
+}
+
+void printNotes(const QStringList &htmlLines)
+{
+    if (htmlLines.isEmpty())
+        return;
+    const QString plain = text::htmlToPlain(htmlLines.join(QString()));
+    err() << plain.trimmed().replace(QChar::Nbsp, QLatin1Char(' ')) << '\n' << Qt::flush;
 }
 
 } // namespace cli

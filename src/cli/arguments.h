@@ -54,11 +54,15 @@ private:
 // file:line:column: text. True when it is valid.
 bool validateFile(const QString &path);
 
+// Validates, then reads a material database. Prints what is wrong and returns null when it is
+// refused.
+std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path);
+
 // The materials of several database files.
 class databaseSet
 {
 public:
-    // Validates, then reads each. Prints what is wrong; false when one was refused.
+    // Each as readDatabase(); false when one was refused.
     bool load(const QStringList &paths);
 
     const ktmIndex &index() const { return m_index; }
@@ -69,6 +73,18 @@ private:
     ktmIndex m_index;
 };
 
+// The option -d DB. description: the English source text, context "cli".
+QCommandLineOption databaseOption(const char *description);
+
+// The option -o OUT. description: the English source text, context "cli".
+QCommandLineOption outputOption(const char *description);
+
+// Prints that the file cannot be written; returns that exit code.
+int cannotWrite(const QString &path);
+
+// Prints lines of HTML to standard error as plain text.
+void printNotes(const QStringList &htmlLines);
+
 extern const subcommand validateCommand;
 extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
@@ -78,5 +94,16 @@ extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;
 extern const subcommand packCommand;
 extern const subcommand unpackCommand;
+extern const subcommand altiumCommand;
+extern const subcommand groupsCommand;
+extern const subcommand duplicatesCommand;
+extern const subcommand emptyCommand;
+extern const subcommand checkUrlsCommand;
+extern const subcommand dbReportCommand;
+extern const subcommand parseListingCommand;
+extern const subcommand mergeCommand;
+extern const subcommand loadCpvCommand;
+extern const subcommand moveCpvCommand;
+extern const subcommand checkNipCommand;
 
 } // namespace cli

@@ -1,6 +1,30 @@
 #include "report/html.h"
 
+#include "util/text.h"
+
 namespace html {
+
+namespace {
+
+constexpr const char *baseStyle = R"(
+body { font-family: Arial, "Liberation Sans", "DejaVu Sans", sans-serif; font-size: 13px;
+  color: #1A1F24; background: #FFFFFF; margin: 12px 16px; }
+h1 { font-size: 22px; margin: 0 0 10px 0; }
+h2 { font-size: 15px; margin: 18px 0 6px 0; }
+p { margin: 0 0 6px 0; }
+a { color: #0B5CAD; }
+span.note { color: #52606D; font-weight: normal; font-size: 11px; })";
+
+} // namespace
+
+QString pageStart(const QString &title, const char *styleRules)
+{
+    return QLatin1String("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"UTF-8\">\n<title>")
+           + text::toHtml(title) + QLatin1String("</title>\n<style>") + QLatin1String(baseStyle)
+           + QLatin1String(styleRules) + QLatin1String("</style>\n</head>\n<body>\n");
+}
+
+QString pageEnd() { return QStringLiteral("</body>\n</html>\n"); }
 
 void htmlTable::openTable(const QString &attributes)
 {

@@ -6,6 +6,11 @@
 
 namespace html {
 
+// The start of a complete page, up to its body, and its end. The base style is followed by the
+// page's own rules, CSS.
+QString pageStart(const QString &title, const char *styleRules);
+QString pageEnd();
+
 class htmlTable
 {
 public:

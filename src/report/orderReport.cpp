@@ -21,12 +21,6 @@ constexpr const char *lineColour = "#9AA5B1";
 // Sized for a page of 1200 pixels' width: the printer maps them to the width of A4 landscape. The
 // table's layout is fixed, so that a long word breaks instead of pushing columns off the paper.
 constexpr const char *styleSheet = R"(
-body { font-family: Arial, "Liberation Sans", "DejaVu Sans", sans-serif; font-size: 13px;
-  color: #1A1F24; background: #FFFFFF; margin: 12px 16px; }
-h1 { font-size: 22px; margin: 0 0 10px 0; }
-h2 { font-size: 15px; margin: 18px 0 6px 0; }
-p { margin: 0 0 6px 0; }
-a { color: #0B5CAD; }
 table.head { width: 100%; border-collapse: collapse; margin-bottom: 12px; }
 table.head td { padding: 2px 6px; }
 table.lines { width: 100%; table-layout: fixed; border-collapse: collapse; }
@@ -38,7 +32,6 @@ table.lines tr.group td { background: #C9D8E8; font-weight: bold; text-align: ce
 table.lines td.number { text-align: right; }
 table.lines td.middle { text-align: center; }
 td.office { background: #FAFBFC; }
-span.note { color: #52606D; font-weight: normal; font-size: 11px; }
 table.sums { margin: 10px 0 0 auto; border-collapse: collapse; }
 table.sums td { padding: 2px 6px; font-size: 15px; text-align: right; }
 )";
@@ -238,9 +231,7 @@ QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
 {
     html::htmlTable page;
     page.reserve(4096 + int(order.orderItems.items.size()) * 1024);
-    page.append(QLatin1String("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"UTF-8\">\n<title>")
-                + text::toHtml(orderTitle(order)) + QLatin1String("</title>\n<style>")
-                + QLatin1String(styleSheet) + QLatin1String("</style>\n</head>\n<body>\n"));
+    page.append(html::pageStart(orderTitle(order), styleSheet));
     writeHeader(page, order);
     page.openTable(QStringLiteral("class=\"lines\""));
     writeCaptions(page, columns());
@@ -252,6 +243,6 @@ QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
     if (!attentions.isEmpty())
         page.append(QLatin1String("<h2>") + labels::attentions().toHtmlEscaped()
                     + QLatin1String("</h2>\n") + attentions);
-    page.append(QStringLiteral("</body>\n</html>\n"));
+    page.append(html::pageEnd());
     return page.text();
 }

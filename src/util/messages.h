@@ -11,6 +11,7 @@ QString openFile();
 QString saveFile();
 QString printToFile();
 QString fileCorrupted();
+QString fileInvalid();
 QString createDefaultFile();
 
 // Result words.

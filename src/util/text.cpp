@@ -82,6 +82,13 @@ QString storable(const QString &text)
     return result;
 }
 
+QString firstUnits(const QString &text, int units)
+{
+    if (text.size() <= units)
+        return text;
+    return text.left(units > 0 && text.at(units - 1).isHighSurrogate() ? units - 1 : units);
+}
+
 QString toHtml(const QString &text)
 {
     return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));

@@ -29,6 +29,9 @@ QString fileNameOfPath(const QString &path);
 // characters, lone surrogates, U+FFFE, U+FFFF) are dropped. Call it where text enters the program.
 QString storable(const QString &text);
 
+// The first so many UTF-16 units of a text, one less where that would halve a character.
+QString firstUnits(const QString &text, int units);
+
 // HTML-escaped text with its line ends as "<br>".
 QString toHtml(const QString &text);
 

@@ -17,6 +17,7 @@ private slots:
     void faultsHaveTheirPlace();
     void longListsAreCut();
     void reportWithDatabases();
+    void changesAreWritten();
     void polishPathsAndLanguage();
     void runsWithoutDisplayAndHome();
     void archives();
@@ -62,6 +63,24 @@ void tst_cli::init()
                     testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
                                           "<d_ktm>K</d_ktm></material></d_group>"));
+    m_folder->write("cpv.txt", "G\t31712340-5 Diody\nX\t31712340-5\n");
+    m_folder->write(
+        "firms.xml",
+        testSupport::document(
+            "kiv_mat_firm", "KIV_MAT_FIRM_1", "kiv_mat.xsd",
+            "<suppliers><firm><name>Wrong</name><nip>5260250275</nip></firm></suppliers>"));
+    m_folder->write("stock.txt", "Towar: K\nIlosc: 2\nWartosc: 5\nTowar: brak\n");
+    m_folder->write(
+        "other.xml",
+        testSupport::document(
+            "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+            "<d_group "
+            "name=\"G\" cpv=\"31711130-3\"><material><d_ktm>K</d_ktm><d_price>5</d_price></"
+            "material><material><d_ktm>L</d_ktm></material></d_group>"));
+    m_folder->write("one.xml",
+                    testSupport::document(
+                        "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                        "<d_group name=\"G\"><material><d_ktm>K</d_ktm></material></d_group>"));
 }
 
 void tst_cli::calls_data()
@@ -120,6 +139,44 @@ void tst_cli::calls_data()
     row("unpack good.xml out", 1, "", "Archive cannot be read [good.xml]");
     row("unpack good.xml", 2, "", "argument is missing");
     row("download http://127.0.0.1:1/ out.bin", 1, "", "cannot be started");
+    row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.DbLib", "[Group]");
+    row("altium twice.xml -o out.SQLITE", 0, "out.txt\nout.SQLITE\nout.DbLib", "[Group]");
+    row("altium twice.xml -o out.txt", 2, "", ".xlsx / .sqlite");
+    row("altium good.xml -o out.xlsx", 1, "", "is no material database");
+    row("altium twice.xml -o good.xml/out.sqlite", 3, "", "cannot be written");
+    row("groups twice.xml -o out.xlsx", 0, "out.xlsx", "[Group]");
+    row("groups twice.xml -o out.sqlite", 2, "", "ends in .xlsx");
+    row("duplicates twice.xml", 1, "The same KTM:\nK\t[] []", "");
+    row("duplicates one.xml", 0, "All materials has unique KTM", "");
+    row("duplicates bad.xml", 1, "", "bad.xml:3:");
+    row("empty one.xml", 1, "K\t\tCPV, Name", "");
+    row("check-urls one.xml -o out.xlsx", 0, "", "");
+    row("check-urls one.xml -o _validator", 3, "", "cannot be written");
+    row("db-report one.xml -o out.html", 0, "", "");
+    row("db-report one.xml -f good.xml -o out.html", 1, "", "is no firm register");
+    row("parse-listing stock.txt -d one.xml", 0, "K\td_inWarehouse\t\t2\nK\td_averagePrice\t\t2.50",
+        "brak Error in KTM line");
+    row("parse-listing stock.txt -d one.xml -o out.xml", 0, "d_averagePrice", "brak");
+    row("parse-listing stock.txt -d one.xml -o _validator", 3, "d_averagePrice",
+        "cannot be written");
+    row("parse-listing stock.txt", 2, "", "-d");
+    row("parse-listing none.txt -d one.xml", 1, "", "corrupted");
+    row("parse-listing good.xml -d one.xml", 1, "", "good.xml");
+    row("merge one.xml one.xml", 0, "All materials in database", "");
+    row("merge one.xml other.xml", 0, "changed\tK\t\n\td_price\t\t5\nnew\tL\t\n", "");
+    row("merge one.xml other.xml --apply -o out.xml", 0, "new\tL", "");
+    row("merge other.xml one.xml --update", 0, "changed\tK\t\n\td_price\t5\t\nabsent\tL", "");
+    row("merge one.xml other.xml --apply", 2, "", "belong together");
+    row("merge one.xml other.xml --apply -o _validator", 3, "new\tL", "cannot be written");
+    row("merge one.xml good.xml", 1, "", "is no material database");
+    row("load-cpv cpv.txt -d one.xml", 0, "G\t\t31712340-5", "X");
+    row("load-cpv cpv.txt -d one.xml -o _validator", 3, "31712340-5", "cannot be written");
+    row("load-cpv cpv.txt", 2, "", "-d");
+    row("load-cpv none.txt -d one.xml", 1, "", "none.txt");
+    row("move-cpv other.xml -o out.xml", 0, "L\td_cpv\t\t31711130-3", "");
+    row("check-nip firms.xml", 1, "Wrong\t5260250275", "");
+    row("check-nip one.xml", 1, "", "is no firm register");
+    row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 
 void tst_cli::calls()
@@ -183,6 +240,19 @@ void tst_cli::reportWithDatabases()
     QVERIFY(!page.contains("Second"));
     QCOMPARE(run(call + QStringList("r.pdf")).code, 0);
     QVERIFY(testSupport::read(m_folder->path("r.pdf")).startsWith("%PDF"));
+}
+
+// What merge and parse-listing write is what they said.
+void tst_cli::changesAreWritten()
+{
+    QCOMPARE(run({"merge", "one.xml", "other.xml", "--apply", "-o", "m.xml"}).code, 0);
+    QVERIFY(run({"merge", "m.xml", "other.xml", "--update"}).out.startsWith("All materials"));
+    QCOMPARE(run({"merge", "m.xml", "one.xml", "--update", "--apply", "-o", "u.xml"}).code, 0);
+    QVERIFY(run({"merge", "u.xml", "one.xml", "--update"}).out.startsWith("All materials"));
+    QCOMPARE(run({"parse-listing", "stock.txt", "-d", "one.xml", "-o", "s.xml"}).code, 0);
+    QCOMPARE(run({"parse-listing", "stock.txt", "-d", "s.xml"}).out, QString());
+    QVERIFY(testSupport::read(m_folder->path("s.xml"))
+                .contains("<d_averagePrice>2.50</d_averagePrice>"));
 }
 
 void tst_cli::polishPathsAndLanguage()

@@ -56,6 +56,7 @@ private slots:
     void replies();
     void requestNamesHostAndPath();
     void nothingListens();
+    void waitsInSlices();
 };
 
 void tst_linkCheck::replies_data()
@@ -95,6 +96,25 @@ void tst_linkCheck::nothingListens()
     server.close();
     QVERIFY(!linkCheck::answers(QUrl("http://localhost/"), port, 500));
     QVERIFY(!linkCheck::answers(QUrl(), port, 500));
+}
+
+// While nothing comes, events get through and the caller is asked whether to go on.
+void tst_linkCheck::waitsInSlices()
+{
+    QTcpServer silent;
+    silent.listen(QHostAddress::LocalHost);
+    int asked = 0;
+    int events = 0;
+    QTimer ticks;
+    connect(&ticks, &QTimer::timeout, [&events] { ++events; });
+    ticks.start(20);
+    QElapsedTimer timer;
+    timer.start();
+    const auto keepGoing = [&] { return ++asked < 8; };
+    QVERIFY(!linkCheck::answers(QUrl("http://localhost/"), silent.serverPort(), 20000, keepGoing));
+    QVERIFY(timer.elapsed() < 5000);
+    QCOMPARE(asked, 8);
+    QVERIFY(events > 2);
 }
 
 KIVZP_TEST(tst_linkCheck)

@@ -1,0 +1,175 @@
+// The operations of the material database on 100,000 materials.
+#include "benchSupport.h"
+
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/ktmIndex.h"
+#include "data/loaders.h"
+#include "database/altiumExport.h"
+#include "database/databaseChecks.h"
+#include "database/databaseMerge.h"
+#include "database/warehouseListing.h"
+#include "util/localeSetup.h"
+#include "util/paths.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
+
+// The workbook of the CAD tool against XlsxWriter writing the same cells. ratio: the bound is 0.5.
+void workbookAgainstPython(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/exportXXXXXX");
+    double ours = 0;
+    double reference = 0;
+    for (auto _ : state) {
+        QProcess python;
+        python.start(QStringLiteral("/usr/bin/python3"),
+                     {QStringLiteral(KIVZP_SOURCE_DIR "/bench/writeWorkbook.py"), database.filePath,
+                      folder.filePath(QStringLiteral("python.xlsx"))});
+        python.waitForFinished(-1);
+        reference += python.readAllStandardOutput().trimmed().toDouble();
+        QElapsedTimer timer;
+        timer.start();
+        const exportResult result =
+            exportAltiumXlsx(database, folder.filePath(QStringLiteral("ours.xlsx")));
+        state.SetIterationTime(since(timer));
+        ours += since(timer);
+        if (result.result != exportResult::done || reference <= 0) {
+            state.SkipWithError("one of the two failed");
+            return;
+        }
+    }
+    state.counters["ratio"] = ours / reference;
+}
+
+// The script. ratio: the time over what 50 MB/s allow.
+void script(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/exportXXXXXX");
+    const QString path = folder.filePath(QStringLiteral("parts.sqlite"));
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        if (exportAltiumSqlite(database, path).result != exportResult::done) {
+            state.SkipWithError("the export failed");
+            return;
+        }
+        state.SetIterationTime(since(timer));
+        seconds += since(timer);
+    }
+    const double megabytes = double(QFileInfo(scriptPath(path)).size()) / 1e6;
+    state.counters["MB"] = megabytes;
+    state.counters["ratio"] = seconds / double(state.iterations()) / (megabytes / 50);
+}
+
+// Runs work and measures it against the seconds allowed; work answers whether all was right.
+template <class Work>
+void againstTime(benchmark::State &state, double allowed, const Work &work)
+{
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        const bool good = work();
+        seconds += since(timer);
+        state.SetIterationTime(since(timer));
+        if (!good) {
+            state.SkipWithError("a wrong result");
+            return;
+        }
+    }
+    state.counters["ratio"] = seconds / double(state.iterations()) / allowed;
+}
+
+// Both lists, on data in which no KTM stands twice.
+void duplicates(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    againstTime(state, 0.2, [&database] {
+        benchmark::DoNotOptimize(duplicatePartNumbers(database).size());
+        return duplicateKtms(database).empty();
+    });
+}
+
+// Comparing with a copy in which every tenth material is changed, and taking that over.
+void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    kiv_mat_databaseStruct mine;
+    kiv_mat_databaseStruct other;
+    int number = 0;
+    for (const auto &group : database.groups) {
+        for (kiv_mat_databaseStruct *copy : {&mine, &other}) {
+            copy->groups.push_back(std::make_unique<d_groupStruct>());
+            copy->groups.back()->name = group->name;
+        }
+        for (const auto &material : group->items) {
+            mine.groups.back()->append(copyOf(*material));
+            if (++number % 10 == 0)
+                other.groups.back()->append(copyOf(*material))->d_description += QLatin1Char('x');
+            else
+                other.groups.back()->append(copyOf(*material));
+        }
+    }
+    // The texts of the two are their own, as when they come from two files.
+    for (const auto &group : other.groups)
+        for (const auto &material : group->items)
+            for (const auto &field : materialStruct::fields())
+                ((*material).*field.member).detach();
+    againstTime(state, 1.0, [&] {
+        return compareDatabases(mine, other).differences.size() == size_t(number / 10);
+    });
+}
+
+// A listing with an entry for each of 100,000 materials: cut, read and matched.
+void listing(benchmark::State &state, kiv_mat_databaseStruct &database)
+{
+    QString text;
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            text += QStringLiteral("Towar: %1\n Ilosc: 1 234,50 szt.\n Wartosc: 617,25\n")
+                        .arg(material->d_ktm);
+    ktmIndex index;
+    index.add(&database);
+    againstTime(state, 1.0, [&] {
+        const listingResult result = matchListing(parseListing(text), index);
+        return result.problems.isEmpty() && result.found == database.materialCount();
+    });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ensureUtf8Locale();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    paths::setProgramDir(QStringLiteral(KIVZP_SOURCE_DIR));
+    kiv_mat_databaseStruct database;
+    if (loadDatabase(benchSupport::generatedDatabase(100000), &database) != 0)
+        return 1;
+
+    const auto add = [&database](const char *name, auto function) {
+        return benchmark::RegisterBenchmark(
+                   name,
+                   [&database, function](benchmark::State &state) { function(state, database); })
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("altium/xlsx", workbookAgainstPython)->Iterations(2);
+    add("altium/script", script)->Iterations(3);
+    add("duplicates", duplicates)->Iterations(5);
+    add("compare", compareWithCopy)->Iterations(3);
+    add("listing", listing)->Iterations(3);
+
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

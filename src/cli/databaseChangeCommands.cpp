@@ -1,0 +1,218 @@
+// parse-listing, merge, load-cpv and move-cpv: show what would change in a material database, and
+// write it when asked to.
+#include "cli/arguments.h"
+
+#include "data/loaders.h"
+#include "database/cpvOperations.h"
+#include "database/databaseMerge.h"
+#include "database/warehouseListing.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace cli {
+
+namespace {
+
+QString fieldName(QString materialStruct::*field)
+{
+    for (const auto &f : materialStruct::fields())
+        if (f.member == field)
+            return f.name;
+    return {};
+}
+
+// Saves the database when an output file was asked for.
+int saveTo(const QString &target, const kiv_mat_databaseStruct &database)
+{
+    return target.isEmpty() || saveXmlNoEvents(target, &database) == 0 ? int(done)
+                                                                       : cannotWrite(target);
+}
+
+// KTM, field, value before and after, separated by tabs.
+void printChanges(const std::vector<materialChange> &changes)
+{
+    for (const materialChange &change : changes)
+        out() << change.record->d_ktm << '\t' << fieldName(change.field) << '\t' << change.before
+              << '\t' << change.after << '\n';
+    out() << Qt::flush;
+}
+
+const char *const changedDatabase =
+    QT_TRANSLATE_NOOP("cli", "Where the changed database goes; without it nothing is written.");
+
+// The database of the option -d, or null with the exit code in code.
+std::unique_ptr<kiv_mat_databaseStruct> readNamed(const parser &options,
+                                                  const QCommandLineOption &option,
+                                                  const char *command, int *code)
+{
+    if (options.isSet(option)) {
+        *code = refused;
+        return readDatabase(options.value(option));
+    }
+    *code = wrongCall;
+    err() << command << ": "
+          << QCoreApplication::translate("cli", "give a material database with -d") << '\n'
+          << Qt::flush;
+    return nullptr;
+}
+
+int runParseListing(const QStringList &arguments)
+{
+    parser options(parseListingCommand, QStringLiteral("LISTING"), 1, 1);
+    const QCommandLineOption databaseFile =
+        databaseOption(QT_TRANSLATE_NOOP("cli", "The material database."));
+    const QCommandLineOption output = outputOption(changedDatabase);
+    options.addOption(databaseFile);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    int code = done;
+    const auto database = readNamed(options, databaseFile, parseListingCommand.name, &code);
+    if (!database)
+        return code;
+    QString error;
+    const auto entries = readListing(options.positionalArguments().at(0), &error);
+    if (!entries) {
+        printNotes({error});
+        return refused;
+    }
+    ktmIndex index;
+    index.add(database.get());
+    const listingResult result = matchListing(*entries, index);
+    printNotes(result.problems);
+    printChanges(result.changes);
+    applyChanges(result.changes);
+    return saveTo(options.value(output), *database);
+}
+
+int runLoadCpv(const QStringList &arguments)
+{
+    parser options(loadCpvCommand, QStringLiteral("LIST"), 1, 1);
+    const QCommandLineOption databaseFile =
+        databaseOption(QT_TRANSLATE_NOOP("cli", "The material database."));
+    const QCommandLineOption output = outputOption(changedDatabase);
+    options.addOption(databaseFile);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    int code = done;
+    const auto database = readNamed(options, databaseFile, loadCpvCommand.name, &code);
+    if (!database)
+        return code;
+    const QString list = options.positionalArguments().at(0);
+    const auto result = loadCpvForGroups(list, *database);
+    printNotes(result.problems);
+    if (!QFileInfo(list).isFile())
+        return refused;
+    for (const groupChange &change : result.changes)
+        out() << change.record->name << '\t' << change.before << '\t' << change.after << '\n';
+    out() << Qt::flush;
+    applyChanges(result.changes);
+    return saveTo(options.value(output), *database);
+}
+
+int runMoveCpv(const QStringList &arguments)
+{
+    parser options(moveCpvCommand, QStringLiteral("DB"), 1, 1);
+    const QCommandLineOption output = outputOption(changedDatabase);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    const auto database = readDatabase(options.positionalArguments().at(0));
+    if (!database)
+        return refused;
+    const auto result = moveCpvToMaterials(*database);
+    printNotes(result.problems);
+    printChanges(result.changes);
+    applyChanges(result.changes);
+    return saveTo(options.value(output), *database);
+}
+
+// new, changed or absent, KTM and name; below a changed one its fields with both values.
+void printDifference(const materialDifference &difference)
+{
+    static const char *const words[] = {"new", "changed", "absent"};
+    const materialStruct &shown = difference.other ? *difference.other : *difference.mine;
+    out() << words[difference.kind] << '\t' << shown.d_ktm << '\t' << shown.d_name << '\n';
+    for (int index : difference.fields) {
+        const comparedField &field = comparedFields()[size_t(index)];
+        const auto oneLine = [&field](const materialStruct &material) {
+            return field.text(material).replace(QLatin1Char('\n'), QLatin1String("; "));
+        };
+        out() << '\t' << field.name << '\t' << oneLine(*difference.mine) << '\t'
+              << oneLine(*difference.other) << '\n';
+    }
+}
+
+int runMerge(const QStringList &arguments)
+{
+    parser options(mergeCommand, QStringLiteral("DB OTHER"), 2, 2);
+    const QCommandLineOption apply(
+        QStringLiteral("apply"),
+        QCoreApplication::translate("cli", "Take over what is new or changed; wants -o."));
+    const QCommandLineOption update(
+        QStringLiteral("update"),
+        QCoreApplication::translate(
+            "cli", "The other database wins: list, and with --apply delete, what it lacks."));
+    const QCommandLineOption output =
+        outputOption(QT_TRANSLATE_NOOP("cli", "Where the merged database goes."));
+    options.addOption(apply);
+    options.addOption(update);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    if (options.isSet(apply) != options.isSet(output)) {
+        err() << "merge: " << QCoreApplication::translate("cli", "--apply and -o belong together")
+              << '\n'
+              << Qt::flush;
+        return wrongCall;
+    }
+    const auto mine = readDatabase(options.positionalArguments().at(0));
+    const auto other = mine ? readDatabase(options.positionalArguments().at(1)) : nullptr;
+    if (!other)
+        return refused;
+    std::vector<materialDifference> differences = compareDatabases(*mine, *other).differences;
+    if (!options.isSet(update))
+        std::erase_if(differences, [](const materialDifference &difference) {
+            return difference.kind == materialDifference::absent;
+        });
+    if (differences.empty())
+        out() << allMaterialsInDatabase() << '\n';
+    for (const materialDifference &difference : differences)
+        printDifference(difference);
+    out() << Qt::flush;
+    if (options.isSet(update))
+        updateDatabase(*mine, differences);
+    else
+        mergeDatabase(*mine, differences);
+    return saveTo(options.value(output), *mine);
+}
+
+} // namespace
+
+const subcommand mergeCommand{
+    "merge",
+    QT_TRANSLATE_NOOP("cli", "Lists the materials of another database that are new or changed, and "
+                             "takes them over when asked to."),
+    runMerge};
+const subcommand parseListingCommand{
+    "parse-listing",
+    QT_TRANSLATE_NOOP("cli",
+                      "Lists the stock and average prices that a listing of the warehouse, or "
+                      "another database, changes in a material database."),
+    runParseListing};
+
+const subcommand loadCpvCommand{
+    "load-cpv",
+    QT_TRANSLATE_NOOP("cli", "Lists the CPV codes of groups that a text file changes in a material "
+                             "database."),
+    runLoadCpv};
+const subcommand moveCpvCommand{
+    "move-cpv",
+    QT_TRANSLATE_NOOP("cli",
+                      "Lists the materials whose CPV code is another than their group's, and "
+                      "gives them that."),
+    runMoveCpv};
+
+} // namespace cli

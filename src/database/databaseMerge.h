@@ -1,0 +1,85 @@
+// Two material databases compared, and what of the other one is taken over.
+#pragma once
+
+#include "util/progress.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class d_groupStruct;
+class kiv_mat_bomStruct;
+class kiv_mat_databaseStruct;
+class kiv_mat_zpStruct;
+class materialStruct;
+
+// One field of the comparison: the text fields and the information block of a material, then its
+// manufacturers and its suppliers, each as a whole with their files.
+struct comparedField
+{
+    QString name; // as in files
+    QString (*caption)();
+    std::function<QString(const materialStruct &)>
+        text; // one line a manufacturer, supplier or file
+    std::function<bool(const materialStruct &, const materialStruct &)> equal;
+    std::function<void(materialStruct &to, const materialStruct &from)> take;
+};
+const std::vector<comparedField> &comparedFields();
+
+struct materialDifference
+{
+    enum differenceKind
+    {
+        added,   // only the other database has it
+        changed, // both have it, and fields differ
+        absent   // the other database lacks it
+    };
+    differenceKind kind;
+    materialStruct *mine; // null when added
+    d_groupStruct *myGroup;
+    const materialStruct *other; // null when absent
+    const d_groupStruct *otherGroup;
+    std::vector<int> fields; // changed: places in comparedFields() that differ
+};
+
+struct comparison
+{
+    std::vector<materialDifference> differences; // in the other's file order, absent ones last
+    bool cancelled = false;                      // by the progress function; then there are none
+};
+
+// Compares by KTM, texts exactly as they are; materials without a KTM by name. The group does not
+// count. Of several materials with one KTM those that are equal belong together, then the others in
+// file order. progress is told the other's materials,
+// those that differ twice.
+comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
+                            const progressFunction &progress = {});
+
+// What the user is told when nothing is new or changed.
+QString allMaterialsInDatabase();
+
+// Takes over the new and changed ones among the differences and never deletes. Of a changed
+// material only the listed fields: a caller takes others out to keep its own. A new one goes to the
+// group of its group's name, which is made with its CPV when it is missing. Indexes over mine are
+// the caller's to keep in step.
+void mergeDatabase(kiv_mat_databaseStruct &mine, const std::vector<materialDifference> &selected);
+
+// The other database wins: as above, and the absent ones are deleted. Their pointers in
+// differences are dangling afterwards.
+void updateDatabase(kiv_mat_databaseStruct &mine,
+                    const std::vector<materialDifference> &differences);
+
+// HTML lines for the absent ones, below the caption "Materials deleted"; none when there are none.
+QStringList deletedLines(const std::vector<materialDifference> &differences);
+
+// HTML lines for the lines of an order or a BOM list that name one of the KTMs: what a deletion
+// would leave without a material.
+QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_zpStruct &order);
+QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_bomStruct &bom);
+
+// A material of its own with the same content.
+std::unique_ptr<materialStruct> copyOf(const materialStruct &material);

@@ -1,0 +1,20 @@
+// How an operation that writes files of its own went.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct exportResult
+{
+    enum outcome
+    {
+        done,
+        cancelled, // by the progress function; nothing was written
+        failed     // older files are as they were; error tells why
+    };
+    outcome result = done;
+    QString error;     // plain text
+    QStringList notes; // HTML lines for the errors window: names changed, texts cut
+    QStringList files; // paths written
+    int materials = 0;
+};

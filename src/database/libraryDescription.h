@@ -1,0 +1,28 @@
+// The description of an exported library with which the CAD tool opens it (.DbLib).
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace libraryDescription {
+
+enum source
+{
+    workbookFile,
+    sqliteFile
+};
+
+// One exported column: its name in the file, and what it is to the CAD tool: a parameter's name, or
+// one of its reserved fields in square brackets.
+struct column
+{
+    QString name;
+    QString parameter;
+};
+
+// fileName: the exported file, which lies beside the description. tables: the names of its sheets
+// or tables. keyColumn: the place in columns of the one that finds a part again.
+QByteArray text(source kind, const QString &fileName, const QStringList &tables,
+                const QList<column> &columns, int keyColumn);
+
+} // namespace libraryDescription

@@ -1,0 +1,45 @@
+// An Excel workbook as it is written, sheet after sheet. The only place that knows the library.
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+struct lxw_workbook;
+struct lxw_worksheet;
+
+class workbook
+{
+public:
+    // Excel's own bounds, in UTF-16 units.
+    static constexpr int maximumName = 31;
+    static constexpr int maximumText = 32767;
+
+    workbook();
+    ~workbook();
+    workbook(const workbook &) = delete;
+    workbook &operator=(const workbook &) = delete;
+
+    // A new sheet at the end; what is written next goes there. The name is one that Excel accepts
+    // (exportNames::sheetNames()); false, with error() set, when it is not.
+    bool addSheet(const QString &name);
+
+    // Writes a text cell; rows and columns count from 1. A number stays the text it is. Nothing is
+    // written for an empty text. A text beyond maximumText is cut. False, with error() set, when
+    // the sheet has no such row.
+    bool write(int row, int column, const QString &content);
+
+    // Writes the file in one piece in the place of an older one, which stays as it was when that
+    // fails: then false, with error() set. The workbook is finished after that.
+    bool saveAs(const QString &path);
+
+    // Why the last operation failed, as plain text.
+    QString error() const { return m_error; }
+
+private:
+    bool good(int libraryError);
+
+    QTemporaryDir m_scratch;
+    lxw_workbook *m_book = nullptr;
+    lxw_worksheet *m_sheet = nullptr;
+    QString m_error;
+};
