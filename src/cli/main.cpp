@@ -15,8 +15,8 @@ const QList<const cli::subcommand *> &commands()
         &cli::groupsCommand,    &cli::duplicatesCommand, &cli::emptyCommand,
         &cli::checkUrlsCommand, &cli::dbReportCommand,   &cli::parseListingCommand,
         &cli::mergeCommand,     &cli::loadCpvCommand,    &cli::moveCpvCommand,
-        &cli::checkNipCommand,  &cli::helpersCommand,    &cli::downloadCommand,
-        &cli::packCommand,      &cli::unpackCommand,
+        &cli::checkNipCommand,  &cli::firmUsesCommand,   &cli::helpersCommand,
+        &cli::downloadCommand,  &cli::packCommand,       &cli::unpackCommand,
     };
     return table;
 }

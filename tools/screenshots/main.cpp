@@ -4,6 +4,7 @@
 #include "dialogs/aboutDialog.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/linesDialog.h"
+#include "firm/firmWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
@@ -11,6 +12,7 @@
 #include "shell/orderView.h"
 #include "shell/startupDialog.h"
 #include "shell/userState.h"
+#include "tree/myTreeView.h"
 #include "tree/richtexteditDialog.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
@@ -23,6 +25,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #include <cstdio>
 
@@ -104,6 +107,21 @@ QWidget *showConfig(MainWindow &window)
     return shownBy(window, "configWindow", [&] { window.configCommand(true); });
 }
 
+QWidget *showFirms(MainWindow &, firmOperations::firmKind kind)
+{
+    auto *firms = new firmWindow;
+    firms->findChild<QTabWidget *>()->setCurrentIndex(kind);
+    firms->showNow();
+    myTreeView *view = firms->view(kind);
+    view->setCurrentIndex(view->model()->index(2, 0));
+    // A wrong tax number, for its mark.
+    myModel *model = firms->model(kind);
+    if (kind == firmOperations::supplier)
+        model->setValue(model->cell(model->index(1, model->columnCount() - 1)),
+                        QStringLiteral("526-025-02-75"));
+    return firms;
+}
+
 QWidget *showAddMaterial(MainWindow &window)
 {
     window.commandAddMaterial(true);
@@ -137,6 +155,8 @@ const picture pictures[] = {
     {"about", showAbout},
     {"addMaterial", showAddMaterial},
     {"config", showConfig},
+    {"firms", [](MainWindow &w) { return showFirms(w, firmOperations::manufacturer); }},
+    {"firmsSuppliers", [](MainWindow &w) { return showFirms(w, firmOperations::supplier); }},
     {"lines", showLines},
     {"richText", showRichText},
     {"mainBeside", showBeside},
