@@ -106,5 +106,6 @@ extern const subcommand mergeCommand;
 extern const subcommand loadCpvCommand;
 extern const subcommand moveCpvCommand;
 extern const subcommand checkNipCommand;
+extern const subcommand firmUsesCommand;
 
 } // namespace cli

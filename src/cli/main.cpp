@@ -15,8 +15,9 @@ const QList<const cli::subcommand *> &commands()
         &cli::groupsCommand,    &cli::duplicatesCommand,     &cli::emptyCommand,
         &cli::checkUrlsCommand, &cli::dbReportCommand,       &cli::parseListingCommand,
         &cli::mergeCommand,     &cli::loadCpvCommand,        &cli::moveCpvCommand,
-        &cli::checkNipCommand,  &cli::checkMaterialsCommand, &cli::helpersCommand,
-        &cli::downloadCommand,  &cli::packCommand,           &cli::unpackCommand,
+        &cli::checkNipCommand,  &cli::checkMaterialsCommand, &cli::firmUsesCommand,
+        &cli::helpersCommand,   &cli::downloadCommand,       &cli::packCommand,
+        &cli::unpackCommand,
     };
     return table;
 }

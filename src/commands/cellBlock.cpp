@@ -65,6 +65,16 @@ std::unique_ptr<command> clear(myModel *model, const QList<myItemStandard *> &ce
         model, cells, [](const myItemStandard &) { return QVariant(QString()); }, view);
 }
 
+std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows, htmlView *view)
+{
+    const changeBatch batch;
+    std::vector<std::unique_ptr<command>> members;
+    // From the last one on, so that the numbers of the others stay true.
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+        members.push_back(std::make_unique<deleteMaterial>(model, model->index(*row, 0)));
+    return grouped(std::move(members), view);
+}
+
 pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
              const QList<int> &columns, const QString &text, htmlView *view)
 {

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class htmlView;
 class myModel;
@@ -35,6 +36,10 @@ std::unique_ptr<command> set(myModel *model, const QList<myItem::myItemStandard 
 // One step that empties the cells.
 std::unique_ptr<command> clear(myModel *model, const QList<myItem::myItemStandard *> &cells,
                                htmlView *view = nullptr);
+
+// One step that takes out top-level rows, given from the top down; null when there are none.
+std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows,
+                                    htmlView *view = nullptr);
 
 struct pasted
 {

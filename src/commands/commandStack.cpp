@@ -36,7 +36,7 @@ commandStack::~commandStack()
 
 void commandStack::push(std::unique_ptr<command> applied, const QString &what)
 {
-    m_done.push_back({std::move(applied), what});
+    m_done.push_back({completed ? completed(std::move(applied)) : std::move(applied), what});
     clearRedo();
     enable(m_redoAction, false);
     enable(m_undoAction, true);

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -34,6 +35,10 @@ public:
     // Discards everything; only what could be redone.
     void clear();
     void clearRedo();
+
+    // Called with each command before it is taken; gives back the step that it becomes. A window
+    // adds to a change what belongs to it, and may ask the user.
+    std::function<std::unique_ptr<command>(std::unique_ptr<command>)> completed;
 
     size_t undoCount() const { return m_done.size(); }
     size_t redoCount() const { return m_undone.size(); }

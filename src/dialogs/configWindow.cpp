@@ -2,19 +2,17 @@
 
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
+#include "data/documentSaving.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "dialogs/configOperations.h"
 #include "tree/myTreeView.h"
-#include "util/fileVersions.h"
 #include "util/labels.h"
-#include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QHeaderView>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -328,17 +326,9 @@ void configWindow::commandAdd(bool)
 void configWindow::commandDelete(bool)
 {
     myTreeView *view = m_views[size_t(m_tabs->currentIndex())];
-    auto *model = static_cast<myModel *>(view->model());
-    std::vector<int> rows;
-    for (const QModelIndex &cell : view->selectedCells())
-        if (rows.empty() || rows.back() != cell.row())
-            rows.push_back(cell.row());
-    if (rows.empty())
-        return;
-    std::vector<std::unique_ptr<command>> members;
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        members.push_back(std::make_unique<deleteMaterial>(model, model->index(*row, 0)));
-    m_stack->push(std::make_unique<appendCommands>(std::move(members)), tr("Delete rows"));
+    if (auto change =
+            cellBlock::deleteRows(static_cast<myModel *>(view->model()), view->selectedRows()))
+        m_stack->push(std::move(change), tr("Delete rows"));
     updateActions();
 }
 
@@ -365,18 +355,12 @@ void configWindow::commandSave(bool)
     }
     programData &known = programData::instance();
     const QString path = paths::config();
-    constexpr int usualCount = 20;
-    fileVersions::keep(path, known.config().backupPath(), usualCount);
-    if (!m_edited->save(path)) {
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+    if (!saveDocument(path, *m_edited))
         return;
-    }
     const QStringList later = configOperations::restartNeeded(known.config(), *m_edited);
     if (!known.replaceConfiguration(path))
         return;
     m_stack->clear();
-    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
     updateActions();
     statusBar()->showMessage(tr("Saved"));
     emit configChange();

@@ -1,17 +1,13 @@
 #include "shell/orderDocument.h"
 
-#include "data/loaders.h"
 #include "data/programData.h"
-#include "data/vocabulary.h"
 #include "report/orderReport.h"
 #include "shell/orderOperations.h"
-#include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 orderDocument::orderDocument()
@@ -25,16 +21,10 @@ orderDocument &orderDocument::instance()
     return document;
 }
 
-orderDocument::fileState orderDocument::stateOf(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
-}
-
 // The document belongs to that file from now on, and this program claims it where it can.
 void orderDocument::settle(const QString &path)
 {
-    m_onDisk = stateOf(path);
+    m_onDisk = fileState::of(path);
     m_modified = false;
     if (path == m_path && (m_lock || path.isEmpty()))
         return;
@@ -96,27 +86,15 @@ void orderDocument::startNew()
 
 bool orderDocument::save(const QString &path)
 {
-    configStruct &config = programData::instance().config();
-    constexpr int usualCount = 20;
-    const optionStruct *count = config.options.findOption(optionKey::backupCount);
-    const QString backups = config.backupPath();
-    if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
-        userPrompts().log(messages::done(
-            QCoreApplication::translate("log", "No backup could be written "), path, backups));
-    if (saveXml(path, m_order.get()) < 0) {
-        userPrompts().showError(
-            QCoreApplication::translate("orderDocument", "The file %1 cannot be written")
-                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+    if (!saveDocument(path, *m_order))
         return false;
-    }
     settle(path);
-    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
     return true;
 }
 
 bool orderDocument::changedOnDisk() const
 {
-    return !m_path.isEmpty() && !(stateOf(m_path) == m_onDisk);
+    return !m_path.isEmpty() && !(fileState::of(m_path) == m_onDisk);
 }
 
 void orderDocument::listFaults() const

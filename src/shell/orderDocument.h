@@ -1,9 +1,9 @@
 // The order that is open: its record, where it came from, and whether it was changed since.
 #pragma once
 
+#include "data/documentSaving.h"
 #include "data/kiv_mat_zpStruct.h"
 
-#include <QDateTime>
 #include <QLockFile>
 
 #include <memory>
@@ -45,15 +45,7 @@ public:
     QString report() const;
 
 private:
-    struct fileState
-    {
-        qint64 size = -1;
-        QDateTime time;
-        bool operator==(const fileState &) const = default;
-    };
-
     orderDocument();
-    static fileState stateOf(const QString &path);
     void settle(const QString &path);
     void listFaults() const;
 

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <set>
 
 myTreeView::myTreeView(QWidget *parent)
     : QTreeView(parent)
@@ -90,6 +91,41 @@ QModelIndexList myTreeView::selectedCells() const
     for (const auto &[place, cell] : placed)
         cells.append(cell);
     return cells;
+}
+
+std::vector<int> myTreeView::selectedRows() const
+{
+    std::set<int> rows;
+    if (selectionModel())
+        for (const QModelIndex &cell : selectionModel()->selectedIndexes())
+            if (!cell.parent().isValid())
+                rows.insert(cell.row());
+    return {rows.begin(), rows.end()};
+}
+
+bool myTreeView::findNext(const QString &text)
+{
+    const auto *own = qobject_cast<const myModel *>(model());
+    if (!own || text.isEmpty())
+        return false;
+    const int columns = own->columnCount();
+    const int cells = own->rowCount() * columns;
+    const QModelIndex current = currentIndex();
+    const int start = current.isValid() ? current.row() * columns + current.column() : -1;
+    for (int step = 1; step <= cells; ++step) {
+        const int at = (start + step) % cells;
+        const QModelIndex index = own->index(at / columns, at % columns);
+        const myItem::myItemStandard *item = own->cell(index);
+        if (!item || isColumnHidden(index.column())
+            || !myItem::displayText(*item).contains(text, Qt::CaseInsensitive))
+            continue;
+        setCurrentIndex(index);
+        scrollTo(index);
+        setFocus();
+        moveHighlight();
+        return true;
+    }
+    return false;
 }
 
 QModelIndex myTreeView::hitItem(const QMouseEvent *event) const

@@ -5,6 +5,8 @@
 #include <QPersistentModelIndex>
 #include <QTreeView>
 
+#include <vector>
+
 class QStandardItem;
 class myHeaderView;
 class myModel;
@@ -27,6 +29,12 @@ public:
 
     // The cells selected, in the order in which they are seen.
     QModelIndexList selectedCells() const;
+    // The top-level rows that have a selected cell, from the top down.
+    std::vector<int> selectedRows() const;
+
+    // Goes to the next top-level cell, after the current one and around, whose shown text holds the
+    // text in any case. False when there is none.
+    bool findNext(const QString &text);
 
 signals:
     void clicked(QPoint MousePos, uint b, QModelIndex i);

@@ -19,7 +19,7 @@ struct unitName
     quantity::unitKind unit;
 };
 // The longer of two that begin alike comes first.
-constexpr unitName units[] = {
+const unitName units[] = {
     {QLatin1String("ohms"), quantity::ohm},      {QLatin1String("ohm"), quantity::ohm},
     {QLatin1String("r"), quantity::ohm},         {QLatin1String("farad"), quantity::farad},
     {QLatin1String("f"), quantity::farad},       {QLatin1String("hz"), quantity::hertz},

@@ -81,6 +81,13 @@ void tst_cli::init()
                     testSupport::document(
                         "kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                         "<d_group name=\"G\"><material><d_ktm>K</d_ktm></material></d_group>"));
+    m_folder->write(
+        "sources.xml",
+        testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
+                              "<d_group name=\"G\"><material><d_ktm>K</d_ktm><manufacturers>"
+                              "<manufacturer><name>A</name></manufacturer></manufacturers>"
+                              "<suppliers><supplier><name>A</name></supplier></suppliers>"
+                              "</material></d_group>"));
 }
 
 void tst_cli::calls_data()
@@ -179,6 +186,12 @@ void tst_cli::calls_data()
     row("move-cpv other.xml -o out.xml", 0, "L\td_cpv\t\t31711130-3", "");
     row("check-nip firms.xml", 1, "Wrong\t5260250275", "");
     row("check-nip one.xml", 1, "", "is no firm register");
+    row("firm-uses sources.xml A", 0, "manufacturer\tK\t\nsupplier\tK\t\n", "");
+    row("firm-uses sources.xml A --rename B -o out.xml", 0, "supplier\tK", "");
+    row("firm-uses sources.xml A --rename B -o _validator", 3, "supplier\tK", "cannot be written");
+    row("firm-uses sources.xml a", 1, "", "no material names a");
+    row("firm-uses sources.xml A --rename B", 2, "", "belong together");
+    row("firm-uses good.xml A", 1, "", "is no material database");
     row("db-report one.xml --short -o _validator", 3, "", "cannot be written");
 }
 
@@ -256,6 +269,9 @@ void tst_cli::changesAreWritten()
     QCOMPARE(run({"parse-listing", "stock.txt", "-d", "s.xml"}).out, QString());
     QVERIFY(testSupport::read(m_folder->path("s.xml"))
                 .contains("<d_averagePrice>2.50</d_averagePrice>"));
+    QCOMPARE(run({"firm-uses", "sources.xml", "A", "--rename", "B", "-o", "f.xml"}).code, 0);
+    QCOMPARE(run({"firm-uses", "f.xml", "A"}).code, 1);
+    QCOMPARE(run({"firm-uses", "f.xml", "B"}).out, run({"firm-uses", "sources.xml", "A"}).out);
 }
 
 void tst_cli::polishPathsAndLanguage()

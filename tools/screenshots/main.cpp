@@ -8,6 +8,7 @@
 #include "dialogs/aboutDialog.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/linesDialog.h"
+#include "firm/firmWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
@@ -28,6 +29,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #include <cstdio>
 
@@ -128,6 +130,21 @@ QWidget *showConfig(MainWindow &window)
     return shownBy(window, "configWindow", [&] { window.configCommand(true); });
 }
 
+QWidget *showFirms(MainWindow &, firmOperations::firmKind kind)
+{
+    auto *firms = new firmWindow;
+    firms->findChild<QTabWidget *>()->setCurrentIndex(kind);
+    firms->showNow();
+    myTreeView *view = firms->view(kind);
+    view->setCurrentIndex(view->model()->index(2, 0));
+    // A wrong tax number, for its mark.
+    myModel *model = firms->model(kind);
+    if (kind == firmOperations::supplier)
+        model->setValue(model->cell(model->index(1, model->columnCount() - 1)),
+                        QStringLiteral("526-025-02-75"));
+    return firms;
+}
+
 QWidget *showAddMaterial(MainWindow &window)
 {
     window.commandAddMaterial(true);
@@ -175,6 +192,8 @@ const picture pictures[] = {
     {"database", showDatabase},
     {"merge", showMerge},
     {"config", showConfig},
+    {"firms", [](MainWindow &w) { return showFirms(w, firmOperations::manufacturer); }},
+    {"firmsSuppliers", [](MainWindow &w) { return showFirms(w, firmOperations::supplier); }},
     {"lines", showLines},
     {"material", showMaterial},
     {"richText", showRichText},

@@ -1,0 +1,38 @@
+#include "data/documentSaving.h"
+
+#include "data/documentStruct.h"
+#include "data/loaders.h"
+#include "data/programData.h"
+#include "data/vocabulary.h"
+#include "util/fileVersions.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+#include "util/text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+fileState fileState::of(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
+}
+
+bool saveDocument(const QString &path, const documentStruct &document)
+{
+    configStruct &config = programData::instance().config();
+    constexpr int usualCount = 20;
+    const optionStruct *count = config.options.findOption(optionKey::backupCount);
+    const QString backups = config.backupPath();
+    if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
+        userPrompts().log(messages::done(
+            QCoreApplication::translate("log", "No backup could be written "), path, backups));
+    if (saveXmlNoEvents(path, &document) < 0) {
+        userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
+                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        return false;
+    }
+    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
+    return true;
+}

@@ -1,0 +1,21 @@
+// Saving a file for the user, the same from every window.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+class documentStruct;
+
+// A file as it stands on the disk; it differs when another program wrote it.
+struct fileState
+{
+    qint64 size = -1; // none
+    QDateTime time;
+    bool operator==(const fileState &) const = default;
+
+    static fileState of(const QString &path);
+};
+
+// Writes a document over the file, whose earlier version goes to the folder for backups, and says
+// so in the log. False, told to the user, with the file as it was, when it cannot be written.
+bool saveDocument(const QString &path, const documentStruct &document);
