@@ -222,6 +222,58 @@
     </message>
 </context>
 <context>
+    <name>firmWindow</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n manufacturer(s)</source>
+        <translation>
+            <numerusform>%n manufacturer</numerusform>
+            <numerusform>%n manufacturers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n supplier</numerusform>
+            <numerusform>%n suppliers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename in %n place(s)</source>
+        <translation>
+            <numerusform>Rename in %n place</numerusform>
+            <numerusform>Rename in %n places</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n firm(s) deleted</source>
+        <translation>
+            <numerusform>%n firm deleted</numerusform>
+            <numerusform>%n firms deleted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>%n cell copied</numerusform>
+            <numerusform>%n cells copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>%n cell pasted</numerusform>
+            <numerusform>%n cells pasted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>log</name>
     <message>
         <source>Remove file</source>

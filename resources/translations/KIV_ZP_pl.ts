@@ -273,10 +273,6 @@
         <translation>nie zaznaczono materiału</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>Saved</source>
         <translation>Zapisano</translation>
     </message>
@@ -386,7 +382,7 @@
     </message>
     <message>
         <source>Do you want to edit material ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Czy chcesz edytować materiał ?</translation>
     </message>
 </context>
 <context>
@@ -578,10 +574,6 @@
             <numerusform>Wklejono %n komórki</numerusform>
             <numerusform>Wklejono %n komórek</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>These texts do not fit their cells:</source>
-        <translation>Te teksty nie pasują do swoich komórek:</translation>
     </message>
     <message>
         <source>Change all lines, or the selected ones only?</source>
@@ -1476,6 +1468,50 @@
         <source>Open the current file or link</source>
         <translation>Otwórz bieżący odnośnik</translation>
     </message>
+    <message>
+        <source>Write the list of firms and put it in use</source>
+        <translation>Zapisz listę firm i zacznij jej używać</translation>
+    </message>
+    <message>
+        <source>Allow changes of the firms</source>
+        <translation>Pozwól zmieniać firmy</translation>
+    </message>
+    <message>
+        <source>Find a text among the firms</source>
+        <translation>Znajdź tekst wśród firm</translation>
+    </message>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Add new firm</source>
+        <translation>Dodaj nową firmę</translation>
+    </message>
+    <message>
+        <source>Delete firms</source>
+        <translation>Usuń firmy</translation>
+    </message>
+    <message>
+        <source>Delete the selected firms that no material uses</source>
+        <translation>Usuń zaznaczone firmy, których nie używa żaden materiał</translation>
+    </message>
+    <message>
+        <source>Open home page</source>
+        <translation>Otwórz stronę firmy</translation>
+    </message>
+    <message>
+        <source>Open the firm&apos;s home page in the browser</source>
+        <translation>Otwórz stronę internetową firmy w przeglądarce</translation>
+    </message>
+    <message>
+        <source>Open list of manufacturers and suppliers</source>
+        <translation>Otwórz listę producentów i dostawców</translation>
+    </message>
+    <message>
+        <source>The register of firms</source>
+        <translation>Rejestr firm</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -1559,6 +1595,10 @@
     <message>
         <source>%1, row %2: %3</source>
         <translation>%1, wiersz %2: %3</translation>
+    </message>
+    <message>
+        <source>These texts do not fit their cells:</source>
+        <translation>Te teksty nie pasują do swoich komórek:</translation>
     </message>
 </context>
 <context>
@@ -1869,6 +1909,26 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Lists the materials that the editor would not accept, with the reason. Exit code 1 when there are some.</source>
         <translation>Wypisuje materiały, których edytor by nie przyjął, i powód. Kod wyjścia 1, gdy takie są.</translation>
     </message>
+    <message>
+        <source>Give these materials another name for the firm.</source>
+        <translation>Nadaj firmie w tych materiałach inną nazwę.</translation>
+    </message>
+    <message>
+        <source>Where the changed database goes.</source>
+        <translation>Gdzie zapisać zmienioną bazę.</translation>
+    </message>
+    <message>
+        <source>--rename with a name and -o belong together</source>
+        <translation>--rename z nazwą i -o muszą wystąpić razem</translation>
+    </message>
+    <message>
+        <source>no material names %1</source>
+        <translation>żaden materiał nie wymienia %1</translation>
+    </message>
+    <message>
+        <source>Lists the materials that name a firm as manufacturer or supplier, and can rename it there. Exit code 1 when there are none.</source>
+        <translation>Wypisuje materiały, które wymieniają firmę jako producenta lub dostawcę, i może ją w nich przemianować. Kod wyjścia 1, gdy takich nie ma.</translation>
+    </message>
 </context>
 <context>
     <name>configOperations</name>
@@ -1938,10 +1998,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Default</source>
         <translation>Wartości domyślne</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
     </message>
     <message>
         <source>Saved</source>
@@ -2024,6 +2080,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>a tag has too many attributes</source>
         <translation>znacznik ma zbyt wiele atrybutów</translation>
     </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -2097,6 +2157,169 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>The tax number %1 is not correct</source>
         <translation>Numer NIP %1 jest niepoprawny</translation>
+    </message>
+</context>
+<context>
+    <name>firmWindow</name>
+    <message>
+        <source>A click with Ctrl opens the page</source>
+        <translation>Kliknięcie z klawiszem Ctrl otwiera stronę</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list is empty. &lt;a href=&quot;add&quot;&gt;Add a firm&lt;/a&gt;.</source>
+        <translation>Lista jest pusta. &lt;a href="add"&gt;Dodaj firmę&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>the configuration names no file</source>
+        <translation>konfiguracja nie podaje pliku</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>nie można odczytać pliku</translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>nothing was changed</source>
+        <translation>niczego nie zmieniono</translation>
+    </message>
+    <message>
+        <source>no firm selected</source>
+        <translation>nie zaznaczono firmy</translation>
+    </message>
+    <message>
+        <source>no firm with a home page selected</source>
+        <translation>nie zaznaczono firmy ze stroną internetową</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n manufacturer(s)</source>
+        <translation>
+            <numerusform>%n producent</numerusform>
+            <numerusform>%n producentów</numerusform>
+            <numerusform>%n producentów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n dostawca</numerusform>
+            <numerusform>%n dostawców</numerusform>
+            <numerusform>%n dostawców</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed, not saved</source>
+        <translation>zmieniono, nie zapisano</translation>
+    </message>
+    <message>
+        <source>Materials use the old name. Saving can write the new one into their databases, too.</source>
+        <translation>Materiały używają starej nazwy. Przy zapisie nowa może trafić także do ich baz.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename in %n place(s)</source>
+        <translation>
+            <numerusform>Zmień w %n miejscu</numerusform>
+            <numerusform>Zmień w %n miejscach</numerusform>
+            <numerusform>Zmień w %n miejscach</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rename in this list only</source>
+        <translation>Zmień tylko na tej liście</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>Materials use what was to be deleted; nothing is deleted:</source>
+        <translation>Materiały używają firm do usunięcia; niczego nie usunięto:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n firm(s) deleted</source>
+        <translation>
+            <numerusform>Usunięto %n firmę</numerusform>
+            <numerusform>Usunięto %n firmy</numerusform>
+            <numerusform>Usunięto %n firm</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n komórkę</numerusform>
+            <numerusform>Skopiowano %n komórki</numerusform>
+            <numerusform>Skopiowano %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklejanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n komórkę</numerusform>
+            <numerusform>Wklejono %n komórki</numerusform>
+            <numerusform>Wklejono %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Tekst w dowolnej kolumnie</translation>
+    </message>
+    <message>
+        <source>No firm holds %1</source>
+        <translation>Żadna firma nie zawiera %1</translation>
+    </message>
+    <message>
+        <source>Found in line %1</source>
+        <translation>Znaleziono w wierszu %1</translation>
+    </message>
+    <message>
+        <source>Opened %1</source>
+        <translation>Otwarto %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć %1</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened.</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
+    </message>
+    <message>
+        <source>Reload it and lose the changes here</source>
+        <translation>Wczytaj ponownie i porzuć zmiany</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Nadpisz</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Save the changed list of firms?</source>
+        <translation>Zapisać zmienioną listę firm?</translation>
     </message>
 </context>
 <context>
@@ -3202,10 +3425,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
 </context>
 <context>
     <name>orderDocument</name>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
     <message>
         <source>Materials does not exist in database:</source>
         <translation>Materiały nie istnieją w bazie danych:</translation>

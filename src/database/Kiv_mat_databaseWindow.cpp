@@ -3,21 +3,17 @@
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/materialWindow.h"
 
-#include "commands/cellBlock.h"
+#include "commands/cellClipboard.h"
 #include "data/XmlValidator.h"
-#include "data/loaders.h"
+#include "data/documentSaving.h"
 #include "data/vocabulary.h"
 #include "tree/myModelDelegate.h"
 #include "tree/myTreeView.h"
-#include "util/fileVersions.h"
 #include "util/labels.h"
-#include "util/messages.h"
 #include "util/prompts.h"
-#include "util/text.h"
 #include "window/workProgress.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDesktopServices>
@@ -386,21 +382,15 @@ void Kiv_mat_databaseWindow::commandSave(bool)
 {
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString path = database.filePath;
-    configStruct &config = programData::instance().config();
-    constexpr int usualCount = 20;
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    fileVersions::keep(path, config.backupPath(), usualCount);
-    const bool saved = saveXml(path, &database) >= 0;
+    const bool saved = saveDocument(path, database);
     QApplication::restoreOverrideCursor();
     if (!saved) {
         database.update = before;
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
         return;
     }
-    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
     m_stack->clear();
     m_modified = false;
     showTitle();
@@ -634,13 +624,7 @@ QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
     return m_model->item(index.isValid() ? index.row() : 0);
 }
 
-void Kiv_mat_databaseWindow::commandCopyText(bool)
-{
-    QModelIndexList cells = m_view->selectedCells();
-    if (cells.isEmpty() && m_view->currentIndex().isValid())
-        cells.append(m_view->currentIndex());
-    QApplication::clipboard()->setText(cellBlock::copied(cells));
-}
+void Kiv_mat_databaseWindow::commandCopyText(bool) { cellClipboard::copy(m_view); }
 
 void Kiv_mat_databaseWindow::commandOpenLink(bool)
 {

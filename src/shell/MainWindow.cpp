@@ -7,6 +7,7 @@
 #include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "dialogs/configWindow.h"
+#include "firm/firmWindow.h"
 #include "shell/logos.h"
 #include "shell/orderDocument.h"
 #include "shell/orderView.h"
@@ -172,6 +173,9 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Database of material"), "action_database", "Ctrl+D",
       QT_TRANSLATE_NOOP("actions", "Browse and edit a material database"), true},
      &MainWindow::databaseCommand},
+    {{"firm", "Tools", QT_TRANSLATE_NOOP("actions", "Open list of manufacturers and suppliers"),
+      "action_firm", nullptr, QT_TRANSLATE_NOOP("actions", "The register of firms"), true},
+     &MainWindow::commandFirm},
     {{"config", QT_TRANSLATE_NOOP("actions", "Tools"),
       QT_TRANSLATE_NOOP("actions", "Configuration"), "action_config", nullptr,
       QT_TRANSLATE_NOOP("actions", "Options, persons and targets")},
@@ -472,6 +476,15 @@ void MainWindow::databaseCommand(bool)
         chosen = size_t(*answer);
     }
     databaseWindow(kinds[chosen]).showNow();
+}
+
+void MainWindow::commandFirm(bool)
+{
+    if (!m_firm) {
+        m_firm = std::make_unique<firmWindow>();
+        connect(m_firm.get(), &firmWindow::materialsChanged, this, &MainWindow::refreshHtml);
+    }
+    m_firm->showNow();
 }
 
 void MainWindow::configCommand(bool)

@@ -18,6 +18,7 @@ class QTimer;
 class Kiv_mat_databaseWindow;
 class addMaterialDialog;
 class configWindow;
+class firmWindow;
 class myWebView;
 class orderView;
 
@@ -80,6 +81,7 @@ public slots:
     void commandArchiveDatabase(bool);
     void commandPreviewBeside(bool on);
     void databaseCommand(bool);
+    void commandFirm(bool);
     void configCommand(bool);
     void commandShowLog(bool);
     void commandShowErrors(bool);
@@ -121,6 +123,7 @@ private:
 
     // --- MainWindowOrder.cpp ---
     bool closeDocument();
+    class myTreeView *focusedView() const;
     void leaveUnsaved();
     void openFile(const QString &path);
     bool saveTo(const QString &path);
@@ -143,6 +146,7 @@ private:
     QTimer *m_autoSave = nullptr;
     std::unique_ptr<orderRecovery> m_recovery;
     std::unique_ptr<configWindow> m_config;
+    std::unique_ptr<firmWindow> m_firm;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     QString m_wanted; // what is searched in the order

@@ -1,6 +1,7 @@
 #include "shell/MainWindow.h"
 
 #include "commands/cellBlock.h"
+#include "commands/cellClipboard.h"
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
@@ -8,6 +9,7 @@
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/configWindow.h"
 #include "dialogs/linesDialog.h"
+#include "firm/firmWindow.h"
 #include "report/cleanHtml.h"
 #include "report/orderReport.h"
 #include "report/pdfPrinter.h"
@@ -268,6 +270,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     document.setModified(false);
     if (m_config)
         m_config->close();
+    if (m_firm)
+        m_firm->close();
     for (const auto &window : m_databases)
         if (window)
             window->close();
@@ -376,42 +380,22 @@ void MainWindow::commandZpConfig(bool)
     options->setCurrentIndex(m_order->options()->index(0, 1));
 }
 
+myTreeView *MainWindow::focusedView() const
+{
+    return m_order->optionsView()->hasFocus() ? m_order->optionsView() : m_order->linesView();
+}
+
 void MainWindow::commandCopyCells(bool)
 {
-    const auto *options = m_order->optionsView();
-    const myTreeView *view = options->hasFocus() ? options : m_order->linesView();
-    QModelIndexList cells = view->selectedCells();
-    if (cells.isEmpty() && view->currentIndex().isValid())
-        cells.append(view->currentIndex());
-    QApplication::clipboard()->setText(cellBlock::copied(cells));
-    statusBar()->showMessage(tr("%n cell(s) copied", nullptr, cells.size()));
+    statusBar()->showMessage(tr("%n cell(s) copied", nullptr, cellClipboard::copy(focusedView())));
 }
 
 void MainWindow::commandPasteCells(bool)
 {
-    myTreeView *view =
-        m_order->optionsView()->hasFocus() ? m_order->optionsView() : m_order->linesView();
-    auto *model = static_cast<myModel *>(view->model());
-    const QHeaderView *header = view->header();
-    QList<int> columns;
-    for (int visual = 0; visual < header->count(); ++visual)
-        if (!header->isSectionHidden(header->logicalIndex(visual)))
-            columns.append(header->logicalIndex(visual));
-    const QModelIndexList cells = view->selectedCells();
-    cellBlock::pasted pasted =
-        cellBlock::paste(model, cells.isEmpty() ? view->currentIndex() : cells.first(), cells,
-                         columns, QApplication::clipboard()->text(), this);
-    push(std::move(pasted.change), tr("Paste"));
-    statusBar()->showMessage(tr("%n cell(s) pasted", nullptr, pasted.changed));
-    if (pasted.refused.isEmpty())
-        return;
-    userPrompts().listError(tr("These texts do not fit their cells:").toHtmlEscaped()
-                            + QLatin1String("<br><b>")
-                            + pasted.refused.join(QLatin1Char('\n'))
-                                  .toHtmlEscaped()
-                                  .replace(QLatin1Char('\n'), QLatin1String("<br>"))
-                            + QLatin1String("</b><br>"));
-    userPrompts().showErrors();
+    const int changed = cellClipboard::paste(
+        focusedView(),
+        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste")); }, this);
+    statusBar()->showMessage(tr("%n cell(s) pasted", nullptr, changed));
 }
 
 // All lines, or the selected ones when several are and the user says so.
@@ -635,20 +619,7 @@ void MainWindow::commandZpClear(bool)
 
 void MainWindow::deleteRows(const std::vector<int> &rows, const QString &what)
 {
-    if (rows.empty())
-        return;
-    std::unique_ptr<command> change;
-    {
-        const changeBatch batch;
-        std::vector<std::unique_ptr<command>> members;
-        // From the last one on, so that the numbers of the others stay true.
-        for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-            members.push_back(std::make_unique<deleteMaterial>(m_order->lines(),
-                                                               m_order->lines()->index(*row, 0)));
-        members.push_back(std::make_unique<::refreshHtml>(this));
-        change = std::make_unique<appendCommands>(std::move(members));
-    }
-    push(std::move(change), what);
+    push(cellBlock::deleteRows(m_order->lines(), rows, this), what);
 }
 
 void MainWindow::commandDeleteLines(bool)
@@ -814,23 +785,10 @@ void MainWindow::commandFindNext(bool)
         return;
     }
     m_tabs->setCurrentIndex(0);
-    const myModel *model = m_order->lines();
     myTreeView *view = m_order->linesView();
-    const int rows = model->rowCount();
-    const int cells = rows * model->columnCount();
-    const QModelIndex current = view->currentIndex();
-    const int start =
-        current.isValid() ? current.row() * model->columnCount() + current.column() : -1;
-    for (int step = 1; step <= cells; ++step) {
-        const int at = (start + step) % cells;
-        const QModelIndex index =
-            model->index(at / model->columnCount(), at % model->columnCount());
-        if (!myItem::displayText(*model->cell(index)).contains(m_wanted, Qt::CaseInsensitive))
-            continue;
-        view->setCurrentIndex(index);
-        view->scrollTo(index);
+    if (view->findNext(m_wanted)) {
         view->setFocus();
-        statusBar()->showMessage(tr("Found in line %1").arg(index.row() + 1));
+        statusBar()->showMessage(tr("Found in line %1").arg(view->currentIndex().row() + 1));
         return;
     }
     statusBar()->showMessage(tr("No line holds %1").arg(m_wanted));

@@ -226,8 +226,12 @@ void tst_databaseWindow::listingIsOneStep()
                                                      + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
                                                        "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
     // The list of changes waits for its answer.
-    QTimer::singleShot(
-        0, [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->accept(); });
+    QTimer answer;
+    connect(&answer, &QTimer::timeout, this, [] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    answer.start(10);
     m_window->commandParse(true);
     QCOMPARE(first()->d_inWarehouse, QString("1234"));
     QCOMPARE(first()->d_averagePrice, QString("2.00"));
