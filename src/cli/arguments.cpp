@@ -96,21 +96,46 @@ bool validateFile(const QString &path)
     return false;
 }
 
+bool readFile(const QString &path, documentStruct *record, const QString &isNot)
+{
+    if (!validateFile(path))
+        return false;
+    QString error;
+    if (fileKinds::ofFile(path) != &record->kind())
+        error = isNot;
+    else
+        loadDocument(path, record, &error);
+    if (error.isEmpty())
+        return true;
+    err() << path << ": " << error << '\n' << Qt::flush;
+    return false;
+}
+
+int refuseCall(const subcommand &command, const QString &fault)
+{
+    err() << command.name << ": " << fault << '\n' << Qt::flush;
+    return wrongCall;
+}
+
+int cannotBeWritten(const QString &path)
+{
+    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
+          << Qt::flush;
+    return notWritten;
+}
+
+QCommandLineOption databaseOption(const QString &help)
+{
+    return {{QStringLiteral("d"), QStringLiteral("database")}, help, QStringLiteral("DB")};
+}
+
 bool databaseSet::load(const QStringList &databasePaths)
 {
     for (const QString &path : databasePaths) {
-        if (!validateFile(path))
-            return false;
         auto database = std::make_unique<kiv_mat_databaseStruct>();
-        QString error;
-        if (fileKinds::ofFile(path) != &fileKinds::database)
-            error = QCoreApplication::translate("cli", "is no material database");
-        else
-            loadDocument(path, database.get(), &error);
-        if (!error.isEmpty()) {
-            err() << path << ": " << error << '\n' << Qt::flush;
+        if (!readFile(path, database.get(),
+                      QCoreApplication::translate("cli", "is no material database")))
             return false;
-        }
         m_index.add(database.get());
         m_databases.push_back(std::move(database));
     }

@@ -10,9 +10,11 @@ namespace {
 const QList<const cli::subcommand *> &commands()
 {
     static const QList<const cli::subcommand *> table{
-        &cli::validateCommand, &cli::reportCommand, &cli::findCommand,
-        &cli::infoCommand,     &cli::resaveCommand, &cli::helpersCommand,
-        &cli::downloadCommand, &cli::packCommand,   &cli::unpackCommand};
+        &cli::validateCommand,    &cli::reportCommand,    &cli::findCommand,
+        &cli::bomCsvCommand,      &cli::bomReportCommand, &cli::bomOrderCommand,
+        &cli::bomShortageCommand, &cli::infoCommand,      &cli::resaveCommand,
+        &cli::helpersCommand,     &cli::downloadCommand,  &cli::packCommand,
+        &cli::unpackCommand};
     return table;
 }
 
@@ -22,7 +24,7 @@ QString usage()
         "cli", "Usage: kivzp-cli [--language pl|en] COMMAND ARGUMENTS...\n\nCommands:\n");
     for (const cli::subcommand *command : commands())
         text += QStringLiteral("  %1 %2\n")
-                    .arg(QLatin1String(command->name), -10)
+                    .arg(QLatin1String(command->name), -12)
                     .arg(QCoreApplication::translate("cli", command->summary));
     text += QCoreApplication::translate(
         "cli", "\nkivzp-cli COMMAND --help tells the arguments of a command.\n"

@@ -12,6 +12,8 @@ QString saveFile();
 QString printToFile();
 QString fileCorrupted();
 QString createDefaultFile();
+QString fileInvalid();
+QString temporaryFolderError();
 
 // Result words.
 QString ok();
