@@ -231,7 +231,7 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
         if (numbers::plain(wanted) == QLatin1String("0"))
             continue;
         if (!one.isKnown()) {
-            plan.unknown.append(one.ktm.isEmpty() ? one.name : one.ktm);
+            plan.unknown.push_back(&one);
             continue;
         }
         const std::vector<int> there = lines.value(one.ktm);

@@ -127,8 +127,8 @@ struct orderChange
 struct orderPlan
 {
     std::vector<orderChange> changes;
-    QStringList unknown; // KTMs, or names, of materials that no database has: not ordered
-    int skipped = 0;     // materials left as the order has them
+    std::vector<const need *> unknown; // in no database: not ordered
+    int skipped = 0;                   // materials left as the order has them
 };
 // Changes nothing: a window applies the changes as one undo step. A line is raised only when its
 // quantity is a number or empty and its unit is the material's; else the amount becomes a line of

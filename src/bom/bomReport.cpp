@@ -16,10 +16,15 @@ using namespace bomOperations;
 
 namespace {
 
-// The second line keeps a long list of designators from pushing columns off the paper.
+// Below the first line: a long list of designators breaks instead of pushing columns off the paper.
 constexpr const char *styleSheet =
     "table, th, td { border-collapse: collapse; font-family: Courier New; }\n"
-    "table.lines { table-layout: fixed; } td { word-wrap: break-word; vertical-align: top; }";
+    "body { font-family: Courier New, Liberation Mono, monospace; font-size: 13px; }\n"
+    "table.lines th, table.lines td { font-family: Courier New, Liberation Mono, monospace;\n"
+    "  font-size: 13px; border: 1px solid #9AA5B1; }\n"
+    "table.lines { border-style: none; }\n"
+    "table.lines th { font-size: 11px; background: #E4ECF4; }\n"
+    "table.lines td { word-wrap: break-word; word-break: break-word; vertical-align: top; }\n";
 
 QString tr(const char *text) { return QCoreApplication::translate("bomReport", text); }
 
@@ -38,7 +43,9 @@ void writeCaptions(html::htmlTable &page)
         {labels::ordinalNumber(), "width=\"3%\""}, {labels::material(), "align=\"center\""},
         {labels::description(), "width=\"25%\""},  {labels::manufacturer(), "width=\"25%\""},
         {labels::quantity(), "width=\"5%\""},      {labels::designator(), "width=\"20%\""}};
-    page.append(QStringLiteral("<thead>"));
+    // The printer counts these when it parts the table.
+    page.append(QStringLiteral("<col>").repeated(int(std::size(columns)))
+                + QLatin1String("\n<thead>"));
     page.openRow(QStringLiteral("class=\"caption\""));
     for (const auto &column : columns)
         page.append(QStringLiteral("<th %1>%2</th>\n")
@@ -52,7 +59,7 @@ void writeLines(html::htmlTable &page, const kiv_mat_bomStruct &bom, const ktmIn
     int ordinal = 0;
     for (const auto &line : bom.materials) {
         const bomLine of = matched(*line, materials);
-        page.openRow();
+        page.openRow(QStringLiteral("class=\"line\""));
         page.cell({}, QString::number(++ordinal));
         page.cell({}, QLatin1String("<b>") + text::toHtml(of.material->d_name)
                           + QLatin1String("</b><br>") + text::toHtml(of.shownKtm()));

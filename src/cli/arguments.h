@@ -95,6 +95,7 @@ extern const subcommand bomCsvCommand;
 extern const subcommand bomReportCommand;
 extern const subcommand bomOrderCommand;
 extern const subcommand bomShortageCommand;
+extern const subcommand mailCommand;
 extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;
 extern const subcommand packCommand;

@@ -210,8 +210,9 @@ int runOrder(const QStringList &arguments)
     orderPlan plan =
         planOf(needed, order, options.isSet(onlyShort) ? amount::shortage : amount::needed,
                chosen->meaning, orderOperations::usualDate(config));
-    for (const QString &ktm : plan.unknown)
-        warn(QCoreApplication::translate("cli", "in no database, left out"), ktm);
+    for (const need *one : plan.unknown)
+        warn(QCoreApplication::translate("cli", "in no database, left out"),
+             one->ktm + QLatin1Char(' ') + one->name);
     const int skipped = plan.skipped;
     const int changed = apply(std::move(plan), &order);
     if (saveXmlNoEvents(target, &order) < 0)

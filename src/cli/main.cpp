@@ -12,9 +12,9 @@ const QList<const cli::subcommand *> &commands()
     static const QList<const cli::subcommand *> table{
         &cli::validateCommand,    &cli::reportCommand,    &cli::findCommand,
         &cli::bomCsvCommand,      &cli::bomReportCommand, &cli::bomOrderCommand,
-        &cli::bomShortageCommand, &cli::infoCommand,      &cli::resaveCommand,
-        &cli::helpersCommand,     &cli::downloadCommand,  &cli::packCommand,
-        &cli::unpackCommand};
+        &cli::bomShortageCommand, &cli::mailCommand,      &cli::infoCommand,
+        &cli::resaveCommand,      &cli::helpersCommand,   &cli::downloadCommand,
+        &cli::packCommand,        &cli::unpackCommand};
     return table;
 }
 

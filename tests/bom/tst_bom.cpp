@@ -218,9 +218,10 @@ void tst_bom::shipmentIsNeverDoubled()
 void tst_bom::unknownMaterialsAreNamed()
 {
     const kiv_mat_zpStruct order;
-    const orderPlan plan = planOf(demandOf({{list("X 1; 2;A 1"), 1}}, m_index), order,
-                                  amount::needed, present::raise, {});
-    QCOMPARE(plan.unknown, QStringList({"X", "own name"}));
+    const demand of = demandOf({{list("X 1; 2;A 1"), 1}}, m_index);
+    const orderPlan plan = planOf(of, order, amount::needed, present::raise, {});
+    QCOMPARE(plan.unknown, std::vector<const need *>({&of.needs[0], &of.needs[1]}));
+    QCOMPARE(of.needs[0].name, QString("own name"));
     QCOMPARE(plan.changes.size(), size_t(1));
 }
 

@@ -21,6 +21,7 @@ private slots:
     void runsWithoutDisplayAndHome();
     void archives();
     void bomsToOrder();
+    void mail();
 
 private:
     struct result
@@ -135,6 +136,9 @@ void tst_cli::calls_data()
     row("bom-order bom.xml=1 -o good.xml/out.xml", 3, "", "cannot be written");
     row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
     row("bom-shortage bom.xml=0", 0, "", "");
+    row("mail", 2, "", "give one of");
+    row("mail good.xml --boms", 2, "", "give one of");
+    row("mail good.xml", 1, "", "_config/kiv_mat_config.xml: cannot be read");
     row("helpers", 1, "_bin/zip.exe: found", "KIV_TEMPLATE_DOC.exe: not found");
     row("pack _validator out.zip", 1, "", "cannot be started");
     row("pack none new.zip", 1, "", "Folder does not exist [none]");
@@ -256,6 +260,25 @@ void tst_cli::bomsToOrder()
     QCOMPARE(run({"validate", "good.xml"}).code, 0);
     QCOMPARE(run({"bom-csv", "bom.xml", "-d", "twice.xml", "-o", "b.csv"}).code, 0);
     QCOMPARE(testSupport::read(m_folder->path("b.csv")), QByteArray("K\t2\n!!!!!X\t1\n!!!!!Y\t\n"));
+}
+
+void tst_cli::mail()
+{
+    QFile::remove(m_folder->path("_bin/zip.exe"));
+    for (const char *dir : {"_bin", "_config", "_e-mail", "_files"})
+        testSupport::copyFolder(testSupport::source(dir), m_folder->path(dir));
+    const result order = run({"mail", "good.xml"}, {"DISPLAY", "WAYLAND_DISPLAY"});
+    QVERIFY2(order.code == 0, qPrintable(order.err));
+    const QString message = order.out.trimmed().chopped(3) + "eml";
+    QVERIFY(QTest::qWaitFor([&] { return testSupport::read(message).endsWith("--\r\n"); }));
+    QVERIFY(testSupport::read(message).contains("filename=\"good.xml\""));
+    QVERIFY(testSupport::read(message).contains(".pdf"));
+
+    const result boms = run({"mail", "--boms", "--only-write"});
+    QVERIFY2(boms.code == 0 && boms.err.contains("Compression complete"), qPrintable(boms.err));
+    const QByteArray description = testSupport::read(boms.out.trimmed());
+    QVERIFY2(description.contains("[m.dab@example.com]"), description.constData());
+    QDir(QFileInfo(boms.out.trimmed()).path()).removeRecursively();
 }
 
 KIVZP_TEST(tst_cli)
