@@ -126,7 +126,10 @@ QString title(const std::vector<bomSets> &lists)
     QStringList names;
     for (const bomSets &list : lists)
         names.append(nameOf(*list.bom));
-    return names.join(QLatin1String(", "));
+    // Beside the page number there is room for so much.
+    constexpr int longest = 100;
+    const QString all = names.join(QLatin1String(", "));
+    return all.size() <= longest ? all : all.left(longest) + QChar(0x2026);
 }
 
 QString sums(const bomSums &ofOne, int sets)

@@ -34,7 +34,7 @@ bool readList(const QString &path, kiv_mat_bomStruct *bom)
     return readFile(path, bom, QCoreApplication::translate("cli", "is no BOM list"));
 }
 
-// The lists given as BOM=SETS.
+// The lists given as BOM=SETS, or added one by one.
 class listsWithSets
 {
 public:
@@ -53,11 +53,16 @@ public:
                              .arg(setsAtMost);
                 return false;
             }
-            m_paths.append(argument.left(sign));
-            m_sets.push_back(sets);
+            add(argument.left(sign), sets);
         }
         return true;
     }
+    void add(const QString &path, int sets)
+    {
+        m_paths.append(path);
+        m_sets.push_back(sets);
+    }
+    // Prints what is wrong; false when one was refused.
     bool read()
     {
         for (int i = 0; i < m_paths.size(); ++i) {
@@ -117,7 +122,7 @@ int runCsv(const QStringList &arguments)
 
 int runReport(const QStringList &arguments)
 {
-    parser options(bomReportCommand, QStringLiteral("BOM"), 1, 1);
+    parser options(bomReportCommand, QStringLiteral("BOM..."), 1, -1);
     const QCommandLineOption database = materialsOption();
     const QCommandLineOption output = outputOption(QCoreApplication::translate(
         "cli", "The file to write; its ending, .html or .pdf, decides its kind."));
@@ -130,13 +135,14 @@ int runReport(const QStringList &arguments)
         return refuseCall(
             bomReportCommand,
             QCoreApplication::translate("cli", "give an output file that ends in .html or .pdf"));
-    kiv_mat_bomStruct bom;
+    listsWithSets read;
     databaseSet databases;
-    if (!readList(options.positionalArguments().at(0), &bom)
-        || !databases.load(options.values(database)))
+    for (const QString &path : options.positionalArguments())
+        read.add(path, 1);
+    if (!read.read() || !databases.load(options.values(database)))
         return refused;
-    const std::vector<bomSets> lists{{&bom, 1}};
-    return writePage(bomReport::page(lists, databases.index()), target, bomReport::title(lists));
+    return writePage(bomReport::page(read.lists, databases.index()), target,
+                     bomReport::title(read.lists));
 }
 
 struct word
@@ -259,7 +265,7 @@ const subcommand bomCsvCommand{
     "bom-csv", QT_TRANSLATE_NOOP("cli", "Writes the KTMs and quantities of a BOM list as text."),
     runCsv};
 const subcommand bomReportCommand{
-    "bom-report", QT_TRANSLATE_NOOP("cli", "Writes the report of a BOM list as HTML or PDF."),
+    "bom-report", QT_TRANSLATE_NOOP("cli", "Writes the report of BOM lists as HTML or PDF."),
     runReport};
 const subcommand bomOrderCommand{
     "bom-order",
