@@ -99,18 +99,37 @@ bool validateFile(const QString &path)
 
 std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path)
 {
-    if (!validateFile(path))
-        return nullptr;
     auto database = std::make_unique<kiv_mat_databaseStruct>();
+    if (!readFile(path, database.get(),
+                  QCoreApplication::translate("cli", "is no material database")))
+        return nullptr;
+    return database;
+}
+
+bool readFile(const QString &path, documentStruct *record, const QString &isNot)
+{
+    if (!validateFile(path))
+        return false;
     QString error;
-    if (fileKinds::ofFile(path) != &fileKinds::database)
-        error = QCoreApplication::translate("cli", "is no material database");
+    if (fileKinds::ofFile(path) != &record->kind())
+        error = isNot;
     else
-        loadDocument(path, database.get(), &error);
+        loadDocument(path, record, &error);
     if (error.isEmpty())
-        return database;
+        return true;
     err() << path << ": " << error << '\n' << Qt::flush;
-    return nullptr;
+    return false;
+}
+
+int refuseCall(const subcommand &command, const QString &fault)
+{
+    err() << command.name << ": " << fault << '\n' << Qt::flush;
+    return wrongCall;
+}
+
+QCommandLineOption databaseOption(const QString &help)
+{
+    return {{QStringLiteral("d"), QStringLiteral("database")}, help, QStringLiteral("DB")};
 }
 
 bool databaseSet::load(const QStringList &databasePaths)
@@ -127,9 +146,7 @@ bool databaseSet::load(const QStringList &databasePaths)
 
 QCommandLineOption databaseOption(const char *description)
 {
-    return {{QStringLiteral("d"), QStringLiteral("database")},
-            QCoreApplication::translate("cli", description),
-            QStringLiteral("DB")};
+    return databaseOption(QCoreApplication::translate("cli", description));
 }
 
 QCommandLineOption outputOption(const char *description)

@@ -58,6 +58,21 @@ bool validateFile(const QString &path);
 // refused.
 std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path);
 
+// Validates a file and reads it. isNot says of a file of another kind what it is not. Prints what
+// is wrong; false when the file was refused.
+bool readFile(const QString &path, documentStruct *record, const QString &isNot);
+
+// Prints "command: fault" to standard error and returns the code for a wrong call.
+int refuseCall(const subcommand &command, const QString &fault);
+
+// The option -d, which may be given several times; help tells what the databases are for.
+QCommandLineOption databaseOption(const QString &help);
+
+// Writes a page as HTML or PDF, as the ending of the file says; title stands at the foot of printed
+// pages. isPageFile says whether the ending is one of the two.
+bool isPageFile(const QString &path);
+int writePage(const QString &html, const QString &path, const QString &title);
+
 // The materials of several database files.
 class databaseSet
 {
@@ -91,6 +106,11 @@ extern const subcommand resaveCommand;
 extern const subcommand reportCommand;
 extern const subcommand findCommand;
 extern const subcommand checkMaterialsCommand;
+extern const subcommand bomCsvCommand;
+extern const subcommand bomReportCommand;
+extern const subcommand bomOrderCommand;
+extern const subcommand bomShortageCommand;
+extern const subcommand mailCommand;
 extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;
 extern const subcommand packCommand;

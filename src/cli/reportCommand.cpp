@@ -2,19 +2,22 @@
 #include "cli/arguments.h"
 
 #include "data/kiv_mat_zpStruct.h"
-#include "data/loaders.h"
 #include "report/orderReport.h"
 #include "report/pdfPrinter.h"
 #include "report/reportPage.h"
 #include "util/files.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QWebView>
 
 namespace cli {
 
 namespace {
+
+bool isPdf(const QString &path)
+{
+    return path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
+}
 
 bool writePdf(const QString &html, const QString &path, const QString &title)
 {
@@ -28,12 +31,9 @@ bool writePdf(const QString &html, const QString &path, const QString &title)
 int runReport(const QStringList &arguments)
 {
     parser options(reportCommand, QStringLiteral("ORDER"), 1, 1);
-    const QCommandLineOption database(
-        {QStringLiteral("d"), QStringLiteral("database")},
-        QCoreApplication::translate(
-            "cli",
-            "A material database, for manufacturers and suppliers. May be given several times."),
-        QStringLiteral("DB"));
+    const QCommandLineOption database = databaseOption(QCoreApplication::translate(
+        "cli",
+        "A material database, for manufacturers and suppliers. May be given several times."));
     const QCommandLineOption output(
         {QStringLiteral("o"), QStringLiteral("output")},
         QCoreApplication::translate(
@@ -44,42 +44,34 @@ int runReport(const QStringList &arguments)
     if (!options.accept(arguments))
         return options.code();
     const QString target = options.value(output);
-    const bool pdf = target.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
-    if (!pdf && !target.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)) {
-        err() << "report: "
-              << QCoreApplication::translate("cli",
-                                             "give an output file that ends in .html or .pdf")
-              << '\n'
-              << Qt::flush;
-        return wrongCall;
-    }
+    if (!isPageFile(target))
+        return refuseCall(
+            reportCommand,
+            QCoreApplication::translate("cli", "give an output file that ends in .html or .pdf"));
 
-    const QString path = options.positionalArguments().at(0);
     kiv_mat_zpStruct order;
-    QString error;
-    if (!validateFile(path))
+    if (!readFile(options.positionalArguments().at(0), &order,
+                  QCoreApplication::translate("cli", "is no order")))
         return refused;
-    if (fileKinds::ofFile(path) != &fileKinds::order)
-        error = QCoreApplication::translate("cli", "is no order");
-    else
-        loadDocument(path, &order, &error);
-    if (!error.isEmpty()) {
-        err() << path << ": " << error << '\n' << Qt::flush;
-        return refused;
-    }
     databaseSet databases;
     if (!databases.load(options.values(database)))
         return refused;
 
-    const QString html = orderReport(order, databases.index());
-    if (pdf ? writePdf(html, target, orderTitle(order)) : files::writeText(target, html))
-        return done;
-    err() << target << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
-    return notWritten;
+    return writePage(orderReport(order, databases.index()), target, orderTitle(order));
 }
 
 } // namespace
+
+bool isPageFile(const QString &path)
+{
+    return isPdf(path) || path.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
+}
+
+int writePage(const QString &html, const QString &path, const QString &title)
+{
+    const bool written = isPdf(path) ? writePdf(html, path, title) : files::writeText(path, html);
+    return written ? done : cannotWrite(path);
+}
 
 const subcommand reportCommand{
     "report", QT_TRANSLATE_NOOP("cli", "Writes the report of an order as HTML or PDF."), runReport};

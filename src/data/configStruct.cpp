@@ -61,6 +61,7 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::loadBoms, "TAK", ""},
     {optionKey::backupCount, "20", ""},
     {optionKey::language, "pl", ""},
+    {optionKey::archivePassword, "", ""},
     {optionKey::serverName, "", ""},
     {optionKey::serverUserName, "", ""},
     {optionKey::serverUserPassword, "", ""}};

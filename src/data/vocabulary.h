@@ -48,6 +48,7 @@ constexpr QLatin1String loadBoms = word("LOAD_BOMS");
 constexpr QLatin1String pathBackup = word("PATH_BACKUP");
 constexpr QLatin1String backupCount = word("BACKUP_COUNT");
 constexpr QLatin1String language = word("LANGUAGE");
+constexpr QLatin1String archivePassword = word("ARCHIVE_PASSWORD");
 constexpr QLatin1String serverName = word("SERVER_NAME");
 constexpr QLatin1String serverUserName = word("SERVER_USER_NAME");
 constexpr QLatin1String serverUserPassword = word("SERVER_USER_PASSWORD");

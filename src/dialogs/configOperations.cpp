@@ -29,6 +29,7 @@ constexpr typeRow types[] = {
     {optionKey::orderTarget, {optionKind::target}},
     {optionKey::backupCount, {optionKind::number, 1, 1000}},
     {optionKey::language, {optionKind::language, 0, 0, true}},
+    {optionKey::archivePassword, {optionKind::password}},
     {optionKey::serverUserPassword, {optionKind::password}},
     {optionKey::openReportHtml, {optionKind::yesNo}},
     {word("EDIT_"), {optionKind::yesNo}},

@@ -6,6 +6,7 @@
 #include "data/vocabulary.h"
 #include "report/cleanHtml.h"
 #include "report/html.h"
+#include "report/sourceNames.h"
 #include "util/labels.h"
 #include "util/numbers.h"
 #include "util/text.h"
@@ -113,18 +114,10 @@ void writeCaptions(html::htmlTable &page, const QList<column> &table)
     page.append(QStringLiteral("</thead>\n<tbody>\n"));
 }
 
-// "name part-number, name part-number" of a material's manufacturers or suppliers.
 template <class List>
 QString sources(const QString &caption, const List &list)
 {
-    QString names;
-    for (const auto &source : list.items) {
-        if (source->name.isEmpty() && source->partNo.isEmpty())
-            continue;
-        if (!names.isEmpty())
-            names += QLatin1String(", ");
-        names += text::toHtml((source->name + QLatin1Char(' ') + source->partNo).trimmed());
-    }
+    const QString names = sourceNames(list);
     return names.isEmpty() ? QString()
                            : QLatin1String("<br>") + note(caption + QLatin1String(": ")) + names;
 }

@@ -70,9 +70,10 @@ public:
         : m_frame(frame)
     {
         layOut();
-        const QWebElement table = frame->findFirstElement(QStringLiteral("table.lines"));
-        if (!table.isNull())
+        for (const QWebElement &table : frame->findAllElements(QStringLiteral("table.lines"))) {
             breakTable(table);
+            layOut();
+        }
         breakBlocks();
         layOut();
     }

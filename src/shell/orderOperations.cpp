@@ -12,7 +12,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace orderOperations {
 
@@ -24,8 +23,9 @@ constexpr int shipmentLines = 10;
 
 bool isCount(const QString &text, double *value)
 {
-    *value = numbers::value(text);
-    return numbers::check(text) && std::isfinite(*value);
+    const std::optional<double> number = numbers::finite(text);
+    *value = number.value_or(0);
+    return number.has_value();
 }
 
 void appendOnce(QStringList &list, const QString &text)

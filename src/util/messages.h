@@ -13,6 +13,8 @@ QString printToFile();
 QString fileCorrupted();
 QString fileInvalid();
 QString createDefaultFile();
+QString fileInvalid();
+QString temporaryFolderError();
 
 // Result words.
 QString ok();

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <cmath>
+
 namespace {
 
 double parse(QString text, bool *ok)
@@ -31,6 +33,26 @@ double value(const QString &text)
     bool ok = false;
     const double number = parse(text, &ok);
     return ok ? number : 0.0;
+}
+
+std::optional<double> finite(const QString &text)
+{
+    bool ok = false;
+    const double number = parse(text, &ok);
+    return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+QString plain(double value)
+{
+    constexpr int decimals = 6;
+    QString text = QString::number(value, 'f', decimals);
+    int end = text.size();
+    while (text.at(end - 1) == QLatin1Char('0'))
+        --end;
+    if (text.at(end - 1) == QLatin1Char('.'))
+        --end;
+    text.truncate(end);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 QString money(double amount) { return QString::number(amount, 'f', 2); }

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace numbers {
 
 // Whether the text is a number: "0x" and hexadecimal digits, or a decimal number with a comma or a
@@ -12,6 +14,12 @@ bool check(const QString &text, QString *errors = nullptr);
 
 // The value of such a text; 0 when it is no number.
 double value(const QString &text);
+
+// The value of a text that is a finite number; nothing for any other, "nan" and "inf" among them.
+std::optional<double> finite(const QString &text);
+
+// The shortest form with a point and at most six decimals: 2.5, 1000000. The form of quantities.
+QString plain(double value);
 
 // Two decimals and a point, the form of amounts in reports and lists.
 QString money(double amount);

@@ -21,6 +21,8 @@ private slots:
     void polishPathsAndLanguage();
     void runsWithoutDisplayAndHome();
     void archives();
+    void bomsToOrder();
+    void mail();
 
 private:
     struct result
@@ -34,6 +36,7 @@ private:
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("LC_ALL", "C");
+        environment.insert("TMPDIR", m_folder->path());
         for (const QString &name : unset)
             environment.remove(name);
         process.setProcessEnvironment(environment);
@@ -59,6 +62,12 @@ void tst_cli::init()
                           QFile::ReadOwner | QFile::ExeOwner);
     m_folder->write("bad.xml", order("\n<colour/>"));
     m_folder->write("cut.xml", order("<options>"));
+    m_folder->write("bom.xml",
+                    testSupport::document(
+                        "kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd",
+                        "<update/><material><d_ktm>K</d_ktm><d_quantity>2</d_quantity></material>"
+                        "<material><d_ktm>X</d_ktm><d_quantity>1</d_quantity></material>"
+                        "<material><d_ktm>Y</d_ktm></material>"));
     m_folder->write("twice.xml",
                     testSupport::document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd",
                                           "<d_group><material><d_ktm>K</d_ktm></material><material>"
@@ -143,6 +152,23 @@ void tst_cli::calls_data()
     row("check-materials good.xml", 1, "", "is no material database");
     row("check-materials", 2, "", "argument is missing");
     row("report good.xml -o good.xml/out.pdf", 3, "", "cannot be written");
+    row("bom-csv bom.xml -d twice.xml -o out.csv", 0, "", "");
+    row("bom-csv bom.xml", 2, "", "-o");
+    row("bom-csv good.xml -o out.csv", 1, "", "is no BOM list");
+    row("bom-csv bom.xml -o good.xml/out.csv", 3, "", "cannot be written");
+    row("bom-report bom.xml -d twice.xml -o out.pdf", 0, "", "");
+    row("bom-report bom.xml -o out.doc", 2, "", ".html or .pdf");
+    row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
+    row("bom-order bom.xml -d twice.xml -o out.xml", 2, "", "is not BOM=SETS");
+    row("bom-order bom.xml=-1 -o out.xml", 2, "", "is not BOM=SETS");
+    row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
+    row("bom-order bom.xml=1 --from bom.xml -o out.xml", 1, "", "is no order");
+    row("bom-order bom.xml=1 -o good.xml/out.xml", 3, "", "cannot be written");
+    row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
+    row("bom-shortage bom.xml=0", 0, "", "");
+    row("mail", 2, "", "give one of");
+    row("mail good.xml --boms", 2, "", "give one of");
+    row("mail good.xml", 1, "", "_config/kiv_mat_config.xml: cannot be read");
     row("helpers", 1, "_bin/zip.exe: found", "KIV_TEMPLATE_DOC.exe: not found");
     row("pack _validator out.zip", 1, "", "cannot be started");
     row("pack none new.zip", 1, "", "Folder does not exist [none]");
@@ -311,6 +337,37 @@ void tst_cli::archives()
              testSupport::read(m_folder->path("_validator/kiv.xsd")));
     QCOMPARE(refused.code, 1);
     QVERIFY(!QFile::exists(m_folder->path("out2/kiv.xsd")));
+}
+
+void tst_cli::bomsToOrder()
+{
+    const QStringList call{"bom-order", "bom.xml=2", "-d", "twice.xml", "-o", "good.xml"};
+    QCOMPARE(run(call + QStringList({"--from", "good.xml"})).code, 0);
+    QVERIFY(testSupport::read(m_folder->path("good.xml")).contains("<quantity>7</quantity>"));
+    QVERIFY(run({"info", "good.xml"}).out.contains("lines: 1\n"));
+    QCOMPARE(run(call + QStringList({"--from", "good.xml", "--existing", "add"})).code, 0);
+    QVERIFY(run({"info", "good.xml"}).out.contains("lines: 2\n"));
+    QCOMPARE(run({"validate", "good.xml"}).code, 0);
+    QCOMPARE(run({"bom-csv", "bom.xml", "-d", "twice.xml", "-o", "b.csv"}).code, 0);
+    QCOMPARE(testSupport::read(m_folder->path("b.csv")), QByteArray("K\t2\n!!!!!X\t1\n!!!!!Y\t\n"));
+}
+
+void tst_cli::mail()
+{
+    QFile::remove(m_folder->path("_bin/zip.exe"));
+    for (const char *dir : {"_bin", "_config", "_e-mail", "_files"})
+        testSupport::copyFolder(testSupport::source(dir), m_folder->path(dir));
+    const result order = run({"mail", "good.xml"}, {"DISPLAY", "WAYLAND_DISPLAY"});
+    QVERIFY2(order.code == 0, qPrintable(order.err));
+    const QString message = order.out.trimmed().chopped(3) + "eml";
+    QVERIFY(QTest::qWaitFor([&] { return testSupport::read(message).endsWith("--\r\n"); }));
+    QVERIFY(testSupport::read(message).contains("filename=\"good.xml\""));
+    QVERIFY(testSupport::read(message).contains(".pdf"));
+
+    const result boms = run({"mail", "--boms", "--only-write"});
+    QVERIFY2(boms.code == 0 && boms.err.contains("Compression complete"), qPrintable(boms.err));
+    const QByteArray description = testSupport::read(boms.out.trimmed());
+    QVERIFY2(description.contains("[m.dab@example.com]"), description.constData());
 }
 
 KIVZP_TEST(tst_cli)

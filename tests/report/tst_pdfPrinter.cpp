@@ -1,6 +1,7 @@
 // Printed pages, read back with a PDF reader.
 #include "testSupport.h"
 
+#include "bom/bomReport.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
 #include "report/orderReport.h"
@@ -21,6 +22,7 @@ private slots:
     void cleanup();
     void names();
     void pagesRepeatCaptionsAndCutNoRow();
+    void everyTableIsParted();
     void viewIsLeftAsItWas();
     void cancelledOrRefusedKeepsTheOldFile();
     void pageLoadsAndRunsNothing();
@@ -99,6 +101,33 @@ void tst_pdfPrinter::pagesRepeatCaptionsAndCutNoRow()
     }
     QCOMPARE(lines, 60);
     QVERIFY(textOf(path + ".pdf", pages[1] + 1).contains("failed"));
+}
+
+void tst_pdfPrinter::everyTableIsParted()
+{
+    kiv_mat_bomStruct bom;
+    for (int i = 1; i <= 40; ++i) {
+        auto line = std::make_unique<materialStruct>();
+        line->d_ktm = QString("K%1X").arg(i);
+        line->d_name = QString("NAME%1 ").arg(i);
+        line->d_designator = QString("R%1, ").arg(i).repeated(i % 5 * 9);
+        bom.materials.push_back(std::move(line));
+    }
+    m_page->showHtml(bomReport::page({{&bom, 1}, {&bom, 2}, {&bom, 1}}, {}));
+    int pages = 0;
+    const QString path = m_folder->path("b.pdf");
+    QVERIFY(printPdf(m_view.get(), path, {}, [&pages](int, int total) { return pages = total; }));
+    int lines = 0;
+    for (int page = 1; page <= pages; ++page) {
+        const QString text = textOf(path, page);
+        for (int i = 1; i <= 40; ++i) {
+            const int begun = text.count(QRegularExpression(QString("NAME%1\\b").arg(i)));
+            QCOMPARE(text.count(QString("!!!!!K%1X").arg(i)), begun);
+            lines += begun;
+        }
+        QVERIFY2(page == pages || text.contains("Ordinal"), qPrintable(text));
+    }
+    QCOMPARE(lines, 120);
 }
 
 void tst_pdfPrinter::viewIsLeftAsItWas()

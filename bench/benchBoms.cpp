@@ -1,0 +1,141 @@
+// From many BOM lists to one order.
+#include "benchSupport.h"
+
+#include "bom/bomOperations.h"
+#include "data/loaders.h"
+#include "util/localeSetup.h"
+#include "util/paths.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+using namespace bomOperations;
+
+namespace {
+
+constexpr double allowed = 1.0;
+constexpr int lists = 100;
+constexpr int linesPerList = 500;
+
+double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
+
+using bomVector = std::vector<std::unique_ptr<kiv_mat_bomStruct>>;
+
+// Lists whose lines are spread over the database; neighbouring lists share half of their materials.
+bomVector makeLists(const kiv_mat_databaseStruct &database)
+{
+    std::vector<const materialStruct *> all;
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            all.push_back(material.get());
+    bomVector made;
+    for (int i = 0; i < lists; ++i) {
+        size_t at = size_t(i) * linesPerList / 2 * 37;
+        auto &bom = *made.emplace_back(std::make_unique<kiv_mat_bomStruct>());
+        for (int n = 0; n < linesPerList; ++n) {
+            const materialStruct &of = *all[(at += 37) % all.size()];
+            auto &line = *bom.materials.emplace_back(std::make_unique<materialStruct>());
+            line.d_ktm = of.d_ktm;
+            line.d_name = of.d_name;
+            line.d_quantity = QString::number(n % 20 + 1);
+            line.d_designator = QStringLiteral("R%1, R%2").arg(n).arg(n + 1);
+        }
+    }
+    return made;
+}
+
+std::vector<bomSets> withSets(const bomVector &boms, size_t count)
+{
+    std::vector<bomSets> list;
+    for (size_t i = 0; i < count; ++i)
+        list.push_back({boms[i].get(), int(i) % 10 + 1});
+    return list;
+}
+
+int order(const bomVector &boms, size_t count, const ktmIndex &materials, kiv_mat_zpStruct *into)
+{
+    return apply(planOf(demandOf(withSets(boms, count), materials), *into, amount::needed,
+                        present::raise, {}),
+                 into);
+}
+
+// Into an order that has half of the lists already.
+// ratio: the time over the allowed second.
+void fromRecords(benchmark::State &state, const ktmIndex &materials, const bomVector &boms)
+{
+    double seconds = 0;
+    for (auto _ : state) {
+        kiv_mat_zpStruct made;
+        order(boms, boms.size() / 2, materials, &made);
+        QElapsedTimer timer;
+        timer.start();
+        state.counters["changes"] = order(boms, boms.size(), materials, &made);
+        const double taken = since(timer);
+        seconds += taken;
+        state.SetIterationTime(taken);
+        state.counters["lines"] = double(made.orderItems.items.size());
+    }
+    state.counters["ratio"] = seconds / double(state.iterations()) / allowed;
+}
+
+// The lists' files checked and read, and all of it ordered anew. ratio as above.
+void fromFiles(benchmark::State &state, const ktmIndex &materials, const bomVector &boms)
+{
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/bomsXXXXXX");
+    QStringList paths;
+    for (const auto &bom : boms) {
+        paths.append(folder.filePath(QStringLiteral("%1.xml").arg(paths.size())));
+        if (saveXmlNoEvents(paths.last(), bom.get()) < 0) {
+            state.SkipWithError("a list was not written");
+            return;
+        }
+    }
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        bomVector read;
+        QString error;
+        for (const QString &path : paths)
+            if (!readBom(path, read.emplace_back(std::make_unique<kiv_mat_bomStruct>()).get(),
+                         &error)) {
+                state.SkipWithError(qPrintable(error));
+                return;
+            }
+        kiv_mat_zpStruct made;
+        order(read, read.size(), materials, &made);
+        const double taken = since(timer);
+        seconds += taken;
+        state.SetIterationTime(taken);
+    }
+    state.counters["ratio"] = seconds / double(state.iterations()) / allowed;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ensureUtf8Locale();
+    const QCoreApplication application(argc, argv);
+    paths::setProgramDir(QStringLiteral(KIVZP_SOURCE_DIR));
+    kiv_mat_databaseStruct database;
+    if (loadDatabase(benchSupport::generatedDatabase(100000), &database) != 0)
+        qFatal("the database was not read");
+    ktmIndex materials;
+    materials.add(&database);
+    const bomVector boms = makeLists(database);
+    const auto add = [&](const char *name, auto function) {
+        benchmark::RegisterBenchmark(name, [&, function](auto &s) { function(s, materials, boms); })
+            ->UseManualTime()
+            ->Iterations(9)
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("bomsToOrder/fromRecords", fromRecords);
+    add("bomsToOrder/fromFiles", fromFiles);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,268 @@
+#include "bom/bomOperations.h"
+
+#include "data/programData.h"
+#include "shell/orderOperations.h"
+#include "util/labels.h"
+#include "util/messages.h"
+#include "util/numbers.h"
+#include "util/text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace bomOperations {
+
+namespace {
+
+// The line's quantity; nothing when no count can be made of it.
+std::optional<double> quantityOf(const materialStruct &line)
+{
+    const std::optional<double> quantity = numbers::finite(line.d_quantity);
+    return quantity && *quantity >= 0 ? quantity : std::nullopt;
+}
+
+bool addProduct(double &sum, double quantity, const QString &price)
+{
+    const std::optional<double> number = numbers::finite(price);
+    if (number)
+        sum += *number * quantity;
+    return number.has_value();
+}
+
+const QString &unitOf(const materialStruct &material)
+{
+    return material.d_unit.isEmpty() ? labels::storedUnits().first() : material.d_unit;
+}
+
+// The lines of an order by KTM, found without walking the order for each material.
+using lineIndex = QHash<QString, std::vector<int>>;
+
+lineIndex indexOf(const kiv_mat_zpStruct &order)
+{
+    lineIndex index;
+    for (size_t i = 0; i < order.orderItems.items.size(); ++i)
+        index[order.orderItems.items[i]->ktm].push_back(int(i));
+    return index;
+}
+
+// The first of some lines that can get an amount on top, with its new quantity.
+std::optional<orderChange> raise(const kiv_mat_zpStruct &order, const std::vector<int> &lines,
+                                 const materialStruct &material, double by)
+{
+    for (const int i : lines) {
+        const orderItemStruct &line = *order.orderItems.items[size_t(i)];
+        const bool sameUnit = line.unit.isEmpty() || line.unit == unitOf(material);
+        const std::optional<double> before =
+            line.quantity.isEmpty() ? std::optional(0.0) : numbers::finite(line.quantity);
+        if (sameUnit && before)
+            return orderChange{i, numbers::plain(*before + by), nullptr};
+    }
+    return std::nullopt;
+}
+
+bool isTakenOnce(const QString &ktm)
+{
+    return orderOperations::isShipment(ktm) || ktm == orderOperations::pcbKtm();
+}
+
+} // namespace
+
+bool readBom(const QString &path, kiv_mat_bomStruct *bom, QString *error)
+{
+    QString reason;
+    if (readChecked(path, bom, &reason))
+        return true;
+    const QFileInfo file(path);
+    *error = messages::failed(file.isFile() && file.isReadable() ? messages::fileInvalid()
+                                                                 : messages::fileCorrupted(),
+                              path, reason);
+    return false;
+}
+
+QString pathOf(const fileStruct &entry, const QString &setPath)
+{
+    const QDir folder = QFileInfo(setPath).absoluteDir();
+    return entry.name.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(entry.name));
+}
+
+QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath)
+{
+    QStringList paths;
+    for (const auto &category : boms.categories)
+        for (const auto &group : category->items)
+            for (const auto &entry : group->items)
+                paths.append(pathOf(*entry, setPath));
+    paths.removeAll({});
+    paths.removeDuplicates();
+    return paths;
+}
+
+QString bomLine::shownKtm() const
+{
+    return known ? line->d_ktm : QLatin1String("!!!!!") + line->d_ktm;
+}
+
+bomLine matched(const materialStruct &line, const ktmIndex &materials)
+{
+    const ktmIndex::entry *found = materials.find(line.d_ktm);
+    return {&line, found ? found->material : &line, found != nullptr};
+}
+
+std::unique_ptr<materialStruct> newBomLine(const QString &ktm, const ktmIndex &materials)
+{
+    const ktmIndex::entry *found = materials.find(ktm);
+    if (!found)
+        return nullptr;
+    auto line = std::make_unique<materialStruct>();
+    line->d_ktm = ktm;
+    line->d_name = found->material->d_name;
+    line->d_quantity = QStringLiteral("1");
+    return line;
+}
+
+QString doesNotExist(const QString &ktm)
+{
+    return labels::material() + QLatin1String(" [ ") + ktm.toHtmlEscaped() + QLatin1String(" ] ")
+           + QCoreApplication::translate("bom", "does not exist") + QLatin1String("<br>");
+}
+
+bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials)
+{
+    bomSums sums;
+    for (const auto &line : bom.materials) {
+        const bomLine of = matched(*line, materials);
+        ++sums.lines;
+        sums.unknown += !of.known;
+        const std::optional<double> quantity = quantityOf(*line);
+        if (!quantity) {
+            ++sums.uncounted;
+            continue;
+        }
+        sums.quantity += *quantity;
+        if (!addProduct(sums.price, *quantity, of.material->d_price))
+            ++sums.uncounted;
+        addProduct(sums.averagePrice, *quantity, of.material->d_averagePrice);
+    }
+    return sums;
+}
+
+bomSums timesSets(const bomSums &sums, int sets)
+{
+    bomSums result = sums;
+    const int times = qMax(0, sets);
+    result.quantity *= times;
+    result.price *= times;
+    result.averagePrice *= times;
+    return result;
+}
+
+bomSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
+{
+    bomSums all;
+    for (const bomSets &list : lists) {
+        if (list.sets <= 0)
+            continue;
+        const bomSums sums = timesSets(sumsOf(*list.bom, materials), list.sets);
+        all.quantity += sums.quantity;
+        all.price += sums.price;
+        all.averagePrice += sums.averagePrice;
+        all.lines += sums.lines;
+        all.unknown += sums.unknown;
+        all.uncounted += sums.uncounted;
+    }
+    return all;
+}
+
+demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
+{
+    demand result;
+    QHash<QString, size_t> places;
+    for (const bomSets &list : lists) {
+        if (list.sets <= 0)
+            continue;
+        for (const auto &line : list.bom->materials) {
+            const std::optional<double> quantity = quantityOf(*line);
+            if (!quantity) {
+                result.uncounted.push_back(line.get());
+                continue;
+            }
+            // No KTM holds a line end.
+            const QString key =
+                line->d_ktm.isEmpty() ? QLatin1Char('\n') + line->d_name : line->d_ktm;
+            const auto place = places.constFind(key);
+            if (place != places.constEnd()) {
+                result.needs[*place].needed += *quantity * list.sets;
+                continue;
+            }
+            places.insert(key, result.needs.size());
+            need &added = result.needs.emplace_back();
+            const bomLine of = matched(*line, materials);
+            added.ktm = line->d_ktm;
+            added.name = of.material->d_name;
+            added.needed = *quantity * list.sets;
+            if (of.known) {
+                added.material = of.material;
+                added.inStock = numbers::finite(of.material->d_inWarehouse);
+            }
+        }
+    }
+    return result;
+}
+
+std::vector<const need *> shortagesOf(const demand &of)
+{
+    std::vector<const need *> list;
+    for (const need &one : of.needs)
+        if (one.shortage() > 0)
+            list.push_back(&one);
+    return list;
+}
+
+orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
+                 const QDate &wait)
+{
+    orderPlan plan;
+    const lineIndex lines = indexOf(order);
+    size_t count = order.orderItems.items.size();
+    for (const need &one : of.needs) {
+        const double wanted = which == amount::needed ? one.needed : one.shortage();
+        // Less than what is written of a quantity.
+        if (numbers::plain(wanted) == QLatin1String("0"))
+            continue;
+        if (!one.isKnown()) {
+            plan.unknown.push_back(&one);
+            continue;
+        }
+        const std::vector<int> there = lines.value(one.ktm);
+        std::optional<orderChange> raising;
+        if (existing == present::raise)
+            raising = raise(order, there, *one.material, wanted);
+        if (raising) {
+            plan.changes.push_back(std::move(*raising));
+            continue;
+        }
+        if (!there.empty() && (existing == present::skip || isTakenOnce(one.ktm))) {
+            ++plan.skipped;
+            continue;
+        }
+        orderChange &change = plan.changes.emplace_back();
+        change.quantity = numbers::plain(wanted);
+        change.added = orderOperations::newLine(*one.material, order, change.quantity, wait);
+        change.added->index = QString::number(++count);
+    }
+    return plan;
+}
+
+int apply(orderPlan plan, kiv_mat_zpStruct *order)
+{
+    for (orderChange &change : plan.changes) {
+        if (change.line >= 0)
+            order->orderItems.items[size_t(change.line)]->quantity = change.quantity;
+        else
+            order->orderItems.append(std::move(change.added));
+    }
+    return int(plan.changes.size());
+}
+
+} // namespace bomOperations

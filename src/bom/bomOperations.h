@@ -1,0 +1,142 @@
+// What the windows and the command line do with BOM lists, as functions on the records: reading
+// them, matching their lines with the databases, sums, and the lines that go into an order.
+#pragma once
+
+#include "data/kiv_mat_bomStruct.h"
+#include "data/kiv_mat_bomsStruct.h"
+#include "data/kiv_mat_zpStruct.h"
+#include "data/ktmIndex.h"
+
+#include <QDate>
+#include <QStringList>
+
+#include <optional>
+
+namespace bomOperations {
+
+// --- Files ---
+
+// Checks and reads the file of a BOM list. False when it cannot be read; error then gets the HTML
+// line for the errors window, which tells a missing file from an invalid one.
+bool readBom(const QString &path, kiv_mat_bomStruct *bom, QString *error);
+
+// The file that an entry of a set of BOM lists names: relative names start at the folder of the
+// set's own file, setPath. Empty when the entry has no name.
+QString pathOf(const fileStruct &entry, const QString &setPath);
+// The files of all its groups, in the order of the set, each once.
+QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath);
+
+// --- Lines ---
+
+// A line beside what the databases know of its KTM.
+struct bomLine
+{
+    const materialStruct *line;
+    const materialStruct *material; // the database's, or the line itself when no database has it
+    bool known;
+
+    // As views, exports and reports show it: "!!!!!" stands before a KTM that no database has.
+    QString shownKtm() const;
+};
+bomLine matched(const materialStruct &line, const ktmIndex &materials);
+
+// A new line for one piece of a material, without designators; null when no database has it. The
+// second says so, as a line for the errors window.
+std::unique_ptr<materialStruct> newBomLine(const QString &ktm, const ktmIndex &materials);
+QString doesNotExist(const QString &ktm);
+
+// --- Sums ---
+
+// A BOM list and how many sets of it are built; 0 and less are none.
+struct bomSets
+{
+    const kiv_mat_bomStruct *bom;
+    int sets;
+};
+
+struct bomSums
+{
+    double quantity = 0;     // of all units together
+    double price = 0;        // PLN, price times quantity
+    double averagePrice = 0; // PLN
+    int lines = 0;
+    int unknown = 0;   // lines whose KTM no database has
+    int uncounted = 0; // lines whose quantity or price is no number
+};
+// Of one set.
+bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials);
+// The same for so many sets: the amounts grow, the numbers of lines do not.
+bomSums timesSets(const bomSums &sums, int sets);
+// Of several lists, each times its sets. Lists that are not built do not count.
+bomSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials);
+
+// --- What is needed ---
+
+// A material summed over all lines of all lists, times sets. Lines without a KTM are told apart by
+// their name.
+struct need
+{
+    QString ktm;
+    QString name;
+    const materialStruct *material = nullptr; // null when no database has it
+    double needed = 0;
+    std::optional<double> inStock; // nothing when unknown, or when the stock is no number
+
+    bool isKnown() const { return material != nullptr; }
+    // Needed and not in stock; an unknown stock, and one below nothing, count as nothing.
+    double shortage() const { return qMax(0.0, needed - qMax(0.0, inStock.value_or(0.0))); }
+};
+
+struct demand
+{
+    std::vector<need> needs; // in the order of their first lines
+    // The lines whose quantity is no number, or less than nothing: they are in no need.
+    std::vector<const materialStruct *> uncounted;
+};
+// Looks at the lists and the materials, which have to live as long as it is used.
+demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials);
+
+// The needs that stock does not cover, unknown materials among them.
+std::vector<const need *> shortagesOf(const demand &of);
+
+// --- Into the order ---
+
+enum class amount
+{
+    needed,
+    shortage
+};
+
+// What becomes of a material that the order has already.
+enum class present
+{
+    raise, // its line gets the amount on top
+    add,   // the amount becomes a line of its own
+    skip   // the order has enough of it
+};
+
+// One change of an order: another quantity for line number "line", or, when that is -1, a line to
+// append. Lines are to be appended in the order of the changes.
+struct orderChange
+{
+    int line = -1;
+    QString quantity;
+    std::unique_ptr<orderItemStruct> added;
+};
+
+struct orderPlan
+{
+    std::vector<orderChange> changes;
+    std::vector<const need *> unknown; // in no database: not ordered
+    int skipped = 0;                   // materials left as the order has them
+};
+// Changes nothing: a window applies the changes as one undo step. A line is raised only when its
+// quantity is a number or empty and its unit is the material's; else the amount becomes a line of
+// its own, as nothing else would be right. Materials of which an order takes one line (shipment,
+// PCB) are never doubled. Amounts of nothing make no change.
+orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
+                 const QDate &wait);
+// Carries out the changes on the record itself; returns how many there were.
+int apply(orderPlan plan, kiv_mat_zpStruct *order);
+
+} // namespace bomOperations

@@ -1,0 +1,212 @@
+#include "bom/bomReport.h"
+
+#include "report/html.h"
+#include "report/sourceNames.h"
+#include "util/labels.h"
+#include "util/numbers.h"
+#include "util/text.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace bomReport {
+
+using namespace bomOperations;
+
+namespace {
+
+// Below the first line: a long list of designators breaks instead of pushing columns off the paper.
+constexpr const char *styleSheet =
+    "table, th, td { border-collapse: collapse; font-family: Courier New; }\n"
+    "body { font-family: Courier New, Liberation Mono, monospace; font-size: 13px; }\n"
+    "table.lines th, table.lines td { font-family: Courier New, Liberation Mono, monospace;\n"
+    "  font-size: 13px; border: 1px solid #9AA5B1; }\n"
+    "table.lines { border-style: none; }\n"
+    "table.lines th { font-size: 11px; background: #E4ECF4; }\n"
+    "table.lines td { word-wrap: break-word; word-break: break-word; vertical-align: top; }\n";
+
+QString tr(const char *text) { return QCoreApplication::translate("bomReport", text); }
+
+QString setsText(int sets)
+{
+    return QCoreApplication::translate("bomReport", "%n set(s)", nullptr, sets);
+}
+
+void writeCaptions(html::htmlTable &page)
+{
+    const struct
+    {
+        QString caption;
+        const char *attributes;
+    } columns[] = {
+        {labels::ordinalNumber(), "width=\"3%\""}, {labels::material(), "align=\"center\""},
+        {labels::description(), "width=\"25%\""},  {labels::manufacturer(), "width=\"25%\""},
+        {labels::quantity(), "width=\"5%\""},      {labels::designator(), "width=\"20%\""}};
+    // The printer counts these when it parts the table.
+    page.append(QStringLiteral("<col>").repeated(int(std::size(columns)))
+                + QLatin1String("\n<thead>"));
+    page.openRow(QStringLiteral("class=\"caption\""));
+    for (const auto &column : columns)
+        page.append(QStringLiteral("<th %1>%2</th>\n")
+                        .arg(QLatin1String(column.attributes), column.caption.toHtmlEscaped()));
+    page.closeRow();
+    page.append(QStringLiteral("</thead>\n<tbody>\n"));
+}
+
+void writeLines(html::htmlTable &page, const kiv_mat_bomStruct &bom, const ktmIndex &materials)
+{
+    int ordinal = 0;
+    for (const auto &line : bom.materials) {
+        const bomLine of = matched(*line, materials);
+        page.openRow(QStringLiteral("class=\"line\""));
+        page.cell({}, QString::number(++ordinal));
+        page.cell({}, QLatin1String("<b>") + text::toHtml(of.material->d_name)
+                          + QLatin1String("</b><br>") + text::toHtml(of.shownKtm()));
+        page.cell({}, text::toHtml(of.material->d_description));
+        page.cell({}, sourceNames(of.material->manufacturers));
+        page.cell({}, text::toHtml(line->d_quantity));
+        page.cell({}, text::toHtml(line->d_designator));
+        page.closeRow();
+    }
+}
+
+QString amount(double pln) { return numbers::money(pln) + QLatin1String(" [ PLN ]"); }
+
+// Below the table, in lines of text.
+void writeSums(html::htmlTable &page, const bomSums &ofOne, int sets)
+{
+    const auto write = [&page](int times, const bomSums &of) {
+        page.append(QLatin1String("<p><b>") + setsText(times).toHtmlEscaped()
+                    + QLatin1String("</b>: ") + labels::quantity() + QLatin1String(" = ")
+                    + numbers::plain(of.quantity) + QLatin1String("; ") + labels::sumPrice()
+                    + amount(of.price) + QLatin1String("; ") + labels::sumAveragePrice()
+                    + amount(of.averagePrice) + QLatin1String("</p>\n"));
+    };
+    write(1, ofOne);
+    if (sets > 1)
+        write(sets, timesSets(ofOne, sets));
+}
+
+QString nameOf(const kiv_mat_bomStruct &bom) { return QFileInfo(bom.fileName).completeBaseName(); }
+
+// A text that stays one cell of one line.
+QString oneCell(QString text)
+{
+    for (QChar &c : text)
+        if (c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'))
+            c = QLatin1Char(' ');
+    return text;
+}
+
+} // namespace
+
+QString page(const std::vector<bomSets> &lists, const ktmIndex &materials)
+{
+    html::htmlTable page;
+    page.append(QLatin1String("<!DOCTYPE html><meta charset=\"UTF-8\">\n<title>")
+                + text::toHtml(title(lists)) + QLatin1String("</title>\n<style>")
+                + QLatin1String(styleSheet) + QLatin1String("</style>\n"));
+    for (const bomSets &list : lists) {
+        page.append(QLatin1String("<h2>") + text::toHtml(nameOf(*list.bom))
+                    + QLatin1String("</h2>\n"));
+        page.openTable(
+            QStringLiteral("class=\"lines\" cellpadding=\"2\" width=\"100%\" border=\"1\""));
+        writeCaptions(page);
+        writeLines(page, *list.bom, materials);
+        page.append(QStringLiteral("</tbody>\n"));
+        page.closeTable();
+        writeSums(page, sumsOf(*list.bom, materials), list.sets);
+    }
+    return page.text();
+}
+
+QString title(const std::vector<bomSets> &lists)
+{
+    QStringList names;
+    for (const bomSets &list : lists)
+        names.append(nameOf(*list.bom));
+    // Beside the page number there is room for so much.
+    constexpr int longest = 100;
+    const QString all = names.join(QLatin1String(", "));
+    return all.size() <= longest ? all : all.left(longest) + QChar(0x2026);
+}
+
+QString sums(const bomSums &ofOne, int sets)
+{
+    html::htmlTable table;
+    const auto write = [&table](const QString &heading, const bomSums &of) {
+        table.labelRow({}, heading.toHtmlEscaped());
+        table.labelRow(labels::quantity(), numbers::plain(of.quantity));
+        table.labelRow(labels::price(), amount(of.price));
+        table.labelRow(labels::averagePrice(), amount(of.averagePrice));
+    };
+    table.openTable(QStringLiteral("style=\"width:80%\""));
+    table.labelRow(tr("Lines"), QString::number(ofOne.lines));
+    if (ofOne.unknown > 0)
+        table.labelRow(tr("Not in the databases"), QString::number(ofOne.unknown));
+    if (ofOne.uncounted > 0)
+        table.labelRow(tr("Without a quantity or price"), QString::number(ofOne.uncounted));
+    write(setsText(1), ofOne);
+    if (sets > 1)
+        write(setsText(sets), timesSets(ofOne, sets));
+    table.closeTable();
+    return table.text();
+}
+
+QString needCaption(needColumn column)
+{
+    switch (column) {
+    case ktmColumn:
+        return labels::ktm();
+    case nameColumn:
+        return labels::name();
+    case neededColumn:
+        return tr("Needed");
+    case inStockColumn:
+        return labels::inWarehouse();
+    case shortageColumn:
+        return tr("Short");
+    case knownColumn:
+        return tr("Known");
+    default:
+        return {};
+    }
+}
+
+QString needText(const need &of, needColumn column)
+{
+    switch (column) {
+    case ktmColumn:
+        return of.ktm;
+    case nameColumn:
+        return of.name;
+    case neededColumn:
+        return numbers::plain(of.needed);
+    case inStockColumn:
+        return of.inStock ? numbers::plain(*of.inStock) : QStringLiteral("?");
+    case shortageColumn:
+        return numbers::plain(of.shortage());
+    case knownColumn:
+        return of.isKnown() ? labels::yes() : labels::no();
+    default:
+        return {};
+    }
+}
+
+QString csv(const kiv_mat_bomStruct &bom, const ktmIndex &materials)
+{
+    QString text;
+    for (const auto &line : bom.materials)
+        text += oneCell(matched(*line, materials).shownKtm()) + QLatin1Char('\t')
+                + oneCell(line->d_quantity) + QLatin1Char('\n');
+    return text;
+}
+
+QString proposedPath(const QString &bomPath, const QString &ending)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QLatin1Char('/')
+           + QFileInfo(bomPath).completeBaseName() + ending;
+}
+
+} // namespace bomReport

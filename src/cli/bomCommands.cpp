@@ -1,0 +1,281 @@
+// bom-csv, bom-report, bom-order, bom-shortage: BOM lists without their windows.
+#include "cli/arguments.h"
+
+#include "bom/bomReport.h"
+#include "data/configStruct.h"
+#include "data/loaders.h"
+#include "shell/orderOperations.h"
+#include "util/files.h"
+#include "util/paths.h"
+
+#include <QCoreApplication>
+
+namespace cli {
+
+using namespace bomOperations;
+
+namespace {
+
+constexpr int setsAtMost = 1000000;
+
+QCommandLineOption materialsOption()
+{
+    return databaseOption(QCoreApplication::translate(
+        "cli", "A material database that the lines are looked up in. May be given several times."));
+}
+
+QCommandLineOption outputOption(const QString &help)
+{
+    return {{QStringLiteral("o"), QStringLiteral("output")}, help, QStringLiteral("OUT")};
+}
+
+bool readList(const QString &path, kiv_mat_bomStruct *bom)
+{
+    return readFile(path, bom, QCoreApplication::translate("cli", "is no BOM list"));
+}
+
+// The lists given as BOM=SETS, or added one by one.
+class listsWithSets
+{
+public:
+    // False, with the fault, when an argument is not of that form. The last "=" counts: a file may
+    // have one in its name.
+    bool parse(const QStringList &arguments, QString *fault)
+    {
+        for (const QString &argument : arguments) {
+            const int sign = argument.lastIndexOf(QLatin1Char('='));
+            bool isNumber = false;
+            const int sets = argument.mid(sign + 1).toInt(&isNumber);
+            if (sign <= 0 || !isNumber || sets < 0 || sets > setsAtMost) {
+                *fault = QCoreApplication::translate(
+                             "cli", "%1 is not BOM=SETS with a number of sets from 0 to %2")
+                             .arg(argument)
+                             .arg(setsAtMost);
+                return false;
+            }
+            add(argument.left(sign), sets);
+        }
+        return true;
+    }
+    void add(const QString &path, int sets)
+    {
+        m_paths.append(path);
+        m_sets.push_back(sets);
+    }
+    // Prints what is wrong; false when one was refused.
+    bool read()
+    {
+        for (int i = 0; i < m_paths.size(); ++i) {
+            m_boms.push_back(std::make_unique<kiv_mat_bomStruct>());
+            if (!readList(m_paths.at(i), m_boms.back().get()))
+                return false;
+            lists.push_back({m_boms.back().get(), m_sets[size_t(i)]});
+        }
+        return true;
+    }
+
+    std::vector<bomSets> lists;
+
+private:
+    QStringList m_paths;
+    std::vector<int> m_sets;
+    std::vector<std::unique_ptr<kiv_mat_bomStruct>> m_boms;
+};
+
+// Tells on standard error which lines and materials were left out.
+void warn(const QString &text, const QString &subject)
+{
+    err() << text << ": " << subject.simplified() << '\n';
+}
+
+void warnOfUncounted(const demand &of)
+{
+    for (const materialStruct *line : of.uncounted)
+        warn(QCoreApplication::translate("cli", "no quantity, left out"),
+             line->d_ktm + QLatin1Char(' ') + line->d_name);
+    err() << Qt::flush;
+}
+
+int runCsv(const QStringList &arguments)
+{
+    parser options(bomCsvCommand, QStringLiteral("BOM"), 1, 1);
+    const QCommandLineOption database = materialsOption();
+    const QCommandLineOption output =
+        outputOption(QCoreApplication::translate("cli", "The file to write."));
+    options.addOption(database);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    const QString target = options.value(output);
+    if (target.isEmpty())
+        return refuseCall(bomCsvCommand,
+                          QCoreApplication::translate("cli", "give an output file with -o"));
+    kiv_mat_bomStruct bom;
+    databaseSet databases;
+    if (!readList(options.positionalArguments().at(0), &bom)
+        || !databases.load(options.values(database)))
+        return refused;
+    return files::writeText(target, bomReport::csv(bom, databases.index())) ? done
+                                                                            : cannotWrite(target);
+}
+
+int runReport(const QStringList &arguments)
+{
+    parser options(bomReportCommand, QStringLiteral("BOM..."), 1, -1);
+    const QCommandLineOption database = materialsOption();
+    const QCommandLineOption output = outputOption(QCoreApplication::translate(
+        "cli", "The file to write; its ending, .html or .pdf, decides its kind."));
+    options.addOption(database);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    const QString target = options.value(output);
+    if (!isPageFile(target))
+        return refuseCall(
+            bomReportCommand,
+            QCoreApplication::translate("cli", "give an output file that ends in .html or .pdf"));
+    listsWithSets read;
+    databaseSet databases;
+    for (const QString &path : options.positionalArguments())
+        read.add(path, 1);
+    if (!read.read() || !databases.load(options.values(database)))
+        return refused;
+    return writePage(bomReport::page(read.lists, databases.index()), target,
+                     bomReport::title(read.lists));
+}
+
+struct word
+{
+    QLatin1String text;
+    present meaning;
+};
+const word presentWords[] = {{QLatin1String("raise"), present::raise},
+                             {QLatin1String("add"), present::add},
+                             {QLatin1String("skip"), present::skip}};
+
+// The order to add to, or a new one as the program's configuration makes it.
+bool startOrder(const QString &path, configStruct &config, kiv_mat_zpStruct *order)
+{
+    if (!config.load(paths::config()))
+        config.setDefaults();
+    if (!path.isEmpty())
+        return readFile(path, order, QCoreApplication::translate("cli", "is no order"));
+    order->initialise(config);
+    return true;
+}
+
+int runOrder(const QStringList &arguments)
+{
+    parser options(bomOrderCommand, QStringLiteral("BOM=SETS..."), 1, -1);
+    const QCommandLineOption database = materialsOption();
+    const QCommandLineOption output =
+        outputOption(QCoreApplication::translate("cli", "The order to write."));
+    const QCommandLineOption from(
+        QStringLiteral("from"),
+        QCoreApplication::translate("cli",
+                                    "An order whose lines come first; it may be OUT itself."),
+        QStringLiteral("ORDER"));
+    const QCommandLineOption onlyShort(
+        QStringLiteral("short"),
+        QCoreApplication::translate("cli", "Order only what is short of stock."));
+    const QCommandLineOption existing(
+        QStringLiteral("existing"),
+        QCoreApplication::translate("cli",
+                                    "What becomes of materials that the order has: raise the "
+                                    "line (usual), add a line, or skip them."),
+        QStringLiteral("raise|add|skip"), presentWords[0].text);
+    for (const QCommandLineOption &option : {database, output, from, onlyShort, existing})
+        options.addOption(option);
+    if (!options.accept(arguments))
+        return options.code();
+    const QString target = options.value(output);
+    if (target.isEmpty())
+        return refuseCall(bomOrderCommand,
+                          QCoreApplication::translate("cli", "give an output file with -o"));
+    const auto chosen =
+        std::find_if(std::begin(presentWords), std::end(presentWords),
+                     [&](const word &w) { return w.text == options.value(existing); });
+    if (chosen == std::end(presentWords))
+        return refuseCall(bomOrderCommand,
+                          QCoreApplication::translate("cli", "%1 is none of raise, add and skip")
+                              .arg(options.value(existing)));
+    listsWithSets lists;
+    QString fault;
+    if (!lists.parse(options.positionalArguments(), &fault))
+        return refuseCall(bomOrderCommand, fault);
+
+    configStruct config;
+    kiv_mat_zpStruct order;
+    databaseSet databases;
+    if (!startOrder(options.value(from), config, &order) || !lists.read()
+        || !databases.load(options.values(database)))
+        return refused;
+    const demand needed = demandOf(lists.lists, databases.index());
+    warnOfUncounted(needed);
+    orderPlan plan =
+        planOf(needed, order, options.isSet(onlyShort) ? amount::shortage : amount::needed,
+               chosen->meaning, orderOperations::usualDate(config));
+    for (const need *one : plan.unknown)
+        warn(QCoreApplication::translate("cli", "in no database, left out"),
+             one->ktm + QLatin1Char(' ') + one->name);
+    const int skipped = plan.skipped;
+    const int changed = apply(std::move(plan), &order);
+    if (saveXmlNoEvents(target, &order) < 0)
+        return cannotWrite(target);
+    err() << QCoreApplication::translate("cli", "%n line(s) added or raised", nullptr, changed)
+          << QLatin1String(", ")
+          << QCoreApplication::translate("cli", "%n material(s) skipped", nullptr, skipped) << '\n'
+          << Qt::flush;
+    return done;
+}
+
+int runShortage(const QStringList &arguments)
+{
+    parser options(bomShortageCommand, QStringLiteral("BOM=SETS..."), 1, -1);
+    const QCommandLineOption database = materialsOption();
+    options.addOption(database);
+    if (!options.accept(arguments))
+        return options.code();
+    listsWithSets lists;
+    QString fault;
+    if (!lists.parse(options.positionalArguments(), &fault))
+        return refuseCall(bomShortageCommand, fault);
+    databaseSet databases;
+    if (!lists.read() || !databases.load(options.values(database)))
+        return refused;
+
+    const demand needed = demandOf(lists.lists, databases.index());
+    const std::vector<const need *> missing = shortagesOf(needed);
+    for (const need *one : missing) {
+        for (int column = 0; column < bomReport::needColumns; ++column)
+            out() << (column > 0 ? "\t" : "")
+                  << bomReport::needText(*one, bomReport::needColumn(column)).simplified();
+        out() << '\n';
+    }
+    out() << Qt::flush;
+    warnOfUncounted(needed);
+    // A line that could not be counted may be short too.
+    return missing.empty() && needed.uncounted.empty() ? done : refused;
+}
+
+} // namespace
+
+const subcommand bomCsvCommand{
+    "bom-csv", QT_TRANSLATE_NOOP("cli", "Writes the KTMs and quantities of a BOM list as text."),
+    runCsv};
+const subcommand bomReportCommand{
+    "bom-report", QT_TRANSLATE_NOOP("cli", "Writes the report of BOM lists as HTML or PDF."),
+    runReport};
+const subcommand bomOrderCommand{
+    "bom-order",
+    QT_TRANSLATE_NOOP("cli", "Orders the materials of BOM lists, each times its number of sets."),
+    runOrder};
+const subcommand bomShortageCommand{
+    "bom-shortage",
+    QT_TRANSLATE_NOOP("cli",
+                      "Prints what BOM lists, each times its number of sets, need beyond the "
+                      "stock: KTM, name, needed, in stock, short, known. Exit code 1 when "
+                      "something is short."),
+    runShortage};
+
+} // namespace cli
