@@ -13,7 +13,6 @@ QString printToFile();
 QString fileCorrupted();
 QString fileInvalid();
 QString createDefaultFile();
-QString fileInvalid();
 QString temporaryFolderError();
 
 // Result words.
