@@ -192,6 +192,16 @@
     </message>
 </context>
 <context>
+    <name>bomReport</name>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n set</numerusform>
+            <numerusform>%n sets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>changesDialog</name>
     <message numerus="yes">
         <source>%n change(s). What stays marked is taken over.</source>
@@ -208,6 +218,20 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added or raised</source>
+        <translation>
+            <numerusform>%n line added or raised</numerusform>
+            <numerusform>%n lines added or raised</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) skipped</source>
+        <translation>
+            <numerusform>%n material skipped</numerusform>
+            <numerusform>%n materials skipped</numerusform>
         </translation>
     </message>
 </context>
@@ -350,6 +374,10 @@
     <message>
         <source>File corrupted</source>
         <translation>File corrupted </translation>
+    </message>
+    <message>
+        <source>Temporary folder error</source>
+        <translation>Temporary folder error </translation>
     </message>
 </context>
 <context>
@@ -526,6 +554,10 @@
     <message>
         <source>OPTION_LANGUAGE</source>
         <translation>OPTION_LANGUAGE </translation>
+    </message>
+    <message>
+        <source>OPTION_ARCHIVE_PASSWORD</source>
+        <translation>OPTION_ARCHIVE_PASSWORD </translation>
     </message>
 </context>
 <context>

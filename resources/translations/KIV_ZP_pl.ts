@@ -1591,6 +1591,48 @@
     </message>
 </context>
 <context>
+    <name>bom</name>
+    <message>
+        <source>does not exist</source>
+        <translation>nie istnieje</translation>
+    </message>
+</context>
+<context>
+    <name>bomReport</name>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n zestaw</numerusform>
+            <numerusform>%n zestawy</numerusform>
+            <numerusform>%n zestawów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Not in the databases</source>
+        <translation>Spoza baz danych</translation>
+    </message>
+    <message>
+        <source>Without a quantity or price</source>
+        <translation>Bez ilości lub ceny</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Potrzeba</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Brakuje</translation>
+    </message>
+    <message>
+        <source>Known</source>
+        <translation>W bazie</translation>
+    </message>
+</context>
+<context>
     <name>cellBlock</name>
     <message>
         <source>%1, row %2: %3</source>
@@ -1929,6 +1971,114 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Lists the materials that name a firm as manufacturer or supplier, and can rename it there. Exit code 1 when there are none.</source>
         <translation>Wypisuje materiały, które wymieniają firmę jako producenta lub dostawcę, i może ją w nich przemianować. Kod wyjścia 1, gdy takich nie ma.</translation>
     </message>
+    <message>
+        <source>A material database that the lines are looked up in. May be given several times.</source>
+        <translation>Baza materiałów, w której wyszukiwane są pozycje. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>is no BOM list</source>
+        <translation>nie jest listą materiałów (BOM)</translation>
+    </message>
+    <message>
+        <source>%1 is not BOM=SETS with a number of sets from 0 to %2</source>
+        <translation>%1 nie ma postaci BOM=ZESTAWY z liczbą zestawów od 0 do %2</translation>
+    </message>
+    <message>
+        <source>no quantity, left out</source>
+        <translation>brak ilości, pominięto</translation>
+    </message>
+    <message>
+        <source>The file to write.</source>
+        <translation>Plik do zapisania.</translation>
+    </message>
+    <message>
+        <source>give an output file with -o</source>
+        <translation>podaj plik wyjściowy po -o</translation>
+    </message>
+    <message>
+        <source>The order to write.</source>
+        <translation>Zamówienie do zapisania.</translation>
+    </message>
+    <message>
+        <source>An order whose lines come first; it may be OUT itself.</source>
+        <translation>Zamówienie, którego pozycje są na początku; może to być sam plik wyjściowy.</translation>
+    </message>
+    <message>
+        <source>Order only what is short of stock.</source>
+        <translation>Zamów tylko to, czego brakuje w magazynie.</translation>
+    </message>
+    <message>
+        <source>What becomes of materials that the order has: raise the line (usual), add a line, or skip them.</source>
+        <translation>Co zrobić z materiałami, które są już w zamówieniu: zwiększyć ilość w pozycji (raise, domyślnie), dodać pozycję (add) albo pominąć (skip).</translation>
+    </message>
+    <message>
+        <source>%1 is none of raise, add and skip</source>
+        <translation>%1 nie jest żadnym ze słów raise, add, skip</translation>
+    </message>
+    <message>
+        <source>in no database, left out</source>
+        <translation>nie ma w żadnej bazie, pominięto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added or raised</source>
+        <translation>
+            <numerusform>%n pozycja dodana lub zwiększona</numerusform>
+            <numerusform>%n pozycje dodane lub zwiększone</numerusform>
+            <numerusform>%n pozycji dodanych lub zwiększonych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) skipped</source>
+        <translation>
+            <numerusform>%n materiał pominięty</numerusform>
+            <numerusform>%n materiały pominięte</numerusform>
+            <numerusform>%n materiałów pominiętych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Writes the KTMs and quantities of a BOM list as text.</source>
+        <translation>Zapisuje KTM i ilości listy materiałów (BOM) jako tekst.</translation>
+    </message>
+    <message>
+        <source>Writes the report of BOM lists as HTML or PDF.</source>
+        <translation>Zapisuje raport list materiałów (BOM) jako HTML lub PDF.</translation>
+    </message>
+    <message>
+        <source>Orders the materials of BOM lists, each times its number of sets.</source>
+        <translation>Zamawia materiały z list BOM, każdej pomnożonej przez liczbę zestawów.</translation>
+    </message>
+    <message>
+        <source>Prints what BOM lists, each times its number of sets, need beyond the stock: KTM, name, needed, in stock, short, known. Exit code 1 when something is short.</source>
+        <translation>Wypisuje, czego listom BOM, każdej pomnożonej przez liczbę zestawów, brakuje w magazynie: KTM, nazwa, potrzeba, w magazynie, brakuje, w bazie. Kod wyjścia 1, gdy czegoś brakuje.</translation>
+    </message>
+    <message>
+        <source>Send the program&apos;s databases instead of an order.</source>
+        <translation>Wyślij bazy danych programu zamiast zamówienia.</translation>
+    </message>
+    <message>
+        <source>Send the program&apos;s BOM lists instead of an order.</source>
+        <translation>Wyślij listy materiałów (BOM) programu zamiast zamówienia.</translation>
+    </message>
+    <message>
+        <source>Write the message and start no mail program.</source>
+        <translation>Zapisz wiadomość, nie uruchamiaj programu pocztowego.</translation>
+    </message>
+    <message>
+        <source>give one of an order, --databases and --boms</source>
+        <translation>podaj zamówienie albo --databases, albo --boms</translation>
+    </message>
+    <message>
+        <source>cannot be read or is invalid</source>
+        <translation>nie można odczytać lub jest niepoprawny</translation>
+    </message>
+    <message>
+        <source>cannot be started</source>
+        <translation>nie można uruchomić</translation>
+    </message>
+    <message>
+        <source>Opens the mail composer with an order and its PDF, or with the databases or BOM lists; prints the message&apos;s description file.</source>
+        <translation>Otwiera okno nowej wiadomości z zamówieniem i jego plikiem PDF albo z bazami danych lub listami BOM; wypisuje plik opisu wiadomości.</translation>
+    </message>
 </context>
 <context>
     <name>configOperations</name>
@@ -2175,7 +2325,7 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
     <message>
         <source>The list is empty. &lt;a href=&quot;add&quot;&gt;Add a firm&lt;/a&gt;.</source>
-        <translation>Lista jest pusta. &lt;a href="add"&gt;Dodaj firmę&lt;/a&gt;.</translation>
+        <translation>Lista jest pusta. &lt;a href=&quot;add&quot;&gt;Dodaj firmę&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>the configuration names no file</source>
@@ -2990,12 +3140,39 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>File corrupted</source>
         <translation>Plik uszkodzony </translation>
     </message>
+    <message>
+        <source>Temporary folder error</source>
+        <translation>Błąd folderu tymczasowego </translation>
+    </message>
 </context>
 <context>
     <name>logWindow</name>
     <message>
         <source>Log</source>
         <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
+    <name>mail</name>
+    <message>
+        <source>Database</source>
+        <translation>Baza danych</translation>
+    </message>
+    <message>
+        <source>Boms</source>
+        <translation>Listy materiałów</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>nie można zapisać</translation>
+    </message>
+    <message>
+        <source>DD - Order</source>
+        <translation>DD - Zamówienie</translation>
+    </message>
+    <message>
+        <source>There are no files to send.</source>
+        <translation>Nie ma plików do wysłania.</translation>
     </message>
 </context>
 <context>
@@ -3421,6 +3598,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>OPTION_LANGUAGE</source>
         <translation>Język programu</translation>
+    </message>
+    <message>
+        <source>OPTION_ARCHIVE_PASSWORD</source>
+        <translation>Hasło archiwów</translation>
     </message>
 </context>
 <context>
