@@ -14,8 +14,6 @@ namespace databaseTree {
 
 namespace {
 
-constexpr int stockMaximum = 100000000;
-
 struct materialColumn
 {
     const char *key;

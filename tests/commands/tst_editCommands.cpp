@@ -170,8 +170,8 @@ void tst_editCommands::rowsBelowAParent()
 {
     myModel model(nullptr);
     auto *group = new myItemStandard("group");
-    model.appendRow({group});
-    group->appendRow({new myItemStandard("one")});
+    model.appendRow(group);
+    group->appendRow(new myItemStandard("one"));
     appendItems change(group, {new myItemStandard("two")});
     QCOMPARE(group->rowCount(), 2);
     change.undo();

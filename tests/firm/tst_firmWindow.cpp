@@ -66,7 +66,7 @@ private:
         name,
         fullName,
         status,
-        homePage = 4,
+        homePageColumn = 4,
         nip = 6
     };
     myItem::myItemStandard *cell(int row, int at, firmKind kind = manufacturer)
@@ -412,12 +412,12 @@ void tst_firmWindow::homePageOpens()
     m_window->resize(1200, 700);
     m_window->show();
     myTreeView *view = m_window->view(manufacturer);
-    const QPoint place = view->visualRect(cell(0, homePage)->index()).center();
+    const QPoint place = view->visualRect(cell(0, homePageColumn)->index()).center();
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
     QCOMPARE(m_opened, QStringList());
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
     QCOMPARE(m_opened, QStringList("https://abracon.com"));
-    edit(0, homePage, "file:///etc/passwd");
+    edit(0, homePageColumn, "file:///etc/passwd");
     QVERIFY(!m_window->action("homePage")->isEnabled());
     m_window->commandHomePage(true);
     QCOMPARE(m_opened.size(), 1);

@@ -306,7 +306,7 @@ void tst_mail::emlHoldsEverything()
     order.options.findOption(optionKey::orderNumber)->value1 = number;
     QByteArray bytes;
     for (int i = 0; i < 100000; ++i)
-        bytes.append(char(i * i / 7));
+        bytes.append(char(unsigned(i) * unsigned(i) / 7));
     const QString first =
         m_folder->write(QString::fromUtf8("zam ówienie].xml"), "<a>\r\n\xc5\xbc</a>");
     const QString second = m_folder->write("b\"'.pdf", bytes);

@@ -83,7 +83,7 @@ void tst_items::textsStayAsRead()
     QFETCH(int, kind);
     myItemStandard *cell = makeCell(
         {"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100}, stored);
-    model.appendRow({cell});
+    model.appendRow(cell);
     QCOMPARE(cell->text(), stored);
     QTEST(displayText(*cell), "shown");
     model.setValue(cell, valueOf(*cell));
@@ -110,7 +110,7 @@ void tst_items::rowHelpers()
     QCOMPARE(model.rowCount(), 0);
     auto *first = new myItemStandard("a");
     model.appendRow({first, new myItemLineEdit("b", "text", true)});
-    first->appendRow({new myItemStandard("c")});
+    first->appendRow(new myItemStandard("c"));
     const row items = childRow(model.invisibleRootItem(), 0);
     QCOMPARE(items.size(), 2);
     QVERIFY(childRow(model.invisibleRootItem(), 1).isEmpty());
@@ -147,7 +147,7 @@ void tst_items::rowsMadeWhenNeeded()
     myModel model(nullptr);
     auto *group = new myItemStandard("group");
     group->childrenPending = true;
-    model.appendRow({group});
+    model.appendRow(group);
     model.setRecords(&records);
     QVERIFY(model.hasChildren(group->index()));
     QCOMPARE(group->rowCount(), 0);
@@ -164,7 +164,7 @@ void tst_items::sortsByValue()
     myModel model(nullptr);
     const QSignalSpy sorted(&model, &myModel::sorted);
     for (const char *amount : {"100", "9,5", "20", "none"})
-        model.appendRow({new myItemMoney("price", amount, true)});
+        model.appendRow(new myItemMoney("price", amount, true));
     model.sort(0);
     QStringList texts;
     for (int r = 0; r < model.rowCount(); ++r)
