@@ -812,7 +812,7 @@ MC34063ADR        | Sterownik przetwornicy                       |          | 1.
 TL431AIDBZR       | Źródło odniesienia regulowane                | 2.495V   | 100mA   | 36V     | SOT-23  | 0.70  | TI            | ti:tl431   | TL431    |
 TSR 1-2450        | Przetwornica DC/DC zamiast 7805              | 5V       | 1A      | 36V     | SIP-3   | 21.00 | Traco         | https://www.tracopower.com/products/tsr1.pdf | TSR1 | converter
 R-78E5.0-0.5      | Przetwornica DC/DC zamiast 7805              | 5V       | 500mA   | 28V     | SIP-3   | 11.50 | RECOM         |            | R78E     | converter
-IRM-05-5          | Zasilacz do druku 85-264VAC                  | 5V       | 1A      |         | IRM-05  | 34.00 | MEAN WELL     | https://www.meanwell.com/Upload/PDF/IRM-05/IRM-05-SPEC.PDF | ACDC | converter
+IRM-05-5          | Zasilacz do druku 85-264VAC                  | 5V       | 1A      |         | IRM-05  | 34.00 | MEAN WELL     | https://www.meanwell.com/productSeries.aspx?i=IRM-05 | ACDC | converter
 """
 
 LOGIC = """

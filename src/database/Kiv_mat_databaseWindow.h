@@ -1,6 +1,6 @@
 // The window of one material database: browse, search, filter, edit, check, report, export.
-// Construction, showing and editing stand in Kiv_mat_databaseWindow.cpp, the tools over the whole
-// database in databaseTools.cpp.
+// Construction and editing stand in Kiv_mat_databaseWindow.cpp, searching and filtering in
+// databaseFilter.cpp, the tools over the whole database in databaseTools.cpp.
 #pragma once
 
 #include "commands/commandStack.h"
@@ -123,14 +123,16 @@ private:
     void showContextMenu(const QPoint &position);
     void changed();
     void push(std::unique_ptr<command> change, const QString &what);
+    std::vector<materialStruct *> selectedMaterials() const;
+    QStandardItem *currentGroup() const;
+    materialWindow &editor();
+
+    // --- databaseFilter.cpp ---
     void setFilter(const char *name, const QString &word, bool on);
     void applyFilter();
     void filterSlice();
     void filterRow(QStandardItem *group, int row);
     bool isShown(const materialStruct &material);
-    std::vector<materialStruct *> selectedMaterials() const;
-    QStandardItem *currentGroup() const;
-    materialWindow &editor();
 
     // --- databaseTools.cpp ---
     void writeReport(databaseReportKind kind);
