@@ -301,6 +301,8 @@ void Kiv_mat_databaseWindow::showNow()
 {
     if (!isVisible())
         showDatabase();
+    // Else the first key in the search field would wait for it.
+    programData::instance().search().prepare();
     show();
     raise();
     activateWindow();

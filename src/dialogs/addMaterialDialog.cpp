@@ -129,6 +129,8 @@ addMaterialDialog::addMaterialDialog(QWidget *parent)
 
 void addMaterialDialog::showNow()
 {
+    // Else the first key would wait for it.
+    programData::instance().search().prepare();
     show();
     raise();
     activateWindow();
