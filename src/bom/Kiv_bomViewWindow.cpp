@@ -75,8 +75,12 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(const QString &path)
     m_rows = std::make_unique<bomTree::lineRows>(
         bomTree::lineColumns(known.config(), known.materials()));
     setCaptions(m_model, m_rows->columns());
-    for (size_t c = 0; c < m_rows->columns().size(); ++c)
-        m_view->header()->resizeSection(int(c), m_rows->columns()[c].width);
+    for (size_t c = 0; c < m_rows->columns().size(); ++c) {
+        const treeColumn<materialStruct> &column = m_rows->columns()[c];
+        m_view->header()->resizeSection(int(c), column.width);
+        // Longer than some columns are wide.
+        m_model->setHeaderData(int(c), Qt::Horizontal, column.label, Qt::ToolTipRole);
+    }
     constexpr QSize usualSize(1280, 640);
     resize(usualSize);
 

@@ -242,17 +242,14 @@ treeColumns<materialStruct> lineColumns(const configStruct &config, const ktmInd
     }
 
     // The picture of the material's status; the word where the mouse rests.
-    table[0].look = [&config, &materials](const material &line, myItemStandard *cell) {
+    const comboEntries statuses = entriesOf(config.statuses);
+    const QIcon unknown = icon("system_error_trans_128");
+    table[0].look = [statuses, unknown, &materials](const material &line, myItemStandard *cell) {
         const auto of = bomOperations::matched(line, materials);
         const QString status = of.material->information.status;
-        QIcon shown = icon("system_error_trans_128");
-        if (of.known) {
-            shown = {};
-            for (const comboEntry &entry : entriesOf(config.statuses))
-                if (entry.value == status)
-                    shown = entry.icon;
-        }
-        cell->setIcon(shown);
+        const auto entry = std::find_if(statuses.begin(), statuses.end(),
+                                        [&status](const auto &e) { return e.value == status; });
+        cell->setIcon(!of.known ? unknown : entry != statuses.end() ? entry->icon : QIcon());
         cell->setToolTip(of.known ? labels::shown(status)
                                   : QCoreApplication::translate("bomTree", "In no database"));
     };

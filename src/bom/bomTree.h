@@ -69,7 +69,7 @@ enum lineColumn
     ktmColumn = 6
 };
 
-// config and materials are looked at as long as the columns are used.
+// materials are looked at as long as the columns are used.
 treeColumns<materialStruct> lineColumns(const configStruct &config, const ktmIndex &materials);
 
 // A line with another KTM is another material in all its columns.
