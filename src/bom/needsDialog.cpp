@@ -80,7 +80,7 @@ QTreeWidget *tableOf(const demand &of, QWidget *parent)
              {bomReport::neededColumn, bomReport::inStockColumn, bomReport::shortageColumn})
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     table->addTopLevelItems(items);
-    constexpr int widths[] = {230, 220, 90, 130, 90, 70};
+    constexpr int widths[] = {230, 210, 90, 150, 90, 70};
     for (int column = 0; column < bomReport::needColumns; ++column)
         table->header()->resizeSection(column, widths[column]);
     // As the lists have them, until the user sorts.
