@@ -4,6 +4,7 @@
 #include "data/ktmIndex.h"
 #include "data/materialSearch.h"
 #include "data/vocabulary.h"
+#include "tree/recordPlaces.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
@@ -345,51 +346,18 @@ void rows::cellChanged(myItemStandard *item, myItemStandard *first)
         column.look(*material, item);
 }
 
-namespace {
-
-// A sorted tree shows a list in another order, so the row is only where to look first.
-template <class List>
-auto placeOf(List &list, const xmlData *record, int row)
-{
-    if (size_t(row) < list.size() && list[size_t(row)].get() == record)
-        return list.begin() + row;
-    return std::find_if(list.begin(), list.end(),
-                        [record](const auto &item) { return item.get() == record; });
-}
-
-template <class Record>
-void putInto(std::vector<std::unique_ptr<Record>> &list, QStandardItem *parent, int row,
-             myItemStandard *first)
-{
-    auto place = list.end();
-    if (row + 1 < parent->rowCount())
-        place = placeOf(list, static_cast<myItemStandard *>(parent->child(row + 1))->record, row);
-    first->ownedRecord.release();
-    list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
-}
-
-template <class Record>
-void takeFrom(std::vector<std::unique_ptr<Record>> &list, int row, myItemStandard *first)
-{
-    const auto place = placeOf(list, first->record, row);
-    first->ownedRecord = std::move(*place);
-    list.erase(place);
-}
-
-} // namespace
-
 void rows::rowInserted(QStandardItem *parent, int row, myItemStandard *first)
 {
     note(first);
     if (parent == m_model->invisibleRootItem()) {
         auto *group = static_cast<d_groupStruct *>(first->record);
-        putInto(m_database->groups, parent, row, first);
+        recordPlaces::putInto(m_database->groups, parent, row, first);
         for (const auto &material : group->items)
             index(material.get(), group);
         return;
     }
     d_groupStruct *group = groupOf(parent);
-    putInto(group->items, parent, row, first);
+    recordPlaces::putInto(group->items, parent, row, first);
     index(static_cast<materialStruct *>(first->record), group);
     showCount(parent);
 }
@@ -401,11 +369,11 @@ void rows::rowTaken(QStandardItem *parent, int row, myItemStandard *first)
         const auto *group = static_cast<d_groupStruct *>(first->record);
         for (const auto &material : group->items)
             forget(material.get());
-        takeFrom(m_database->groups, row, first);
+        recordPlaces::takeFrom(m_database->groups, row, first);
         return;
     }
     forget(static_cast<materialStruct *>(first->record));
-    takeFrom(groupOf(parent)->items, row, first);
+    recordPlaces::takeFrom(groupOf(parent)->items, row, first);
     showCount(parent);
 }
 

@@ -1,5 +1,6 @@
 #include "shell/MainWindow.h"
 
+#include "bom/Kiv_bomWindow.h"
 #include "data/kiv_infoStruct.h"
 #include "data/loaders.h"
 #include "data/programData.h"
@@ -69,6 +70,9 @@ const windowAction<MainWindow> actionTable[] = {
     {{"zpPrint", "File", QT_TRANSLATE_NOOP("actions", "Print"), "action_print", "Ctrl+P",
       QT_TRANSLATE_NOOP("actions", "Print the order to a PDF file"), true},
      &MainWindow::commandZpPrint},
+    {{"zpSend", "File", QT_TRANSLATE_NOOP("actions", "Send"), "action_send", "Ctrl+M",
+      QT_TRANSLATE_NOOP("actions", "Send the saved order and its PDF by mail"), true},
+     &MainWindow::commandZpSend},
     {fileSeparator, nullptr},
     {{"archiveDD", "File", QT_TRANSLATE_NOOP("actions", "Archive dd"), "action_archive", nullptr,
       QT_TRANSLATE_NOOP("actions", "Put a dated copy of the order into the backup folder")},
@@ -78,6 +82,12 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions",
                         "Put dated copies of the material databases into the backup folder")},
      &MainWindow::commandArchiveDatabase},
+    {{"sendDatabase", "File", QT_TRANSLATE_NOOP("actions", "Send database"), "action_mail", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Send the material databases to the administrator")},
+     &MainWindow::commandSendDatabase},
+    {{"sendBoms", "File", QT_TRANSLATE_NOOP("actions", "Send BOMS"), "action_mail", nullptr,
+      nullptr},
+     &MainWindow::commandSendBOMS},
     {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"exit", "File", QT_TRANSLATE_NOOP("actions", "Exit"), "action_exit", "Ctrl+Q", nullptr},
      &MainWindow::commandExit},
@@ -130,6 +140,9 @@ const windowAction<MainWindow> actionTable[] = {
      &MainWindow::commandAddShipment},
     {{"addPCB", "Do", QT_TRANSLATE_NOOP("actions", "PCB"), "action_pcb", nullptr, nullptr},
      &MainWindow::commandAddPCB},
+    {{"appendBom", "Do", QT_TRANSLATE_NOOP("actions", "Append from bom"), "action_from_bom",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Add the materials of BOM lists, times their sets")},
+     &MainWindow::commandAppendBomToZp},
     {doSeparator, nullptr},
     {{"allQuantities", "Do", QT_TRANSLATE_NOOP("actions", "All Quantities"), "action_quantities",
       nullptr, QT_TRANSLATE_NOOP("actions", "Set the quantity of all lines")},
@@ -173,6 +186,9 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Database of material"), "action_database", "Ctrl+D",
       QT_TRANSLATE_NOOP("actions", "Browse and edit a material database"), true},
      &MainWindow::databaseCommand},
+    {{"bom", "Tools", QT_TRANSLATE_NOOP("actions", "Bill of materials"), "action_bom", "Ctrl+B",
+      QT_TRANSLATE_NOOP("actions", "The BOM lists and how many sets are built"), true},
+     &MainWindow::commandBom},
     {{"firm", "Tools", QT_TRANSLATE_NOOP("actions", "Open list of manufacturers and suppliers"),
       "action_firm", nullptr, QT_TRANSLATE_NOOP("actions", "The register of firms"), true},
      &MainWindow::commandFirm},
@@ -394,7 +410,7 @@ void MainWindow::updateActions()
     const bool locked = m_order->linesView()->isEditingLocked();
     const bool empty = m_order->lines()->rowCount() == 0;
     for (const char *name :
-         {"pasteCells", "addMaterial", "addShipment", "addPCB", "editAttentions"})
+         {"pasteCells", "addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"})
         setAvailable(name, !locked, tr("editing is locked"));
     for (const char *name :
          {"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS", "allUnits",
@@ -411,8 +427,8 @@ void MainWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
     for (const char *name : {"copyCells", "pasteCells", "", "addMaterial", "addShipment", "addPCB",
-                             "", "allQuantities", "allDates", "allDescriptions", "allRoHS",
-                             "allUnits", "allTargets", "", "deleteLines"})
+                             "appendBom", "", "allQuantities", "allDates", "allDescriptions",
+                             "allRoHS", "allUnits", "allTargets", "", "deleteLines"})
         if (*name)
             menu.addAction(action(name));
         else
@@ -447,6 +463,8 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
         window = std::make_unique<Kiv_mat_databaseWindow>(kind);
         connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
                 &MainWindow::appendToOrder);
+        connect(window.get(), &Kiv_mat_databaseWindow::insertToBom, this,
+                [this](const QString &ktm) { bomWindow().insertToBom(ktm); });
     }
     return *window;
 }

@@ -1,7 +1,9 @@
 // The main window: the open order and the ways to everything else. Construction and what concerns
-// the program stand in MainWindow.cpp, what concerns the order in MainWindowOrder.cpp.
+// the program stand in MainWindow.cpp, what concerns the order in MainWindowOrder.cpp, BOM lists
+// and messages in MainWindowBom.cpp.
 #pragma once
 
+#include "bom/bomOperations.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "shell/orderOperations.h"
@@ -15,12 +17,17 @@ class QLabel;
 class QSplitter;
 class QTabWidget;
 class QTimer;
+class Kiv_bomWindow;
 class Kiv_mat_databaseWindow;
 class addMaterialDialog;
 class configWindow;
 class firmWindow;
 class myWebView;
 class orderView;
+
+namespace mail {
+enum class contents;
+}
 
 class MainWindow : public baseWindow, public htmlView
 {
@@ -43,6 +50,7 @@ public:
     orderView &view() { return *m_order; }
     // The window of a database, made when it is first asked for.
     Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
+    Kiv_bomWindow &bomWindow();
     // The report brought up to date at once.
     void refreshPreview();
 
@@ -52,6 +60,7 @@ public slots:
     void commandZpSave(bool);
     void commandZpSaveAs(bool);
     void commandZpPrint(bool);
+    void commandZpSend(bool);
     void commandZpEdit(bool on);
     void commandZpUndo(bool);
     void commandZpRedo(bool);
@@ -75,12 +84,16 @@ public slots:
     void commandAddMaterial(bool);
     void commandAddShipment(bool);
     void commandAddPCB(bool);
+    void commandAppendBomToZp(bool);
     void commandFind(bool);
     void commandFindNext(bool);
     void commandArchiveDD(bool);
     void commandArchiveDatabase(bool);
+    void commandSendDatabase(bool);
+    void commandSendBOMS(bool);
     void commandPreviewBeside(bool on);
     void databaseCommand(bool);
+    void commandBom(bool);
     void commandFirm(bool);
     void configCommand(bool);
     void commandShowLog(bool);
@@ -94,6 +107,8 @@ public slots:
     // Appends a line for each material; those of shipment and service that the order holds already
     // are refused.
     void appendToOrder(const materialKtms_list &ktms, uint quantity);
+    // Shows what the lists need, and adds it as one step when the user says so.
+    void appendBoms(const std::vector<bomOperations::bomSets> &lists);
     void reOrdinalRows();
 
 private slots:
@@ -128,6 +143,7 @@ private:
     void openFile(const QString &path);
     bool saveTo(const QString &path);
     bool saveAs();
+    bool printTo(const QString &path);
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
                    const QString &what);
     std::optional<std::vector<int>> wantedRows();
@@ -135,6 +151,10 @@ private:
     void addSpecialLine(const QString &ktm, const QString &description);
     void deleteRows(const std::vector<int> &rows, const QString &what);
     void push(std::unique_ptr<command> change, const QString &what);
+
+    // --- MainWindowBom.cpp ---
+    void startMail(const QString &description);
+    void sendData(mail::contents what);
 
     QTabWidget *m_tabs = nullptr;
     QSplitter *m_beside = nullptr;
@@ -147,6 +167,7 @@ private:
     std::unique_ptr<orderRecovery> m_recovery;
     std::unique_ptr<configWindow> m_config;
     std::unique_ptr<firmWindow> m_firm;
+    std::unique_ptr<Kiv_bomWindow> m_bom;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     QString m_wanted; // what is searched in the order

@@ -1,7 +1,9 @@
 #include "shell/MainWindow.h"
 
+#include "bom/Kiv_bomWindow.h"
 #include "commands/cellBlock.h"
 #include "commands/cellClipboard.h"
+#include "commands/commandSys.h"
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
@@ -272,11 +274,15 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_config->close();
     if (m_firm)
         m_firm->close();
+    if (m_bom)
+        m_bom->closeAll();
     for (const auto &window : m_databases)
         if (window)
             window->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
+    pendingSysCommands::executeAll();
+    pendingSysCommands::destroy();
     baseWindow::closeEvent(event);
 }
 
@@ -292,7 +298,12 @@ void MainWindow::commandZpPrint(bool)
                                tr("Pdf File") + QLatin1String(" (*.pdf)"));
     if (chosen.isEmpty())
         return;
-    const QString path = pdfPath(chosen);
+    printTo(pdfPath(chosen));
+}
+
+// False, told to the user, when there is no such file now.
+bool MainWindow::printTo(const QString &path)
+{
     userPrompts().log(messages::done(messages::printToFile(), text::fileNameOfPath(path), path));
     workProgress::scope work(progress(), tr("Printing"));
     m_order->takeAttentions();
@@ -306,6 +317,7 @@ void MainWindow::commandZpPrint(bool)
         statusBar()->showMessage(tr("Printing was cancelled"));
     else
         userPrompts().showError(tr("The file %1 cannot be written").arg(native(path)));
+    return printed;
 }
 
 void MainWindow::commandArchiveDD(bool)

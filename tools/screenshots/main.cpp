@@ -1,6 +1,9 @@
 // Pictures of the program's windows on its sample data, taken without a display:
 //   kivzp-screenshots PROGRAM_FOLDER OUT_FOLDER LANGUAGE [NAME...]
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
+#include "bom/Kiv_bomViewWindow.h"
+#include "bom/Kiv_bomWindow.h"
+#include "bom/needsDialog.h"
 #include "data/programData.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
@@ -145,6 +148,51 @@ QWidget *showFirms(MainWindow &, firmOperations::firmKind kind)
     return firms;
 }
 
+// The sample lists with some sets.
+Kiv_bomWindow &builtBoms(MainWindow &window)
+{
+    Kiv_bomWindow &boms = window.bomWindow();
+    const auto files = bomTree::allFiles(boms.model());
+    for (int i = 0; i < files.size(); i += 2)
+        boms.model()->setValue(bomTree::setsCell(files[i]), 10 * (i + 1));
+    boms.view()->setCurrentIndex(files[0]->index());
+    return boms;
+}
+
+QWidget *showBoms(MainWindow &window)
+{
+    Kiv_bomWindow &boms = builtBoms(window);
+    boms.showNow();
+    return &boms;
+}
+
+QWidget *showBomView(MainWindow &window)
+{
+    Kiv_bomViewWindow &list = window.bomWindow().viewWindow(
+        paths::data(QStringLiteral("_files/boms/konwerter_rs232_usb.xml")));
+    list.showNow();
+    return &list;
+}
+
+QWidget *showNeeds(MainWindow &window)
+{
+    // Looked at by the dialog only while it is made.
+    const ktmIndex &materials = programData::instance().materials();
+    std::vector<std::unique_ptr<kiv_mat_bomStruct>> read;
+    std::vector<bomOperations::bomSets> lists;
+    for (const QString &path : bomOperations::filesOf(programData::instance().boms(),
+                                                      programData::instance().boms().filePath)) {
+        read.push_back(std::make_unique<kiv_mat_bomStruct>());
+        QString error;
+        if (bomOperations::readBom(path, read.back().get(), &error))
+            lists.push_back({read.back().get(), 20});
+    }
+    auto *dialog = new needsDialog(bomOperations::demandOf(lists, materials),
+                                   bomOperations::sumsOf(lists, materials), &window);
+    dialog->show();
+    return dialog;
+}
+
 QWidget *showAddMaterial(MainWindow &window)
 {
     window.commandAddMaterial(true);
@@ -194,6 +242,9 @@ const picture pictures[] = {
     {"config", showConfig},
     {"firms", [](MainWindow &w) { return showFirms(w, firmOperations::manufacturer); }},
     {"firmsSuppliers", [](MainWindow &w) { return showFirms(w, firmOperations::supplier); }},
+    {"boms", showBoms},
+    {"bomView", showBomView},
+    {"needs", showNeeds},
     {"lines", showLines},
     {"material", showMaterial},
     {"richText", showRichText},

@@ -1,0 +1,203 @@
+#include "bom/Kiv_bomWindow.h"
+
+#include "bom/Kiv_bomViewWindow.h"
+#include "bom/bomReport.h"
+#include "data/programData.h"
+#include "data/vocabulary.h"
+#include "report/docExport.h"
+#include "report/pdfPrinter.h"
+#include "tools/childRunner.h"
+#include "tree/myWebView.h"
+#include "util/files.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+#include "util/text.h"
+#include "window/workProgress.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QStatusBar>
+#include <QUrl>
+
+using namespace bomOperations;
+
+namespace {
+
+const ktmIndex &materials() { return programData::instance().materials(); }
+
+QString native(const QString &path) { return QDir::toNativeSeparators(path).toHtmlEscaped(); }
+
+} // namespace
+
+// Errors go to the errors window together. Lists changed in their windows are saved first, when the
+// user wants it.
+Kiv_bomWindow::readLists Kiv_bomWindow::read(const QList<QStandardItem *> &files)
+{
+    readLists result;
+    for (const QStandardItem *file : files) {
+        const QString path = pathOf(file);
+        const auto window = m_views.find(path);
+        if (window != m_views.end() && window->second->isModified()
+            && userPrompts().ask(tr("Save the changed BOM list %1?").arg(native(path)), false)
+                   == prompts::answer::yes)
+            window->second->save();
+        auto bom = std::make_unique<kiv_mat_bomStruct>();
+        QString error;
+        if (!readBom(path, bom.get(), &error)) {
+            userPrompts().listError(error);
+            result.complete = false;
+            continue;
+        }
+        result.lists.push_back({bom.get(), bomTree::setsOf(file)});
+        result.boms.push_back(std::move(bom));
+    }
+    if (!result.complete)
+        userPrompts().showErrors();
+    return result;
+}
+
+void Kiv_bomWindow::commandSet(bool)
+{
+    QList<QStandardItem *> built;
+    for (QStandardItem *file : bomTree::allFiles(m_model))
+        if (bomTree::setsOf(file) > 0)
+            built.append(file);
+    const readLists read = this->read(built);
+    // Half of what is built would be ordered unnoticed.
+    if (read.complete && !read.lists.empty())
+        emit appendToOrder(read.lists);
+    else if (!read.complete)
+        statusBar()->showMessage(tr("A list cannot be read; nothing was ordered"));
+}
+
+void Kiv_bomWindow::tellWritten(const QString &path, bool written)
+{
+    if (!written) {
+        userPrompts().showError(tr("The file %1 cannot be written").arg(native(path)));
+        return;
+    }
+    userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
+    statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+}
+
+void Kiv_bomWindow::commandFullReport(bool)
+{
+    QList<QStandardItem *> files = selectedFiles();
+    if (files.isEmpty())
+        for (QStandardItem *file : bomTree::allFiles(m_model))
+            if (!hasSets() || bomTree::setsOf(file) > 0)
+                files.append(file);
+    const readLists read = this->read(files);
+    if (read.lists.empty())
+        return;
+    const QString path = userPrompts().saveFile(
+        tr("Save to File"),
+        bomReport::proposedPath(read.lists.front().bom->fileName, QStringLiteral(".html")),
+        tr("Html File") + QLatin1String(" (*.html);;") + tr("Pdf File")
+            + QLatin1String(" (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    const QString page = bomReport::page(read.lists, materials());
+    bool written = false;
+    if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
+        workProgress::scope work(progress(), tr("Printing"));
+        myWebView printed;
+        printed.showReport(page);
+        written = printPdf(&printed, path, bomReport::title(read.lists), work.function());
+        if (work.cancelled())
+            return;
+    } else {
+        written = files::writeText(path, page);
+    }
+    tellWritten(path, written);
+    if (written && programData::instance().config().isOn(optionKey::openReportHtml))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void Kiv_bomWindow::commandCsv(bool)
+{
+    const readLists read = this->read({current()});
+    if (read.lists.empty())
+        return;
+    const QString path = userPrompts().saveFile(
+        tr("Save to File"), bomReport::proposedPath(currentPath(), QStringLiteral(".csv")),
+        tr("CSV File") + QLatin1String(" (*.csv)"));
+    if (!path.isEmpty())
+        tellWritten(path, files::writeText(path, bomReport::csv(*read.boms.front(), materials())));
+}
+
+void Kiv_bomWindow::commandDoc(bool)
+{
+    const readLists read = this->read({current()});
+    if (read.lists.empty())
+        return;
+    const QString path = userPrompts().saveFile(
+        tr("Save to File"), bomReport::proposedPath(currentPath(), QStringLiteral(".doc")),
+        tr("Doc File") + QLatin1String(" (*.doc)"));
+    if (path.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Information, tr("Information"), tr("Please wait ..."),
+                    QMessageBox::Close, this);
+    box.setObjectName(QStringLiteral("pleaseWait"));
+    box.setWindowModality(Qt::WindowModal);
+    QPointer<childRunner> running;
+    connect(&box, &QMessageBox::finished, this, [&running] {
+        if (running)
+            running->stop();
+    });
+    box.show();
+    const bool written = writeDoc(bomReport::page(read.lists, materials()), path,
+                                  QStringLiteral("_files/BOM_template.dotx"),
+                                  [&running](childRunner *runner) { running = runner; });
+    const bool stopped = !box.isVisible();
+    box.hide();
+    if (!written && stopped)
+        return;
+    tellWritten(path, written);
+    if (written)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void Kiv_bomWindow::commandOpen(bool)
+{
+    const QString path = currentPath();
+    if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        statusBar()->showMessage(tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)));
+}
+
+Kiv_bomViewWindow &Kiv_bomWindow::viewWindow(const QString &path)
+{
+    auto &window = m_views[path];
+    if (!window) {
+        window = std::make_unique<Kiv_bomViewWindow>(path);
+        window->sets = [this, path] {
+            int sets = 0;
+            for (const QStandardItem *file : bomTree::allFiles(m_model))
+                if (pathOf(file) == path)
+                    sets += bomTree::setsOf(file);
+            return sets;
+        };
+    }
+    return *window;
+}
+
+void Kiv_bomWindow::commandBom(bool)
+{
+    if (!bomTree::fileOf(current()))
+        return;
+    m_lastView = currentPath();
+    viewWindow(m_lastView).showNow();
+}
+
+void Kiv_bomWindow::insertToBom(const materialKtm &ktm)
+{
+    const auto last = m_views.find(m_lastView);
+    if (last != m_views.end() && last->second->isVisible())
+        last->second->insertToBomView(ktm);
+    else
+        userPrompts().showInformation(
+            tr("No BOM list is open. Open one with \"Bom\" among the BOM lists."));
+}

@@ -1,0 +1,186 @@
+// From BOM lists to the order, and messages.
+#include "shell/MainWindow.h"
+
+#include "bom/Kiv_bomWindow.h"
+#include "bom/needsDialog.h"
+#include "commands/commandSys.h"
+#include "mail/mail.h"
+#include "report/orderReport.h"
+#include "report/pdfPrinter.h"
+#include "shell/orderDocument.h"
+#include "shell/orderView.h"
+#include "tree/myTreeView.h"
+#include "tree/myWebView.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+#include "util/text.h"
+#include "window/workProgress.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStatusBar>
+
+using namespace bomOperations;
+using myItem::myItemStandard;
+
+namespace {
+
+// A cell's stored text, which may be no value of its kind: a quantity may have a fraction.
+class changeText final : public command
+{
+public:
+    changeText(myModel *model, myItemStandard *item, const QString &text)
+        : m_model(model)
+        , m_item(item)
+        , m_other(text)
+    {
+        exchange();
+    }
+    void undo() override { exchange(); }
+    void redo() override { exchange(); }
+
+private:
+    void exchange()
+    {
+        const QString before = m_item->text();
+        myItem::setStoredText(m_item, m_other);
+        m_other = before;
+        m_model->writeCell(m_item);
+        m_model->emitChangeValueOccured();
+    }
+
+    myModel *m_model;
+    myItemStandard *m_item;
+    QString m_other;
+};
+
+void removeAtTheEnd(const QString &path)
+{
+    pendingSysCommands::instance().append(std::make_unique<cmdRemoveFile>(path));
+}
+
+} // namespace
+
+// --- BOM lists
+// ------------------------------------------------------------------------------------
+
+Kiv_bomWindow &MainWindow::bomWindow()
+{
+    if (!m_bom) {
+        m_bom = std::make_unique<Kiv_bomWindow>();
+        connect(m_bom.get(), &Kiv_bomWindow::appendToOrder, this, &MainWindow::appendBoms);
+    }
+    return *m_bom;
+}
+
+void MainWindow::commandBom(bool) { bomWindow().showNow(); }
+
+void MainWindow::commandAppendBomToZp(bool)
+{
+    if (bomWindow().hasSets())
+        bomWindow().commandSet(false);
+    else
+        bomWindow().showNow();
+}
+
+void MainWindow::appendBoms(const std::vector<bomSets> &lists)
+{
+    if (m_order->linesView()->isEditingLocked()) {
+        userPrompts().showInformation(tr("The order is locked. Allow its editing first."));
+        return;
+    }
+    programData &known = programData::instance();
+    const demand needed = demandOf(lists, known.materials());
+    QWidget *over = QApplication::activeWindow();
+    needsDialog dialog(needed, sumsOf(lists, known.materials()), over ? over : this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    orderPlan plan = planOf(needed, orderDocument::instance().order(), dialog.wantedAmount(),
+                            dialog.existing(), orderOperations::usualDate(known.config()));
+    for (const need *one : plan.unknown)
+        userPrompts().listError(doesNotExist(one->ktm.isEmpty() ? one->name : one->ktm));
+    const int changes = int(plan.changes.size());
+    const QString what = tr("%n line(s) added or raised from BOM lists", nullptr, changes);
+    if (changes > 0) {
+        std::unique_ptr<command> step;
+        {
+            const changeBatch batch;
+            std::vector<std::unique_ptr<command>> members;
+            myModel *lines = m_order->lines();
+            for (orderChange &change : plan.changes)
+                if (change.added)
+                    members.push_back(std::make_unique<appendNewMaterial>(
+                        lines, m_order->lineRows().makeDetachedRow(std::move(change.added))));
+                else
+                    members.push_back(
+                        std::make_unique<changeText>(lines,
+                                                     static_cast<myItemStandard *>(lines->item(
+                                                         change.line, orderTree::quantityColumn)),
+                                                     change.quantity));
+            members.push_back(std::make_unique<::refreshHtml>(this));
+            step = std::make_unique<appendCommands>(std::move(members));
+        }
+        push(std::move(step), what);
+    }
+    statusBar()->showMessage(plan.skipped > 0
+                                 ? what + QLatin1String(", ")
+                                       + tr("%n material(s) skipped", nullptr, plan.skipped)
+                                 : what);
+    if (!plan.unknown.empty())
+        userPrompts().showErrors();
+}
+
+// --- Messages
+// -------------------------------------------------------------------------------------
+
+void MainWindow::startMail(const QString &description)
+{
+    statusBar()->showMessage(mail::start(description, programData::instance().config())
+                                 ? tr("Handed to the mail program")
+                                 : tr("The mail program cannot be started; the message is %1")
+                                       .arg(QDir::toNativeSeparators(description)));
+}
+
+// What is sent is the saved order.
+void MainWindow::commandZpSend(bool)
+{
+    orderDocument &document = orderDocument::instance();
+    m_order->takeAttentions();
+    if (document.isModified() || document.path().isEmpty()) {
+        if (userPrompts().ask(tr("The order is saved before it is sent. Save it now?"), false)
+            != prompts::answer::yes)
+            return;
+        commandZpSave(false);
+        if (document.isModified() || document.path().isEmpty())
+            return;
+    }
+    const QString pdf = mail::pdfPath(document.order());
+    if (!printTo(pdf))
+        return;
+    removeAtTheEnd(pdf);
+    const QString description =
+        mail::writeOrder(document.order(), programData::instance().config(), document.path(), pdf);
+    if (description.isEmpty())
+        userPrompts().showError(tr("The message cannot be written to %1")
+                                    .arg(QDir::toNativeSeparators(mail::folder()).toHtmlEscaped()));
+    else
+        startMail(description);
+}
+
+void MainWindow::sendData(mail::contents what)
+{
+    QString description;
+    {
+        workProgress::scope work(progress(), tr("Packing"));
+        description = mail::writeData(what, programData::instance().config(), removeAtTheEnd);
+    }
+    if (description.isEmpty())
+        userPrompts().showError(
+            tr("The message could not be made. The log says why.").toHtmlEscaped());
+    else
+        startMail(description);
+}
+
+void MainWindow::commandSendDatabase(bool) { sendData(mail::contents::databases); }
+
+void MainWindow::commandSendBOMS(bool) { sendData(mail::contents::boms); }

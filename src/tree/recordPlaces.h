@@ -1,0 +1,42 @@
+// Where the record of a tree's row stands in its list: rows that come and go take theirs along.
+#pragma once
+
+#include "tree/myItem.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace recordPlaces {
+
+// A sorted tree shows a list in another order, so the row is only where to look first.
+template <class List>
+auto placeOf(List &list, const xmlData *record, int row)
+{
+    if (size_t(row) < list.size() && list[size_t(row)].get() == record)
+        return list.begin() + row;
+    return std::find_if(list.begin(), list.end(),
+                        [record](const auto &item) { return item.get() == record; });
+}
+
+template <class Record>
+void putInto(std::vector<std::unique_ptr<Record>> &list, QStandardItem *parent, int row,
+             myItem::myItemStandard *first)
+{
+    auto place = list.end();
+    if (row + 1 < parent->rowCount())
+        place = placeOf(list, static_cast<myItem::myItemStandard *>(parent->child(row + 1))->record,
+                        row);
+    first->ownedRecord.release();
+    list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
+}
+
+template <class Record>
+void takeFrom(std::vector<std::unique_ptr<Record>> &list, int row, myItem::myItemStandard *first)
+{
+    const auto place = placeOf(list, first->record, row);
+    first->ownedRecord = std::move(*place);
+    list.erase(place);
+}
+
+} // namespace recordPlaces
