@@ -2,6 +2,54 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Kiv_bomViewWindow</name>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>%n cell copied</numerusform>
+            <numerusform>%n cells copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>%n cell pasted</numerusform>
+            <numerusform>%n cells pasted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) deleted</source>
+        <translation>
+            <numerusform>%n line deleted</numerusform>
+            <numerusform>%n lines deleted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Kiv_bomWindow</name>
+    <message numerus="yes">
+        <source>%n list(s)</source>
+        <translation>
+            <numerusform>%n list</numerusform>
+            <numerusform>%n lists</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them built</source>
+        <translation>
+            <numerusform>%n of them built</numerusform>
+            <numerusform>%n of them built</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) deleted</source>
+        <translation>
+            <numerusform>%n row deleted</numerusform>
+            <numerusform>%n rows deleted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Kiv_mat_databaseMergeWindow</name>
     <message numerus="yes">
         <source>%n material(s) differ</source>
@@ -161,6 +209,20 @@
         <translation>
             <numerusform>%n line added</numerusform>
             <numerusform>%n lines added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added or raised from BOM lists</source>
+        <translation>
+            <numerusform>%n line added or raised from BOM lists</numerusform>
+            <numerusform>%n lines added or raised from BOM lists</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) skipped</source>
+        <translation>
+            <numerusform>%n material skipped</numerusform>
+            <numerusform>%n materials skipped</numerusform>
         </translation>
     </message>
 </context>
@@ -394,6 +456,37 @@
         <translation>
             <numerusform>%n supplier</numerusform>
             <numerusform>%n suppliers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>needsDialog</name>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n short of stock</source>
+        <translation>
+            <numerusform>%n short of stock</numerusform>
+            <numerusform>%n short of stock</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in no database</source>
+        <translation>
+            <numerusform>%n in no database</numerusform>
+            <numerusform>%n in no database</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n line without a quantity</numerusform>
+            <numerusform>%n lines without a quantity</numerusform>
         </translation>
     </message>
 </context>

@@ -16,6 +16,280 @@
     </message>
 </context>
 <context>
+    <name>Kiv_bomViewWindow</name>
+    <message>
+        <source>Lines of the BOM list</source>
+        <translation>Pozycje listy materiałów</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>nie można odczytać pliku</translation>
+    </message>
+    <message>
+        <source>Bill of materials</source>
+        <translation>Lista materiałów (BOM)</translation>
+    </message>
+    <message>
+        <source>Editing locked</source>
+        <translation>Edycja zablokowana</translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>no line is selected</source>
+        <translation>nie wybrano pozycji</translation>
+    </message>
+    <message>
+        <source>nothing was changed</source>
+        <translation>niczego nie zmieniono</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n komórkę</numerusform>
+            <numerusform>Skopiowano %n komórki</numerusform>
+            <numerusform>Skopiowano %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklejanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n komórkę</numerusform>
+            <numerusform>Wklejono %n komórki</numerusform>
+            <numerusform>Wklejono %n komórek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) deleted</source>
+        <translation>
+            <numerusform>Usunięto %n pozycję</numerusform>
+            <numerusform>Usunięto %n pozycje</numerusform>
+            <numerusform>Usunięto %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list %1 is locked. Allow its editing first.</source>
+        <translation>Lista %1 jest zablokowana. Najpierw włącz jej edycję.</translation>
+    </message>
+    <message>
+        <source>Material inserted</source>
+        <translation>Wstawiono materiał</translation>
+    </message>
+    <message>
+        <source>Inserted %1</source>
+        <translation>Wstawiono %1</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened.</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
+    </message>
+    <message>
+        <source>Reload it and lose the changes here</source>
+        <translation>Wczytaj ponownie i porzuć zmiany</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Nadpisz</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Save the changed BOM list %1?</source>
+        <translation>Zapisać zmienioną listę materiałów %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Kiv_bomWindow</name>
+    <message>
+        <source>Save the changed BOM list %1?</source>
+        <translation>Zapisać zmienioną listę materiałów %1?</translation>
+    </message>
+    <message>
+        <source>A list cannot be read; nothing was ordered</source>
+        <translation>Nie można odczytać listy; niczego nie zamówiono</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Zapisano jako %1</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Html File</source>
+        <translation>Plik HTML</translation>
+    </message>
+    <message>
+        <source>Pdf File</source>
+        <translation>Plik PDF</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drukowanie</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Doc File</source>
+        <translation>Plik DOC</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informacja</translation>
+    </message>
+    <message>
+        <source>Please wait ...</source>
+        <translation>Proszę czekać ...</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć %1</translation>
+    </message>
+    <message>
+        <source>No BOM list is open. Open one with &quot;Bom&quot; among the BOM lists.</source>
+        <translation>Żadna lista materiałów nie jest otwarta. Otwórz ją poleceniem „Bom” w oknie list materiałów.</translation>
+    </message>
+    <message>
+        <source>Bill of materials</source>
+        <translation>Lista materiałów (BOM)</translation>
+    </message>
+    <message>
+        <source>BOM lists</source>
+        <translation>Listy materiałów</translation>
+    </message>
+    <message>
+        <source>no set of BOM lists is loaded</source>
+        <translation>nie wczytano zbioru list materiałów</translation>
+    </message>
+    <message>
+        <source>nothing was changed</source>
+        <translation>niczego nie zmieniono</translation>
+    </message>
+    <message>
+        <source>no list is built: all numbers of sets are 0</source>
+        <translation>żadna lista nie jest montowana: wszystkie liczby zestawów to 0</translation>
+    </message>
+    <message>
+        <source>there is no list</source>
+        <translation>nie ma żadnej listy</translation>
+    </message>
+    <message>
+        <source>no list is selected</source>
+        <translation>nie wybrano listy</translation>
+    </message>
+    <message>
+        <source>nothing is selected</source>
+        <translation>nic nie wybrano</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s)</source>
+        <translation>
+            <numerusform>%n lista</numerusform>
+            <numerusform>%n listy</numerusform>
+            <numerusform>%n list</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them built</source>
+        <translation>
+            <numerusform>w tym %n do montażu</numerusform>
+            <numerusform>w tym %n do montażu</numerusform>
+            <numerusform>w tym %n do montażu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed, not saved</source>
+        <translation>zmieniono, nie zapisano</translation>
+    </message>
+    <message>
+        <source>Sorted by %1</source>
+        <translation>Posortowano według: %1</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>Set the numbers of sets of all lists to 0?</source>
+        <translation>Ustawić liczby zestawów wszystkich list na 0?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>List added</source>
+        <translation>Dodano listę</translation>
+    </message>
+    <message>
+        <source>Add. new group</source>
+        <translation>Dodaj nową grupę</translation>
+    </message>
+    <message>
+        <source>Group added</source>
+        <translation>Dodano grupę</translation>
+    </message>
+    <message>
+        <source>Only empty folders can be deleted</source>
+        <translation>Usunąć można tylko puste foldery</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) deleted</source>
+        <translation>
+            <numerusform>Usunięto %n wiersz</numerusform>
+            <numerusform>Usunięto %n wiersze</numerusform>
+            <numerusform>Usunięto %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened. Overwrite it?</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia. Nadpisać go?</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Save the changed set of BOM lists?</source>
+        <translation>Zapisać zmieniony zbiór list materiałów?</translation>
+    </message>
+</context>
+<context>
     <name>Kiv_mat_databaseMergeWindow</name>
     <message>
         <source>Merge</source>
@@ -730,6 +1004,50 @@
     <message>
         <source>Database</source>
         <translation>Baza danych</translation>
+    </message>
+    <message>
+        <source>The order is locked. Allow its editing first.</source>
+        <translation>Zamówienie jest zablokowane. Najpierw włącz jego edycję.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) added or raised from BOM lists</source>
+        <translation>
+            <numerusform>Dodano lub zwiększono %n pozycję z list materiałów</numerusform>
+            <numerusform>Dodano lub zwiększono %n pozycje z list materiałów</numerusform>
+            <numerusform>Dodano lub zwiększono %n pozycji z list materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) skipped</source>
+        <translation>
+            <numerusform>pominięto %n materiał</numerusform>
+            <numerusform>pominięto %n materiały</numerusform>
+            <numerusform>pominięto %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Handed to the mail program</source>
+        <translation>Przekazano do programu pocztowego</translation>
+    </message>
+    <message>
+        <source>The mail program cannot be started; the message is %1</source>
+        <translation>Nie można uruchomić programu pocztowego; wiadomość: %1</translation>
+    </message>
+    <message>
+        <source>The order is saved before it is sent. Save it now?</source>
+        <translation>Przed wysłaniem zamówienie jest zapisywane. Zapisać je teraz?</translation>
+    </message>
+    <message>
+        <source>The message cannot be written to %1</source>
+        <translation>Nie można zapisać wiadomości w %1</translation>
+    </message>
+    <message>
+        <source>Packing</source>
+        <translation>Pakowanie</translation>
+    </message>
+    <message>
+        <source>The message could not be made. The log says why.</source>
+        <translation>Nie udało się utworzyć wiadomości. Powód podaje dziennik.</translation>
     </message>
 </context>
 <context>
@@ -1512,6 +1830,126 @@
         <source>The register of firms</source>
         <translation>Rejestr firm</translation>
     </message>
+    <message>
+        <source>Allow changes of the list</source>
+        <translation>Zezwól na zmiany listy</translation>
+    </message>
+    <message>
+        <source>Delete the selected lines</source>
+        <translation>Usuń wybrane pozycje</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Suma</translation>
+    </message>
+    <message>
+        <source>Sums of quantities and prices, per set and for all sets</source>
+        <translation>Sumy ilości i cen, dla jednego i dla wszystkich zestawów</translation>
+    </message>
+    <message>
+        <source>Put the materials of all lists that are built into the order</source>
+        <translation>Wstaw do zamówienia materiały wszystkich montowanych list</translation>
+    </message>
+    <message>
+        <source>Build no list: all numbers of sets become 0</source>
+        <translation>Nie montuj żadnej listy: wszystkie liczby zestawów będą równe 0</translation>
+    </message>
+    <message>
+        <source>All Quantities ...</source>
+        <translation>Wszystkie ilości ...</translation>
+    </message>
+    <message>
+        <source>Set the number of sets of all or the selected lists</source>
+        <translation>Ustaw liczbę zestawów wszystkich lub wybranych list</translation>
+    </message>
+    <message>
+        <source>Write a page or PDF of the selected lists, else of those that are built</source>
+        <translation>Zapisz stronę lub PDF wybranych list, a bez wyboru – montowanych</translation>
+    </message>
+    <message>
+        <source>Write the set of BOM lists</source>
+        <translation>Zapisz zbiór list materiałów</translation>
+    </message>
+    <message>
+        <source>Add. new file</source>
+        <translation>Dodaj nowy plik</translation>
+    </message>
+    <message>
+        <source>Add a BOM list to this folder</source>
+        <translation>Dodaj listę materiałów do tego folderu</translation>
+    </message>
+    <message>
+        <source>Take the selected lists and empty folders out of the set; files stay on the disk</source>
+        <translation>Wyłącz ze zbioru wybrane listy i puste foldery; pliki zostają na dysku</translation>
+    </message>
+    <message>
+        <source>Set all quantities</source>
+        <translation>Ustaw wszystkie ilości</translation>
+    </message>
+    <message>
+        <source>Open the file with the desktop&apos;s program</source>
+        <translation>Otwórz plik w programie systemowym</translation>
+    </message>
+    <message>
+        <source>Bom</source>
+        <translation>BOM</translation>
+    </message>
+    <message>
+        <source>Look at the lines of the list</source>
+        <translation>Pokaż pozycje listy</translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation>CSV</translation>
+    </message>
+    <message>
+        <source>Export the KTMs and quantities of the list</source>
+        <translation>Eksportuj KTM i ilości listy</translation>
+    </message>
+    <message>
+        <source>DOC</source>
+        <translation>DOC</translation>
+    </message>
+    <message>
+        <source>Export the report of the list as a document</source>
+        <translation>Eksportuj raport listy jako dokument</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Wyślij</translation>
+    </message>
+    <message>
+        <source>Send the saved order and its PDF by mail</source>
+        <translation>Wyślij pocztą zapisane zamówienie i jego PDF</translation>
+    </message>
+    <message>
+        <source>Send database</source>
+        <translation>Wyślij bazy danych</translation>
+    </message>
+    <message>
+        <source>Send the material databases to the administrator</source>
+        <translation>Wyślij bazy materiałów do administratora</translation>
+    </message>
+    <message>
+        <source>Send BOMS</source>
+        <translation>Wyślij listy BOM</translation>
+    </message>
+    <message>
+        <source>Append from bom</source>
+        <translation>Dodaj z BOM</translation>
+    </message>
+    <message>
+        <source>Add the materials of BOM lists, times their sets</source>
+        <translation>Dodaj materiały list BOM, pomnożone przez liczby zestawów</translation>
+    </message>
+    <message>
+        <source>Bill of materials</source>
+        <translation>Lista materiałów (BOM)</translation>
+    </message>
+    <message>
+        <source>The BOM lists and how many sets are built</source>
+        <translation>Listy materiałów i liczby montowanych zestawów</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -1630,6 +2068,13 @@
     <message>
         <source>Known</source>
         <translation>W bazie</translation>
+    </message>
+</context>
+<context>
+    <name>bomTree</name>
+    <message>
+        <source>In no database</source>
+        <translation>Spoza baz danych</translation>
     </message>
 </context>
 <context>
@@ -3432,6 +3877,85 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Date</source>
         <translation>Data</translation>
+    </message>
+</context>
+<context>
+    <name>needsDialog</name>
+    <message>
+        <source>The quantity is no number; the line is left out</source>
+        <translation>Ilość nie jest liczbą; pozycję pominięto</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Potrzeby</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n short of stock</source>
+        <translation>
+            <numerusform>%n brakuje w magazynie</numerusform>
+            <numerusform>%n brakuje w magazynie</numerusform>
+            <numerusform>%n brakuje w magazynie</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in no database</source>
+        <translation>
+            <numerusform>%n spoza baz danych</numerusform>
+            <numerusform>%n spoza baz danych</numerusform>
+            <numerusform>%n spoza baz danych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n pozycja bez ilości</numerusform>
+            <numerusform>%n pozycje bez ilości</numerusform>
+            <numerusform>%n pozycji bez ilości</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Materials for the order</source>
+        <translation>Materiały do zamówienia</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Ilość</translation>
+    </message>
+    <message>
+        <source>What is needed</source>
+        <translation>Cała potrzebna ilość</translation>
+    </message>
+    <message>
+        <source>Only what is short of stock</source>
+        <translation>Tylko to, czego brakuje w magazynie</translation>
+    </message>
+    <message>
+        <source>Materials that the order has already</source>
+        <translation>Materiały, które są już w zamówieniu</translation>
+    </message>
+    <message>
+        <source>Raise the quantity of their lines</source>
+        <translation>Zwiększ ilość w ich pozycjach</translation>
+    </message>
+    <message>
+        <source>Add lines beside them</source>
+        <translation>Dodaj osobne pozycje</translation>
+    </message>
+    <message>
+        <source>Skip them</source>
+        <translation>Pomiń je</translation>
+    </message>
+    <message>
+        <source>Add to the order</source>
+        <translation>Dodaj do zamówienia</translation>
     </message>
 </context>
 <context>

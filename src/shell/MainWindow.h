@@ -1,6 +1,6 @@
 // The main window: the open order and the ways to everything else. Construction and what concerns
-// the program stand in MainWindow.cpp, what concerns the order in MainWindowOrder.cpp, BOM lists
-// and messages in MainWindowBom.cpp.
+// the program stand in MainWindow.cpp, the order's life in MainWindowOrder.cpp, its lines in
+// MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp.
 #pragma once
 
 #include "bom/bomOperations.h"

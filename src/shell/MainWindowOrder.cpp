@@ -1,18 +1,12 @@
 #include "shell/MainWindow.h"
 
 #include "bom/Kiv_bomWindow.h"
-#include "commands/cellBlock.h"
-#include "commands/cellClipboard.h"
 #include "commands/commandSys.h"
-#include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
-#include "dialogs/addMaterialDialog.h"
 #include "dialogs/configWindow.h"
-#include "dialogs/linesDialog.h"
 #include "firm/firmWindow.h"
-#include "report/cleanHtml.h"
 #include "report/orderReport.h"
 #include "report/pdfPrinter.h"
 #include "shell/orderDocument.h"
@@ -21,44 +15,25 @@
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
 #include "tree/myWebView.h"
-#include "tree/richtexteditDialog.h"
 #include "util/fileVersions.h"
 #include "util/files.h"
-#include "util/labels.h"
 #include "util/messages.h"
-#include "util/numbers.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/messageWindow.h"
 #include "window/workProgress.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QStatusBar>
 #include <QUrl>
-
-using myItem::myItemStandard;
 
 namespace {
 
 QString xmlFilter() { return MainWindow::tr("Xml File") + QLatin1String(" (*.xml)"); }
-
-// Where dialogs begin: the folder of orders.
-QString ordersFolder()
-{
-    const QString &path = orderDocument::instance().path();
-    const QString known =
-        path.isEmpty()
-            ? paths::data(programData::instance().config().options.value(optionKey::fileLastZp))
-            : path;
-    return QFileInfo(known).absolutePath();
-}
 
 QString reportPath(const QString &path)
 {
@@ -117,8 +92,8 @@ void MainWindow::commandZpOpen(bool)
 {
     if (!closeDocument())
         return;
-    const QString path =
-        userPrompts().openFile(tr("Open File"), ordersFolder(), QStringLiteral("(*.xml)"));
+    const QString path = userPrompts().openFile(tr("Open File"), orderDocument::instance().folder(),
+                                                QStringLiteral("(*.xml)"));
     if (path.isEmpty())
         return;
     if (!QFileInfo::exists(path)) {
@@ -290,7 +265,7 @@ void MainWindow::commandZpPrint(bool)
 {
     QString proposed = orderDocument::instance().path();
     if (proposed.isEmpty())
-        proposed = ordersFolder() + QLatin1String("/order.xml");
+        proposed = orderDocument::instance().folder() + QLatin1String("/order.xml");
     if (proposed.endsWith(QLatin1String(".xml")))
         proposed.chop(int(qstrlen(".xml")));
     const QString chosen =
@@ -352,456 +327,3 @@ void MainWindow::commandArchiveDatabase(bool)
 }
 
 // --- Editing
-// --------------------------------------------------------------------------------------
-
-void MainWindow::push(std::unique_ptr<command> change, const QString &what)
-{
-    if (!change)
-        return;
-    m_order->stack().push(std::move(change), what);
-    orderChanged();
-    showState();
-    statusBar()->showMessage(what);
-}
-
-void MainWindow::commandZpEdit(bool on)
-{
-    m_order->setLocked(!on);
-    updateActions();
-}
-
-void MainWindow::commandZpUndo(bool)
-{
-    const QString what = m_order->stack().undo();
-    orderChanged();
-    statusBar()->showMessage(tr("Undone: %1").arg(what));
-}
-
-void MainWindow::commandZpRedo(bool)
-{
-    const QString what = m_order->stack().redo();
-    orderChanged();
-    statusBar()->showMessage(tr("Done again: %1").arg(what));
-}
-
-void MainWindow::commandZpConfig(bool)
-{
-    m_tabs->setCurrentIndex(0);
-    myTreeView *options = m_order->optionsView();
-    options->setFocus();
-    options->setCurrentIndex(m_order->options()->index(0, 1));
-}
-
-myTreeView *MainWindow::focusedView() const
-{
-    return m_order->optionsView()->hasFocus() ? m_order->optionsView() : m_order->linesView();
-}
-
-void MainWindow::commandCopyCells(bool)
-{
-    statusBar()->showMessage(tr("%n cell(s) copied", nullptr, cellClipboard::copy(focusedView())));
-}
-
-void MainWindow::commandPasteCells(bool)
-{
-    const int changed = cellClipboard::paste(
-        focusedView(),
-        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste")); }, this);
-    statusBar()->showMessage(tr("%n cell(s) pasted", nullptr, changed));
-}
-
-// All lines, or the selected ones when several are and the user says so.
-std::optional<std::vector<int>> MainWindow::wantedRows()
-{
-    const std::vector<int> selected = m_order->selectedRows();
-    if (selected.size() < 2 || int(selected.size()) == m_order->lines()->rowCount())
-        return m_order->allRows();
-    const std::optional<int> answer = userPrompts().decide(
-        tr("Change all lines, or the selected ones only?"),
-        {tr("All lines"), tr("%n selected line(s)", nullptr, int(selected.size()))});
-    if (!answer)
-        return {};
-    return *answer == 0 ? m_order->allRows() : selected;
-}
-
-bool MainWindow::setColumn(int column, const std::vector<int> &rows, const QVariant &value,
-                           const QString &what)
-{
-    std::unique_ptr<command> change = cellBlock::set(
-        m_order->lines(), m_order->cells(rows, column),
-        [&value](const myItemStandard &) { return value; }, this);
-    const bool changed = change != nullptr;
-    push(std::move(change), what);
-    return changed;
-}
-
-void MainWindow::commandZpAllQuantities(bool)
-{
-    const auto quantity = userPrompts().inputNumber(
-        labels::setAllQuantities(), labels::quantities(), 1, 1, orderTree::quantityMaximum);
-    if (!quantity)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::quantityColumn, *rows, *quantity, labels::setAllQuantities());
-}
-
-void MainWindow::commandZpAllDates(bool)
-{
-    const auto date = userPrompts().inputDate(
-        labels::setAllDates(), orderOperations::usualDate(programData::instance().config()));
-    if (!date)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::waitColumn, *rows, *date, labels::setAllDates());
-}
-
-void MainWindow::commandZpAllDescriptions(bool)
-{
-    const auto description =
-        userPrompts().inputText(labels::setAllDescriptions(), labels::descriptions(), {});
-    if (!description)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::descriptionColumn, *rows, *description, labels::setAllDescriptions());
-}
-
-void MainWindow::commandZpAllRoHS(bool)
-{
-    QStringList words;
-    QStringList shown;
-    for (const comboBoxStruct &word : programData::instance().config().goodWhenYes) {
-        words.append(word.value);
-        shown.append(labels::shown(word.value));
-    }
-    const auto chosen =
-        userPrompts().choose(labels::setAllRohs(), labels::allMaterialsRequireRohs(), shown, 1);
-    if (!chosen)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::rohsColumn, *rows, words.at(*chosen), labels::setAllRohs());
-}
-
-void MainWindow::commandZpAllUnits(bool)
-{
-    const QStringList units = orderOperations::units();
-    QStringList shown;
-    for (const QString &unit : units)
-        shown.append(labels::shown(unit));
-    const auto chosen =
-        userPrompts().choose(labels::setAllUnits(), labels::allMaterialsUnit(), shown, 0);
-    if (!chosen)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::unitColumn, *rows, units.at(*chosen), labels::setAllUnits());
-}
-
-void MainWindow::commandZpAllTargets(bool)
-{
-    if (userPrompts().ask(tr("Change target for all materials ?"), false) != prompts::answer::yes)
-        return;
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
-    const QStringList targets = orderOperations::targets(programData::instance().config(), order);
-    const auto chosen =
-        userPrompts().choose(labels::setAllTargets(), labels::allMaterialsTarget(), targets,
-                             int(targets.indexOf(order.options.value(optionKey::orderTarget))));
-    if (!chosen)
-        return;
-    if (const auto rows = wantedRows())
-        setColumn(orderTree::targetColumn, *rows, targets.at(*chosen), labels::setAllTargets());
-}
-
-void MainWindow::commandZpAllSum(bool)
-{
-    const std::vector<int> selected = m_order->selectedRows();
-    const std::vector<int> rows = selected.size() > 1 ? selected : m_order->allRows();
-    const orderOperations::lineSums sums = orderOperations::sumsOf(m_order->records(rows));
-    const auto row = [](const QString &caption, const QString &value) {
-        return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td></tr>")
-            .arg(caption.toHtmlEscaped(), value);
-    };
-    userPrompts().showInformation(
-        QLatin1String("<table>")
-        + row(selected.size() > 1 ? tr("Selected lines") : tr("Lines"), QString::number(sums.lines))
-        + row(labels::quantities(), QString::number(sums.quantity))
-        + row(labels::sumPrice(), numbers::money(sums.price) + QLatin1String(" [ PLN ]"))
-        + row(labels::sumAveragePrice(),
-              numbers::money(sums.averagePrice) + QLatin1String(" [ PLN ]"))
-        + (sums.uncounted
-               ? row(tr("Lines that could not be counted"), QString::number(sums.uncounted))
-               : QString())
-        + QLatin1String("</table>"));
-}
-
-void MainWindow::commandZpClearPrices(bool)
-{
-    const auto rows = wantedRows();
-    if (!rows)
-        return;
-    const auto cells = m_order->cells(*rows, orderTree::priceColumn)
-                       + m_order->cells(*rows, orderTree::averagePriceColumn);
-    push(cellBlock::set(
-             m_order->lines(), cells, [](const myItemStandard &) { return 0.0; }, this),
-         tr("Clear Price"));
-}
-
-void MainWindow::commandZpRefreshPrices(bool)
-{
-    if (userPrompts().ask(tr("Take prices and stock of the lines from the databases again?"), false)
-        != prompts::answer::yes)
-        return;
-    const ktmIndex &materials = programData::instance().materials();
-    const auto rows = wantedRows();
-    if (!rows)
-        return;
-    QHash<const myItemStandard *, QVariant> wanted;
-    QList<myItemStandard *> cells;
-    const auto add = [&](int row, int column, const QVariant &value) {
-        auto *cell = static_cast<myItemStandard *>(m_order->lines()->item(row, column));
-        if (!value.isValid())
-            return;
-        wanted.insert(cell, value);
-        cells.append(cell);
-    };
-    for (int row : *rows) {
-        const orderItemStruct *line = m_order->records({row}).front();
-        const ktmIndex::entry *found = materials.find(line->ktm);
-        if (!found)
-            continue;
-        const auto amount = [](const QString &text) {
-            return numbers::check(text) ? QVariant(numbers::value(text)) : QVariant();
-        };
-        add(row, orderTree::priceColumn, amount(found->material->d_price));
-        add(row, orderTree::averagePriceColumn, amount(found->material->d_averagePrice));
-        add(row, orderTree::inWarehouseColumn, found->material->d_inWarehouse);
-    }
-    push(cellBlock::set(
-             m_order->lines(), cells,
-             [&wanted](const myItemStandard &cell) { return wanted.value(&cell); }, this,
-             cellBlock::readOnlyToo),
-         tr("Refresh prices and stock"));
-    m_order->refreshLooks();
-}
-
-void MainWindow::commandZpCopy(bool)
-{
-    linesDialog dialog(linesDialog::copying, m_order->lineRows().columns(),
-                       m_order->selectedRows().size() > 1, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const std::vector<int> rows =
-        dialog.selectedOnly() ? m_order->selectedRows() : m_order->allRows();
-    if (!dialog.toFile()) {
-        QModelIndexList cells;
-        for (int row : rows)
-            for (int column : dialog.columns())
-                cells.append(m_order->lines()->index(row, column));
-        QApplication::clipboard()->setText(cellBlock::copied(cells));
-        statusBar()->showMessage(tr("%n line(s) copied", nullptr, int(rows.size())));
-        return;
-    }
-    const QString path =
-        userPrompts().openFile(tr("Open File"), ordersFolder(), QStringLiteral("(*.xml)"));
-    if (path.isEmpty())
-        return;
-    if (QFileInfo(path) == QFileInfo(orderDocument::instance().path())) {
-        userPrompts().showError(tr("This order is open here. Choose another one."));
-        return;
-    }
-    QString reason;
-    if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(), &reason))
-        statusBar()->showMessage(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
-                                     .arg(QDir::toNativeSeparators(path)));
-    else
-        userPrompts().showError(native(path) + QLatin1String(": ") + reason.toHtmlEscaped());
-}
-
-void MainWindow::commandZpClear(bool)
-{
-    linesDialog dialog(linesDialog::clearing, m_order->lineRows().columns(),
-                       m_order->selectedRows().size() > 1, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const std::vector<int> rows =
-        dialog.selectedOnly() ? m_order->selectedRows() : m_order->allRows();
-    QList<myItemStandard *> cells;
-    for (int column : dialog.columns())
-        cells += m_order->cells(rows, column);
-    push(cellBlock::clear(m_order->lines(), cells, this), tr("Clear"));
-}
-
-void MainWindow::deleteRows(const std::vector<int> &rows, const QString &what)
-{
-    push(cellBlock::deleteRows(m_order->lines(), rows, this), what);
-}
-
-void MainWindow::commandDeleteLines(bool)
-{
-    std::vector<int> rows = m_order->selectedRows();
-    if (rows.empty() && m_order->linesView()->currentIndex().isValid())
-        rows.push_back(m_order->linesView()->currentIndex().row());
-    deleteRows(rows, tr("%n line(s) deleted", nullptr, int(rows.size())));
-}
-
-void MainWindow::commandZpDeleteAll(bool)
-{
-    if (userPrompts().ask(tr("Delete all lines of the order?"), false) == prompts::answer::yes)
-        deleteRows(m_order->allRows(), tr("All lines deleted"));
-}
-
-void MainWindow::appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines,
-                             const QString &what)
-{
-    if (lines.empty())
-        return;
-    std::unique_ptr<command> change;
-    {
-        const changeBatch batch;
-        std::vector<std::unique_ptr<command>> members;
-        for (auto &line : lines)
-            members.push_back(std::make_unique<appendNewMaterial>(
-                m_order->lines(), m_order->lineRows().makeDetachedRow(std::move(line))));
-        members.push_back(std::make_unique<::refreshHtml>(this));
-        change = std::make_unique<appendCommands>(std::move(members));
-    }
-    push(std::move(change), what);
-    myTreeView *view = m_order->linesView();
-    const QModelIndex last =
-        m_order->lines()->index(m_order->lines()->rowCount() - 1, orderTree::quantityColumn);
-    view->setCurrentIndex(last);
-    view->scrollTo(last);
-}
-
-void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)
-{
-    programData &known = programData::instance();
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
-    std::vector<std::unique_ptr<orderItemStruct>> lines;
-    QStringList shipments;
-    for (const QString &ktm : ktms) {
-        if (orderOperations::isShipment(ktm)
-            && (orderOperations::holds(order, ktm) || shipments.contains(ktm))) {
-            userPrompts().showInformation(tr("In Do can be only one entry SHIPMENT of KTM: ")
-                                          + ktm.toHtmlEscaped());
-            continue;
-        }
-        const ktmIndex::entry *found = known.materials().find(ktm);
-        if (!found)
-            continue;
-        if (orderOperations::isShipment(ktm))
-            shipments.append(ktm);
-        lines.push_back(orderOperations::newLine(*found->material, order, QString::number(quantity),
-                                                 orderOperations::usualDate(known.config())));
-    }
-    const int count = int(lines.size());
-    appendLines(std::move(lines), tr("%n line(s) added", nullptr, count));
-}
-
-void MainWindow::commandAddShipment(bool)
-{
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
-    const QString ktm = orderOperations::freeShipmentKtm(order);
-    if (ktm.isEmpty()) {
-        userPrompts().showInformation(tr("In Do can be only ten entries SHIPMENT"));
-        return;
-    }
-    addSpecialLine(ktm, tr("SHIPMENT"));
-}
-
-void MainWindow::commandAddPCB(bool)
-{
-    if (orderOperations::holds(orderDocument::instance().order(), orderOperations::pcbKtm())) {
-        const QString padding = QStringLiteral("&nbsp;").repeated(9);
-        userPrompts().showInformation(padding + tr("Only one PCB order") + padding);
-        return;
-    }
-    addSpecialLine(orderOperations::pcbKtm(), tr("PCB"));
-}
-
-void MainWindow::addSpecialLine(const QString &ktm, const QString &description)
-{
-    const ktmIndex::entry *known = programData::instance().materials().find(ktm);
-    if (!known) {
-        statusBar()->showMessage(tr("No loaded database has the material %1").arg(ktm));
-        return;
-    }
-    std::vector<std::unique_ptr<orderItemStruct>> lines;
-    lines.push_back(orderOperations::newLine(*known->material, orderDocument::instance().order(),
-                                             QStringLiteral("1"), QDate::currentDate()));
-    lines.back()->description = description;
-    appendLines(std::move(lines), tr("%n line(s) added", nullptr, 1));
-}
-
-void MainWindow::commandAddMaterial(bool)
-{
-    if (!m_addMaterial) {
-        m_addMaterial = new addMaterialDialog(this);
-        connect(m_addMaterial, &addMaterialDialog::wanted, this, &MainWindow::appendToOrder);
-    }
-    m_addMaterial->showNow();
-}
-
-void MainWindow::commandEditAttentions(bool)
-{
-    if (m_order->attentions()->isReadOnly())
-        return;
-    richtexteditDialog dialog(this);
-    dialog.setWindowTitle(labels::attentions());
-    const QString before = cleanHtml(m_order->attentions()->toHtml());
-    dialog.setHtml(before);
-    if (dialog.exec() == QDialog::Accepted && dialog.html() != before)
-        m_order->replaceAttentions(dialog.html());
-}
-
-void MainWindow::textEditDoubleClicked(QPoint, uint)
-{
-    statusBar()->showMessage(m_order->attentions()->isReadOnly()
-                                 ? tr("Editing is locked")
-                                 : tr("A double click opens the editor of formatted text"));
-}
-
-void MainWindow::modelTreeClicked(QPoint, uint, const QModelIndex &) { showState(); }
-
-void MainWindow::headerTreeClicked(QPoint, uint buttons, int section)
-{
-    if (!(buttons & Qt::LeftButton))
-        return;
-    if (m_order->linesView()->isEditingLocked()) {
-        statusBar()->showMessage(tr("Editing is locked"));
-        return;
-    }
-    auto change = std::make_unique<sortOrderModel>(m_order->lines(), section);
-    if (!change->changesOrder())
-        return;
-    push(std::move(change),
-         tr("Sort by %1").arg(m_order->lines()->headerData(section, Qt::Horizontal).toString()));
-}
-
-void MainWindow::reOrdinalRows() { m_order->renumber(); }
-
-// --- Finding
-// --------------------------------------------------------------------------------------
-
-void MainWindow::commandFind(bool)
-{
-    const auto text = userPrompts().inputText(tr("Find"), tr("Text in any column"), m_wanted);
-    if (!text || text->isEmpty())
-        return;
-    m_wanted = *text;
-    commandFindNext(false);
-}
-
-void MainWindow::commandFindNext(bool)
-{
-    if (m_wanted.isEmpty()) {
-        commandFind(false);
-        return;
-    }
-    m_tabs->setCurrentIndex(0);
-    myTreeView *view = m_order->linesView();
-    if (view->findNext(m_wanted)) {
-        view->setFocus();
-        statusBar()->showMessage(tr("Found in line %1").arg(view->currentIndex().row() + 1));
-        return;
-    }
-    statusBar()->showMessage(tr("No line holds %1").arg(m_wanted));
-}

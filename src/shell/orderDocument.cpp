@@ -1,9 +1,11 @@
 #include "shell/orderDocument.h"
 
 #include "data/programData.h"
+#include "data/vocabulary.h"
 #include "report/orderReport.h"
 #include "shell/orderOperations.h"
 #include "util/messages.h"
+#include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
 
@@ -47,6 +49,14 @@ void orderDocument::settle(const QString &path)
         && m_lock->getLockInfo(&process, &host, &program))
         m_otherUser = QStringLiteral("%1, %2, %3").arg(program, host).arg(process);
     m_lock.reset();
+}
+
+QString orderDocument::folder() const
+{
+    const configStruct &config = programData::instance().config();
+    const QString known =
+        m_path.isEmpty() ? paths::data(config.options.value(optionKey::fileLastZp)) : m_path;
+    return QFileInfo(known).absolutePath();
 }
 
 bool orderDocument::load(const QString &path, bool showMessages)

@@ -17,6 +17,9 @@ public:
     // The path of the order's file; empty when it has none.
     const QString &path() const { return m_path; }
 
+    // Where file dialogs begin: the order's folder, else that of the last one's option.
+    QString folder() const;
+
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
 
