@@ -144,6 +144,8 @@ private:
     bool saveTo(const QString &path);
     bool saveAs();
     bool printTo(const QString &path);
+
+    // --- MainWindowLines.cpp ---
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
                    const QString &what);
     std::optional<std::vector<int>> wantedRows();
