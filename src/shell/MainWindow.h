@@ -95,6 +95,7 @@ public slots:
     void databaseCommand(bool);
     void commandBom(bool);
     void commandFirm(bool);
+    void commandMessageTemplate(bool);
     void configCommand(bool);
     void commandShowLog(bool);
     void commandShowErrors(bool);

@@ -1,6 +1,8 @@
 // From BOM lists to the order, and messages.
 #include "shell/MainWindow.h"
 
+#include "dialogs/emailTempWindow.h"
+
 #include "bom/Kiv_bomWindow.h"
 #include "bom/needsDialog.h"
 #include "commands/commandSys.h"
@@ -184,3 +186,5 @@ void MainWindow::sendData(mail::contents what)
 void MainWindow::commandSendDatabase(bool) { sendData(mail::contents::databases); }
 
 void MainWindow::commandSendBOMS(bool) { sendData(mail::contents::boms); }
+
+void MainWindow::commandMessageTemplate(bool) { emailTempWindow(this).exec(); }

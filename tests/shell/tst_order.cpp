@@ -5,6 +5,7 @@
 #include "data/programData.h"
 #include "dialogs/addMaterialDialog.h"
 #include "dialogs/configWindow.h"
+#include "dialogs/emailTempWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/orderDocument.h"
 #include "shell/orderView.h"
@@ -43,6 +44,7 @@ private slots:
     void pricesAndSums();
     void copyAndFind();
     void addMaterials();
+    void messageTemplate();
     void attentions();
     void options();
     void locked();
@@ -459,6 +461,25 @@ void tst_order::addMaterials()
     m_window->commandZpUndo(true);
     QCOMPARE(view().lines()->rowCount(), before);
     dialog->close();
+}
+
+void tst_order::messageTemplate()
+{
+    const QString path = m_folder->write("_e-mail/msg_template.htm",
+                                         "<html><body><p>Order <b>{Do_no}</b></p></body></html>");
+    const QByteArray before = testSupport::read(path);
+    emailTempWindow looked;
+    looked.accept();
+    QCOMPARE(testSupport::read(path), before);
+    emailTempWindow window;
+    auto *edit = window.findChild<QTextEdit *>("text");
+    edit->append(QString::fromUtf8("Dziękuję"));
+    window.accept();
+    const QByteArray after = testSupport::read(path);
+    QVERIFY2(after.contains("<b>{Do_no}</b>") && after.contains("Dziękuję"), after);
+    // It can be edited again.
+    emailTempWindow again;
+    QVERIFY(again.findChild<QTextEdit *>("text")->toPlainText().startsWith("Order {Do_no}"));
 }
 
 void tst_order::attentions()
