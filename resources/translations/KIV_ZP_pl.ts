@@ -658,6 +658,26 @@
         <source>Do you want to edit material ?</source>
         <translation>Czy chcesz edytować materiał ?</translation>
     </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened.</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
+    </message>
+    <message>
+        <source>Reload it and lose the changes here</source>
+        <translation>Wczytaj ponownie i porzuć zmiany</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Nadpisz</translation>
+    </message>
+    <message>
+        <source>Ktm syntax error</source>
+        <translation>Błąd składni KTM</translation>
+    </message>
+    <message>
+        <source>Another material has this KTM</source>
+        <translation>Ten KTM ma już inny materiał</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1950,6 +1970,14 @@
         <source>The BOM lists and how many sets are built</source>
         <translation>Listy materiałów i liczby montowanych zestawów</translation>
     </message>
+    <message>
+        <source>Message template</source>
+        <translation>Szablon wiadomości</translation>
+    </message>
+    <message>
+        <source>Edit the text that goes along with an order</source>
+        <translation>Edytuj tekst dołączany do zamówienia</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2738,6 +2766,17 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>%n materiały</numerusform>
             <numerusform>%n materiałów</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>emailTempWindow</name>
+    <message>
+        <source>Message template</source>
+        <translation>Szablon wiadomości</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
     </message>
 </context>
 <context>

@@ -95,7 +95,12 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(const QString &path)
     load();
 }
 
-Kiv_bomViewWindow::~Kiv_bomViewWindow() { m_stack->clear(); }
+Kiv_bomViewWindow::~Kiv_bomViewWindow()
+{
+    m_stack->clear();
+    for (myModel *model : findChildren<myModel *>())
+        model->detach();
+}
 
 void Kiv_bomViewWindow::load()
 {

@@ -139,7 +139,12 @@ Kiv_bomWindow::Kiv_bomWindow()
         m_view->header()->resizeSection(column, widths[column]);
 }
 
-Kiv_bomWindow::~Kiv_bomWindow() { m_stack->clear(); }
+Kiv_bomWindow::~Kiv_bomWindow()
+{
+    m_stack->clear();
+    for (myModel *model : findChildren<myModel *>())
+        model->detach();
+}
 
 // The set as the program has it.
 void Kiv_bomWindow::showSet(const QHash<QString, int> &sets)

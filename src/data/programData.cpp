@@ -168,6 +168,25 @@ void programData::loadDatabase(databaseKind kind, const progressFunction &progre
     if (name.isEmpty() || isSwitchedOff(databaseKeys[kind].load)
         || !readInto(*database, paths::data(name), progress))
         return;
+    putInUse(kind, std::move(database));
+}
+
+bool programData::reloadDatabase(databaseKind kind)
+{
+    const QString path = m_databases[kind]->filePath;
+    auto database = std::make_unique<kiv_mat_databaseStruct>();
+    QString reason;
+    if (!readChecked(path, database.get(), &reason)) {
+        userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+        return false;
+    }
+    putInUse(kind, std::move(database));
+    return true;
+}
+
+void programData::putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database)
+{
+    m_files[kind] = fileState::of(database->filePath);
     const bool again = m_databases[kind]->materialCount() > 0;
     const auto before = std::exchange(m_databases[kind], std::move(database));
     if (!again) {

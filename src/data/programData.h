@@ -3,6 +3,7 @@
 #pragma once
 
 #include "data/configStruct.h"
+#include "data/documentSaving.h"
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
@@ -36,6 +37,11 @@ public:
     void loadFirm(const progressFunction &progress = {});
     void loadDatabase(databaseKind kind, const progressFunction &progress = {});
     void loadBoms();
+    // Reads a loaded database's file again, whatever the options say now. False, with the database
+    // as it is, when it cannot be read.
+    bool reloadDatabase(databaseKind kind);
+    // The file of a database as it was when it was read or, once it is told, written.
+    fileState &fileOf(databaseKind kind) { return m_files[kind]; }
 
     // Whether the schema of a kind is there. The first one that is missing is listed.
     bool schemaIsThere(const fileKind &kind);
@@ -58,12 +64,14 @@ public:
 private:
     programData() { clear(); }
 
+    void putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database);
     bool isSwitchedOff(QLatin1String loadKey) const;
     bool readInto(documentStruct &record, const QString &path, const progressFunction &progress);
 
     std::unique_ptr<configStruct> m_config;
     std::unique_ptr<kiv_mat_firmStruct> m_firm;
     std::array<std::unique_ptr<kiv_mat_databaseStruct>, databaseCount> m_databases;
+    std::array<fileState, databaseCount> m_files;
     std::unique_ptr<kiv_mat_bomsStruct> m_boms;
     ktmIndex m_materials;
     materialSearch m_search;

@@ -186,6 +186,8 @@ void Kiv_mat_databaseMergeWindow::updateActions()
 
 void Kiv_mat_databaseMergeWindow::commandSet(bool)
 {
+    if (m_database->view()->isEditingLocked())
+        return;
     // Of each material in the list: all of its fields, or those selected.
     std::map<int, std::set<int>> selected;
     for (const QModelIndex &cell : m_view->selectedCells()) {

@@ -21,6 +21,9 @@ public:
     // Compares with a file; false, listed in the errors window, when it cannot be read.
     bool open(const QString &path);
 
+    // After the database's lock changed.
+    void updateActions();
+
     myModel *model() { return m_model; }
     myTreeView *view() { return m_view; }
 
@@ -42,7 +45,6 @@ private slots:
 
 private:
     void showDifferences();
-    void updateActions();
 
     Kiv_mat_databaseWindow *m_database;
     std::unique_ptr<kiv_mat_databaseStruct> m_other;

@@ -207,7 +207,11 @@ Kiv_mat_databaseWindow::Kiv_mat_databaseWindow(programData::databaseKind kind)
     commandEdit(false);
 }
 
-Kiv_mat_databaseWindow::~Kiv_mat_databaseWindow() { m_stack->clear(); }
+Kiv_mat_databaseWindow::~Kiv_mat_databaseWindow()
+{
+    m_stack->clear();
+    m_model->detach();
+}
 
 void Kiv_mat_databaseWindow::buildWidgets()
 {
@@ -216,6 +220,13 @@ void Kiv_mat_databaseWindow::buildWidgets()
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
     m_model = new myModel(this);
     m_model->setStack(m_stack.get());
+    m_model->setCheck([this](const myItemStandard &item, const QVariant &value) {
+        return faultOf(item, value.toString());
+    });
+    connect(
+        m_model, &myModel::refused, this,
+        [](const QString &fault) { userPrompts().showError(fault.toHtmlEscaped()); },
+        Qt::QueuedConnection);
 
     auto *page = new QWidget(this);
     m_words = new QLineEdit(page);
@@ -370,8 +381,25 @@ void Kiv_mat_databaseWindow::push(std::unique_ptr<command> change, const QString
 
 void Kiv_mat_databaseWindow::commandSave(bool)
 {
+    m_view->finishEditing();
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString path = database.filePath;
+    fileState &onDisk = programData::instance().fileOf(m_kind);
+    if (!(fileState::of(path) == onDisk)) {
+        enum
+        {
+            reload,
+            overwrite
+        };
+        const auto answer = userPrompts().decide(
+            tr("The file %1 was changed by another program since it was opened.")
+                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+            {tr("Reload it and lose the changes here"), tr("Overwrite it")});
+        if (answer == reload)
+            reloadFile();
+        if (answer != overwrite)
+            return;
+    }
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     QApplication::setOverrideCursor(Qt::BusyCursor);
@@ -381,16 +409,39 @@ void Kiv_mat_databaseWindow::commandSave(bool)
         database.update = before;
         return;
     }
+    onDisk = fileState::of(path);
     m_stack->clear();
     m_modified = false;
     showTitle();
     statusBar()->showMessage(tr("Saved"));
 }
 
+// What the program works with is what the file holds. False when it cannot be read: then what was
+// edited is still there, and still not saved.
+bool Kiv_mat_databaseWindow::reloadFile()
+{
+    m_stack->clear();
+    m_model->setRecords(nullptr);
+    m_model->removeRows(0, m_model->rowCount());
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    const bool read = programData::instance().reloadDatabase(m_kind);
+    QApplication::restoreOverrideCursor();
+    showDatabase();
+    m_modified = !read;
+    showTitle();
+    userPrompts().showErrors();
+    return read;
+}
+
 void Kiv_mat_databaseWindow::commandClose(bool) { close(); }
 
 void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 {
+    m_view->finishEditing();
+    if (m_editor && m_editor->isVisible() && !m_editor->close()) {
+        event->ignore();
+        return;
+    }
     if (m_modified) {
         if (userPrompts().ask(tr("Save database"), false) == prompts::answer::yes) {
             commandSave(false);
@@ -398,16 +449,14 @@ void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
                 event->ignore();
                 return;
             }
-        } else {
-            // What the program works with is what the file holds.
-            m_stack->clear();
-            m_model->setRecords(nullptr);
-            m_model->removeRows(0, m_model->rowCount());
-            workProgress::scope work(progress(), tr("Reading"));
-            programData::instance().loadDatabase(m_kind, work.function());
-            showDatabase();
+        } else if (!reloadFile()) {
+            event->ignore();
+            return;
         }
     }
+    // It compares with what was shown here.
+    if (m_merge)
+        m_merge->close();
     m_stack->clear();
     action("edit")->setChecked(false);
     baseWindow::closeEvent(event);
@@ -418,10 +467,16 @@ void Kiv_mat_databaseWindow::commandEdit(bool on)
     m_view->setEditingLocked(!on);
     showTitle();
     updateActions();
+    if (m_merge)
+        m_merge->updateActions();
 }
 
 void Kiv_mat_databaseWindow::commandUndo(bool)
 {
+    if (m_view->isEditingLocked()) {
+        statusBar()->showMessage(tr("Editing locked"));
+        return;
+    }
     const QString what = m_stack->undo();
     changed();
     applyFilter();
@@ -430,6 +485,10 @@ void Kiv_mat_databaseWindow::commandUndo(bool)
 
 void Kiv_mat_databaseWindow::commandRedo(bool)
 {
+    if (m_view->isEditingLocked()) {
+        statusBar()->showMessage(tr("Editing locked"));
+        return;
+    }
     const QString what = m_stack->redo();
     changed();
     applyFilter();
@@ -550,6 +609,29 @@ void Kiv_mat_databaseWindow::commandEditCpv(bool)
         return;
     }
     push(std::make_unique<changeValue>(m_model, cell, *code), tr("Edit CPV"));
+}
+
+// What must not be stored, also when it is typed into a cell: codes of a wrong form, a KTM or a
+// group's name that stands for something else already.
+QString Kiv_mat_databaseWindow::faultOf(const myItemStandard &item, const QString &text) const
+{
+    if (item.column() == databaseTree::cpvColumn)
+        return text.isEmpty() || checkCpv(text) ? QString() : tr("CPV syntax error");
+    if (const d_groupStruct *renamed = materialRows::groupOf(&item)) {
+        for (const auto &group : m_rows->database().groups)
+            if (item.column() == databaseTree::nameColumn && group.get() != renamed
+                && group->name == text)
+                return tr("Group already exists");
+        return {};
+    }
+    if (item.column() != databaseTree::ktmColumn)
+        return {};
+    if (!checkKtm(text))
+        return tr("Ktm syntax error");
+    const ktmIndex::entry *known = programData::instance().materials().find(text);
+    return known && known->material != materialRows::materialOf(&item)
+               ? tr("Another material has this KTM")
+               : QString();
 }
 
 void Kiv_mat_databaseWindow::commandAddGroup(bool)

@@ -122,6 +122,8 @@ private:
     void updateActions();
     void showContextMenu(const QPoint &position);
     void changed();
+    bool reloadFile();
+    QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
     void push(std::unique_ptr<command> change, const QString &what);
     std::vector<materialStruct *> selectedMaterials() const;
     QStandardItem *currentGroup() const;

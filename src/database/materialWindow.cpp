@@ -107,7 +107,7 @@ materialWindow::materialWindow(QWidget *parent)
     , m_menu(new QMenu(this))
     , m_counts(new QLabel(this))
 {
-    setWindowModality(Qt::WindowModal);
+    setWindowModality(Qt::ApplicationModal);
     addActions(actionTable);
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
     m_model->setStack(m_stack.get());
@@ -247,21 +247,9 @@ void materialWindow::updateActions()
 }
 
 // A value that is just being typed counts, too.
-void materialWindow::finishEditing()
-{
-    QWidget *editor = QApplication::focusWidget();
-    while (editor && editor->parentWidget() != m_view->viewport())
-        editor = editor->parentWidget();
-    if (!editor)
-        return;
-    QAbstractItemDelegate *delegate = m_view->itemDelegate();
-    emit delegate->commitData(editor);
-    emit delegate->closeEditor(editor);
-}
-
 void materialWindow::commandSet(bool)
 {
-    finishEditing();
+    m_view->finishEditing();
     auto material = m_edited->copy();
     materialChecks::tidy(material.get());
     if (const auto fault = materialChecks::firstFault(*material)) {
@@ -289,7 +277,7 @@ void materialWindow::commandClose(bool) { close(); }
 // Whether nothing of the material shown is lost, or the user lets it go.
 bool materialWindow::mayLeave()
 {
-    finishEditing();
+    m_view->finishEditing();
     if (!isChanged())
         return true;
     const prompts::answer answer = userPrompts().ask(tr("Set the changed material?"), true);

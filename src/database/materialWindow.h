@@ -15,7 +15,7 @@ class materialWindow : public baseWindow
 {
     Q_OBJECT
 public:
-    // While it is shown its parent takes no input, so that the rows it was opened for stay.
+    // While it is shown no other window takes input, so that the rows it was opened for stay.
     explicit materialWindow(QWidget *parent = nullptr);
     ~materialWindow() override;
 
@@ -73,7 +73,6 @@ private:
     bool open(const origin &from, std::unique_ptr<materialStruct> material);
     bool isChanged() const { return m_stack->undoCount() > 0; }
     bool mayLeave();
-    void finishEditing();
     void goTo(const QStandardItem *item);
     void updateActions();
     QStandardItem *currentRow() const;

@@ -183,7 +183,12 @@ configWindow::configWindow()
     load();
 }
 
-configWindow::~configWindow() { m_stack->clear(); }
+configWindow::~configWindow()
+{
+    m_stack->clear();
+    for (myModel *model : {m_options, m_persons, m_targets})
+        model->detach();
+}
 
 myTreeView *configWindow::addTree(myModel *model, const QString &title, const char *name)
 {
@@ -207,6 +212,7 @@ myTreeView *configWindow::addTree(myModel *model, const QString &title, const ch
 void configWindow::load()
 {
     m_stack->clear();
+    m_changedBefore = false;
     auto config = std::make_unique<configStruct>();
     if (!config->load(paths::config())) {
         config = std::make_unique<configStruct>();
@@ -300,7 +306,12 @@ void configWindow::commandRedo(bool)
     statusBar()->showMessage(tr("Done again: %1").arg(what));
 }
 
-void configWindow::clearCommands() { m_stack->clear(); }
+void configWindow::clearCommands()
+{
+    // Sorting ends the history, not the changes.
+    m_changedBefore = isChanged();
+    m_stack->clear();
+}
 
 void configWindow::commandAdd(bool)
 {
@@ -348,6 +359,8 @@ void configWindow::commandDefault(bool)
 
 void configWindow::commandSave(bool)
 {
+    for (myTreeView *view : m_views)
+        view->finishEditing();
     const QStringList faults = configOperations::faultsOf(*m_edited);
     if (!faults.isEmpty()) {
         userPrompts().showError(text::toHtml(faults.join(QLatin1Char('\n'))));
@@ -361,6 +374,7 @@ void configWindow::commandSave(bool)
     if (!known.replaceConfiguration(path))
         return;
     m_stack->clear();
+    m_changedBefore = false;
     updateActions();
     statusBar()->showMessage(tr("Saved"));
     emit configChange();
@@ -374,6 +388,8 @@ void configWindow::commandClose(bool) { close(); }
 
 void configWindow::closeEvent(QCloseEvent *event)
 {
+    for (myTreeView *view : m_views)
+        view->finishEditing();
     if (isChanged()) {
         const prompts::answer answer =
             userPrompts().ask(tr("Save the changed configuration?"), true);

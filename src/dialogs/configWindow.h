@@ -55,10 +55,11 @@ private:
     void showOptions();
     myTreeView *addTree(myModel *model, const QString &title, const char *name);
     void updateActions();
-    bool isChanged() const { return m_stack->undoCount() > 0; }
+    bool isChanged() const { return m_changedBefore || m_stack->undoCount() > 0; }
 
     std::unique_ptr<configStruct> m_edited;
     std::unique_ptr<commandStack> m_stack;
+    bool m_changedBefore = false; // changes that the history no longer holds
     QTabWidget *m_tabs;
     myModel *m_options;
     myModel *m_persons;

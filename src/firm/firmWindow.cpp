@@ -122,7 +122,12 @@ firmWindow::firmWindow()
     load();
 }
 
-firmWindow::~firmWindow() { m_stack->clear(); }
+firmWindow::~firmWindow()
+{
+    m_stack->clear();
+    for (myModel *model : findChildren<myModel *>())
+        model->detach();
+}
 
 void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
 {

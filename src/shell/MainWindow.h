@@ -147,6 +147,8 @@ private:
     bool printTo(const QString &path);
 
     // --- MainWindowLines.cpp ---
+    // Says so in the status bar when the order is locked.
+    bool isLocked();
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
                    const QString &what);
     std::optional<std::vector<int>> wantedRows();

@@ -41,8 +41,17 @@ void MainWindow::commandZpEdit(bool on)
     updateActions();
 }
 
+bool MainWindow::isLocked()
+{
+    if (m_order->linesView()->isEditingLocked())
+        statusBar()->showMessage(tr("Editing is locked"));
+    return m_order->linesView()->isEditingLocked();
+}
+
 void MainWindow::commandZpUndo(bool)
 {
+    if (isLocked())
+        return;
     const QString what = m_order->stack().undo();
     orderChanged();
     statusBar()->showMessage(tr("Undone: %1").arg(what));
@@ -50,6 +59,8 @@ void MainWindow::commandZpUndo(bool)
 
 void MainWindow::commandZpRedo(bool)
 {
+    if (isLocked())
+        return;
     const QString what = m_order->stack().redo();
     orderChanged();
     statusBar()->showMessage(tr("Done again: %1").arg(what));
@@ -345,6 +356,8 @@ void MainWindow::appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines
 
 void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)
 {
+    if (isLocked())
+        return;
     programData &known = programData::instance();
     const kiv_mat_zpStruct &order = orderDocument::instance().order();
     std::vector<std::unique_ptr<orderItemStruct>> lines;

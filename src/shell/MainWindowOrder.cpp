@@ -60,6 +60,7 @@ void MainWindow::leaveUnsaved()
 
 bool MainWindow::closeDocument()
 {
+    m_order->finishEditing();
     orderDocument &document = orderDocument::instance();
     if (!document.isModified())
         return true;
@@ -160,6 +161,7 @@ void MainWindow::offerRecovery()
 
 bool MainWindow::saveTo(const QString &path)
 {
+    m_order->finishEditing();
     orderDocument &document = orderDocument::instance();
     if (path == document.path() && document.changedOnDisk()) {
         enum
@@ -230,6 +232,7 @@ void MainWindow::commandZpSaveAs(bool) { saveAs(); }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    m_order->finishEditing();
     orderDocument &document = orderDocument::instance();
     if (document.isModified() && document.path().isEmpty()) {
         leaveUnsaved();

@@ -32,7 +32,7 @@ void set(myItemStandard *cell, const QString &text, const QString &picture, cons
 }
 
 void showStatus(const orderItemStruct &line, myItemStandard *cell, const ktmIndex &materials,
-                const configStruct &config)
+                const std::vector<comboBoxStruct> &statuses)
 {
     const orderOperations::lineState state = orderOperations::stateOf(line, materials);
     if (!state.known) {
@@ -41,7 +41,7 @@ void showStatus(const orderItemStruct &line, myItemStandard *cell, const ktmInde
         return;
     }
     QString picture = QStringLiteral("line_known");
-    for (const comboBoxStruct &status : config.statuses)
+    for (const comboBoxStruct &status : statuses)
         if (status.value == state.status)
             picture = status.icon.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0);
     set(cell, state.status, picture,
@@ -153,8 +153,10 @@ treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_z
                                        [](const orderItemStruct &) { return QString(); },
                                        {},
                                        false};
-    status.look = [&materials, &config](const orderItemStruct &line, myItemStandard *cell) {
-        showStatus(line, cell, materials, config);
+    // A copy: saving the configuration puts another one in its place.
+    status.look = [&materials, statuses = config.statuses](const orderItemStruct &line,
+                                                           myItemStandard *cell) {
+        showStatus(line, cell, materials, statuses);
     };
     table.push_back(std::move(status));
     return table;

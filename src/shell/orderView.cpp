@@ -49,7 +49,11 @@ orderView::orderView(QAction *undo, QAction *redo, QWidget *parent)
     m_attentions->setAccessibleName(labels::attentions());
     m_attentions->setTabChangesFocus(true);
     connect(m_attentions->document(), &QTextDocument::contentsChanged, this, [this] {
-        if (!m_loading && m_attentions->document()->isModified())
+        if (m_loading)
+            return;
+        // Also when undo brings the text back to how it was: the order has the other one by then.
+        m_attentionsTouched = m_attentionsTouched || m_attentions->document()->isModified();
+        if (m_attentionsTouched)
             emit changed();
     });
 
@@ -73,6 +77,8 @@ orderView::~orderView()
 {
     // Rows held by commands go before the records that rows in the tree look at.
     m_stack.clear();
+    m_options->detach();
+    m_lines->detach();
 }
 
 void orderView::buildOptions()
@@ -163,6 +169,7 @@ void orderView::show(kiv_mat_zpStruct &order)
     m_loading = true;
     m_attentions->setHtml(cleanHtml(order.attentions));
     m_attentions->document()->setModified(false);
+    m_attentionsTouched = false;
     m_loading = false;
     if (m_lines->rowCount() > 0)
         m_linesView->setCurrentIndex(m_lines->index(0, orderTree::nameColumn));
@@ -218,6 +225,12 @@ std::vector<const orderItemStruct *> orderView::records(const std::vector<int> &
     return found;
 }
 
+void orderView::finishEditing()
+{
+    m_optionsView->finishEditing();
+    m_linesView->finishEditing();
+}
+
 void orderView::setLocked(bool locked)
 {
     for (myTreeView *view : {m_optionsView, m_linesView})
@@ -227,7 +240,7 @@ void orderView::setLocked(bool locked)
 
 void orderView::takeAttentions()
 {
-    if (m_order && m_attentions->document()->isModified())
+    if (m_order && m_attentionsTouched)
         m_order->attentions = cleanHtml(m_attentions->toHtml());
 }
 

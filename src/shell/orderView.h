@@ -37,6 +37,8 @@ public:
     QList<myItem::myItemStandard *> cells(const std::vector<int> &rows, int column) const;
     std::vector<const orderItemStruct *> records(const std::vector<int> &rows) const;
 
+    // Takes what stands in an open editor.
+    void finishEditing();
     // While locked nothing can be edited.
     void setLocked(bool locked);
 
@@ -74,4 +76,5 @@ private:
     std::unique_ptr<listRows<orderItemStruct>> m_lineRows;
     kiv_mat_zpStruct *m_order = nullptr;
     bool m_loading = false;
+    bool m_attentionsTouched = false;
 };

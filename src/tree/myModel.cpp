@@ -92,6 +92,10 @@ void myModel::setValue(myItemStandard *item, const QVariant &value)
     }
     if (!myItem::differs(*item, value))
         return;
+    if (const QString fault = m_check ? m_check(*item, value) : QString(); !fault.isEmpty()) {
+        emit refused(fault);
+        return;
+    }
     const QString what = headerData(item->column(), Qt::Horizontal).toString();
     m_stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(this, item, value)),
                   what);

@@ -5,6 +5,7 @@
 
 #include <QStandardItemModel>
 
+#include <functional>
 #include <vector>
 
 class commandStack;
@@ -37,6 +38,8 @@ public:
     // edits cannot be undone, without records the model is all there is.
     void setStack(commandStack *stack) { m_stack = stack; }
     void setRecords(modelRecords *records) { m_records = records; }
+    // Lets go of both, before they go: an editor may still commit while its window is destroyed.
+    void detach() { m_stack = nullptr, m_records = nullptr; }
     modelRecords *records() const { return m_records; }
 
     // Numbers and dates sort by value, anything else by its text. Then sorted() is emitted.
@@ -47,6 +50,10 @@ public:
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
     void fetch(QStandardItem *item);
+
+    // What is asked before an edit: the fault of a value for a cell, empty when there is none.
+    using check = std::function<QString(const myItem::myItemStandard &item, const QVariant &value)>;
+    void setCheck(check newCheck) { m_check = std::move(newCheck); }
 
     // Sets a cell's value (its type as in myItem::valueOf) as one step of the undo history. Nothing
     // happens when the cell holds that value already, unless its text is another one than the value
@@ -79,6 +86,8 @@ signals:
     void appendOccured();
     void removeOccured();
     void changeValueOccured();
+    // An edit was refused by the check.
+    void refused(const QString &fault);
 
 private:
     friend class changeBatch;
@@ -89,6 +98,7 @@ private:
     modelRecords *m_records = nullptr;
     int m_sortColumn = -1; // rows made later are sorted likewise
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    check m_check;
     bool m_appendHeldBack = false;
     bool m_removeHeldBack = false;
     bool m_changeHeldBack = false;

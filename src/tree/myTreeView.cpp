@@ -53,6 +53,17 @@ void myTreeView::setModel(QAbstractItemModel *newModel)
                 });
 }
 
+void myTreeView::finishEditing()
+{
+    // Dialogs, which are windows of their own, end by their own buttons.
+    for (QWidget *editor :
+         viewport()->findChildren<QWidget *>(QStringLiteral("editor"), Qt::FindDirectChildrenOnly))
+        if (state() == EditingState && editor->isVisible()) {
+            emit itemDelegate()->commitData(editor);
+            emit itemDelegate()->closeEditor(editor);
+        }
+}
+
 void myTreeView::setEditingLocked(bool locked)
 {
     setEditTriggers(locked ? EditTriggers(NoEditTriggers) : EditTriggers(usualTriggers));

@@ -23,6 +23,9 @@ public:
     void expandItem(QStandardItem *item);
     void collapseItem(QStandardItem *item);
 
+    // Takes what stands in an open editor, and closes it.
+    void finishEditing();
+
     // While locked no editor opens.
     void setEditingLocked(bool locked);
     bool isEditingLocked() const { return editTriggers() == NoEditTriggers; }

@@ -129,13 +129,19 @@ void tst_databaseWindow::editsReachTheIndexes()
     m_window->selectMaterial(material);
     auto *cell = static_cast<myItem::myItemStandard *>(
         m_window->rows().find(material)->parent()->child(0, databaseTree::ktmColumn));
-    m_window->model()->setValue(cell, QString("NEW-KTM"));
-    QVERIFY(!known.find(ktm) && known.find("NEW-KTM")->material == material);
-    search("ktm:NEW-KTM");
+    m_window->model()->setValue(cell, QString("ABCDEF-01.01-00001"));
+    QVERIFY(!known.find(ktm) && known.find("ABCDEF-01.01-00001")->material == material);
+    search("ktm:ABCDEF-01.01-00001");
     QCOMPARE(m_window->shownCount(), 1);
     QVERIFY(m_window->isModified());
     m_window->commandUndo(true);
     QVERIFY(known.find(ktm));
+    // What must not be stored is refused in the cell, too.
+    for (const QString &wrong : {QString("wrong"), database().groups[1]->items[0]->d_ktm})
+        m_window->model()->setValue(cell, wrong);
+    QTRY_COMPARE(m_shown->errors,
+                 QStringList({"Ktm syntax error", "Another material has this KTM"}));
+    QCOMPARE(material->d_ktm, ktm);
     m_window->selectMaterial(material);
     m_window->commandDeleteMaterials(true);
     QVERIFY(!known.find(ktm));
@@ -213,6 +219,14 @@ void tst_databaseWindow::saving()
     QCOMPARE(loadDatabase(m_folder->path("_files/db_warehouse.xml"), &saved), 0);
     QCOMPARE(saved.materialCount(), database().materialCount());
     QVERIFY(saved.update.startsWith(QDate::currentDate().toString("yyyy.MM.dd")));
+    // Another program's work is not overwritten without a word.
+    saved.groups.front()->name = "written elsewhere";
+    QCOMPARE(saveXmlNoEvents(m_folder->path("_files/db_warehouse.xml"), &saved), 0);
+    m_window->commandSave(true);
+    QCOMPARE(m_shown->questions.size(), 1);
+    m_shown->input = 0;
+    m_window->commandSave(true);
+    QCOMPARE(database().groups.front()->name, QString("written elsewhere"));
     QVERIFY(!fileVersions::of(m_folder->path("_files/db_warehouse.xml"),
                               programData::instance().config().backupPath())
                  .isEmpty());
@@ -222,9 +236,10 @@ void tst_databaseWindow::listingIsOneStep()
 {
     const QByteArray before = content();
     const QString stock = first()->d_inWarehouse;
-    m_shown->file = m_folder->write("stock.txt", "Towar: " + first()->d_ktm.toUtf8()
-                                                     + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
-                                                       "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
+    m_shown->file =
+        m_folder->write("stock.txt", "Towar: " + first()->d_ktm.toUtf8()
+                                         + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
+                                           "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
     // The list of changes waits for its answer.
     QTimer answer;
     connect(&answer, &QTimer::timeout, this, [] {

@@ -29,6 +29,7 @@ private slots:
     void init();
     void cleanup();
     void openAsksFirst();
+    void openEditorIsSaved();
     void saveEndsTheHistory();
     void newOrderHasNoFile();
     void saveAsWritesTheReport();
@@ -129,6 +130,20 @@ void tst_order::openAsksFirst()
     m_window->commandZpOpen(true);
     QCOMPARE(order().orderItems.items[0]->quantity, QString("25"));
     QCOMPARE(userState::instance().lastZp, path());
+}
+
+void tst_order::openEditorIsSaved()
+{
+    m_window->show();
+    myTreeView *lines = view().linesView();
+    lines->setFocus();
+    lines->setCurrentIndex(view().lines()->index(0, orderTree::nameColumn));
+    QTest::keyClick(lines, Qt::Key_F2);
+    auto *editor = lines->viewport()->findChild<QLineEdit *>("editor");
+    QVERIFY(editor);
+    editor->setText("STILL OPEN");
+    m_window->commandZpSave(true);
+    QVERIFY(testSupport::read(path()).contains("STILL OPEN"));
 }
 
 void tst_order::saveEndsTheHistory()
@@ -492,6 +507,9 @@ void tst_order::attentions()
     QVERIFY(!order().attentions.contains("style="));
     view().attentions()->undo();
     QCOMPARE(view().attentions()->toPlainText(), before);
+    // The order follows, although the editor is as it was.
+    view().takeAttentions();
+    QVERIFY(!order().attentions.contains("<b>bold</b>"));
 }
 
 void tst_order::options()
@@ -523,6 +541,9 @@ void tst_order::locked()
     QVERIFY(!action("allUnits")->isEnabled());
     QVERIFY(action("allUnits")->toolTip().contains("locked"));
     QVERIFY(action("zpSave")->isEnabled() && action("allSum")->isEnabled());
+    const int lines = view().lines()->rowCount();
+    m_window->appendToOrder({"317121-03.03-00008"}, 1);
+    QCOMPARE(view().lines()->rowCount(), lines);
     action("zpEdit")->setChecked(true);
     QVERIFY(action("allUnits")->isEnabled());
 }
@@ -619,6 +640,17 @@ void tst_order::configuration()
     QCOMPARE(saved.options.value("FONT_SIZE"), QString("20"));
     QCOMPARE(saved.persons.items[0]->name, QString("New Name"));
     QCOMPARE(programData::instance().config().options.value("FONT_SIZE"), QString("20"));
+    // The order's lines do not look at the configuration that went.
+    view().refreshLooks();
+    // Sorting ends the history, not the changes.
+    window.persons()->setValue(static_cast<myItem::myItemStandard *>(window.persons()->item(0, 4)),
+                               QString("Newer"));
+    window.persons()->sort(4);
+    m_shown->nextAnswer = answer::cancel;
+    window.show();
+    QVERIFY(!window.close());
+    m_shown->nextAnswer = answer::no;
+    QVERIFY(window.close());
 }
 
 KIVZP_TEST(tst_order)
