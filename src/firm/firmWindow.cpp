@@ -434,9 +434,15 @@ bool firmWindow::saveMaterials()
     }
     m_renames.clear();
     for (auto kind = m_unwritten.begin(); kind != m_unwritten.end();) {
-        const kiv_mat_databaseStruct &database = known.database(programData::databaseKind(*kind));
-        kind =
-            saveDocument(database.filePath, database) ? m_unwritten.erase(kind) : std::next(kind);
+        const auto written = programData::databaseKind(*kind);
+        const kiv_mat_databaseStruct &database = known.database(written);
+        if (!saveDocument(database.filePath, database)) {
+            ++kind;
+            continue;
+        }
+        // The database's own window would take this for another program's work.
+        known.fileOf(written) = fileState::of(database.filePath);
+        kind = m_unwritten.erase(kind);
     }
     if (anyChanged)
         emit materialsChanged();
