@@ -5,15 +5,15 @@
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "database/Kiv_mat_databaseWindow.h"
+#include "order/orderDocument.h"
+#include "order/orderView.h"
 #include "shell/MainWindow.h"
-#include "shell/orderDocument.h"
-#include "shell/orderView.h"
-#include "shell/userState.h"
 #include "tree/myTreeView.h"
 #include "util/localeSetup.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/translation.h"
+#include "util/userState.h"
 
 #include <QApplication>
 #include <QDir>

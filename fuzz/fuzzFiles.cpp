@@ -3,7 +3,7 @@
 #include "data/XmlValidator.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
-#include "report/cleanHtml.h"
+#include "util/cleanHtml.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 

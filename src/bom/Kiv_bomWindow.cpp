@@ -243,7 +243,7 @@ QList<QStandardItem *> Kiv_bomWindow::selectedFiles() const
 QString Kiv_bomWindow::pathOf(const QStandardItem *first) const
 {
     const fileStruct *file = bomTree::fileOf(first);
-    return file ? bomOperations::pathOf(*file, boms().filePath) : QString();
+    return file ? ::pathOf(*file, boms().filePath) : QString();
 }
 
 QString Kiv_bomWindow::currentPath() const { return pathOf(current()); }

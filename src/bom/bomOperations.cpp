@@ -1,14 +1,13 @@
 #include "bom/bomOperations.h"
 
 #include "data/programData.h"
-#include "shell/orderOperations.h"
+#include "order/orderOperations.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/numbers.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 namespace bomOperations {
@@ -78,24 +77,6 @@ bool readBom(const QString &path, kiv_mat_bomStruct *bom, QString *error)
                                                                  : messages::fileCorrupted(),
                               path, reason);
     return false;
-}
-
-QString pathOf(const fileStruct &entry, const QString &setPath)
-{
-    const QDir folder = QFileInfo(setPath).absoluteDir();
-    return entry.name.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(entry.name));
-}
-
-QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath)
-{
-    QStringList paths;
-    for (const auto &category : boms.categories)
-        for (const auto &group : category->items)
-            for (const auto &entry : group->items)
-                paths.append(pathOf(*entry, setPath));
-    paths.removeAll({});
-    paths.removeDuplicates();
-    return paths;
 }
 
 QString bomLine::shownKtm() const

@@ -20,12 +20,6 @@ namespace bomOperations {
 // line for the errors window, which tells a missing file from an invalid one.
 bool readBom(const QString &path, kiv_mat_bomStruct *bom, QString *error);
 
-// The file that an entry of a set of BOM lists names: relative names start at the folder of the
-// set's own file, setPath. Empty when the entry has no name.
-QString pathOf(const fileStruct &entry, const QString &setPath);
-// The files of all its groups, in the order of the set, each once.
-QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath);
-
 // --- Lines ---
 
 // A line beside what the databases know of its KTM.

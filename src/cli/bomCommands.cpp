@@ -4,7 +4,7 @@
 #include "bom/bomReport.h"
 #include "data/configStruct.h"
 #include "data/loaders.h"
-#include "shell/orderOperations.h"
+#include "order/orderOperations.h"
 #include "util/files.h"
 #include "util/paths.h"
 

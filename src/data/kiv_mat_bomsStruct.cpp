@@ -2,6 +2,9 @@
 
 #include "util/labels.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 const fieldTable<fileGroup> &fileGroup::fields()
 {
     static const fieldTable<fileGroup> table{
@@ -50,4 +53,22 @@ int kiv_mat_bomsStruct::writeContent(QXmlStreamWriter *writer) const
     writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
     writer->writeComment(QStringLiteral(" "));
     return writeAll(writer, categories);
+}
+
+QString pathOf(const fileStruct &entry, const QString &setPath)
+{
+    const QDir folder = QFileInfo(setPath).absoluteDir();
+    return entry.name.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(entry.name));
+}
+
+QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath)
+{
+    QStringList paths;
+    for (const auto &category : boms.categories)
+        for (const auto &group : category->items)
+            for (const auto &entry : group->items)
+                paths.append(pathOf(*entry, setPath));
+    paths.removeAll({});
+    paths.removeDuplicates();
+    return paths;
 }

@@ -4,6 +4,8 @@
 #include "data/documentStruct.h"
 #include "data/sharedRecords.h"
 
+#include <QStringList>
+
 class fileGroup : public listRecord<fileGroup, fileStruct>
 {
 public:
@@ -37,3 +39,11 @@ public:
 protected:
     int writeContent(QXmlStreamWriter *writer) const override;
 };
+
+// --- The files of a set ---
+
+// The file that an entry of a set of BOM lists names: relative names start at the folder of the
+// set's own file, setPath. Empty when the entry has no name.
+QString pathOf(const fileStruct &entry, const QString &setPath);
+// The files of all its groups, in the order of the set, each once.
+QStringList filesOf(const kiv_mat_bomsStruct &boms, const QString &setPath);

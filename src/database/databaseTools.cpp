@@ -11,14 +11,14 @@
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
-#include "shell/orderDocument.h"
-#include "shell/userState.h"
+#include "order/orderDocument.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "util/userState.h"
 #include "window/workProgress.h"
 
 #include <QDesktopServices>

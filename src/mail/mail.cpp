@@ -1,7 +1,7 @@
 #include "mail/mail.h"
 
-#include "bom/bomOperations.h"
 #include "data/configStruct.h"
+#include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
@@ -244,7 +244,7 @@ QStringList filesToSend(contents what, const configStruct &config)
     kiv_mat_bomsStruct boms;
     loadBoms(set, &boms);
     add(set);
-    for (const QString &path : bomOperations::filesOf(boms, set))
+    for (const QString &path : filesOf(boms, set))
         add(path);
     return list;
 }

@@ -6,8 +6,8 @@
 #include "bom/bomOperations.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
-#include "shell/orderOperations.h"
-#include "shell/orderRecovery.h"
+#include "order/orderOperations.h"
+#include "order/orderRecovery.h"
 #include "window/baseWindow.h"
 
 #include <array>

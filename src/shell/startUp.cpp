@@ -5,13 +5,13 @@
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
-#include "shell/userState.h"
 #include "util/dataFolder.h"
 #include "util/files.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/translation.h"
+#include "util/userState.h"
 #include "window/dialogPrompts.h"
 
 #include <QApplication>

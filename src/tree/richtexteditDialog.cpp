@@ -1,6 +1,6 @@
 #include "tree/richtexteditDialog.h"
 
-#include "report/cleanHtml.h"
+#include "util/cleanHtml.h"
 #include "util/prompts.h"
 
 #include <QColorDialog>

@@ -5,7 +5,7 @@
 #include "commands/commandStack.h"
 #include "commands/editCommands.h"
 #include "data/configStruct.h"
-#include "shell/orderTree.h"
+#include "order/orderTree.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>

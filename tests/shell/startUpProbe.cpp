@@ -1,7 +1,7 @@
 // The whole program as a process of its own, for tests and benchmarks of the start: prints what the
 // user would see, and ends with exit code 7 as soon as the main window is shown.
+#include "order/orderView.h"
 #include "shell/MainWindow.h"
-#include "shell/orderView.h"
 #include "shell/startUp.h"
 #include "util/paths.h"
 #include "util/text.h"

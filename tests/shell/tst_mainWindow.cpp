@@ -2,11 +2,11 @@
 #include "testSupport.h"
 
 #include "data/programData.h"
+#include "order/orderDocument.h"
+#include "report/myWebView.h"
 #include "shell/MainWindow.h"
-#include "shell/orderDocument.h"
 #include "shell/startupDialog.h"
-#include "shell/userState.h"
-#include "tree/myWebView.h"
+#include "util/userState.h"
 
 #include <QAction>
 #include <QApplication>

@@ -9,16 +9,16 @@
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
 #include "dialogs/aboutDialog.h"
-#include "dialogs/addMaterialDialog.h"
-#include "dialogs/linesDialog.h"
+#include "order/addMaterialDialog.h"
+#include "order/linesDialog.h"
 #include "firm/firmWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
-#include "shell/orderDocument.h"
-#include "shell/orderView.h"
+#include "order/orderDocument.h"
+#include "order/orderView.h"
 #include "shell/startupDialog.h"
-#include "shell/userState.h"
+#include "util/userState.h"
 #include "tree/myTreeView.h"
 #include "tree/richtexteditDialog.h"
 #include "util/localeSetup.h"
@@ -180,7 +180,7 @@ QWidget *showNeeds(MainWindow &window)
     const ktmIndex &materials = programData::instance().materials();
     std::vector<std::unique_ptr<kiv_mat_bomStruct>> read;
     std::vector<bomOperations::bomSets> lists;
-    for (const QString &path : bomOperations::filesOf(programData::instance().boms(),
+    for (const QString &path : filesOf(programData::instance().boms(),
                                                       programData::instance().boms().filePath)) {
         read.push_back(std::make_unique<kiv_mat_bomStruct>());
         QString error;

@@ -1,18 +1,18 @@
 // An order's life in the main window: edited, saved, closed, recovered.
 #include "testSupport.h"
 
+#include "config/configWindow.h"
 #include "data/loaders.h"
 #include "data/programData.h"
-#include "dialogs/addMaterialDialog.h"
-#include "dialogs/configWindow.h"
 #include "dialogs/emailTempWindow.h"
+#include "order/addMaterialDialog.h"
+#include "order/orderDocument.h"
+#include "order/orderView.h"
 #include "shell/MainWindow.h"
-#include "shell/orderDocument.h"
-#include "shell/orderView.h"
-#include "shell/userState.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
 #include "util/fileVersions.h"
+#include "util/userState.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,9 +1,9 @@
-#include "shell/orderDocument.h"
+#include "order/orderDocument.h"
 
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "order/orderOperations.h"
 #include "report/orderReport.h"
-#include "shell/orderOperations.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"

@@ -1,4 +1,4 @@
-#include "shell/userState.h"
+#include "util/userState.h"
 
 #include <QSettings>
 

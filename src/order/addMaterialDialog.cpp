@@ -1,8 +1,8 @@
-#include "dialogs/addMaterialDialog.h"
+#include "order/addMaterialDialog.h"
 
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/programData.h"
-#include "shell/orderTree.h"
+#include "order/orderTree.h"
 #include "util/labels.h"
 
 #include <QApplication>

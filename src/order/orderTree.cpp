@@ -1,4 +1,4 @@
-#include "shell/orderTree.h"
+#include "order/orderTree.h"
 
 #include "data/configStruct.h"
 #include "data/vocabulary.h"

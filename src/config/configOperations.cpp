@@ -1,4 +1,4 @@
-#include "dialogs/configOperations.h"
+#include "config/configOperations.h"
 
 #include "data/vocabulary.h"
 #include "util/labels.h"

@@ -1,7 +1,7 @@
 // How an order stands in trees: the columns of its lines, and its options.
 #pragma once
 
-#include "shell/orderOperations.h"
+#include "order/orderOperations.h"
 #include "tree/columnTable.h"
 
 namespace orderTree {

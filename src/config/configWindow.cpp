@@ -1,11 +1,11 @@
-#include "dialogs/configWindow.h"
+#include "config/configWindow.h"
 
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
+#include "config/configOperations.h"
 #include "data/documentSaving.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
-#include "dialogs/configOperations.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/paths.h"

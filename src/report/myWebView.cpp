@@ -1,4 +1,4 @@
-#include "tree/myWebView.h"
+#include "report/myWebView.h"
 
 #include "report/reportPage.h"
 

@@ -1,4 +1,4 @@
-#include "dialogs/linesDialog.h"
+#include "order/linesDialog.h"
 
 #include "data/kiv_mat_zpStruct.h"
 

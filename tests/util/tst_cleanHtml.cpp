@@ -1,7 +1,7 @@
 // Foreign HTML reduced to plain markup.
 #include "testSupport.h"
 
-#include "report/cleanHtml.h"
+#include "util/cleanHtml.h"
 
 class tst_cleanHtml : public QObject
 {

@@ -1,12 +1,12 @@
-#include "shell/orderView.h"
+#include "order/orderView.h"
 
 #include "data/configStruct.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
-#include "report/cleanHtml.h"
 #include "tree/myModelDelegate.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "util/cleanHtml.h"
 #include "util/labels.h"
 
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "report/cleanHtml.h"
+#include "util/cleanHtml.h"
 
 #include "util/inertDocument.h"
 #include "util/text.h"

@@ -1,4 +1,4 @@
-#include "shell/orderOperations.h"
+#include "order/orderOperations.h"
 
 #include "data/configStruct.h"
 #include "data/kiv_mat_databaseStruct.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "commands/commandStack.h"
-#include "shell/orderTree.h"
+#include "order/orderTree.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "shell/orderRecovery.h"
+#include "order/orderRecovery.h"
 
 #include "data/kiv_mat_zpStruct.h"
 #include "data/loaders.h"
