@@ -60,7 +60,7 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(const QString &path)
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/dialog_bom2_128.png")));
     addActions(actionTable);
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_model->setStack(m_stack.get());
+    recordEdits(m_model, m_stack.get());
     m_view->setObjectName(QStringLiteral("lines"));
     m_view->setAccessibleName(tr("Lines of the BOM list"));
     m_view->setModel(m_model);

@@ -106,7 +106,7 @@ Kiv_bomWindow::Kiv_bomWindow()
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/action_bom.png")));
     addActions(actionTable);
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_model->setStack(m_stack.get());
+    recordEdits(m_model, m_stack.get());
     m_view->setObjectName(QStringLiteral("boms"));
     m_view->setAccessibleName(tr("BOM lists"));
     m_view->setModel(m_model);
@@ -377,7 +377,7 @@ void Kiv_bomWindow::commandAddFile(bool)
     std::vector<std::unique_ptr<command>> members;
     QStandardItem *group = groupForNewFile(members);
     members.push_back(std::make_unique<appendItems>(group, m_rows->makeRow(std::move(file))));
-    push(std::make_unique<appendCommands>(std::move(members)), tr("List added"));
+    push(std::make_unique<appendCommands>(std::move(members), m_model), tr("List added"));
     m_view->expandItem(group);
     selectItem(m_view, group->child(group->rowCount() - 1, bomTree::setsColumn));
 }
@@ -402,7 +402,7 @@ void Kiv_bomWindow::commandAddGroup(bool)
     auto group = std::make_unique<fileGroup>();
     group->name = *name;
     members.push_back(std::make_unique<appendItems>(category, m_rows->makeRow(std::move(group))));
-    push(std::make_unique<appendCommands>(std::move(members)), tr("Group added"));
+    push(std::make_unique<appendCommands>(std::move(members), m_model), tr("Group added"));
     m_view->expandItem(category);
     selectItem(m_view, category->child(category->rowCount() - 1));
 }
@@ -419,7 +419,7 @@ void Kiv_bomWindow::commandDelete(bool)
     }
     if (folderWithContent)
         userPrompts().showInformation(tr("Only empty folders can be deleted"));
-    const changeBatch batch;
+    const changeBatch batch(m_model);
     std::vector<std::unique_ptr<command>> members;
     for (QStandardItem *first : firsts) {
         if (first->parent())
@@ -428,7 +428,7 @@ void Kiv_bomWindow::commandDelete(bool)
             members.push_back(std::make_unique<deleteMaterial>(m_model, first->index()));
     }
     if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members)),
+        push(std::make_unique<appendCommands>(std::move(members), m_model),
              tr("%n row(s) deleted", nullptr, int(firsts.size())));
 }
 

@@ -1,7 +1,6 @@
 #include "commands/cellBlock.h"
 
 #include "commands/editCommands.h"
-#include "tree/myModel.h"
 
 #include <QCoreApplication>
 
@@ -18,13 +17,14 @@ QString oneLine(QString text)
     return text;
 }
 
-std::unique_ptr<command> grouped(std::vector<std::unique_ptr<command>> members, htmlView *view)
+std::unique_ptr<command> grouped(std::vector<std::unique_ptr<command>> members, myModel *model,
+                                 htmlView *view)
 {
     if (members.empty())
         return nullptr;
     if (view)
         members.push_back(std::make_unique<refreshHtml>(view));
-    return std::make_unique<appendCommands>(std::move(members));
+    return std::make_unique<appendCommands>(std::move(members), model);
 }
 
 } // namespace
@@ -47,7 +47,7 @@ std::unique_ptr<command> set(myModel *model, const QList<myItemStandard *> &cell
                              const std::function<QVariant(const myItemStandard &)> &value,
                              htmlView *view, whichCells which)
 {
-    const changeBatch batch;
+    const changeBatch batch(model);
     std::vector<std::unique_ptr<command>> members;
     for (myItemStandard *cell : cells) {
         if (cell->readOnly && which == editableOnly)
@@ -56,7 +56,7 @@ std::unique_ptr<command> set(myModel *model, const QList<myItemStandard *> &cell
         if (wanted.isValid() && myItem::differs(*cell, wanted))
             members.push_back(std::make_unique<changeValue>(model, cell, wanted));
     }
-    return grouped(std::move(members), view);
+    return grouped(std::move(members), model, view);
 }
 
 std::unique_ptr<command> clear(myModel *model, const QList<myItemStandard *> &cells, htmlView *view)
@@ -67,12 +67,12 @@ std::unique_ptr<command> clear(myModel *model, const QList<myItemStandard *> &ce
 
 std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows, htmlView *view)
 {
-    const changeBatch batch;
+    const changeBatch batch(model);
     std::vector<std::unique_ptr<command>> members;
     // From the last one on, so that the numbers of the others stay true.
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)
         members.push_back(std::make_unique<deleteMaterial>(model, model->index(*row, 0)));
-    return grouped(std::move(members), view);
+    return grouped(std::move(members), model, view);
 }
 
 pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
@@ -99,7 +99,7 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
     }
 
     pasted result;
-    const changeBatch batch;
+    const changeBatch batch(model);
     std::vector<std::unique_ptr<command>> members;
     for (const auto &[index, typed] : qAsConst(targets)) {
         myItemStandard *cell = model->cell(index);
@@ -116,7 +116,7 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
             members.push_back(std::make_unique<changeValue>(model, cell, value));
     }
     result.changed = int(members.size());
-    result.change = grouped(std::move(members), view);
+    result.change = grouped(std::move(members), model, view);
     return result;
 }
 

@@ -1,6 +1,6 @@
 #include "commands/editCommands.h"
 
-#include "tree/myModel.h"
+#include "commands/commandStack.h"
 
 #include <algorithm>
 #include <numeric>
@@ -45,8 +45,18 @@ void writeCell(QStandardItem *item)
 
 } // namespace
 
-appendCommands::appendCommands(std::vector<std::unique_ptr<command>> members)
+void recordEdits(myModel *model, commandStack *stack)
+{
+    model->setEditHook([model, stack](myItemStandard *item, const QVariant &value) {
+        const QString what = model->headerData(item->column(), Qt::Horizontal).toString();
+        stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(model, item, value)),
+                    what);
+    });
+}
+
+appendCommands::appendCommands(std::vector<std::unique_ptr<command>> members, myModel *model)
     : m_members(std::move(members))
+    , m_model(model)
 {
 }
 
@@ -58,7 +68,7 @@ appendCommands::~appendCommands()
 
 void appendCommands::undo()
 {
-    const changeBatch batch;
+    const changeBatch batch(m_model);
     for (auto member = m_members.rbegin(); member != m_members.rend(); ++member)
         if (*member)
             (*member)->undo();
@@ -66,7 +76,7 @@ void appendCommands::undo()
 
 void appendCommands::redo()
 {
-    const changeBatch batch;
+    const changeBatch batch(m_model);
     for (const auto &member : m_members)
         if (member)
             member->redo();

@@ -4,13 +4,17 @@
 #pragma once
 
 #include "commands/command.h"
-#include "tree/myItem.h"
+#include "tree/myModel.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-class myModel;
+class commandStack;
+
+// Makes edits of a model's cells steps of a history, which outlives the model's use, named after
+// the cells' columns.
+void recordEdits(myModel *model, commandStack *stack);
 
 // A row outside the tree, deleted with its holder.
 class heldRow
@@ -33,11 +37,12 @@ private:
 };
 
 // One step made of several commands: undone from the last to the first, done again from the first
-// to the last. The models tell of their changes once, at the end.
+// to the last. The model that they change tells of it once, at the end.
 class appendCommands : public command
 {
 public:
-    explicit appendCommands(std::vector<std::unique_ptr<command>> members);
+    explicit appendCommands(std::vector<std::unique_ptr<command>> members,
+                            myModel *model = nullptr);
     ~appendCommands() override;
     void undo() override;
     void redo() override;
@@ -45,6 +50,7 @@ public:
 
 private:
     std::vector<std::unique_ptr<command>> m_members;
+    QPointer<myModel> m_model;
 };
 
 // A row added at the end below a parent; with a null parent nothing happens.

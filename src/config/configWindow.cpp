@@ -192,7 +192,7 @@ configWindow::~configWindow()
 
 myTreeView *configWindow::addTree(myModel *model, const QString &title, const char *name)
 {
-    model->setStack(m_stack.get());
+    recordEdits(model, m_stack.get());
     auto *view = new myTreeView(m_tabs);
     view->setObjectName(QLatin1String(name));
     view->setAccessibleName(title);

@@ -224,7 +224,8 @@ void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)
         members.push_back(std::make_unique<deleteMaterial>(m_model, m_model->index(*row, 0)));
     if (!members.empty())
-        m_stack->push(std::make_unique<appendCommands>(std::move(members)), tr("Leave out"));
+        m_stack->push(std::make_unique<appendCommands>(std::move(members), m_model),
+                      tr("Leave out"));
     updateActions();
 }
 

@@ -219,7 +219,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     addActions(actionTable);
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
     m_model = new myModel(this);
-    m_model->setStack(m_stack.get());
+    recordEdits(m_model, m_stack.get());
     m_model->setCheck([this](const myItemStandard &item, const QVariant &value) {
         return faultOf(item, value.toString());
     });
@@ -567,7 +567,7 @@ void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
     if (members.empty())
         return;
     const int count = int(members.size());
-    push(std::make_unique<appendCommands>(std::move(members)),
+    push(std::make_unique<appendCommands>(std::move(members), m_model),
          tr("%n material(s) pasted", nullptr, count));
     m_view->expand(group->index());
     if (withoutKtm > 0)
@@ -590,7 +590,7 @@ void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
         members.push_back(std::make_unique<deleteMaterial>(m_model, group->index()));
     }
     const int count = int(members.size());
-    push(std::make_unique<appendCommands>(std::move(members)),
+    push(std::make_unique<appendCommands>(std::move(members), m_model),
          tr("%n material(s) deleted", nullptr, count));
 }
 

@@ -286,7 +286,8 @@ void Kiv_mat_databaseWindow::commandLoadCPVForGroups(bool)
                                                   group->row(), databaseTree::cpvColumn)),
                                               change.after));
     if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members)), tr("Load CPV for groups"));
+        push(std::make_unique<appendCommands>(std::move(members), m_model),
+             tr("Load CPV for groups"));
 }
 
 void Kiv_mat_databaseWindow::commandMoveCPVFromGroupToMaterials(bool)
@@ -310,7 +311,7 @@ void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { QDesktopServices::openUr
 void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
                                       bool deleteAbsent, const QString &what)
 {
-    const changeBatch batch;
+    const changeBatch batch(m_model);
     std::vector<std::unique_ptr<command>> members;
     const auto groupNamed = [this, &members](const d_groupStruct &like) -> QStandardItem * {
         for (int row = 0; row < m_model->rowCount(); ++row)
@@ -342,7 +343,7 @@ void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &sel
                                                           m_rows->makeRow(merged(difference))));
     }
     if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members)), what);
+        push(std::make_unique<appendCommands>(std::move(members), m_model), what);
 }
 
 void Kiv_mat_databaseWindow::commandMerge(bool)

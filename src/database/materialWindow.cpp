@@ -110,7 +110,7 @@ materialWindow::materialWindow(QWidget *parent)
     setWindowModality(Qt::ApplicationModal);
     addActions(actionTable);
     m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_model->setStack(m_stack.get());
+    recordEdits(m_model, m_stack.get());
     m_view->setObjectName(QStringLiteral("material"));
     m_view->setAccessibleName(tr("Fields, manufacturers, suppliers and files of the material"));
     m_view->setModel(m_model);
@@ -347,7 +347,7 @@ void materialWindow::deleteRows(const QList<QStandardItem *> &firstCells, const 
     for (QStandardItem *first : firstCells)
         members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
     if (!members.empty())
-        m_stack->push(std::make_unique<appendCommands>(std::move(members)), what);
+        m_stack->push(std::make_unique<appendCommands>(std::move(members), m_model), what);
     updateActions();
 }
 

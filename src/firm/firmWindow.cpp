@@ -132,7 +132,7 @@ firmWindow::~firmWindow()
 void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
 {
     auto *model = new myModel(this);
-    model->setStack(m_stack.get());
+    recordEdits(model, m_stack.get());
     auto *view = new myTreeView(m_tabs);
     view->setObjectName(QLatin1String(name));
     view->setAccessibleName(title);

@@ -1,5 +1,6 @@
 #include "order/orderView.h"
 
+#include "commands/editCommands.h"
 #include "data/configStruct.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
@@ -83,7 +84,7 @@ orderView::~orderView()
 
 void orderView::buildOptions()
 {
-    m_options->setStack(&m_stack);
+    recordEdits(m_options, &m_stack);
     m_options->setRecords(&m_optionRows);
     m_options->setHorizontalHeaderLabels({tr("Order"), labels::value()});
     m_optionsView->setObjectName(QStringLiteral("orderOptions"));
@@ -100,7 +101,7 @@ void orderView::buildOptions()
 
 void orderView::buildLines()
 {
-    m_lines->setStack(&m_stack);
+    recordEdits(m_lines, &m_stack);
     m_linesView->setObjectName(QStringLiteral("orderLines"));
     m_linesView->setAccessibleName(tr("Lines of the order"));
     m_linesView->setModel(m_lines);

@@ -106,7 +106,7 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
     if (changes > 0) {
         std::unique_ptr<command> step;
         {
-            const changeBatch batch;
+            const changeBatch batch(m_order->lines());
             std::vector<std::unique_ptr<command>> members;
             myModel *lines = m_order->lines();
             for (orderChange &change : plan.changes)
@@ -120,7 +120,7 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
                                                          change.line, orderTree::quantityColumn)),
                                                      change.quantity));
             members.push_back(std::make_unique<::refreshHtml>(this));
-            step = std::make_unique<appendCommands>(std::move(members));
+            step = std::make_unique<appendCommands>(std::move(members), m_order->lines());
         }
         push(std::move(step), what);
     }

@@ -338,13 +338,13 @@ void MainWindow::appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines
         return;
     std::unique_ptr<command> change;
     {
-        const changeBatch batch;
+        const changeBatch batch(m_order->lines());
         std::vector<std::unique_ptr<command>> members;
         for (auto &line : lines)
             members.push_back(std::make_unique<appendNewMaterial>(
                 m_order->lines(), m_order->lineRows().makeDetachedRow(std::move(line))));
         members.push_back(std::make_unique<::refreshHtml>(this));
-        change = std::make_unique<appendCommands>(std::move(members));
+        change = std::make_unique<appendCommands>(std::move(members), m_order->lines());
     }
     push(std::move(change), what);
     myTreeView *view = m_order->linesView();

@@ -1,18 +1,10 @@
 #include "tree/myModel.h"
 
-#include "commands/commandStack.h"
-#include "commands/editCommands.h"
-
-#include <QPointer>
 #include <QSignalBlocker>
 
 using myItem::myItemStandard;
 
 namespace {
-
-int openBatches = 0;
-// Models that wait for the end of the outermost batch.
-QVector<QPointer<myModel>> waiting;
 
 constexpr int sortKeyRole = Qt::UserRole + 100;
 
@@ -85,20 +77,18 @@ void myModel::fetch(QStandardItem *item)
 
 void myModel::setValue(myItemStandard *item, const QVariant &value)
 {
-    if (!m_stack) {
+    if (!m_editHook) {
         myItem::setValue(item, value);
         writeCell(item);
         return;
     }
     if (!myItem::differs(*item, value))
         return;
-    if (const QString fault = m_check ? m_check(*item, value) : QString(); !fault.isEmpty()) {
+    const QString fault = m_check ? m_check(*item, value) : QString();
+    if (fault.isEmpty())
+        m_editHook(item, value);
+    else
         emit refused(fault);
-        return;
-    }
-    const QString what = headerData(item->column(), Qt::Horizontal).toString();
-    m_stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(this, item, value)),
-                  what);
 }
 
 myItem::row myModel::rowOf(const QModelIndex &index) const
@@ -149,7 +139,7 @@ void myModel::writeCell(myItemStandard *item)
 
 void myModel::emitAppendOccured()
 {
-    if (changeBatch::holdsBack(this))
+    if (m_openBatches > 0)
         m_appendHeldBack = true;
     else
         emit appendOccured();
@@ -157,7 +147,7 @@ void myModel::emitAppendOccured()
 
 void myModel::emitRemoveOccured()
 {
-    if (changeBatch::holdsBack(this))
+    if (m_openBatches > 0)
         m_removeHeldBack = true;
     else
         emit removeOccured();
@@ -165,7 +155,7 @@ void myModel::emitRemoveOccured()
 
 void myModel::emitChangeValueOccured()
 {
-    if (changeBatch::holdsBack(this))
+    if (m_openBatches > 0)
         m_changeHeldBack = true;
     else
         emit changeValueOccured();
@@ -181,23 +171,15 @@ void myModel::emitHeldBack()
         emit changeValueOccured();
 }
 
-changeBatch::changeBatch() { ++openBatches; }
+changeBatch::changeBatch(myModel *model)
+    : m_model(model)
+{
+    if (m_model)
+        ++m_model->m_openBatches;
+}
 
 changeBatch::~changeBatch()
 {
-    if (--openBatches > 0)
-        return;
-    const auto models = std::exchange(waiting, {});
-    for (const QPointer<myModel> &model : models)
-        if (model)
-            model->emitHeldBack();
-}
-
-bool changeBatch::holdsBack(myModel *model)
-{
-    if (openBatches == 0)
-        return false;
-    if (!waiting.contains(model))
-        waiting.append(model);
-    return true;
+    if (m_model && --m_model->m_openBatches == 0)
+        m_model->emitHeldBack();
 }

@@ -3,12 +3,11 @@
 
 #include "tree/myItem.h"
 
+#include <QPointer>
 #include <QStandardItemModel>
 
 #include <functional>
 #include <vector>
-
-class commandStack;
 
 // What a window's model shows: the records behind its rows. The model calls it, so that whatever
 // moves or changes in the tree, by a command or its undo, does the same in the records.
@@ -34,12 +33,15 @@ class myModel : public QStandardItemModel
 public:
     explicit myModel(QObject *parent);
 
-    // The window's undo history, and its records; both outlive the model's use. Without a history
-    // edits cannot be undone, without records the model is all there is.
-    void setStack(commandStack *stack) { m_stack = stack; }
+    // What carries out an edit, as a step of an undo history; without it a cell is set at once and
+    // nothing can be undone.
+    using editHook = std::function<void(myItem::myItemStandard *item, const QVariant &value)>;
+    void setEditHook(editHook hook) { m_editHook = std::move(hook); }
+    // The records behind the rows, which outlive their use here; without any the model is all there
+    // is.
     void setRecords(modelRecords *records) { m_records = records; }
     // Lets go of both, before they go: an editor may still commit while its window is destroyed.
-    void detach() { m_stack = nullptr, m_records = nullptr; }
+    void detach() { m_editHook = nullptr, m_records = nullptr; }
     modelRecords *records() const { return m_records; }
 
     // Numbers and dates sort by value, anything else by its text. Then sorted() is emitted.
@@ -55,9 +57,9 @@ public:
     using check = std::function<QString(const myItem::myItemStandard &item, const QVariant &value)>;
     void setCheck(check newCheck) { m_check = std::move(newCheck); }
 
-    // Sets a cell's value (its type as in myItem::valueOf) as one step of the undo history. Nothing
-    // happens when the cell holds that value already, unless its text is another one than the value
-    // gives. Without a history the cell is set at once.
+    // Sets a cell's value (its type as in myItem::valueOf) through the edit hook. Nothing happens
+    // when the cell holds that value already, unless its text is another one than the value gives,
+    // nor when the check refuses it.
     void setValue(myItem::myItemStandard *item, const QVariant &value);
 
     // The cells of a row as the model shows them, by any of its indexes.
@@ -94,27 +96,28 @@ private:
 
     void emitHeldBack();
 
-    commandStack *m_stack = nullptr;
+    editHook m_editHook;
     modelRecords *m_records = nullptr;
     int m_sortColumn = -1; // rows made later are sorted likewise
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     check m_check;
+    int m_openBatches = 0;
     bool m_appendHeldBack = false;
     bool m_removeHeldBack = false;
     bool m_changeHeldBack = false;
 };
 
-// While one lives, the signals of changes are held back, so that many changes of one gesture are
-// followed by one refresh.
+// While one lives, a model's signals of changes are held back, so that many changes of one gesture
+// are followed by one refresh. Batches may stand within each other; without a model nothing is held
+// back.
 class changeBatch
 {
 public:
-    changeBatch();
+    explicit changeBatch(myModel *model);
     ~changeBatch();
     changeBatch(const changeBatch &) = delete;
     changeBatch &operator=(const changeBatch &) = delete;
 
 private:
-    friend class myModel;
-    static bool holdsBack(myModel *model);
+    QPointer<myModel> m_model;
 };

@@ -26,7 +26,7 @@ struct fixture
             order.orderItems.append(line(i));
         rows.show(&model, &order.orderItems.items);
         model.setRecords(&rows);
-        model.setStack(&stack);
+        recordEdits(&model, &stack);
     }
     ~fixture() { stack.clear(); }
 

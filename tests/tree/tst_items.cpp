@@ -2,6 +2,7 @@
 #include "testSupport.h"
 
 #include "commands/commandStack.h"
+#include "commands/editCommands.h"
 #include "tree/columnTable.h"
 
 #include <QAbstractItemModelTester>
@@ -79,7 +80,7 @@ void tst_items::textsStayAsRead()
     QFETCH(QVariant, edited);
     myModel model(nullptr);
     commandStack stack(nullptr, nullptr);
-    model.setStack(&stack);
+    recordEdits(&model, &stack);
     QFETCH(int, kind);
     myItemStandard *cell = makeCell(
         {"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100}, stored);

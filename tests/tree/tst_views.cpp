@@ -2,6 +2,7 @@
 #include "testSupport.h"
 
 #include "commands/commandStack.h"
+#include "commands/editCommands.h"
 #include "tree/IPCtrl.h"
 #include "tree/columnTable.h"
 #include "tree/myCalendarWidget.h"
@@ -56,7 +57,7 @@ void tst_views::init()
 {
     m_stack = std::make_unique<commandStack>(nullptr, nullptr);
     m_model = std::make_unique<myModel>(nullptr);
-    m_model->setStack(m_stack.get());
+    recordEdits(m_model.get(), m_stack.get());
     for (int r = 0; r < 3; ++r)
         m_model->appendRow({new myItemStandard("shown"), new myItemLineEdit("text", "text", true),
                             new myItemSpinBox("number", 0, 100, 5, true),
