@@ -90,7 +90,7 @@ MainWindow &mainWindow()
     static MainWindow *window = nullptr;
     if (!window) {
         userState::instance().lastZp.clear();
-        window = new MainWindow;
+        window = new MainWindow(programData::instance());
         window->show();
         settle();
     }
@@ -104,8 +104,8 @@ void openOrder(benchmark::State &state)
     const QString path = orderPath();
     for (auto _ : state)
         report(state, secondsOf([&] {
-                   orderDocument::instance().load(path);
-                   window.view().show(orderDocument::instance().order());
+                   window.document().load(path);
+                   window.view().show(window.document().order());
                    window.grab();
                    settle();
                }),
@@ -152,7 +152,7 @@ void showDatabase(benchmark::State &state)
     for (auto _ : state) {
         std::unique_ptr<Kiv_mat_databaseWindow> window;
         report(state, secondsOf([&] {
-                   window = std::make_unique<Kiv_mat_databaseWindow>(programData::warehouse);
+                   window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
                    window->show();
                    window->grab();
                    settle();
@@ -163,7 +163,7 @@ void showDatabase(benchmark::State &state)
 
 void openGroup(benchmark::State &state)
 {
-    Kiv_mat_databaseWindow window(programData::warehouse);
+    Kiv_mat_databaseWindow window(programData::instance(), programData::warehouse);
     window.show();
     settle();
     int row = 0;
@@ -179,7 +179,7 @@ void openGroup(benchmark::State &state)
 // A key in the search field, with some groups open.
 void searchKeys(benchmark::State &state)
 {
-    Kiv_mat_databaseWindow window(programData::warehouse);
+    Kiv_mat_databaseWindow window(programData::instance(), programData::warehouse);
     window.show();
     for (int row = 0; row < 20; ++row)
         window.view()->expand(window.model()->index(row, 0));

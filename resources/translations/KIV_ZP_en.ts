@@ -4,20 +4,6 @@
 <context>
     <name>Kiv_bomViewWindow</name>
     <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>%n cell copied</numerusform>
-            <numerusform>%n cells copied</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>%n cell pasted</numerusform>
-            <numerusform>%n cells pasted</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n line(s) deleted</source>
         <translation>
             <numerusform>%n line deleted</numerusform>
@@ -131,13 +117,6 @@
             <numerusform>%n materials deleted</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n material(s) sent to the order</source>
-        <translation>
-            <numerusform>%n material sent to the order</numerusform>
-            <numerusform>%n materials sent to the order</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -160,20 +139,6 @@
         <translation>
             <numerusform>%n database archived</numerusform>
             <numerusform>%n databases archived</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>%n cell copied</numerusform>
-            <numerusform>%n cells copied</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>%n cell pasted</numerusform>
-            <numerusform>%n cells pasted</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -225,6 +190,13 @@
             <numerusform>%n materials skipped</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n material(s) refused</source>
+        <translation>
+            <numerusform>%n material refused</numerusform>
+            <numerusform>%n materials refused</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -243,13 +215,6 @@
         <translation>
             <numerusform>%n material</numerusform>
             <numerusform>%n materials</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n line(s) added to the order</source>
-        <translation>
-            <numerusform>%n line added to the order</numerusform>
-            <numerusform>%n lines added to the order</numerusform>
         </translation>
     </message>
 </context>
@@ -308,6 +273,23 @@
     </message>
 </context>
 <context>
+    <name>editWindow</name>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>%n cell copied</numerusform>
+            <numerusform>%n cells copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>%n cell pasted</numerusform>
+            <numerusform>%n cells pasted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>firmWindow</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -342,20 +324,6 @@
         <translation>
             <numerusform>%n firm deleted</numerusform>
             <numerusform>%n firms deleted</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>%n cell copied</numerusform>
-            <numerusform>%n cells copied</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>%n cell pasted</numerusform>
-            <numerusform>%n cells pasted</numerusform>
         </translation>
     </message>
 </context>

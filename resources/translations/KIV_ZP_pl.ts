@@ -34,44 +34,12 @@
         <translation>Edycja zablokowana</translation>
     </message>
     <message>
-        <source>editing is locked</source>
-        <translation>edycja jest zablokowana</translation>
-    </message>
-    <message>
         <source>no line is selected</source>
         <translation>nie wybrano pozycji</translation>
     </message>
     <message>
         <source>nothing was changed</source>
         <translation>niczego nie zmieniono</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>Skopiowano %n komórkę</numerusform>
-            <numerusform>Skopiowano %n komórki</numerusform>
-            <numerusform>Skopiowano %n komórek</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Wklejanie</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>Wklejono %n komórkę</numerusform>
-            <numerusform>Wklejono %n komórki</numerusform>
-            <numerusform>Wklejono %n komórek</numerusform>
-        </translation>
     </message>
     <message numerus="yes">
         <source>%n line(s) deleted</source>
@@ -92,22 +60,6 @@
     <message>
         <source>Inserted %1</source>
         <translation>Wstawiono %1</translation>
-    </message>
-    <message>
-        <source>The file %1 was changed by another program since it was opened.</source>
-        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
-    </message>
-    <message>
-        <source>Reload it and lose the changes here</source>
-        <translation>Wczytaj ponownie i porzuć zmiany</translation>
-    </message>
-    <message>
-        <source>Overwrite it</source>
-        <translation>Nadpisz</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Save the changed BOM list %1?</source>
@@ -221,20 +173,8 @@
         </translation>
     </message>
     <message>
-        <source>changed, not saved</source>
-        <translation>zmieniono, nie zapisano</translation>
-    </message>
-    <message>
         <source>Sorted by %1</source>
         <translation>Posortowano według: %1</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
     </message>
     <message>
         <source>Set the numbers of sets of all lists to 0?</source>
@@ -275,14 +215,6 @@
             <numerusform>Usunięto %n wiersze</numerusform>
             <numerusform>Usunięto %n wierszy</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The file %1 was changed by another program since it was opened. Overwrite it?</source>
-        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia. Nadpisać go?</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Save the changed set of BOM lists?</source>
@@ -350,14 +282,6 @@
     <message>
         <source>Leave out</source>
         <translation>Pomiń</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
     </message>
     <message>
         <source>New in the other file</source>
@@ -535,10 +459,6 @@
         <translation>Edycja zablokowana</translation>
     </message>
     <message>
-        <source>editing is locked</source>
-        <translation>edycja jest zablokowana</translation>
-    </message>
-    <message>
         <source>no material was copied</source>
         <translation>nie skopiowano materiału</translation>
     </message>
@@ -547,20 +467,8 @@
         <translation>nie zaznaczono materiału</translation>
     </message>
     <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
-    </message>
-    <message>
         <source>Save database</source>
         <translation>Zapisać bazę danych</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n material(s)</source>
@@ -638,14 +546,6 @@
         <source>Group already exists</source>
         <translation>Grupa już istnieje</translation>
     </message>
-    <message numerus="yes">
-        <source>%n material(s) sent to the order</source>
-        <translation>
-            <numerusform>Wysłano do zamówienia %n materiał</numerusform>
-            <numerusform>Wysłano do zamówienia %n materiały</numerusform>
-            <numerusform>Wysłano do zamówienia %n materiałów</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Add. new material</source>
         <translation>Dodaj nowy materiał</translation>
@@ -659,24 +559,20 @@
         <translation>Czy chcesz edytować materiał ?</translation>
     </message>
     <message>
-        <source>The file %1 was changed by another program since it was opened.</source>
-        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
-    </message>
-    <message>
-        <source>Reload it and lose the changes here</source>
-        <translation>Wczytaj ponownie i porzuć zmiany</translation>
-    </message>
-    <message>
-        <source>Overwrite it</source>
-        <translation>Nadpisz</translation>
-    </message>
-    <message>
         <source>Ktm syntax error</source>
         <translation>Błąd składni KTM</translation>
     </message>
     <message>
         <source>Another material has this KTM</source>
         <translation>Ten KTM ma już inny materiał</translation>
+    </message>
+    <message>
+        <source>Firms renamed</source>
+        <translation>Zmieniono nazwy firm</translation>
+    </message>
+    <message>
+        <source>nothing was changed</source>
+        <translation>niczego nie zmieniono</translation>
     </message>
 </context>
 <context>
@@ -722,16 +618,8 @@
         <translation>Plik DO</translation>
     </message>
     <message>
-        <source>The order is open elsewhere, too </source>
-        <translation>Zamówienie jest otwarte także gdzie indziej </translation>
-    </message>
-    <message>
         <source>New order</source>
         <translation>Nowe zamówienie</translation>
-    </message>
-    <message>
-        <source>Changed since it was saved</source>
-        <translation>Zmienione od ostatniego zapisu</translation>
     </message>
     <message numerus="yes">
         <source>%n selected line(s), %1 PLN</source>
@@ -748,10 +636,6 @@
             <numerusform>%n pozycje, %1 PLN</numerusform>
             <numerusform>%n pozycji, %1 PLN</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>editing is locked</source>
-        <translation>edycja jest zablokowana</translation>
     </message>
     <message>
         <source>the order has no lines</source>
@@ -778,10 +662,6 @@
         <translation>Otwórz plik</translation>
     </message>
     <message>
-        <source>The order %1 is open elsewhere, too: %2. Whoever saves last would replace what the other one saved.</source>
-        <translation>Zamówienie %1 jest otwarte także gdzie indziej: %2. Kto zapisze jako ostatni, zastąpi to, co zapisał drugi.</translation>
-    </message>
-    <message>
         <source>a new order</source>
         <translation>nowe zamówienie</translation>
     </message>
@@ -792,26 +672,6 @@
     <message>
         <source>The unsaved order was put aside </source>
         <translation>Niezapisane zamówienie odłożono </translation>
-    </message>
-    <message>
-        <source>The file %1 was changed by another program since it was opened.</source>
-        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
-    </message>
-    <message>
-        <source>Reload it and lose the changes here</source>
-        <translation>Wczytaj ponownie i porzuć zmiany</translation>
-    </message>
-    <message>
-        <source>Overwrite it</source>
-        <translation>Nadpisz</translation>
-    </message>
-    <message>
-        <source>Save as</source>
-        <translation>Zapisz jako</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Saved as %1</source>
@@ -839,34 +699,6 @@
             <numerusform>Zarchiwizowano %n bazę danych</numerusform>
             <numerusform>Zarchiwizowano %n bazy danych</numerusform>
             <numerusform>Zarchiwizowano %n baz danych</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>Skopiowano %n komórkę</numerusform>
-            <numerusform>Skopiowano %n komórki</numerusform>
-            <numerusform>Skopiowano %n komórek</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Wklejanie</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>Wklejono %n komórkę</numerusform>
-            <numerusform>Wklejono %n komórki</numerusform>
-            <numerusform>Wklejono %n komórek</numerusform>
         </translation>
     </message>
     <message>
@@ -998,22 +830,6 @@
         <translation>Sortowanie według: %1</translation>
     </message>
     <message>
-        <source>Find</source>
-        <translation>Znajdź</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>Tekst w dowolnej kolumnie</translation>
-    </message>
-    <message>
-        <source>Found in line %1</source>
-        <translation>Znaleziono w pozycji %1</translation>
-    </message>
-    <message>
-        <source>No line holds %1</source>
-        <translation>Żadna pozycja nie zawiera %1</translation>
-    </message>
-    <message>
         <source>No database is loaded</source>
         <translation>Nie wczytano żadnej bazy danych</translation>
     </message>
@@ -1068,6 +884,18 @@
     <message>
         <source>The message could not be made. The log says why.</source>
         <translation>Nie udało się utworzyć wiadomości. Powód podaje dziennik.</translation>
+    </message>
+    <message>
+        <source>The order is locked, nothing was added</source>
+        <translation>Zamówienie jest zablokowane, niczego nie dodano</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) refused</source>
+        <translation>
+            <numerusform>odrzucono %n materiał</numerusform>
+            <numerusform>odrzucono %n materiały</numerusform>
+            <numerusform>odrzucono %n materiałów</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2017,14 +1845,6 @@
         <source>the first %1 are shown</source>
         <translation>pokazano pierwsze %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n line(s) added to the order</source>
-        <translation>
-            <numerusform>Dodano %n pozycję do zamówienia</numerusform>
-            <numerusform>Dodano %n pozycje do zamówienia</numerusform>
-            <numerusform>Dodano %n pozycji do zamówienia</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>altiumExport</name>
@@ -2591,24 +2411,8 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Opcja</translation>
     </message>
     <message>
-        <source>editing is locked</source>
-        <translation>edycja jest zablokowana</translation>
-    </message>
-    <message>
         <source>options are neither added nor deleted</source>
         <translation>opcji nie dodaje się ani nie usuwa</translation>
-    </message>
-    <message>
-        <source>Changed, not saved</source>
-        <translation>Zmienione, niezapisane</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
     </message>
     <message>
         <source>Add row</source>
@@ -2623,16 +2427,24 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Wartości domyślne</translation>
     </message>
     <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
-    </message>
-    <message>
         <source>These options count from the next start on:</source>
         <translation>Te opcje zadziałają po ponownym uruchomieniu:</translation>
     </message>
     <message>
         <source>Save the changed configuration?</source>
         <translation>Zapisać zmienioną konfigurację?</translation>
+    </message>
+    <message>
+        <source>%1 is NIE; change line %2 of %3</source>
+        <translation>%1 ma wartość NIE; zmień wiersz %2 pliku %3</translation>
+    </message>
+    <message>
+        <source>the file cannot be read</source>
+        <translation>nie można odczytać pliku</translation>
+    </message>
+    <message>
+        <source>nothing was changed</source>
+        <translation>niczego nie zmieniono</translation>
     </message>
 </context>
 <context>
@@ -2769,6 +2581,101 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>editWindow</name>
+    <message>
+        <source>changed, not saved</source>
+        <translation>zmieniono, nie zapisano</translation>
+    </message>
+    <message>
+        <source>the configuration forbids it: %1 is NIE</source>
+        <translation>zabrania tego konfiguracja: %1 ma wartość NIE</translation>
+    </message>
+    <message>
+        <source>editing is locked</source>
+        <translation>edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>Editing is locked</source>
+        <translation>Edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>Editing is allowed</source>
+        <translation>Edycja jest dozwolona</translation>
+    </message>
+    <message>
+        <source>The file is open elsewhere, too </source>
+        <translation>Plik jest otwarty także gdzie indziej </translation>
+    </message>
+    <message>
+        <source>The file %1 is open elsewhere, too: %2. Whoever saves last would replace what the other one saved.</source>
+        <translation>Plik %1 jest otwarty także gdzie indziej: %2. Kto zapisze jako ostatni, zastąpi to, co zapisał drugi.</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n komórkę</numerusform>
+            <numerusform>Skopiowano %n komórki</numerusform>
+            <numerusform>Skopiowano %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklejanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n komórkę</numerusform>
+            <numerusform>Wklejono %n komórki</numerusform>
+            <numerusform>Wklejono %n komórek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Tekst w dowolnej kolumnie</translation>
+    </message>
+    <message>
+        <source>Found in line %1</source>
+        <translation>Znaleziono w pozycji %1</translation>
+    </message>
+    <message>
+        <source>No line holds %1</source>
+        <translation>Żadna pozycja nie zawiera %1</translation>
+    </message>
+    <message>
+        <source>Reload it and lose the changes here</source>
+        <translation>Wczytaj ponownie i porzuć zmiany</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Nadpisz</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Zapisz jako</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was opened.</source>
+        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Zapisano</translation>
+    </message>
+</context>
+<context>
     <name>emailTempWindow</name>
     <message>
         <source>Message template</source>
@@ -2820,10 +2727,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>nie można odczytać pliku</translation>
     </message>
     <message>
-        <source>editing is locked</source>
-        <translation>edycja jest zablokowana</translation>
-    </message>
-    <message>
         <source>nothing was changed</source>
         <translation>niczego nie zmieniono</translation>
     </message>
@@ -2852,10 +2755,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         </translation>
     </message>
     <message>
-        <source>changed, not saved</source>
-        <translation>zmieniono, nie zapisano</translation>
-    </message>
-    <message>
         <source>Materials use the old name. Saving can write the new one into their databases, too.</source>
         <translation>Materiały używają starej nazwy. Przy zapisie nowa może trafić także do ich baz.</translation>
     </message>
@@ -2872,14 +2771,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Zmień tylko na tej liście</translation>
     </message>
     <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
-    </message>
-    <message>
         <source>Materials use what was to be deleted; nothing is deleted:</source>
         <translation>Materiały używają firm do usunięcia; niczego nie usunięto:</translation>
     </message>
@@ -2891,42 +2782,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>Usunięto %n firm</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n cell(s) copied</source>
-        <translation>
-            <numerusform>Skopiowano %n komórkę</numerusform>
-            <numerusform>Skopiowano %n komórki</numerusform>
-            <numerusform>Skopiowano %n komórek</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Wklejanie</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) pasted</source>
-        <translation>
-            <numerusform>Wklejono %n komórkę</numerusform>
-            <numerusform>Wklejono %n komórki</numerusform>
-            <numerusform>Wklejono %n komórek</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>Znajdź</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>Tekst w dowolnej kolumnie</translation>
-    </message>
-    <message>
-        <source>No firm holds %1</source>
-        <translation>Żadna firma nie zawiera %1</translation>
-    </message>
-    <message>
-        <source>Found in line %1</source>
-        <translation>Znaleziono w wierszu %1</translation>
-    </message>
     <message>
         <source>Opened %1</source>
         <translation>Otwarto %1</translation>
@@ -2934,22 +2789,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 cannot be opened</source>
         <translation>Nie można otworzyć %1</translation>
-    </message>
-    <message>
-        <source>The file %1 was changed by another program since it was opened.</source>
-        <translation>Plik %1 został zmieniony przez inny program od chwili otwarcia.</translation>
-    </message>
-    <message>
-        <source>Reload it and lose the changes here</source>
-        <translation>Wczytaj ponownie i porzuć zmiany</translation>
-    </message>
-    <message>
-        <source>Overwrite it</source>
-        <translation>Nadpisz</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>Zapisano</translation>
     </message>
     <message>
         <source>Save the changed list of firms?</source>
@@ -3835,20 +3674,8 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         </translation>
     </message>
     <message>
-        <source>changed</source>
-        <translation>zmieniono</translation>
-    </message>
-    <message>
         <source>Set the changed material?</source>
         <translation>Ustawić zmieniony materiał?</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Cofnięto: %1</translation>
-    </message>
-    <message>
-        <source>Done again: %1</source>
-        <translation>Ponowiono: %1</translation>
     </message>
     <message>
         <source>Add manufacturer</source>

@@ -3,29 +3,21 @@
 #pragma once
 
 #include "bom/bomTree.h"
-#include "commands/commandStack.h"
-#include "data/documentSaving.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
 class QTreeView;
-class myTreeView;
 
 using materialKtm = QString;
 
-class Kiv_bomViewWindow : public baseWindow
+class Kiv_bomViewWindow : public editWindow
 {
     Q_OBJECT
 public:
-    // Reads the file; one that cannot be read is told in the errors window, and cannot be edited.
-    explicit Kiv_bomViewWindow(const QString &path);
-    ~Kiv_bomViewWindow() override;
+    // Reads the file when it is shown; one that cannot be read is told in the errors window, and
+    // cannot be edited.
+    Kiv_bomViewWindow(programData &known, const QString &path);
 
-    // Shows the window; a closed one begins with what the file holds.
-    void showNow();
-    bool isModified() const { return m_modified; }
-    bool save();
-
-    myModel *model() { return m_model; }
+    myModel *model() { return modelOf(m_view); }
     myTreeView *view() { return m_view; }
     const kiv_mat_bomStruct &edited() const { return *m_bom; }
 
@@ -33,39 +25,28 @@ public:
     std::function<int()> sets;
 
 public slots:
-    void commandEdit(bool on);
-    void commandClose(bool);
-    void commandSave(bool);
-    void commandRedo(bool);
-    void commandUndo(bool);
     void commandShowSum(bool);
-    void commandCopyText(bool);
-    void commandPasteCells(bool);
     void commandDeleteLines(bool);
     // Appends a line of the material; one that no database has is told in the errors window.
     void insertToBomView(const materialKtm &ktm);
-    void clearCommands();
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    QString filePath() const override { return m_path; }
+    QString title() const override;
+    bool load() override;
+    bool write(const QString &path) override;
+    QString fault() const override { return m_fault; }
+    QString closeQuestion() const override;
+    void updateActions() override;
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
     void selectItem(QTreeView *view, QStandardItem *item);
 
 private:
-    void load();
-    void changed();
-    void showTitle();
-    void updateActions();
-
     QString m_path;
     QString m_fault; // why the list cannot be edited
-    fileState m_onDisk;
     std::unique_ptr<kiv_mat_bomStruct> m_bom;
     std::unique_ptr<bomTree::lineRows> m_rows;
-    std::unique_ptr<commandStack> m_stack;
-    myModel *m_model;
     myTreeView *m_view;
-    bool m_modified = false;
 };

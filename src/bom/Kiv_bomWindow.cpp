@@ -9,12 +9,13 @@
 #include "util/labels.h"
 #include "util/prompts.h"
 
-#include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
+
+#include <QXmlStreamWriter>
 
 #include <set>
 
@@ -36,23 +37,19 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
       "action_quantities", nullptr,
       QT_TRANSLATE_NOOP("actions", "Set the number of sets of all or the selected lists"), true},
      &Kiv_bomWindow::commandAllQuantities},
-    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {usualActions::fileSeparator, nullptr},
     {{"report", "File", QT_TRANSLATE_NOOP("actions", "Report"), "action_report", nullptr,
       QT_TRANSLATE_NOOP("actions",
                         "Write a page or PDF of the selected lists, else of those that are built"),
       true},
      &Kiv_bomWindow::commandFullReport},
-    {{"save", "File", QT_TRANSLATE_NOOP("actions", "Save"), "action_save", nullptr,
+    {{"save", "File", "Save", "action_save", nullptr,
       QT_TRANSLATE_NOOP("actions", "Write the set of BOM lists"), true},
      &Kiv_bomWindow::commandSave},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &Kiv_bomWindow::commandClose},
-    {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
-      "action_undo", "Ctrl+Z", nullptr, true},
-     &Kiv_bomWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &Kiv_bomWindow::commandRedo},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {usualActions::close, &Kiv_bomWindow::commandClose},
+    {usualActions::undo, &Kiv_bomWindow::commandUndo},
+    {usualActions::redo, &Kiv_bomWindow::commandRedo},
+    {usualActions::editSeparator, nullptr},
     {{"addFile", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new file"), "data_new_element2_128",
       "Ins", QT_TRANSLATE_NOOP("actions", "Add a BOM list to this folder")},
      &Kiv_bomWindow::commandAddFile},
@@ -87,47 +84,38 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
      &Kiv_bomWindow::commandDoc},
 };
 
-kiv_mat_bomsStruct &boms() { return programData::instance().boms(); }
-
-QString native(const QString &path) { return QDir::toNativeSeparators(path).toHtmlEscaped(); }
+// What a set holds, as one text to compare.
+QByteArray contentOf(const kiv_mat_bomsStruct &boms)
+{
+    QByteArray content;
+    QXmlStreamWriter writer(&content);
+    boms.writeXml(&writer);
+    return content;
+}
 
 } // namespace
 
 // --- Construction
 // ---------------------------------------------------------------------------------
 
-Kiv_bomWindow::Kiv_bomWindow()
-    : baseWindow(QStringLiteral("Kiv_bomWindow"))
-    , m_model(new myModel(this))
-    , m_view(new myTreeView(this))
+Kiv_bomWindow::Kiv_bomWindow(programData &files)
+    : editWindow(QStringLiteral("Kiv_bomWindow"), files)
     , m_counts(new QLabel(this))
 {
-    setWindowTitle(tr("Bill of materials"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/action_bom.png")));
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    recordEdits(m_model, m_stack.get());
-    m_view->setObjectName(QStringLiteral("boms"));
-    m_view->setAccessibleName(tr("BOM lists"));
-    m_view->setModel(m_model);
+    m_view = addView(tr("BOM lists"), "boms", this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     // On the tree alone: an editor takes the key for itself.
     action("bom")->setShortcutContext(Qt::WidgetShortcut);
     m_view->addAction(action("bom"));
-    m_view->setFont(programData::instance().config().font());
-    m_view->header()->setObjectName(QStringLiteral("bomsHeader"));
+    m_view->setFont(files.config().font());
     setCentralWidget(m_view);
     m_counts->setObjectName(QStringLiteral("counts"));
     statusBar()->addPermanentWidget(m_counts);
     constexpr QSize usualSize(860, 620);
     resize(usualSize);
 
-    connect(m_model, &myModel::sorted, this, &Kiv_bomWindow::clearCommands);
-    for (auto signal :
-         {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
-        connect(m_model, signal, this, &Kiv_bomWindow::updateActions);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &Kiv_bomWindow::updateActions);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_bomWindow::itemTreeClicked);
     connect(m_view, &QWidget::customContextMenuRequested, this, &Kiv_bomWindow::showContextMenu);
@@ -139,58 +127,51 @@ Kiv_bomWindow::Kiv_bomWindow()
         m_view->header()->resizeSection(column, widths[column]);
 }
 
-Kiv_bomWindow::~Kiv_bomWindow()
-{
-    m_stack->clear();
-    for (myModel *model : findChildren<myModel *>())
-        model->detach();
-}
+Kiv_bomWindow::~Kiv_bomWindow() = default;
 
 // The set as the program has it.
 void Kiv_bomWindow::showSet(const QHash<QString, int> &sets)
 {
-    m_stack->clear();
-    m_rows = std::make_unique<bomTree::setRows>(&boms(), [this] { changed(); });
-    m_rows->show(m_model, sets);
-    m_onDisk = fileState::of(boms().filePath);
-    m_modified = false;
+    setClean();
+    m_rows = std::make_unique<bomTree::setRows>(&known().boms());
+    m_rows->show(model(), sets);
+    m_saved = contentOf(known().boms());
     m_view->expandAll();
-    updateActions();
+    showState();
 }
 
-void Kiv_bomWindow::showNow()
+QString Kiv_bomWindow::filePath() const { return known().boms().filePath; }
+
+fileState &Kiv_bomWindow::onDisk() { return known().fileOfBoms(); }
+
+// A set that could not be read is not written over.
+QString Kiv_bomWindow::fault() const
 {
-    show();
-    raise();
-    activateWindow();
-    m_view->setFocus();
+    return filePath().isEmpty() ? tr("no set of BOM lists is loaded") : QString();
+}
+
+bool Kiv_bomWindow::isModified() const
+{
+    return editWindow::isModified() && contentOf(known().boms()) != m_saved;
 }
 
 bool Kiv_bomWindow::hasSets() const
 {
-    const auto files = bomTree::allFiles(m_model);
+    const auto files = bomTree::allFiles(model());
     return std::any_of(files.begin(), files.end(),
                        [](const QStandardItem *file) { return bomTree::setsOf(file) > 0; });
 }
 
-void Kiv_bomWindow::changed()
-{
-    m_modified = true;
-    updateActions();
-}
-
 void Kiv_bomWindow::updateActions()
 {
-    const QList<QStandardItem *> files = bomTree::allFiles(m_model);
+    const QList<QStandardItem *> files = bomTree::allFiles(model());
     int built = 0;
     for (const QStandardItem *file : files)
         built += bomTree::setsOf(file) > 0;
-    // A set that could not be read is not written over.
-    const bool loaded = !boms().filePath.isEmpty();
-    const QString notLoaded = tr("no set of BOM lists is loaded");
     for (const char *name : {"addFile", "addGroup"})
-        setAvailable(name, loaded, notLoaded);
-    setAvailable("save", loaded && m_modified, loaded ? tr("nothing was changed") : notLoaded);
+        setAvailable(name, fault().isEmpty(), fault());
+    setAvailable("save", fault().isEmpty() && isModified(),
+                 fault().isEmpty() ? tr("nothing was changed") : fault());
     for (const char *name : {"set", "clear"})
         setAvailable(name, built > 0, tr("no list is built: all numbers of sets are 0"));
     for (const char *name : {"report", "allQuantities", "setAll"})
@@ -198,10 +179,8 @@ void Kiv_bomWindow::updateActions()
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));
     setAvailable("delete", current(), tr("nothing is selected"));
-    m_counts->setText(
-        tr("%n list(s)", nullptr, int(files.size())) + QLatin1String(", ")
-        + tr("%n of them built", nullptr, built)
-        + (m_modified ? QStringLiteral(" \u2013 ") + tr("changed, not saved") : QString()));
+    m_counts->setText(tr("%n list(s)", nullptr, int(files.size())) + QLatin1String(", ")
+                      + tr("%n of them built", nullptr, built));
 }
 
 void Kiv_bomWindow::showContextMenu(const QPoint &position)
@@ -222,7 +201,7 @@ void Kiv_bomWindow::showContextMenu(const QPoint &position)
 QStandardItem *Kiv_bomWindow::current() const
 {
     const QModelIndex at = m_view->currentIndex();
-    return at.isValid() ? m_model->itemFromIndex(at.siblingAtColumn(0)) : nullptr;
+    return at.isValid() ? model()->itemFromIndex(at.siblingAtColumn(0)) : nullptr;
 }
 
 // The files of the selected rows, those below selected folders among them.
@@ -231,10 +210,10 @@ QList<QStandardItem *> Kiv_bomWindow::selectedFiles() const
     std::set<QStandardItem *> selected;
     for (const QModelIndex &cell : m_view->selectionModel()->selectedIndexes())
         for (QStandardItem *file :
-             bomTree::filesBelow(m_model->itemFromIndex(cell.siblingAtColumn(0))))
+             bomTree::filesBelow(model()->itemFromIndex(cell.siblingAtColumn(0))))
             selected.insert(file);
     QList<QStandardItem *> files;
-    for (QStandardItem *file : bomTree::allFiles(m_model))
+    for (QStandardItem *file : bomTree::allFiles(model()))
         if (selected.count(file) > 0)
             files.append(file);
     return files;
@@ -243,20 +222,19 @@ QList<QStandardItem *> Kiv_bomWindow::selectedFiles() const
 QString Kiv_bomWindow::pathOf(const QStandardItem *first) const
 {
     const fileStruct *file = bomTree::fileOf(first);
-    return file ? ::pathOf(*file, boms().filePath) : QString();
+    return file ? ::pathOf(*file, known().boms().filePath) : QString();
 }
 
 QString Kiv_bomWindow::currentPath() const { return pathOf(current()); }
 
 void Kiv_bomWindow::itemTreeClicked(QPoint, uint, const QModelIndex &)
 {
-    statusBar()->showMessage(QDir::toNativeSeparators(currentPath()));
+    tell(QDir::toNativeSeparators(currentPath()));
 }
 
 void Kiv_bomWindow::headerTreeClicked(QPoint, uint, int section)
 {
-    statusBar()->showMessage(
-        tr("Sorted by %1").arg(m_model->headerData(section, Qt::Horizontal).toString()));
+    tell(tr("Sorted by %1").arg(model()->headerData(section, Qt::Horizontal).toString()));
 }
 
 void Kiv_bomWindow::selectItem(QTreeView *view, QStandardItem *item)
@@ -267,8 +245,8 @@ void Kiv_bomWindow::selectItem(QTreeView *view, QStandardItem *item)
 
 void Kiv_bomWindow::commandExpand(bool)
 {
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        m_view->expandItem(m_model->item(row));
+    for (int row = 0; row < model()->rowCount(); ++row)
+        m_view->expandItem(model()->item(row));
 }
 
 void Kiv_bomWindow::commandExpand2(bool)
@@ -282,34 +260,12 @@ void Kiv_bomWindow::commandCollaps(bool) { m_view->collapseAll(); }
 // --- Editing
 // --------------------------------------------------------------------------------------
 
-void Kiv_bomWindow::push(std::unique_ptr<command> change, const QString &what)
-{
-    if (!change)
-        return;
-    m_stack->push(std::move(change), what);
-    updateActions();
-    statusBar()->showMessage(what);
-}
-
-void Kiv_bomWindow::commandUndo(bool)
-{
-    statusBar()->showMessage(tr("Undone: %1").arg(m_stack->undo()));
-}
-
-void Kiv_bomWindow::commandRedo(bool)
-{
-    statusBar()->showMessage(tr("Done again: %1").arg(m_stack->redo()));
-}
-
-// Sorting moved the rows that the steps know by their numbers.
-void Kiv_bomWindow::clearCommands() { m_stack->clear(); }
-
 void Kiv_bomWindow::setSets(const QList<QStandardItem *> &files, int sets, const QString &what)
 {
     QList<myItemStandard *> cells;
     for (const QStandardItem *file : files)
         cells.append(bomTree::setsCell(file));
-    push(cellBlock::set(m_model, cells, [sets](const myItemStandard &) { return sets; }), what);
+    push(cellBlock::set(model(), cells, [sets](const myItemStandard &) { return sets; }), what);
 }
 
 void Kiv_bomWindow::commandAllQuantities(bool)
@@ -319,7 +275,7 @@ void Kiv_bomWindow::commandAllQuantities(bool)
     if (!sets)
         return;
     const QList<QStandardItem *> selected = selectedFiles();
-    setSets(selected.isEmpty() ? bomTree::allFiles(m_model) : selected, *sets,
+    setSets(selected.isEmpty() ? bomTree::allFiles(model()) : selected, *sets,
             labels::setAllQuantities());
 }
 
@@ -327,7 +283,7 @@ void Kiv_bomWindow::commandClear(bool)
 {
     if (userPrompts().ask(tr("Set the numbers of sets of all lists to 0?"), false)
         == prompts::answer::yes)
-        setSets(bomTree::allFiles(m_model), 0, tr("Clear"));
+        setSets(bomTree::allFiles(model()), 0, tr("Clear"));
 }
 
 // The group that the current row is, is in, or has first; made when there is none.
@@ -336,14 +292,14 @@ QStandardItem *Kiv_bomWindow::groupForNewFile(std::vector<std::unique_ptr<comman
     QStandardItem *item = current();
     if (bomTree::fileOf(item))
         return item->parent();
-    if (!item && m_model->rowCount() > 0)
-        item = m_model->item(0);
+    if (!item && model()->rowCount() > 0)
+        item = model()->item(0);
     if (!item) {
         auto category = std::make_unique<fileCategory>();
         category->name = tr("BOM lists");
         members.push_back(
-            std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(category))));
-        item = m_model->item(0);
+            std::make_unique<appendNewMaterial>(model(), m_rows->makeRow(std::move(category))));
+        item = model()->item(0);
     }
     if (item->parent())
         return item;
@@ -357,7 +313,7 @@ QStandardItem *Kiv_bomWindow::groupForNewFile(std::vector<std::unique_ptr<comman
 
 void Kiv_bomWindow::commandAddFile(bool)
 {
-    const QDir folder = QFileInfo(boms().filePath).absoluteDir();
+    const QDir folder = QFileInfo(known().boms().filePath).absoluteDir();
     const QString path = userPrompts().openFile(tr("Open File"), folder.path(),
                                                 tr("Xml File") + QLatin1String(" (*.xml)"));
     if (path.isEmpty())
@@ -377,7 +333,7 @@ void Kiv_bomWindow::commandAddFile(bool)
     std::vector<std::unique_ptr<command>> members;
     QStandardItem *group = groupForNewFile(members);
     members.push_back(std::make_unique<appendItems>(group, m_rows->makeRow(std::move(file))));
-    push(std::make_unique<appendCommands>(std::move(members), m_model), tr("List added"));
+    push(std::make_unique<appendCommands>(std::move(members), model()), tr("List added"));
     m_view->expandItem(group);
     selectItem(m_view, group->child(group->rowCount() - 1, bomTree::setsColumn));
 }
@@ -396,13 +352,13 @@ void Kiv_bomWindow::commandAddGroup(bool)
         auto top = std::make_unique<fileCategory>();
         top->name = *name;
         members.push_back(
-            std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(top))));
-        category = m_model->item(m_model->rowCount() - 1);
+            std::make_unique<appendNewMaterial>(model(), m_rows->makeRow(std::move(top))));
+        category = model()->item(model()->rowCount() - 1);
     }
     auto group = std::make_unique<fileGroup>();
     group->name = *name;
     members.push_back(std::make_unique<appendItems>(category, m_rows->makeRow(std::move(group))));
-    push(std::make_unique<appendCommands>(std::move(members), m_model), tr("Group added"));
+    push(std::make_unique<appendCommands>(std::move(members), model()), tr("Group added"));
     m_view->expandItem(category);
     selectItem(m_view, category->child(category->rowCount() - 1));
 }
@@ -412,82 +368,55 @@ void Kiv_bomWindow::commandDelete(bool)
     std::vector<QStandardItem *> firsts;
     bool folderWithContent = false;
     for (const QModelIndex &cell : m_view->selectionModel()->selectedIndexes()) {
-        QStandardItem *first = m_model->itemFromIndex(cell.siblingAtColumn(0));
+        QStandardItem *first = model()->itemFromIndex(cell.siblingAtColumn(0));
         folderWithContent = folderWithContent || first->hasChildren();
         if (!first->hasChildren() && std::find(firsts.begin(), firsts.end(), first) == firsts.end())
             firsts.push_back(first);
     }
     if (folderWithContent)
         userPrompts().showInformation(tr("Only empty folders can be deleted"));
-    const changeBatch batch(m_model);
+    const changeBatch batch(model());
     std::vector<std::unique_ptr<command>> members;
     for (QStandardItem *first : firsts) {
         if (first->parent())
             members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
         else
-            members.push_back(std::make_unique<deleteMaterial>(m_model, first->index()));
+            members.push_back(std::make_unique<deleteMaterial>(model(), first->index()));
     }
     if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members), m_model),
+        push(std::make_unique<appendCommands>(std::move(members), model()),
              tr("%n row(s) deleted", nullptr, int(firsts.size())));
 }
 
 // --- Saving
 // ---------------------------------------------------------------------------------------
 
-bool Kiv_bomWindow::save()
+// What the program works with is what the file holds; the numbers of sets stay.
+bool Kiv_bomWindow::load()
 {
-    if (boms().filePath.isEmpty())
-        return false;
-    if (!(fileState::of(boms().filePath) == m_onDisk)
-        && userPrompts().ask(
-               tr("The file %1 was changed by another program since it was opened. Overwrite it?")
-                   .arg(native(boms().filePath)),
-               false)
-               != prompts::answer::yes)
-        return false;
-    if (!saveDocument(boms().filePath, boms()))
-        return false;
-    m_onDisk = fileState::of(boms().filePath);
-    m_stack->clear();
-    m_modified = false;
-    updateActions();
-    statusBar()->showMessage(tr("Saved"));
-    return true;
-}
-
-void Kiv_bomWindow::commandSave(bool) { save(); }
-
-void Kiv_bomWindow::commandClose(bool) { close(); }
-
-bool Kiv_bomWindow::closeAll()
-{
-    for (const auto &[path, window] : m_views)
-        if (!window->close())
-            return false;
-    return close();
-}
-
-void Kiv_bomWindow::closeEvent(QCloseEvent *event)
-{
-    if (m_modified) {
-        const prompts::answer answer =
-            userPrompts().ask(tr("Save the changed set of BOM lists?"), true);
-        if (answer == prompts::answer::cancel || (answer == prompts::answer::yes && !save())) {
-            event->ignore();
-            return;
-        }
-        if (answer == prompts::answer::no) {
-            // What the program works with is what the file holds.
-            QHash<QString, int> sets;
-            for (const QStandardItem *file : bomTree::allFiles(m_model))
-                sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
-            m_stack->clear();
-            m_model->setRecords(nullptr);
-            m_model->removeRows(0, m_model->rowCount());
-            programData::instance().loadBoms();
-            showSet(sets);
-        }
+    QHash<QString, int> sets;
+    for (const QStandardItem *file : bomTree::allFiles(model()))
+        sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
+    setClean();
+    model()->setRecords(nullptr);
+    model()->removeRows(0, model()->rowCount());
+    const bool read = known().loadBoms();
+    showSet(sets);
+    if (!read) {
+        m_saved.clear();
+        setChanged();
     }
-    baseWindow::closeEvent(event);
+    return read;
+}
+
+bool Kiv_bomWindow::write(const QString &path) { return saveDocument(path, known().boms()); }
+
+void Kiv_bomWindow::saved() { m_saved = contentOf(known().boms()); }
+
+std::vector<editWindow *> Kiv_bomWindow::viewWindows() const
+{
+    std::vector<editWindow *> windows;
+    for (const auto &[path, window] : m_views)
+        windows.push_back(window.get());
+    return windows;
 }

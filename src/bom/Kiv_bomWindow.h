@@ -5,47 +5,40 @@
 #pragma once
 
 #include "bom/bomTree.h"
-#include "commands/commandStack.h"
-#include "data/documentSaving.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
 #include <map>
 
 class Kiv_bomViewWindow;
 class QTreeView;
 class childRunner;
-class myTreeView;
 
 using materialKtm = QString;
 
-class Kiv_bomWindow : public baseWindow
+class Kiv_bomWindow : public editWindow
 {
     Q_OBJECT
 public:
-    Kiv_bomWindow();
+    explicit Kiv_bomWindow(programData &known);
     ~Kiv_bomWindow() override;
 
-    void showNow();
-    bool isModified() const { return m_modified; }
+    // The set differs from its file; the numbers of sets to build are no part of it.
+    bool isModified() const override;
     // Whether any list is built.
     bool hasSets() const;
 
-    myModel *model() { return m_model; }
+    myModel *model() const { return modelOf(m_view); }
     myTreeView *view() { return m_view; }
     // The window of a list, made when it is first asked for.
     Kiv_bomViewWindow &viewWindow(const QString &path);
-    // Closes the lists' windows, too; false when the user wants one to stay.
-    bool closeAll();
+    // The lists' windows that were made.
+    std::vector<editWindow *> viewWindows() const;
 
 public slots:
-    void commandClose(bool);
-    void commandUndo(bool);
-    void commandRedo(bool);
     void commandFullReport(bool);
     void commandSet(bool);
     void commandClear(bool);
     void commandAllQuantities(bool);
-    void commandSave(bool);
     void commandCollaps(bool);
     void commandExpand(bool);
     void commandExpand2(bool);
@@ -61,14 +54,25 @@ public slots:
 
     // Hands a material to the list's window that was used last.
     void insertToBom(const materialKtm &ktm);
-    void clearCommands();
 
 signals:
     // The lists that are built, as their files hold them now.
     void appendToOrder(const std::vector<bomOperations::bomSets> &lists);
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    QString filePath() const override;
+    QString title() const override { return tr("Bill of materials"); }
+    bool load() override;
+    // The numbers of sets outlive the window's closing, and so does their history.
+    void begin() override { setUnlocked(true); }
+    void closed() override {}
+    bool discard() override { return load(); }
+    bool write(const QString &path) override;
+    void saved() override;
+    fileState &onDisk() override;
+    QString fault() const override;
+    QString closeQuestion() const override { return tr("Save the changed set of BOM lists?"); }
+    void updateActions() override;
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
@@ -85,27 +89,20 @@ private:
     };
 
     void showSet(const QHash<QString, int> &sets);
-    void updateActions();
-    void changed();
     void showContextMenu(const QPoint &position);
-    bool save();
     QStandardItem *current() const;
     QList<QStandardItem *> selectedFiles() const;
     QString pathOf(const QStandardItem *first) const;
     QString currentPath() const;
     void setSets(const QList<QStandardItem *> &files, int sets, const QString &what);
     QStandardItem *groupForNewFile(std::vector<std::unique_ptr<command>> &members);
-    void push(std::unique_ptr<command> change, const QString &what);
     readLists read(const QList<QStandardItem *> &files);
     void tellWritten(const QString &path, bool written);
 
     std::unique_ptr<bomTree::setRows> m_rows;
-    std::unique_ptr<commandStack> m_stack;
-    myModel *m_model;
     myTreeView *m_view;
     class QLabel *m_counts;
+    QByteArray m_saved; // the set as its file has it
     std::map<QString, std::unique_ptr<Kiv_bomViewWindow>> m_views;
     QString m_lastView; // path of the list whose window was used last
-    fileState m_onDisk;
-    bool m_modified = false;
 };

@@ -26,8 +26,6 @@ using namespace bomOperations;
 
 namespace {
 
-const ktmIndex &materials() { return programData::instance().materials(); }
-
 QString native(const QString &path) { return QDir::toNativeSeparators(path).toHtmlEscaped(); }
 
 } // namespace
@@ -61,8 +59,9 @@ Kiv_bomWindow::readLists Kiv_bomWindow::read(const QList<QStandardItem *> &files
 
 void Kiv_bomWindow::commandSet(bool)
 {
+    finishEditing();
     QList<QStandardItem *> built;
-    for (QStandardItem *file : bomTree::allFiles(m_model))
+    for (QStandardItem *file : bomTree::allFiles(model()))
         if (bomTree::setsOf(file) > 0)
             built.append(file);
     const readLists read = this->read(built);
@@ -70,7 +69,7 @@ void Kiv_bomWindow::commandSet(bool)
     if (read.complete && !read.lists.empty())
         emit appendToOrder(read.lists);
     else if (!read.complete)
-        statusBar()->showMessage(tr("A list cannot be read; nothing was ordered"));
+        tell(tr("A list cannot be read; nothing was ordered"));
 }
 
 void Kiv_bomWindow::tellWritten(const QString &path, bool written)
@@ -80,14 +79,14 @@ void Kiv_bomWindow::tellWritten(const QString &path, bool written)
         return;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
-    statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+    tell(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
 }
 
 void Kiv_bomWindow::commandFullReport(bool)
 {
     QList<QStandardItem *> files = selectedFiles();
     if (files.isEmpty())
-        for (QStandardItem *file : bomTree::allFiles(m_model))
+        for (QStandardItem *file : bomTree::allFiles(model()))
             if (!hasSets() || bomTree::setsOf(file) > 0)
                 files.append(file);
     const readLists read = this->read(files);
@@ -100,7 +99,7 @@ void Kiv_bomWindow::commandFullReport(bool)
             + QLatin1String(" (*.pdf)"));
     if (path.isEmpty())
         return;
-    const QString page = bomReport::page(read.lists, materials());
+    const QString page = bomReport::page(read.lists, known().materials());
     bool written = false;
     if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
         workProgress::scope work(progress(), tr("Printing"));
@@ -113,7 +112,7 @@ void Kiv_bomWindow::commandFullReport(bool)
         written = files::writeText(path, page);
     }
     tellWritten(path, written);
-    if (written && programData::instance().config().isOn(optionKey::openReportHtml))
+    if (written && known().config().isOn(optionKey::openReportHtml))
         QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
@@ -126,7 +125,8 @@ void Kiv_bomWindow::commandCsv(bool)
         tr("Save to File"), bomReport::proposedPath(currentPath(), QStringLiteral(".csv")),
         tr("CSV File") + QLatin1String(" (*.csv)"));
     if (!path.isEmpty())
-        tellWritten(path, files::writeText(path, bomReport::csv(*read.boms.front(), materials())));
+        tellWritten(
+            path, files::writeText(path, bomReport::csv(*read.boms.front(), known().materials())));
 }
 
 void Kiv_bomWindow::commandDoc(bool)
@@ -149,7 +149,7 @@ void Kiv_bomWindow::commandDoc(bool)
             running->stop();
     });
     box.show();
-    const bool written = writeDoc(bomReport::page(read.lists, materials()), path,
+    const bool written = writeDoc(bomReport::page(read.lists, known().materials()), path,
                                   QStringLiteral("_files/BOM_template.dotx"),
                                   [&running](childRunner *runner) { running = runner; });
     const bool stopped = !box.isVisible();
@@ -165,17 +165,17 @@ void Kiv_bomWindow::commandOpen(bool)
 {
     const QString path = currentPath();
     if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        statusBar()->showMessage(tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)));
+        tell(tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)));
 }
 
 Kiv_bomViewWindow &Kiv_bomWindow::viewWindow(const QString &path)
 {
     auto &window = m_views[path];
     if (!window) {
-        window = std::make_unique<Kiv_bomViewWindow>(path);
+        window = std::make_unique<Kiv_bomViewWindow>(known(), path);
         window->sets = [this, path] {
             int sets = 0;
-            for (const QStandardItem *file : bomTree::allFiles(m_model))
+            for (const QStandardItem *file : bomTree::allFiles(model()))
                 if (pathOf(file) == path)
                     sets += bomTree::setsOf(file);
             return sets;

@@ -123,20 +123,17 @@ void setRows::cellChanged(myItemStandard *item, myItemStandard *first)
         static_cast<fileCategory *>(first->record)->name = item->text();
     else
         static_cast<fileGroup *>(first->record)->name = item->text();
-    m_changed();
 }
 
 void setRows::rowInserted(QStandardItem *parent, int row, myItemStandard *first)
 {
     withListBelow(parent, m_boms,
                   [&](auto &list) { recordPlaces::putInto(list, parent, row, first); });
-    m_changed();
 }
 
 void setRows::rowTaken(QStandardItem *parent, int row, myItemStandard *first)
 {
     withListBelow(parent, m_boms, [&](auto &list) { recordPlaces::takeFrom(list, row, first); });
-    m_changed();
 }
 
 int depthOf(const QStandardItem *item)

@@ -25,10 +25,8 @@ constexpr int setsMaximum = 1000000;
 class setRows : public modelRecords
 {
 public:
-    // changed is called when a record changed, which the numbers of sets are not part of.
-    setRows(kiv_mat_bomsStruct *boms, std::function<void()> changed)
+    explicit setRows(kiv_mat_bomsStruct *boms)
         : m_boms(boms)
-        , m_changed(std::move(changed))
     {
     }
 
@@ -46,7 +44,6 @@ public:
 
 private:
     kiv_mat_bomsStruct *m_boms;
-    std::function<void()> m_changed;
 };
 
 // How many rows a row stands below: 0 a category, 1 a group, 2 a file.

@@ -56,7 +56,7 @@ int runFirmUses(const QStringList &arguments)
     }
     if (!options.isSet(output))
         return done;
-    firmOperations::rename(*database, {step});
+    applyNames(changesOf(*database, {step}));
     const QString target = options.value(output);
     return saveXmlNoEvents(target, database.get()) < 0 ? cannotWrite(target) : done;
 }

@@ -36,10 +36,12 @@ commandStack::~commandStack()
 
 void commandStack::push(std::unique_ptr<command> applied, const QString &what)
 {
-    m_done.push_back({completed ? completed(std::move(applied)) : std::move(applied), what});
+    m_done.push_back(
+        {completed ? completed(std::move(applied)) : std::move(applied), what, ++m_lastNumber});
     clearRedo();
     enable(m_redoAction, false);
     enable(m_undoAction, true);
+    tell();
 }
 
 QString commandStack::undo()
@@ -56,6 +58,7 @@ QString commandStack::undo()
     }
     if (m_done.empty())
         enable(m_undoAction, false);
+    tell();
     return what;
 }
 
@@ -73,6 +76,7 @@ QString commandStack::redo()
     }
     if (m_undone.empty())
         enable(m_redoAction, false);
+    tell();
     return what;
 }
 
@@ -82,6 +86,13 @@ void commandStack::clear()
     discard(m_undone);
     enable(m_undoAction, false);
     enable(m_redoAction, false);
+    tell();
+}
+
+void commandStack::tell() const
+{
+    if (changed)
+        changed();
 }
 
 void commandStack::clearRedo() { discard(m_undone); }

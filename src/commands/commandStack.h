@@ -40,6 +40,12 @@ public:
     // adds to a change what belongs to it, and may ask the user.
     std::function<std::unique_ptr<command>(std::unique_ptr<command>)> completed;
 
+    // Called after each push, undo, redo and clear.
+    std::function<void()> changed;
+
+    // What was done, as a number: equal numbers mean that the same steps are done. 0 when none is.
+    quint64 state() const { return m_done.empty() ? 0 : m_done.back().number; }
+
     size_t undoCount() const { return m_done.size(); }
     size_t redoCount() const { return m_undone.size(); }
 
@@ -48,8 +54,12 @@ private:
     {
         std::unique_ptr<command> change;
         QString what;
+        quint64 number; // never given twice
     };
 
+    void tell() const;
+
+    quint64 m_lastNumber = 0;
     std::vector<step> m_done;   // the last one is the most recent
     std::vector<step> m_undone; // the last one is the most recently undone
     // A window's actions may go before its stack.

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QDir>
+#include <QFile>
+#include <QXmlStreamReader>
 
 namespace configOperations {
 
@@ -121,6 +123,18 @@ QStringList restartNeeded(const configStruct &before, const configStruct &after)
             && before.options.value(option->type) != option->value1)
             captions.append(labels::optionCaption(option->type));
     return captions;
+}
+
+int lineOf(const QString &key, const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd())
+        if (reader.readNextStartElement() && attributeValue(&reader, word("type")) == key)
+            return int(reader.lineNumber());
+    return 0;
 }
 
 QString storedPath(const QString &path)

@@ -43,6 +43,9 @@ QStringList faultsOf(const configStruct &config);
 // The captions of options that differ and count from the next start on only.
 QStringList restartNeeded(const configStruct &before, const configStruct &after);
 
+// The line of a configuration's file in which an option stands; 0 when there is none.
+int lineOf(const QString &key, const QString &path);
+
 // A path within the program's data folder as the configuration stores it: relative to it.
 QString storedPath(const QString &path);
 

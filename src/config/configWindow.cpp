@@ -3,7 +3,6 @@
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "config/configOperations.h"
-#include "data/documentSaving.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
@@ -12,9 +11,9 @@
 #include "util/prompts.h"
 #include "util/text.h"
 
-#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QHeaderView>
-#include <QStatusBar>
 #include <QTabWidget>
 
 using configOperations::optionKind;
@@ -23,38 +22,25 @@ using myItem::myItemStandard;
 namespace {
 
 const windowAction<configWindow> actionTable[] = {
-    {{"save", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Save"),
-      "action_save", "Ctrl+S",
+    {{"save", "File", "Save", "action_save", "Ctrl+S",
       QT_TRANSLATE_NOOP("actions", "Check the configuration, write it and use it"), true},
      &configWindow::commandSave},
     {{"default", "File", QT_TRANSLATE_NOOP("actions", "Default"), "action_default", nullptr,
       QT_TRANSLATE_NOOP("actions", "Give every option its default value"), true},
      &configWindow::commandDefault},
-    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &configWindow::commandClose},
-    {{"edit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
-      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the configuration"),
-      true, true},
+    {usualActions::fileSeparator, nullptr},
+    {usualActions::close, &configWindow::commandClose},
+    {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the configuration")),
      &configWindow::commandEdit},
-    {{"undo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr, true},
-     &configWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &configWindow::commandRedo},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {usualActions::undo, &configWindow::commandUndo},
+    {usualActions::redo, &configWindow::commandRedo},
+    {usualActions::editSeparator, nullptr},
     {{"add", "Edit", QT_TRANSLATE_NOOP("actions", "Add row"), "action_add_row", "Ins",
       QT_TRANSLATE_NOOP("actions", "Add a person or a target"), true},
      &configWindow::commandAdd},
     {{"delete", "Edit", QT_TRANSLATE_NOOP("actions", "Delete rows"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected persons or targets"), true},
      &configWindow::commandDelete},
-};
-
-enum page
-{
-    optionsPage,
-    personsPage,
-    targetsPage
 };
 
 template <class Record>
@@ -162,85 +148,84 @@ void configWindow::optionRows::cellChanged(myItemStandard *item, myItemStandard 
     option->value1 = item->text();
 }
 
-configWindow::configWindow()
-    : baseWindow(QStringLiteral("configWindow"))
+configWindow::configWindow(programData &files)
+    : editWindow(QStringLiteral("configWindow"), files)
+    , m_edited(std::make_unique<configStruct>())
     , m_tabs(new QTabWidget(this))
-    , m_options(new myModel(this))
-    , m_persons(new myModel(this))
-    , m_targets(new myModel(this))
 {
-    setWindowTitle(tr("Configuration"));
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
     m_tabs->setObjectName(QStringLiteral("pages"));
-    addTree(m_options, tr("Options"), "options")->setSortingEnabled(false);
-    addTree(m_persons, tr("Persons"), "persons");
-    addTree(m_targets, tr("Targets"), "targets");
+    addPage(optionsPage, tr("Options"), "options");
+    addPage(personsPage, tr("Persons"), "persons");
+    addPage(targetsPage, tr("Targets"), "targets");
+    m_views[optionsPage]->setSortingEnabled(false);
     setCentralWidget(m_tabs);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &configWindow::updateActions);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] { updateActions(); });
     constexpr QSize usualSize(880, 640);
     resize(usualSize);
-    load();
 }
 
-configWindow::~configWindow()
+void configWindow::addPage(page at, const QString &title, const char *name)
 {
-    m_stack->clear();
-    for (myModel *model : {m_options, m_persons, m_targets})
-        model->detach();
-}
-
-myTreeView *configWindow::addTree(myModel *model, const QString &title, const char *name)
-{
-    recordEdits(model, m_stack.get());
-    auto *view = new myTreeView(m_tabs);
-    view->setObjectName(QLatin1String(name));
-    view->setAccessibleName(title);
-    view->setModel(model);
+    myTreeView *view = addView(title, name, m_tabs);
     view->setRootIsDecorated(false);
     view->header()->setStretchLastSection(true);
-    view->header()->setObjectName(QLatin1String(name) + QStringLiteral("Header"));
     m_tabs->addTab(view, title);
-    m_views.push_back(view);
-    connect(model, &myModel::sorted, this, &configWindow::clearCommands);
-    for (auto signal :
-         {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
-        connect(model, signal, this, &configWindow::updateActions);
-    return view;
+    m_views[at] = view;
 }
 
-void configWindow::load()
+myTreeView *configWindow::currentView() const { return m_views[size_t(m_tabs->currentIndex())]; }
+
+QString configWindow::filePath() const { return paths::config(); }
+
+QLatin1String configWindow::editOption() const { return optionKey::editConfig; }
+
+// Only the file itself can take the lock away again.
+QString configWindow::forbidden(QLatin1String option) const
 {
-    m_stack->clear();
-    m_changedBefore = false;
+    return tr("%1 is NIE; change line %2 of %3")
+        .arg(option)
+        .arg(configOperations::lineOf(option, filePath()))
+        .arg(QDir::toNativeSeparators(filePath()));
+}
+
+bool configWindow::load()
+{
     auto config = std::make_unique<configStruct>();
-    if (!config->load(paths::config())) {
+    onDisk() = fileState::of(filePath());
+    const bool read = config->load(filePath());
+    // Saved over, what the file holds would be lost.
+    m_fault = read || !QFileInfo::exists(filePath()) ? QString() : tr("the file cannot be read");
+    if (!read) {
         config = std::make_unique<configStruct>();
         config->setDefaults();
     }
     configOperations::addMissing(config.get());
+    setClean();
     // Its records are looked at until the trees show the new ones.
     const auto before = std::exchange(m_edited, std::move(config));
     showOptions();
-    m_persons->setRecords(nullptr);
-    m_targets->setRecords(nullptr);
     m_personRows = std::make_unique<listRows<personStruct>>(personColumns());
     m_targetRows = std::make_unique<listRows<targetStruct>>(targetColumns());
-    setCaptions(m_persons, m_personRows->columns());
-    setCaptions(m_targets, m_targetRows->columns());
-    m_personRows->show(m_persons, &m_edited->persons.items);
-    m_targetRows->show(m_targets, &m_edited->targets.items);
-    m_persons->setRecords(m_personRows.get());
-    m_targets->setRecords(m_targetRows.get());
-    action("edit")->setChecked(m_edited->isOn(optionKey::editConfig));
-    commandEdit(action("edit")->isChecked());
+    const auto show = [this](page at, auto &rows, auto &records) {
+        myModel *model = modelOf(m_views[at]);
+        model->setRecords(nullptr);
+        setCaptions(model, rows.columns());
+        rows.show(model, &records);
+        model->setRecords(&rows);
+    };
+    show(personsPage, *m_personRows, m_edited->persons.items);
+    show(targetsPage, *m_targetRows, m_edited->targets.items);
+    setUnlocked(true);
+    return read;
 }
 
 void configWindow::showOptions()
 {
-    m_options->setRecords(&m_optionRows);
-    m_options->removeRows(0, m_options->rowCount());
-    m_options->setHorizontalHeaderLabels({tr("Option"), labels::value(), labels::unit()});
+    myModel *model = options();
+    model->setRecords(&m_optionRows);
+    model->removeRows(0, model->rowCount());
+    model->setHorizontalHeaderLabels({tr("Option"), labels::value(), labels::unit()});
     for (const auto &option : m_edited->options.items) {
         auto *caption = new myItemStandard(option->type);
         const QString text = labels::optionCaption(option->type);
@@ -258,7 +243,7 @@ void configWindow::showOptions()
         auto *unit = new myItemStandard(QStringLiteral("unit"));
         unit->setText(option->unit);
         unit->setEditable(false);
-        m_options->appendRow({caption, value, unit});
+        model->appendRow({caption, value, unit});
     }
     constexpr int captionWidth = 360;
     constexpr int valueWidth = 340;
@@ -268,57 +253,19 @@ void configWindow::showOptions()
 
 void configWindow::updateActions()
 {
-    const bool locked = m_views.size() < 3 || m_views[optionsPage]->isEditingLocked();
-    const bool onOptions = m_tabs->currentIndex() == optionsPage;
-    const QString lockedReason = tr("editing is locked");
-    setAvailable("default", !locked, lockedReason);
-    for (const char *name : {"add", "delete"})
-        setAvailable(name, !locked && !onOptions,
-                     locked ? lockedReason : tr("options are neither added nor deleted"));
-    statusBar()->showMessage(isChanged() ? tr("Changed, not saved") : QString());
-}
-
-void configWindow::showNow()
-{
-    if (!isVisible())
-        load();
-    show();
-    raise();
-    activateWindow();
-}
-
-void configWindow::commandEdit(bool on)
-{
-    for (myTreeView *view : m_views)
-        view->setEditingLocked(!on);
-    updateActions();
-}
-
-void configWindow::commandUndo(bool)
-{
-    const QString what = m_stack->undo();
-    statusBar()->showMessage(tr("Undone: %1").arg(what));
-}
-
-void configWindow::commandRedo(bool)
-{
-    const QString what = m_stack->redo();
-    statusBar()->showMessage(tr("Done again: %1").arg(what));
-}
-
-void configWindow::clearCommands()
-{
-    // Sorting ends the history, not the changes.
-    m_changedBefore = isChanged();
-    m_stack->clear();
+    allowWhenUnlocked({"default"});
+    allowWhenUnlocked({"add", "delete"}, m_tabs->currentIndex() != optionsPage,
+                      tr("options are neither added nor deleted"));
+    setAvailable("save", isModified() && !isLocked(),
+                 isLocked() ? lockedReason() : tr("nothing was changed"));
 }
 
 void configWindow::commandAdd(bool)
 {
-    const bool persons = m_tabs->currentIndex() == personsPage;
-    myModel *model = persons ? m_persons : m_targets;
+    const bool isPerson = m_tabs->currentIndex() == personsPage;
+    myTreeView *view = currentView();
     myItem::row items;
-    if (persons) {
+    if (isPerson) {
         auto person = std::make_unique<personStruct>();
         person->type = optionKey::personAuthor;
         items = m_personRows->makeDetachedRow(std::move(person));
@@ -327,79 +274,49 @@ void configWindow::commandAdd(bool)
         target->type = optionKey::orderTarget;
         items = m_targetRows->makeDetachedRow(std::move(target));
     }
-    m_stack->push(std::make_unique<appendNewMaterial>(model, items), tr("Add row"));
-    myTreeView *view = m_views[size_t(m_tabs->currentIndex())];
-    view->setCurrentIndex(model->index(model->rowCount() - 1, 0));
+    push(std::make_unique<appendNewMaterial>(modelOf(view), items), tr("Add row"));
+    view->setCurrentIndex(view->model()->index(view->model()->rowCount() - 1, 0));
     view->setFocus();
-    updateActions();
 }
 
 void configWindow::commandDelete(bool)
 {
-    myTreeView *view = m_views[size_t(m_tabs->currentIndex())];
-    if (auto change =
-            cellBlock::deleteRows(static_cast<myModel *>(view->model()), view->selectedRows()))
-        m_stack->push(std::move(change), tr("Delete rows"));
-    updateActions();
+    push(cellBlock::deleteRows(modelOf(currentView()), currentView()->selectedRows()),
+         tr("Delete rows"));
 }
 
 void configWindow::commandDefault(bool)
 {
     QList<myItemStandard *> cells;
-    for (int row = 0; row < m_options->rowCount(); ++row)
-        cells.append(static_cast<myItemStandard *>(m_options->item(row, 1)));
-    auto change = cellBlock::set(m_options, cells, [](const myItemStandard &cell) {
-        const QString value = configOperations::defaultValue(cell.whatsThis());
-        return value.isNull() ? QVariant() : QVariant(value);
-    });
-    if (change)
-        m_stack->push(std::move(change), tr("Default"));
-    updateActions();
+    for (int row = 0; row < options()->rowCount(); ++row)
+        cells.append(static_cast<myItemStandard *>(options()->item(row, 1)));
+    push(cellBlock::set(options(), cells,
+                        [](const myItemStandard &cell) {
+                            const QString value = configOperations::defaultValue(cell.whatsThis());
+                            return value.isNull() ? QVariant() : QVariant(value);
+                        }),
+         tr("Default"));
 }
 
-void configWindow::commandSave(bool)
+bool configWindow::write(const QString &path)
 {
-    for (myTreeView *view : m_views)
-        view->finishEditing();
     const QStringList faults = configOperations::faultsOf(*m_edited);
     if (!faults.isEmpty()) {
         userPrompts().showError(text::toHtml(faults.join(QLatin1Char('\n'))));
-        return;
+        return false;
     }
-    programData &known = programData::instance();
-    const QString path = paths::config();
     if (!saveDocument(path, *m_edited))
-        return;
-    const QStringList later = configOperations::restartNeeded(known.config(), *m_edited);
-    if (!known.replaceConfiguration(path))
-        return;
-    m_stack->clear();
-    m_changedBefore = false;
-    updateActions();
-    statusBar()->showMessage(tr("Saved"));
-    emit configChange();
-    if (!later.isEmpty())
-        userPrompts().showInformation(text::toHtml(tr("These options count from the next start on:")
-                                                   + QLatin1Char('\n')
-                                                   + later.join(QLatin1Char('\n'))));
+        return false;
+    m_later = configOperations::restartNeeded(known().config(), *m_edited);
+    return known().replaceConfiguration(path);
 }
 
-void configWindow::commandClose(bool) { close(); }
-
-void configWindow::closeEvent(QCloseEvent *event)
+void configWindow::saved()
 {
-    for (myTreeView *view : m_views)
-        view->finishEditing();
-    if (isChanged()) {
-        const prompts::answer answer =
-            userPrompts().ask(tr("Save the changed configuration?"), true);
-        if (answer == prompts::answer::yes)
-            commandSave(false);
-        if (answer == prompts::answer::cancel || (answer == prompts::answer::yes && isChanged())) {
-            event->ignore();
-            return;
-        }
-    }
-    m_stack->clear();
-    baseWindow::closeEvent(event);
+    setUnlocked(!isLocked());
+    emit configChange();
+    if (!m_later.isEmpty())
+        userPrompts().showInformation(text::toHtml(tr("These options count from the next start on:")
+                                                   + QLatin1Char('\n')
+                                                   + m_later.join(QLatin1Char('\n'))));
 }

@@ -1,47 +1,54 @@
-// The configuration: options, persons and targets in trees with undo.
+// The configuration: options, persons and targets in trees with undo. What is edited is a copy of
+// the configuration's file, which saving puts in use.
 #pragma once
 
-#include "commands/commandStack.h"
 #include "data/configStruct.h"
 #include "tree/columnTable.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
 class QTabWidget;
-class myTreeView;
 
-class configWindow : public baseWindow
+class configWindow : public editWindow
 {
     Q_OBJECT
 public:
-    configWindow();
-    ~configWindow() override;
+    explicit configWindow(programData &known);
 
-    // Shows the window; a closed one begins with what the file holds.
-    void showNow();
-
-    myModel *options() { return m_options; }
-    myModel *persons() { return m_persons; }
+    myModel *options() { return modelOf(m_views[optionsPage]); }
+    myModel *persons() { return modelOf(m_views[personsPage]); }
     const configStruct &edited() const { return *m_edited; }
 
 public slots:
-    void commandSave(bool);
-    void commandEdit(bool on);
-    void commandUndo(bool);
-    void commandRedo(bool);
     void commandAdd(bool);
     void commandDelete(bool);
     void commandDefault(bool);
-    void commandClose(bool);
-    void clearCommands();
 
 signals:
     // A changed configuration was saved and is in use.
     void configChange();
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    QString filePath() const override;
+    QString title() const override { return tr("Configuration"); }
+    bool load() override;
+    bool write(const QString &path) override;
+    void saved() override;
+    QLatin1String editOption() const override;
+    QString fault() const override { return m_fault; }
+    QString forbidden(QLatin1String option) const override;
+    QString closeQuestion() const override { return tr("Save the changed configuration?"); }
+    void updateActions() override;
+    myTreeView *currentView() const override;
 
 private:
+    enum page
+    {
+        optionsPage,
+        personsPage,
+        targetsPage,
+        pageCount
+    };
+
     // Writes what is edited to the options' records.
     class optionRows : public modelRecords
     {
@@ -51,21 +58,15 @@ private:
         void rowTaken(QStandardItem *, int, myItem::myItemStandard *) override {}
     };
 
-    void load();
     void showOptions();
-    myTreeView *addTree(myModel *model, const QString &title, const char *name);
-    void updateActions();
-    bool isChanged() const { return m_changedBefore || m_stack->undoCount() > 0; }
+    void addPage(page at, const QString &title, const char *name);
 
     std::unique_ptr<configStruct> m_edited;
-    std::unique_ptr<commandStack> m_stack;
-    bool m_changedBefore = false; // changes that the history no longer holds
     QTabWidget *m_tabs;
-    myModel *m_options;
-    myModel *m_persons;
-    myModel *m_targets;
-    std::vector<myTreeView *> m_views;
+    std::array<myTreeView *, pageCount> m_views{};
     optionRows m_optionRows;
     std::unique_ptr<listRows<personStruct>> m_personRows;
     std::unique_ptr<listRows<targetStruct>> m_targetRows;
+    QString m_fault;     // why the configuration cannot be edited
+    QStringList m_later; // options that the next start reads
 };

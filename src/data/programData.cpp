@@ -116,9 +116,9 @@ bool programData::replaceConfiguration(const QString &path)
     return true;
 }
 
-bool programData::isSwitchedOff(QLatin1String loadKey) const
+bool programData::isSwitchedOff(QLatin1String key) const
 {
-    return m_config->options.findOption(loadKey) && !m_config->isOn(loadKey);
+    return m_config->options.findOption(key) && !m_config->isOn(key);
 }
 
 // Said once: without schemas every file is refused.
@@ -203,11 +203,23 @@ void programData::putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseSt
     }
 }
 
-void programData::loadBoms()
+std::vector<const kiv_mat_databaseStruct *> programData::databases() const
+{
+    std::vector<const kiv_mat_databaseStruct *> all;
+    for (const auto &database : m_databases)
+        all.push_back(database.get());
+    return all;
+}
+
+bool programData::loadBoms()
 {
     const QString name = m_config->options.value(optionKey::fileBoms);
+    if (name.isEmpty() || isSwitchedOff(optionKey::loadBoms))
+        return true;
     auto boms = std::make_unique<kiv_mat_bomsStruct>();
-    if (!name.isEmpty() && !isSwitchedOff(optionKey::loadBoms)
-        && readInto(*boms, paths::data(name), {}))
-        m_boms = std::move(boms);
+    if (!readInto(*boms, paths::data(name), {}))
+        return false;
+    m_boms = std::move(boms);
+    m_fileOfBoms = fileState::of(m_boms->filePath);
+    return true;
 }

@@ -36,12 +36,14 @@ public:
     void loadConfiguration();
     void loadFirm(const progressFunction &progress = {});
     void loadDatabase(databaseKind kind, const progressFunction &progress = {});
-    void loadBoms();
+    // True unless a set is named that cannot be read; then the one before stays.
+    bool loadBoms();
     // Reads a loaded database's file again, whatever the options say now. False, with the database
     // as it is, when it cannot be read.
     bool reloadDatabase(databaseKind kind);
     // The file of a database as it was when it was read or, once it is told, written.
     fileState &fileOf(databaseKind kind) { return m_files[kind]; }
+    fileState &fileOfBoms() { return m_fileOfBoms; }
 
     // Whether the schema of a kind is there. The first one that is missing is listed.
     bool schemaIsThere(const fileKind &kind);
@@ -53,7 +55,11 @@ public:
     configStruct &config() { return *m_config; }
     kiv_mat_firmStruct &firm() { return *m_firm; }
     kiv_mat_databaseStruct &database(databaseKind kind) { return *m_databases[kind]; }
+    // All databases, in the order of their kinds.
+    std::vector<const kiv_mat_databaseStruct *> databases() const;
     kiv_mat_bomsStruct &boms() { return *m_boms; }
+    // Whether the configuration has the option and says no.
+    bool isSwitchedOff(QLatin1String key) const;
     // All materials of the databases.
     ktmIndex &materials() { return m_materials; }
     materialSearch &search() { return m_search; }
@@ -65,7 +71,6 @@ private:
     programData() { clear(); }
 
     void putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database);
-    bool isSwitchedOff(QLatin1String loadKey) const;
     bool readInto(documentStruct &record, const QString &path, const progressFunction &progress);
 
     std::unique_ptr<configStruct> m_config;
@@ -73,6 +78,7 @@ private:
     std::array<std::unique_ptr<kiv_mat_databaseStruct>, databaseCount> m_databases;
     std::array<fileState, databaseCount> m_files;
     std::unique_ptr<kiv_mat_bomsStruct> m_boms;
+    fileState m_fileOfBoms;
     ktmIndex m_materials;
     materialSearch m_search;
     bool m_schemasReported = false;

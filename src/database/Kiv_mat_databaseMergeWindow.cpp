@@ -29,14 +29,10 @@ const windowAction<Kiv_mat_databaseMergeWindow> actionTable[] = {
     {{"set", "File", QT_TRANSLATE_NOOP("actions", "Set"), "action_set", "Ctrl+S",
       QT_TRANSLATE_NOOP("actions", "Take over the selected materials or fields, or all"), true},
      &Kiv_mat_databaseMergeWindow::commandSet},
-    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &Kiv_mat_databaseMergeWindow::commandClose},
-    {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
-      "action_undo", "Ctrl+Z", nullptr, true},
-     &Kiv_mat_databaseMergeWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &Kiv_mat_databaseMergeWindow::commandRedo},
+    {usualActions::fileSeparator, nullptr},
+    {usualActions::close, &Kiv_mat_databaseMergeWindow::commandClose},
+    {usualActions::undo, &Kiv_mat_databaseMergeWindow::commandUndo},
+    {usualActions::redo, &Kiv_mat_databaseMergeWindow::commandRedo},
     {{"leaveOut", "Edit", QT_TRANSLATE_NOOP("actions", "Leave out"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Take the selected materials out of the list"), true},
      &Kiv_mat_databaseMergeWindow::commandLeaveOut},
@@ -79,20 +75,13 @@ void mark(const myItem::row &row)
 } // namespace
 
 Kiv_mat_databaseMergeWindow::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database)
-    : baseWindow(QStringLiteral("Kiv_mat_databaseMergeWindow"))
+    : editWindow(QStringLiteral("Kiv_mat_databaseMergeWindow"), database->known())
     , m_database(database)
-    , m_model(new myModel(this))
-    , m_view(new myTreeView(this))
 {
-    setWindowTitle(tr("Merge"));
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_view->setObjectName(QStringLiteral("differences"));
-    m_view->setAccessibleName(tr("Differences"));
-    m_view->setModel(m_model);
+    m_view = addView(tr("Differences"), "differences", this);
     m_view->setSortingEnabled(false);
-    m_model->setHorizontalHeaderLabels({labels::name(), tr("Value [orgin]"), tr("Value [new]")});
-    m_view->header()->setObjectName(QStringLiteral("differencesHeader"));
+    model()->setHorizontalHeaderLabels({labels::name(), tr("Value [orgin]"), tr("Value [new]")});
     constexpr int columnWidth = 300;
     m_view->header()->resizeSection(0, columnWidth);
     m_view->header()->resizeSection(1, columnWidth);
@@ -102,10 +91,17 @@ Kiv_mat_databaseMergeWindow::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow 
     setCentralWidget(m_view);
     constexpr QSize usualSize(1000, 680);
     resize(usualSize);
-    updateActions();
+    showState();
 }
 
-Kiv_mat_databaseMergeWindow::~Kiv_mat_databaseMergeWindow() { m_stack->clear(); }
+Kiv_mat_databaseMergeWindow::~Kiv_mat_databaseMergeWindow() = default;
+
+QString Kiv_mat_databaseMergeWindow::title() const
+{
+    return m_path.isEmpty() ? tr("Merge")
+                            : tr("Merge") + QLatin1String(" [") + QDir::toNativeSeparators(m_path)
+                                  + QLatin1Char(']');
+}
 
 void Kiv_mat_databaseMergeWindow::commandOpen(bool)
 {
@@ -134,17 +130,15 @@ bool Kiv_mat_databaseMergeWindow::open(const QString &path)
     m_other = std::move(other);
     m_comparison = std::move(found);
     showDifferences();
-    setWindowTitle(tr("Merge") + QLatin1String(" [") + QDir::toNativeSeparators(path)
-                   + QLatin1Char(']'));
-    if (m_model->rowCount() == 0)
+    if (model()->rowCount() == 0)
         userPrompts().showInformation(allMaterialsInDatabase().toHtmlEscaped());
     return true;
 }
 
 void Kiv_mat_databaseMergeWindow::showDifferences()
 {
-    m_stack->clear();
-    m_model->removeRows(0, m_model->rowCount());
+    setClean();
+    model()->removeRows(0, model()->rowCount());
     int place = -1;
     for (const materialDifference &difference : m_comparison.differences) {
         ++place;
@@ -168,25 +162,25 @@ void Kiv_mat_databaseMergeWindow::showDifferences()
                 mark(below);
             row.first()->appendRow(below);
         }
-        m_model->appendRow(row);
+        model()->appendRow(row);
     }
-    statusBar()->showMessage(tr("%n material(s) differ", nullptr, m_model->rowCount()));
+    tell(tr("%n material(s) differ", nullptr, model()->rowCount()));
     updateActions();
 }
 
 void Kiv_mat_databaseMergeWindow::updateActions()
 {
-    const bool empty = m_model->rowCount() == 0;
+    const bool empty = model()->rowCount() == 0;
     for (const char *name : {"leaveOut", "expand", "collaps"})
         setAvailable(name, !empty, tr("nothing differs"));
-    const bool locked = m_database->view()->isEditingLocked();
+    const bool locked = m_database->isLocked();
     setAvailable("set", !empty && !locked,
                  locked ? tr("editing of the database is locked") : tr("nothing differs"));
 }
 
 void Kiv_mat_databaseMergeWindow::commandSet(bool)
 {
-    if (m_database->view()->isEditingLocked())
+    if (m_database->isLocked())
         return;
     // Of each material in the list: all of its fields, or those selected.
     std::map<int, std::set<int>> selected;
@@ -198,8 +192,8 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
             selected[first.data(placeRole).toInt()];
     }
     if (selected.empty())
-        for (int row = 0; row < m_model->rowCount(); ++row)
-            selected[m_model->item(row)->data(placeRole).toInt()];
+        for (int row = 0; row < model()->rowCount(); ++row)
+            selected[model()->item(row)->data(placeRole).toInt()];
     std::vector<materialDifference> wanted;
     for (const auto &[place, fields] : selected) {
         materialDifference difference = m_comparison.differences[size_t(place)];
@@ -212,7 +206,7 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
     // What is left of the differences, against the database as it is now.
     m_comparison = compareDatabases(m_database->rows().database(), *m_other);
     showDifferences();
-    statusBar()->showMessage(tr("%n material(s) taken over", nullptr, count));
+    tell(tr("%n material(s) taken over", nullptr, count));
 }
 
 void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
@@ -222,22 +216,9 @@ void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
         rows.insert(cell.parent().isValid() ? cell.parent().row() : cell.row());
     std::vector<std::unique_ptr<command>> members;
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        members.push_back(std::make_unique<deleteMaterial>(m_model, m_model->index(*row, 0)));
+        members.push_back(std::make_unique<deleteMaterial>(model(), model()->index(*row, 0)));
     if (!members.empty())
-        m_stack->push(std::make_unique<appendCommands>(std::move(members), m_model),
-                      tr("Leave out"));
-    updateActions();
-}
-
-void Kiv_mat_databaseMergeWindow::commandUndo(bool)
-{
-    statusBar()->showMessage(tr("Undone: %1").arg(m_stack->undo()));
-    updateActions();
-}
-
-void Kiv_mat_databaseMergeWindow::commandRedo(bool)
-{
-    statusBar()->showMessage(tr("Done again: %1").arg(m_stack->redo()));
+        push(std::make_unique<appendCommands>(std::move(members), model()), tr("Leave out"));
     updateActions();
 }
 
@@ -245,16 +226,13 @@ void Kiv_mat_databaseMergeWindow::commandCollaps(bool) { m_view->collapseAll(); 
 
 void Kiv_mat_databaseMergeWindow::commandExpand(bool) { m_view->expandAll(); }
 
-void Kiv_mat_databaseMergeWindow::commandClose(bool) { close(); }
-
 void Kiv_mat_databaseMergeWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
 {
     const QModelIndex row = index.sibling(index.row(), 0);
     const QModelIndex material = row.parent().isValid() ? row.parent() : row;
     const materialDifference &difference =
         m_comparison.differences[size_t(material.data(placeRole).toInt())];
-    statusBar()->showMessage(
-        difference.kind == materialDifference::added
-            ? tr("New in the other file")
-            : tr("%n field(s) differ", nullptr, int(difference.fields.size())));
+    tell(difference.kind == materialDifference::added
+             ? tr("New in the other file")
+             : tr("%n field(s) differ", nullptr, int(difference.fields.size())));
 }

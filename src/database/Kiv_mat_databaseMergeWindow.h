@@ -2,29 +2,29 @@
 // by field, and takes over what the user selects.
 #pragma once
 
-#include "commands/commandStack.h"
 #include "database/databaseMerge.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
 class Kiv_mat_databaseWindow;
 class kiv_mat_databaseStruct;
-class myModel;
-class myTreeView;
 
-class Kiv_mat_databaseMergeWindow : public baseWindow
+class Kiv_mat_databaseMergeWindow : public editWindow
 {
     Q_OBJECT
 public:
     explicit Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow *database);
     ~Kiv_mat_databaseMergeWindow() override;
 
+    // The list of differences is no document.
+    bool isModified() const override { return false; }
+
     // Compares with a file; false, listed in the errors window, when it cannot be read.
     bool open(const QString &path);
 
     // After the database's lock changed.
-    void updateActions();
+    void updateActions() override;
 
-    myModel *model() { return m_model; }
+    myModel *model() { return modelOf(m_view); }
     myTreeView *view() { return m_view; }
 
 public slots:
@@ -34,11 +34,16 @@ public slots:
     void commandSet(bool);
     // Takes the selected materials out of the list: they stay as they are.
     void commandLeaveOut(bool);
-    void commandUndo(bool);
-    void commandRedo(bool);
     void commandCollaps(bool);
     void commandExpand(bool);
-    void commandClose(bool);
+
+protected:
+    QString filePath() const override { return {}; }
+    QString title() const override;
+    bool load() override { return true; }
+    bool write(const QString &) override { return true; }
+    QString closeQuestion() const override { return {}; }
+    void historyMoved() override { updateActions(); }
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
@@ -50,7 +55,5 @@ private:
     std::unique_ptr<kiv_mat_databaseStruct> m_other;
     QString m_path;
     comparison m_comparison;
-    myModel *m_model;
     myTreeView *m_view;
-    std::unique_ptr<commandStack> m_stack;
 };

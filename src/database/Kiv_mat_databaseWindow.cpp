@@ -3,9 +3,7 @@
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/materialWindow.h"
 
-#include "commands/cellClipboard.h"
 #include "data/XmlValidator.h"
-#include "data/documentSaving.h"
 #include "data/vocabulary.h"
 #include "tree/myModelDelegate.h"
 #include "tree/myTreeView.h"
@@ -34,23 +32,18 @@ using myItem::myItemStandard;
 namespace {
 
 constexpr int filterDelayMs = 40;
-const actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true};
-const actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
 const actionRow toolsSeparator{nullptr, "Tools", nullptr, nullptr, nullptr, nullptr, false};
 
 const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
-    {{"save", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Save"),
-      "action_save", "Ctrl+S", nullptr, true},
-     &Kiv_mat_databaseWindow::commandSave},
+    {usualActions::save, &Kiv_mat_databaseWindow::commandSave},
     {{"update", "File", QT_TRANSLATE_NOOP("actions", "Update"), "action_update", nullptr,
       QT_TRANSLATE_NOOP("actions", "Make this database like another file")},
      &Kiv_mat_databaseWindow::commandUpdate},
     {{"merge", "File", QT_TRANSLATE_NOOP("actions", "Merge"), "action_merge", nullptr,
       QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
      &Kiv_mat_databaseWindow::commandMerge},
-    {fileSeparator, nullptr},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &Kiv_mat_databaseWindow::commandClose},
+    {usualActions::fileSeparator, nullptr},
+    {usualActions::close, &Kiv_mat_databaseWindow::commandClose},
 
     {{"fullReport", QT_TRANSLATE_NOOP("actions", "Report"), QT_TRANSLATE_NOOP("actions", "Full"),
       "action_report", nullptr, QT_TRANSLATE_NOOP("actions", "Write a page of all materials")},
@@ -59,18 +52,14 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       nullptr, QT_TRANSLATE_NOOP("actions", "Write a short page of all materials")},
      &Kiv_mat_databaseWindow::commandShortReport},
 
-    {{"edit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
-      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the database"), true,
-      true},
+    {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the database")),
      &Kiv_mat_databaseWindow::commandEdit},
-    {{"undo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr, true},
-     &Kiv_mat_databaseWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &Kiv_mat_databaseWindow::commandRedo},
-    {editSeparator, nullptr},
+    {usualActions::undo, &Kiv_mat_databaseWindow::commandUndo},
+    {usualActions::redo, &Kiv_mat_databaseWindow::commandRedo},
+    {usualActions::editSeparator, nullptr},
     {{"copyText", "Edit", QT_TRANSLATE_NOOP("actions", "Copy text"), "data_copy_128", "Ctrl+C",
       QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
-     &Kiv_mat_databaseWindow::commandCopyText},
+     &Kiv_mat_databaseWindow::commandCopyCells},
     {{"copyMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Copy"), "data_copy_element2_128",
       "Ctrl+Shift+C", QT_TRANSLATE_NOOP("actions", "Copy the selected materials")},
      &Kiv_mat_databaseWindow::commandCopyMaterials},
@@ -83,7 +72,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
      &Kiv_mat_databaseWindow::commandDeleteMaterials},
-    {editSeparator, nullptr},
+    {usualActions::editSeparator, nullptr},
     {{"addGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new group"), "zp_open_group_128",
       nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandAddGroup},
@@ -198,28 +187,23 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
 // --- Construction
 // ---------------------------------------------------------------------------------
 
-Kiv_mat_databaseWindow::Kiv_mat_databaseWindow(programData::databaseKind kind)
-    : baseWindow(QStringLiteral("Kiv_mat_databaseWindow"))
+Kiv_mat_databaseWindow::Kiv_mat_databaseWindow(programData &files, programData::databaseKind kind)
+    : editWindow(QStringLiteral("Kiv_mat_databaseWindow"), files)
     , m_kind(kind)
 {
     buildWidgets();
     showDatabase();
-    commandEdit(false);
 }
 
-Kiv_mat_databaseWindow::~Kiv_mat_databaseWindow()
-{
-    m_stack->clear();
-    m_model->detach();
-}
+Kiv_mat_databaseWindow::~Kiv_mat_databaseWindow() = default;
 
 void Kiv_mat_databaseWindow::buildWidgets()
 {
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/action_database.png")));
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_model = new myModel(this);
-    recordEdits(m_model, m_stack.get());
+    auto *page = new QWidget(this);
+    m_view = addView(tr("Materials"), "materials", page);
+    m_model = modelOf(m_view);
     m_model->setCheck([this](const myItemStandard &item, const QVariant &value) {
         return faultOf(item, value.toString());
     });
@@ -228,19 +212,13 @@ void Kiv_mat_databaseWindow::buildWidgets()
         [](const QString &fault) { userPrompts().showError(fault.toHtmlEscaped()); },
         Qt::QueuedConnection);
 
-    auto *page = new QWidget(this);
     m_words = new QLineEdit(page);
     m_words->setObjectName(QStringLiteral("words"));
     m_words->setAccessibleName(tr("Words to search for"));
     m_words->setPlaceholderText(
         tr("Name, KTM, value, part number: 100n 0603, case:SOT23, price:<2"));
     m_words->setClearButtonEnabled(true);
-    m_view = new myTreeView(page);
-    m_view->setObjectName(QStringLiteral("materials"));
-    m_view->setAccessibleName(tr("Materials"));
-    m_view->setModel(m_model);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_view->header()->setObjectName(QStringLiteral("materialsHeader"));
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
@@ -266,25 +244,21 @@ void Kiv_mat_databaseWindow::buildWidgets()
                     for (int row = first; row <= last; ++row)
                         filterRow(group, row);
             });
-    connect(m_model, &myModel::sorted, this, &Kiv_mat_databaseWindow::clearCommands);
-    for (auto signal :
-         {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
-        connect(m_model, signal, this, &Kiv_mat_databaseWindow::changed);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_mat_databaseWindow::itemTreeClicked);
     connect(m_view, &QWidget::customContextMenuRequested, this,
             &Kiv_mat_databaseWindow::showContextMenu);
 }
 
+// The database as the program has it, which is how its file has it.
 void Kiv_mat_databaseWindow::showDatabase()
 {
-    programData &known = programData::instance();
-    m_stack->clear();
+    setClean();
     m_model->setRecords(nullptr);
     const bool first = !m_rows;
-    m_rows = std::make_unique<materialRows>(&known.database(m_kind),
-                                            databaseTree::columns(known.config()),
-                                            &known.materials(), &known.search());
+    m_rows = std::make_unique<materialRows>(&known().database(m_kind),
+                                            databaseTree::columns(known().config()),
+                                            &known().materials(), &known().search());
     m_rows->show(m_model);
     if (first) {
         QHeaderView *header = m_view->header();
@@ -293,43 +267,40 @@ void Kiv_mat_databaseWindow::showDatabase()
             header->setSectionHidden(int(c), int(c) >= databaseTree::usuallyShown());
         }
     }
-    m_view->setFont(known.config().font());
-    m_modified = false;
+    m_view->setFont(known().config().font());
+    setUnlocked(false);
     applyFilter();
-    showTitle();
 }
 
-void Kiv_mat_databaseWindow::showTitle()
+QString Kiv_mat_databaseWindow::filePath() const { return known().database(m_kind).filePath; }
+
+fileState &Kiv_mat_databaseWindow::onDisk() { return known().fileOf(m_kind); }
+
+QLatin1String Kiv_mat_databaseWindow::editOption() const { return optionKey::editDatabase; }
+
+QString Kiv_mat_databaseWindow::title() const
 {
-    QString title = tr("Database of material") + QLatin1String(" [")
-                    + QDir::toNativeSeparators(m_rows->database().filePath) + QLatin1Char(']');
-    if (m_view->isEditingLocked())
-        title += QLatin1Char(' ') + tr("Editing locked");
-    setWindowTitle(title + (m_modified ? QStringLiteral(" *") : QString()));
+    const QString title = tr("Database of material") + QLatin1String(" [")
+                          + QDir::toNativeSeparators(filePath()) + QLatin1Char(']');
+    return isLocked() ? title + QLatin1Char(' ') + tr("Editing locked") : title;
 }
 
-void Kiv_mat_databaseWindow::showNow()
+void Kiv_mat_databaseWindow::begin()
 {
-    if (!isVisible())
-        showDatabase();
+    showDatabase();
     // Else the first key in the search field would wait for it.
-    programData::instance().search().prepare();
-    show();
-    raise();
-    activateWindow();
+    known().search().prepare();
     m_words->setFocus();
 }
 
 void Kiv_mat_databaseWindow::updateActions()
 {
-    const bool locked = m_view->isEditingLocked();
-    const QString reason = tr("editing is locked");
-    for (const char *name :
-         {"save", "update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
-          "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"})
-        setAvailable(name, !locked, reason);
-    setAvailable("pasteMaterials", !locked && !m_copied.empty(),
-                 locked ? reason : tr("no material was copied"));
+    setAvailable("save", isModified(), tr("nothing was changed"));
+    allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
+                       "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"});
+    allowWhenUnlocked({"pasteMaterials"}, !m_copied.empty(), tr("no material was copied"));
+    if (m_merge)
+        m_merge->updateActions();
 }
 
 void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
@@ -354,148 +325,58 @@ void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &in
 {
     const QStandardItem *item = m_model->itemFromIndex(index);
     if (const materialStruct *material = materialRows::materialOf(item))
-        statusBar()->showMessage(material->d_ktm + QLatin1String("  ") + material->d_name
-                                 + QLatin1String("  ") + material->d_description);
+        tell(material->d_ktm + QLatin1String("  ") + material->d_name + QLatin1String("  ")
+             + material->d_description);
 }
 
 // --- Life
 // -----------------------------------------------------------------------------------------
 
-void Kiv_mat_databaseWindow::changed()
-{
-    if (!m_modified) {
-        m_modified = true;
-        showTitle();
-    }
-}
+void Kiv_mat_databaseWindow::historyMoved() { applyFilter(); }
 
-void Kiv_mat_databaseWindow::push(std::unique_ptr<command> change, const QString &what)
+bool Kiv_mat_databaseWindow::write(const QString &path)
 {
-    if (!change)
-        return;
-    m_stack->push(std::move(change), what);
-    changed();
-    applyFilter();
-    statusBar()->showMessage(what);
-}
-
-void Kiv_mat_databaseWindow::commandSave(bool)
-{
-    m_view->finishEditing();
     kiv_mat_databaseStruct &database = m_rows->database();
-    const QString path = database.filePath;
-    fileState &onDisk = programData::instance().fileOf(m_kind);
-    if (!(fileState::of(path) == onDisk)) {
-        enum
-        {
-            reload,
-            overwrite
-        };
-        const auto answer = userPrompts().decide(
-            tr("The file %1 was changed by another program since it was opened.")
-                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
-            {tr("Reload it and lose the changes here"), tr("Overwrite it")});
-        if (answer == reload)
-            reloadFile();
-        if (answer != overwrite)
-            return;
-    }
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     QApplication::setOverrideCursor(Qt::BusyCursor);
     const bool saved = saveDocument(path, database);
     QApplication::restoreOverrideCursor();
-    if (!saved) {
+    if (!saved)
         database.update = before;
-        return;
-    }
-    onDisk = fileState::of(path);
-    m_stack->clear();
-    m_modified = false;
-    showTitle();
-    statusBar()->showMessage(tr("Saved"));
+    return saved;
 }
 
 // What the program works with is what the file holds. False when it cannot be read: then what was
 // edited is still there, and still not saved.
-bool Kiv_mat_databaseWindow::reloadFile()
+bool Kiv_mat_databaseWindow::load()
 {
-    m_stack->clear();
+    setClean();
     m_model->setRecords(nullptr);
     m_model->removeRows(0, m_model->rowCount());
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool read = programData::instance().reloadDatabase(m_kind);
+    const bool read = known().reloadDatabase(m_kind);
     QApplication::restoreOverrideCursor();
     showDatabase();
-    m_modified = !read;
-    showTitle();
+    if (!read)
+        setChanged();
     userPrompts().showErrors();
     return read;
 }
 
-void Kiv_mat_databaseWindow::commandClose(bool) { close(); }
+bool Kiv_mat_databaseWindow::mayClose()
+{
+    finishEditing();
+    return (!m_editor || !m_editor->isVisible() || m_editor->close()) && editWindow::mayClose();
+}
 
 void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 {
-    m_view->finishEditing();
-    if (m_editor && m_editor->isVisible() && !m_editor->close()) {
-        event->ignore();
-        return;
-    }
-    if (m_modified) {
-        if (userPrompts().ask(tr("Save database"), false) == prompts::answer::yes) {
-            commandSave(false);
-            if (m_modified) {
-                event->ignore();
-                return;
-            }
-        } else if (!reloadFile()) {
-            event->ignore();
-            return;
-        }
-    }
+    editWindow::closeEvent(event);
     // It compares with what was shown here.
-    if (m_merge)
+    if (event->isAccepted() && m_merge)
         m_merge->close();
-    m_stack->clear();
-    action("edit")->setChecked(false);
-    baseWindow::closeEvent(event);
 }
-
-void Kiv_mat_databaseWindow::commandEdit(bool on)
-{
-    m_view->setEditingLocked(!on);
-    showTitle();
-    updateActions();
-    if (m_merge)
-        m_merge->updateActions();
-}
-
-void Kiv_mat_databaseWindow::commandUndo(bool)
-{
-    if (m_view->isEditingLocked()) {
-        statusBar()->showMessage(tr("Editing locked"));
-        return;
-    }
-    const QString what = m_stack->undo();
-    changed();
-    applyFilter();
-    statusBar()->showMessage(tr("Undone: %1").arg(what));
-}
-
-void Kiv_mat_databaseWindow::commandRedo(bool)
-{
-    if (m_view->isEditingLocked()) {
-        statusBar()->showMessage(tr("Editing locked"));
-        return;
-    }
-    const QString what = m_stack->redo();
-    changed();
-    applyFilter();
-    statusBar()->showMessage(tr("Done again: %1").arg(what));
-}
-
-void Kiv_mat_databaseWindow::clearCommands() { m_stack->clear(); }
 
 // --- Materials and groups
 // -------------------------------------------------------------------------
@@ -521,15 +402,13 @@ QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
     return m_model->item(index.isValid() ? index.row() : 0);
 }
 
-void Kiv_mat_databaseWindow::commandCopyText(bool) { cellClipboard::copy(m_view); }
-
 void Kiv_mat_databaseWindow::commandOpenLink(bool)
 {
     const QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
     const materialStruct *material = materialRows::materialOf(item);
     const QString link = material ? databaseTree::linkOf(*material) : QString();
     if (link.isEmpty() || !QDesktopServices::openUrl(QUrl::fromUserInput(link)))
-        statusBar()->showMessage(tr("This material has no link that can be opened"));
+        tell(tr("This material has no link that can be opened"));
 }
 
 void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
@@ -538,7 +417,7 @@ void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
     for (const materialStruct *material : selectedMaterials())
         m_copied.push_back(copyOf(*material));
     updateActions();
-    statusBar()->showMessage(tr("%n material(s) copied", nullptr, int(m_copied.size())));
+    tell(tr("%n material(s) copied", nullptr, int(m_copied.size())));
 }
 
 void Kiv_mat_databaseWindow::commandCutMaterials(bool on)
@@ -552,13 +431,13 @@ void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
     QStandardItem *group = currentGroup();
     if (!group)
         return;
-    const ktmIndex &known = programData::instance().materials();
+    const ktmIndex &index = known().materials();
     std::vector<std::unique_ptr<command>> members;
     int withoutKtm = 0;
     for (const auto &material : m_copied) {
         auto copy = copyOf(*material);
         // A KTM stands for one material.
-        if (known.find(copy->d_ktm)) {
+        if (index.find(copy->d_ktm)) {
             copy->d_ktm.clear();
             ++withoutKtm;
         }
@@ -571,7 +450,7 @@ void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
          tr("%n material(s) pasted", nullptr, count));
     m_view->expand(group->index());
     if (withoutKtm > 0)
-        statusBar()->showMessage(tr("%n of them need(s) a new KTM", nullptr, withoutKtm));
+        tell(tr("%n of them need(s) a new KTM", nullptr, withoutKtm));
 }
 
 void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
@@ -584,7 +463,7 @@ void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
     if (members.empty()) {
         const QStandardItem *group = currentGroup();
         if (!group || !materialRows::groupOf(group)->items.empty()) {
-            statusBar()->showMessage(tr("Only empty groups are deleted"));
+            tell(tr("Only empty groups are deleted"));
             return;
         }
         members.push_back(std::make_unique<deleteMaterial>(m_model, group->index()));
@@ -628,8 +507,8 @@ QString Kiv_mat_databaseWindow::faultOf(const myItemStandard &item, const QStrin
         return {};
     if (!checkKtm(text))
         return tr("Ktm syntax error");
-    const ktmIndex::entry *known = programData::instance().materials().find(text);
-    return known && known->material != materialRows::materialOf(&item)
+    const ktmIndex::entry *found = known().materials().find(text);
+    return found && found->material != materialRows::materialOf(&item)
                ? tr("Another material has this KTM")
                : QString();
 }
@@ -676,7 +555,6 @@ void Kiv_mat_databaseWindow::commandToOrder(bool)
         ktms.append(material->d_ktm);
     if (!ktms.isEmpty())
         emit appendToOrder(ktms, 1);
-    statusBar()->showMessage(tr("%n material(s) sent to the order", nullptr, ktms.size()));
 }
 
 void Kiv_mat_databaseWindow::commandToOrderN(bool)
@@ -692,7 +570,6 @@ void Kiv_mat_databaseWindow::commandToOrderN(bool)
     if (!quantity)
         return;
     emit appendToOrder(ktms, uint(*quantity));
-    statusBar()->showMessage(tr("%n material(s) sent to the order", nullptr, ktms.size()));
 }
 
 // --- The material editor
@@ -701,7 +578,7 @@ void Kiv_mat_databaseWindow::commandToOrderN(bool)
 materialWindow &Kiv_mat_databaseWindow::editor()
 {
     if (!m_editor) {
-        m_editor = new materialWindow(this);
+        m_editor = new materialWindow(known(), this);
         connect(m_editor, &materialWindow::addNew, this, &Kiv_mat_databaseWindow::commandAddNew);
         connect(m_editor, qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist),
                 this, &Kiv_mat_databaseWindow::commandEditExist);

@@ -3,41 +3,42 @@
 // databaseFilter.cpp, the tools over the whole database in databaseTools.cpp.
 #pragma once
 
-#include "commands/commandStack.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "database/databaseMerge.h"
 #include "database/databaseTree.h"
 #include "database/exportResult.h"
 #include "database/materialChange.h"
-#include "window/baseWindow.h"
+#include "firm/firmOperations.h"
+#include "window/editWindow.h"
 
 class Kiv_mat_databaseMergeWindow;
 class QLineEdit;
 class QTimer;
 class QTreeView;
+class kiv_mat_zpStruct;
 class materialWindow;
-class myTreeView;
 enum class databaseReportKind;
 
 using materialKtm = QString;
 
-class Kiv_mat_databaseWindow : public baseWindow
+class Kiv_mat_databaseWindow : public editWindow
 {
     Q_OBJECT
 public:
     // Shows a loaded database of the program; every change counts in the program at once, and is
     // taken back when the window is closed without saving.
-    explicit Kiv_mat_databaseWindow(programData::databaseKind kind);
+    Kiv_mat_databaseWindow(programData &known, programData::databaseKind kind);
     ~Kiv_mat_databaseWindow() override;
 
-    void showNow();
-    bool isModified() const { return m_modified; }
+    bool mayClose() override;
 
     myModel *model() { return m_model; }
     myTreeView *view() { return m_view; }
     databaseTree::rows &rows() { return *m_rows; }
-    commandStack &stack() { return *m_stack; }
+
+    // The order that is open, whose lines may use materials that are deleted here.
+    std::function<const kiv_mat_zpStruct &()> openOrder;
 
     // How many materials the search field and the filters let be seen.
     int shownCount() const { return m_shownCount; }
@@ -46,11 +47,6 @@ public:
     void selectItem(QTreeView *view, QStandardItem *item);
 
 public slots:
-    void commandSave(bool);
-    void commandClose(bool);
-    void commandEdit(bool on);
-    void commandUndo(bool);
-    void commandRedo(bool);
     void commandFullReport(bool);
     void commandShortReport(bool);
     void commandExpand(bool);
@@ -79,7 +75,6 @@ public slots:
     void commandColumns(bool);
 
     // Of the context menu, on the current cell or the selected materials.
-    void commandCopyText(bool);
     void commandOpenLink(bool);
     void commandEditParameters(bool);
     void commandCopyMaterials(bool);
@@ -102,13 +97,26 @@ public slots:
     // Takes over the selected differences as one step.
     void takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
                   const QString &what);
-    void clearCommands();
+    // Gives manufacturers and suppliers their new names as one step.
+    void renameFirms(const firmOperations::renameList &renames);
 
 signals:
     void appendToOrder(const QStringList &ktms, uint quantity);
     void insertToBom(const materialKtm &ktm);
 
 protected:
+    QString filePath() const override;
+    QString title() const override;
+    void begin() override;
+    bool load() override;
+    bool write(const QString &path) override;
+    bool discard() override { return load(); }
+    fileState &onDisk() override;
+    QLatin1String editOption() const override;
+    QString closeQuestion() const override { return tr("Save database"); }
+    bool closesWithCancel() const override { return false; }
+    void historyMoved() override;
+    void updateActions() override;
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
@@ -118,13 +126,8 @@ private:
     // --- Kiv_mat_databaseWindow.cpp ---
     void buildWidgets();
     void showDatabase();
-    void showTitle();
-    void updateActions();
     void showContextMenu(const QPoint &position);
-    void changed();
-    bool reloadFile();
     QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
-    void push(std::unique_ptr<command> change, const QString &what);
     std::vector<materialStruct *> selectedMaterials() const;
     QStandardItem *currentGroup() const;
     materialWindow &editor();
@@ -139,9 +142,9 @@ private:
     // --- databaseTools.cpp ---
     void writeReport(databaseReportKind kind);
     void exportTo(const QString &path,
-                  exportResult (*write)(const kiv_mat_databaseStruct &, const QString &,
-                                        const progressFunction &));
-    void tell(const exportResult &result);
+                  exportResult (*run)(const kiv_mat_databaseStruct &, const QString &,
+                                      const progressFunction &));
+    void tellExport(const exportResult &result);
     void applyTexts(std::vector<materialChange> changes, const QString &what);
     void list(const QString &heading, const QStringList &lines);
 
@@ -150,7 +153,6 @@ private:
     myTreeView *m_view = nullptr;
     QLineEdit *m_words = nullptr;
     QTimer *m_filterDelay = nullptr;
-    std::unique_ptr<commandStack> m_stack;
     std::unique_ptr<databaseTree::rows> m_rows;
     std::vector<std::unique_ptr<materialStruct>> m_copied;
     std::unique_ptr<Kiv_mat_databaseMergeWindow> m_merge;
@@ -158,7 +160,6 @@ private:
     searchQuery m_query;
     QString m_statusFilter;
     bool m_editedFilter = false;
-    bool m_modified = false;
     int m_shownCount = 0;
     int m_filterGroup = -1; // the group from which a filter in slices goes on
 };

@@ -69,7 +69,7 @@ bool Kiv_mat_databaseWindow::isShown(const materialStruct &material)
     if (m_editedFilter
         && material.information.edited.compare(statusWord::yes, Qt::CaseInsensitive) != 0)
         return false;
-    return m_query.terms().empty() || programData::instance().search().matches(&material, m_query);
+    return m_query.terms().empty() || known().search().matches(&material, m_query);
 }
 
 void Kiv_mat_databaseWindow::filterRow(QStandardItem *group, int row)
@@ -116,7 +116,7 @@ void Kiv_mat_databaseWindow::applyFilter()
         told = m_shownCount == all
                    ? tr("%n material(s)", nullptr, all)
                    : tr("%1 of %n material(s) shown", nullptr, all).arg(m_shownCount);
-    statusBar()->showMessage(told);
+    tell(told);
 }
 
 // Rows that are made already, some at a time, so that the next key need not wait.

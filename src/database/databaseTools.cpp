@@ -11,7 +11,6 @@
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
-#include "order/orderDocument.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/messages.h"
@@ -63,6 +62,38 @@ private:
     std::vector<materialChange> m_changes;
 };
 
+// Manufacturers' and suppliers' names of many materials as one step; rows that are made follow.
+class changeNames : public command
+{
+public:
+    changeNames(databaseTree::rows *rows, std::vector<firmOperations::nameChange> changes)
+        : m_rows(rows)
+        , m_changes(std::move(changes))
+    {
+        changeNames::redo();
+    }
+    void undo() override
+    {
+        firmOperations::revertNames(m_changes);
+        refresh();
+    }
+    void redo() override
+    {
+        firmOperations::applyNames(m_changes);
+        refresh();
+    }
+
+private:
+    void refresh()
+    {
+        for (const firmOperations::nameChange &change : m_changes)
+            m_rows->refresh(change.material);
+    }
+
+    databaseTree::rows *m_rows;
+    std::vector<firmOperations::nameChange> m_changes;
+};
+
 // A material of mine as it is once the listed fields of the other one are taken over.
 std::unique_ptr<materialStruct> merged(const materialDifference &difference)
 {
@@ -83,11 +114,11 @@ void Kiv_mat_databaseWindow::list(const QString &heading, const QStringList &lin
     userPrompts().showErrors();
 }
 
-void Kiv_mat_databaseWindow::tell(const exportResult &result)
+void Kiv_mat_databaseWindow::tellExport(const exportResult &result)
 {
     switch (result.result) {
     case exportResult::cancelled:
-        statusBar()->showMessage(tr("Cancelled"));
+        tell(tr("Cancelled"));
         return;
     case exportResult::failed:
         userPrompts().showError(result.error.toHtmlEscaped());
@@ -98,8 +129,8 @@ void Kiv_mat_databaseWindow::tell(const exportResult &result)
     for (const QString &file : result.files)
         userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(file), file));
     list({}, result.notes);
-    statusBar()->showMessage(tr("%n material(s) written to %1", nullptr, result.materials)
-                                 .arg(QDir::toNativeSeparators(result.files.value(0))));
+    tell(tr("%n material(s) written to %1", nullptr, result.materials)
+             .arg(QDir::toNativeSeparators(result.files.value(0))));
 }
 
 // --- Reports and exports
@@ -114,11 +145,10 @@ void Kiv_mat_databaseWindow::writeReport(databaseReportKind kind)
         != prompts::answer::yes)
         return;
     workProgress::scope work(progress(), tr("Writing the report"));
-    const exportResult result = writeDatabaseReport(
-        m_rows->database(), &programData::instance().firm(), kind, path, work.function());
-    tell(result);
-    if (result.result == exportResult::done
-        && programData::instance().config().isOn(optionKey::openReportHtml))
+    const exportResult result =
+        writeDatabaseReport(m_rows->database(), &known().firm(), kind, path, work.function());
+    tellExport(result);
+    if (result.result == exportResult::done && known().config().isOn(optionKey::openReportHtml))
         QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
@@ -126,15 +156,15 @@ void Kiv_mat_databaseWindow::commandFullReport(bool) { writeReport(databaseRepor
 void Kiv_mat_databaseWindow::commandShortReport(bool) { writeReport(databaseReportKind::brief); }
 
 void Kiv_mat_databaseWindow::exportTo(const QString &path,
-                                      exportResult (*write)(const kiv_mat_databaseStruct &,
-                                                            const QString &,
-                                                            const progressFunction &))
+                                      exportResult (*run)(const kiv_mat_databaseStruct &,
+                                                          const QString &,
+                                                          const progressFunction &))
 {
     if (path.isEmpty())
         return;
     userState::instance().altiumDir = QFileInfo(path).absolutePath();
     workProgress::scope work(progress(), tr("Exporting"));
-    tell(write(m_rows->database(), path, work.function()));
+    tellExport(run(m_rows->database(), path, work.function()));
 }
 
 void Kiv_mat_databaseWindow::commandAltiumXlsx(bool)
@@ -204,7 +234,7 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
         checked = checkUrls(m_rows->database(), work.function());
     }
     list({}, linkErrorLines(checked));
-    statusBar()->showMessage(tr("%n link(s) checked", nullptr, int(checked.links.size())));
+    tell(tr("%n link(s) checked", nullptr, int(checked.links.size())));
     if (checked.links.empty())
         return;
     const QString path = userPrompts().saveFile(
@@ -212,7 +242,7 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
         QFileInfo(m_rows->database().filePath).absolutePath() + QLatin1String("/links.xlsx"),
         QStringLiteral("Xlsx (*.xlsx)"));
     if (!path.isEmpty())
-        tell(exportLinks(checked, path));
+        tellExport(exportLinks(checked, path));
 }
 
 // --- Taking over
@@ -221,7 +251,7 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
 void Kiv_mat_databaseWindow::applyTexts(std::vector<materialChange> changes, const QString &what)
 {
     if (changes.empty()) {
-        statusBar()->showMessage(tr("Nothing differs"));
+        tell(tr("Nothing differs"));
         return;
     }
     QList<QStringList> shown;
@@ -301,7 +331,7 @@ void Kiv_mat_databaseWindow::commandCPVIndex(bool)
 {
     const QUrl file = cpvIndexFile();
     if (file.isEmpty())
-        statusBar()->showMessage(tr("The dictionary of CPV codes is not there"));
+        tell(tr("The dictionary of CPV codes is not there"));
     else
         QDesktopServices::openUrl(file);
 }
@@ -344,6 +374,14 @@ void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &sel
     }
     if (!members.empty())
         push(std::make_unique<appendCommands>(std::move(members), m_model), what);
+}
+
+void Kiv_mat_databaseWindow::renameFirms(const firmOperations::renameList &renames)
+{
+    finishEditing();
+    auto changes = firmOperations::changesOf(m_rows->database(), renames);
+    if (!changes.empty())
+        push(std::make_unique<changeNames>(m_rows.get(), std::move(changes)), tr("Firms renamed"));
 }
 
 void Kiv_mat_databaseWindow::commandMerge(bool)
@@ -395,7 +433,7 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QStringList lines = deletedLines(found.differences);
-    QStringList uses = usesOf(deleted, orderDocument::instance().order());
+    const QStringList uses = openOrder ? usesOf(deleted, openOrder()) : QStringList();
     std::vector<materialDifference> wanted;
     for (int row : dialog.chosen())
         wanted.push_back(found.differences[size_t(row)]);

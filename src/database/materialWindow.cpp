@@ -10,9 +10,7 @@
 #include "util/text.h"
 #include "window/workProgress.h"
 
-#include <QAbstractItemDelegate>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -32,14 +30,10 @@ const windowAction<materialWindow> actionTable[] = {
       "action_set", "Ctrl+S",
       QT_TRANSLATE_NOOP("actions", "Check the material and give it to its database"), true},
      &materialWindow::commandSet},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &materialWindow::commandClose},
-    {{"undo", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Undo"),
-      "action_undo", "Ctrl+Z", nullptr, true},
-     &materialWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &materialWindow::commandRedo},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {usualActions::close, &materialWindow::commandClose},
+    {usualActions::undo, &materialWindow::commandUndo},
+    {usualActions::redo, &materialWindow::commandRedo},
+    {usualActions::editSeparator, nullptr},
     {{"addManufacturer", QT_TRANSLATE_NOOP("actions", "Commands"),
       QT_TRANSLATE_NOOP("actions", "Add manufacturer"), "zp_add_manufacturer_grey_128", "Ctrl+M",
       nullptr, true},
@@ -100,23 +94,17 @@ QString logLine(const QString &text) { return text::toHtml(text) + QLatin1String
 
 } // namespace
 
-materialWindow::materialWindow(QWidget *parent)
-    : baseWindow(QStringLiteral("materialWindow"), parent)
-    , m_model(new myModel(this))
-    , m_view(new myTreeView(this))
+materialWindow::materialWindow(programData &files, QWidget *parent)
+    : editWindow(QStringLiteral("materialWindow"), files, parent)
     , m_menu(new QMenu(this))
     , m_counts(new QLabel(this))
 {
     setWindowModality(Qt::ApplicationModal);
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    recordEdits(m_model, m_stack.get());
-    m_view->setObjectName(QStringLiteral("material"));
-    m_view->setAccessibleName(tr("Fields, manufacturers, suppliers and files of the material"));
-    m_view->setModel(m_model);
+    m_view =
+        addView(tr("Fields, manufacturers, suppliers and files of the material"), "material", this);
     m_view->setSortingEnabled(false);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_view->header()->setObjectName(QStringLiteral("materialHeader"));
     setCentralWidget(m_view);
     m_menu->setObjectName(QStringLiteral("contextMenu"));
     for (const char *name : menuActions)
@@ -131,20 +119,8 @@ materialWindow::materialWindow(QWidget *parent)
         if (!m_menu->isVisible())
             itemTreeClicked(position, Qt::RightButton, m_view->currentIndex());
     });
-    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &materialWindow::updateActions);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &materialWindow::updateActions);
-    connect(m_model, &myModel::changeValueOccured, this, &materialWindow::updateActions);
     constexpr QSize usualSize(900, 780);
     resize(usualSize);
-    updateActions();
-}
-
-materialWindow::~materialWindow()
-{
-    // Rows held by commands go before the records that rows in the tree look at.
-    m_stack->clear();
 }
 
 bool materialWindow::openNew(QStandardItem *group, const QString &cpv)
@@ -166,17 +142,16 @@ bool materialWindow::openExisting(QStandardItem *item, const materialStruct &mat
 
 bool materialWindow::open(const origin &from, std::unique_ptr<materialStruct> material)
 {
-    if (isVisible() && !mayLeave())
+    if (isVisible() && !mayClose())
         return false;
-    m_stack->clear();
+    setClean();
     m_sources.clear();
     m_origin = from;
     // Its records are looked at until the tree shows the new ones.
     const auto before = std::exchange(m_edited, std::move(material));
-    programData &known = programData::instance();
-    m_rows.show(m_model, *m_edited, known.config(), known.firm());
-    m_view->setFont(known.config().font());
-    for (int row = 0; row < m_model->rowCount(); ++row)
+    m_rows.show(model(), *m_edited, known().config(), known().firm());
+    m_view->setFont(known().config().font());
+    for (int row = 0; row < model()->rowCount(); ++row)
         m_view->setFirstColumnSpanned(row, {}, true);
     m_view->expandAll();
     constexpr int nameWidth = 260;
@@ -184,15 +159,18 @@ bool materialWindow::open(const origin &from, std::unique_ptr<materialStruct> ma
     m_view->header()->resizeSection(materialTree::nameColumn, nameWidth);
     m_view->header()->resizeSection(materialTree::valueColumn, valueWidth);
     m_view->header()->setStretchLastSection(true);
-    setWindowTitle(from.row == newRow
-                       ? tr("New material")
-                       : tr("Edit parameters") + QStringLiteral(" [%1]").arg(m_edited->d_ktm));
     statusBar()->clearMessage();
-    show();
-    raise();
-    activateWindow();
+    showState();
+    showNow();
     goTo(m_rows.valueOf(QStringLiteral("d_ktm")));
     return true;
+}
+
+QString materialWindow::title() const
+{
+    return m_origin.row == newRow
+               ? tr("New material")
+               : tr("Edit parameters") + QStringLiteral(" [%1]").arg(m_edited->d_ktm);
 }
 
 void materialWindow::goTo(const QStandardItem *item)
@@ -206,7 +184,7 @@ void materialWindow::goTo(const QStandardItem *item)
 
 QStandardItem *materialWindow::currentRow() const
 {
-    return m_view->currentIndex().isValid() ? firstOf(m_model, m_view->currentIndex()) : nullptr;
+    return m_view->currentIndex().isValid() ? firstOf(model(), m_view->currentIndex()) : nullptr;
 }
 
 QStandardItem *materialWindow::currentFirm() const { return materialTree::firmOf(currentRow()); }
@@ -221,8 +199,7 @@ QString materialWindow::currentLink() const
 
 void materialWindow::updateActions()
 {
-    const materialFiles::fileServer server =
-        materialFiles::serverOf(programData::instance().config());
+    const materialFiles::fileServer server = materialFiles::serverOf(known().config());
     const QStandardItem *firm = currentFirm();
     const QString noFirm = tr("no manufacturer or supplier is selected");
     const QString noFile = tr("no file is selected");
@@ -242,82 +219,47 @@ void materialWindow::updateActions()
     const int manufacturers = int(m_edited->manufacturers.items.size());
     const int suppliers = int(m_edited->suppliers.items.size());
     m_counts->setText(tr("%n manufacturer(s)", nullptr, manufacturers) + QLatin1String(", ")
-                      + tr("%n supplier(s)", nullptr, suppliers)
-                      + (isChanged() ? QLatin1String(", ") + tr("changed") : QString()));
+                      + tr("%n supplier(s)", nullptr, suppliers));
 }
 
-// A value that is just being typed counts, too.
-void materialWindow::commandSet(bool)
+void materialWindow::commandSet(bool) { save(); }
+
+bool materialWindow::write(const QString &)
 {
-    m_view->finishEditing();
     auto material = m_edited->copy();
     materialChecks::tidy(material.get());
     if (const auto fault = materialChecks::firstFault(*material)) {
         userPrompts().showError(fault->text.toHtmlEscaped());
         const QStandardItem *field = m_rows.valueOf(fault->field);
         goTo(field ? field : m_rows.section(materialTree::manufacturer));
-        return;
+        return false;
     }
-    m_stack->clear();
+    m_checked = std::move(material);
+    return true;
+}
+
+void materialWindow::saved()
+{
     hide();
     switch (m_origin.row) {
     case newRow:
-        emit addNew(m_origin.item, material.release());
+        emit addNew(m_origin.item, m_checked.release());
         break;
     case ownRow:
-        emit editExist(m_origin.item, material.release());
+        emit editExist(m_origin.item, m_checked.release());
         break;
     default:
-        emit editExist(m_origin.item, m_origin.row, material.release());
+        emit editExist(m_origin.item, m_origin.row, m_checked.release());
     }
-}
-
-void materialWindow::commandClose(bool) { close(); }
-
-// Whether nothing of the material shown is lost, or the user lets it go.
-bool materialWindow::mayLeave()
-{
-    m_view->finishEditing();
-    if (!isChanged())
-        return true;
-    const prompts::answer answer = userPrompts().ask(tr("Set the changed material?"), true);
-    if (answer == prompts::answer::yes)
-        commandSet(false);
-    return answer == prompts::answer::no || (answer == prompts::answer::yes && !isChanged());
-}
-
-void materialWindow::closeEvent(QCloseEvent *event)
-{
-    if (isVisible() && !mayLeave()) {
-        event->ignore();
-        return;
-    }
-    m_stack->clear();
-    baseWindow::closeEvent(event);
-}
-
-void materialWindow::commandUndo(bool)
-{
-    const QString what = m_stack->undo();
-    updateActions();
-    statusBar()->showMessage(tr("Undone: %1").arg(what));
-}
-
-void materialWindow::commandRedo(bool)
-{
-    const QString what = m_stack->redo();
-    updateActions();
-    statusBar()->showMessage(tr("Done again: %1").arg(what));
 }
 
 void materialWindow::addRow(QStandardItem *parent, const myItem::row &items, const QString &what,
                             int column)
 {
-    m_stack->push(std::make_unique<appendItems>(parent, items), what);
+    push(std::make_unique<appendItems>(parent, items), what);
     m_view->expand(parent->index());
     const QModelIndex cell = items.at(column)->index();
     goTo(items.at(column));
-    updateActions();
     if (items.at(column)->text().isEmpty())
         m_view->edit(cell);
 }
@@ -347,8 +289,7 @@ void materialWindow::deleteRows(const QList<QStandardItem *> &firstCells, const 
     for (QStandardItem *first : firstCells)
         members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
     if (!members.empty())
-        m_stack->push(std::make_unique<appendCommands>(std::move(members), m_model), what);
-    updateActions();
+        push(std::make_unique<appendCommands>(std::move(members), model()), what);
 }
 
 void materialWindow::commandDeleteFile(bool)
@@ -371,7 +312,7 @@ void materialWindow::commandDeleteRows(bool)
 {
     QList<QStandardItem *> rows;
     for (const QModelIndex &cell : m_view->selectedCells()) {
-        QStandardItem *first = firstOf(m_model, cell);
+        QStandardItem *first = firstOf(model(), cell);
         if (materialTree::firmOf(first) && !rows.contains(first)
             && !rows.contains(materialTree::firmOf(first)))
             rows.append(first);
@@ -415,8 +356,8 @@ void materialWindow::addServerFile(materialFiles::linkKind kind)
                                               materialFiles::proposedPath(source));
     if (!path || path->trimmed().isEmpty())
         return;
-    const QString link = materialFiles::linkTo(
-        materialFiles::serverOf(programData::instance().config()), kind, *path);
+    const QString link =
+        materialFiles::linkTo(materialFiles::serverOf(known().config()), kind, *path);
     if (link.isEmpty()) {
         userPrompts().showError(
             tr("%1 is no path below the folder of the file server").arg(path->toHtmlEscaped()));
@@ -433,8 +374,7 @@ void materialWindow::commandDeclarations(bool) { addServerFile(materialFiles::de
 
 int materialWindow::send(const QString &source, const QString &target)
 {
-    const materialFiles::fileServer server =
-        materialFiles::serverOf(programData::instance().config());
+    const materialFiles::fileServer server = materialFiles::serverOf(known().config());
     KivScp::scp runner;
     connect(&runner, &KivScp::scp::updateLog, this,
             [](const QString &text) { userPrompts().log(logLine(text)); });
@@ -457,8 +397,7 @@ int materialWindow::send(const QString &source, const QString &target)
 
 void materialWindow::commandCopyFileToServer(bool)
 {
-    const materialFiles::fileServer server =
-        materialFiles::serverOf(programData::instance().config());
+    const materialFiles::fileServer server = materialFiles::serverOf(known().config());
     const QString link = currentLink();
     const QString target = materialFiles::placeOnServer(server, link);
     QString source = target.isEmpty() ? QString() : m_sources.value(link);
@@ -471,7 +410,7 @@ void materialWindow::commandCopyFileToServer(bool)
     const QString shown = materialFiles::hostOf(server) + QLatin1Char(':') + target;
     if (result == 0) {
         userPrompts().log(materialFiles::sentLine(source, shown, true));
-        statusBar()->showMessage(tr("%1 is on the file server").arg(QFileInfo(source).fileName()));
+        tell(tr("%1 is on the file server").arg(QFileInfo(source).fileName()));
         return;
     }
     userPrompts().listError(result == childRunner::notStarted

@@ -2,22 +2,18 @@
 // works on a copy, which goes to the material's database only after six checks.
 #pragma once
 
-#include "commands/commandStack.h"
 #include "database/materialFiles.h"
 #include "database/materialTree.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
-class QLabel;
 class QMenu;
-class myTreeView;
 
-class materialWindow : public baseWindow
+class materialWindow : public editWindow
 {
     Q_OBJECT
 public:
     // While it is shown no other window takes input, so that the rows it was opened for stay.
-    explicit materialWindow(QWidget *parent = nullptr);
-    ~materialWindow() override;
+    explicit materialWindow(programData &known, QWidget *parent = nullptr);
 
     // Each shows the window on a copy of a material, and says which signal gives it back: addNew()
     // with the group's row; editExist() with the group's row and the number of the material's row
@@ -29,14 +25,11 @@ public:
 
     const materialStruct &edited() const { return *m_edited; }
     const materialTree &rows() const { return m_rows; }
-    myModel *model() { return m_model; }
+    myModel *model() const { return modelOf(m_view); }
     myTreeView *view() { return m_view; }
 
 public slots:
     void commandSet(bool);
-    void commandClose(bool);
-    void commandUndo(bool);
-    void commandRedo(bool);
     void commandAddManufacture(bool);
     void commandAddSuppler(bool);
     void commandAddFile(bool);
@@ -56,7 +49,15 @@ signals:
     void editExist(QStandardItem *item, materialStruct *material);
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    // The material has no file of its own: it is saved by giving it to its database.
+    QString filePath() const override { return {}; }
+    QString title() const override;
+    bool load() override { return true; }
+    void begin() override {}
+    bool write(const QString &) override;
+    void saved() override;
+    QString closeQuestion() const override { return tr("Set the changed material?"); }
+    void updateActions() override;
 
 private:
     struct origin
@@ -71,10 +72,7 @@ private:
     };
 
     bool open(const origin &from, std::unique_ptr<materialStruct> material);
-    bool isChanged() const { return m_stack->undoCount() > 0; }
-    bool mayLeave();
     void goTo(const QStandardItem *item);
-    void updateActions();
     QStandardItem *currentRow() const;
     QStandardItem *currentFirm() const;
     QString currentLink() const;
@@ -85,10 +83,9 @@ private:
     int send(const QString &source, const QString &target);
 
     std::unique_ptr<materialStruct> m_edited = std::make_unique<materialStruct>();
-    std::unique_ptr<commandStack> m_stack;
+    std::unique_ptr<materialStruct> m_checked; // passed the checks, to be given away
     origin m_origin;
     materialTree m_rows;
-    myModel *m_model;
     myTreeView *m_view;
     QMenu *m_menu;
     QLabel *m_counts;

@@ -16,16 +16,12 @@ void forEachMaterial(Database &database, const Visit &visit)
 }
 
 template <class Source>
-bool renameSources(std::vector<std::unique_ptr<Source>> &sources, firmKind kind,
-                   const renameList &renames)
+void addChanges(const std::vector<std::unique_ptr<Source>> &sources, materialStruct *material,
+                firmKind kind, const renameList &renames, std::vector<nameChange> &changes)
 {
-    bool changed = false;
-    for (const auto &source : sources) {
-        const QString after = nameAfter(renames, kind, source->name);
-        changed |= after != source->name;
-        source->name = after;
-    }
-    return changed;
+    for (const auto &source : sources)
+        if (const QString after = nameAfter(renames, kind, source->name); after != source->name)
+            changes.push_back({material, &source->name, source->name, after});
 }
 
 template <class Source>
@@ -80,19 +76,27 @@ QStringList useLines(const std::vector<firmUse> &uses)
     return lines;
 }
 
-std::vector<const materialStruct *> rename(kiv_mat_databaseStruct &database,
-                                           const renameList &renames)
+std::vector<nameChange> changesOf(kiv_mat_databaseStruct &database, const renameList &renames)
 {
-    std::vector<const materialStruct *> changed;
-    if (renames.empty())
-        return changed;
-    forEachMaterial(database, [&](materialStruct &material) {
-        const bool made = renameSources(material.manufacturers.items, manufacturer, renames);
-        const bool sold = renameSources(material.suppliers.items, supplier, renames);
-        if (made || sold)
-            changed.push_back(&material);
-    });
-    return changed;
+    std::vector<nameChange> changes;
+    if (!renames.empty())
+        forEachMaterial(database, [&](materialStruct &material) {
+            addChanges(material.manufacturers.items, &material, manufacturer, renames, changes);
+            addChanges(material.suppliers.items, &material, supplier, renames, changes);
+        });
+    return changes;
+}
+
+void applyNames(const std::vector<nameChange> &changes)
+{
+    for (const nameChange &change : changes)
+        *change.name = change.after;
+}
+
+void revertNames(const std::vector<nameChange> &changes)
+{
+    for (const nameChange &change : changes)
+        *change.name = change.before;
 }
 
 QUrl homePage(const QString &text)

@@ -47,9 +47,18 @@ std::vector<firmUse> usesOf(const QSet<QString> &firms, firmKind kind,
 // An HTML line for each: firm, KTM, name and file.
 QStringList useLines(const std::vector<firmUse> &uses);
 
-// Gives the sources of all materials their new names. Returns the materials that changed.
-std::vector<const materialStruct *> rename(kiv_mat_databaseStruct &database,
-                                           const renameList &renames);
+// One manufacturer's or supplier's name in a material, and the one that it gets.
+struct nameChange
+{
+    materialStruct *material;
+    QString *name;
+    QString before;
+    QString after;
+};
+// What renames do to a database, in file order; nothing is changed yet.
+std::vector<nameChange> changesOf(kiv_mat_databaseStruct &database, const renameList &renames);
+void applyNames(const std::vector<nameChange> &changes);
+void revertNames(const std::vector<nameChange> &changes);
 
 // The address of a home page as typed, with or without "http://"; invalid when the text is none.
 QUrl homePage(const QString &text);

@@ -1,9 +1,7 @@
 #include "firm/firmWindow.h"
 
 #include "commands/cellBlock.h"
-#include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
-#include "data/programData.h"
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
@@ -11,9 +9,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 
-#include <QCloseEvent>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -21,43 +17,37 @@
 #include <QStatusBar>
 #include <QTabWidget>
 
+#include <set>
+
 using namespace firmOperations;
 using firmTree::firmRows;
 using myItem::myItemStandard;
 
 namespace {
 
+constexpr actionRow saveRegister{
+    "save",   "File",
+    "Save",   "action_save",
+    "Ctrl+S", QT_TRANSLATE_NOOP("actions", "Write the list of firms and put it in use"),
+    true};
+
 const windowAction<firmWindow> actionTable[] = {
-    {{"save", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "Save"),
-      "action_save", "Ctrl+S",
-      QT_TRANSLATE_NOOP("actions", "Write the list of firms and put it in use"), true},
-     &firmWindow::commandSave},
-    {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
-    {{"close", "File", QT_TRANSLATE_NOOP("actions", "Close"), "action_close", "Ctrl+W", nullptr},
-     &firmWindow::commandClose},
-    {{"edit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
-      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the firms"), true,
-      true},
+    {saveRegister, &firmWindow::commandSave},
+    {usualActions::fileSeparator, nullptr},
+    {usualActions::close, &firmWindow::commandClose},
+    {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the firms")),
      &firmWindow::commandEdit},
-    {{"undo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr, true},
-     &firmWindow::commandUndo},
-    {{"redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true},
-     &firmWindow::commandRedo},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
-    {{"copy", "Edit", QT_TRANSLATE_NOOP("actions", "Copy cells"), "action_copy", "Ctrl+C",
-      QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
-     &firmWindow::commandCopyCells},
-    {{"paste", "Edit", QT_TRANSLATE_NOOP("actions", "Paste cells"), "action_paste", "Ctrl+V",
-      QT_TRANSLATE_NOOP("actions", "Paste text into the cells from the current one on")},
-     &firmWindow::commandPasteCells},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr}, nullptr},
+    {usualActions::undo, &firmWindow::commandUndo},
+    {usualActions::redo, &firmWindow::commandRedo},
+    {usualActions::editSeparator, nullptr},
+    {usualActions::copyCells, &firmWindow::commandCopyCells},
+    {usualActions::pasteCells, &firmWindow::commandPasteCells},
+    {usualActions::editSeparator, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Find a text among the firms"), true},
      &firmWindow::commandFind},
-    {{"findNext", "Edit", QT_TRANSLATE_NOOP("actions", "Find next"), "action_find_next", "F3",
-      nullptr},
-     &firmWindow::commandFindNext},
-    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true}, nullptr},
+    {usualActions::findNext, &firmWindow::commandFindNext},
+    {usualActions::editSeparator, nullptr},
     {{"add", QT_TRANSLATE_NOOP("actions", "Firm"), QT_TRANSLATE_NOOP("actions", "Add new firm"),
       "action_add_row", "Ins", nullptr, true},
      &firmWindow::commandAdd},
@@ -68,15 +58,6 @@ const windowAction<firmWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Open the firm's home page in the browser"), true},
      &firmWindow::commandHomePage},
 };
-
-std::vector<const kiv_mat_databaseStruct *> loadedDatabases()
-{
-    std::vector<const kiv_mat_databaseStruct *> databases;
-    databases.reserve(programData::databaseCount);
-    for (int kind = 0; kind < programData::databaseCount; ++kind)
-        databases.push_back(&programData::instance().database(programData::databaseKind(kind)));
-    return databases;
-}
 
 QSet<QString> keysOf(const QHash<QString, QString> &names)
 {
@@ -96,51 +77,34 @@ QString shortList(const QStringList &lines)
 
 } // namespace
 
-firmWindow::firmWindow()
-    : baseWindow(QStringLiteral("firmWindow"))
+firmWindow::firmWindow(programData &files)
+    : editWindow(QStringLiteral("firmWindow"), files)
+    , m_edited(std::make_unique<kiv_mat_firmStruct>())
     , m_tabs(new QTabWidget(this))
     , m_counts(new QLabel(this))
 {
-    setWindowTitle(labels::listOfManufacturersAndSuppliers());
     addActions(actionTable);
-    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
-    m_stack->completed = [this](std::unique_ptr<command> change) {
+    stack().completed = [this](std::unique_ptr<command> change) {
         return withRenames(std::move(change));
     };
     m_tabs->setObjectName(QStringLiteral("pages"));
-    m_tabs->setAccessibleName(windowTitle());
+    m_tabs->setAccessibleName(firmWindow::title());
     addPage(manufacturer, labels::manufacturers(), "manufacturers");
     addPage(supplier, labels::suppliers(), "suppliers");
     setCentralWidget(m_tabs);
     m_counts->setObjectName(QStringLiteral("counts"));
     statusBar()->addPermanentWidget(m_counts);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &firmWindow::updateActions);
-    for (const char *name : {"undo", "redo"})
-        connect(action(name), &QAction::changed, this, &firmWindow::updateActions);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] { updateActions(); });
     constexpr QSize usualSize(1260, 680);
     resize(usualSize);
-    load();
-}
-
-firmWindow::~firmWindow()
-{
-    m_stack->clear();
-    for (myModel *model : findChildren<myModel *>())
-        model->detach();
 }
 
 void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
 {
-    auto *model = new myModel(this);
-    recordEdits(model, m_stack.get());
-    auto *view = new myTreeView(m_tabs);
-    view->setObjectName(QLatin1String(name));
-    view->setAccessibleName(title);
-    view->setModel(model);
+    myTreeView *view = addView(title, name, m_tabs);
     view->setRootIsDecorated(false);
-    view->header()->setObjectName(QLatin1String(name) + QStringLiteral("Header"));
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *wanted : {"add", "delete", "homePage", "copy", "paste"})
+    for (const char *wanted : {"add", "delete", "homePage", "copyCells", "pasteCells"})
         view->addAction(action(wanted));
     m_tabs->addTab(view, title);
     auto *hint =
@@ -151,20 +115,13 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
     hint->move(hintPlace);
     connect(hint, &QLabel::linkActivated, action("add"), &QAction::trigger);
 
-    const configStruct &config = programData::instance().config();
+    const configStruct &config = known().config();
     auto rows = std::make_unique<firmRows>(firmTree::columns(
         kind == manufacturer ? config.manufacturerStatuses : config.supplierStatuses));
-    setCaptions(model, rows->columns());
+    setCaptions(modelOf(view), rows->columns());
     for (size_t i = 0; i < rows->columns().size(); ++i)
         view->header()->resizeSection(int(i), rows->columns()[i].width);
-    m_pages[kind] = {model, view, hint, std::move(rows)};
-
-    connect(model, &myModel::sorted, this, &firmWindow::clearCommands);
-    for (auto signal :
-         {&myModel::changeValueOccured, &myModel::appendOccured, &myModel::removeOccured})
-        connect(model, signal, this, &firmWindow::updateActions);
-    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &firmWindow::updateActions);
+    m_pages[kind] = {view, hint, std::move(rows)};
     connect(view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             [this](QPoint, uint, const QModelIndex &cell) { clicked(cell); });
 }
@@ -176,24 +133,29 @@ std::vector<std::unique_ptr<firmStruct>> &firmWindow::list(firmKind kind)
 
 firmWindow::page &firmWindow::current() { return m_pages[size_t(m_tabs->currentIndex())]; }
 
-bool firmWindow::isChanged() const
+myTreeView *firmWindow::currentView() const { return m_pages[size_t(m_tabs->currentIndex())].view; }
+
+QString firmWindow::title() const { return labels::listOfManufacturersAndSuppliers(); }
+
+QLatin1String firmWindow::editOption() const { return optionKey::editFirm; }
+
+QString firmWindow::closeQuestion() const { return tr("Save the changed list of firms?"); }
+
+bool firmWindow::isModified() const
 {
-    return m_modified || m_stack->undoCount() > 0 || !m_unwritten.empty();
+    return editWindow::isModified()
+           || std::any_of(m_unwritten.begin(), m_unwritten.end(),
+                          [](const renameList &renames) { return !renames.empty(); });
 }
 
-void firmWindow::load()
+bool firmWindow::load()
 {
-    m_stack->clear();
-    m_modified = false;
-    m_renames.clear();
-    m_unwritten.clear();
-    m_fault.clear();
-    const configStruct &config = programData::instance().config();
-    const QString name = config.options.value(optionKey::fileFirm);
+    const QString name = known().config().options.value(optionKey::fileFirm);
     m_path = paths::data(name);
-    m_onDisk = fileState::of(m_path);
+    onDisk() = fileState::of(m_path);
     auto firms = std::make_unique<kiv_mat_firmStruct>();
     QString reason;
+    m_fault.clear();
     if (name.isEmpty()) {
         m_fault = tr("the configuration names no file");
     } else if (QFileInfo::exists(m_path) && !readChecked(m_path, firms.get(), &reason)) {
@@ -202,59 +164,37 @@ void firmWindow::load()
         firms = std::make_unique<kiv_mat_firmStruct>();
         userPrompts().listError(messages::failed(messages::fileCorrupted(), m_path, reason));
     }
+    setClean();
+    m_renames.clear();
+    m_unwritten = {};
     // Its records are looked at until the trees show the new ones.
     const auto before = std::exchange(m_edited, std::move(firms));
     for (firmKind kind : {manufacturer, supplier}) {
-        page &shown = m_pages[kind];
-        shown.model->setRecords(nullptr);
-        shown.rows->show(shown.model, &list(kind));
-        shown.model->setRecords(shown.rows.get());
+        model(kind)->setRecords(nullptr);
+        m_pages[kind].rows->show(model(kind), &list(kind));
+        model(kind)->setRecords(m_pages[kind].rows.get());
     }
-    setAvailable("edit", m_fault.isEmpty(), m_fault);
-    action("edit")->setChecked(m_fault.isEmpty() && config.isOn(optionKey::editFirm));
-    commandEdit(action("edit")->isChecked());
+    setUnlocked(known().config().isOn(optionKey::editFirm));
+    return m_fault.isEmpty();
 }
 
 void firmWindow::updateActions()
 {
-    if (!m_edited)
-        return;
-    const page &shown = current();
-    const bool locked = shown.view->isEditingLocked();
-    const QModelIndex at = shown.view->currentIndex();
-    const QString lockedReason = m_fault.isEmpty() ? tr("editing is locked") : m_fault;
-    setAvailable("save", isChanged() && m_fault.isEmpty(),
+    const QModelIndex at = currentView()->currentIndex();
+    setAvailable("save", isModified() && m_fault.isEmpty(),
                  m_fault.isEmpty() ? tr("nothing was changed") : m_fault);
-    setAvailable("add", !locked, lockedReason);
-    for (const char *name : {"delete", "paste"})
-        setAvailable(name, !locked && at.isValid(), locked ? lockedReason : tr("no firm selected"));
+    allowWhenUnlocked({"add"});
+    allowWhenUnlocked({"delete", "pasteCells"}, at.isValid(), tr("no firm selected"));
     setAvailable("homePage", currentHomePage().isValid(), tr("no firm with a home page selected"));
     for (const page &each : m_pages)
-        each.hint->setVisible(each.model->rowCount() == 0 && m_fault.isEmpty());
-    m_counts->setText(
-        tr("%n manufacturer(s)", nullptr, m_pages[manufacturer].model->rowCount())
-        + QLatin1String(", ") + tr("%n supplier(s)", nullptr, m_pages[supplier].model->rowCount())
-        + (isChanged() ? QStringLiteral(" \u2013 ") + tr("changed, not saved") : QString()));
-}
-
-void firmWindow::showNow()
-{
-    if (!isVisible())
-        load();
-    show();
-    raise();
-    activateWindow();
+        each.hint->setVisible(modelOf(each.view)->rowCount() == 0 && m_fault.isEmpty());
+    m_counts->setText(tr("%n manufacturer(s)", nullptr, model(manufacturer)->rowCount())
+                      + QLatin1String(", ")
+                      + tr("%n supplier(s)", nullptr, model(supplier)->rowCount()));
 }
 
 // --- Editing
 // --------------------------------------------------------------------------------------
-
-void firmWindow::commandEdit(bool on)
-{
-    for (const page &shown : m_pages)
-        shown.view->setEditingLocked(!on || !m_fault.isEmpty());
-    updateActions();
-}
 
 // A firm that materials name gets its new name in them, too, when the user wants it.
 std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change)
@@ -266,7 +206,7 @@ std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change
         const auto renamed = std::exchange(m_pages[kind].rows->renamed, {});
         if (renamed.isEmpty())
             continue;
-        for (const firmUse &use : usesOf(keysOf(renamed), kind, loadedDatabases(), m_renames)) {
+        for (const firmUse &use : usesOf(keysOf(renamed), kind, known().databases(), m_renames)) {
             const QString name = renamed.value(use.firm);
             if (name.isEmpty())
                 continue;
@@ -291,52 +231,39 @@ std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change
     return std::make_unique<appendCommands>(std::move(members));
 }
 
-void firmWindow::commandUndo(bool) { tellHistory(tr("Undone: %1").arg(m_stack->undo())); }
-
-void firmWindow::commandRedo(bool) { tellHistory(tr("Done again: %1").arg(m_stack->redo())); }
-
-void firmWindow::tellHistory(const QString &what)
+// The materials' names have gone back or forth with the step.
+void firmWindow::historyMoved()
 {
-    // The materials' names have gone back or forth with the step.
     for (const page &shown : m_pages)
         shown.rows->renamed.clear();
-    updateActions();
-    statusBar()->showMessage(what);
-}
-
-void firmWindow::clearCommands()
-{
-    m_modified = isChanged();
-    m_stack->clear();
 }
 
 void firmWindow::commandAdd(bool)
 {
-    const page &shown = current();
-    m_stack->push(std::make_unique<appendNewMaterial>(
-                      shown.model, shown.rows->makeDetachedRow(std::make_unique<firmStruct>())),
-                  labels::addNewFirm());
-    updateActions();
-    const QModelIndex added = shown.model->index(shown.model->rowCount() - 1, firmTree::nameColumn);
-    shown.view->setCurrentIndex(added);
-    shown.view->scrollTo(added);
-    shown.view->setFocus();
+    myTreeView *view = currentView();
+    myModel *firms = modelOf(view);
+    push(std::make_unique<appendNewMaterial>(
+             firms, current().rows->makeDetachedRow(std::make_unique<firmStruct>())),
+         labels::addNewFirm());
+    const QModelIndex added = firms->index(firms->rowCount() - 1, firmTree::nameColumn);
+    view->setCurrentIndex(added);
+    view->scrollTo(added);
+    view->setFocus();
 }
 
 void firmWindow::commandDelete(bool)
 {
-    const page &shown = current();
     const firmKind kind = firmKind(m_tabs->currentIndex());
-    const std::vector<int> rows = shown.view->selectedRows();
+    const std::vector<int> rows = currentView()->selectedRows();
     std::set<const xmlData *> selected;
     for (int row : rows)
-        selected.insert(static_cast<myItemStandard *>(shown.model->item(row))->record);
+        selected.insert(static_cast<myItemStandard *>(model(kind)->item(row))->record);
     QSet<QString> lost;
     QSet<QString> kept;
     for (const auto &firm : list(kind))
         (selected.count(firm.get()) > 0 ? lost : kept).insert(firm->name);
     const std::vector<firmUse> uses =
-        usesOf(lost.subtract(kept), kind, loadedDatabases(), m_renames);
+        usesOf(lost.subtract(kept), kind, known().databases(), m_renames);
     if (!uses.empty()) {
         const QStringList lines = useLines(uses);
         const QString heading =
@@ -346,53 +273,13 @@ void firmWindow::commandDelete(bool)
                                 + QLatin1String("<br>"));
         return;
     }
-    if (auto change = cellBlock::deleteRows(shown.model, rows))
-        m_stack->push(std::move(change), tr("%n firm(s) deleted", nullptr, int(rows.size())));
-    updateActions();
-    statusBar()->showMessage(tr("%n firm(s) deleted", nullptr, int(rows.size())));
-}
-
-void firmWindow::commandCopyCells(bool)
-{
-    statusBar()->showMessage(tr("%n cell(s) copied", nullptr, cellClipboard::copy(current().view)));
-}
-
-void firmWindow::commandPasteCells(bool)
-{
-    const int changed =
-        cellClipboard::paste(current().view, [this](std::unique_ptr<command> change) {
-            m_stack->push(std::move(change), tr("Paste"));
-        });
-    updateActions();
-    statusBar()->showMessage(tr("%n cell(s) pasted", nullptr, changed));
-}
-
-// --- Finding and looking
-// --------------------------------------------------------------------------
-
-void firmWindow::commandFind(bool)
-{
-    const auto text = userPrompts().inputText(tr("Find"), tr("Text in any column"), m_wanted);
-    if (!text || text->isEmpty())
-        return;
-    m_wanted = *text;
-    commandFindNext(false);
-}
-
-void firmWindow::commandFindNext(bool)
-{
-    if (m_wanted.isEmpty())
-        commandFind(false);
-    else if (!current().view->findNext(m_wanted))
-        statusBar()->showMessage(tr("No firm holds %1").arg(m_wanted));
-    else
-        statusBar()->showMessage(
-            tr("Found in line %1").arg(current().view->currentIndex().row() + 1));
+    push(cellBlock::deleteRows(model(kind), rows),
+         tr("%n firm(s) deleted", nullptr, int(rows.size())));
 }
 
 QUrl firmWindow::currentHomePage()
 {
-    const QModelIndex at = current().view->currentIndex();
+    const QModelIndex at = currentView()->currentIndex();
     return homePage(at.sibling(at.row(), firmTree::homePageColumn).data().toString());
 }
 
@@ -401,9 +288,8 @@ void firmWindow::commandHomePage(bool)
     const QUrl url = currentHomePage();
     if (!url.isValid())
         return;
-    statusBar()->showMessage(QDesktopServices::openUrl(url)
-                                 ? tr("Opened %1").arg(url.toDisplayString())
-                                 : tr("%1 cannot be opened").arg(url.toDisplayString()));
+    tell(QDesktopServices::openUrl(url) ? tr("Opened %1").arg(url.toDisplayString())
+                                        : tr("%1 cannot be opened").arg(url.toDisplayString()));
 }
 
 void firmWindow::clicked(const QModelIndex &cell)
@@ -416,92 +302,51 @@ void firmWindow::clicked(const QModelIndex &cell)
 // --- Saving
 // ---------------------------------------------------------------------------------------
 
-// The databases whose materials are renamed are written with the register. One that cannot be
-// written has been told to the user and is tried again with the next saving.
-bool firmWindow::saveMaterials()
+bool firmWindow::write(const QString &path)
 {
-    programData &known = programData::instance();
+    if (!saveDocument(path, *m_edited))
+        return false;
+    known().loadFirm();
+    return true;
+}
+
+// A database without a window of its own is read again when another program wrote it meanwhile,
+// renamed, and written. One that cannot be written stays as its file is.
+bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &renames)
+{
+    const QString path = known().database(kind).filePath;
+    const bool isOther = QFileInfo::exists(path) && !(fileState::of(path) == known().fileOf(kind));
+    if (isOther && !known().reloadDatabase(kind))
+        return false;
+    kiv_mat_databaseStruct &database = known().database(kind);
+    const std::vector<nameChange> changes = changesOf(database, renames);
+    applyNames(changes);
+    const bool written = saveDocument(path, database);
+    if (written)
+        // The database's own window would take this for another program's work.
+        known().fileOf(kind) = fileState::of(path);
+    else
+        revertNames(changes);
+    for (const nameChange &change : changes)
+        known().search().update(change.material);
+    return written;
+}
+
+void firmWindow::saved()
+{
     bool anyChanged = false;
-    for (int kind = 0; kind < programData::databaseCount; ++kind) {
-        const auto changed =
-            firmOperations::rename(known.database(programData::databaseKind(kind)), m_renames);
-        for (const materialStruct *material : changed)
-            known.search().update(material);
-        if (changed.empty())
+    for (int number = 0; number < programData::databaseCount; ++number) {
+        const auto kind = programData::databaseKind(number);
+        renameList renames = std::exchange(m_unwritten[kind], {});
+        renames.insert(renames.end(), m_renames.begin(), m_renames.end());
+        if (changesOf(known().database(kind), renames).empty())
             continue;
         anyChanged = true;
-        m_unwritten.insert(kind);
+        if (!(renameInWindow && renameInWindow(kind, renames)) && !renameInFile(kind, renames))
+            m_unwritten[kind] = std::move(renames);
     }
     m_renames.clear();
-    for (auto kind = m_unwritten.begin(); kind != m_unwritten.end();) {
-        const auto written = programData::databaseKind(*kind);
-        const kiv_mat_databaseStruct &database = known.database(written);
-        if (!saveDocument(database.filePath, database)) {
-            ++kind;
-            continue;
-        }
-        // The database's own window would take this for another program's work.
-        known.fileOf(written) = fileState::of(database.filePath);
-        kind = m_unwritten.erase(kind);
-    }
+    userPrompts().showErrors();
     if (anyChanged)
         emit materialsChanged();
-    return m_unwritten.empty();
-}
-
-// Whether nothing is left to be saved.
-bool firmWindow::save()
-{
-    if (!m_fault.isEmpty())
-        return false;
-    if (!(fileState::of(m_path) == m_onDisk)) {
-        enum
-        {
-            reload,
-            overwrite
-        };
-        const std::optional<int> answer = userPrompts().decide(
-            tr("The file %1 was changed by another program since it was opened.")
-                .arg(QDir::toNativeSeparators(m_path).toHtmlEscaped()),
-            {tr("Reload it and lose the changes here"), tr("Overwrite it")});
-        if (answer == reload)
-            load();
-        if (answer != overwrite)
-            return false;
-    }
-    if (!saveDocument(m_path, *m_edited))
-        return false;
-    m_onDisk = fileState::of(m_path);
-    programData::instance().loadFirm();
-    m_stack->clear();
-    m_modified = false;
-    return saveMaterials();
-}
-
-void firmWindow::commandSave(bool)
-{
-    const bool saved = save();
-    updateActions();
-    if (saved)
-        statusBar()->showMessage(tr("Saved"));
-}
-
-void firmWindow::commandClose(bool) { close(); }
-
-void firmWindow::closeEvent(QCloseEvent *event)
-{
-    if (isChanged()) {
-        const prompts::answer answer =
-            userPrompts().ask(tr("Save the changed list of firms?"), true);
-        if (answer == prompts::answer::cancel || (answer == prompts::answer::yes && !save())) {
-            updateActions();
-            event->ignore();
-            return;
-        }
-    }
-    m_stack->clear();
-    m_modified = false;
-    m_renames.clear();
-    m_unwritten.clear();
-    baseWindow::closeEvent(event);
 }

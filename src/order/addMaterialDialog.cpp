@@ -43,15 +43,15 @@ const foundColumn columns[] = {
     {labels::status, 110, nullptr, false},
 };
 
-QString statusIcon(const QString &status)
+QString statusIcon(const configStruct &config, const QString &status)
 {
-    for (const comboBoxStruct &known : programData::instance().config().statuses)
+    for (const comboBoxStruct &known : config.statuses)
         if (known.value == status)
             return known.icon;
     return {};
 }
 
-QList<QStandardItem *> rowOf(const materialStruct &material)
+QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &material)
 {
     QList<QStandardItem *> row;
     for (const foundColumn &column : columns) {
@@ -62,7 +62,7 @@ QList<QStandardItem *> rowOf(const materialStruct &material)
         if (column.isNumber)
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (!column.text)
-            item->setIcon(QIcon(statusIcon(material.information.status)));
+            item->setIcon(QIcon(statusIcon(config, material.information.status)));
         row.append(item);
     }
     row.first()->setData(material.d_ktm);
@@ -71,8 +71,9 @@ QList<QStandardItem *> rowOf(const materialStruct &material)
 
 } // namespace
 
-addMaterialDialog::addMaterialDialog(QWidget *parent)
+addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     : QDialog(parent)
+    , m_known(known)
     , m_words(new QLineEdit(this))
     , m_view(new QTreeView(this))
     , m_found(new QStandardItemModel(this))
@@ -130,7 +131,7 @@ addMaterialDialog::addMaterialDialog(QWidget *parent)
 void addMaterialDialog::showNow()
 {
     // Else the first key would wait for it.
-    programData::instance().search().prepare();
+    m_known.search().prepare();
     show();
     raise();
     activateWindow();
@@ -147,11 +148,10 @@ void addMaterialDialog::showEvent(QShowEvent *event)
 void addMaterialDialog::search()
 {
     const searchQuery query = searchQuery::parse(m_words->text());
-    const materialSearch::result result =
-        programData::instance().search().find(query, shownMaterials);
+    const materialSearch::result result = m_known.search().find(query, shownMaterials);
     m_found->removeRows(0, m_found->rowCount());
     for (const materialSearch::entry &entry : result.entries)
-        m_found->appendRow(rowOf(*entry.material));
+        m_found->appendRow(rowOf(m_known.config(), *entry.material));
     if (m_found->rowCount() > 0)
         m_view->setCurrentIndex(m_found->index(0, 0));
     m_add->setEnabled(m_found->rowCount() > 0);
@@ -174,10 +174,11 @@ void addMaterialDialog::add()
     if (ktms.isEmpty())
         return;
     emit wanted(ktms, uint(m_quantity->value()));
-    m_count->setText(tr("%n line(s) added to the order", nullptr, ktms.size()));
     m_words->setFocus();
     m_words->selectAll();
 }
+
+void addMaterialDialog::showAnswer(const QString &text) { m_count->setText(text); }
 
 bool addMaterialDialog::eventFilter(QObject *watched, QEvent *event)
 {

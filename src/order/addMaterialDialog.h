@@ -10,12 +10,13 @@ class QPushButton;
 class QSpinBox;
 class QStandardItemModel;
 class QTreeView;
+class programData;
 
 class addMaterialDialog : public QDialog
 {
     Q_OBJECT
 public:
-    explicit addMaterialDialog(QWidget *parent);
+    addMaterialDialog(programData &known, QWidget *parent);
 
     // Shows the dialog with the words searched last, ready to be typed over.
     void showNow();
@@ -23,6 +24,8 @@ public:
 public slots:
     // Adds the selected materials with the quantity, and is ready for the next search.
     void add();
+    // What became of them.
+    void showAnswer(const QString &text);
 
 signals:
     void wanted(const QStringList &ktms, uint quantity);
@@ -35,6 +38,7 @@ protected:
 private:
     void search();
 
+    programData &m_known;
     QLineEdit *m_words;
     QTreeView *m_view;
     QStandardItemModel *m_found;

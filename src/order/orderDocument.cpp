@@ -12,68 +12,60 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-orderDocument::orderDocument()
-    : m_order(std::make_unique<kiv_mat_zpStruct>())
+orderDocument::orderDocument(programData &known)
+    : m_known(known)
+    , m_order(std::make_unique<kiv_mat_zpStruct>())
 {
 }
 
-orderDocument &orderDocument::instance()
+void orderDocument::settle(std::unique_ptr<kiv_mat_zpStruct> order, const QString &path)
 {
-    static orderDocument document;
-    return document;
-}
-
-// The document belongs to that file from now on, and this program claims it where it can.
-void orderDocument::settle(const QString &path)
-{
-    m_onDisk = fileState::of(path);
-    m_modified = false;
-    if (path == m_path && (m_lock || path.isEmpty()))
-        return;
+    m_order = std::move(order);
     m_path = path;
-    m_lock.reset();
-    m_otherUser.clear();
-    if (path.isEmpty())
-        return;
-    const QFileInfo info(path);
-    m_lock = std::make_unique<QLockFile>(info.absolutePath() + QLatin1String("/.") + info.fileName()
-                                         + QLatin1String(".lock"));
-    // Only the lock of a dead program is void, however old it is.
-    m_lock->setStaleLockTime(0);
-    if (m_lock->tryLock())
-        return;
-    qint64 process = 0;
-    QString host;
-    QString program;
-    if (m_lock->error() == QLockFile::LockFailedError
-        && m_lock->getLockInfo(&process, &host, &program))
-        m_otherUser = QStringLiteral("%1, %2, %3").arg(program, host).arg(process);
-    m_lock.reset();
+    m_onDisk = fileState::of(path);
 }
 
 QString orderDocument::folder() const
 {
-    const configStruct &config = programData::instance().config();
+    const configStruct &config = m_known.config();
     const QString known =
         m_path.isEmpty() ? paths::data(config.options.value(optionKey::fileLastZp)) : m_path;
     return QFileInfo(known).absolutePath();
 }
 
-bool orderDocument::load(const QString &path, bool showMessages)
+// Null, with the fault listed, when the file cannot be read.
+std::unique_ptr<kiv_mat_zpStruct> orderDocument::read(const QString &path, bool showMessages) const
 {
     auto order = std::make_unique<kiv_mat_zpStruct>();
     QString reason;
-    const bool read = programData::instance().schemaIsThere(fileKinds::order)
-                      && readChecked(path, order.get(), &reason, {}, showMessages);
-    m_order = read ? std::move(order) : std::make_unique<kiv_mat_zpStruct>();
-    settle(read ? path : QString());
-    if (read) {
+    if (m_known.schemaIsThere(fileKinds::order)
+        && readChecked(path, order.get(), &reason, {}, showMessages)) {
         userPrompts().log(messages::done(messages::openFile(), text::fileNameOfPath(path), path));
-        listFaults();
-    } else {
-        userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+        return order;
     }
-    return read;
+    userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+    return nullptr;
+}
+
+bool orderDocument::load(const QString &path, bool showMessages)
+{
+    auto order = read(path, showMessages);
+    const bool found = order != nullptr;
+    settle(found ? std::move(order) : std::make_unique<kiv_mat_zpStruct>(),
+           found ? path : QString());
+    if (found)
+        listFaults();
+    return found;
+}
+
+bool orderDocument::reload()
+{
+    auto order = read(m_path, true);
+    if (!order)
+        return false;
+    settle(std::move(order), m_path);
+    listFaults();
+    return true;
 }
 
 bool orderDocument::recover(const QString &copy, const QString &path)
@@ -81,36 +73,30 @@ bool orderDocument::recover(const QString &copy, const QString &path)
     auto order = std::make_unique<kiv_mat_zpStruct>();
     if (!readChecked(copy, order.get()))
         return false;
-    m_order = std::move(order);
-    settle(path);
-    m_modified = true;
+    settle(std::move(order), path);
     return true;
 }
 
 void orderDocument::startNew()
 {
-    m_order = std::make_unique<kiv_mat_zpStruct>();
-    m_order->initialise(programData::instance().config());
-    settle({});
+    auto order = std::make_unique<kiv_mat_zpStruct>();
+    order->initialise(m_known.config());
+    settle(std::move(order), {});
 }
 
 bool orderDocument::save(const QString &path)
 {
     if (!saveDocument(path, *m_order))
         return false;
-    settle(path);
+    m_path = path;
+    m_onDisk = fileState::of(path);
     return true;
-}
-
-bool orderDocument::changedOnDisk() const
-{
-    return !m_path.isEmpty() && !(fileState::of(m_path) == m_onDisk);
 }
 
 void orderDocument::listFaults() const
 {
     const orderOperations::lineFaults faults =
-        orderOperations::faultsOf(*m_order, programData::instance().materials());
+        orderOperations::faultsOf(*m_order, m_known.materials());
     const auto list = [](const QString &heading, const QStringList &ktms) {
         if (ktms.isEmpty())
             return;
@@ -125,7 +111,4 @@ void orderDocument::listFaults() const
          faults.withoutStatus);
 }
 
-QString orderDocument::report() const
-{
-    return orderReport(*m_order, programData::instance().materials());
-}
+QString orderDocument::report() const { return orderReport(*m_order, m_known.materials()); }

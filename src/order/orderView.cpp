@@ -34,9 +34,10 @@ barThresholds thresholdsOf(const configStruct &config)
 
 } // namespace
 
-orderView::orderView(QAction *undo, QAction *redo, QWidget *parent)
+orderView::orderView(programData &known, commandStack &stack, QWidget *parent)
     : QWidget(parent)
-    , m_stack(undo, redo)
+    , m_known(known)
+    , m_stack(stack)
     , m_options(new myModel(this))
     , m_lines(new myModel(this))
     , m_optionsView(new myTreeView(this))
@@ -72,14 +73,6 @@ orderView::orderView(QAction *undo, QAction *redo, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(splitter);
-}
-
-orderView::~orderView()
-{
-    // Rows held by commands go before the records that rows in the tree look at.
-    m_stack.clear();
-    m_options->detach();
-    m_lines->detach();
 }
 
 void orderView::buildOptions()
@@ -129,17 +122,16 @@ void orderView::buildLines()
 
 void orderView::show(kiv_mat_zpStruct &order)
 {
-    programData &known = programData::instance();
     // Its commands look at rows of the order before.
     m_stack.clear();
     m_order = &order;
-    m_optionRows.show(m_options, order, known.config());
+    m_optionRows.show(m_options, order, m_known.config());
 
     const bool first = !m_lineRows;
     m_lines->setRecords(nullptr);
     m_lines->removeRows(0, m_lines->rowCount());
     m_lineRows = std::make_unique<listRows<orderItemStruct>>(
-        orderTree::columns(known.config(), order, known.materials()));
+        orderTree::columns(m_known.config(), order, m_known.materials()));
     m_lineRows->onChange = [this](myItem::myItemStandard *item, myItem::myItemStandard *) {
         switch (item->column()) {
         case orderTree::quantityColumn:
@@ -180,7 +172,7 @@ void orderView::show(kiv_mat_zpStruct &order)
 
 void orderView::refreshSettings()
 {
-    const configStruct &config = programData::instance().config();
+    const configStruct &config = m_known.config();
     for (myTreeView *view : {m_optionsView, m_linesView}) {
         static_cast<myModelDelegate *>(view->itemDelegate())->setThresholds(thresholdsOf(config));
         view->setFont(config.font());
@@ -224,19 +216,6 @@ std::vector<const orderItemStruct *> orderView::records(const std::vector<int> &
         found.push_back(listRows<orderItemStruct>::recordOf(
             static_cast<myItem::myItemStandard *>(m_lines->item(row))));
     return found;
-}
-
-void orderView::finishEditing()
-{
-    m_optionsView->finishEditing();
-    m_linesView->finishEditing();
-}
-
-void orderView::setLocked(bool locked)
-{
-    for (myTreeView *view : {m_optionsView, m_linesView})
-        view->setEditingLocked(locked);
-    m_attentions->setReadOnly(locked);
 }
 
 void orderView::takeAttentions()

@@ -10,19 +10,18 @@
 class QLabel;
 class myTextEdit;
 class myTreeView;
+class programData;
 
 class orderView : public QWidget
 {
     Q_OBJECT
 public:
-    // The actions follow the undo history.
-    orderView(QAction *undo, QAction *redo, QWidget *parent);
-    ~orderView() override;
+    // The history outlives the page.
+    orderView(programData &known, commandStack &stack, QWidget *parent);
 
     // Shows an order, which outlives its use here, from its beginning: the history is empty.
     void show(kiv_mat_zpStruct &order);
 
-    commandStack &stack() { return m_stack; }
     myModel *lines() { return m_lines; }
     myModel *options() { return m_options; }
     myTreeView *linesView() { return m_linesView; }
@@ -36,11 +35,6 @@ public:
     // The cells of a column in some rows.
     QList<myItem::myItemStandard *> cells(const std::vector<int> &rows, int column) const;
     std::vector<const orderItemStruct *> records(const std::vector<int> &rows) const;
-
-    // Takes what stands in an open editor.
-    void finishEditing();
-    // While locked nothing can be edited.
-    void setLocked(bool locked);
 
     // Takes the attentions to the order where they were changed.
     void takeAttentions();
@@ -65,7 +59,8 @@ private:
     void buildLines();
     void showHint();
 
-    commandStack m_stack;
+    programData &m_known;
+    commandStack &m_stack;
     myModel *m_options;
     myModel *m_lines;
     myTreeView *m_optionsView;

@@ -9,7 +9,6 @@
 #include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/aboutDialog.h"
 #include "firm/firmWindow.h"
-#include "order/orderDocument.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
 #include "shell/logos.h"
@@ -26,13 +25,12 @@
 #include "window/messageWindow.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMimeData>
 #include <QSplitter>
 #include <QSslConfiguration>
 #include <QStatusBar>
@@ -47,10 +45,7 @@ namespace {
 constexpr int stages = 9;
 constexpr int updateCheckDelayMs = 50;
 constexpr int refreshDelayMs = 250;
-constexpr int autoSaveMs = 60000;
 
-const actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true};
-const actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
 const actionRow doSeparator{nullptr, "Do", nullptr, nullptr, nullptr, nullptr, false};
 
 const windowAction<MainWindow> actionTable[] = {
@@ -60,20 +55,18 @@ const windowAction<MainWindow> actionTable[] = {
     {{"zpOpen", "File", QT_TRANSLATE_NOOP("actions", "Open"), "action_open", "Ctrl+O",
       QT_TRANSLATE_NOOP("actions", "Open an order"), true},
      &MainWindow::commandZpOpen},
-    {{"zpSave", "File", QT_TRANSLATE_NOOP("actions", "Save"), "action_save", "Ctrl+S", nullptr,
-      true},
-     &MainWindow::commandZpSave},
+    {usualActions::save, &MainWindow::commandZpSave},
     {{"zpSaveAs", "File", QT_TRANSLATE_NOOP("actions", "Save as"), "action_save_as", "Ctrl+Alt+S",
       QT_TRANSLATE_NOOP("actions", "Save under another name, with the report beside it")},
      &MainWindow::commandZpSaveAs},
-    {fileSeparator, nullptr},
+    {usualActions::fileSeparator, nullptr},
     {{"zpPrint", "File", QT_TRANSLATE_NOOP("actions", "Print"), "action_print", "Ctrl+P",
       QT_TRANSLATE_NOOP("actions", "Print the order to a PDF file"), true},
      &MainWindow::commandZpPrint},
     {{"zpSend", "File", QT_TRANSLATE_NOOP("actions", "Send"), "action_send", "Ctrl+M",
       QT_TRANSLATE_NOOP("actions", "Send the saved order and its PDF by mail"), true},
      &MainWindow::commandZpSend},
-    {fileSeparator, nullptr},
+    {usualActions::fileSeparator, nullptr},
     {{"archiveDD", "File", QT_TRANSLATE_NOOP("actions", "Archive dd"), "action_archive", nullptr,
       QT_TRANSLATE_NOOP("actions", "Put a dated copy of the order into the backup folder")},
      &MainWindow::commandArchiveDD},
@@ -92,24 +85,14 @@ const windowAction<MainWindow> actionTable[] = {
     {{"exit", "File", QT_TRANSLATE_NOOP("actions", "Exit"), "action_exit", "Ctrl+Q", nullptr},
      &MainWindow::commandExit},
 
-    {{"zpEdit", QT_TRANSLATE_NOOP("actions", "Edit"), QT_TRANSLATE_NOOP("actions", "Edit"),
-      "action_edit", "Ctrl+E", QT_TRANSLATE_NOOP("actions", "Allow changes of the order"), true,
-      true},
+    {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the order")),
      &MainWindow::commandZpEdit},
-    {editSeparator, nullptr},
-    {{"zpUndo", "Edit", QT_TRANSLATE_NOOP("actions", "Undo"), "action_undo", "Ctrl+Z", nullptr,
-      true},
-     &MainWindow::commandZpUndo},
-    {{"zpRedo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr,
-      true},
-     &MainWindow::commandZpRedo},
-    {editSeparator, nullptr},
-    {{"copyCells", "Edit", QT_TRANSLATE_NOOP("actions", "Copy cells"), "action_copy", "Ctrl+C",
-      QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
-     &MainWindow::commandCopyCells},
-    {{"pasteCells", "Edit", QT_TRANSLATE_NOOP("actions", "Paste cells"), "action_paste", "Ctrl+V",
-      QT_TRANSLATE_NOOP("actions", "Paste text into the cells from the current one on")},
-     &MainWindow::commandPasteCells},
+    {usualActions::editSeparator, nullptr},
+    {usualActions::undo, &MainWindow::commandZpUndo},
+    {usualActions::redo, &MainWindow::commandZpRedo},
+    {usualActions::editSeparator, nullptr},
+    {usualActions::copyCells, &MainWindow::commandCopyCells},
+    {usualActions::pasteCells, &MainWindow::commandPasteCells},
     {{"zpCopy", "Edit", QT_TRANSLATE_NOOP("actions", "Copy ..."), "action_duplicate", nullptr,
       QT_TRANSLATE_NOOP("actions", "Copy lines to another order or to the clipboard")},
      &MainWindow::commandZpCopy},
@@ -120,9 +103,7 @@ const windowAction<MainWindow> actionTable[] = {
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Find a text in the lines"), true},
      &MainWindow::commandFind},
-    {{"findNext", "Edit", QT_TRANSLATE_NOOP("actions", "Find next"), "action_find_next", "F3",
-      nullptr},
-     &MainWindow::commandFindNext},
+    {usualActions::findNext, &MainWindow::commandFindNext},
     {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"zpConfig", "Edit", QT_TRANSLATE_NOOP("actions", "Config"), "action_set", "Ctrl+K",
       QT_TRANSLATE_NOOP("actions", "Go to the order's number, date, target and persons")},
@@ -238,8 +219,9 @@ void prepareCertificates()
 
 } // namespace
 
-MainWindow::MainWindow()
-    : baseWindow(QStringLiteral("MainWindow"))
+MainWindow::MainWindow(programData &files)
+    : editWindow(QStringLiteral("MainWindow"), files)
+    , m_document(files)
     , m_recovery(std::make_unique<orderRecovery>(paths::data(QStringLiteral("_config/recovery"))))
 {
     buildWidgets();
@@ -255,9 +237,7 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::buildWidgets()
 {
-    setWindowTitle(tr("Order"));
     setWindowIcon(logos::logo());
-    setAcceptDrops(true);
     addActions(actionTable);
 
     m_tabs = new QTabWidget(this);
@@ -265,8 +245,10 @@ void MainWindow::buildWidgets()
     m_beside = new QSplitter(Qt::Horizontal, m_tabs);
     m_beside->setObjectName(QStringLiteral("besideSplitter"));
     m_beside->setChildrenCollapsible(false);
-    m_order = new orderView(action("zpUndo"), action("zpRedo"), m_beside);
+    m_order = new orderView(known(), stack(), m_beside);
     m_order->setObjectName(QStringLiteral("order"));
+    watchView(m_order->linesView());
+    watchView(m_order->optionsView());
     m_beside->addWidget(m_order);
     m_preview = new myWebView(m_tabs);
     m_preview->setObjectName(QStringLiteral("preview"));
@@ -290,11 +272,8 @@ void MainWindow::buildWidgets()
     connect(m_refresh, &QTimer::timeout, this, [this] {
         if (isPreviewVisible())
             refreshPreview();
-        showState();
+        showSums();
     });
-    m_autoSave = new QTimer(this);
-    m_autoSave->start(autoSaveMs);
-    connect(m_autoSave, &QTimer::timeout, this, &MainWindow::storeRecovery);
 
     connect(m_order, &orderView::changed, this, &MainWindow::orderChanged);
     connect(m_order, &orderView::actionWanted, this,
@@ -315,7 +294,7 @@ void MainWindow::buildWidgets()
 
 void MainWindow::loadDataFiles()
 {
-    programData &files = programData::instance();
+    programData &files = known();
     int stage = 0;
     const auto passed = [&stage] { splash::setProgress(++stage, stages); };
     files.loadConfiguration();
@@ -335,25 +314,19 @@ void MainWindow::loadDataFiles()
 void MainWindow::openLastOrder()
 {
     const QString last = userState::instance().lastZp;
-    if (!last.isEmpty() && !orderDocument::instance().load(paths::data(last)))
+    if (!last.isEmpty() && !m_document.load(paths::data(last)))
         userState::instance().lastZp.clear();
-    const QString &other = orderDocument::instance().otherUser();
-    if (!other.isEmpty())
-        userPrompts().listError(messages::failed(tr("The order is open elsewhere, too "),
-                                                 orderDocument::instance().path(), other));
     showDocument();
 }
 
 // What was opened or begun, from its beginning.
 void MainWindow::showDocument()
 {
-    m_order->show(orderDocument::instance().order());
-    // A locked order is opened for reading; the user may unlock it.
-    action("zpEdit")->setChecked(programData::instance().config().isOn(optionKey::editZp));
-    commandZpEdit(action("zpEdit")->isChecked());
-    m_unstored = false;
+    m_order->show(m_document.order());
+    setClean();
+    setUnlocked(known().config().isOn(optionKey::editZp));
     refreshPreview();
-    showState();
+    showSums();
 }
 
 // Statuses and stock may have changed in a database window.
@@ -372,7 +345,7 @@ void MainWindow::refreshPreview()
     m_order->takeAttentions();
     m_previewIsOld = !isPreviewVisible() && isVisible();
     if (!m_previewIsOld)
-        m_preview->showReport(orderDocument::instance().report());
+        m_preview->showReport(m_document.report());
 }
 
 bool MainWindow::isPreviewVisible() const
@@ -382,22 +355,21 @@ bool MainWindow::isPreviewVisible() const
 
 void MainWindow::orderChanged()
 {
-    orderDocument::instance().setModified(true);
-    m_unstored = true;
     m_previewIsOld = true;
     refreshHtml();
-    updateActions();
+    showState();
 }
 
-void MainWindow::showState()
+void MainWindow::historyMoved()
 {
-    orderDocument &document = orderDocument::instance();
-    const QString &path = document.path();
-    QString shown = path.isEmpty() ? tr("New order") : QDir::toNativeSeparators(path);
-    if (document.isModified())
-        shown += QLatin1String(" *");
-    m_path->setText(shown);
-    m_path->setToolTip(document.isModified() ? tr("Changed since it was saved") : QString());
+    orderChanged();
+    showSums();
+}
+
+void MainWindow::showSums()
+{
+    const QString &path = m_document.path();
+    m_path->setText(path.isEmpty() ? tr("New order") : QDir::toNativeSeparators(path));
     const std::vector<int> selected = m_order->selectedRows();
     const bool several = selected.size() > 1;
     const orderOperations::lineSums sums =
@@ -405,25 +377,21 @@ void MainWindow::showState()
     m_sums->setText((several ? tr("%n selected line(s), %1 PLN", nullptr, sums.lines)
                              : tr("%n line(s), %1 PLN", nullptr, sums.lines))
                         .arg(numbers::money(sums.price)));
-    updateActions();
 }
 
 void MainWindow::updateActions()
 {
-    const bool locked = m_order->linesView()->isEditingLocked();
     const bool empty = m_order->lines()->rowCount() == 0;
-    for (const char *name :
-         {"pasteCells", "addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"})
-        setAvailable(name, !locked, tr("editing is locked"));
-    for (const char *name :
-         {"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS", "allUnits",
-          "allTargets", "clearPrice", "refreshPrices", "deleteLines", "deleteAll"})
-        setAvailable(name, !locked && !empty,
-                     locked ? tr("editing is locked") : tr("the order has no lines"));
+    const QString noLines = tr("the order has no lines");
+    allowWhenUnlocked(
+        {"pasteCells", "addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"});
+    allowWhenUnlocked({"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS",
+                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "deleteLines",
+                       "deleteAll"},
+                      !empty, noLines);
     for (const char *name : {"zpCopy", "allSum", "find", "findNext", "copyCells"})
-        setAvailable(name, !empty, tr("the order has no lines"));
-    setAvailable("archiveDD", !orderDocument::instance().path().isEmpty(),
-                 tr("the order was not saved yet"));
+        setAvailable(name, !empty, noLines);
+    setAvailable("archiveDD", !m_document.path().isEmpty(), tr("the order was not saved yet"));
 }
 
 void MainWindow::showContextMenu(const QPoint &position)
@@ -463,7 +431,9 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
 {
     auto &window = m_databases[kind];
     if (!window) {
-        window = std::make_unique<Kiv_mat_databaseWindow>(kind);
+        window = std::make_unique<Kiv_mat_databaseWindow>(known(), kind);
+        window->openOrder = [this]() -> const kiv_mat_zpStruct & { return m_document.order(); };
+        connect(this, &MainWindow::orderAnswered, window.get(), &editWindow::tell);
         connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
                 &MainWindow::appendToOrder);
         connect(window.get(), &Kiv_mat_databaseWindow::insertToBom, this,
@@ -474,18 +444,17 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
 
 void MainWindow::databaseCommand(bool)
 {
-    programData &known = programData::instance();
     QStringList names;
     std::vector<programData::databaseKind> kinds;
     for (int kind = 0; kind < programData::databaseCount; ++kind) {
-        const QString &path = known.database(programData::databaseKind(kind)).filePath;
+        const QString &path = known().database(programData::databaseKind(kind)).filePath;
         if (path.isEmpty())
             continue;
         names.append(QFileInfo(path).fileName());
         kinds.push_back(programData::databaseKind(kind));
     }
     if (kinds.empty()) {
-        statusBar()->showMessage(tr("No database is loaded"));
+        tell(tr("No database is loaded"));
         return;
     }
     size_t chosen = 0;
@@ -502,7 +471,15 @@ void MainWindow::databaseCommand(bool)
 void MainWindow::commandFirm(bool)
 {
     if (!m_firm) {
-        m_firm = std::make_unique<firmWindow>();
+        m_firm = std::make_unique<firmWindow>(known());
+        m_firm->renameInWindow = [this](programData::databaseKind kind,
+                                        const firmOperations::renameList &renames) {
+            const auto &window = m_databases[kind];
+            const bool isOpen = window && window->isVisible();
+            if (isOpen)
+                window->renameFirms(renames);
+            return isOpen;
+        };
         connect(m_firm.get(), &firmWindow::materialsChanged, this, &MainWindow::refreshHtml);
     }
     m_firm->showNow();
@@ -511,7 +488,7 @@ void MainWindow::commandFirm(bool)
 void MainWindow::configCommand(bool)
 {
     if (!m_config) {
-        m_config = std::make_unique<configWindow>();
+        m_config = std::make_unique<configWindow>(known());
         connect(m_config.get(), &configWindow::configChange, this, &MainWindow::configChange);
     }
     m_config->showNow();
@@ -521,6 +498,27 @@ void MainWindow::configChange()
 {
     m_order->refreshSettings();
     refreshHtml();
+    setUnlocked(!isLocked());
+    for (editWindow *window : secondaryWindows())
+        if (window != m_config.get())
+            window->setUnlocked(!window->isLocked());
+}
+
+std::vector<editWindow *> MainWindow::secondaryWindows() const
+{
+    std::vector<editWindow *> windows;
+    if (m_bom) {
+        windows = m_bom->viewWindows();
+        windows.push_back(m_bom.get());
+    }
+    for (editWindow *window :
+         {static_cast<editWindow *>(m_config.get()), static_cast<editWindow *>(m_firm.get())})
+        if (window)
+            windows.push_back(window);
+    for (const auto &window : m_databases)
+        if (window)
+            windows.push_back(window.get());
+    return windows;
 }
 
 void MainWindow::commandShowLog(bool) { logWindow::instance().showNow(); }
@@ -558,16 +556,4 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Delete && m_order->linesView()->hasFocus()
         && action("deleteLines")->isEnabled())
         commandDeleteLines(false);
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.first().isLocalFile())
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent *event)
-{
-    openFile(event->mimeData()->urls().first().toLocalFile());
 }

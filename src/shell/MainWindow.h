@@ -6,9 +6,10 @@
 #include "bom/bomOperations.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
+#include "order/orderDocument.h"
 #include "order/orderOperations.h"
 #include "order/orderRecovery.h"
-#include "window/baseWindow.h"
+#include "window/editWindow.h"
 
 #include <array>
 #include <optional>
@@ -29,24 +30,26 @@ namespace mail {
 enum class contents;
 }
 
-class MainWindow : public baseWindow, public htmlView
+class MainWindow : public editWindow, public htmlView
 {
     Q_OBJECT
 public:
     // Loads the configuration, all data files and the last order in nine stages, which the start-up
     // picture shows. What cannot be read is in the errors window, which is shown when it holds
     // anything.
-    MainWindow();
+    explicit MainWindow(programData &known);
     ~MainWindow() override;
 
     // Has the preview follow the order once the burst of changes is over.
     void refreshHtml() override;
 
-    // Writes an order aside that was changed since it was written so last.
-    void storeRecovery();
     // Asks whether to open the order that a run before left unsaved, if one did.
     void offerRecovery();
 
+    bool isModified() const override;
+    void storeRecovery() override;
+
+    orderDocument &document() { return m_document; }
     orderView &view() { return *m_order; }
     // The window of a database, made when it is first asked for.
     Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
@@ -57,16 +60,14 @@ public:
 public slots:
     void commandZpNew(bool);
     void commandZpOpen(bool);
-    void commandZpSave(bool);
+    void commandZpSave(bool on);
     void commandZpSaveAs(bool);
     void commandZpPrint(bool);
     void commandZpSend(bool);
-    void commandZpEdit(bool on);
-    void commandZpUndo(bool);
-    void commandZpRedo(bool);
+    void commandZpEdit(bool on) { commandEdit(on); }
+    void commandZpUndo(bool on) { commandUndo(on); }
+    void commandZpRedo(bool on) { commandRedo(on); }
     void commandZpConfig(bool);
-    void commandCopyCells(bool);
-    void commandPasteCells(bool);
     void commandZpCopy(bool);
     void commandZpClear(bool);
     void commandZpAllQuantities(bool);
@@ -85,8 +86,6 @@ public slots:
     void commandAddShipment(bool);
     void commandAddPCB(bool);
     void commandAppendBomToZp(bool);
-    void commandFind(bool);
-    void commandFindNext(bool);
     void commandArchiveDD(bool);
     void commandArchiveDatabase(bool);
     void commandSendDatabase(bool);
@@ -106,11 +105,15 @@ public slots:
     void configChange();
 
     // Appends a line for each material; those of shipment and service that the order holds already
-    // are refused.
+    // are refused. orderAnswered() says what became of them.
     void appendToOrder(const materialKtms_list &ktms, uint quantity);
     // Shows what the lists need, and adds it as one step when the user says so.
     void appendBoms(const std::vector<bomOperations::bomSets> &lists);
     void reOrdinalRows();
+
+signals:
+    // What became of materials that another window sent to the order.
+    void orderAnswered(const QString &text);
 
 private slots:
     void modelTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
@@ -119,11 +122,28 @@ private slots:
     void currentTabChanged(int index);
 
 protected:
+    QString filePath() const override { return m_document.path(); }
+    QString title() const override { return tr("Order"); }
+    void begin() override {}
+    bool load() override;
+    bool write(const QString &path) override;
+    void saved() override;
+    fileState &onDisk() override { return m_document.onDisk(); }
+    bool saveAs() override;
+    bool canSaveAs() const override { return true; }
+    QLatin1String editOption() const override;
+    QString closeQuestion() const override;
+    bool closesWithCancel() const override { return false; }
+    void historyMoved() override;
+    void lockChanged() override;
+    void updateActions() override;
+    myTreeView *currentView() const override;
+    htmlView *page() override { return this; }
+    bool takesFiles() const override { return true; }
+    void fileDropped(const QString &path) override;
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     // --- MainWindow.cpp ---
@@ -132,35 +152,31 @@ private:
     void openLastOrder();
     void showDocument();
     void orderChanged();
-    void showState();
-    void updateActions();
+    void showSums();
     bool isPreviewVisible() const;
     void showContextMenu(const QPoint &position);
+    // The windows that were opened from here.
+    std::vector<editWindow *> secondaryWindows() const;
 
     // --- MainWindowOrder.cpp ---
     bool closeDocument();
-    class myTreeView *focusedView() const;
     void leaveUnsaved();
     void openFile(const QString &path);
-    bool saveTo(const QString &path);
-    bool saveAs();
     bool printTo(const QString &path);
 
     // --- MainWindowLines.cpp ---
-    // Says so in the status bar when the order is locked.
-    bool isLocked();
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
                    const QString &what);
     std::optional<std::vector<int>> wantedRows();
     void appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines, const QString &what);
     void addSpecialLine(const QString &ktm, const QString &description);
     void deleteRows(const std::vector<int> &rows, const QString &what);
-    void push(std::unique_ptr<command> change, const QString &what);
 
     // --- MainWindowBom.cpp ---
     void startMail(const QString &description);
     void sendData(mail::contents what);
 
+    orderDocument m_document;
     QTabWidget *m_tabs = nullptr;
     QSplitter *m_beside = nullptr;
     orderView *m_order = nullptr;
@@ -168,14 +184,11 @@ private:
     QLabel *m_path = nullptr;
     QLabel *m_sums = nullptr;
     QTimer *m_refresh = nullptr;
-    QTimer *m_autoSave = nullptr;
     std::unique_ptr<orderRecovery> m_recovery;
     std::unique_ptr<configWindow> m_config;
     std::unique_ptr<firmWindow> m_firm;
     std::unique_ptr<Kiv_bomWindow> m_bom;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
-    QString m_wanted; // what is searched in the order
     bool m_previewIsOld = true;
-    bool m_unstored = false; // changed since the recovery copy was written
 };

@@ -7,7 +7,6 @@
 #include "bom/needsDialog.h"
 #include "commands/commandSys.h"
 #include "mail/mail.h"
-#include "order/orderDocument.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
 #include "report/orderReport.h"
@@ -69,7 +68,7 @@ void removeAtTheEnd(const QString &path)
 Kiv_bomWindow &MainWindow::bomWindow()
 {
     if (!m_bom) {
-        m_bom = std::make_unique<Kiv_bomWindow>();
+        m_bom = std::make_unique<Kiv_bomWindow>(known());
         connect(m_bom.get(), &Kiv_bomWindow::appendToOrder, this, &MainWindow::appendBoms);
     }
     return *m_bom;
@@ -87,18 +86,17 @@ void MainWindow::commandAppendBomToZp(bool)
 
 void MainWindow::appendBoms(const std::vector<bomSets> &lists)
 {
-    if (m_order->linesView()->isEditingLocked()) {
+    if (isLocked()) {
         userPrompts().showInformation(tr("The order is locked. Allow its editing first."));
         return;
     }
-    programData &known = programData::instance();
-    const demand needed = demandOf(lists, known.materials());
+    const demand needed = demandOf(lists, known().materials());
     QWidget *over = QApplication::activeWindow();
-    needsDialog dialog(needed, sumsOf(lists, known.materials()), over ? over : this);
+    needsDialog dialog(needed, sumsOf(lists, known().materials()), over ? over : this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    orderPlan plan = planOf(needed, orderDocument::instance().order(), dialog.wantedAmount(),
-                            dialog.existing(), orderOperations::usualDate(known.config()));
+    orderPlan plan = planOf(needed, m_document.order(), dialog.wantedAmount(), dialog.existing(),
+                            orderOperations::usualDate(known().config()));
     for (const need *one : plan.unknown)
         userPrompts().listError(doesNotExist(one->ktm.isEmpty() ? one->name : one->ktm));
     const int changes = int(plan.changes.size());
@@ -124,10 +122,9 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
         }
         push(std::move(step), what);
     }
-    statusBar()->showMessage(plan.skipped > 0
-                                 ? what + QLatin1String(", ")
-                                       + tr("%n material(s) skipped", nullptr, plan.skipped)
-                                 : what);
+    tell(plan.skipped > 0
+             ? what + QLatin1String(", ") + tr("%n material(s) skipped", nullptr, plan.skipped)
+             : what);
     if (!plan.unknown.empty())
         userPrompts().showErrors();
 }
@@ -137,23 +134,23 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
 
 void MainWindow::startMail(const QString &description)
 {
-    statusBar()->showMessage(mail::start(description, programData::instance().config())
-                                 ? tr("Handed to the mail program")
-                                 : tr("The mail program cannot be started; the message is %1")
-                                       .arg(QDir::toNativeSeparators(description)));
+    tell(mail::start(description, known().config())
+             ? tr("Handed to the mail program")
+             : tr("The mail program cannot be started; the message is %1")
+                   .arg(QDir::toNativeSeparators(description)));
 }
 
 // What is sent is the saved order.
 void MainWindow::commandZpSend(bool)
 {
-    orderDocument &document = orderDocument::instance();
+    orderDocument &document = m_document;
     m_order->takeAttentions();
-    if (document.isModified() || document.path().isEmpty()) {
+    if (isModified() || document.path().isEmpty()) {
         if (userPrompts().ask(tr("The order is saved before it is sent. Save it now?"), false)
             != prompts::answer::yes)
             return;
         commandZpSave(false);
-        if (document.isModified() || document.path().isEmpty())
+        if (isModified() || document.path().isEmpty())
             return;
     }
     const QString pdf = mail::pdfPath(document.order());
@@ -161,7 +158,7 @@ void MainWindow::commandZpSend(bool)
         return;
     removeAtTheEnd(pdf);
     const QString description =
-        mail::writeOrder(document.order(), programData::instance().config(), document.path(), pdf);
+        mail::writeOrder(document.order(), known().config(), document.path(), pdf);
     if (description.isEmpty())
         userPrompts().showError(tr("The message cannot be written to %1")
                                     .arg(QDir::toNativeSeparators(mail::folder()).toHtmlEscaped()));
@@ -174,7 +171,7 @@ void MainWindow::sendData(mail::contents what)
     QString description;
     {
         workProgress::scope work(progress(), tr("Packing"));
-        description = mail::writeData(what, programData::instance().config(), removeAtTheEnd);
+        description = mail::writeData(what, known().config(), removeAtTheEnd);
     }
     if (description.isEmpty())
         userPrompts().showError(

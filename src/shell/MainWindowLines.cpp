@@ -2,12 +2,10 @@
 #include "shell/MainWindow.h"
 
 #include "commands/cellBlock.h"
-#include "commands/cellClipboard.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "order/addMaterialDialog.h"
 #include "order/linesDialog.h"
-#include "order/orderDocument.h"
 #include "order/orderView.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
@@ -25,71 +23,12 @@
 
 using myItem::myItemStandard;
 
-void MainWindow::push(std::unique_ptr<command> change, const QString &what)
-{
-    if (!change)
-        return;
-    m_order->stack().push(std::move(change), what);
-    orderChanged();
-    showState();
-    statusBar()->showMessage(what);
-}
-
-void MainWindow::commandZpEdit(bool on)
-{
-    m_order->setLocked(!on);
-    updateActions();
-}
-
-bool MainWindow::isLocked()
-{
-    if (m_order->linesView()->isEditingLocked())
-        statusBar()->showMessage(tr("Editing is locked"));
-    return m_order->linesView()->isEditingLocked();
-}
-
-void MainWindow::commandZpUndo(bool)
-{
-    if (isLocked())
-        return;
-    const QString what = m_order->stack().undo();
-    orderChanged();
-    statusBar()->showMessage(tr("Undone: %1").arg(what));
-}
-
-void MainWindow::commandZpRedo(bool)
-{
-    if (isLocked())
-        return;
-    const QString what = m_order->stack().redo();
-    orderChanged();
-    statusBar()->showMessage(tr("Done again: %1").arg(what));
-}
-
 void MainWindow::commandZpConfig(bool)
 {
     m_tabs->setCurrentIndex(0);
     myTreeView *options = m_order->optionsView();
     options->setFocus();
     options->setCurrentIndex(m_order->options()->index(0, 1));
-}
-
-myTreeView *MainWindow::focusedView() const
-{
-    return m_order->optionsView()->hasFocus() ? m_order->optionsView() : m_order->linesView();
-}
-
-void MainWindow::commandCopyCells(bool)
-{
-    statusBar()->showMessage(tr("%n cell(s) copied", nullptr, cellClipboard::copy(focusedView())));
-}
-
-void MainWindow::commandPasteCells(bool)
-{
-    const int changed = cellClipboard::paste(
-        focusedView(),
-        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste")); }, this);
-    statusBar()->showMessage(tr("%n cell(s) pasted", nullptr, changed));
 }
 
 // All lines, or the selected ones when several are and the user says so.
@@ -129,8 +68,8 @@ void MainWindow::commandZpAllQuantities(bool)
 
 void MainWindow::commandZpAllDates(bool)
 {
-    const auto date = userPrompts().inputDate(
-        labels::setAllDates(), orderOperations::usualDate(programData::instance().config()));
+    const auto date = userPrompts().inputDate(labels::setAllDates(),
+                                              orderOperations::usualDate(known().config()));
     if (!date)
         return;
     if (const auto rows = wantedRows())
@@ -151,7 +90,7 @@ void MainWindow::commandZpAllRoHS(bool)
 {
     QStringList words;
     QStringList shown;
-    for (const comboBoxStruct &word : programData::instance().config().goodWhenYes) {
+    for (const comboBoxStruct &word : known().config().goodWhenYes) {
         words.append(word.value);
         shown.append(labels::shown(word.value));
     }
@@ -181,8 +120,8 @@ void MainWindow::commandZpAllTargets(bool)
 {
     if (userPrompts().ask(tr("Change target for all materials ?"), false) != prompts::answer::yes)
         return;
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
-    const QStringList targets = orderOperations::targets(programData::instance().config(), order);
+    const kiv_mat_zpStruct &order = m_document.order();
+    const QStringList targets = orderOperations::targets(known().config(), order);
     const auto chosen =
         userPrompts().choose(labels::setAllTargets(), labels::allMaterialsTarget(), targets,
                              int(targets.indexOf(order.options.value(optionKey::orderTarget))));
@@ -231,7 +170,7 @@ void MainWindow::commandZpRefreshPrices(bool)
     if (userPrompts().ask(tr("Take prices and stock of the lines from the databases again?"), false)
         != prompts::answer::yes)
         return;
-    const ktmIndex &materials = programData::instance().materials();
+    const ktmIndex &materials = known().materials();
     const auto rows = wantedRows();
     if (!rows)
         return;
@@ -278,21 +217,21 @@ void MainWindow::commandZpCopy(bool)
             for (int column : dialog.columns())
                 cells.append(m_order->lines()->index(row, column));
         QApplication::clipboard()->setText(cellBlock::copied(cells));
-        statusBar()->showMessage(tr("%n line(s) copied", nullptr, int(rows.size())));
+        tell(tr("%n line(s) copied", nullptr, int(rows.size())));
         return;
     }
-    const QString path = userPrompts().openFile(tr("Open File"), orderDocument::instance().folder(),
-                                                QStringLiteral("(*.xml)"));
+    const QString path =
+        userPrompts().openFile(tr("Open File"), m_document.folder(), QStringLiteral("(*.xml)"));
     if (path.isEmpty())
         return;
-    if (QFileInfo(path) == QFileInfo(orderDocument::instance().path())) {
+    if (QFileInfo(path) == QFileInfo(m_document.path())) {
         userPrompts().showError(tr("This order is open here. Choose another one."));
         return;
     }
     QString reason;
     if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(), &reason))
-        statusBar()->showMessage(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
-                                     .arg(QDir::toNativeSeparators(path)));
+        tell(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
+                 .arg(QDir::toNativeSeparators(path)));
     else
         userPrompts().showError(QDir::toNativeSeparators(path).toHtmlEscaped() + QLatin1String(": ")
                                 + reason.toHtmlEscaped());
@@ -356,10 +295,11 @@ void MainWindow::appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines
 
 void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)
 {
-    if (isLocked())
+    if (refuseWhileLocked()) {
+        emit orderAnswered(tr("The order is locked, nothing was added"));
         return;
-    programData &known = programData::instance();
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
+    }
+    const kiv_mat_zpStruct &order = m_document.order();
     std::vector<std::unique_ptr<orderItemStruct>> lines;
     QStringList shipments;
     for (const QString &ktm : ktms) {
@@ -369,21 +309,27 @@ void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)
                                           + ktm.toHtmlEscaped());
             continue;
         }
-        const ktmIndex::entry *found = known.materials().find(ktm);
+        const ktmIndex::entry *found = known().materials().find(ktm);
         if (!found)
             continue;
         if (orderOperations::isShipment(ktm))
             shipments.append(ktm);
         lines.push_back(orderOperations::newLine(*found->material, order, QString::number(quantity),
-                                                 orderOperations::usualDate(known.config())));
+                                                 orderOperations::usualDate(known().config())));
     }
     const int count = int(lines.size());
-    appendLines(std::move(lines), tr("%n line(s) added", nullptr, count));
+    const int refused = ktms.size() - count;
+    QString answer = tr("%n line(s) added", nullptr, count);
+    if (refused > 0)
+        answer += QLatin1String(", ") + tr("%n material(s) refused", nullptr, refused);
+    appendLines(std::move(lines), answer);
+    tell(answer);
+    emit orderAnswered(answer);
 }
 
 void MainWindow::commandAddShipment(bool)
 {
-    const kiv_mat_zpStruct &order = orderDocument::instance().order();
+    const kiv_mat_zpStruct &order = m_document.order();
     const QString ktm = orderOperations::freeShipmentKtm(order);
     if (ktm.isEmpty()) {
         userPrompts().showInformation(tr("In Do can be only ten entries SHIPMENT"));
@@ -394,7 +340,7 @@ void MainWindow::commandAddShipment(bool)
 
 void MainWindow::commandAddPCB(bool)
 {
-    if (orderOperations::holds(orderDocument::instance().order(), orderOperations::pcbKtm())) {
+    if (orderOperations::holds(m_document.order(), orderOperations::pcbKtm())) {
         const QString padding = QStringLiteral("&nbsp;").repeated(9);
         userPrompts().showInformation(padding + tr("Only one PCB order") + padding);
         return;
@@ -404,13 +350,13 @@ void MainWindow::commandAddPCB(bool)
 
 void MainWindow::addSpecialLine(const QString &ktm, const QString &description)
 {
-    const ktmIndex::entry *known = programData::instance().materials().find(ktm);
-    if (!known) {
-        statusBar()->showMessage(tr("No loaded database has the material %1").arg(ktm));
+    const ktmIndex::entry *found = known().materials().find(ktm);
+    if (!found) {
+        tell(tr("No loaded database has the material %1").arg(ktm));
         return;
     }
     std::vector<std::unique_ptr<orderItemStruct>> lines;
-    lines.push_back(orderOperations::newLine(*known->material, orderDocument::instance().order(),
+    lines.push_back(orderOperations::newLine(*found->material, m_document.order(),
                                              QStringLiteral("1"), QDate::currentDate()));
     lines.back()->description = description;
     appendLines(std::move(lines), tr("%n line(s) added", nullptr, 1));
@@ -419,7 +365,8 @@ void MainWindow::addSpecialLine(const QString &ktm, const QString &description)
 void MainWindow::commandAddMaterial(bool)
 {
     if (!m_addMaterial) {
-        m_addMaterial = new addMaterialDialog(this);
+        m_addMaterial = new addMaterialDialog(known(), this);
+        connect(this, &MainWindow::orderAnswered, m_addMaterial, &addMaterialDialog::showAnswer);
         connect(m_addMaterial, &addMaterialDialog::wanted, this, &MainWindow::appendToOrder);
     }
     m_addMaterial->showNow();
@@ -439,21 +386,19 @@ void MainWindow::commandEditAttentions(bool)
 
 void MainWindow::textEditDoubleClicked(QPoint, uint)
 {
-    statusBar()->showMessage(m_order->attentions()->isReadOnly()
-                                 ? tr("Editing is locked")
-                                 : tr("A double click opens the editor of formatted text"));
+    tell(m_order->attentions()->isReadOnly()
+             ? tr("Editing is locked")
+             : tr("A double click opens the editor of formatted text"));
 }
 
-void MainWindow::modelTreeClicked(QPoint, uint, const QModelIndex &) { showState(); }
+void MainWindow::modelTreeClicked(QPoint, uint, const QModelIndex &) { showSums(); }
 
 void MainWindow::headerTreeClicked(QPoint, uint buttons, int section)
 {
     if (!(buttons & Qt::LeftButton))
         return;
-    if (m_order->linesView()->isEditingLocked()) {
-        statusBar()->showMessage(tr("Editing is locked"));
+    if (refuseWhileLocked())
         return;
-    }
     auto change = std::make_unique<sortOrderModel>(m_order->lines(), section);
     if (!change->changesOrder())
         return;
@@ -462,31 +407,3 @@ void MainWindow::headerTreeClicked(QPoint, uint buttons, int section)
 }
 
 void MainWindow::reOrdinalRows() { m_order->renumber(); }
-
-// --- Finding
-// --------------------------------------------------------------------------------------
-
-void MainWindow::commandFind(bool)
-{
-    const auto text = userPrompts().inputText(tr("Find"), tr("Text in any column"), m_wanted);
-    if (!text || text->isEmpty())
-        return;
-    m_wanted = *text;
-    commandFindNext(false);
-}
-
-void MainWindow::commandFindNext(bool)
-{
-    if (m_wanted.isEmpty()) {
-        commandFind(false);
-        return;
-    }
-    m_tabs->setCurrentIndex(0);
-    myTreeView *view = m_order->linesView();
-    if (view->findNext(m_wanted)) {
-        view->setFocus();
-        statusBar()->showMessage(tr("Found in line %1").arg(view->currentIndex().row() + 1));
-        return;
-    }
-    statusBar()->showMessage(tr("No line holds %1").arg(m_wanted));
-}

@@ -7,7 +7,6 @@
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "firm/firmWindow.h"
-#include "order/orderDocument.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
 #include "report/orderReport.h"
@@ -50,30 +49,40 @@ QString native(const QString &path) { return QDir::toNativeSeparators(path).toHt
 // --- The order's life
 // -----------------------------------------------------------------------------
 
+bool MainWindow::isModified() const
+{
+    return editWindow::isModified() || m_order->attentions()->document()->isModified();
+}
+
+QLatin1String MainWindow::editOption() const { return optionKey::editZp; }
+
+void MainWindow::lockChanged() { m_order->attentions()->setReadOnly(isLocked()); }
+
+myTreeView *MainWindow::currentView() const
+{
+    return m_order->optionsView()->hasFocus() ? m_order->optionsView() : m_order->linesView();
+}
+
 // An order that has no file is closed without a question: its copy is offered at the next start.
 void MainWindow::leaveUnsaved()
 {
     m_order->takeAttentions();
-    if (m_recovery->store(orderDocument::instance().order(), orderDocument::instance().path()))
+    if (m_recovery->store(m_document.order(), m_document.path()))
         m_recovery->leave();
 }
 
 bool MainWindow::closeDocument()
 {
-    m_order->finishEditing();
-    orderDocument &document = orderDocument::instance();
-    if (!document.isModified())
+    finishEditing();
+    if (!isModified())
         return true;
-    if (document.path().isEmpty()) {
+    if (m_document.path().isEmpty()) {
         leaveUnsaved();
         return true;
     }
-    const prompts::answer answer =
-        userPrompts().ask(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
-                              + native(document.path()) + QLatin1String("&nbsp;&nbsp;]"),
-                          true);
-    if (answer == prompts::answer::cancel
-        || (answer == prompts::answer::yes && !saveTo(document.path())))
+    if (!askToLeave(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
+                        + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]"),
+                    true))
         return false;
     m_recovery->discard();
     return true;
@@ -83,18 +92,19 @@ void MainWindow::commandZpNew(bool)
 {
     if (!closeDocument())
         return;
-    orderDocument::instance().startNew();
+    m_document.startNew();
     userState::instance().lastZp.clear();
     showDocument();
-    statusBar()->showMessage(tr("A new order was begun"));
+    tell(tr("A new order was begun"));
 }
 
 void MainWindow::commandZpOpen(bool)
 {
     if (!closeDocument())
         return;
-    const QString path = userPrompts().openFile(tr("Open File"), orderDocument::instance().folder(),
-                                                QStringLiteral("(*.xml)"));
+    const QString path =
+        userPrompts().openFile(tr("Open File"), m_document.folder(), QStringLiteral("(*.xml)"));
+    stayOpen();
     if (path.isEmpty())
         return;
     if (!QFileInfo::exists(path)) {
@@ -102,34 +112,28 @@ void MainWindow::commandZpOpen(bool)
         userPrompts().showErrors();
         return;
     }
-    orderDocument &document = orderDocument::instance();
-    const bool read = document.load(path, true);
-    userState::instance().lastZp = read ? path : QString();
-    showDocument();
-    userPrompts().showErrors();
-    if (!document.otherUser().isEmpty())
-        userPrompts().showInformation(
-            tr("The order %1 is open elsewhere, too: %2. Whoever saves last would replace what the "
-               "other one saved.")
-                .arg(native(path), document.otherUser().toHtmlEscaped()));
+    openFile(path);
+}
+
+void MainWindow::fileDropped(const QString &path)
+{
+    if (closeDocument())
+        openFile(path);
 }
 
 void MainWindow::openFile(const QString &path)
 {
-    if (!closeDocument())
-        return;
-    userState::instance().lastZp = orderDocument::instance().load(path, true) ? path : QString();
+    userState::instance().lastZp = m_document.load(path, true) ? path : QString();
     showDocument();
     userPrompts().showErrors();
 }
 
 void MainWindow::storeRecovery()
 {
-    orderDocument &document = orderDocument::instance();
-    if (!document.isModified() || !std::exchange(m_unstored, false))
+    if (!isModified())
         return;
     m_order->takeAttentions();
-    m_recovery->store(document.order(), document.path());
+    m_recovery->store(m_document.order(), m_document.path());
 }
 
 void MainWindow::offerRecovery()
@@ -143,132 +147,113 @@ void MainWindow::offerRecovery()
                 .arg(native(name), left.time.toString(QStringLiteral("dd.MM.yyyy hh:mm"))),
             false)
             == prompts::answer::yes
-        && orderDocument::instance().recover(left.file, left.order)) {
+        && m_document.recover(left.file, left.order)) {
         userState::instance().lastZp = left.order;
         showDocument();
-        orderDocument::instance().setModified(true);
-        showState();
+        setChanged();
         return;
     }
     // Turned down, it stays to be found.
-    const QString kept =
-        fileVersions::archive(left.file, programData::instance().config().backupPath());
+    const QString kept = fileVersions::archive(left.file, known().config().backupPath());
     if (kept.isEmpty())
         return;
     userPrompts().log(messages::done(tr("The unsaved order was put aside "), name, kept));
     m_recovery->discard();
 }
 
-bool MainWindow::saveTo(const QString &path)
+bool MainWindow::load()
 {
-    m_order->finishEditing();
-    orderDocument &document = orderDocument::instance();
-    if (path == document.path() && document.changedOnDisk()) {
-        enum
-        {
-            reload,
-            overwrite,
-            otherName
-        };
-        const std::optional<int> answer = userPrompts().decide(
-            tr("The file %1 was changed by another program since it was opened.").arg(native(path)),
-            {tr("Reload it and lose the changes here"), tr("Overwrite it"), tr("Save as")});
-        if (!answer)
-            return false;
-        if (*answer == otherName)
-            return saveAs();
-        if (*answer == reload) {
-            document.load(path, true);
-            showDocument();
-            userPrompts().showErrors();
-            return false;
-        }
-    }
+    const bool read = m_document.reload();
+    if (read)
+        showDocument();
+    return read;
+}
+
+bool MainWindow::write(const QString &path)
+{
     m_order->takeAttentions();
-    if (!document.save(path))
-        return false;
-    userState::instance().lastZp = path;
-    m_order->stack().clear();
+    return m_document.save(path);
+}
+
+void MainWindow::saved()
+{
+    userState::instance().lastZp = m_document.path();
     m_order->attentions()->document()->setModified(false);
     m_recovery->discard();
     refreshPreview();
-    showState();
+    showSums();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    statusBar()->showMessage(tr("Saved"));
-    return true;
 }
 
 bool MainWindow::saveAs()
 {
-    const QString &path = orderDocument::instance().path();
+    const QString &path = m_document.path();
     const QString proposed =
-        path.isEmpty()
-            ? paths::data(programData::instance().config().options.value(optionKey::fileNewZp))
-            : path;
+        path.isEmpty() ? paths::data(known().config().options.value(optionKey::fileNewZp)) : path;
     const QString chosen = userPrompts().saveFile(tr("Save to File"), proposed, xmlFilter());
     if (chosen.isEmpty() || !saveTo(chosen))
         return false;
     const QString page = reportPath(chosen);
-    if (!files::writeText(page, orderDocument::instance().report())) {
+    if (!files::writeText(page, m_document.report())) {
         userPrompts().showError(tr("The file %1 cannot be written").arg(native(page)));
         return true;
     }
-    statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
-    if (programData::instance().config().isOn(optionKey::openReportHtml))
+    tell(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
+    if (known().config().isOn(optionKey::openReportHtml))
         QDesktopServices::openUrl(QUrl::fromLocalFile(page));
     return true;
 }
 
 void MainWindow::commandZpSave(bool)
 {
-    const QString path = orderDocument::instance().path();
-    if (path.isEmpty())
+    if (m_document.path().isEmpty())
         saveAs();
     else
-        saveTo(path);
+        save();
 }
 
 void MainWindow::commandZpSaveAs(bool) { saveAs(); }
 
+QString MainWindow::closeQuestion() const
+{
+    return tr("Save order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
+           + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]");
+}
+
+// The other windows ask first, and any of them can keep the program open. After that the window
+// closes in any case: what could not be saved is offered at the next start.
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    m_order->finishEditing();
-    orderDocument &document = orderDocument::instance();
-    if (document.isModified() && document.path().isEmpty()) {
-        leaveUnsaved();
-    } else if (document.isModified()) {
-        const prompts::answer answer =
-            userPrompts().ask(tr("Save order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
-                                  + native(document.path()) + QLatin1String("&nbsp;&nbsp;]"),
-                              false);
-        // The window closes in any case: what could not be saved is offered at the next start.
-        if (answer == prompts::answer::yes && !saveTo(document.path()) && document.isModified())
-            leaveUnsaved();
-        else
-            m_recovery->discard();
+    finishEditing();
+    const std::vector<editWindow *> others = secondaryWindows();
+    if (!std::all_of(others.begin(), others.end(), [](editWindow *w) { return w->mayClose(); })) {
+        for (editWindow *window : others)
+            window->stayOpen();
+        event->ignore();
+        return;
     }
-    document.setModified(false);
-    if (m_config)
-        m_config->close();
-    if (m_firm)
-        m_firm->close();
-    if (m_bom)
-        m_bom->closeAll();
-    for (const auto &window : m_databases)
-        if (window)
-            window->close();
+    if (isModified() && m_document.path().isEmpty())
+        leaveUnsaved();
+    else if (isModified() && !askToLeave(closeQuestion(), closesWithCancel()))
+        leaveUnsaved();
+    else
+        m_recovery->discard();
+    for (editWindow *window : others)
+        window->closeAtEnd();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();
     pendingSysCommands::destroy();
+    m_order->attentions()->document()->setModified(false);
+    setClean();
     baseWindow::closeEvent(event);
 }
 
 void MainWindow::commandZpPrint(bool)
 {
-    QString proposed = orderDocument::instance().path();
+    QString proposed = m_document.path();
     if (proposed.isEmpty())
-        proposed = orderDocument::instance().folder() + QLatin1String("/order.xml");
+        proposed = m_document.folder() + QLatin1String("/order.xml");
     if (proposed.endsWith(QLatin1String(".xml")))
         proposed.chop(int(qstrlen(".xml")));
     const QString chosen =
@@ -285,14 +270,13 @@ bool MainWindow::printTo(const QString &path)
     userPrompts().log(messages::done(messages::printToFile(), text::fileNameOfPath(path), path));
     workProgress::scope work(progress(), tr("Printing"));
     m_order->takeAttentions();
-    m_preview->showReport(orderDocument::instance().report());
+    m_preview->showReport(m_document.report());
     m_previewIsOld = false;
-    const bool printed =
-        printPdf(m_preview, path, orderTitle(orderDocument::instance().order()), work.function());
+    const bool printed = printPdf(m_preview, path, orderTitle(m_document.order()), work.function());
     if (printed)
-        statusBar()->showMessage(tr("Printed to %1").arg(QDir::toNativeSeparators(path)));
+        tell(tr("Printed to %1").arg(QDir::toNativeSeparators(path)));
     else if (work.cancelled())
-        statusBar()->showMessage(tr("Printing was cancelled"));
+        tell(tr("Printing was cancelled"));
     else
         userPrompts().showError(tr("The file %1 cannot be written").arg(native(path)));
     return printed;
@@ -300,25 +284,23 @@ bool MainWindow::printTo(const QString &path)
 
 void MainWindow::commandArchiveDD(bool)
 {
-    const QString &path = orderDocument::instance().path();
-    const QString kept = fileVersions::archive(path, programData::instance().config().backupPath());
+    const QString &path = m_document.path();
+    const QString kept = fileVersions::archive(path, known().config().backupPath());
     if (kept.isEmpty())
         userPrompts().showError(tr("No copy of %1 could be made").arg(native(path)));
     else
         userPrompts().log(messages::done(tr("Archive "), text::fileNameOfPath(path), kept));
-    statusBar()->showMessage(
-        kept.isEmpty() ? QString() : tr("Archived as %1").arg(QDir::toNativeSeparators(kept)));
+    tell(kept.isEmpty() ? QString() : tr("Archived as %1").arg(QDir::toNativeSeparators(kept)));
 }
 
 void MainWindow::commandArchiveDatabase(bool)
 {
-    programData &known = programData::instance();
     int copies = 0;
     for (int kind = 0; kind < programData::databaseCount; ++kind) {
-        const QString &path = known.database(programData::databaseKind(kind)).filePath;
+        const QString &path = known().database(programData::databaseKind(kind)).filePath;
         if (path.isEmpty())
             continue;
-        const QString kept = fileVersions::archive(path, known.config().backupPath());
+        const QString kept = fileVersions::archive(path, known().config().backupPath());
         if (kept.isEmpty()) {
             userPrompts().showError(tr("No copy of %1 could be made").arg(native(path)));
             continue;
@@ -326,7 +308,5 @@ void MainWindow::commandArchiveDatabase(bool)
         ++copies;
         userPrompts().log(messages::done(tr("Archive "), text::fileNameOfPath(path), kept));
     }
-    statusBar()->showMessage(tr("%n database(s) archived", nullptr, copies));
+    tell(tr("%n database(s) archived", nullptr, copies));
 }
-
-// --- Editing

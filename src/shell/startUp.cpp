@@ -1,6 +1,6 @@
 #include "shell/startUp.h"
 
-#include "data/configStruct.h"
+#include "data/programData.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
@@ -13,6 +13,7 @@
 #include "util/translation.h"
 #include "util/userState.h"
 #include "window/dialogPrompts.h"
+#include "window/messageWindow.h"
 
 #include <QApplication>
 #include <QFile>
@@ -119,7 +120,7 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     paths::temporaryDir();
     settleDataFolder();
 
-    auto window = std::make_unique<MainWindow>();
+    auto window = std::make_unique<MainWindow>(programData::instance());
     window->show();
     cleanScript::run(cleanScript::ofProgram());
     dialog->finish(window.get());
@@ -133,6 +134,8 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
             QCoreApplication::translate("log", "The settings cannot be written "), store));
     listMissingLetters();
     // Over the main window, which has just come up.
+    if (errorsWindow::instance().isVisible())
+        errorsWindow::instance().showNow();
     userPrompts().showErrors();
     if (whenShown)
         whenShown(*window);

@@ -55,7 +55,7 @@ public:
     virtual QString saveFile(const QString &title, const QString &proposed, const QString &filter);
 
     // A line of HTML for the log window, or for the errors window, which showErrors() brings up
-    // when there are lines.
+    // when lines came since it was brought up last.
     virtual void log(const QString &html);
     virtual void listError(const QString &html);
     virtual void showErrors();

@@ -53,10 +53,16 @@ protected:
     {
         for (const windowAction<Window> &entry : table)
             if (QAction *made = addAction(entry.row))
-                connect(made, entry.row.checkable ? &QAction::toggled : &QAction::triggered,
-                        static_cast<Window *>(this), entry.slot);
+                connect(made, entry.row.checkable ? &QAction::toggled : &QAction::triggered, this,
+                        [this, slot = entry.slot](bool on) {
+                            beforeAction();
+                            (static_cast<Window *>(this)->*slot)(on);
+                        });
         giveMnemonics();
     }
+
+    // Called before the slot of any action.
+    virtual void beforeAction() {}
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;

@@ -155,6 +155,6 @@ void dialogPrompts::listError(const QString &html) { errorsWindow::instance().ap
 
 void dialogPrompts::showErrors()
 {
-    if (!errorsWindow::instance().text().isEmpty())
+    if (errorsWindow::instance().hasNews())
         errorsWindow::instance().showNow();
 }

@@ -43,6 +43,7 @@ messageWindow::messageWindow(const QString &name, const QString &title)
 void messageWindow::append(const QString &html)
 {
     m_text += html;
+    m_hasNews = true;
     if (isVisible())
         showRest();
 }
@@ -69,6 +70,7 @@ void messageWindow::showNow()
     show();
     raise();
     activateWindow();
+    m_hasNews = false;
     refresh();
 }
 
@@ -88,6 +90,7 @@ void messageWindow::commandClear(bool)
 {
     m_text.clear();
     m_shown = 0;
+    m_hasNews = false;
     m_view->clear();
     m_view->repaint();
 }

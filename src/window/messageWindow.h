@@ -13,6 +13,9 @@ public:
     // All that was appended since the start or the last Clear, as HTML.
     const QString &text() const { return m_text; }
 
+    // Whether anything arrived since the window was last brought up.
+    bool hasNews() const { return m_hasNews; }
+
     // Adds a fragment of HTML. What arrives while the window is hidden is shown when it opens.
     void append(const QString &html);
 
@@ -35,6 +38,7 @@ private:
 
     QTextEdit *m_view;
     QString m_text;
+    bool m_hasNews = false;
     int m_shown = 0; // characters of the text that the view has
 };
 

@@ -85,7 +85,7 @@ private:
                 dialog->reject();
         });
     }
-    kiv_mat_zpStruct &order() { return orderDocument::instance().order(); }
+    kiv_mat_zpStruct &order() { return m_window->document().order(); }
     orderItemStruct &firstLine() { return *order().orderItems.items.front(); }
 
     std::unique_ptr<testSupport::programFolder> m_folder;
@@ -106,8 +106,8 @@ void tst_bomWindows::init()
     config.backupPath();
     config.options.findOption("PATH_BACKUP")->value1 = m_folder->path("backup");
     QVERIFY(config.save(m_folder->path("_config/kiv_mat_config.xml")));
-    m_window = std::make_unique<MainWindow>();
-    m_window->action("zpEdit")->setChecked(true);
+    m_window = std::make_unique<MainWindow>(programData::instance());
+    m_window->action("edit")->setChecked(true);
     QCOMPARE(m_shown->listed, QString());
 }
 
@@ -115,7 +115,6 @@ void tst_bomWindows::cleanup()
 {
     m_window.reset();
     pendingSysCommands::discardAll();
-    orderDocument::instance().startNew();
     programData::instance().clear();
     m_shown.reset();
     m_folder.reset();
@@ -217,7 +216,7 @@ void tst_bomWindows::emptySetTakesAFile()
     m_folder->write("_files/boms.xml",
                     testSupport::document("kiv_mat_boms", "KIV_MAT_BOMS_1", "kiv_mat_boms.xsd",
                                           "<update>1</update><server_release>1</server_release>"));
-    m_window = std::make_unique<MainWindow>();
+    m_window = std::make_unique<MainWindow>(programData::instance());
     QCOMPARE(window().model()->rowCount(), 0);
     addList("first.xml", "X", "1", 2);
     QCOMPARE(bomTree::allFiles(window().model()).size(), 1);
@@ -273,6 +272,7 @@ void tst_bomWindows::linesOfAList()
                                  ->d_ktm.toUtf8();
     const QString path = writeList("lines.xml", "NONE-1", "2");
     Kiv_bomViewWindow &list = window().viewWindow(path);
+    list.showNow();
     const int widths[] = {50, 320, 150, 80, 80, 80, 150, 80, 80, 200, 80, 80, 250};
     QCOMPARE(list.model()->columnCount(), int(std::size(widths)));
     for (int column = 0; column < int(std::size(widths)); ++column)
@@ -335,6 +335,8 @@ void tst_bomWindows::insertFromTheDatabase()
     QCOMPARE(list.edited().materials.back()->d_ktm, known);
     list.commandUndo(false);
     QCOMPARE(int(list.edited().materials.size()), before);
+    QVERIFY(!list.isModified());
+    list.commandRedo(false);
     m_shown->nextAnswer = answer::cancel;
     list.close();
     QVERIFY(list.isVisible());
@@ -376,7 +378,7 @@ void tst_bomWindows::intoTheOrder()
     QCOMPARE(firstLine().quantity.replace(',', '.'), quantity);
     QCOMPARE(m_shown->listed.contains("NONE-1"), buttons.contains("go"));
     const bool changed = newLines > 0 || quantity != "25";
-    QCOMPARE(m_window->view().stack().undoCount(), size_t(changed));
+    QCOMPARE(m_window->stack().undoCount(), size_t(changed));
     if (!changed)
         return;
     m_window->commandZpUndo(false);
@@ -420,7 +422,7 @@ void tst_bomWindows::orderIsSent()
 
     m_shown->nextAnswer = answer::yes;
     m_window->commandZpSend(false);
-    QVERIFY(!orderDocument::instance().isModified());
+    QVERIFY(!m_window->isModified());
     const QStringList written = folder.entryList({"*.cmd"});
     QCOMPARE(written.size(), 1);
     const QString message = testSupport::read(folder.filePath(written.first()));

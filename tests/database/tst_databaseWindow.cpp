@@ -61,7 +61,7 @@ void tst_databaseWindow::init()
     known.loadConfiguration();
     known.loadFirm();
     known.loadDatabase(programData::warehouse);
-    m_window = std::make_unique<Kiv_mat_databaseWindow>(programData::warehouse);
+    m_window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
     m_window->show();
     m_window->commandEdit(true);
 }

@@ -105,7 +105,7 @@ void tst_materialWindow::init()
     firmStruct *firm = known.firm().manufacturers.append(std::make_unique<firmStruct>());
     firm->name = "Vishay";
     firm->status = statusWord::green;
-    m_window = std::make_unique<materialWindow>();
+    m_window = std::make_unique<materialWindow>(programData::instance());
 }
 
 void tst_materialWindow::cleanup()

@@ -56,7 +56,7 @@ private slots:
 
 private:
     orderView &view() { return m_window->view(); }
-    kiv_mat_zpStruct &order() { return orderDocument::instance().order(); }
+    kiv_mat_zpStruct &order() { return m_window->document().order(); }
     QAction *action(const char *name) { return m_window->action(name); }
     QString path() { return m_folder->path("_zp/zp_0.xml"); }
     // All texts of a column, from the records.
@@ -90,15 +90,14 @@ void tst_order::init()
     config.backupPath();
     config.options.findOption("PATH_BACKUP")->value1 = m_folder->path("backup");
     QVERIFY(config.save(m_folder->path("_config/kiv_mat_config.xml")));
-    m_window = std::make_unique<MainWindow>();
+    m_window = std::make_unique<MainWindow>(programData::instance());
     QCOMPARE(m_shown->listed, QString());
-    QVERIFY(!orderDocument::instance().isModified());
+    QVERIFY(!m_window->isModified());
 }
 
 void tst_order::cleanup()
 {
     m_window.reset();
-    orderDocument::instance().startNew();
     programData::instance().clear();
     m_shown.reset();
     m_folder.reset();
@@ -107,12 +106,12 @@ void tst_order::cleanup()
 void tst_order::openAsksFirst()
 {
     edit(0, orderTree::quantityColumn, 77);
-    QVERIFY(orderDocument::instance().isModified());
+    QVERIFY(m_window->isModified());
     m_shown->nextAnswer = answer::cancel;
     m_window->commandZpOpen(true);
     QVERIFY(m_shown->questions.last().startsWith("Save & close order [  " + path()));
-    QCOMPARE(orderDocument::instance().path(), path());
-    QCOMPARE(view().stack().undoCount(), size_t(1));
+    QCOMPARE(m_window->document().path(), path());
+    QCOMPARE(m_window->stack().undoCount(), size_t(1));
     QCOMPARE(order().orderItems.items[0]->quantity, QString("77"));
 
     // A missing file is listed, and the order stays.
@@ -124,7 +123,7 @@ void tst_order::openAsksFirst()
     m_shown->file = m_folder->write("bad.xml", testSupport::order("<x/>"));
     m_window->commandZpOpen(true);
     QVERIFY(!m_shown->errors.isEmpty());
-    QCOMPARE(orderDocument::instance().path(), QString());
+    QCOMPARE(m_window->document().path(), QString());
     QCOMPARE(view().lines()->rowCount(), 0);
     m_shown->file = path();
     m_window->commandZpOpen(true);
@@ -151,10 +150,10 @@ void tst_order::saveEndsTheHistory()
     edit(0, orderTree::quantityColumn, 77);
     edit(1, orderTree::descriptionColumn, QString("a & b"));
     m_window->commandZpUndo(true);
-    QVERIFY(action("zpUndo")->isEnabled() && action("zpRedo")->isEnabled());
+    QVERIFY(action("undo")->isEnabled() && action("redo")->isEnabled());
     m_window->commandZpSave(true);
-    QVERIFY(!action("zpUndo")->isEnabled() && !action("zpRedo")->isEnabled());
-    QVERIFY(!orderDocument::instance().isModified());
+    QVERIFY(!action("undo")->isEnabled() && !action("redo")->isEnabled());
+    QVERIFY(!m_window->isModified());
     QVERIFY(m_shown->logged.contains("Save file <b>zp_0.xml</b> ["));
     kiv_mat_zpStruct saved;
     QCOMPARE(loadZp(path(), &saved), 0);
@@ -176,7 +175,7 @@ void tst_order::newOrderHasNoFile()
     m_window->commandZpNew(true);
     QCOMPARE(m_shown->questions, QStringList());
     m_window = nullptr;
-    m_window = std::make_unique<MainWindow>();
+    m_window = std::make_unique<MainWindow>(programData::instance());
     m_shown->nextAnswer = answer::yes;
     m_window->offerRecovery();
     QCOMPARE(m_shown->questions.size(), 1);
@@ -190,7 +189,7 @@ void tst_order::saveAsWritesTheReport()
     m_shown->file = m_folder->path("orders/other.xml");
     edit(0, orderTree::nameColumn, QString("EDITED"));
     m_window->commandZpSaveAs(true);
-    QCOMPARE(orderDocument::instance().path(), m_shown->file);
+    QCOMPARE(m_window->document().path(), m_shown->file);
     QVERIFY(testSupport::read(m_folder->path("orders/other.html")).contains("EDITED"));
     QVERIFY(!testSupport::read(path()).contains("EDITED"));
     // Where nothing can be written, everything stays as it was.
@@ -198,8 +197,8 @@ void tst_order::saveAsWritesTheReport()
     m_shown->file = m_folder->path("orders/other.xml/below.xml");
     m_window->commandZpSaveAs(true);
     QCOMPARE(m_shown->errors.size(), 1);
-    QVERIFY(orderDocument::instance().isModified());
-    QCOMPARE(view().stack().undoCount(), size_t(1));
+    QVERIFY(m_window->isModified());
+    QCOMPARE(m_window->stack().undoCount(), size_t(1));
 }
 
 void tst_order::changedOnDisk_data()
@@ -257,7 +256,7 @@ void tst_order::closingAsks()
     kiv_mat_zpStruct saved;
     QCOMPARE(loadZp(path(), &saved), 0);
     QTEST(saved.orderItems.items[0]->quantity, "onDisk");
-    m_window = std::make_unique<MainWindow>();
+    m_window = std::make_unique<MainWindow>(programData::instance());
     m_window->offerRecovery();
     QCOMPARE(m_shown->questions.size(), 1);
 }
@@ -297,19 +296,19 @@ void tst_order::bulkEdits()
     const QStringList before = column(member);
     m_shown->nextAnswer = answer::yes;
     (m_window.get()->*command)(true); // cancelled
-    QCOMPARE(view().stack().undoCount(), size_t(0));
+    QCOMPARE(m_window->stack().undoCount(), size_t(0));
     QCOMPARE(m_shown->questions.last(), QString(QTest::currentDataTag()));
     QFETCH(QVariant, input);
     m_shown->input = input;
     (m_window.get()->*command)(true);
     QCOMPARE(column(member), QVector<QString>(before.size(), set).toList());
-    QCOMPARE(view().stack().undoCount(), size_t(1));
+    QCOMPARE(m_window->stack().undoCount(), size_t(1));
     m_window->commandZpUndo(true);
     QCOMPARE(column(member), before);
     // The order's report follows.
     m_window->commandZpRedo(true);
     m_window->refreshPreview();
-    QVERIFY(orderDocument::instance().report().contains(member == &orderItemStruct::unit ? "taśma"
+    QVERIFY(m_window->document().report().contains(member == &orderItemStruct::unit ? "taśma"
                                                                                          : set)
             || member == &orderItemStruct::rohsRequired || member == &orderItemStruct::unit);
 }
@@ -340,7 +339,7 @@ void tst_order::specialLines()
     QCOMPARE(last()->description, QString("SHIPMENT"));
     QCOMPARE(last()->wait, QDate::currentDate().toString("dd.MM.yyyy"));
     QCOMPARE(last()->index, QString::number(view().lines()->rowCount()));
-    while (action("zpUndo")->isEnabled())
+    while (action("undo")->isEnabled())
         m_window->commandZpUndo(true);
     QCOMPARE(view().lines()->rowCount(), before);
 
@@ -356,13 +355,13 @@ void tst_order::specialLines()
     m_shown->informations.clear();
     const QString shipment = column(&orderItemStruct::ktm).filter("SRV-000.10").value(0);
     const QString known = column(&orderItemStruct::ktm).first();
-    const size_t steps = view().stack().undoCount();
+    const size_t steps = m_window->stack().undoCount();
     const int lines = view().lines()->rowCount();
     m_window->appendToOrder({known, shipment, "no such KTM", known}, 5);
     QCOMPARE(m_shown->informations,
              QStringList("In Do can be only one entry SHIPMENT of KTM: " + shipment));
     QCOMPARE(view().lines()->rowCount(), lines + 2);
-    QCOMPARE(view().stack().undoCount(), steps + 1);
+    QCOMPARE(m_window->stack().undoCount(), steps + 1);
     QCOMPARE(last()->quantity, QString("5"));
     QCOMPARE(last()->wait, QDate::currentDate().addDays(14).toString("dd.MM.yyyy"));
 }
@@ -394,9 +393,9 @@ void tst_order::deleteAndSort()
     QStringList sorted = names;
     sorted.sort();
     QCOMPARE(column(&orderItemStruct::name), sorted);
-    const size_t steps = view().stack().undoCount();
+    const size_t steps = m_window->stack().undoCount();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-    QCOMPARE(view().stack().undoCount(), steps);
+    QCOMPARE(m_window->stack().undoCount(), steps);
     m_window->commandZpUndo(true);
     QCOMPARE(column(&orderItemStruct::name), names);
 }
@@ -501,7 +500,7 @@ void tst_order::attentions()
 {
     const QString before = view().attentions()->toPlainText();
     view().replaceAttentions("<p>in <b>bold</b></p>");
-    QVERIFY(orderDocument::instance().isModified());
+    QVERIFY(m_window->isModified());
     view().takeAttentions();
     QVERIFY2(order().attentions.contains("<b>bold</b>"), qPrintable(order().attentions));
     QVERIFY(!order().attentions.contains("style="));
@@ -536,15 +535,15 @@ void tst_order::options()
 
 void tst_order::locked()
 {
-    action("zpEdit")->setChecked(false);
+    action("edit")->setChecked(false);
     QVERIFY(view().attentions()->isReadOnly());
     QVERIFY(!action("allUnits")->isEnabled());
     QVERIFY(action("allUnits")->toolTip().contains("locked"));
-    QVERIFY(action("zpSave")->isEnabled() && action("allSum")->isEnabled());
+    QVERIFY(action("save")->isEnabled() && action("allSum")->isEnabled());
     const int lines = view().lines()->rowCount();
     m_window->appendToOrder({"317121-03.03-00008"}, 1);
     QCOMPARE(view().lines()->rowCount(), lines);
-    action("zpEdit")->setChecked(true);
+    action("edit")->setChecked(true);
     QVERIFY(action("allUnits")->isEnabled());
 }
 
@@ -572,21 +571,20 @@ void tst_order::recovered()
 
 void tst_order::otherProgram()
 {
-    QCOMPARE(orderDocument::instance().otherUser(), QString());
+    QCOMPARE(m_shown->listed, QString());
     // A lock of a process that is no more is void.
     m_shown->file = m_folder->path("second.xml");
     QVERIFY(QFile::copy(path(), m_shown->file));
     m_folder->write(".second.xml.lock",
                     "999999999\nKivZP\n" + QSysInfo::machineHostName().toUtf8() + "\n");
     m_window->commandZpOpen(true);
-    QCOMPARE(orderDocument::instance().otherUser(), QString());
+    QCOMPARE(m_shown->listed, QString());
     m_shown->file = m_folder->path("third.xml");
     QVERIFY(QFile::copy(path(), m_shown->file));
     QLockFile other(m_folder->path(".third.xml.lock"));
     QVERIFY(other.lock());
     m_window->commandZpOpen(true);
-    QVERIFY(!orderDocument::instance().otherUser().isEmpty());
-    QCOMPARE(m_shown->informations.size(), 1);
+    QVERIFY(m_shown->listed.contains("third.xml"));
 }
 
 void tst_order::versions()
@@ -610,7 +608,8 @@ void tst_order::versions()
 
 void tst_order::configuration()
 {
-    configWindow window;
+    configWindow window(programData::instance());
+    window.showNow();
     const auto option = [&window](const QString &key) {
         for (int row = 0; row < window.options()->rowCount(); ++row)
             if (window.options()->item(row, 1)->whatsThis() == key)

@@ -73,7 +73,7 @@ void tst_mainWindow::stagesAdvanceTheSplash()
     splash::setProgress(0, 10);
     splash::show();
     QCoreApplication::processEvents();
-    const MainWindow window;
+    const MainWindow window(programData::instance());
     splash::hold(nullptr);
     splash::setProgress(3, 4);
     QCOMPARE(dialog.seen.join(' '), QString("0/10 1/9 2/9 3/9 4/9 5/9 6/9 7/9 8/9 9/9"));
@@ -87,7 +87,7 @@ void tst_mainWindow::stagesAdvanceTheSplash()
 
 void tst_mainWindow::actionsAreReachable()
 {
-    const MainWindow window;
+    const MainWindow window(programData::instance());
     QCOMPARE(window.windowTitle(), QString("Order"));
 
     QSet<QString> shortcuts;
@@ -105,7 +105,7 @@ void tst_mainWindow::actionsAreReachable()
 
 void tst_mainWindow::printAsksForAFile()
 {
-    MainWindow window;
+    MainWindow window(programData::instance());
     m_shown->logged.clear();
     window.commandZpPrint(true);
     QCOMPARE(m_shown->proposed, m_folder->path("_zp/zp_0.pdf"));

@@ -15,7 +15,6 @@
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
-#include "order/orderDocument.h"
 #include "order/orderView.h"
 #include "shell/startupDialog.h"
 #include "util/userState.h"
@@ -135,7 +134,8 @@ QWidget *showConfig(MainWindow &window)
 
 QWidget *showFirms(MainWindow &, firmOperations::firmKind kind)
 {
-    auto *firms = new firmWindow;
+    auto *firms = new firmWindow(programData::instance());
+    firms->showNow();
     firms->findChild<QTabWidget *>()->setCurrentIndex(kind);
     firms->showNow();
     myTreeView *view = firms->view(kind);
@@ -205,7 +205,7 @@ QWidget *showAddMaterial(MainWindow &window)
 // One with several manufacturers and suppliers, and with files.
 QWidget *showMaterial(MainWindow &window)
 {
-    auto *editor = new materialWindow(&window);
+    auto *editor = new materialWindow(programData::instance(), &window);
     programData &known = programData::instance();
     known.config().options.findOption(QStringLiteral("SERVER_NAME"))->value1 =
         QStringLiteral("files.example.com");
@@ -225,7 +225,7 @@ QWidget *showLines(MainWindow &window)
 QWidget *showRichText(MainWindow &window)
 {
     auto *dialog = new richtexteditDialog(&window);
-    dialog->setHtml(orderDocument::instance().order().attentions);
+    dialog->setHtml(window.document().order().attentions);
     dialog->show();
     return dialog;
 }
@@ -290,7 +290,7 @@ int main(int argc, char **argv)
     installPrompts(&shown);
     userState::instance().lastZp = QStringLiteral("_zp/zp_0.xml");
 
-    MainWindow window;
+    MainWindow window(programData::instance());
     window.show();
     int code = QDir().mkpath(out.path()) ? 0 : 3;
     for (const picture &one : pictures) {

@@ -1,0 +1,410 @@
+#include "window/editWindow.h"
+
+#include "commands/cellClipboard.h"
+#include "commands/editCommands.h"
+#include "data/programData.h"
+#include "tree/myTreeView.h"
+#include "util/messages.h"
+#include "util/prompts.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+
+constexpr int storeEveryMs = 60000;
+
+QString native(const QString &path) { return QDir::toNativeSeparators(path).toHtmlEscaped(); }
+
+} // namespace
+
+editWindow::editWindow(const QString &name, programData &known, QWidget *parent)
+    : baseWindow(name, parent)
+    , m_known(known)
+    , m_changed(new QLabel(tr("changed, not saved"), this))
+    , m_storing(new QTimer(this))
+{
+    m_changed->setObjectName(QStringLiteral("changed"));
+    statusBar()->addPermanentWidget(m_changed);
+    m_changed->hide();
+    m_storing->setSingleShot(true);
+    m_storing->setInterval(storeEveryMs);
+    connect(m_storing, &QTimer::timeout, this, &editWindow::storeRecovery);
+}
+
+editWindow::~editWindow()
+{
+    m_stack->changed = nullptr;
+    m_stack->clear();
+    // An editor that is still open commits when its view goes.
+    for (const myTreeView *view : m_views)
+        modelOf(view)->detach();
+}
+
+void editWindow::followHistory()
+{
+    setAcceptDrops(takesFiles());
+    m_stack = std::make_unique<commandStack>(action("undo"), action("redo"));
+    m_stack->changed = [this] { showState(); };
+}
+
+myModel *editWindow::modelOf(const myTreeView *view)
+{
+    return static_cast<myModel *>(view->model());
+}
+
+myTreeView *editWindow::addView(const QString &accessibleName, const char *name, QWidget *parent)
+{
+    auto *model = new myModel(this);
+    recordEdits(model, m_stack.get());
+    auto *view = new myTreeView(parent);
+    view->setObjectName(QLatin1String(name));
+    view->setAccessibleName(accessibleName);
+    view->setModel(model);
+    view->header()->setObjectName(QLatin1String(name) + QLatin1String("Header"));
+    watchView(view);
+    return view;
+}
+
+void editWindow::watchView(myTreeView *view)
+{
+    connect(modelOf(view), &myModel::sorted, this, &editWindow::clearCommands);
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { updateActions(); });
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { updateActions(); });
+    m_views.push_back(view);
+}
+
+// --- State
+// ----------------------------------------------------------------------------------------
+
+bool editWindow::isModified() const { return m_stack->state() != m_clean; }
+
+void editWindow::setClean()
+{
+    m_clean = 0;
+    m_givenUp = false;
+    m_stack->clear();
+}
+
+void editWindow::setChanged()
+{
+    m_clean.reset();
+    m_stack->clear();
+}
+
+// Without its history a changed document has no way back to what the file holds.
+void editWindow::clearCommands()
+{
+    if (isModified())
+        setChanged();
+    else
+        setClean();
+}
+
+void editWindow::showState()
+{
+    const bool modified = isModified();
+    setWindowTitle(title() + (modified ? QLatin1String(" *") : QLatin1String()));
+    m_changed->setVisible(modified);
+    if (modified && !m_storing->isActive())
+        m_storing->start();
+    updateActions();
+}
+
+void editWindow::tell(const QString &text) { statusBar()->showMessage(text); }
+
+void editWindow::finishEditing()
+{
+    for (myTreeView *view : m_views)
+        view->finishEditing();
+}
+
+// --- Lock
+// -----------------------------------------------------------------------------------------
+
+QString editWindow::forbidden(QLatin1String option) const
+{
+    return tr("the configuration forbids it: %1 is NIE").arg(option);
+}
+
+QString editWindow::lockedReason() const
+{
+    if (mayUnlock())
+        return tr("editing is locked");
+    return fault().isEmpty() ? forbidden(editOption()) : fault();
+}
+
+bool editWindow::mayUnlock() const
+{
+    const QLatin1String option = editOption();
+    return fault().isEmpty() && (option.size() == 0 || !m_known.isSwitchedOff(option));
+}
+
+void editWindow::setUnlocked(bool wanted)
+{
+    if (QAction *edit = action("edit")) {
+        setAvailable("edit", mayUnlock(), lockedReason());
+        const QSignalBlocker once(edit);
+        edit->setChecked(wanted && mayUnlock());
+    }
+    commandEdit(wanted);
+}
+
+void editWindow::commandEdit(bool on)
+{
+    const bool before = std::exchange(m_locked, !on || !mayUnlock());
+    for (myTreeView *view : m_views)
+        view->setEditingLocked(m_locked);
+    lockChanged();
+    claimFile();
+    showState();
+    if (before != m_locked)
+        tell(m_locked ? tr("Editing is locked") : tr("Editing is allowed"));
+}
+
+bool editWindow::refuseWhileLocked()
+{
+    if (m_locked)
+        tell(tr("Editing is locked"));
+    return m_locked;
+}
+
+void editWindow::allowWhenUnlocked(std::initializer_list<const char *> names, bool otherwise,
+                                   const QString &whyNot)
+{
+    for (const char *name : names)
+        setAvailable(name, !m_locked && otherwise, m_locked ? lockedReason() : whyNot);
+}
+
+// Who only reads claims nothing.
+void editWindow::claimFile()
+{
+    const QString before = m_fileLock.otherUser();
+    m_fileLock.claim(m_locked ? QString() : filePath());
+    const QString &other = m_fileLock.otherUser();
+    if (other.isEmpty() || other == before)
+        return;
+    if (!isVisible()) {
+        userPrompts().listError(
+            messages::failed(tr("The file is open elsewhere, too "), filePath(), other));
+        return;
+    }
+    userPrompts().showInformation(
+        tr("The file %1 is open elsewhere, too: %2. Whoever saves last would replace what the "
+           "other one saved.")
+            .arg(native(filePath()), other.toHtmlEscaped()));
+}
+
+// --- History
+// --------------------------------------------------------------------------------------
+
+void editWindow::push(std::unique_ptr<command> change, const QString &what)
+{
+    if (!change)
+        return;
+    m_stack->push(std::move(change), what);
+    historyMoved();
+    tell(what);
+}
+
+void editWindow::tellHistory(const QString &form, const QString &what)
+{
+    historyMoved();
+    if (!what.isNull())
+        tell(form.arg(what));
+}
+
+void editWindow::commandUndo(bool)
+{
+    if (!refuseWhileLocked())
+        tellHistory(tr("Undone: %1"), m_stack->undo());
+}
+
+void editWindow::commandRedo(bool)
+{
+    if (!refuseWhileLocked())
+        tellHistory(tr("Done again: %1"), m_stack->redo());
+}
+
+// --- Cells
+// ----------------------------------------------------------------------------------------
+
+myTreeView *editWindow::currentView() const
+{
+    for (myTreeView *view : m_views)
+        if (view->hasFocus())
+            return view;
+    return m_views.front();
+}
+
+void editWindow::commandCopyCells(bool)
+{
+    tell(tr("%n cell(s) copied", nullptr, cellClipboard::copy(currentView())));
+}
+
+void editWindow::commandPasteCells(bool)
+{
+    if (refuseWhileLocked())
+        return;
+    const int changed = cellClipboard::paste(
+        currentView(),
+        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste")); }, page());
+    tell(tr("%n cell(s) pasted", nullptr, changed));
+}
+
+void editWindow::commandFind(bool)
+{
+    const auto text = userPrompts().inputText(tr("Find"), tr("Text in any column"), m_wanted);
+    if (!text || text->isEmpty())
+        return;
+    m_wanted = *text;
+    commandFindNext(false);
+}
+
+void editWindow::commandFindNext(bool)
+{
+    if (m_wanted.isEmpty()) {
+        commandFind(false);
+        return;
+    }
+    myTreeView *view = currentView();
+    if (view->findNext(m_wanted))
+        tell(tr("Found in line %1").arg(view->currentIndex().row() + 1));
+    else
+        tell(tr("No line holds %1").arg(m_wanted));
+}
+
+// --- Saving
+// ---------------------------------------------------------------------------------------
+
+// What another program wrote is neither written over nor read unasked. True: overwrite it.
+bool editWindow::settleOtherVersion()
+{
+    if (filePath().isEmpty() || fileState::of(filePath()) == onDisk())
+        return true;
+    enum
+    {
+        reload,
+        overwrite,
+        otherName
+    };
+    QStringList answers{tr("Reload it and lose the changes here"), tr("Overwrite it")};
+    if (canSaveAs())
+        answers.append(tr("Save as"));
+    const std::optional<int> answer =
+        userPrompts().decide(tr("The file %1 was changed by another program since it was opened.")
+                                 .arg(native(filePath())),
+                             answers);
+    if (answer == reload) {
+        load();
+        userPrompts().showErrors();
+    } else if (answer == otherName) {
+        saveAs();
+    }
+    return answer == overwrite;
+}
+
+bool editWindow::saveTo(const QString &path)
+{
+    finishEditing();
+    if (!fault().isEmpty()) {
+        tell(fault());
+        return false;
+    }
+    if ((path == filePath() && !settleOtherVersion()) || !write(path))
+        return false;
+    onDisk() = fileState::of(path);
+    setClean();
+    claimFile();
+    tell(tr("Saved"));
+    saved();
+    showState();
+    return true;
+}
+
+bool editWindow::save() { return saveTo(filePath()); }
+
+void editWindow::commandSave(bool) { save(); }
+
+// --- Closing
+// --------------------------------------------------------------------------------------
+
+void editWindow::showNow()
+{
+    if (!isVisible())
+        begin();
+    show();
+    raise();
+    activateWindow();
+}
+
+bool editWindow::askToLeave(const QString &question, bool withCancel)
+{
+    switch (userPrompts().ask(question, withCancel)) {
+    case prompts::answer::yes:
+        save();
+        return !isModified();
+    case prompts::answer::no:
+        m_givenUp = true;
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool editWindow::mayClose()
+{
+    finishEditing();
+    return m_givenUp || !isModified() || askToLeave(closeQuestion(), closesWithCancel());
+}
+
+bool editWindow::discard()
+{
+    setClean();
+    return true;
+}
+
+void editWindow::closeAtEnd()
+{
+    m_programEnds = true;
+    close();
+}
+
+void editWindow::commandClose(bool) { close(); }
+
+void editWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_programEnds && (!mayClose() || (m_givenUp && !discard()))) {
+        stayOpen();
+        event->ignore();
+        return;
+    }
+    m_givenUp = false;
+    closed();
+    m_fileLock.claim({});
+    baseWindow::closeEvent(event);
+}
+
+// --- Files dropped
+// --------------------------------------------------------------------------------
+
+void editWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (takesFiles() && urls.size() == 1 && urls.first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void editWindow::dropEvent(QDropEvent *event)
+{
+    fileDropped(event->mimeData()->urls().first().toLocalFile());
+}

@@ -1,0 +1,223 @@
+// A window in which a document is edited: its undo history, views, lock and clean state; saving,
+// also over what another program wrote meanwhile; the question before it closes; what is dropped on
+// it. A window of its own kind says what its document is and which actions it has.
+#pragma once
+
+#include "commands/commandStack.h"
+#include "data/documentSaving.h"
+#include "util/fileLock.h"
+#include "window/baseWindow.h"
+
+#include <optional>
+
+class QLabel;
+class QTimer;
+class htmlView;
+class myModel;
+class myTreeView;
+class programData;
+
+// The actions that windows share, for their tables.
+namespace usualActions {
+inline constexpr actionRow save{"save",
+                                QT_TRANSLATE_NOOP("actions", "File"),
+                                QT_TRANSLATE_NOOP("actions", "Save"),
+                                "action_save",
+                                "Ctrl+S",
+                                nullptr,
+                                true};
+inline constexpr actionRow close{"close",        "File",   QT_TRANSLATE_NOOP("actions", "Close"),
+                                 "action_close", "Ctrl+W", nullptr};
+inline constexpr actionRow undo{"undo",
+                                QT_TRANSLATE_NOOP("actions", "Edit"),
+                                QT_TRANSLATE_NOOP("actions", "Undo"),
+                                "action_undo",
+                                "Ctrl+Z",
+                                nullptr,
+                                true};
+inline constexpr actionRow redo{
+    "redo", "Edit", QT_TRANSLATE_NOOP("actions", "Redo"), "action_redo", "Ctrl+Y", nullptr, true};
+inline constexpr actionRow copyCells{
+    "copyCells",   "Edit",   QT_TRANSLATE_NOOP("actions", "Copy cells"),
+    "action_copy", "Ctrl+C", QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")};
+inline constexpr actionRow pasteCells{
+    "pasteCells",
+    "Edit",
+    QT_TRANSLATE_NOOP("actions", "Paste cells"),
+    "action_paste",
+    "Ctrl+V",
+    QT_TRANSLATE_NOOP("actions", "Paste text into the cells from the current one on")};
+inline constexpr actionRow findNext{
+    "findNext",         "Edit", QT_TRANSLATE_NOOP("actions", "Find next"),
+    "action_find_next", "F3",   nullptr};
+inline constexpr actionRow fileSeparator{nullptr, "File", nullptr, nullptr, nullptr, nullptr, true};
+inline constexpr actionRow editSeparator{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, true};
+
+// The checkable lock, with what it allows.
+constexpr actionRow edit(const char *toolTip)
+{
+    return {"edit", "Edit", QT_TRANSLATE_NOOP("actions", "Edit"), "action_edit", "Ctrl+E", toolTip,
+            true,   true};
+}
+} // namespace usualActions
+
+class editWindow : public baseWindow
+{
+    Q_OBJECT
+public:
+    ~editWindow() override;
+
+    commandStack &stack() { return *m_stack; }
+    programData &known() const { return m_known; }
+
+    // Whether anything differs from what was loaded or saved last; undoing all of it counts.
+    virtual bool isModified() const;
+    bool isLocked() const { return m_locked; }
+
+    // Shows the window in front; one that was closed begins with what its file holds.
+    void showNow();
+
+    // Writes the document. False, told to the user, when it could not be or the user thought
+    // better of it.
+    bool save();
+
+    // Whether the window may close: asks about changes, and saves them when the user says so. What
+    // the user gives up goes when the window closes, and is kept by stayOpen() when it will not.
+    virtual bool mayClose();
+    void stayOpen() { m_givenUp = false; }
+    // Closes without a question, because the program ends.
+    void closeAtEnd();
+
+    // Locks or unlocks as the configuration and the document allow.
+    void setUnlocked(bool wanted);
+
+public slots:
+    void commandSave(bool);
+    void commandClose(bool);
+    void commandEdit(bool on);
+    void commandUndo(bool);
+    void commandRedo(bool);
+    void commandCopyCells(bool);
+    void commandPasteCells(bool);
+    void commandFind(bool);
+    void commandFindNext(bool);
+    // Forgets the history, because rows moved that it knows by number; changes stay changes.
+    void clearCommands();
+    // Tells something in the status bar.
+    void tell(const QString &text);
+
+protected:
+    editWindow(const QString &name, programData &known, QWidget *parent = nullptr);
+
+    // The window's table, which has "undo" and "redo", and "edit" where the window can be locked.
+    template <class Window, size_t Count>
+    void addActions(const windowAction<Window> (&table)[Count])
+    {
+        baseWindow::addActions(table);
+        followHistory();
+    }
+
+    // A tree whose edits are steps of the history. Further columns, hints and menus are the
+    // window's.
+    myTreeView *addView(const QString &accessibleName, const char *name, QWidget *parent);
+    // The same for a tree that was made elsewhere, over a model whose edits are recorded.
+    void watchView(myTreeView *view);
+    static myModel *modelOf(const myTreeView *view);
+
+    // --- What a window says of its document ---
+
+    // The file; empty when there is none.
+    virtual QString filePath() const = 0;
+    virtual QString title() const = 0;
+    // Writes the document; false, told to the user, when that failed.
+    virtual bool write(const QString &path) = 0;
+    // Shows the document as the file has it now, with setClean(). False, told to the user, when it
+    // cannot be read.
+    virtual bool load() = 0;
+    // What a window that was closed shows first.
+    virtual void begin() { load(); }
+    // Why the document cannot be edited whatever the configuration says; empty when it can.
+    virtual QString fault() const { return {}; }
+    // The option that allows editing; none allows it.
+    virtual QLatin1String editOption() const { return {}; }
+    // What more there is to tell of an option that does not.
+    virtual QString forbidden(QLatin1String option) const;
+    virtual QString closeQuestion() const = 0;
+    virtual bool closesWithCancel() const { return true; }
+    // Takes back what the user gave up; false keeps the window open.
+    virtual bool discard();
+    // Saves under another name; windows that cannot have no such answer among theirs.
+    virtual bool saveAs() { return false; }
+    virtual bool canSaveAs() const { return false; }
+    virtual void saved() {}
+    // After the window closed with nothing unsaved.
+    virtual void closed() { setClean(); }
+    // The file as it was when it was read or written last.
+    virtual fileState &onDisk() { return m_onDisk; }
+    // After a step was done, undone or done again, and before it is told.
+    virtual void historyMoved() {}
+    // After the window was locked or unlocked.
+    virtual void lockChanged() {}
+    // After every change, also of the lock or the selection: which actions make sense.
+    virtual void updateActions() {}
+    // The tree that cells are copied from and found in: the one with the focus, else the first.
+    virtual myTreeView *currentView() const;
+    virtual htmlView *page() { return nullptr; }
+    // Files that are dropped, if the window takes any.
+    virtual bool takesFiles() const { return false; }
+    virtual void fileDropped(const QString &) {}
+    // Writes unsaved work aside; called each minute in which something changed.
+    virtual void storeRecovery() {}
+
+    // --- What it does with it ---
+
+    // Takes what stands in open editors.
+    void finishEditing();
+    // One step, already applied; null is none.
+    void push(std::unique_ptr<command> change, const QString &what);
+    // The document is as its file has it, and the history empty.
+    void setClean();
+    // It is not, and there is no way back to it.
+    void setChanged();
+    // Says in the status bar that editing is locked when it is.
+    bool refuseWhileLocked();
+    // Why actions that change something are disabled.
+    QString lockedReason() const;
+    // Disables actions while editing is locked, or while something else is missing.
+    void allowWhenUnlocked(std::initializer_list<const char *> names, bool otherwise = true,
+                           const QString &whyNot = {});
+    // Writes to a path; the document's own is checked for changes of other programs first.
+    bool saveTo(const QString &path);
+    // Asks a question of unsaved changes, as mayClose() does.
+    bool askToLeave(const QString &question, bool withCancel);
+    // Where somebody else has the document open: who.
+    const QString &otherUser() const { return m_fileLock.otherUser(); }
+    // Title, marks of change, actions.
+    void showState();
+    bool programEnds() const { return m_programEnds; }
+
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void beforeAction() override { finishEditing(); }
+
+private:
+    void followHistory();
+    void tellHistory(const QString &form, const QString &what);
+    bool settleOtherVersion();
+    void claimFile();
+    bool mayUnlock() const;
+
+    programData &m_known;
+    std::unique_ptr<commandStack> m_stack;
+    std::optional<quint64> m_clean = 0; // the history's state that the file has, if it still can
+    std::vector<myTreeView *> m_views;
+    fileState m_onDisk;
+    fileLock m_fileLock;
+    QLabel *m_changed;
+    QTimer *m_storing;
+    QString m_wanted; // what is searched
+    bool m_locked = false;
+    bool m_givenUp = false;
+    bool m_programEnds = false;
+};
