@@ -111,11 +111,11 @@ void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &data
             copy->groups.back()->name = group->name;
         }
         for (const auto &material : group->items) {
-            mine.groups.back()->append(copyOf(*material));
+            mine.groups.back()->append(material->copy());
             if (++number % 10 == 0)
-                other.groups.back()->append(copyOf(*material))->d_description += QLatin1Char('x');
+                other.groups.back()->append(material->copy())->d_description += QLatin1Char('x');
             else
-                other.groups.back()->append(copyOf(*material));
+                other.groups.back()->append(material->copy());
         }
     }
     // The texts of the two are their own, as when they come from two files.

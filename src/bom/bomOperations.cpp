@@ -65,6 +65,26 @@ bool isTakenOnce(const QString &ktm)
     return orderOperations::isShipment(ktm) || ktm == orderOperations::pcbKtm();
 }
 
+class recordTarget final : public orderTarget
+{
+public:
+    explicit recordTarget(kiv_mat_zpStruct *order)
+        : m_order(order)
+    {
+    }
+    void setQuantity(int line, const QString &quantity) override
+    {
+        m_order->orderItems.items[size_t(line)]->quantity = quantity;
+    }
+    void append(std::unique_ptr<orderItemStruct> line) override
+    {
+        m_order->orderItems.append(std::move(line));
+    }
+
+private:
+    kiv_mat_zpStruct *m_order;
+};
+
 } // namespace
 
 bool readBom(const QString &path, kiv_mat_bomStruct *bom, QString *error)
@@ -235,15 +255,21 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
     return plan;
 }
 
-int apply(orderPlan plan, kiv_mat_zpStruct *order)
+int apply(orderPlan plan, orderTarget &target)
 {
     for (orderChange &change : plan.changes) {
         if (change.line >= 0)
-            order->orderItems.items[size_t(change.line)]->quantity = change.quantity;
+            target.setQuantity(change.line, change.quantity);
         else
-            order->orderItems.append(std::move(change.added));
+            target.append(std::move(change.added));
     }
     return int(plan.changes.size());
+}
+
+int apply(orderPlan plan, kiv_mat_zpStruct *order)
+{
+    recordTarget target(order);
+    return apply(std::move(plan), target);
 }
 
 } // namespace bomOperations

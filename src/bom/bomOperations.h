@@ -130,7 +130,22 @@ struct orderPlan
 // PCB) are never doubled. Amounts of nothing make no change.
 orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
                  const QDate &wait);
-// Carries out the changes on the record itself; returns how many there were.
+
+// Where a plan is carried out: on the order alone, or in a window, which keeps its rows and its
+// undo history in step.
+class orderTarget
+{
+public:
+    orderTarget() = default;
+    orderTarget(const orderTarget &) = delete;
+    orderTarget &operator=(const orderTarget &) = delete;
+    virtual ~orderTarget() = default;
+
+    virtual void setQuantity(int line, const QString &quantity) = 0;
+    virtual void append(std::unique_ptr<orderItemStruct> line) = 0;
+};
+// Return the number of changes carried out.
+int apply(orderPlan plan, orderTarget &target);
 int apply(orderPlan plan, kiv_mat_zpStruct *order);
 
 } // namespace bomOperations

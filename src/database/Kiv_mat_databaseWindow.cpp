@@ -21,6 +21,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -262,7 +263,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &parent, int first, int last) {
-                if (QStandardItem *group = m_model->itemFromIndex(parent))
+                if (QStandardItem *group = m_changing ? nullptr : m_model->itemFromIndex(parent))
                     for (int row = first; row <= last; ++row)
                         filterRow(group, row);
             });
@@ -477,7 +478,10 @@ void Kiv_mat_databaseWindow::commandUndo(bool)
         statusBar()->showMessage(tr("Editing locked"));
         return;
     }
-    const QString what = m_stack->undo();
+    const QString what = [this] {
+        const QScopedValueRollback<bool> changing(m_changing, true);
+        return m_stack->undo();
+    }();
     changed();
     applyFilter();
     statusBar()->showMessage(tr("Undone: %1").arg(what));
@@ -489,7 +493,10 @@ void Kiv_mat_databaseWindow::commandRedo(bool)
         statusBar()->showMessage(tr("Editing locked"));
         return;
     }
-    const QString what = m_stack->redo();
+    const QString what = [this] {
+        const QScopedValueRollback<bool> changing(m_changing, true);
+        return m_stack->redo();
+    }();
     changed();
     applyFilter();
     statusBar()->showMessage(tr("Done again: %1").arg(what));
@@ -536,7 +543,7 @@ void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
 {
     m_copied.clear();
     for (const materialStruct *material : selectedMaterials())
-        m_copied.push_back(copyOf(*material));
+        m_copied.push_back(material->copy());
     updateActions();
     statusBar()->showMessage(tr("%n material(s) copied", nullptr, int(m_copied.size())));
 }
@@ -556,7 +563,7 @@ void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
     std::vector<std::unique_ptr<command>> members;
     int withoutKtm = 0;
     for (const auto &material : m_copied) {
-        auto copy = copyOf(*material);
+        auto copy = material->copy();
         // A KTM stands for one material.
         if (known.find(copy->d_ktm)) {
             copy->d_ktm.clear();

@@ -159,6 +159,7 @@ private:
     QString m_statusFilter;
     bool m_editedFilter = false;
     bool m_modified = false;
+    bool m_changing = false; // a step puts rows in: the filter looks at them once it is done
     int m_shownCount = 0;
     int m_filterGroup = -1; // the group from which a filter in slices goes on
 };

@@ -8,6 +8,7 @@
 #include "database/cpvOperations.h"
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
+#include "database/databaseRowsTarget.h"
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
@@ -24,6 +25,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QUrl>
 
@@ -62,15 +64,6 @@ private:
     databaseTree::rows *m_rows;
     std::vector<materialChange> m_changes;
 };
-
-// A material of mine as it is once the listed fields of the other one are taken over.
-std::unique_ptr<materialStruct> merged(const materialDifference &difference)
-{
-    auto material = copyOf(*difference.mine);
-    for (int field : difference.fields)
-        comparedFields()[size_t(field)].take(*material, *difference.other);
-    return material;
-}
 
 } // namespace
 
@@ -311,38 +304,12 @@ void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &sel
                                       bool deleteAbsent, const QString &what)
 {
     const changeBatch batch;
-    std::vector<std::unique_ptr<command>> members;
-    const auto groupNamed = [this, &members](const d_groupStruct &like) -> QStandardItem * {
-        for (int row = 0; row < m_model->rowCount(); ++row)
-            if (databaseTree::rows::groupOf(m_model->item(row))->name == like.name)
-                return m_model->item(row);
-        auto group = std::make_unique<d_groupStruct>();
-        group->name = like.name;
-        group->cpv = like.cpv;
-        members.push_back(
-            std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(group))));
-        return m_model->item(m_model->rowCount() - 1);
-    };
-    for (const materialDifference &difference : selected) {
-        if (difference.kind == materialDifference::added) {
-            members.push_back(std::make_unique<appendItems>(
-                groupNamed(*difference.otherGroup), m_rows->makeRow(copyOf(*difference.other))));
-            continue;
-        }
-        if (difference.kind == materialDifference::absent && !deleteAbsent)
-            continue;
-        m_model->fetch(m_rows->groupItem(difference.myGroup));
-        myItem::myItemStandard *first = m_rows->find(difference.mine);
-        if (!first)
-            continue;
-        if (difference.kind == materialDifference::absent)
-            members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
-        else
-            members.push_back(std::make_unique<changeRow>(first->parent(), first->row(),
-                                                          m_rows->makeRow(merged(difference))));
-    }
-    if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members)), what);
+    const QScopedValueRollback<bool> changing(m_changing, true);
+    databaseRowsTarget target(m_model, m_rows.get());
+    carryOut(selected, deleteAbsent ? absentOnes::remove : absentOnes::keep, m_rows->database(),
+             target);
+    if (auto step = target.step())
+        push(std::move(step), what);
 }
 
 void Kiv_mat_databaseWindow::commandMerge(bool)
@@ -375,7 +342,6 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
         return;
     }
     QList<QStringList> shown;
-    QSet<QString> deleted;
     for (const materialDifference &difference : found.differences) {
         const materialStruct *material = difference.other ? difference.other : difference.mine;
         QStringList fields;
@@ -386,19 +352,22 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
                       : difference.kind == materialDifference::absent ? tr("deleted")
                                                                       : tr("changed"),
                       fields.join(QLatin1String(", "))});
-        if (difference.kind == materialDifference::absent)
-            deleted.insert(material->d_ktm);
     }
     changesDialog dialog(tr("Update"), {labels::ktm(), labels::name(), tr("Change"), tr("Fields")},
                          shown, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QStringList lines = deletedLines(found.differences);
-    QStringList uses = usesOf(deleted, orderDocument::instance().order());
     std::vector<materialDifference> wanted;
     for (int row : dialog.chosen())
         wanted.push_back(found.differences[size_t(row)]);
-    list({}, lines);
-    list(tr("The open order uses deleted materials:"), uses);
+    const QStringList lines = deletedLines(wanted);
+    QSet<QString> missing = deletedKtms(wanted);
     takeOver(wanted, true, tr("Update"));
+    // Another material, or another database, may have the same KTM.
+    for (const QString &ktm : QSet<QString>(missing))
+        if (programData::instance().materials().find(ktm))
+            missing.remove(ktm);
+    list({}, lines);
+    list(tr("The open order uses deleted materials:"),
+         usesOf(missing, orderDocument::instance().order()));
 }

@@ -4,6 +4,7 @@
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
+#include "order/orderDocument.h"
 #include "tree/myTreeView.h"
 #include "util/fileVersions.h"
 
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTreeWidget>
 
 class tst_databaseWindow : public QObject
 {
@@ -28,6 +30,7 @@ private slots:
     void saving();
     void listingIsOneStep();
     void mergeView();
+    void updateDeletesWhatIsMarked();
     void toOrder();
 
 private:
@@ -294,6 +297,43 @@ void tst_databaseWindow::mergeView()
     QCOMPARE(content(), before);
     QVERIFY(!merge.open(m_folder->write("bad.xml", "bad")));
     QVERIFY(m_shown->listed.contains("bad.xml</b>"));
+}
+
+void tst_databaseWindow::updateDeletesWhatIsMarked()
+{
+    const QString path = m_folder->path("other.xml");
+    const QString deleted = first()->d_ktm;
+    const QString kept = database().groups[0]->items[1]->d_ktm;
+    kiv_mat_databaseStruct other;
+    QCOMPARE(loadDatabase(database().filePath, &other), 0);
+    other.groups[0]->items.erase(other.groups[0]->items.begin(),
+                                 other.groups[0]->items.begin() + 2);
+    QCOMPARE(saveXmlNoEvents(path, &other), 0);
+    kiv_mat_zpStruct order;
+    order.initialise(programData::instance().config());
+    for (const QString &ktm : {deleted, kept})
+        order.orderItems.append(std::make_unique<orderItemStruct>())->ktm = ktm;
+    QCOMPARE(saveXmlNoEvents(m_folder->path("order.xml"), &order), 0);
+    QVERIFY(orderDocument::instance().load(m_folder->path("order.xml")));
+
+    m_shown->file = path;
+    QTimer answer;
+    connect(&answer, &QTimer::timeout, this, [&kept] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        for (QTreeWidgetItem *item :
+             dialog->findChild<QTreeWidget *>()->findItems(kept, Qt::MatchExactly))
+            item->setCheckState(0, Qt::Unchecked);
+        dialog->accept();
+    });
+    answer.start(10);
+    m_window->commandUpdate(true);
+    const ktmIndex &known = programData::instance().materials();
+    QVERIFY(!known.find(deleted) && known.find(kept));
+    // In the list of the deleted ones and in that of their uses.
+    QCOMPARE(m_shown->listed.count(deleted), 2);
+    QCOMPARE(m_shown->listed.count(kept), 0);
 }
 
 void tst_databaseWindow::toOrder()
