@@ -1,6 +1,7 @@
 // The operations of the material database on 100,000 materials.
 #include "benchSupport.h"
 
+#include "data/XmlValidator.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/ktmIndex.h"
 #include "data/loaders.h"
@@ -128,6 +129,18 @@ void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &data
     });
 }
 
+// The forms of 200,000 codes, all of them right.
+void codes(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    againstTime(state, 2.0, [&database] {
+        bool good = true;
+        for (const auto &group : database.groups)
+            for (const auto &material : group->items)
+                good = good && checkKtm(material->d_ktm) && checkCpv(material->d_cpv);
+        return good;
+    });
+}
+
 // A listing with an entry for each of 100,000 materials: cut, read and matched.
 void listing(benchmark::State &state, kiv_mat_databaseStruct &database)
 {
@@ -166,6 +179,7 @@ int main(int argc, char **argv)
     add("altium/xlsx", workbookAgainstPython)->Iterations(2);
     add("altium/script", script)->Iterations(3);
     add("duplicates", duplicates)->Iterations(5);
+    add("codes", codes)->Iterations(3);
     add("compare", compareWithCopy)->Iterations(3);
     add("listing", listing)->Iterations(3);
 
