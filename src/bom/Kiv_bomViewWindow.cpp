@@ -269,7 +269,7 @@ bool Kiv_bomViewWindow::save()
         if (answer != overwrite)
             return false;
     }
-    if (!saveDocument(m_path, *m_bom))
+    if (!saveDocument(m_path, *m_bom, programData::instance().config()))
         return false;
     m_onDisk = fileState::of(m_path);
     m_stack->clear();

@@ -446,7 +446,7 @@ bool Kiv_bomWindow::save()
                false)
                != prompts::answer::yes)
         return false;
-    if (!saveDocument(boms().filePath, boms()))
+    if (!saveDocument(boms().filePath, boms(), programData::instance().config()))
         return false;
     m_onDisk = fileState::of(boms().filePath);
     m_stack->clear();

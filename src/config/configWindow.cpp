@@ -368,7 +368,7 @@ void configWindow::commandSave(bool)
     }
     programData &known = programData::instance();
     const QString path = paths::config();
-    if (!saveDocument(path, *m_edited))
+    if (!saveDocument(path, *m_edited, programData::instance().config()))
         return;
     const QStringList later = configOperations::restartNeeded(known.config(), *m_edited);
     if (!known.replaceConfiguration(path))

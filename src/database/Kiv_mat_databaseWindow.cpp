@@ -404,7 +404,7 @@ void Kiv_mat_databaseWindow::commandSave(bool)
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool saved = saveDocument(path, database);
+    const bool saved = saveDocument(path, database, programData::instance().config());
     QApplication::restoreOverrideCursor();
     if (!saved) {
         database.update = before;

@@ -436,7 +436,7 @@ bool firmWindow::saveMaterials()
     for (auto kind = m_unwritten.begin(); kind != m_unwritten.end();) {
         const auto written = programData::databaseKind(*kind);
         const kiv_mat_databaseStruct &database = known.database(written);
-        if (!saveDocument(database.filePath, database)) {
+        if (!saveDocument(database.filePath, database, programData::instance().config())) {
             ++kind;
             continue;
         }
@@ -469,7 +469,7 @@ bool firmWindow::save()
         if (answer != overwrite)
             return false;
     }
-    if (!saveDocument(m_path, *m_edited))
+    if (!saveDocument(m_path, *m_edited, programData::instance().config()))
         return false;
     m_onDisk = fileState::of(m_path);
     programData::instance().loadFirm();

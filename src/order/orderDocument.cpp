@@ -96,7 +96,7 @@ void orderDocument::startNew()
 
 bool orderDocument::save(const QString &path)
 {
-    if (!saveDocument(path, *m_order))
+    if (!saveDocument(path, *m_order, programData::instance().config()))
         return false;
     settle(path);
     return true;

@@ -142,7 +142,7 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
 }
 
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
-                  const std::vector<int> &columns, QString *reason)
+                  const std::vector<int> &columns, configStruct &config, QString *reason)
 {
     kiv_mat_zpStruct order;
     if (!readChecked(path, &order, reason))
@@ -157,7 +157,7 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
         order.orderItems.append(std::move(copy));
     }
     constexpr int keptVersions = 20;
-    fileVersions::keep(path, programData::instance().config().backupPath(), keptVersions);
+    fileVersions::keep(path, config.backupPath(), keptVersions);
     if (saveXmlNoEvents(path, &order) >= 0)
         return true;
     *reason = QCoreApplication::translate("orderOperations", "the file cannot be written");

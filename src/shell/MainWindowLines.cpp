@@ -290,7 +290,8 @@ void MainWindow::commandZpCopy(bool)
         return;
     }
     QString reason;
-    if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(), &reason))
+    if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(),
+                                      programData::instance().config(), &reason))
         statusBar()->showMessage(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
                                      .arg(QDir::toNativeSeparators(path)));
     else
