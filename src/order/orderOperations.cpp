@@ -69,28 +69,6 @@ lineFaults faultsOf(const kiv_mat_zpStruct &order, const ktmIndex &materials)
     return faults;
 }
 
-lineSums sumsOf(const std::vector<const orderItemStruct *> &lines)
-{
-    lineSums sums;
-    for (const orderItemStruct *line : lines) {
-        ++sums.lines;
-        double quantity = 0;
-        double price = 0;
-        if (!isCount(line->quantity, &quantity)) {
-            ++sums.uncounted;
-            continue;
-        }
-        sums.quantity += quantity;
-        if (isCount(line->price, &price))
-            sums.price += price * quantity;
-        else
-            ++sums.uncounted;
-        if (isCount(line->averagePrice, &price))
-            sums.averagePrice += price * quantity;
-    }
-    return sums;
-}
-
 const QString &pcbKtm()
 {
     static const QString ktm = QStringLiteral("SRV-001.100");

@@ -43,17 +43,6 @@ struct lineFaults
 };
 lineFaults faultsOf(const kiv_mat_zpStruct &order, const ktmIndex &materials);
 
-// Sums over some lines; quantities of different units add up too, as one number of pieces.
-struct lineSums
-{
-    double quantity = 0;
-    double price = 0;        // PLN, price times quantity
-    double averagePrice = 0; // PLN
-    int lines = 0;
-    int uncounted = 0; // lines whose price or quantity is no number
-};
-lineSums sumsOf(const std::vector<const orderItemStruct *> &lines);
-
 // --- New lines ---
 
 // The KTMs of lines that an order takes once each: ten of shipment, one of PCB, one of service.

@@ -3,6 +3,7 @@
 
 #include "commands/cellBlock.h"
 #include "commands/cellClipboard.h"
+#include "data/orderSums.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "order/addMaterialDialog.h"
@@ -196,7 +197,7 @@ void MainWindow::commandZpAllSum(bool)
 {
     const std::vector<int> selected = m_order->selectedRows();
     const std::vector<int> rows = selected.size() > 1 ? selected : m_order->allRows();
-    const orderOperations::lineSums sums = orderOperations::sumsOf(m_order->records(rows));
+    const orderSums sums = sumsOf(m_order->records(rows));
     const auto row = [](const QString &caption, const QString &value) {
         return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td></tr>")
             .arg(caption.toHtmlEscaped(), value);
