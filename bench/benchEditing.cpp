@@ -152,7 +152,8 @@ void showDatabase(benchmark::State &state)
     for (auto _ : state) {
         std::unique_ptr<Kiv_mat_databaseWindow> window;
         report(state, secondsOf([&] {
-                   window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
+                   window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(),
+                                                                     programData::warehouse);
                    window->show();
                    window->grab();
                    settle();
@@ -200,6 +201,41 @@ void searchKeys(benchmark::State &state)
         state.SetIterationTime(seconds);
     }
     state.counters["ratio"] = worst / 0.05;
+}
+
+// 341 new and 341 changed materials of another database, over all groups, while a search filters.
+void takeOver(benchmark::State &state)
+{
+    constexpr size_t each = 341;
+    Kiv_mat_databaseWindow window(programData::instance(), programData::warehouse);
+    window.show();
+    window.commandEdit(true);
+    auto *words = window.findChild<QLineEdit *>(QStringLiteral("words"));
+    words->setText(QStringLiteral("rezystor"));
+    emit words->returnPressed();
+    settle();
+    kiv_mat_databaseStruct &mine = window.rows().database();
+    std::vector<std::unique_ptr<materialStruct>> others;
+    std::vector<materialDifference> plan;
+    for (size_t i = 0; i < each; ++i) {
+        d_groupStruct *group = mine.groups[i % mine.groups.size()].get();
+        materialStruct *known = group->items[i / mine.groups.size()].get();
+        for (const auto kind : {materialDifference::added, materialDifference::changed}) {
+            others.push_back(known->copy());
+            others.back()->d_description += QLatin1Char('x');
+            if (kind == materialDifference::added)
+                others.back()->d_ktm += QLatin1Char('x');
+            plan.push_back({kind, known, group, others.back().get(), group, {3}});
+        }
+    }
+    for (auto _ : state) {
+        report(state, secondsOf([&] {
+                   window.takeOver(plan, true, QStringLiteral("Update"));
+                   settle();
+               }),
+               2.0);
+        window.commandUndo(true);
+    }
 }
 
 // ratio: a mouse move over 100,000 rows against one over 1,000.
@@ -273,6 +309,7 @@ int main(int argc, char **argv)
     add("showDatabase/100k", showDatabase, 3);
     add("openGroup/100k", openGroup, 10);
     add("searchKeys/100k", searchKeys, 26);
+    add("takeOver/100k", takeOver, 1);
     add("mouseMove", mouseMove, 1);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

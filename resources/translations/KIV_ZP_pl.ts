@@ -4244,5 +4244,9 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Decompression complete</source>
         <translation>Zakończono dekompresję</translation>
     </message>
+    <message>
+        <source>Archive unpacks to more than it may</source>
+        <translation>Archiwum rozpakowuje się do większego rozmiaru, niż wolno</translation>
+    </message>
 </context>
 </TS>

@@ -161,4 +161,7 @@ void Kiv_bomViewWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
          + index.sibling(index.row(), model()->columnCount() - 1).data().toString());
 }
 
-bool Kiv_bomViewWindow::write(const QString &path) { return saveDocument(path, *m_bom); }
+bool Kiv_bomViewWindow::write(const QString &path)
+{
+    return saveDocument(path, *m_bom, known().config());
+}

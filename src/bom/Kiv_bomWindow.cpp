@@ -409,7 +409,10 @@ bool Kiv_bomWindow::load()
     return read;
 }
 
-bool Kiv_bomWindow::write(const QString &path) { return saveDocument(path, known().boms()); }
+bool Kiv_bomWindow::write(const QString &path)
+{
+    return saveDocument(path, known().boms(), known().config());
+}
 
 void Kiv_bomWindow::saved() { m_saved = contentOf(known().boms()); }
 

@@ -21,13 +21,8 @@ std::optional<double> quantityOf(const materialStruct &line)
     return quantity && *quantity >= 0 ? quantity : std::nullopt;
 }
 
-bool addProduct(double &sum, double quantity, const QString &price)
-{
-    const std::optional<double> number = numbers::finite(price);
-    if (number)
-        sum += *number * quantity;
-    return number.has_value();
-}
+constexpr double bomSums::*amounts[] = {&bomSums::quantity, &bomSums::price,
+                                        &bomSums::averagePrice};
 
 const QString &unitOf(const materialStruct &material)
 {
@@ -54,8 +49,9 @@ std::optional<orderChange> raise(const kiv_mat_zpStruct &order, const std::vecto
         const bool sameUnit = line.unit.isEmpty() || line.unit == unitOf(material);
         const std::optional<double> before =
             line.quantity.isEmpty() ? std::optional(0.0) : numbers::finite(line.quantity);
-        if (sameUnit && before)
-            return orderChange{i, numbers::plain(*before + by), nullptr};
+        double after = before.value_or(0);
+        if (sameUnit && before && numbers::addProduct(&after, by, 1))
+            return orderChange{i, numbers::plain(after), nullptr};
     }
     return std::nullopt;
 }
@@ -64,6 +60,26 @@ bool isTakenOnce(const QString &ktm)
 {
     return orderOperations::isShipment(ktm) || ktm == orderOperations::pcbKtm();
 }
+
+class recordTarget final : public orderTarget
+{
+public:
+    explicit recordTarget(kiv_mat_zpStruct *order)
+        : m_order(order)
+    {
+    }
+    void setQuantity(int line, const QString &quantity) override
+    {
+        m_order->orderItems.items[size_t(line)]->quantity = quantity;
+    }
+    void append(std::unique_ptr<orderItemStruct> line) override
+    {
+        m_order->orderItems.append(std::move(line));
+    }
+
+private:
+    kiv_mat_zpStruct *m_order;
+};
 
 } // namespace
 
@@ -120,10 +136,10 @@ bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials)
             ++sums.uncounted;
             continue;
         }
-        sums.quantity += *quantity;
-        if (!addProduct(sums.price, *quantity, of.material->d_price))
+        numbers::addProduct(&sums.quantity, *quantity, 1);
+        if (!numbers::addProduct(&sums.price, *quantity, of.material->d_price))
             ++sums.uncounted;
-        addProduct(sums.averagePrice, *quantity, of.material->d_averagePrice);
+        numbers::addProduct(&sums.averagePrice, *quantity, of.material->d_averagePrice);
     }
     return sums;
 }
@@ -132,9 +148,11 @@ bomSums timesSets(const bomSums &sums, int sets)
 {
     bomSums result = sums;
     const int times = qMax(0, sets);
-    result.quantity *= times;
-    result.price *= times;
-    result.averagePrice *= times;
+    for (double bomSums::*amount : amounts) {
+        result.*amount = 0;
+        if (!numbers::addProduct(&(result.*amount), sums.*amount, times))
+            result.uncounted = result.lines;
+    }
     return result;
 }
 
@@ -145,12 +163,12 @@ bomSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
         if (list.sets <= 0)
             continue;
         const bomSums sums = timesSets(sumsOf(*list.bom, materials), list.sets);
-        all.quantity += sums.quantity;
-        all.price += sums.price;
-        all.averagePrice += sums.averagePrice;
+        bool counted = true;
+        for (double bomSums::*amount : amounts)
+            counted = numbers::addProduct(&(all.*amount), sums.*amount, 1) && counted;
         all.lines += sums.lines;
         all.unknown += sums.unknown;
-        all.uncounted += sums.uncounted;
+        all.uncounted += counted ? sums.uncounted : sums.lines;
     }
     return all;
 }
@@ -164,7 +182,8 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
             continue;
         for (const auto &line : list.bom->materials) {
             const std::optional<double> quantity = quantityOf(*line);
-            if (!quantity) {
+            double needed = 0;
+            if (!quantity || !numbers::addProduct(&needed, *quantity, list.sets)) {
                 result.uncounted.push_back(line.get());
                 continue;
             }
@@ -173,7 +192,8 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
                 line->d_ktm.isEmpty() ? QLatin1Char('\n') + line->d_name : line->d_ktm;
             const auto place = places.constFind(key);
             if (place != places.constEnd()) {
-                result.needs[*place].needed += *quantity * list.sets;
+                if (!numbers::addProduct(&result.needs[*place].needed, needed, 1))
+                    result.uncounted.push_back(line.get());
                 continue;
             }
             places.insert(key, result.needs.size());
@@ -181,7 +201,7 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
             const bomLine of = matched(*line, materials);
             added.ktm = line->d_ktm;
             added.name = of.material->d_name;
-            added.needed = *quantity * list.sets;
+            added.needed = needed;
             if (of.known) {
                 added.material = of.material;
                 added.inStock = numbers::finite(of.material->d_inWarehouse);
@@ -235,15 +255,21 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
     return plan;
 }
 
-int apply(orderPlan plan, kiv_mat_zpStruct *order)
+int apply(orderPlan plan, orderTarget &target)
 {
     for (orderChange &change : plan.changes) {
         if (change.line >= 0)
-            order->orderItems.items[size_t(change.line)]->quantity = change.quantity;
+            target.setQuantity(change.line, change.quantity);
         else
-            order->orderItems.append(std::move(change.added));
+            target.append(std::move(change.added));
     }
     return int(plan.changes.size());
+}
+
+int apply(orderPlan plan, kiv_mat_zpStruct *order)
+{
+    recordTarget target(order);
+    return apply(std::move(plan), target);
 }
 
 } // namespace bomOperations

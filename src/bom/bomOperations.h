@@ -55,7 +55,7 @@ struct bomSums
     double averagePrice = 0; // PLN
     int lines = 0;
     int unknown = 0;   // lines whose KTM no database has
-    int uncounted = 0; // lines whose quantity or price is no number
+    int uncounted = 0; // lines whose quantity or price is no number, or too large to be summed
 };
 // Of one set.
 bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials);
@@ -84,7 +84,8 @@ struct need
 struct demand
 {
     std::vector<need> needs; // in the order of their first lines
-    // The lines whose quantity is no number, or less than nothing: they are in no need.
+    // The lines whose quantity is no number, less than nothing, or too large to be summed: they are
+    // in no need.
     std::vector<const materialStruct *> uncounted;
 };
 // Looks at the lists and the materials, which have to live as long as it is used.
@@ -130,7 +131,22 @@ struct orderPlan
 // PCB) are never doubled. Amounts of nothing make no change.
 orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
                  const QDate &wait);
-// Carries out the changes on the record itself; returns how many there were.
+
+// Where a plan is carried out: on the order alone, or in a window, which keeps its rows and its
+// undo history in step.
+class orderTarget
+{
+public:
+    orderTarget() = default;
+    orderTarget(const orderTarget &) = delete;
+    orderTarget &operator=(const orderTarget &) = delete;
+    virtual ~orderTarget() = default;
+
+    virtual void setQuantity(int line, const QString &quantity) = 0;
+    virtual void append(std::unique_ptr<orderItemStruct> line) = 0;
+};
+// Return the number of changes carried out.
+int apply(orderPlan plan, orderTarget &target);
 int apply(orderPlan plan, kiv_mat_zpStruct *order);
 
 } // namespace bomOperations

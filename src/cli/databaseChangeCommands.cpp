@@ -182,10 +182,8 @@ int runMerge(const QStringList &arguments)
     for (const materialDifference &difference : differences)
         printDifference(difference);
     out() << Qt::flush;
-    if (options.isSet(update))
-        updateDatabase(*mine, differences);
-    else
-        mergeDatabase(*mine, differences);
+    carryOut(differences, options.isSet(update) ? absentOnes::remove : absentOnes::keep,
+             mine.get());
     return saveTo(options.value(output), *mine);
 }
 

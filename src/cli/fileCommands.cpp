@@ -9,6 +9,7 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/loaders.h"
+#include "data/orderSums.h"
 #include "report/orderReport.h"
 #include "util/numbers.h"
 #include "util/paths.h"

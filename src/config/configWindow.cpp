@@ -305,7 +305,7 @@ bool configWindow::write(const QString &path)
         userPrompts().showError(text::toHtml(faults.join(QLatin1Char('\n'))));
         return false;
     }
-    if (!saveDocument(path, *m_edited))
+    if (!saveDocument(path, *m_edited, known().config()))
         return false;
     m_later = configOperations::restartNeeded(known().config(), *m_edited);
     return known().replaceConfiguration(path);

@@ -1,12 +1,12 @@
 #include "data/XmlValidator.h"
 
+#include "data/codeForms.h"
 #include "data/documentStruct.h"
 #include "data/schemaCache.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
@@ -169,9 +169,7 @@ bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessag
     return std::make_unique<XmlValidator>()->validate(xmlPath, xsdPath, showMessages, progress);
 }
 
-namespace {
-
-bool checkValue(const QString &element, const QString &value)
+bool checkByFile(const QString &element, const QString &value)
 {
     const QTemporaryDir folder;
     QFile file(folder.path() + QLatin1String("/1.xml"));
@@ -184,9 +182,17 @@ bool checkValue(const QString &element, const QString &value)
     checkDocument(element, value).writeXml(&writer);
     writer.writeEndDocument();
     file.close();
-    QCoreApplication::processEvents();
     return !writer.hasError()
            && validateXml(file.fileName(), paths::schema(QStringLiteral("kiv_mat.xsd")), false);
+}
+
+namespace {
+
+bool checkValue(const QString &element, const QString &value)
+{
+    const std::optional<bool> known =
+        codeForms::matches(element, value, paths::schema(QStringLiteral("kiv_mat.xsd")));
+    return known ? *known : checkByFile(element, value);
 }
 
 } // namespace

@@ -48,6 +48,10 @@ bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessag
                  const progressFunction &progress = {});
 
 // Whether a KTM index or a CPV code has the right form. The forms stand in
-// "_validator/kiv_mat.xsd"; no message is shown. False also when the check file cannot be written.
+// "_validator/kiv_mat.xsd"; no message is shown. False also when a file that is needed for it
+// cannot be written.
 bool checkKtm(const QString &value);
 bool checkCpv(const QString &value);
+// The same by validating a file that holds the value in an element "ktm" or "cpv": slow, and what
+// the others fall back upon.
+bool checkByFile(const QString &element, const QString &value);

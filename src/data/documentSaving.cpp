@@ -1,8 +1,8 @@
 #include "data/documentSaving.h"
 
+#include "data/configStruct.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
-#include "data/programData.h"
 #include "data/vocabulary.h"
 #include "util/fileVersions.h"
 #include "util/messages.h"
@@ -19,9 +19,8 @@ fileState fileState::of(const QString &path)
     return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
 }
 
-bool saveDocument(const QString &path, const documentStruct &document)
+bool saveDocument(const QString &path, const documentStruct &document, configStruct &config)
 {
-    configStruct &config = programData::instance().config();
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QString backups = config.backupPath();

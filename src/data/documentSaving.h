@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QString>
 
+class configStruct;
 class documentStruct;
 
 // A file as it stands on the disk; it differs when another program wrote it.
@@ -16,6 +17,7 @@ struct fileState
     static fileState of(const QString &path);
 };
 
-// Writes a document over the file, whose earlier version goes to the folder for backups, and says
-// so in the log. False, told to the user, with the file as it was, when it cannot be written.
-bool saveDocument(const QString &path, const documentStruct &document);
+// Writes a document over the file, whose earlier version goes to the configuration's folder for
+// backups, and says so in the log. False, told to the user, with the file as it was, when it cannot
+// be written.
+bool saveDocument(const QString &path, const documentStruct &document, configStruct &config);

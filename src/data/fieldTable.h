@@ -32,13 +32,14 @@ std::vector<QString> tagsOf(const fieldTable<Record> &fields,
     return tags;
 }
 
-// Takes the element the reader stands on into its field; false, with nothing read, when no field
-// has that name.
+// Takes the element the reader stands on into its field, which is looked for from place on; false,
+// with nothing read, when no field has that name.
 template <class Record>
-bool readField(QXmlStreamReader *reader, Record &record, const fieldTable<Record> &fields)
+bool readField(QXmlStreamReader *reader, Record &record, const fieldTable<Record> &fields,
+               size_t place)
 {
-    const size_t found = findFrom(matchedTag, fields.size(),
-                                  [&](size_t i) { return reader->name() == fields[i].name; });
+    const size_t found =
+        findFrom(place, fields.size(), [&](size_t i) { return reader->name() == fields[i].name; });
     if (found == fields.size())
         return false;
     record.*fields[found].member = readText(reader);
@@ -120,9 +121,10 @@ public:
     {
         readChildren(reader, tagHandlers(), Self::element);
     }
-    int readXml(QXmlStreamReader *reader) override
+    int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }
+    int readTag(QXmlStreamReader *reader, size_t place) override
     {
-        if (!readField(reader, static_cast<Self &>(*this), Self::fields()))
+        if (!readField(reader, static_cast<Self &>(*this), Self::fields(), place))
             reader->readNext();
         return 1;
     }

@@ -32,9 +32,9 @@ tagHandlerList kiv_infoStruct::tagHandlers()
     return {&tags, this};
 }
 
-int kiv_infoStruct::readXml(QXmlStreamReader *reader)
+int kiv_infoStruct::readTag(QXmlStreamReader *reader, size_t place)
 {
-    if (!readField(reader, *this, fields()))
+    if (!readField(reader, *this, fields(), place))
         reader->readNext();
     return 1;
 }

@@ -26,7 +26,8 @@ public:
     QString mechanicsServerLink;
 
     tagHandlerList tagHandlers() override;
-    int readXml(QXmlStreamReader *reader) override;
+    int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }
+    int readTag(QXmlStreamReader *reader, size_t place) override;
 
 protected:
     int writeContent(QXmlStreamWriter *writer) const override;

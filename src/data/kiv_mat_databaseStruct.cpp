@@ -48,9 +48,9 @@ void materialStruct::readElement(QXmlStreamReader *reader)
     readChildren(reader, tagHandlers(), element);
 }
 
-int materialStruct::readXml(QXmlStreamReader *reader)
+int materialStruct::readTag(QXmlStreamReader *reader, size_t place)
 {
-    if (readField(reader, *this, fields()))
+    if (readField(reader, *this, fields(), place))
         return 1;
     if (reader->name() == informationsStruct::element)
         information.readElement(reader);

@@ -43,7 +43,8 @@ public:
 
     tagHandlerList tagHandlers();
     void readElement(QXmlStreamReader *reader);
-    int readXml(QXmlStreamReader *reader) override;
+    int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }
+    int readTag(QXmlStreamReader *reader, size_t place) override;
     int writeXml(QXmlStreamWriter *writer) const override;
 
     // The form of a BOM line: KTM, name, quantity and designator only.

@@ -134,9 +134,10 @@ int saveXmlNoEvents(const QString &filePath, const xmlData *record)
     return result;
 }
 
-int saveXml(const QString &filePath, const xmlData *record)
+int saveXml(const QString &filePath, const xmlData *record, const progressFunction &progress)
 {
     const int result = saveXmlNoEvents(filePath, record);
-    QCoreApplication::processEvents();
+    if (progress)
+        progress(1, 1);
     return result;
 }

@@ -45,6 +45,7 @@ std::unique_ptr<documentStruct> newDocument(const fileKind &kind);
 
 // Writes a record as a file, creating missing folders. Returns the record's own result; -1 when the
 // file cannot be written whole or a text cannot be stored as XML. After a negative result the old
-// file is as it was. saveXml lets pending events through at the end, so that windows repaint.
-int saveXml(const QString &filePath, const xmlData *record);
+// file is as it was. Nothing lets events through but the progress function of saveXml, which is
+// called once, at the end.
+int saveXml(const QString &filePath, const xmlData *record, const progressFunction &progress = {});
 int saveXmlNoEvents(const QString &filePath, const xmlData *record);

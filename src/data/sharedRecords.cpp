@@ -99,11 +99,11 @@ const fieldTable<Self> &sourceRecord<Self>::fields()
 }
 
 template <class Self>
-int sourceRecord<Self>::readXml(QXmlStreamReader *reader)
+int sourceRecord<Self>::readTag(QXmlStreamReader *reader, size_t place)
 {
     if (reader->name() == filesStruct::element)
         files.readElement(reader);
-    else if (!readField(reader, static_cast<Self &>(*this), fields()))
+    else if (!readField(reader, static_cast<Self &>(*this), fields(), place))
         reader->readNext();
     return 1;
 }

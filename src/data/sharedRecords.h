@@ -137,7 +137,8 @@ public:
     {
         readChildren(reader, tagHandlers(), Self::element);
     }
-    int readXml(QXmlStreamReader *reader) override;
+    int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }
+    int readTag(QXmlStreamReader *reader, size_t place) override;
     int writeXml(QXmlStreamWriter *writer) const override;
     // One with the same texts and files.
     std::unique_ptr<Self> copy() const;

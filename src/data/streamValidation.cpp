@@ -117,6 +117,18 @@ schemaPointer compileSchema(const QByteArray &xsd)
     return schema;
 }
 
+schemaPointer schemaOf(const QString &xsdPath)
+{
+    static schemaCache<schemaPointer> schemas;
+    static const bool initialised = [] {
+        xmlInitParser();
+        xmlSetExternalEntityLoader(refuseExternal);
+        return true;
+    }();
+    Q_UNUSED(initialised)
+    return schemas.get(xsdPath, compileSchema);
+}
+
 void parse(runState &state, xmlSchema *schema)
 {
     xmlSAXHandler sax{};
@@ -147,17 +159,9 @@ void parse(runState &state, xmlSchema *schema)
 validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath, int maxMessages,
                                    const progressFunction &progress)
 {
-    static schemaCache<schemaPointer> schemas;
-    static const bool initialised = [] {
-        xmlInitParser();
-        xmlSetExternalEntityLoader(refuseExternal);
-        return true;
-    }();
-    Q_UNUSED(initialised)
-
     runState state(xmlPath, progress);
     state.maxMessages = maxMessages;
-    const schemaPointer schema = schemas.get(xsdPath, compileSchema);
+    const schemaPointer schema = schemaOf(xsdPath);
     if (!schema)
         return state.result;
     state.result.schemaLoaded = true;
@@ -177,3 +181,5 @@ validationResult validateStreaming(const QString &xmlPath, const QString &xsdPat
     xmlSetStructuredErrorFunc(oldContext, oldHandler);
     return state.result;
 }
+
+bool schemaLoads(const QString &xsdPath) { return schemaOf(xsdPath) != nullptr; }

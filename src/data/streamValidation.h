@@ -30,3 +30,6 @@ struct validationResult
 // the file counts as unreadable.
 validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath,
                                    int maxMessages = 100, const progressFunction &progress = {});
+
+// Whether there is a schema file that can be compiled.
+bool schemaLoads(const QString &xsdPath);

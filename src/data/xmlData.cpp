@@ -48,9 +48,8 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
             found = findFrom(expected, tags.size(),
                              [&](size_t i) { return reader->name() == tags[i]; });
         if (found < tags.size()) {
-            matchedTag = found;
             expected = found + 1;
-            handlers.handler->readXml(reader);
+            handlers.handler->readTag(reader, found);
         } else {
             reader->readNext();
         }

@@ -23,6 +23,10 @@ public:
     // Writes the record's element. Negative on failure, else 0 or the last child's result. The base
     // returns -1.
     virtual int writeXml(QXmlStreamWriter *writer) const;
+
+    // readXml() for a reader on the tag that stands at this place of the registered ones: where a
+    // record with a table of fields looks first.
+    virtual int readTag(QXmlStreamReader *reader, size_t) { return readXml(reader); }
 };
 
 // Which child elements a record accepts, in the order of the format, and the record whose readXml()
@@ -39,9 +43,6 @@ struct tagHandlerList
 // own children are matched too. Returns 1 at endTag, -1 when the document ended first or the
 // reader found an error.
 int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag);
-
-// The place in its list of the tag that readChildren() matched last: where a record looks first.
-inline size_t matchedTag = 0;
 
 // The first index from 0 to count for which matches(index) holds, or count. Looks at start first
 // and goes on from there, since elements mostly stand in the order of their table.

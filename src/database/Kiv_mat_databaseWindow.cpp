@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -240,7 +241,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &parent, int first, int last) {
-                if (QStandardItem *group = m_model->itemFromIndex(parent))
+                if (QStandardItem *group = m_changing ? nullptr : m_model->itemFromIndex(parent))
                     for (int row = first; row <= last; ++row)
                         filterRow(group, row);
             });
@@ -332,7 +333,11 @@ void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &in
 // --- Life
 // -----------------------------------------------------------------------------------------
 
-void Kiv_mat_databaseWindow::historyMoved() { applyFilter(); }
+void Kiv_mat_databaseWindow::historyMoved()
+{
+    m_changing = false;
+    applyFilter();
+}
 
 bool Kiv_mat_databaseWindow::write(const QString &path)
 {
@@ -340,7 +345,7 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool saved = saveDocument(path, database);
+    const bool saved = saveDocument(path, database, known().config());
     QApplication::restoreOverrideCursor();
     if (!saved)
         database.update = before;
@@ -415,7 +420,7 @@ void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
 {
     m_copied.clear();
     for (const materialStruct *material : selectedMaterials())
-        m_copied.push_back(copyOf(*material));
+        m_copied.push_back(material->copy());
     updateActions();
     tell(tr("%n material(s) copied", nullptr, int(m_copied.size())));
 }
@@ -435,7 +440,7 @@ void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
     std::vector<std::unique_ptr<command>> members;
     int withoutKtm = 0;
     for (const auto &material : m_copied) {
-        auto copy = copyOf(*material);
+        auto copy = material->copy();
         // A KTM stands for one material.
         if (index.find(copy->d_ktm)) {
             copy->d_ktm.clear();

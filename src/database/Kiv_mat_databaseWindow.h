@@ -115,6 +115,7 @@ protected:
     QLatin1String editOption() const override;
     QString closeQuestion() const override { return tr("Save database"); }
     bool closesWithCancel() const override { return false; }
+    void historyMoves() override { m_changing = true; }
     void historyMoved() override;
     void updateActions() override;
     void closeEvent(QCloseEvent *event) override;
@@ -160,6 +161,7 @@ private:
     searchQuery m_query;
     QString m_statusFilter;
     bool m_editedFilter = false;
+    bool m_changing = false; // a step puts rows in: the filter looks at them once it is done
     int m_shownCount = 0;
     int m_filterGroup = -1; // the group from which a filter in slices goes on
 };

@@ -11,23 +11,6 @@
 namespace {
 
 template <class List>
-void copySources(List &to, const List &from)
-{
-    to.items.clear();
-    for (const auto &source : from.items) {
-        auto copy = std::make_unique<std::decay_t<decltype(*source)>>();
-        for (const auto &field : copy->fields())
-            (*copy).*field.member = (*source).*field.member;
-        for (const auto &file : source->files.items) {
-            fileStruct *added = copy->files.append(std::make_unique<fileStruct>());
-            added->type = file->type;
-            added->name = file->name;
-        }
-        to.append(std::move(copy));
-    }
-}
-
-template <class List>
 QString sourcesText(const List &list)
 {
     QStringList lines;
@@ -47,7 +30,9 @@ comparedField sourcesField(const QString &name, QString (*caption)(), List mater
     return {name, caption, [list](const materialStruct &m) { return sourcesText(m.*list); },
             [list](const materialStruct &a, const materialStruct &b) { return a.*list == b.*list; },
             [list](materialStruct &to, const materialStruct &from) {
-                copySources(to.*list, from.*list);
+                (to.*list).items.clear();
+                for (const auto &source : (from.*list).items)
+                    (to.*list).append(source->copy());
             }};
 }
 
@@ -155,17 +140,67 @@ std::vector<int> differingFields(const materialStruct &mine, const materialStruc
     return fields;
 }
 
-d_groupStruct *groupNamed(kiv_mat_databaseStruct &database, const d_groupStruct &like)
+// The groups of a database by name, of several with one name the first; missing ones are made.
+class groupFinder
 {
-    for (const auto &group : database.groups)
-        if (group->name == like.name)
-            return group.get();
-    database.groups.push_back(std::make_unique<d_groupStruct>());
-    d_groupStruct *made = database.groups.back().get();
-    made->name = like.name;
-    made->cpv = like.cpv;
-    return made;
-}
+public:
+    groupFinder(const kiv_mat_databaseStruct &database, databaseTarget &target)
+        : m_target(target)
+    {
+        m_groups.reserve(int(database.groups.size()));
+        for (auto group = database.groups.rbegin(); group != database.groups.rend(); ++group)
+            m_groups.insert((*group)->name, group->get());
+    }
+
+    d_groupStruct *like(const d_groupStruct &other)
+    {
+        d_groupStruct *&found = m_groups[other.name];
+        if (!found) {
+            auto made = std::make_unique<d_groupStruct>();
+            made->name = other.name;
+            made->cpv = other.cpv;
+            found = m_target.addGroup(std::move(made));
+        }
+        return found;
+    }
+
+private:
+    databaseTarget &m_target;
+    QHash<QString, d_groupStruct *> m_groups;
+};
+
+class recordTarget final : public databaseTarget
+{
+public:
+    explicit recordTarget(kiv_mat_databaseStruct *database)
+        : m_database(database)
+    {
+    }
+    d_groupStruct *addGroup(std::unique_ptr<d_groupStruct> group) override
+    {
+        m_database->groups.push_back(std::move(group));
+        return m_database->groups.back().get();
+    }
+    void add(d_groupStruct *group, std::unique_ptr<materialStruct> material) override
+    {
+        group->append(std::move(material));
+    }
+    void replace(d_groupStruct *, materialStruct *material,
+                 std::unique_ptr<materialStruct> content) override
+    {
+        for (const comparedField &field : comparedFields())
+            field.take(*material, *content);
+    }
+    void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) override
+    {
+        std::erase_if(group->items, [&materials](const auto &material) {
+            return materials.contains(material.get());
+        });
+    }
+
+private:
+    kiv_mat_databaseStruct *m_database;
+};
 
 comparison cancelledComparison()
 {
@@ -231,31 +266,45 @@ QString allMaterialsInDatabase()
     return QCoreApplication::translate("databaseMerge", "All materials in database");
 }
 
-void mergeDatabase(kiv_mat_databaseStruct &mine, const std::vector<materialDifference> &selected)
+void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target)
 {
-    const std::vector<comparedField> &table = comparedFields();
-    for (const materialDifference &difference : selected) {
-        if (difference.kind == materialDifference::added)
-            groupNamed(mine, *difference.otherGroup)->append(copyOf(*difference.other));
-        else if (difference.kind == materialDifference::changed)
+    groupFinder groups(mine, target);
+    // By group, in the order in which the plan names them.
+    std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> doomed;
+    QHash<const d_groupStruct *, size_t> doomedPlaces;
+    for (const materialDifference &difference : plan) {
+        switch (difference.kind) {
+        case materialDifference::added:
+            target.add(groups.like(*difference.otherGroup), difference.other->copy());
+            break;
+        case materialDifference::changed: {
+            auto content = difference.mine->copy();
             for (int field : difference.fields)
-                table[size_t(field)].take(*difference.mine, *difference.other);
+                comparedFields()[size_t(field)].take(*content, *difference.other);
+            target.replace(difference.myGroup, difference.mine, std::move(content));
+            break;
+        }
+        case materialDifference::absent:
+            if (absent == absentOnes::keep)
+                break;
+            if (!doomedPlaces.contains(difference.myGroup)) {
+                doomedPlaces.insert(difference.myGroup, doomed.size());
+                doomed.push_back({difference.myGroup, {}});
+            }
+            doomed[doomedPlaces.value(difference.myGroup)].second.insert(difference.mine);
+            break;
+        }
     }
+    for (const auto &[group, materials] : doomed)
+        target.remove(group, materials);
 }
 
-void updateDatabase(kiv_mat_databaseStruct &mine,
-                    const std::vector<materialDifference> &differences)
+void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              kiv_mat_databaseStruct *mine)
 {
-    mergeDatabase(mine, differences);
-    QSet<const materialStruct *> doomed;
-    for (const materialDifference &difference : differences)
-        if (difference.kind == materialDifference::absent)
-            doomed.insert(difference.mine);
-    if (doomed.isEmpty())
-        return;
-    for (const auto &group : mine.groups)
-        std::erase_if(group->items,
-                      [&doomed](const auto &material) { return doomed.contains(material.get()); });
+    recordTarget target(mine);
+    carryOut(plan, absent, *mine, target);
 }
 
 QStringList deletedLines(const std::vector<materialDifference> &differences)
@@ -270,6 +319,15 @@ QStringList deletedLines(const std::vector<materialDifference> &differences)
             QCoreApplication::translate("databaseMerge", "Materials deleted").toHtmlEscaped()
             + QLatin1String("<br>"));
     return lines;
+}
+
+QSet<QString> deletedKtms(const std::vector<materialDifference> &differences)
+{
+    QSet<QString> ktms;
+    for (const materialDifference &difference : differences)
+        if (difference.kind == materialDifference::absent && !difference.mine->d_ktm.isEmpty())
+            ktms.insert(difference.mine->d_ktm);
+    return ktms;
 }
 
 QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_zpStruct &order)
@@ -288,13 +346,4 @@ QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_bomStruct &bom)
         if (ktms.contains(material->d_ktm))
             lines.append(useLine(material->d_ktm, material->d_name, bom.filePath));
     return lines;
-}
-
-std::unique_ptr<materialStruct> copyOf(const materialStruct &material)
-{
-    auto copy = std::make_unique<materialStruct>();
-    for (const comparedField &field : comparedFields())
-        field.take(*copy, material);
-    copy->d_designator = material.d_designator;
-    return copy;
 }

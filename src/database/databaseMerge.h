@@ -62,24 +62,50 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
 // What the user is told when nothing is new or changed.
 QString allMaterialsInDatabase();
 
-// Takes over the new and changed ones among the differences and never deletes. Of a changed
-// material only the listed fields: a caller takes others out to keep its own. A new one goes to the
-// group of its group's name, which is made with its CPV when it is missing. Indexes over mine are
-// the caller's to keep in step.
-void mergeDatabase(kiv_mat_databaseStruct &mine, const std::vector<materialDifference> &selected);
+// Where a plan is carried out: on the records alone, or in a window, which keeps its rows and its
+// undo history in step with them.
+class databaseTarget
+{
+public:
+    databaseTarget() = default;
+    databaseTarget(const databaseTarget &) = delete;
+    databaseTarget &operator=(const databaseTarget &) = delete;
+    virtual ~databaseTarget() = default;
 
-// The other database wins: as above, and the absent ones are deleted. Their pointers in
-// differences are dangling afterwards.
-void updateDatabase(kiv_mat_databaseStruct &mine,
-                    const std::vector<materialDifference> &differences);
+    // Behind the last group. Returns it where it stays.
+    virtual d_groupStruct *addGroup(std::unique_ptr<d_groupStruct> group) = 0;
+    // Behind the last material of the group.
+    virtual void add(d_groupStruct *group, std::unique_ptr<materialStruct> material) = 0;
+    // Gives a material of the group the content of another one.
+    virtual void replace(d_groupStruct *group, materialStruct *material,
+                         std::unique_ptr<materialStruct> content) = 0;
+    // Takes materials of the group away. Their records are not looked at any more.
+    virtual void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) = 0;
+};
+
+enum class absentOnes
+{
+    keep,
+    remove // the other database wins
+};
+
+// Takes over differences, of which a caller leaves out what shall not be. A new material goes to
+// the group of its group's name, which is made with its CPV when it is missing; a changed one gets
+// the listed fields only; the absent ones are removed last, if at all.
+void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target);
+// On the records alone: indexes over mine are the caller's to keep in step, and the pointers to
+// removed materials in the plan are dangling afterwards.
+void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              kiv_mat_databaseStruct *mine);
 
 // HTML lines for the absent ones, below the caption "Materials deleted"; none when there are none.
 QStringList deletedLines(const std::vector<materialDifference> &differences);
+
+// The KTMs of the absent ones.
+QSet<QString> deletedKtms(const std::vector<materialDifference> &differences);
 
 // HTML lines for the lines of an order or a BOM list that name one of the KTMs: what a deletion
 // would leave without a material.
 QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_zpStruct &order);
 QStringList usesOf(const QSet<QString> &ktms, const kiv_mat_bomStruct &bom);
-
-// A material of its own with the same content.
-std::unique_ptr<materialStruct> copyOf(const materialStruct &material);

@@ -8,6 +8,7 @@
 #include "database/cpvOperations.h"
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
+#include "database/databaseRowsTarget.h"
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
@@ -23,6 +24,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QUrl>
 
@@ -93,15 +95,6 @@ private:
     databaseTree::rows *m_rows;
     std::vector<firmOperations::nameChange> m_changes;
 };
-
-// A material of mine as it is once the listed fields of the other one are taken over.
-std::unique_ptr<materialStruct> merged(const materialDifference &difference)
-{
-    auto material = copyOf(*difference.mine);
-    for (int field : difference.fields)
-        comparedFields()[size_t(field)].take(*material, *difference.other);
-    return material;
-}
 
 } // namespace
 
@@ -341,39 +334,16 @@ void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { QDesktopServices::openUr
 void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
                                       bool deleteAbsent, const QString &what)
 {
+    historyMoves();
     const changeBatch batch(m_model);
-    std::vector<std::unique_ptr<command>> members;
-    const auto groupNamed = [this, &members](const d_groupStruct &like) -> QStandardItem * {
-        for (int row = 0; row < m_model->rowCount(); ++row)
-            if (databaseTree::rows::groupOf(m_model->item(row))->name == like.name)
-                return m_model->item(row);
-        auto group = std::make_unique<d_groupStruct>();
-        group->name = like.name;
-        group->cpv = like.cpv;
-        members.push_back(
-            std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(group))));
-        return m_model->item(m_model->rowCount() - 1);
-    };
-    for (const materialDifference &difference : selected) {
-        if (difference.kind == materialDifference::added) {
-            members.push_back(std::make_unique<appendItems>(
-                groupNamed(*difference.otherGroup), m_rows->makeRow(copyOf(*difference.other))));
-            continue;
-        }
-        if (difference.kind == materialDifference::absent && !deleteAbsent)
-            continue;
-        m_model->fetch(m_rows->groupItem(difference.myGroup));
-        myItem::myItemStandard *first = m_rows->find(difference.mine);
-        if (!first)
-            continue;
-        if (difference.kind == materialDifference::absent)
-            members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
-        else
-            members.push_back(std::make_unique<changeRow>(first->parent(), first->row(),
-                                                          m_rows->makeRow(merged(difference))));
-    }
-    if (!members.empty())
-        push(std::make_unique<appendCommands>(std::move(members), m_model), what);
+    databaseRowsTarget target(m_model, m_rows.get());
+    carryOut(selected, deleteAbsent ? absentOnes::remove : absentOnes::keep, m_rows->database(),
+             target);
+    auto step = target.step();
+    if (step)
+        push(std::move(step), what);
+    else
+        historyMoved();
 }
 
 void Kiv_mat_databaseWindow::renameFirms(const firmOperations::renameList &renames)
@@ -414,7 +384,6 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
         return;
     }
     QList<QStringList> shown;
-    QSet<QString> deleted;
     for (const materialDifference &difference : found.differences) {
         const materialStruct *material = difference.other ? difference.other : difference.mine;
         QStringList fields;
@@ -425,19 +394,22 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
                       : difference.kind == materialDifference::absent ? tr("deleted")
                                                                       : tr("changed"),
                       fields.join(QLatin1String(", "))});
-        if (difference.kind == materialDifference::absent)
-            deleted.insert(material->d_ktm);
     }
     changesDialog dialog(tr("Update"), {labels::ktm(), labels::name(), tr("Change"), tr("Fields")},
                          shown, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QStringList lines = deletedLines(found.differences);
-    const QStringList uses = openOrder ? usesOf(deleted, openOrder()) : QStringList();
     std::vector<materialDifference> wanted;
     for (int row : dialog.chosen())
         wanted.push_back(found.differences[size_t(row)]);
-    list({}, lines);
-    list(tr("The open order uses deleted materials:"), uses);
+    const QStringList lines = deletedLines(wanted);
+    QSet<QString> missing = deletedKtms(wanted);
     takeOver(wanted, true, tr("Update"));
+    // Another material, or another database, may have the same KTM.
+    for (const QString &ktm : QSet<QString>(missing))
+        if (known().materials().find(ktm))
+            missing.remove(ktm);
+    list({}, lines);
+    if (openOrder)
+        list(tr("The open order uses deleted materials:"), usesOf(missing, openOrder()));
 }

@@ -304,7 +304,7 @@ void firmWindow::clicked(const QModelIndex &cell)
 
 bool firmWindow::write(const QString &path)
 {
-    if (!saveDocument(path, *m_edited))
+    if (!saveDocument(path, *m_edited, known().config()))
         return false;
     known().loadFirm();
     return true;
@@ -321,7 +321,7 @@ bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &
     kiv_mat_databaseStruct &database = known().database(kind);
     const std::vector<nameChange> changes = changesOf(database, renames);
     applyNames(changes);
-    const bool written = saveDocument(path, database);
+    const bool written = saveDocument(path, database, known().config());
     if (written)
         // The database's own window would take this for another program's work.
         known().fileOf(kind) = fileState::of(path);

@@ -86,7 +86,7 @@ void orderDocument::startNew()
 
 bool orderDocument::save(const QString &path)
 {
-    if (!saveDocument(path, *m_order))
+    if (!saveDocument(path, *m_order, m_known.config()))
         return false;
     m_path = path;
     m_onDisk = fileState::of(path);

@@ -69,28 +69,6 @@ lineFaults faultsOf(const kiv_mat_zpStruct &order, const ktmIndex &materials)
     return faults;
 }
 
-lineSums sumsOf(const std::vector<const orderItemStruct *> &lines)
-{
-    lineSums sums;
-    for (const orderItemStruct *line : lines) {
-        ++sums.lines;
-        double quantity = 0;
-        double price = 0;
-        if (!isCount(line->quantity, &quantity)) {
-            ++sums.uncounted;
-            continue;
-        }
-        sums.quantity += quantity;
-        if (isCount(line->price, &price))
-            sums.price += price * quantity;
-        else
-            ++sums.uncounted;
-        if (isCount(line->averagePrice, &price))
-            sums.averagePrice += price * quantity;
-    }
-    return sums;
-}
-
 const QString &pcbKtm()
 {
     static const QString ktm = QStringLiteral("SRV-001.100");
@@ -142,7 +120,7 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
 }
 
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
-                  const std::vector<int> &columns, QString *reason)
+                  const std::vector<int> &columns, configStruct &config, QString *reason)
 {
     kiv_mat_zpStruct order;
     if (!readChecked(path, &order, reason))
@@ -157,7 +135,7 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
         order.orderItems.append(std::move(copy));
     }
     constexpr int keptVersions = 20;
-    fileVersions::keep(path, programData::instance().config().backupPath(), keptVersions);
+    fileVersions::keep(path, config.backupPath(), keptVersions);
     if (saveXmlNoEvents(path, &order) >= 0)
         return true;
     *reason = QCoreApplication::translate("orderOperations", "the file cannot be written");

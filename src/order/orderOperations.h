@@ -43,17 +43,6 @@ struct lineFaults
 };
 lineFaults faultsOf(const kiv_mat_zpStruct &order, const ktmIndex &materials);
 
-// Sums over some lines; quantities of different units add up too, as one number of pieces.
-struct lineSums
-{
-    double quantity = 0;
-    double price = 0;        // PLN, price times quantity
-    double averagePrice = 0; // PLN
-    int lines = 0;
-    int uncounted = 0; // lines whose price or quantity is no number
-};
-lineSums sumsOf(const std::vector<const orderItemStruct *> &lines);
-
 // --- New lines ---
 
 // The KTMs of lines that an order takes once each: ten of shipment, one of PCB, one of service.
@@ -69,10 +58,10 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
                                          const kiv_mat_zpStruct &order, const QString &quantity,
                                          const QDate &wait);
 // Copies lines to the end of another order's file, with the texts of these columns (their numbers
-// in the order of the record). An earlier version goes to the backup folder. False, with the file
-// as it was and the reason told, when it cannot be read or written.
+// in the order of the record). An earlier version goes to the configuration's backup folder. False,
+// with the file as it was and the reason told, when it cannot be read or written.
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
-                  const std::vector<int> &columns, QString *reason);
+                  const std::vector<int> &columns, configStruct &config, QString *reason);
 
 // The day by which ordinary lines are needed: today and ORDER_DATE_ADD days.
 QDate usualDate(const configStruct &config);

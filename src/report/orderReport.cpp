@@ -3,6 +3,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
+#include "data/orderSums.h"
 #include "data/vocabulary.h"
 #include "report/html.h"
 #include "report/sourceNames.h"
@@ -12,8 +13,6 @@
 #include "util/text.h"
 
 #include <QCoreApplication>
-
-#include <cmath>
 
 namespace {
 
@@ -191,28 +190,7 @@ void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
                     + QLatin1String("</p>\n"));
 }
 
-// A product that is a finite number is added; false when one of the texts is none.
-bool addProduct(double &sum, const QString &price, const QString &quantity)
-{
-    const double product = numbers::value(price) * numbers::value(quantity);
-    if (!numbers::check(price) || !numbers::check(quantity) || !std::isfinite(product))
-        return false;
-    sum += product;
-    return true;
-}
-
 } // namespace
-
-orderSums sumsOf(const kiv_mat_zpStruct &order)
-{
-    orderSums sums;
-    for (const auto &item : order.orderItems.items) {
-        if (!addProduct(sums.price, item->price, item->quantity))
-            ++sums.uncounted;
-        addProduct(sums.averagePrice, item->averagePrice, item->quantity);
-    }
-    return sums;
-}
 
 QString orderTitle(const kiv_mat_zpStruct &order)
 {

@@ -6,15 +6,6 @@
 class kiv_mat_zpStruct;
 class ktmIndex;
 
-// Sums over the lines of an order, in PLN.
-struct orderSums
-{
-    double price = 0;        // price times quantity
-    double averagePrice = 0; // average price times quantity
-    int uncounted = 0;       // lines whose price or quantity is no number
-};
-orderSums sumsOf(const kiv_mat_zpStruct &order);
-
 // The order as a complete HTML page that loads nothing: a header with number, date, target and
 // persons, one row a line, the sums and the attentions. Manufacturers and suppliers come from the
 // materials of the index; a line that it does not hold is shown without. Every text of the order is

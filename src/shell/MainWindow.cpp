@@ -4,6 +4,7 @@
 #include "config/configWindow.h"
 #include "data/kiv_infoStruct.h"
 #include "data/loaders.h"
+#include "data/orderSums.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
@@ -372,8 +373,7 @@ void MainWindow::showSums()
     m_path->setText(path.isEmpty() ? tr("New order") : QDir::toNativeSeparators(path));
     const std::vector<int> selected = m_order->selectedRows();
     const bool several = selected.size() > 1;
-    const orderOperations::lineSums sums =
-        orderOperations::sumsOf(m_order->records(several ? selected : m_order->allRows()));
+    const orderSums sums = sumsOf(m_order->records(several ? selected : m_order->allRows()));
     m_sums->setText((several ? tr("%n selected line(s), %1 PLN", nullptr, sums.lines)
                              : tr("%n line(s), %1 PLN", nullptr, sums.lines))
                         .arg(numbers::money(sums.price)));

@@ -5,6 +5,7 @@
 
 #include "bom/Kiv_bomWindow.h"
 #include "bom/needsDialog.h"
+#include "bom/orderLinesTarget.h"
 #include "commands/commandSys.h"
 #include "mail/mail.h"
 #include "order/orderView.h"
@@ -22,38 +23,8 @@
 #include <QStatusBar>
 
 using namespace bomOperations;
-using myItem::myItemStandard;
 
 namespace {
-
-// A cell's stored text, which may be no value of its kind: a quantity may have a fraction.
-class changeText final : public command
-{
-public:
-    changeText(myModel *model, myItemStandard *item, const QString &text)
-        : m_model(model)
-        , m_item(item)
-        , m_other(text)
-    {
-        exchange();
-    }
-    void undo() override { exchange(); }
-    void redo() override { exchange(); }
-
-private:
-    void exchange()
-    {
-        const QString before = m_item->text();
-        myItem::setStoredText(m_item, m_other);
-        m_other = before;
-        m_model->writeCell(m_item);
-        m_model->emitChangeValueOccured();
-    }
-
-    myModel *m_model;
-    myItemStandard *m_item;
-    QString m_other;
-};
 
 void removeAtTheEnd(const QString &path)
 {
@@ -100,32 +71,22 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
     for (const need *one : plan.unknown)
         userPrompts().listError(doesNotExist(one->ktm.isEmpty() ? one->name : one->ktm));
     const int changes = int(plan.changes.size());
+    const int skipped = plan.skipped;
+    const bool anyUnknown = !plan.unknown.empty();
     const QString what = tr("%n line(s) added or raised from BOM lists", nullptr, changes);
     if (changes > 0) {
+        orderLinesTarget target(m_order->lines(), &m_order->lineRows());
         std::unique_ptr<command> step;
         {
             const changeBatch batch(m_order->lines());
-            std::vector<std::unique_ptr<command>> members;
-            myModel *lines = m_order->lines();
-            for (orderChange &change : plan.changes)
-                if (change.added)
-                    members.push_back(std::make_unique<appendNewMaterial>(
-                        lines, m_order->lineRows().makeDetachedRow(std::move(change.added))));
-                else
-                    members.push_back(
-                        std::make_unique<changeText>(lines,
-                                                     static_cast<myItemStandard *>(lines->item(
-                                                         change.line, orderTree::quantityColumn)),
-                                                     change.quantity));
-            members.push_back(std::make_unique<::refreshHtml>(this));
-            step = std::make_unique<appendCommands>(std::move(members), m_order->lines());
+            apply(std::move(plan), target);
+            step = target.step(this);
         }
         push(std::move(step), what);
     }
-    tell(plan.skipped > 0
-             ? what + QLatin1String(", ") + tr("%n material(s) skipped", nullptr, plan.skipped)
-             : what);
-    if (!plan.unknown.empty())
+    tell(skipped > 0 ? what + QLatin1String(", ") + tr("%n material(s) skipped", nullptr, skipped)
+                     : what);
+    if (anyUnknown)
         userPrompts().showErrors();
 }
 

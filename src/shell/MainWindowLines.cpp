@@ -2,6 +2,7 @@
 #include "shell/MainWindow.h"
 
 #include "commands/cellBlock.h"
+#include "data/orderSums.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "order/addMaterialDialog.h"
@@ -135,7 +136,7 @@ void MainWindow::commandZpAllSum(bool)
 {
     const std::vector<int> selected = m_order->selectedRows();
     const std::vector<int> rows = selected.size() > 1 ? selected : m_order->allRows();
-    const orderOperations::lineSums sums = orderOperations::sumsOf(m_order->records(rows));
+    const orderSums sums = sumsOf(m_order->records(rows));
     const auto row = [](const QString &caption, const QString &value) {
         return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td></tr>")
             .arg(caption.toHtmlEscaped(), value);
@@ -229,7 +230,8 @@ void MainWindow::commandZpCopy(bool)
         return;
     }
     QString reason;
-    if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(), &reason))
+    if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(),
+                                      known().config(), &reason))
         tell(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
                  .arg(QDir::toNativeSeparators(path)));
     else

@@ -4,39 +4,26 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QtEndian>
 
-#include <algorithm>
+#include <zip.h>
+
+#include <memory>
 
 namespace {
 
-// The end record of an archive, and one line of its directory; offsets of their fields.
-constexpr int endSize = 22;
-constexpr int endEntries = 10;
-constexpr int endDirectorySize = 12;
-constexpr int largeLocatorSize = 20;
-constexpr int entrySize = 46;
-constexpr int entryNameSize = 28;
-constexpr int entryExtraSize = 30;
-constexpr int entryCommentSize = 32;
-constexpr int entryAttributes = 38;
-constexpr int largestComment = 0xffff;
 constexpr quint32 typeBits = 0170000;
 constexpr quint32 linkType = 0120000;
 
-const QByteArray endMark("PK\5\6");
-const QByteArray largeLocatorMark("PK\6\7");
-const QByteArray entryMark("PK\1\2");
+// What is packed here shrinks to a thirtieth; what shrinks to far less was made to fill a disk.
+constexpr quint64 usualSize = quint64(100) << 20;
+constexpr quint64 largestSize = quint64(4) << 30;
+constexpr quint64 largestRatio = 200;
 
-quint16 word(const QByteArray &bytes, int at)
+// Reads only: nothing is written back.
+struct archiveCloser
 {
-    return qFromLittleEndian<quint16>(bytes.constData() + at);
-}
-
-quint32 doubleWord(const QByteArray &bytes, int at)
-{
-    return qFromLittleEndian<quint32>(bytes.constData() + at);
-}
+    void operator()(zip_t *archive) const { zip_discard(archive); }
+};
 
 QString nameOf(const QByteArray &bytes)
 {
@@ -48,44 +35,40 @@ QString nameOf(const QByteArray &bytes)
 
 std::optional<std::vector<zipEntry>> zipEntries(const QString &path)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile())
         return {};
-    const qint64 tailStart =
-        std::max<qint64>(0, file.size() - endSize - largestComment - largeLocatorSize);
-    file.seek(tailStart);
-    const QByteArray tail = file.readAll();
-    const int end = tail.lastIndexOf(endMark);
-    if (end < 0 || end + endSize > tail.size()
-        || tail.mid(std::max(0, end - largeLocatorSize)).startsWith(largeLocatorMark))
+    // The directory has to agree with what stands before each file.
+    const std::unique_ptr<zip_t, archiveCloser> archive(
+        zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr));
+    if (!archive)
         return {};
-    const int count = word(tail, end + endEntries);
-    const qint64 size = doubleWord(tail, end + endDirectorySize);
-    // What stands before the archive, as in one that unpacks itself, shifts the directory.
-    if (!file.seek(tailStart + end - size))
-        return {};
-    const QByteArray directory = file.read(size);
-    if (directory.size() != size)
-        return {};
-
     std::vector<zipEntry> entries;
-    int at = 0;
-    while (at < directory.size()) {
-        if (at + entrySize > directory.size() || directory.mid(at, entryMark.size()) != entryMark)
+    const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
+    for (zip_int64_t i = 0; i < count; ++i) {
+        const auto index = zip_uint64_t(i);
+        zip_stat_t state;
+        zip_uint32_t attributes = 0;
+        if (zip_stat_index(archive.get(), index, ZIP_FL_ENC_RAW, &state) != 0
+            || !(state.valid & ZIP_STAT_NAME) || !(state.valid & ZIP_STAT_SIZE)
+            || zip_file_get_external_attributes(archive.get(), index, 0, nullptr, &attributes) != 0)
             return {};
-        const int nameSize = word(directory, at + entryNameSize);
-        const int next = at + entrySize + nameSize + word(directory, at + entryExtraSize)
-                         + word(directory, at + entryCommentSize);
-        if (next > directory.size())
-            return {};
-        const quint32 mode = doubleWord(directory, at + entryAttributes) >> 16;
-        entries.push_back(
-            {nameOf(directory.mid(at + entrySize, nameSize)), (mode & typeBits) == linkType});
-        at = next;
+        const bool isLink = ((attributes >> 16) & typeBits) == linkType;
+        entries.push_back({nameOf(state.name), isLink, state.size});
     }
-    if (static_cast<int>(entries.size()) != count)
-        return {};
     return entries;
+}
+
+bool isTooLarge(const std::vector<zipEntry> &entries, qint64 archiveSize)
+{
+    quint64 sum = 0;
+    for (const zipEntry &entry : entries) {
+        if (entry.size > largestSize)
+            return true;
+        sum += entry.size;
+        if (sum > largestSize)
+            return true;
+    }
+    return sum > usualSize && sum / largestRatio > quint64(archiveSize);
 }
 
 bool landsInside(const zipEntry &entry, const QString &folder)
@@ -94,7 +77,7 @@ bool landsInside(const zipEntry &entry, const QString &folder)
     QString name = entry.name;
     name.replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (entry.isLink || name.isEmpty() || name.startsWith(QLatin1Char('/')) || name.contains(drive)
-        || name.contains(QChar::Null) || name.split(QLatin1Char('/')).contains(QLatin1String("..")))
+        || name.split(QLatin1Char('/')).contains(QLatin1String("..")))
         return false;
     // A link that stands in the folder already may lead out of it.
     const QString root = QFileInfo(folder).canonicalFilePath();

@@ -10,12 +10,17 @@ struct zipEntry
 {
     QString name; // UTF-8, or bytes as characters where it is none
     bool isLink = false;
+    quint64 size = 0; // unpacked, bytes
 };
 
 // The entries of the archive's directory, in its order. Nothing when the file cannot be read, is no
-// archive or a damaged one, or is larger than the plain format allows (65,534 entries, 4 GB).
+// archive or a damaged one, or its directory says other things than its files.
 std::optional<std::vector<zipEntry>> zipEntries(const QString &path);
 
 // Whether the entry, unpacked into the folder, stays there: its name is relative, does not lead
 // upwards, follows no link out of the folder, and it is no link itself. Both slashes separate.
 bool landsInside(const zipEntry &entry, const QString &folder);
+
+// Whether the entries are more than an archive of honest data unpacks to: above 4 GB, or above
+// 100 MB and 200 times the archive's size.
+bool isTooLarge(const std::vector<zipEntry> &entries, qint64 archiveSize);

@@ -65,6 +65,8 @@ void zip_compress::decompress(const QString &archive, const QString &folder,
     for (const zipEntry &entry : *entries)
         if (!landsInside(entry, folder))
             return refuse(tr("Archive entry lies outside the folder"), entry.name);
+    if (isTooLarge(*entries, QFileInfo(archive).size()))
+        return refuse(tr("Archive unpacks to more than it may"), archive);
     if (folder.isEmpty() || !QDir().mkpath(folder))
         return refuse(tr("Folder cannot be created"), folder);
     m_completed = tr("Decompression complete");

@@ -4,6 +4,7 @@
 
 #include "data/fieldTable.h"
 #include "tree/myModel.h"
+#include "tree/recordPlaces.h"
 
 #include <functional>
 
@@ -122,33 +123,18 @@ public:
 
     void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override
     {
-        auto place = m_list->end();
-        if (row + 1 < parent->rowCount())
-            place = find(static_cast<myItem::myItemStandard *>(parent->child(row + 1)), row);
-        first->ownedRecord.release();
-        m_list->insert(place, std::unique_ptr<Record>(recordOf(first)));
+        recordPlaces::putInto(*m_list, parent, row, first);
     }
 
     void rowTaken(QStandardItem *, int row, myItem::myItemStandard *first) override
     {
-        const auto place = find(first, row);
-        first->ownedRecord = std::move(*place);
-        m_list->erase(place);
+        recordPlaces::takeFrom(*m_list, row, first);
     }
 
     // Called after a cell's text went to its record.
     std::function<void(myItem::myItemStandard *item, myItem::myItemStandard *first)> onChange;
 
 private:
-    // A sorted tree shows the list in another order, so the row is only where to look first.
-    typename recordList::iterator find(const myItem::myItemStandard *first, int row)
-    {
-        if (size_t(row) < m_list->size() && (*m_list)[size_t(row)].get() == first->record)
-            return m_list->begin() + row;
-        return std::find_if(m_list->begin(), m_list->end(),
-                            [first](const auto &r) { return r.get() == first->record; });
-    }
-
     treeColumns<Record> m_columns;
     recordList *m_list = nullptr;
 };

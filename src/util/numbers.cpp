@@ -42,6 +42,21 @@ std::optional<double> finite(const QString &text)
     return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
+bool addProduct(double *sum, double a, double b)
+{
+    const double after = *sum + a * b;
+    if (!std::isfinite(after))
+        return false;
+    *sum = after;
+    return true;
+}
+
+bool addProduct(double *sum, double a, const QString &b)
+{
+    const std::optional<double> number = finite(b);
+    return number && addProduct(sum, a, *number);
+}
+
 QString plain(double value)
 {
     constexpr int decimals = 6;

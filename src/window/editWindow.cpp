@@ -225,14 +225,18 @@ void editWindow::tellHistory(const QString &form, const QString &what)
 
 void editWindow::commandUndo(bool)
 {
-    if (!refuseWhileLocked())
-        tellHistory(tr("Undone: %1"), m_stack->undo());
+    if (refuseWhileLocked())
+        return;
+    historyMoves();
+    tellHistory(tr("Undone: %1"), m_stack->undo());
 }
 
 void editWindow::commandRedo(bool)
 {
-    if (!refuseWhileLocked())
-        tellHistory(tr("Done again: %1"), m_stack->redo());
+    if (refuseWhileLocked())
+        return;
+    historyMoves();
+    tellHistory(tr("Done again: %1"), m_stack->redo());
 }
 
 // --- Cells

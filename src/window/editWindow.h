@@ -154,7 +154,9 @@ protected:
     virtual void closed() { setClean(); }
     // The file as it was when it was read or written last.
     virtual fileState &onDisk() { return m_onDisk; }
-    // After a step was done, undone or done again, and before it is told.
+    // Before a step is undone or done again; and after it was, or a new one was done, before it is
+    // told.
+    virtual void historyMoves() {}
     virtual void historyMoved() {}
     // After the window was locked or unlocked.
     virtual void lockChanged() {}

@@ -132,6 +132,13 @@ void tst_bom::sumsPerSetAndTimesSets()
     QCOMPARE(timesSets(sums, 3).price, 15.0);
     QCOMPARE(timesSets(sums, 3).lines, 7);
     QCOMPARE(timesSets(sums, -1).quantity, 0.0);
+    // What is too large for a sum is left out of it and told.
+    const kiv_mat_bomStruct *huge = list("A 1e308;B 1e308");
+    QCOMPARE(sumsOf(*huge, m_index).quantity, 1e308);
+    const bomSums ten = timesSets(sumsOf(*huge, m_index), 10);
+    QCOMPARE(ten.quantity, 0.0);
+    QCOMPARE(ten.uncounted, 2);
+    QCOMPARE(demandOf({{huge, 10}, {list("A 1"), 1}}, m_index).uncounted.size(), size_t(2));
 
     const bomSums all = sumsOf({{one, 2}, {list("B 1"), 10}, {list("B 1"), 0}}, m_index);
     QCOMPARE(all.price, 30.0);

@@ -8,6 +8,7 @@
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
 #include "data/loaders.h"
+#include "data/orderSums.h"
 #include "report/orderReport.h"
 #include "util/labels.h"
 #include "util/paths.h"

@@ -6,6 +6,7 @@
 #include "util/paths.h"
 
 #include <QDirIterator>
+#include <QRandomGenerator>
 #include <QTcpServer>
 #include <QXmlSchema>
 #include <QXmlSchemaValidator>
@@ -24,6 +25,8 @@ private slots:
     void ktmForms();
     void cpvForms_data();
     void cpvForms();
+    void fastAsByFile_data();
+    void fastAsByFile();
     void messagesNameLineAndColumn();
     void fewBoxesAreShown();
     void largeFilesGetTheStreamingVerdict();
@@ -175,6 +178,77 @@ void tst_validation::cpvForms()
 {
     QFETCH(QString, value);
     QTEST(checkCpv(value), "expected");
+}
+
+void tst_validation::fastAsByFile_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    const auto row = [](const char *name, const QByteArray &from, const QByteArray &to) {
+        QTest::newRow(name) << from << to;
+    };
+    const QByteArray pattern = "<xs:pattern value=\"[0-9]{8}-[0-9]\"/>";
+    row("as shipped", "", "");
+    row("any text", pattern, "<xs:pattern value=\".*\"/>");
+    row("no pattern", pattern, "");
+    row("length", pattern, pattern + "<xs:maxLength value=\"9\"/>");
+    row("white space", pattern, "<xs:whiteSpace value=\"collapse\"/>" + pattern);
+    row("token", "<xs:restriction base=\"xs:string\">", "<xs:restriction base=\"xs:token\">");
+    row("digits", pattern, "<xs:pattern value=\"\\d{8}-\\d\"/>");
+    row("anchor", pattern, "<xs:pattern value=\"^[0-9]{8}-[0-9]$\"/>");
+    row("two steps", "base=\"xs:string\">\n            " + pattern, "base=\"ktmType\">" + pattern);
+    row("sequence", "type=\"cpvType\"/>\n        </xs:choice>",
+        "type=\"cpvType\"/><xs:element name=\"x\"/>\n        </xs:choice>");
+    row("twice", "name=\"cpv\" type=\"cpvType\"/>",
+        "name=\"cpv\" type=\"cpvType\" minOccurs=\"2\" maxOccurs=\"2\"/>");
+    row("broken", pattern, "<xs:pattern value=\"[\"/>");
+    row("not well-formed", pattern, "<");
+}
+
+// What is found without a file is what the validation of one finds.
+void tst_validation::fastAsByFile()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QByteArray xsd = testSupport::read(testSupport::source("_validator/kiv_mat.xsd"));
+    if (!from.isEmpty()) {
+        QVERIFY(xsd.contains(from));
+        xsd.replace(from, to);
+    }
+    m_folder->write("_validator/kiv_mat.xsd", xsd);
+
+    QStringList values{"",
+                       "312040-30.12-00220",
+                       "SRV-000.100",
+                       "31711130-3",
+                       "31711130-3 ",
+                       " 31711130-3",
+                       "31711130-3\n",
+                       "a\r\nb",
+                       "\t",
+                       "&amp;<x>]]>",
+                       "\u0105\u2028",
+                       "\u0663"};
+    values << QString(QChar(1)) << QString(QChar(0xfffe)) << QString(QChar(0xd800))
+           << QString::fromUcs4(U"\U0001f600") << QString(3000, 'A');
+    QRandomGenerator random(20261125);
+    while (values.size() < (from.isEmpty() ? 80 : 25)) {
+        QString value = values[1 + random.bounded(3)];
+        const QString letters = "AZ09-. az\u0104\n";
+        for (int i = random.bounded(3); i > 0; --i)
+            value.replace(random.bounded(value.size()), random.bounded(2),
+                          letters[random.bounded(letters.size())]);
+        values.append(value);
+    }
+    for (const QString &value : qAsConst(values)) {
+        QVERIFY2(checkKtm(value) == checkByFile("ktm", value), qPrintable(value));
+        QVERIFY2(checkCpv(value) == checkByFile("cpv", value), qPrintable(value));
+    }
+    // A schema that is written anew counts at once.
+    m_folder->write("_validator/kiv_mat.xsd", "<x/>");
+    QVERIFY(!checkCpv("31711130-3"));
+    QFile::remove(m_folder->path("_validator/kiv_mat.xsd"));
+    QVERIFY(!checkCpv("31711130-3"));
 }
 
 void tst_validation::messagesNameLineAndColumn()

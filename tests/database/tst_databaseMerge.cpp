@@ -7,8 +7,6 @@
 #include "data/loaders.h"
 #include "database/databaseMerge.h"
 
-#include <QRandomGenerator>
-
 using testSupport::manufacturer;
 using testSupport::material;
 
@@ -28,15 +26,6 @@ QStringList summary(const comparison &result)
     return lines;
 }
 
-// The database as it would be saved.
-QByteArray saved(const kiv_mat_databaseStruct &database)
-{
-    QByteArray bytes;
-    QXmlStreamWriter writer(&bytes);
-    database.writeXml(&writer);
-    return bytes;
-}
-
 } // namespace
 
 class tst_databaseMerge : public QObject
@@ -44,11 +33,9 @@ class tst_databaseMerge : public QObject
     Q_OBJECT
 private slots:
     void everyFieldCounts();
-    void copiesAreEqual();
     void differencesInFileOrder();
     void repeatedAndMissingKtms();
     void mergeTakesWhatIsSelected();
-    void randomUpdatesEndEqual();
     void usesAreListed();
     void cancelled();
 };
@@ -80,27 +67,13 @@ void tst_databaseMerge::everyFieldCounts()
         comparison found = compareDatabases(mine, other);
         QCOMPARE(summary(found), QStringList("~K " + field.name));
         QVERIFY(field.text(*o) != field.text(*found.differences[0].mine));
-        mergeDatabase(mine, found.differences);
+        carryOut(found.differences, absentOnes::keep, &mine);
         QVERIFY(compareDatabases(mine, other).differences.empty());
         // A copy, not the other's own.
         o->manufacturers.items.clear();
         QCOMPARE(int(mine.groups[0]->items[0]->manufacturers.items.size()),
                  field.name == "manufacturers" ? 1 : 0);
     }
-}
-
-void tst_databaseMerge::copiesAreEqual()
-{
-    kiv_mat_databaseStruct database;
-    materialStruct *m = material(database, "A", "K", "n");
-    m->d_designator = "R1";
-    m->information.comment = "c";
-    manufacturer(m, "Y", "1", "link")->files.items[0]->type = "FILE_DATASHEET";
-    const auto copy = copyOf(*m);
-    QVERIFY(*copy == *m);
-    QCOMPARE(copy->d_designator, QString("R1"));
-    copy->manufacturers.items[0]->files.items[0]->type = "x";
-    QVERIFY(!(*copy == *m));
 }
 
 void tst_databaseMerge::differencesInFileOrder()
@@ -158,36 +131,13 @@ void tst_databaseMerge::mergeTakesWhatIsSelected()
                                              found.differences[3]};
     std::erase_if(selected[0].fields,
                   [](int f) { return comparedFields()[size_t(f)].name == "d_name"; });
-    mergeDatabase(mine, selected);
+    carryOut(selected, absentOnes::keep, &mine);
     QCOMPARE(m->d_name, QString("old name"));
     QCOMPARE(m->d_price, QString("2"));
     QCOMPARE(int(mine.groups[0]->items.size()), 2);
     QCOMPARE(mine.groups[1]->cpv, QString("31711130-3"));
     QCOMPARE(mine.groups[1]->items[0]->d_ktm, QString("3"));
     QVERIFY(mine.groups[1]->items[0].get() != other.groups[1]->items[0].get());
-}
-
-// Whatever was done to a copy: after the update mine holds the same materials as it.
-void tst_databaseMerge::randomUpdatesEndEqual()
-{
-    QRandomGenerator random(20261125);
-    for (int round = 0; round < 50; ++round) {
-        kiv_mat_databaseStruct mine;
-        kiv_mat_databaseStruct other;
-        for (int i = 0; i < 60; ++i) {
-            const QString ktm = QString::number(random.bounded(50));
-            const QString group = QString::number(random.bounded(4));
-            if (random.bounded(4) != 0)
-                material(mine, group, ktm)->d_price = QString::number(random.bounded(2));
-            if (random.bounded(4) != 0)
-                material(other, group, ktm)->d_price = QString::number(random.bounded(2));
-        }
-        const QByteArray before = saved(other);
-        updateDatabase(mine, compareDatabases(mine, other).differences);
-        QCOMPARE(summary(compareDatabases(mine, other)), QStringList());
-        QCOMPARE(mine.materialCount(), other.materialCount());
-        QCOMPARE(saved(other), before);
-    }
 }
 
 void tst_databaseMerge::usesAreListed()

@@ -1,6 +1,7 @@
 // The database window and the merge view on the sample warehouse.
 #include "testSupport.h"
 
+#include "data/kiv_mat_zpStruct.h"
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTreeWidget>
 
 class tst_databaseWindow : public QObject
 {
@@ -28,6 +30,7 @@ private slots:
     void saving();
     void listingIsOneStep();
     void mergeView();
+    void updateDeletesWhatIsMarked();
     void toOrder();
 
 private:
@@ -61,7 +64,8 @@ void tst_databaseWindow::init()
     known.loadConfiguration();
     known.loadFirm();
     known.loadDatabase(programData::warehouse);
-    m_window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
+    m_window =
+        std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
     m_window->show();
     m_window->commandEdit(true);
 }
@@ -294,6 +298,42 @@ void tst_databaseWindow::mergeView()
     QCOMPARE(content(), before);
     QVERIFY(!merge.open(m_folder->write("bad.xml", "bad")));
     QVERIFY(m_shown->listed.contains("bad.xml</b>"));
+}
+
+void tst_databaseWindow::updateDeletesWhatIsMarked()
+{
+    const QString path = m_folder->path("other.xml");
+    const QString deleted = first()->d_ktm;
+    const QString kept = database().groups[0]->items[1]->d_ktm;
+    kiv_mat_databaseStruct other;
+    QCOMPARE(loadDatabase(database().filePath, &other), 0);
+    other.groups[0]->items.erase(other.groups[0]->items.begin(),
+                                 other.groups[0]->items.begin() + 2);
+    QCOMPARE(saveXmlNoEvents(path, &other), 0);
+    kiv_mat_zpStruct order;
+    order.initialise(programData::instance().config());
+    for (const QString &ktm : {deleted, kept})
+        order.orderItems.append(std::make_unique<orderItemStruct>())->ktm = ktm;
+    m_window->openOrder = [&order]() -> const kiv_mat_zpStruct & { return order; };
+
+    m_shown->file = path;
+    QTimer answer;
+    connect(&answer, &QTimer::timeout, this, [&kept] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        for (QTreeWidgetItem *item :
+             dialog->findChild<QTreeWidget *>()->findItems(kept, Qt::MatchExactly))
+            item->setCheckState(0, Qt::Unchecked);
+        dialog->accept();
+    });
+    answer.start(10);
+    m_window->commandUpdate(true);
+    const ktmIndex &known = programData::instance().materials();
+    QVERIFY(!known.find(deleted) && known.find(kept));
+    // In the list of the deleted ones and in that of their uses.
+    QCOMPARE(m_shown->listed.count(deleted), 2);
+    QCOMPARE(m_shown->listed.count(kept), 0);
 }
 
 void tst_databaseWindow::toOrder()

@@ -440,13 +440,15 @@ void tst_order::copyAndFind()
     const QString other = m_folder->path("other.xml");
     QVERIFY(QFile::copy(path(), other));
     QString reason;
-    QVERIFY(orderOperations::appendToFile(other, view().records({2}), {1, 5}, &reason));
+    QVERIFY(orderOperations::appendToFile(other, view().records({2}), {1, 5},
+                                          programData::instance().config(), &reason));
     kiv_mat_zpStruct target;
     QCOMPARE(loadZp(other, &target), 0);
     QCOMPARE(target.orderItems.items.back()->name, QString("ABLS-8.000MHZ-B4-T"));
     QCOMPARE(target.orderItems.items.back()->ktm, QString());
     QCOMPARE(target.orderItems.items.back()->index, QString("22"));
-    QVERIFY(!orderOperations::appendToFile(m_folder->write("bad.xml", "bad"), {}, {}, &reason));
+    QVERIFY(!orderOperations::appendToFile(m_folder->write("bad.xml", "bad"), {}, {},
+                                           programData::instance().config(), &reason));
     QCOMPARE(testSupport::read(m_folder->path("bad.xml")), QByteArray("bad"));
 }
 

@@ -4,6 +4,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
+#include "data/orderSums.h"
 #include "data/vocabulary.h"
 #include "report/orderReport.h"
 #include "util/translation.h"
@@ -43,6 +44,7 @@ void tst_orderReport::sums()
     QCOMPARE(sums.price, 62.15);
     QCOMPARE(sums.averagePrice, 64.4);
     QCOMPARE(sums.uncounted, 4);
+    QCOMPARE(sums.lines, 6);
     QVERIFY(orderReport(order, {}).contains("<b>62.15</b> [ PLN ]"));
     QVERIFY(orderReport(order, {}).contains("4 lines without a price or quantity"));
 }

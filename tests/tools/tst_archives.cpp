@@ -20,12 +20,12 @@ QByteArray number(quint64 value, int bytes)
     return text;
 }
 
-// An archive of one stored file of one byte "x".
-QByteArray archiveOf(const QByteArray &name, quint32 mode = 0100644)
+// An archive of one file of one byte "x", stored, or deflated to the size it says.
+QByteArray archiveOf(const QByteArray &name, quint32 mode = 0100644, quint32 size = 1)
 {
-    const QByteArray sizes = number(0x8cdc1683, 4) + number(1, 4) + number(1, 4);
-    const QByteArray head =
-        number(0, 2) + number(0, 2) + number(0, 4) + sizes + number(name.size(), 2) + number(0, 2);
+    const QByteArray sizes = number(0x8cdc1683, 4) + number(1, 4) + number(size, 4);
+    const QByteArray head = number(0, 2) + number(size == 1 ? 0 : 8, 2) + number(0, 4) + sizes
+                            + number(name.size(), 2) + number(0, 2);
     const QByteArray file = "PK\3\4" + number(20, 2) + head + name + "x";
     const QByteArray directory = "PK\1\2" + number(0x0314, 2) + number(20, 2) + head + number(0, 2)
                                  + number(0, 2) + number(0, 2) + number(quint64(mode) << 16, 4)
@@ -58,6 +58,7 @@ private slots:
     void outsideIsRefused_data();
     void outsideIsRefused();
     void linksInTheFolder();
+    void hugeArchives();
     void damagedArchives();
     void refusals();
     void commandTexts();
@@ -236,15 +237,33 @@ void tst_archives::linksInTheFolder()
     QVERIFY(QFile::exists(target + "/sub/n/x"));
 }
 
+// What would fill the disk is refused before anything is written.
+void tst_archives::hugeArchives()
+{
+    const auto large = [this](const QByteArray &archive) {
+        unpack(m_folder->write("huge.zip", archive), m_folder->path("huge"));
+        return m_log.contains("Archive unpacks to more than it may [");
+    };
+    QVERIFY(large(archiveOf("x", 0100644, 0xfffffff0)));
+    QVERIFY(large(archiveOf("x", 0100644, 101 << 20)));
+    QVERIFY(!QFile::exists(m_folder->path("huge")));
+    QVERIFY(!large(archiveOf("x", 0100644, 99 << 20)));
+    const std::vector<zipEntry> gigabytes(5, {"x", false, quint64(1) << 30});
+    QVERIFY(isTooLarge(gigabytes, qint64(4) << 30));
+    QVERIFY(!isTooLarge({gigabytes.begin(), gigabytes.begin() + 4}, qint64(1) << 30));
+    QVERIFY(isTooLarge({{"x", false, ~quint64(0)}, {"y", false, 2}}, qint64(1) << 40));
+}
+
 // Every cut and many changed bytes: read or refused, and nothing is read that is not there.
 void tst_archives::damagedArchives()
 {
     const QByteArray good = archiveOf("name");
     for (int length = 0; length < good.size(); ++length)
         QVERIFY(!zipEntries(m_folder->write("cut.zip", good.left(length))));
-    QVERIFY(zipEntries(m_folder->write("prefix.zip", "#!/bin/sh\n" + good)));
-    QCOMPARE(unpack(m_folder->path("prefix.zip"), m_folder->path("out")), 1);
-    QVERIFY(QFile::exists(m_folder->path("out/name")));
+    QVERIFY(!zipEntries(m_folder->write("shifted.zip", "#!/bin/sh\n" + good)));
+    // One name in the directory, another before the file.
+    QVERIFY(zipEntries(m_folder->write("honest.zip", good)));
+    QVERIFY(!zipEntries(m_folder->write("lying.zip", QByteArray(good).replace(30, 4, "evil"))));
     QRandomGenerator random(20261125);
     int refused = 0;
     for (int round = 0; round < 1000; ++round) {

@@ -1,0 +1,49 @@
+#include "database/databaseRowsTarget.h"
+
+#include "commands/editCommands.h"
+
+QStandardItem *databaseRowsTarget::fetched(const d_groupStruct *group)
+{
+    QStandardItem *item = m_rows->groupItem(group);
+    m_model->fetch(item);
+    return item;
+}
+
+d_groupStruct *databaseRowsTarget::addGroup(std::unique_ptr<d_groupStruct> group)
+{
+    d_groupStruct *added = group.get();
+    m_members.push_back(
+        std::make_unique<appendNewMaterial>(m_model, m_rows->makeRow(std::move(group))));
+    return added;
+}
+
+void databaseRowsTarget::add(d_groupStruct *group, std::unique_ptr<materialStruct> material)
+{
+    m_members.push_back(
+        std::make_unique<appendItems>(fetched(group), m_rows->makeRow(std::move(material))));
+}
+
+void databaseRowsTarget::replace(d_groupStruct *group, materialStruct *material,
+                                 std::unique_ptr<materialStruct> content)
+{
+    QStandardItem *parent = fetched(group);
+    if (const QStandardItem *first = m_rows->find(material))
+        m_members.push_back(
+            std::make_unique<changeRow>(parent, first->row(), m_rows->makeRow(std::move(content))));
+}
+
+void databaseRowsTarget::remove(d_groupStruct *group, const QSet<const materialStruct *> &materials)
+{
+    QStandardItem *parent = fetched(group);
+    // From the last one on, where taking one moves none of the others.
+    for (int row = parent->rowCount() - 1; row >= 0; --row)
+        if (materials.contains(databaseTree::rows::materialOf(parent->child(row))))
+            m_members.push_back(std::make_unique<deleteFromItem>(parent, parent->child(row)));
+}
+
+std::unique_ptr<command> databaseRowsTarget::step()
+{
+    if (m_members.empty())
+        return nullptr;
+    return std::make_unique<appendCommands>(std::exchange(m_members, {}), m_model);
+}
