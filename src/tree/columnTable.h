@@ -125,7 +125,7 @@ public:
         auto place = m_list->end();
         if (row + 1 < parent->rowCount())
             place = find(static_cast<myItem::myItemStandard *>(parent->child(row + 1)), row);
-        first->ownedRecord.release();
+        (void)first->ownedRecord.release(); // the list owns it from here on
         m_list->insert(place, std::unique_ptr<Record>(recordOf(first)));
     }
 
