@@ -13,7 +13,7 @@ import pathlib
 import re
 import sys
 
-root = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else pathlib.Path(__file__).parent.parent)
+root = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else pathlib.Path(__file__).resolve().parent.parent)
 src = root / "src"
 faults = []
 
@@ -94,14 +94,19 @@ def check_core(build):
                 waiting.append(name)
 
 
-table = read_table(root / "CONTRIBUTING.md")
-if not table:
-    sys.exit("CONTRIBUTING.md has no table of folders")
-for entry in sorted(src.iterdir()):
-    if entry.name not in table and entry.name != "CMakeLists.txt":
-        fault(entry, 1, "not in the table of folders in CONTRIBUTING.md")
-check_folders(sorted(p for p in src.rglob("*") if p.suffix in (".cpp", ".h")), table)
-check_core((src / "CMakeLists.txt").read_text(encoding="utf-8"))
+def main():
+    table = read_table(root / "CONTRIBUTING.md")
+    if not table:
+        sys.exit("CONTRIBUTING.md has no table of folders")
+    for entry in sorted(src.iterdir()):
+        if entry.name not in table and entry.name != "CMakeLists.txt":
+            fault(entry, 1, "not in the table of folders in CONTRIBUTING.md")
+    check_folders(sorted(p for p in src.rglob("*") if p.suffix in (".cpp", ".h")), table)
+    check_core((src / "CMakeLists.txt").read_text(encoding="utf-8"))
 
-print("\n".join(faults), end="\n" if faults else "")
-sys.exit(1 if faults else 0)
+    print("\n".join(faults), end="\n" if faults else "")
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main()
