@@ -101,7 +101,7 @@ MainWindow &mainWindow()
 void openOrder(benchmark::State &state)
 {
     MainWindow &window = mainWindow();
-    const QString path = orderPath();
+    const QString &path = orderPath();
     for (auto _ : state)
         report(state, secondsOf([&] {
                    window.document().load(path);

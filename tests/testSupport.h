@@ -11,8 +11,10 @@
 #include <functional>
 
 // Puts a test class in the list of the executable: KIVZP_TEST(tst_text) at the end of its file.
+// NOLINTBEGIN(bugprone-macro-parentheses): a class name takes none
 #define KIVZP_TEST(Class)                                                                          \
     static const bool registered_##Class = testSupport::add(#Class, [] { return new Class; });
+// NOLINTEND(bugprone-macro-parentheses)
 
 namespace testSupport {
 

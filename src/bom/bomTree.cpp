@@ -67,7 +67,7 @@ QStandardItem *child(const QStandardItem *first, int column)
 template <class Action>
 void withListBelow(const QStandardItem *parent, kiv_mat_bomsStruct *boms, const Action &action)
 {
-    if (!parent || parent == parent->model()->invisibleRootItem())
+    if (parent == parent->model()->invisibleRootItem())
         action(boms->categories);
     else if (depthOf(parent) == 0)
         action(static_cast<fileCategory *>(static_cast<const myItemStandard *>(parent)->record)

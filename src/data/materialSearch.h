@@ -82,6 +82,7 @@ private:
     {
         quint32 rank;
         quint32 place;
+        // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer that is compared with
         auto operator<=>(const hit &) const = default;
     };
     // A condition with what is known of it. While a user types, only the last one changes.

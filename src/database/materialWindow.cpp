@@ -21,7 +21,6 @@
 #include <QThread>
 #include <QUrl>
 
-using myItem::myItemStandard;
 
 namespace {
 

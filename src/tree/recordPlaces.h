@@ -27,7 +27,7 @@ void putInto(std::vector<std::unique_ptr<Record>> &list, QStandardItem *parent, 
     if (row + 1 < parent->rowCount())
         place = placeOf(list, static_cast<myItem::myItemStandard *>(parent->child(row + 1))->record,
                         row);
-    first->ownedRecord.release();
+    (void)first->ownedRecord.release(); // the list owns it from here on
     list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
 }
 

@@ -9,15 +9,15 @@
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
 #include "dialogs/aboutDialog.h"
+#include "firm/firmWindow.h"
 #include "order/addMaterialDialog.h"
 #include "order/linesDialog.h"
-#include "firm/firmWindow.h"
+#include "order/orderDocument.h"
+#include "order/orderView.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/logos.h"
-#include "order/orderView.h"
 #include "shell/startupDialog.h"
-#include "util/userState.h"
 #include "tree/myTreeView.h"
 #include "tree/richtexteditDialog.h"
 #include "util/localeSetup.h"
@@ -25,6 +25,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/translation.h"
+#include "util/userState.h"
 #include "window/messageWindow.h"
 
 #include <QApplication>
@@ -180,8 +181,8 @@ QWidget *showNeeds(MainWindow &window)
     const ktmIndex &materials = programData::instance().materials();
     std::vector<std::unique_ptr<kiv_mat_bomStruct>> read;
     std::vector<bomOperations::bomSets> lists;
-    for (const QString &path : filesOf(programData::instance().boms(),
-                                                      programData::instance().boms().filePath)) {
+    for (const QString &path :
+         filesOf(programData::instance().boms(), programData::instance().boms().filePath)) {
         read.push_back(std::make_unique<kiv_mat_bomStruct>());
         QString error;
         if (bomOperations::readBom(path, read.back().get(), &error))
@@ -282,7 +283,7 @@ int main(int argc, char **argv)
     }
     paths::setProgramDir(QDir(arguments.at(1)).absolutePath());
     const QDir out(arguments.at(2));
-    const QString language = arguments.at(3);
+    const QString &language = arguments.at(3);
     const QStringList wanted = arguments.mid(4);
     translation::install(language);
     QApplication::setStyle(new MyProxyStyle);

@@ -1,0 +1,2 @@
+#include "middle/middle.h"
+#include "missing.h"

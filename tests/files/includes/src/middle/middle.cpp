@@ -1,0 +1,4 @@
+#include "low/low.h"
+#include "middle/middle.h"
+#include "top/bare.h"
+#include <QString>
