@@ -149,6 +149,13 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+void write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
 void copyFolder(const QString &from, const QString &to)
 {
     for (QDirIterator it(from, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {

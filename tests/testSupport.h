@@ -76,6 +76,7 @@ private:
 };
 
 QByteArray read(const QString &path);
+void write(const QString &path, const QByteArray &content);
 
 // Copies a folder with all its files.
 void copyFolder(const QString &from, const QString &to);

@@ -37,10 +37,6 @@
         <source>no line is selected</source>
         <translation>nie wybrano pozycji</translation>
     </message>
-    <message>
-        <source>nothing was changed</source>
-        <translation>niczego nie zmieniono</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) deleted</source>
         <translation>
@@ -135,10 +131,6 @@
     <message>
         <source>no set of BOM lists is loaded</source>
         <translation>nie wczytano zbioru list materiałów</translation>
-    </message>
-    <message>
-        <source>nothing was changed</source>
-        <translation>niczego nie zmieniono</translation>
     </message>
     <message>
         <source>no list is built: all numbers of sets are 0</source>
@@ -569,10 +561,6 @@
     <message>
         <source>Firms renamed</source>
         <translation>Zmieniono nazwy firm</translation>
-    </message>
-    <message>
-        <source>nothing was changed</source>
-        <translation>niczego nie zmieniono</translation>
     </message>
 </context>
 <context>
@@ -2442,10 +2430,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>the file cannot be read</source>
         <translation>nie można odczytać pliku</translation>
     </message>
-    <message>
-        <source>nothing was changed</source>
-        <translation>niczego nie zmieniono</translation>
-    </message>
 </context>
 <context>
     <name>cpvOperations</name>
@@ -2674,6 +2658,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Saved</source>
         <translation>Zapisano</translation>
     </message>
+    <message>
+        <source>Nothing was changed</source>
+        <translation>Niczego nie zmieniono</translation>
+    </message>
 </context>
 <context>
     <name>emailTempWindow</name>
@@ -2725,10 +2713,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>the file cannot be read</source>
         <translation>nie można odczytać pliku</translation>
-    </message>
-    <message>
-        <source>nothing was changed</source>
-        <translation>niczego nie zmieniono</translation>
     </message>
     <message>
         <source>no firm selected</source>

@@ -111,7 +111,7 @@ void Kiv_bomViewWindow::updateActions()
     const QString noLine = tr("no line is selected");
     allowWhenUnlocked({"pasteCells", "deleteLines"}, onLine, noLine);
     setAvailable("copyText", onLine, noLine);
-    setAvailable("save", isModified(), tr("nothing was changed"));
+    setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
 }
 

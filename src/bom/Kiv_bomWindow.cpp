@@ -168,10 +168,8 @@ void Kiv_bomWindow::updateActions()
     int built = 0;
     for (const QStandardItem *file : files)
         built += bomTree::setsOf(file) > 0;
-    for (const char *name : {"addFile", "addGroup"})
+    for (const char *name : {"addFile", "addGroup", "save"})
         setAvailable(name, fault().isEmpty(), fault());
-    setAvailable("save", fault().isEmpty() && isModified(),
-                 fault().isEmpty() ? tr("nothing was changed") : fault());
     for (const char *name : {"set", "clear"})
         setAvailable(name, built > 0, tr("no list is built: all numbers of sets are 0"));
     for (const char *name : {"report", "allQuantities", "setAll"})

@@ -119,8 +119,10 @@ QStringList restartNeeded(const configStruct &before, const configStruct &after)
 {
     QStringList captions;
     for (const auto &option : after.options.items)
-        if (typeOf(option->type).needsRestart
-            && before.options.value(option->type) != option->value1)
+        // An option that a file lacks has its default.
+        if (const optionStruct *was = before.options.findOption(option->type);
+            typeOf(option->type).needsRestart
+            && (was ? was->value1 : defaultValue(option->type)) != option->value1)
             captions.append(labels::optionCaption(option->type));
     return captions;
 }

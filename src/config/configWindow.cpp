@@ -256,8 +256,7 @@ void configWindow::updateActions()
     allowWhenUnlocked({"default"});
     allowWhenUnlocked({"add", "delete"}, m_tabs->currentIndex() != optionsPage,
                       tr("options are neither added nor deleted"));
-    setAvailable("save", isModified() && !isLocked(),
-                 isLocked() ? lockedReason() : tr("nothing was changed"));
+    setAvailable("save", m_fault.isEmpty(), m_fault);
 }
 
 void configWindow::commandAdd(bool)

@@ -296,7 +296,6 @@ void Kiv_mat_databaseWindow::begin()
 
 void Kiv_mat_databaseWindow::updateActions()
 {
-    setAvailable("save", isModified(), tr("nothing was changed"));
     allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
                        "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"});
     allowWhenUnlocked({"pasteMaterials"}, !m_copied.empty(), tr("no material was copied"));

@@ -181,8 +181,7 @@ bool firmWindow::load()
 void firmWindow::updateActions()
 {
     const QModelIndex at = currentView()->currentIndex();
-    setAvailable("save", isModified() && m_fault.isEmpty(),
-                 m_fault.isEmpty() ? tr("nothing was changed") : m_fault);
+    setAvailable("save", m_fault.isEmpty(), m_fault);
     allowWhenUnlocked({"add"});
     allowWhenUnlocked({"delete", "pasteCells"}, at.isValid(), tr("no firm selected"));
     setAvailable("homePage", currentHomePage().isValid(), tr("no firm with a home page selected"));

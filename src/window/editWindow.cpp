@@ -337,7 +337,14 @@ bool editWindow::saveTo(const QString &path)
 
 bool editWindow::save() { return saveTo(filePath()); }
 
-void editWindow::commandSave(bool) { save(); }
+void editWindow::commandSave(bool)
+{
+    finishEditing();
+    if (isModified() || !fault().isEmpty())
+        save();
+    else
+        tell(tr("Nothing was changed"));
+}
 
 // --- Closing
 // --------------------------------------------------------------------------------------

@@ -1,0 +1,89 @@
+// The whole program in a folder of its own, worked with hands: the main window on the sample data,
+// and the windows that are opened from it.
+#pragma once
+
+#include "hands.h"
+#include "testSupport.h"
+
+#include "data/programData.h"
+#include "shell/MainWindow.h"
+#include "util/userState.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QStatusBar>
+
+class editingFixture : public QObject
+{
+    Q_OBJECT
+protected:
+    // The window that was opened last.
+    QMainWindow &window() { return *m_front; }
+    MainWindow &mainWindow() { return *m_main; }
+    QString path(const QString &relative) const { return m_folder->path(relative); }
+    testSupport::programFolder &folder() { return *m_folder; }
+    seenPrompts &seen() { return *m_seen; }
+
+    // Steps in the window that was opened last.
+    void work(const QString &steps) { (*m_hands)(steps); }
+    QStringList boxes() { return m_hands->boxes(); }
+    QString status() const { return m_front->statusBar()->currentMessage(); }
+
+    // Steps in the main window that open another one, which is worked in from here on.
+    void openWindow(const QString &steps)
+    {
+        const QStringList parts = steps.split('|');
+        for (const QString &part : parts) {
+            work(part);
+            if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
+                opened && opened != m_front) {
+                m_front = opened;
+                m_hands = std::make_unique<hands>(*opened);
+            }
+        }
+    }
+
+    // Called before the main window is made: other files, other options.
+    virtual void prepare() {}
+    void setOption(const char *key, const QString &value)
+    {
+        configStruct config;
+        QVERIFY(config.load(path("_config/kiv_mat_config.xml")));
+        config.options.findOption(key)->value1 = value;
+        QVERIFY(config.save(path("_config/kiv_mat_config.xml")));
+    }
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<testSupport::programFolder>();
+        for (const char *name : {"_config", "_files", "_zp"})
+            testSupport::copyFolder(testSupport::source(name), path(name));
+        configStruct config;
+        QVERIFY(config.load(path("_config/kiv_mat_config.xml")));
+        config.backupPath();
+        config.options.findOption("PATH_BACKUP")->value1 = path("backup");
+        QVERIFY(config.save(path("_config/kiv_mat_config.xml")));
+        userState::instance().lastZp = "_zp/zp_0.xml";
+        prepare();
+        m_seen = std::make_unique<seenPrompts>();
+        m_main = std::make_unique<MainWindow>(programData::instance());
+        m_front = m_main.get();
+        m_hands = std::make_unique<hands>(*m_main);
+    }
+    void cleanup()
+    {
+        m_hands.reset();
+        m_main.reset();
+        programData::instance().clear();
+        m_seen.reset();
+        m_folder.reset();
+    }
+
+private:
+    std::unique_ptr<testSupport::programFolder> m_folder;
+    std::unique_ptr<seenPrompts> m_seen;
+    std::unique_ptr<MainWindow> m_main;
+    QMainWindow *m_front = nullptr;
+    std::unique_ptr<hands> m_hands;
+};

@@ -1,0 +1,288 @@
+#include "hands.h"
+
+#include "testSupport.h"
+#include "util/text.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTimer>
+#include <QTreeView>
+#include <QWindow>
+
+namespace {
+
+constexpr int pauseMs = 15;
+constexpr int guardMs = 200;
+constexpr int mostMs = 15000;
+
+// The window that takes keys now.
+QWidget *front()
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    return QApplication::activeWindow();
+}
+
+void press(int key, Qt::KeyboardModifiers modifiers = {})
+{
+    QWindow *window = QGuiApplication::focusWindow();
+    if (QWidget *popup = QApplication::activePopupWidget())
+        window = popup->windowHandle();
+    QTest::keyClick(window, Qt::Key(key), modifiers);
+}
+
+// Steps are parted by blanks, but for those within apostrophes.
+QStringList parted(const QString &steps)
+{
+    QStringList list;
+    QString step;
+    bool quoted = false;
+    for (const QChar letter : steps) {
+        quoted = quoted != (letter == '\'');
+        if (letter == ' ' && !quoted) {
+            if (!step.isEmpty())
+                list.append(step);
+            step.clear();
+        } else {
+            step += letter;
+        }
+    }
+    if (!step.isEmpty())
+        list.append(step);
+    return list;
+}
+
+QChar mnemonicOf(const QString &text)
+{
+    const int at = text.indexOf('&');
+    return at < 0 ? QChar() : text.at(at + 1).toUpper();
+}
+
+QMenu *menuWith(QAction *action)
+{
+    const QList<QWidget *> widgets = action->associatedWidgets();
+    for (QWidget *widget : widgets)
+        if (auto *menu = qobject_cast<QMenu *>(widget))
+            return menu;
+    return nullptr;
+}
+
+} // namespace
+
+seenPrompts::seenPrompts()
+    : m_before(installPrompts(this))
+{
+}
+
+seenPrompts::~seenPrompts() { installPrompts(m_before); }
+
+hands::hands(QWidget &window)
+    : m_window(window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("the window does not become active");
+}
+
+void hands::operator()(const QString &steps)
+{
+    m_fault.clear();
+    m_steps = parted(steps);
+    m_running = true;
+    QElapsedTimer time;
+    time.start();
+    // A box that nobody answers would hold everything up.
+    QTimer guard;
+    QObject::connect(&guard, &QTimer::timeout, &guard, [&] {
+        QWidget *open = QApplication::activePopupWidget();
+        if (!open)
+            open = QApplication::activeModalWidget();
+        const bool isTooLate = time.elapsed() > mostMs;
+        if (isTooLate && m_fault.isEmpty())
+            m_fault = "hangs before " + m_steps.join(' ');
+        if (!open || (m_running && !isTooLate))
+            return;
+        noteBox();
+        if (m_fault.isEmpty() && qobject_cast<QMessageBox *>(open))
+            m_fault = "a box is left open, " + m_boxes.value(m_boxes.size() - 1);
+        if (!m_fault.isEmpty())
+            open->close();
+    });
+    guard.start(guardMs);
+    QTimer::singleShot(0, qApp, [this] { next(); });
+    while (m_running && time.elapsed() < mostMs + 1000)
+        QTest::qWait(1);
+    QTest::qWait(pauseMs);
+    QVERIFY2(m_fault.isEmpty(), qPrintable(steps + ": " + m_fault));
+}
+
+// The next step waits in the event loop before this one is done: this one may open a box, which has
+// a loop of its own.
+void hands::next()
+{
+    noteBox();
+    if (m_steps.isEmpty()) {
+        m_running = false;
+        return;
+    }
+    const QString step = m_steps.takeFirst();
+    int wait = pauseMs;
+    if (step.startsWith('~'))
+        wait = step.mid(1).toInt();
+    QTimer::singleShot(wait, qApp, [this] { next(); });
+    if (const QString fault = perform(step); !fault.isEmpty() && m_fault.isEmpty()) {
+        m_fault = step + ": " + fault;
+        m_steps.clear();
+    }
+}
+
+void hands::noteBox()
+{
+    QWidget *box = QApplication::activeModalWidget();
+    if (box == m_lastBox)
+        return;
+    m_lastBox = box;
+    if (const auto *message = qobject_cast<QMessageBox *>(box))
+        m_boxes.append(message->windowTitle() + ": "
+                       + text::htmlToPlain(message->text()).simplified());
+    else if (box)
+        m_boxes.append(box->windowTitle());
+}
+
+QStringList hands::boxes() { return std::exchange(m_boxes, {}); }
+
+QString hands::status() const
+{
+    const auto *window = qobject_cast<const QMainWindow *>(&m_window);
+    return window ? window->statusBar()->currentMessage() : QString();
+}
+
+QString hands::perform(const QString &step)
+{
+    if (step.startsWith('~'))
+        return {};
+    if (!front())
+        return "no window is in front";
+    if (step.startsWith('\'')) {
+        const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
+        for (const QChar letter : typed)
+            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown,
+                                QString(letter), {});
+        return {};
+    }
+    if (step.startsWith('#'))
+        return choose(step.mid(1));
+    if (step.startsWith('!')) {
+        const QString name = step.mid(1).replace('_', ' ');
+        for (auto *widget : front()->findChildren<QWidget *>()) {
+            auto *button = qobject_cast<QAbstractButton *>(widget);
+            const bool isIt = widget->objectName() == step.mid(1)
+                              || (button && button->text().remove('&') == name);
+            if (!isIt || !widget->isVisible())
+                continue;
+            if (!widget->isEnabled())
+                return "it is disabled";
+            QTest::mouseClick(widget, Qt::LeftButton);
+            return {};
+        }
+        return "there is no such widget";
+    }
+    if (step.contains('@'))
+        return clickCell(step);
+    const QKeySequence sequence(step);
+    if (sequence.isEmpty() || sequence[0] == Qt::Key_unknown)
+        return "no such key";
+    const int code = sequence[0];
+    press(code & ~Qt::KeyboardModifierMask, Qt::KeyboardModifiers(code & Qt::KeyboardModifierMask));
+    return {};
+}
+
+// Opens the menu by its letter and takes the entry by its own; where entries have none, by arrows.
+QString hands::choose(const QString &name)
+{
+    auto *context = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QAction *action = front()->findChild<QAction *>(name);
+    if (!action)
+        action = m_window.findChild<QAction *>(name);
+    if (!action)
+        return "there is no such action";
+    QMenu *menu = context && context->actions().contains(action) ? context : menuWith(action);
+    if (!menu)
+        return "it is in no menu";
+    if (menu != context) {
+        const QChar letter = mnemonicOf(menu->title());
+        if (letter.isNull())
+            return "its menu has no letter";
+        press(letter.unicode(), Qt::AltModifier);
+        if (QApplication::activePopupWidget() != menu)
+            return "its menu does not open";
+    }
+    if (!action->isEnabled()) {
+        menu->close();
+        return "it is disabled: " + action->toolTip();
+    }
+    const QChar letter = mnemonicOf(action->text());
+    if (!letter.isNull() && menu != context) {
+        QTest::keyClick(menu, Qt::Key(letter.unicode()));
+        return {};
+    }
+    for (int i = 0; i < menu->actions().size() && menu->activeAction() != action; ++i)
+        QTest::keyClick(menu, Qt::Key_Down);
+    if (menu->activeAction() != action)
+        return "the arrows do not come to it";
+    QTest::keyClick(menu, Qt::Key_Return);
+    return {};
+}
+
+QString hands::clickCell(const QString &step)
+{
+    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@)([\\d/]+),(\\d+)$");
+    const auto match = form.match(step);
+    if (!match.hasMatch())
+        return "no such step";
+    QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
+    if (!view || !view->isVisible())
+        return "there is no such tree in front";
+    QModelIndex index;
+    const QStringList rows = match.captured(4).split('/');
+    for (const QString &row : rows) {
+        if (view->model()->canFetchMore(index))
+            return "its parent is not open";
+        index = view->model()->index(row.toInt(), 0, index);
+    }
+    index = index.siblingAtColumn(match.captured(5).toInt());
+    if (!index.isValid())
+        return "there is no such cell";
+    view->scrollTo(index);
+    const QRect rect = view->visualRect(index);
+    const QRect seen = rect.intersected(view->viewport()->rect());
+    if (seen.isEmpty())
+        return "the cell is not seen";
+    const auto modifiers = match.captured(1).isEmpty() ? Qt::NoModifier : Qt::ControlModifier;
+    const QPoint place = seen.center();
+    const QString kind = match.captured(3);
+    if (kind == "@?") {
+        QTest::mouseClick(view->viewport(), Qt::RightButton, modifiers, place);
+        // What the window system adds to a right click.
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, place,
+                               view->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view->viewport(), &menu);
+        return {};
+    }
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, place);
+    if (kind == "@@")
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, modifiers, place);
+    return {};
+}

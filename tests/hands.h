@@ -1,0 +1,69 @@
+// A person at the program: keys go to whatever has the focus, clicks to what lies under them, menus
+// are opened by their letters, boxes are answered by keys. Nothing of the program is called.
+#pragma once
+
+#include "window/dialogPrompts.h"
+
+#include <QString>
+#include <QStringList>
+
+class QTreeView;
+class QWidget;
+
+// The program's real boxes and file dialogs; lines for the log and errors windows are noted.
+class seenPrompts : public dialogPrompts
+{
+public:
+    seenPrompts();
+    ~seenPrompts() override;
+    void log(const QString &html) override { logged += html; }
+    void listError(const QString &html) override { listed += html; }
+    void showErrors() override {}
+
+    QString logged;
+    QString listed;
+
+private:
+    prompts *m_before;
+};
+
+class hands
+{
+public:
+    // Brings a window to the front, as the one that is worked in.
+    explicit hands(QWidget &window);
+
+    // Does the steps one after the other, each in whatever window is in front by then:
+    //   F2  Ctrl+S  Return      a key
+    //   'text'                  types it ('' types an apostrophe)
+    //   lines@3,5  lines@@3,5   a click, a double click on a cell of the tree of that object name:
+    //                           row, logical column; lines@1/3,5 is row 3 below row 1
+    //   lines@?3,5              the same with the right button
+    //   +lines@3,5              a click with Ctrl
+    //   #name                   chooses the action of that object name from its menu, or from the
+    //                           context menu that is open
+    //   !name                   a click on the widget of that object name, or on the button of that
+    //                           text
+    //   ~200                    waits so many milliseconds
+    // Fails the test, telling the step, when one cannot be done or boxes are left at the end.
+    void operator()(const QString &steps);
+
+    // The titles and texts of the boxes that came up since this was last called, "title: text".
+    QStringList boxes();
+    // What stands in the status bar of the window.
+    QString status() const;
+
+private:
+    void next();
+    QString perform(const QString &step);
+    QString choose(const QString &name);
+    QString clickCell(const QString &step);
+    void noteBox();
+
+    QWidget &m_window;
+    QStringList m_steps;
+    QStringList m_boxes;
+    QWidget *m_lastBox = nullptr;
+    QString m_fault;
+    bool m_running = false;
+};
