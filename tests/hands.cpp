@@ -21,6 +21,7 @@ namespace {
 
 constexpr int pauseMs = 15;
 constexpr int guardMs = 200;
+constexpr int mostPatience = 100;
 constexpr int mostMs = 15000;
 
 // The window that takes keys now.
@@ -137,6 +138,13 @@ void hands::next()
         m_running = false;
         return;
     }
+    // A window manager would bring the window behind a closed one to the front.
+    if (!front() && m_patience-- > 0) {
+        m_window.activateWindow();
+        QTimer::singleShot(pauseMs, qApp, [this] { next(); });
+        return;
+    }
+    m_patience = mostPatience;
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))

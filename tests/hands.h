@@ -65,5 +65,6 @@ private:
     QStringList m_boxes;
     QWidget *m_lastBox = nullptr;
     QString m_fault;
+    int m_patience = 0;
     bool m_running = false;
 };

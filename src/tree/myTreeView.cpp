@@ -281,6 +281,15 @@ QModelIndex myTreeView::nextEditable(bool forward) const
     return {};
 }
 
+void myTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const QWidget *focused = window()->focusWidget();
+    const bool isMine = editor && focused && (editor == focused || editor->isAncestorOf(focused));
+    QTreeView::closeEditor(editor, hint);
+    if (isMine && state() != EditingState)
+        setFocus();
+}
+
 QModelIndex myTreeView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     if (action == MoveNext || action == MovePrevious)

@@ -59,6 +59,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     // Tab goes from one editable cell to the next.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    // The keyboard stays in the tree, also when a question came up while the value was taken.
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
     static constexpr EditTriggers usualTriggers = DoubleClicked | EditKeyPressed | AnyKeyPressed;

@@ -353,6 +353,13 @@ void editWindow::showNow()
 {
     if (!isVisible())
         begin();
+    // The keyboard is at home in the tree unless the window put it elsewhere.
+    myTreeView *view = currentView();
+    if (!focusWidget())
+        view->setFocus();
+    if (!view->currentIndex().isValid())
+        view->selectionModel()->setCurrentIndex(view->model()->index(0, 0),
+                                                QItemSelectionModel::NoUpdate);
     show();
     raise();
     activateWindow();

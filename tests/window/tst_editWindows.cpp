@@ -119,6 +119,22 @@ private slots:
         QVERIFY(!testSupport::read(fileOf(w)).contains("Żuk2"));
     }
 
+    // A question that comes up while a value is taken leaves the keyboard in the tree.
+    void keysGoOnAfterAQuestion_data()
+    {
+        QTest::addColumn<QString>("end");
+        QTest::newRow("Return") << "Return";
+        QTest::newRow("Ctrl+S") << "Ctrl+S";
+    }
+    void keysGoOnAfterAQuestion()
+    {
+        QFETCH(QString, end);
+        openWindow("#firm");
+        work("Down F2 Ctrl+A 'Żuk1' " + end + " Tab Return Down Right F2 Ctrl+A 'Żuk2' Ctrl+S");
+        QVERIFY(boxes().value(0).contains("Materials use the old name"));
+        QCOMPARE(testSupport::read(path("_files/firms.xml")).count("Żuk"), 2);
+    }
+
     // Another program's work is neither written over nor read unasked.
     void changedOnDisk_data() { addRows({"Escape", "Reload", "Overwrite"}); }
     void changedOnDisk()
