@@ -15,7 +15,7 @@ places = {
     "cli": (560, 0, "kivzp-cli"),
     "bom": (150, 1, "BOM lists"),
     "database": (360, 1, "material database"),
-    "firm": (570, 1, "firm register"),
+    "firm": (570, 2, "firm register"),
     "config": (780, 1, "configuration"),
     "order": (360, 2, "the order"),
     "dialogs": (570, 3, "dialogs of no subsystem"),
