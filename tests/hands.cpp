@@ -200,9 +200,9 @@ QString hands::perform(const QString &step)
                               || (button && button->text().remove('&') == name);
             if (!isIt || !widget->isVisible())
                 continue;
-            if (!widget->isEnabled())
-                return "it is disabled";
-            QTest::mouseClick(widget, Qt::LeftButton);
+            // Through the window, which knows who gets what a disabled button does not take.
+            QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
+                              widget->mapTo(widget->window(), widget->rect().center()));
             return {};
         }
         return "there is no such widget";

@@ -7,6 +7,7 @@
 #include "util/paths.h"
 #include "util/text.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,6 +15,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QProgressBar>
@@ -534,10 +536,32 @@ void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionVi
     editor->update();
 }
 
+// An action that waits for what is being typed is enabled by the time its key is looked up.
+void myModelDelegate::commitBeforeShortcut(QWidget *editor, QKeyEvent *event)
+{
+    // Keys of the editor's own come first.
+    event->ignore();
+    static_cast<QObject *>(editor)->event(event);
+    if (event->isAccepted())
+        return;
+    const QKeySequence pressed(event->key() | int(event->modifiers()));
+    const QList<QAction *> actions = editor->window()->findChildren<QAction *>();
+    if (std::any_of(actions.begin(), actions.end(), [&pressed](const QAction *action) {
+            return action->shortcuts().contains(pressed);
+        }))
+        emit commitData(editor);
+}
+
 bool myModelDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     // What the base takes for the end of an edit is everyday life in a dialog.
     if (qobject_cast<QDialog *>(watched))
         return false;
-    return QStyledItemDelegate::eventFilter(watched, event);
+    if (QStyledItemDelegate::eventFilter(watched, event))
+        return true;
+    auto *editor = qobject_cast<QWidget *>(watched);
+    if (!editor || event->type() != QEvent::ShortcutOverride)
+        return false;
+    commitBeforeShortcut(editor, static_cast<QKeyEvent *>(event));
+    return event->isAccepted();
 }

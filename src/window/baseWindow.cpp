@@ -74,6 +74,7 @@ QMenu *baseWindow::menuOf(const char *title)
     QMenu *menu = menuBar()->addMenu(translated(title));
     menu->setObjectName(name);
     menu->setToolTipsVisible(true);
+    connect(menu, &QMenu::aboutToShow, this, [this] { beforeAction(); });
     return menu;
 }
 
@@ -106,6 +107,9 @@ QAction *baseWindow::addAction(const actionRow &row)
             m_toolBar->setIconSize(QSize(iconSize, iconSize));
         }
         m_toolBar->QWidget::addAction(made);
+        QWidget *button = m_toolBar->widgetForAction(made);
+        button->setObjectName(made->objectName());
+        button->installEventFilter(this);
     }
     return made;
 }
@@ -150,6 +154,15 @@ void baseWindow::savePlace() const
     settings.setValue(QStringLiteral("state"), saveState());
     saveChildren<QSplitter>(this, settings);
     saveChildren<QHeaderView>(this, settings);
+}
+
+// A disabled button of the tool bar: what is being typed may enable it before it takes the press.
+bool baseWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress && watched->parent() == m_toolBar
+        && !static_cast<QWidget *>(watched)->isEnabled())
+        beforeAction();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void baseWindow::showEvent(QShowEvent *event)

@@ -61,11 +61,12 @@ protected:
         giveMnemonics();
     }
 
-    // Called before the slot of any action.
+    // Called before a menu opens and before the slot of any action.
     virtual void beforeAction() {}
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QAction *addAction(const actionRow &row);

@@ -119,6 +119,21 @@ private slots:
         QVERIFY(!testSupport::read(fileOf(w)).contains("Żuk2"));
     }
 
+    // An action that has nothing to do until what is being typed is in.
+    void typedEnables_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char *way : {"Ctrl+S", "#set", "!set"})
+            QTest::newRow(way) << way;
+    }
+    void typedEnables()
+    {
+        QFETCH(QString, way);
+        openWindow("Ctrl+B");
+        work("boms@0/0/0,1 F2 Ctrl+A '3' " + way + " Escape");
+        QVERIFY(boxes().value(0).contains("Materials for the order"));
+    }
+
     // A question that comes up while a value is taken leaves the keyboard in the tree.
     void keysGoOnAfterAQuestion_data()
     {
