@@ -3,8 +3,7 @@
 
 #include "tools/curl_download.h"
 
-#include <QTcpServer>
-#include <QTcpSocket>
+using namespace testSupport;
 
 namespace {
 
@@ -52,64 +51,56 @@ class tst_download : public QObject
 {
     Q_OBJECT
 private slots:
-    void downloads_data();
-    void downloads();
-    void hostIsReportedAcrossReads();
-    void commandText();
+    void downloads_data()
+    {
+        const rows<QString, int, bool> row;
+        row("good", "http://127.0.0.1:%1/file", 0, false);
+        row("moved", "http://127.0.0.1:%1/moved", 0, false);
+        row("brackets and quotes", "http://127.0.0.1:%1/[1-2]?a=\"b\"&c", 0, false);
+        row("not there", "http://127.0.0.1:%1/none", 22, false);
+        row("cut short", "http://127.0.0.1:%1/cut", 18, false);
+        row("blank", "http://127.0.0.1:%1/a b", 3, false);
+        row("a local file", "file:///etc/passwd", 1, false);
+        row("unknown host", "http://nobody.invalid/file", 6, true);
+        row("nobody listens", "http://127.0.0.1:1/file", 7, false);
+        row("no address", "", -1001, false);
+    }
+
+    void downloads()
+    {
+        const auto [address, result, hostUnknown] = fetch<QString, int, bool>();
+        const helperFolder folder;
+        folder.ship();
+        const webServer server;
+        const QString target = folder.path("za\u017c\u00f3\u0142\u0107 'x' \"y\".bin");
+        curl_download runner;
+        const runnerLog log(&runner, &curl_download::updateProgress);
+        runner.start(address.contains("%1") ? address.arg(server.serverPort()) : address, target);
+        QVERIFY2(runner.wait() == result, log.bytes());
+        QCOMPARE(runner.failed(), result != 0);
+        QCOMPARE(runner.hostUnknown(), hostUnknown);
+        QCOMPARE(log.text().contains("the host could not be resolved"), hostUnknown);
+        QCOMPARE(read(target) == content, result == 0);
+    }
+
+    // Also when the helper ends as if all were well.
+    void hostIsReportedAcrossReads()
+    {
+        const helperFolder folder;
+        folder.script("curl.exe", "printf 'Could not resol' >&2; sleep 0.3; printf 've host: x' >&2");
+        curl_download runner;
+        runner.start("http://x", folder.path("y"));
+        QCOMPARE(runner.wait(), 0);
+        QVERIFY(runner.hostUnknown());
+        QVERIFY(runner.failed());
+    }
+
+    void commandText()
+    {
+        QCOMPARE(curl_download::command("http://h/a", "/t/b c"),
+                 QString("_bin/curl.exe --url http://h/a --output \"/t/b c\""));
+    }
 };
-
-void tst_download::downloads_data()
-{
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<bool>("hostUnknown");
-    QTest::newRow("good") << "http://127.0.0.1:%1/file" << 0 << false;
-    QTest::newRow("moved") << "http://127.0.0.1:%1/moved" << 0 << false;
-    QTest::newRow("brackets and quotes") << "http://127.0.0.1:%1/[1-2]?a=\"b\"&c" << 0 << false;
-    QTest::newRow("not there") << "http://127.0.0.1:%1/none" << 22 << false;
-    QTest::newRow("cut short") << "http://127.0.0.1:%1/cut" << 18 << false;
-    QTest::newRow("blank") << "http://127.0.0.1:%1/a b" << 3 << false;
-    QTest::newRow("a local file") << "file:///etc/passwd" << 1 << false;
-    QTest::newRow("unknown host") << "http://nobody.invalid/file" << 6 << true;
-    QTest::newRow("nobody listens") << "http://127.0.0.1:1/file" << 7 << false;
-    QTest::newRow("no address") << "" << -1001 << false;
-}
-
-void tst_download::downloads()
-{
-    QFETCH(QString, address);
-    QFETCH(int, result);
-    const helperFolder folder;
-    folder.ship();
-    const webServer server;
-    const QString target = folder.path("za\u017c\u00f3\u0142\u0107 'x' \"y\".bin");
-    curl_download runner;
-    const runnerLog log(&runner, &curl_download::updateProgress);
-    runner.start(address.contains("%1") ? address.arg(server.serverPort()) : address, target);
-    QVERIFY2(runner.wait() == result, log.bytes());
-    QCOMPARE(runner.failed(), result != 0);
-    QTEST(runner.hostUnknown(), "hostUnknown");
-    QTEST(log.text().contains("the host could not be resolved"), "hostUnknown");
-    QCOMPARE(testSupport::read(target) == content, result == 0);
-}
-
-// Also when the helper ends as if all were well.
-void tst_download::hostIsReportedAcrossReads()
-{
-    const helperFolder folder;
-    folder.script("curl.exe", "printf 'Could not resol' >&2; sleep 0.3; printf 've host: x' >&2");
-    curl_download runner;
-    runner.start("http://x", folder.path("y"));
-    QCOMPARE(runner.wait(), 0);
-    QVERIFY(runner.hostUnknown());
-    QVERIFY(runner.failed());
-}
-
-void tst_download::commandText()
-{
-    QCOMPARE(curl_download::command("http://h/a", "/t/b c"),
-             QString("_bin/curl.exe --url http://h/a --output \"/t/b c\""));
-}
 
 KIVZP_TEST(tst_download)
 #include "tst_download.moc"
