@@ -157,6 +157,28 @@ QString recordingPrompts::saveFile(const QString &, const QString &name, const Q
     return file;
 }
 
+ended run(const QString &program, const QStringList &arguments, const QStringList &environment, const QString &folder,
+          const QString &input)
+{
+    QProcess process;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (const QString &variable : environment) {
+        if (variable.contains('='))
+            variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
+        else
+            variables.remove(variable);
+    }
+    process.setProcessEnvironment(variables);
+    process.setWorkingDirectory(folder);
+    if (!input.isEmpty())
+        process.setStandardInputFile(input);
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, "crashed or hung: " + program};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
 QByteArray read(const QString &path)
 {
     QFile file(path);

@@ -106,7 +106,7 @@ protected:
 };
 
 // QtTest keeps the pointers.
-constexpr const char *columnNames[] = {"0", "1", "2", "3", "4", "5"};
+constexpr const char *columnNames[] = {"0", "1", "2", "3", "4", "5", "6"};
 
 // The rows of a test, made in its "_data" slot: rows<QString, int> row; row("tag", "text", 1);
 template <class... Values>
@@ -119,6 +119,12 @@ public:
         (QTest::addColumn<Values>(columnNames[column++]), ...);
     }
     void operator()(const char *tag, const Values &...values) const { (QTest::newRow(tag) << ... << values); }
+    // Rows that differ in their tags alone, which are what is tested.
+    void each(const std::initializer_list<const char *> &tags, const Values &...values) const
+    {
+        for (const char *tag : tags)
+            (*this)(tag, values...);
+    }
 };
 
 // The present row, read back: const auto [text, number] = fetch<QString, int>();
@@ -132,6 +138,17 @@ std::tuple<Values...> fetch()
 
 // The present row's tag as a text.
 inline QString tag() { return QString::fromUtf8(QTest::currentDataTag()); }
+
+// How a process ended and what it wrote.
+struct ended
+{
+    int code = -1; // also when it crashed or did not end within a minute
+    QString out;
+    QString err;
+};
+// Runs a program to its end. In the environment "NAME=value" sets and "NAME" removes a variable.
+ended run(const QString &program, const QStringList &arguments, const QStringList &environment = {},
+          const QString &folder = {}, const QString &input = {});
 
 QByteArray read(const QString &path);
 // The files below folders of the source tree; a test fails that finds none in one of them.

@@ -98,7 +98,7 @@ private slots:
                 return order(content + "/></options>");
             }(),
             false, 0);
-        for (const QString &path : sources({"tests/files", "fuzz/corpus"}, {"*.xml"}))
+        for (const QString &path : sources({"tests/files/read", "tests/files/kept", "fuzz/corpus"}, {"*.xml"}))
             row(qPrintable(path.section('/', -3)), read(path), true, 0);
     }
 

@@ -15,86 +15,32 @@ private slots:
         group(*m_database, "Elementy różne");
     }
 
+    // Grouped by what is found.
     void queries_data()
     {
         const rows<QString> row;
-        row("", "R1 R2 C1 D1 S1");
-        row("kondensator", "C1");
-        row("KONDENSATOR", "C1");
-        row("DŁAWIK", "D1");
-        row("dlawik", "D1");
-        row("zyst", "R1 R2");
-        row("rezystor 0603", "R1");
-        row("0603 rezystor", "R1");
-        row("rezystor kondensator", "");
-        row("\"rezystor smd\"", "R1");
-        row("\"smd rezystor\"", "");
-        row("yageo", "R1");
-        row("rc0603fr", "R1");
-        row("supplier:yageo", "");
-        row("maker:yageo", "R1");
-        row("producent:YAGEO", "R1");
-        row("part:rc0603", "R1");
-        row("dostawca:tme", "R1 C1");
-        row("tme-77", "C1");
-        row("różne", "R1 R2 C1 D1 S1");
-        row("grupa:rozne d1", "D1");
-        // Numbers by value.
-        row("4k7", "R1 R2");
-        row("4.7k", "R1 R2");
-        row("4.7 kΩ", "R1 R2");
-        row("4700", "R1 R2");
-        row("value:4.7kohm", "R1 R2");
-        row("value:4.7 kohm", "R1 R2");
-        row("wartość:4k7", "R1 R2");
-        row("value:4.7", "");
-        row("value:>4k", "R1 R2");
-        row("value:>= 4k7 case:1206", "R2");
-        row("value:<1u", "C1");
-        row("value:470mOhm", "");
-        row("100n", "C1");
-        row("0.1u", "C1");
-        row("0,1 µF", "C1");
-        row("100nH", "");
-        row("10 %", "C1");
-        row("16 A", "R2");
-        row("16A", "");
-        row("tolerance:<=5", "R1");
-        row("value:M3", "S1");
-        row("value:=M3", "S1");
-        // Fields.
-        row("case:0603", "R1");
-        row("case:060", "R1");
-        row("case:=060", "");
-        row("obudowa:1206", "R2");
-        row("opis:0603", "R1");
-        row("name:0603", "R1");
-        row("case:rezystor", "");
-        row("case:\"\"", "D1 S1");
-        row("part:\"\"", "R2 D1 S1");
-        row("ktm:r", "R1 R2");
-        row("status:zielony", "R1 C1");
-        row("status:green case:0603", "R1");
-        row("status:szary", "R2");
-        row("active:yes", "R1");
-        row("aktywny:NIE ktm:d", "D1");
-        row("price:>10", "C1 D1");
-        row("price:> 10", "C1 D1");
-        row("cena:12,5", "C1");
-        row("price:1250.00", "D1");
-        row("price:<=0.02", "R1");
-        row("stock:0", "C1");
-        row("stock:\"\"", "D1 S1");
-        row("price:2", "");
-        row("stan:>0", "R1 R2");
-        row("magazyn:=500", "R2");
-        row("case: yageo", "R1");
-        row("case:", "R1 R2 C1 D1 S1");
-        // Colons that make no field.
-        row("http://x.pl", "D1");
-        row("1:10", "D1");
-        // Amounts are found by their field only.
-        row("1250", "");
+        row.each({"", "różne", "case:"}, "R1 R2 C1 D1 S1");
+        row.each({"kondensator", "KONDENSATOR", "tme-77", "value:<1u", "100n", "0.1u", "0,1 µF", "10 %", "cena:12,5",
+                  "stock:0"},
+                 "C1");
+        row.each({"DŁAWIK", "dlawik", "grupa:rozne d1", "aktywny:NIE ktm:d", "price:1250.00", "http://x.pl", "1:10"},
+                 "D1");
+        row.each({"zyst", "4k7", "4.7k", "4.7 kΩ", "4700", "value:4.7kohm", "value:4.7 kohm", "wartość:4k7",
+                  "value:>4k", "ktm:r", "stan:>0"},
+                 "R1 R2");
+        row.each({"rezystor 0603", "0603 rezystor", "\"rezystor smd\"", "yageo", "rc0603fr", "maker:yageo",
+                  "producent:YAGEO", "part:rc0603", "tolerance:<=5", "case:0603", "case:060", "opis:0603", "name:0603",
+                  "status:green case:0603", "active:yes", "price:<=0.02", "case: yageo"},
+                 "R1");
+        row.each({"rezystor kondensator", "\"smd rezystor\"", "supplier:yageo", "value:4.7", "value:470mOhm", "100nH",
+                  "16A", "case:=060", "case:rezystor", "price:2", "1250"},
+                 "");
+        row.each({"dostawca:tme", "status:zielony"}, "R1 C1");
+        row.each({"value:>= 4k7 case:1206", "16 A", "obudowa:1206", "status:szary", "magazyn:=500"}, "R2");
+        row.each({"value:M3", "value:=M3"}, "S1");
+        row.each({"case:\"\"", "stock:\"\""}, "D1 S1");
+        row.each({"part:\"\""}, "R2 D1 S1");
+        row.each({"price:>10", "price:> 10"}, "C1 D1");
     }
 
     void queries()

@@ -6,7 +6,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -19,37 +18,12 @@ const QString longText = QString(40000, 'x');
 // Everything that a spreadsheet or SQL could take for something else.
 void fillNasty(kiv_mat_databaseStruct &database)
 {
-    const QStringList names{"Group",
-                            "group",
-                            "Case",
-                            "0603",
-                            "R-SMD",
-                            "Układy scalone",
-                            "O'Brien's",
-                            "'",
-                            "",
-                            "",
-                            "sqlite_stat",
-                            "a[b]:*?/\\c",
-                            "History",
-                            "Groups",
-                            "with \"quotes\"",
-                            "Złącza 2.54 mm jednorzędowe Samtec TSW",
-                            "Złącza 2.54 mm jednorzędowe Samtec SSW",
-                            "x;drop table y--",
-                            "id"};
-    const QStringList values{"00220",
-                             "=1+1",
-                             "1e5",
-                             "12,50",
-                             "it's 'q'",
-                             " blanks ",
-                             "a\nb\tc",
-                             "-",
-                             "<&>",
-                             "0Ω ±1%",
-                             QString::fromUtf8("😀"),
-                             "';--"};
+    const QStringList names =
+        QString("Group|group|Case|0603|R-SMD|Układy scalone|O'Brien's|'|||sqlite_stat|a[b]:*?/\\c|"
+                "History|Groups|with \"quotes\"|Złącza 2.54 mm jednorzędowe Samtec TSW|"
+                "Złącza 2.54 mm jednorzędowe Samtec SSW|x;drop table y--|id")
+            .split('|');
+    const QStringList values = QString("00220|=1+1|1e5|12,50|it's 'q'| blanks |a\nb\tc|-|<&>|0Ω ±1%|😀|';--").split('|');
     int number = 0;
     for (const QString &name : names) {
         database.groups.push_back(std::make_unique<d_groupStruct>());
@@ -57,36 +31,23 @@ void fillNasty(kiv_mat_databaseStruct &database)
         for (const QString &value : values) {
             materialStruct *added = database.groups.back()->append(std::make_unique<materialStruct>());
             added->d_ktm = QString("%1").arg(++number, 5, 10, QChar('0'));
-            added->d_name = value;
-            added->d_value = value;
-            added->d_footprintRef6 = value;
+            added->d_name = added->d_value = added->d_footprintRef6 = value;
         }
     }
     database.groups.front()->items.front()->d_description = longText;
 }
 
-QByteArray run(const QString &program, const QStringList &arguments, const QString &input = {})
+// What a program wrote; an error's text when it failed or complained.
+QByteArray output(const QString &program, const QStringList &arguments, const QString &input = {})
 {
-    QProcess process;
-    if (!input.isEmpty())
-        process.setStandardInputFile(input);
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return "failed: " + process.readAllStandardError();
-    const QByteArray errors = process.readAllStandardError();
-    return errors.isEmpty() ? process.readAllStandardOutput() : "complained: " + errors;
+    const ended done = run(program, arguments, {}, {}, input);
+    return done.code == 0 && done.err.isEmpty() ? done.out.toUtf8() : "failed: " + done.err.toUtf8();
 }
 
 // The sheets in order, each as its name and rows of cells.
 QJsonArray readWorkbook(const QString &path)
 {
-    const QByteArray json =
-        run("/usr/bin/python3", {"-c",
-                                 "import openpyxl, json, sys\n"
-                                 "book = openpyxl.load_workbook(sys.argv[1])\n"
-                                 "print(json.dumps([[s.title, [[c.value for c in r] for r in s.iter_rows()]]"
-                                 " for s in book]))",
-                                 path});
+    const QByteArray json = output("/usr/bin/python3", {source("tests/files/readWorkbook.py"), path});
     if (!json.startsWith('['))
         qWarning("%s", json.constData());
     return QJsonDocument::fromJson(json).array();
@@ -101,17 +62,16 @@ private slots:
     void sheetNames_data()
     {
         const rows<QStringList, QStringList> row;
-        row("Polish letters", QStringList("Łódź"), QStringList("Lodz"));
-        row("refused characters", QStringList("[a]:*?/\\b"), QStringList("_a______b"));
-        row("apostrophes", QStringList{"''a'b'", "'"}, QStringList{"a'b", "Group"});
-        row("empty", QStringList{"", ""}, QStringList{"Group", "Group 2"});
-        row("case", QStringList{"ab", "AB", "aB"}, QStringList{"ab", "AB 2", "aB 3"});
-        row("a number that is taken", QStringList{"a", "a 2", "a"}, QStringList{"a", "a 2", "a 3"});
-        row("reserved", QStringList{"groups", "History"}, QStringList{"groups 2", "History 2"});
-        row("long", QStringList{QString(40, 'a'), QString(40, 'A')},
-            QStringList{QString(31, 'a'), QString(29, 'A') + " 2"});
-        row("apostrophe where it is cut", QStringList(QString(30, 'a') + "'b"), QStringList(QString(30, 'a')));
-        row("no half character", QStringList(QString(30, 'a') + QString::fromUtf8("😀")), QStringList(QString(30, 'a')));
+        row("Polish letters", {"Łódź"}, {"Lodz"});
+        row("refused characters", {"[a]:*?/\\b"}, {"_a______b"});
+        row("apostrophes", {"''a'b'", "'"}, {"a'b", "Group"});
+        row("empty", {"", ""}, {"Group", "Group 2"});
+        row("case", {"ab", "AB", "aB"}, {"ab", "AB 2", "aB 3"});
+        row("a number that is taken", {"a", "a 2", "a"}, {"a", "a 2", "a 3"});
+        row("reserved", {"groups", "History"}, {"groups 2", "History 2"});
+        row("long", {QString(40, 'a'), QString(40, 'A')}, {QString(31, 'a'), QString(29, 'A') + " 2"});
+        row("apostrophe where it is cut", {QString(30, 'a') + "'b"}, {QString(30, 'a')});
+        row("no half character", {QString(30, 'a') + "😀"}, {QString(30, 'a')});
     }
 
     void sheetNames()
@@ -143,51 +103,17 @@ private slots:
         QCOMPARE(exportNames::quoted(exportNames::sqlNames({tag()}, {"id"}).at(0)), given);
     }
 
-    void scriptText_data()
-    {
-        const rows<bool, QByteArray> row;
-        row("no groups", false, QByteArray("BEGIN TRANSACTION;\n\nCOMMIT;\n"));
-        row("one material", true,
-            QByteArray("BEGIN TRANSACTION;\ncreate table 'Uklady a'(id integer primary key, KTM "
-                       "varchar(128), 'Group' varchar(128), Value varchar(128), Power varchar(128), "
-                       "Voltage varchar(128), 'Current' varchar(128), Tolerance varchar(128), 'Other "
-                       "parameters' varchar(128), Description varchar(128), Name varchar(128), 'Case' "
-                       "varchar(128), Quantity varchar(128), Price varchar(128), 'Average price' "
-                       "varchar(128), Active varchar(128), Comment varchar(128), LibraryRef varchar(128), "
-                       "FootprintRef varchar(128), FootprintRef2 varchar(128), FootprintRef3 "
-                       "varchar(128), FootprintRef4 varchar(128), FootprintRef5 varchar(128), "
-                       "FootprintRef6 varchar(128) );\ninsert into 'Uklady a' values(1, "
-                       "'K','Układy a','v','pw','vo','c','t','o','d','it''s','ca','q','pr','av','NIE','',"
-                       "'l','f','f2','f3','f4','f5','f6');\n\nCOMMIT;\n"));
-    }
-
     void scriptText()
     {
-        const auto [withGroup, script] = fetch<bool, QByteArray>();
         kiv_mat_databaseStruct database;
-        if (withGroup) {
-            materialStruct *m = material(database, "Układy a", "K", "it's");
-            m->d_value = "v";
-            m->d_power = "pw";
-            m->d_voltage = "vo";
-            m->d_current = "c";
-            m->d_tolerance = "t";
-            m->d_otherParameters = "o";
-            m->d_description = "d";
-            m->d_case = "ca";
-            m->d_quantity = "q";
-            m->d_price = "pr";
-            m->d_averagePrice = "av";
-            m->d_libraryRef = "l";
-            m->d_footprintRef = "f";
-            m->d_footprintRef2 = "f2";
-            m->d_footprintRef3 = "f3";
-            m->d_footprintRef4 = "f4";
-            m->d_footprintRef5 = "f5";
-            m->d_footprintRef6 = "f6";
-        }
         QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::done);
-        QCOMPARE(read(path("a.txt")), script);
+        QCOMPARE(read(path("a.txt")), QByteArray("BEGIN TRANSACTION;\n\nCOMMIT;\n"));
+        materialStruct *m = material(database, "Układy a", "");
+        for (const auto &field : materialStruct::fields())
+            m->*field.member = QString(field.name).mid(2);
+        m->d_name = "it's";
+        QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::done);
+        QCOMPARE(QString(read(path("a.txt"))), QString(read(source("tests/files/altiumScript.txt"))));
     }
 
     // sqlite3 runs the script without a word; every row and value is there.
@@ -198,7 +124,7 @@ private slots:
         const exportResult result = exportAltiumSqlite(database, path("a.SQLITE"));
         QCOMPARE(result.result, exportResult::done);
         QCOMPARE(result.materials, database.materialCount());
-        QCOMPARE(run("sqlite3", {path("a.SQLITE")}, path("a.txt")), QByteArray());
+        QCOMPARE(output("sqlite3", {path("a.SQLITE")}, path("a.txt")), QByteArray());
 
         QStringList names;
         for (const auto &group : database.groups)
@@ -276,14 +202,14 @@ private slots:
         kiv_mat_databaseStruct database;
         material(database, "G", "K");
         const QString target = path("a.sqlite");
-        QVERIFY(run("sqlite3", {target, "create table G(a); insert into G values(1);"}).isEmpty());
+        QVERIFY(output("sqlite3", {target, "create table G(a); insert into G values(1);"}).isEmpty());
         m_folder->write("a.sqlite-journal", "left by another program");
         // Twice: the second export replaces what the script has made of the first.
         for (int i = 0; i < 2; ++i) {
             QCOMPARE(exportAltiumSqlite(database, target).result, exportResult::done);
             QVERIFY(!QFile::exists(target + "-journal"));
-            QCOMPARE(run("sqlite3", {target}, path("a.txt")), QByteArray());
-            QCOMPARE(run("sqlite3", {target, "select count(*), KTM from G"}), QByteArray("1|K\n"));
+            QCOMPARE(output("sqlite3", {target}, path("a.txt")), QByteArray());
+            QCOMPARE(output("sqlite3", {target, "select count(*), KTM from G"}), QByteArray("1|K\n"));
         }
     }
 
@@ -293,8 +219,7 @@ private slots:
         kiv_mat_databaseStruct database;
         for (int i = 0; i < 200; ++i)
             material(database, "G", QString::number(i));
-        const QStringList names{"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"};
-        for (const QString &name : names)
+        for (const char *name : {"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"})
             m_folder->write(name, "old");
         const progressFunction cancel = [](long long done, long long total) { return total != 200 || done < 100; };
         for (const auto function : {exportAltiumXlsx, exportGroups, exportAltiumSqlite}) {
@@ -317,10 +242,8 @@ private slots:
     void descriptionNamesWhatIsThere()
     {
         kiv_mat_databaseStruct database;
-        material(database, "A.b", "K");
-        material(database, "with|bar", "K");
-        material(database, "with]bracket", "K");
-        material(database, "Group", "K");
+        for (const char *name : {"A.b", "with|bar", "with]bracket", "Group"})
+            material(database, name, "K");
         QVERIFY(exportAltiumXlsx(database, path("part s.xlsx")).files.contains(path("part s.DbLib")));
         const QString text = QString::fromUtf8(read(path("part s.DbLib")));
         QVERIFY(text.contains("Data Source=.\\part s.xlsx;"));

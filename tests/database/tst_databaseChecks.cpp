@@ -45,18 +45,18 @@ private slots:
         manufacturer(third, " YAGEO ", "rc0603");
         manufacturer(third, "Yageo", "RC0603");
         QCOMPARE(duplicateLines(duplicatePartNumbers(database)),
-                 QStringList("<b>Yageo RC0603</b> [1 first], [3 third]<br>"));
+                 QStringList{"<b>Yageo RC0603</b> [1 first], [3 third]<br>"});
     }
 
     void emptyFields_data()
     {
         const rows<QString, QStringList> row;
-        row("nothing", "", QStringList());
-        row("KTM", "d_ktm", QStringList("KTM"));
-        row("CPV", "d_cpv", QStringList("CPV"));
-        row("name", "d_name", QStringList("Name"));
-        row("unit", "d_unit", QStringList("Unit"));
-        row("what many materials do not have", "d_voltage", QStringList());
+        row("nothing", "", {});
+        row("KTM", "d_ktm", {"KTM"});
+        row("CPV", "d_cpv", {"CPV"});
+        row("name", "d_name", {"Name"});
+        row("unit", "d_unit", {"Unit"});
+        row("what many materials do not have", "d_voltage", {});
     }
 
     void emptyFields()
@@ -95,9 +95,9 @@ private slots:
         manufacturer(m, "Y", "1", "https://good.pl/a b.pdf");
         manufacturer(m, "Y", "2", "http://bad.pl/https:x");
         manufacturer(m, "Y", "3")->files.append(std::make_unique<fileStruct>());
-        supplierStruct *s = m->suppliers.append(std::make_unique<supplierStruct>());
-        s->files.append(std::make_unique<fileStruct>())->name = "http://bad.pl/https:x";
-        s->files.append(std::make_unique<fileStruct>())->name = "http://[not valid";
+        supplierStruct *s = appendTo(m->suppliers);
+        appendTo(s->files)->name = "http://bad.pl/https:x";
+        appendTo(s->files)->name = "http://[not valid";
         QStringList asked;
         std::vector<long long> told;
         const linkCheckResult result = checkUrls(
@@ -147,7 +147,7 @@ private slots:
         manufacturer(m, "Bourns", "<2>", "https://x.pl/\"onclick=");
         manufacturer(m, "Unknown", "3", "javascript:alert(1)");
         kiv_mat_firmStruct firms;
-        firmStruct *firm = firms.manufacturers.append(std::make_unique<firmStruct>());
+        firmStruct *firm = appendTo(firms.manufacturers);
         firm->name = "Bourns";
         firm->status = "ZIELONY";
         for (const auto kind : {databaseReportKind::brief, databaseReportKind::full}) {

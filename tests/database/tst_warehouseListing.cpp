@@ -21,14 +21,8 @@ private slots:
         row("unit at once", "617,25z\u0142", 617.25);
         row("unit with a digit", "12 m2", 12);
         row("zero", "0,00", 0);
-        row("word", "b/d", -1);
-        row("empty", "", -1);
-        row("blanks", " \u00a0", -1);
-        row("negative", "-5", -1);
-        row("two commas", "1,234,50", -1);
-        row("point and comma", "1.234,50", -1);
-        row("a second number", "5 / 7", -1);
-        row("no decimals", "5,", -1);
+        for (const char *unreadable : {"b/d", "", " \u00a0", "-5", "1,234,50", "1.234,50", "5 / 7", "5,"})
+            row(unreadable, unreadable, -1);
         row("beyond numbers", QString(400, '9'), -1);
         row("long", QString(100000, ' ') + "-", -1);
     }

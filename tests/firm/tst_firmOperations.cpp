@@ -94,9 +94,8 @@ private slots:
         const rows<QString> row;
         row("https://www.ti.com/a?b=c", "https://www.ti.com/a?b=c");
         row(" www.ti.com ", "http://www.ti.com");
-        for (const char *none :
-             {"http://www", "", "file:///etc/passwd", "/etc/passwd", "javascript:alert(1.0)", "no page at all"})
-            row(none, "");
+        row.each({"http://www", "", "file:///etc/passwd", "/etc/passwd", "javascript:alert(1.0)", "no page at all"},
+                 "");
     }
 
     void homePages()

@@ -10,6 +10,12 @@
 
 using namespace testSupport;
 
+class numberedOrder : public kiv_mat_zpStruct
+{
+public:
+    explicit numberedOrder(const QString &number) { options.findOption(optionKey::orderNumber)->value1 = number; }
+};
+
 class tst_mail : public folderTest
 {
     Q_OBJECT
@@ -17,8 +23,7 @@ private slots:
     void init() override
     {
         folderTest::init();
-        for (const char *dir : {"_bin", "_e-mail", "_files"})
-            copyFolder(source(dir), m_folder->path(dir));
+        m_folder->ship({"_bin", "_e-mail", "_files"});
     }
 
     void cleanup() override
@@ -30,13 +35,13 @@ private slots:
     void addresses_data()
     {
         const rows<QString, QStringList> row;
-        row("link", "mailto:a@x.pl", QStringList("a@x.pl"));
-        row("several", " mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;", QStringList({"a@x.pl", "b@x.pl", "c@x.pl"}));
-        row("query", "mailto:a@x.pl?subject=b@x", QStringList("a@x.pl"));
-        row("encoded", "mailto:a%2Bb@x.pl", QStringList("a+b@x.pl"));
-        row("twice", "a@x.pl;a@x.pl", QStringList("a@x.pl"));
-        row("none", "http://x.pl", QStringList());
-        row("line end", "a@x.pl\nsubject [x]", QStringList("a@x.pl subject [x]"));
+        row("link", "mailto:a@x.pl", {"a@x.pl"});
+        row("several", " mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;", {"a@x.pl", "b@x.pl", "c@x.pl"});
+        row("query", "mailto:a@x.pl?subject=b@x", {"a@x.pl"});
+        row("encoded", "mailto:a%2Bb@x.pl", {"a+b@x.pl"});
+        row("twice", "a@x.pl;a@x.pl", {"a@x.pl"});
+        row("none", "http://x.pl", {});
+        row("line end", "a@x.pl\nsubject [x]", {"a@x.pl subject [x]"});
     }
 
     void addresses()
@@ -71,8 +76,7 @@ private slots:
         m_folder->write("_e-mail/msg_template.htm", "<b>{Do_no}</b> {Do_no}");
         configStruct config;
         addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
-        kiv_mat_zpStruct order;
-        order.options.findOption(optionKey::orderNumber)->value1 = "ZP/1<3>/26";
+        numberedOrder order("ZP/1<3>/26");
         order.options.findOption(optionKey::orderDate)->value1 = "24.11.2026";
         const QString path = mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf");
         const QString base = m_folder->path("_e-mail/msg_ZP_1_3_26_24.11.2026");
@@ -95,7 +99,7 @@ private slots:
         const rows<QString, QString> row;
         row("slashes", "ZP/13/2026", "ZP_13_2026");
         row("upwards", "../../x\\y:z", ".._.._x_y_z");
-        row("letters", QString::fromUtf8("źdźbło [1]"), QString::fromUtf8("źdźbło_1"));
+        row("letters", "źdźbło [1]", "źdźbło_1");
         row("nothing", " // ", "order");
         row("long", QString(500, 'x'), QString(80, 'x'));
     }
@@ -103,9 +107,7 @@ private slots:
     void messageNames()
     {
         const auto [number, name] = fetch<QString, QString>();
-        kiv_mat_zpStruct order;
-        order.options.findOption(optionKey::orderNumber)->value1 = number;
-        QCOMPARE(mail::messageName(order), name);
+        QCOMPARE(mail::messageName(numberedOrder(number)), name);
     }
 
     void dataMessage_data()
@@ -180,8 +182,8 @@ private slots:
     {
         configStruct config;
         for (const char *name : {"KIV_EMAIL.exe", "KIV_EMAIL_MAPI.exe"})
-            fakeProgram(QString("_e-mail/") + name,
-                        "printf '%s %s %s;' ${0##*/} \"$1\" \"$KIVZP_MAIL_FOLDER\" > \"$1.started\"\n");
+            m_folder->script(QString("_e-mail/") + name,
+                             "printf '%s %s %s;' ${0##*/} \"$1\" \"$KIVZP_MAIL_FOLDER\" > \"$1.started\"\n");
         const QString description = m_folder->write("a b.cmd", "");
         const auto started = [&] {
             QFile::remove(description + ".started");
@@ -194,7 +196,7 @@ private slots:
         };
         const QByteArray arguments = (' ' + description + ' ' + mail::folder() + ';').toUtf8();
         QCOMPARE(started(), "KIV_EMAIL.exe" + arguments);
-        config.options.append(std::make_unique<optionStruct>())->type = optionKey::emailMapi;
+        appendTo(config.options)->type = optionKey::emailMapi;
         QCOMPARE(started(), "KIV_EMAIL_MAPI.exe" + arguments);
         QFile::remove(m_folder->path("_e-mail/KIV_EMAIL_MAPI.exe"));
         QCOMPARE(started(), QByteArray("not started"));
@@ -204,38 +206,23 @@ private slots:
     void emlHoldsEverything()
     {
         configStruct config;
-        addPerson(config, "PERSON_CONTRACTOR", "Ewa", QString::fromUtf8("mailto:e@x.pl; Jan Żak <j@x.pl>; <broken@"));
-        kiv_mat_zpStruct order;
-        const QString number = QString::fromUtf8("ZP/żółć]/13 [a]") + QString(100, 'x');
-        order.options.findOption(optionKey::orderNumber)->value1 = number;
+        addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl; Jan Żak <j@x.pl>; <broken@");
+        const QString number = "ZP/żółć]/13 [a]" + QString(100, 'x');
         QByteArray bytes;
         for (int i = 0; i < 100000; ++i)
             bytes.append(char(unsigned(i) * unsigned(i) / 7));
-        const QString first = m_folder->write(QString::fromUtf8("zam ówienie].xml"), "<a>\r\n\xc5\xbc</a>");
+        const QString first = m_folder->write("zam ówienie].xml", "<a>\r\n\xc5\xbc</a>");
         const QString second = m_folder->write("b\"'.pdf", bytes);
-        const QString description = mail::writeOrder(order, config, first, second);
-        const result called = launch("KIV_EMAIL_MAPI.exe", description);
+        const QString description = mail::writeOrder(numberedOrder(number), config, first, second);
+        const ended called = launch("KIV_EMAIL_MAPI.exe", description);
         QVERIFY2(called.code == 0 && called.err.contains("No address: <broken@"), qPrintable(called.err));
         QCOMPARE(called.out, description.chopped(3) + "eml");
 
-        QProcess reader;
-        reader.start("python3", {"-c", R"(
-import email, email.policy, json, sys, hashlib
-m = email.message_from_binary_file(open(sys.argv[1], 'rb'), policy=email.policy.default)
-print(json.dumps({
-    'subject': m['subject'], 'to': [[a.display_name, a.addr_spec] for a in m['to'].addresses],
-    'unsent': m['x-unsent'], 'html': m.get_body(('html',)).get_content(),
-    'plain': m.get_body(('plain',)).get_content(),
-    'files': [[a.get_filename(), hashlib.md5(a.get_payload(decode=True)).hexdigest()]
-              for a in m.iter_attachments()]}))
-)",
-                                 called.out});
-        QVERIFY(reader.waitForFinished());
-        const QJsonObject message = QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
-        QVERIFY2(!message.isEmpty(), reader.readAllStandardError());
+        const ended reader = run("python3", {source("tests/files/readMail.py"), called.out});
+        const QJsonObject message = QJsonDocument::fromJson(reader.out.toUtf8()).object();
+        QVERIFY2(!message.isEmpty(), qPrintable(reader.err));
         QCOMPARE(message["subject"].toString(), "DD - Order " + number);
-        QCOMPARE(message["to"].toArray(),
-                 QJsonArray({QJsonArray({"", "e@x.pl"}), QJsonArray({QString::fromUtf8("Jan Żak"), "j@x.pl"})}));
+        QCOMPARE(message["to"].toArray(), QJsonArray({QJsonArray({"", "e@x.pl"}), QJsonArray({"Jan Żak", "j@x.pl"})}));
         QCOMPARE(message["unsent"].toString(), QString("1"));
         QString body = QString::fromUtf8(read(description.chopped(3) + "html"));
         QCOMPARE(message["html"].toString(), body);
@@ -270,34 +257,33 @@ print(json.dumps({
         auto [handler, number, expected] = fetch<QString, QString, QString>();
         const QByteArray record = "printf '%s|' \"$@\" > \"$RECORD.new\" && mv \"$RECORD.new\" "
                                   "\"$RECORD\"\n";
-        fakeProgram("bin/xdg-email", record);
-        fakeProgram("bin/thunderbird", record);
-        fakeProgram("bin/xdg-mime", "echo " + handler.toUtf8());
+        m_folder->script("bin/xdg-email", record);
+        m_folder->script("bin/thunderbird", record);
+        m_folder->script("bin/xdg-mime", "echo " + handler.toUtf8());
         m_folder->write("_e-mail/msg_template.htm", "<head><title>x</title></head><p>Nr {Do_no}</p>");
         m_folder->write("a b.xml", "");
         m_folder->write("c.pdf", "");
         configStruct config;
         addPerson(config, "PERSON_CONTRACTOR", "Ewa", "e@x.pl;f@x.pl");
-        kiv_mat_zpStruct order;
-        order.options.findOption(optionKey::orderNumber)->value1 = number;
-        const QString description = mail::writeOrder(order, config, m_folder->path("a b.xml"), m_folder->path("c.pdf"));
-        const result called = launch("KIV_EMAIL.exe", description, true);
+        const QString description =
+            mail::writeOrder(numberedOrder(number), config, m_folder->path("a b.xml"), m_folder->path("c.pdf"));
+        const ended called = launch("KIV_EMAIL.exe", description, true);
         QCOMPARE(called.code, 0);
         QCOMPARE(called.out, QString());
         QVERIFY(QTest::qWaitFor([&] { return QFile::exists(m_folder->path("record")); }));
         const QString arguments = read(m_folder->path("record")).replace("\n|", "|");
         QCOMPARE(arguments.chopped(1), expected.replace("NUMBER", number).replace("FOLDER", m_folder->path()));
         // A composer that fails leaves the message as a file.
-        fakeProgram("bin/xdg-email", "exit 3\n");
-        fakeProgram("bin/xdg-mime", "exit 4\n");
-        fakeProgram("bin/xdg-open", "true\n");
+        m_folder->script("bin/xdg-email", "exit 3\n");
+        m_folder->script("bin/xdg-mime", "exit 4\n");
+        m_folder->script("bin/xdg-open", "true\n");
         QCOMPARE(launch("KIV_EMAIL.exe", description, true).out, description.chopped(3) + "eml");
     }
 
     void launcherRefuses()
     {
         const QString missing = m_folder->write("m.cmd", "subject \t[x]\nattachment \t[/none/y.pdf]\n");
-        const result called = launch("KIV_EMAIL.exe", missing);
+        const ended called = launch("KIV_EMAIL.exe", missing);
         QCOMPARE(called.code, 1);
         QVERIFY(called.err.contains("does not exist: /none/y.pdf"));
         QVERIFY(!QFile::exists(m_folder->path("m.eml")));
@@ -310,40 +296,20 @@ print(json.dumps({
 private:
     static void addPerson(configStruct &config, const char *role, const QString &name, const QString &link)
     {
-        personStruct *person = config.persons.append(std::make_unique<personStruct>());
+        personStruct *person = appendTo(config.persons);
         person->type = role;
         person->name = name;
         person->link = link;
     }
-    // A program in the folder "bin" that writes down its arguments, one a line, and ends with 0.
-    void fakeProgram(const QString &path, const QByteArray &does)
+    // A launcher of the source tree, without a desktop unless the folder "bin" holds one.
+    ended launch(const QString &name, const QString &description, bool desktop = false)
     {
-        const QString file = m_folder->write(path, "#!/bin/sh\n" + does);
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    struct result
-    {
-        int code;
-        QString out;
-        QString err;
-    };
-    // A launcher of the source tree, without a desktop unless bin holds one.
-    result launch(const QString &name, const QString &description, bool desktop = false)
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove("WAYLAND_DISPLAY");
-        environment.remove("DISPLAY");
-        if (desktop)
-            environment.insert("DISPLAY", ":none");
-        environment.insert("PATH", m_folder->path("bin") + ':' + environment.value("PATH"));
-        environment.insert("RECORD", m_folder->path("record"));
-        environment.insert("LC_ALL", "C");
-        process.setProcessEnvironment(environment);
-        process.start(source("_e-mail/" + name), {description});
-        process.waitForFinished();
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed(),
-                QString::fromUtf8(process.readAllStandardError())};
+        ended done = run(source("_e-mail/" + name), {description},
+                         {"WAYLAND_DISPLAY", desktop ? "DISPLAY=:none" : "DISPLAY", "LC_ALL=C",
+                          "PATH=" + m_folder->path("bin") + ':' + qEnvironmentVariable("PATH"),
+                          "RECORD=" + m_folder->path("record")});
+        done.out = done.out.trimmed();
+        return done;
     }
 };
 

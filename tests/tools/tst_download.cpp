@@ -1,5 +1,5 @@
 // Downloads with the real curl from a server in this process.
-#include "runnerSupport.h"
+#include "tools/runnerSupport.h"
 
 #include "tools/curl_download.h"
 
@@ -47,7 +47,7 @@ private:
 
 } // namespace
 
-class tst_download : public QObject
+class tst_download : public folderTest
 {
     Q_OBJECT
 private slots:
@@ -69,10 +69,9 @@ private slots:
     void downloads()
     {
         const auto [address, result, hostUnknown] = fetch<QString, int, bool>();
-        const helperFolder folder;
-        folder.ship();
+        m_folder->ship({"_bin"});
         const webServer server;
-        const QString target = folder.path("za\u017c\u00f3\u0142\u0107 'x' \"y\".bin");
+        const QString target = m_folder->path("za\u017c\u00f3\u0142\u0107 'x' \"y\".bin");
         curl_download runner;
         const runnerLog log(&runner, &curl_download::updateProgress);
         runner.start(address.contains("%1") ? address.arg(server.serverPort()) : address, target);
@@ -86,10 +85,9 @@ private slots:
     // Also when the helper ends as if all were well.
     void hostIsReportedAcrossReads()
     {
-        const helperFolder folder;
-        folder.script("curl.exe", "printf 'Could not resol' >&2; sleep 0.3; printf 've host: x' >&2");
+        m_folder->script("_bin/curl.exe", "printf 'Could not resol' >&2; sleep 0.3; printf 've host: x' >&2");
         curl_download runner;
-        runner.start("http://x", folder.path("y"));
+        runner.start("http://x", m_folder->path("y"));
         QCOMPARE(runner.wait(), 0);
         QVERIFY(runner.hostUnknown());
         QVERIFY(runner.failed());

@@ -1,5 +1,5 @@
 // The ways in which a child process ends, and what of its arguments and output arrives.
-#include "runnerSupport.h"
+#include "tools/runnerSupport.h"
 
 #include "tools/KivExe.h"
 #include "tools/helpers.h"
@@ -11,12 +11,19 @@
 using namespace testSupport;
 using KivExe::exe;
 
-class tst_runners : public QObject
+// A runner with what it says.
+class watchedRunner : public exe
+{
+public:
+    runnerLog log{static_cast<exe *>(this), &exe::updateLog};
+    QSignalSpy completed{this, &exe::complete};
+    QSignalSpy timedOut{this, &exe::timeout};
+};
+
+class tst_runners : public folderTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_folder = std::make_unique<helperFolder>(); }
-    void cleanup() { m_folder.reset(); }
     void ends_data()
     {
         const rows<QByteArray, QStringList, int, QByteArray> row;
@@ -37,36 +44,30 @@ private slots:
     void ends()
     {
         const auto [body, arguments, result, text] = fetch<QByteArray, QStringList, int, QByteArray>();
-        m_folder->script("h.exe", body);
+        m_folder->script("_bin/h.exe", body);
         m_folder->write("_files/t", "template");
-        exe runner;
-        const runnerLog log(&runner, &exe::updateLog);
-        const QSignalSpy complete(&runner, &exe::complete);
-        const QSignalSpy timeout(&runner, &exe::timeout);
+        watchedRunner runner;
         QVERIFY(!runner.isDone());
         QCOMPARE(runner.wait(), -1001);
         runner.start(QStringList("_bin/h.exe") + arguments, 20000);
         QCOMPARE(runner.wait(), result);
         QVERIFY(runner.isDone());
-        QCOMPARE(log.bytes(), text);
-        QVERIFY(!log.runs.contains(QString()));
-        QCOMPARE(complete.size(), 1);
-        QCOMPARE(complete[0][0].toInt(), result);
-        QVERIFY(timeout.isEmpty());
+        QCOMPARE(runner.log.bytes(), text);
+        QVERIFY(!runner.log.runs.contains(QString()));
+        QCOMPARE(runner.completed.size(), 1);
+        QCOMPARE(runner.completed[0][0].toInt(), result);
+        QVERIFY(runner.timedOut.isEmpty());
     }
 
     // The script waits for a program of its own, as a launcher may: that one must go too.
     void hangs()
     {
         const QString pids = m_folder->path("pids");
-        m_folder->script("h.exe", "echo begun; sleep 100 & echo $$ $! >'" + pids.toUtf8() + "'; wait");
-        exe runner;
-        const runnerLog log(&runner, &exe::updateLog);
-        const QSignalSpy complete(&runner, &exe::complete);
-        const QSignalSpy timeout(&runner, &exe::timeout);
+        m_folder->script("_bin/h.exe", "echo begun; sleep 100 & echo $$ $! >'" + pids.toUtf8() + "'; wait");
+        watchedRunner runner;
         runner.start({"h.exe"}, 1500);
         QCOMPARE(runner.wait(), -1003);
-        QCOMPARE(log.text(), QString("begun"));
+        QCOMPARE(runner.log.text(), QString("begun"));
         const QList<QByteArray> numbers = read(pids).simplified().split(' ');
         QCOMPARE(numbers.size(), 2);
         // The killed child's end arrives now and must change nothing.
@@ -79,15 +80,15 @@ private slots:
         }
         QTest::qWait(1700);
         QCOMPARE(runner.result(), -1003);
-        QCOMPARE(timeout.size(), 1);
-        QCOMPARE(timeout[0][0].toInt(), -1003);
-        QVERIFY(complete.isEmpty());
+        QCOMPARE(runner.timedOut.size(), 1);
+        QCOMPARE(runner.timedOut[0][0].toInt(), -1003);
+        QVERIFY(runner.completed.isEmpty());
     }
 
     void floods()
     {
-        m_folder->script("h.exe", "head -c 5000000 /dev/zero | tr '\\0' e >&2 &\n"
-                                  "head -c 5000000 /dev/zero | tr '\\0' o; wait; exit 3");
+        m_folder->script("_bin/h.exe", "head -c 5000000 /dev/zero | tr '\\0' e >&2 &\n"
+                                       "head -c 5000000 /dev/zero | tr '\\0' o; wait; exit 3");
         exe runner;
         qint64 out = 0;
         qint64 error = 0;
@@ -104,40 +105,37 @@ private slots:
     void cannotBeStarted_data()
     {
         const rows<QStringList> row;
-        row("missing", QStringList{"_bin\\none.exe", "-pw", "s3cret"});
-        row("missing absolute", QStringList{"/none/none.exe", "s3cret"});
-        row("not executable", QStringList{"plain.exe", "s3cret"});
-        row("a folder", QStringList{"_validator", "s3cret"});
-        row("no interpreter", QStringList{"broken.exe", "s3cret"});
-        row("nothing", QStringList());
+        row("missing", {"_bin\\none.exe", "-pw", "s3cret"});
+        row("missing absolute", {"/none/none.exe", "s3cret"});
+        row("not executable", {"plain.exe", "s3cret"});
+        row("a folder", {"_validator", "s3cret"});
+        row("no interpreter", {"broken.exe", "s3cret"});
+        row("nothing", {});
     }
 
     void cannotBeStarted()
     {
         const auto [command] = fetch<QStringList>();
         m_folder->write("plain.exe", "MZ");
-        QFile::rename(m_folder->script("b", ""), m_folder->path("broken.exe"));
+        m_folder->script("broken.exe", "");
         m_folder->write("broken.exe", "#!/none/sh\n");
-        exe runner;
-        const runnerLog log(&runner, &exe::updateLog);
-        const QSignalSpy complete(&runner, &exe::complete);
-        const QSignalSpy timeout(&runner, &exe::timeout);
+        watchedRunner runner;
         runner.start(command, 100);
         QVERIFY(runner.isDone());
         QCOMPARE(runner.wait(), -1001);
         QString line = "The program cannot be started";
         if (!command.isEmpty())
             line += " [" + command[0] + "]";
-        QCOMPARE(log.runs, QStringList(line));
+        QCOMPARE(runner.log.runs, QStringList(line));
         QTest::qWait(250);
         QCOMPARE(runner.result(), -1001);
-        QCOMPARE(complete.size(), 1);
-        QVERIFY(timeout.isEmpty());
+        QCOMPARE(runner.completed.size(), 1);
+        QVERIFY(runner.timedOut.isEmpty());
     }
 
     void eventsWhileWaiting()
     {
-        m_folder->script("h.exe", "sleep 1");
+        m_folder->script("_bin/h.exe", "sleep 1");
         auto *runner = new exe;
         runner->start({"h.exe"}, 20000);
         int ticks = 0;
@@ -161,7 +159,7 @@ private slots:
 
     void startedOnce()
     {
-        m_folder->script("h.exe", "echo x >>'" + m_folder->path("ran").toUtf8() + "'; exit 5");
+        m_folder->script("_bin/h.exe", "echo x >>'" + m_folder->path("ran").toUtf8() + "'; exit 5");
         exe runner;
         runner.start({"h.exe"}, 20000);
         runner.start({"none.exe"}, 1);
@@ -193,7 +191,7 @@ private slots:
 
     void whereHelpersAre()
     {
-        m_folder->ship();
+        m_folder->ship({"_bin"});
         for (const QString &name : helpers::all()) {
             const QFileInfo file(helpers::path(name));
             QVERIFY2(file.isExecutable() && file.path() == m_folder->path("_bin"), qPrintable(name));
@@ -209,14 +207,13 @@ private slots:
     // With LibreOffice documents come out; without, the failure says what is missing.
     void documentsAreConverted()
     {
-        m_folder->ship();
+        m_folder->ship({"_bin"});
         const bool installed = !QStandardPaths::findExecutable("soffice").isEmpty();
         const auto convert = [installed](const QStringList &arguments) {
-            exe runner;
-            const runnerLog log(&runner, &exe::updateLog);
+            watchedRunner runner;
             runner.start(arguments, 120000);
-            QVERIFY2(runner.wait() == (installed ? 0 : 127), log.bytes());
-            QCOMPARE(log.text().contains("LibreOffice is not installed"), !installed);
+            QVERIFY2(runner.wait() == (installed ? 0 : 127), runner.log.bytes());
+            QCOMPARE(runner.log.text().contains("LibreOffice is not installed"), !installed);
         };
         const auto document = [&](const QString &name, const QByteArray &text) {
             const QString page = m_folder->write(name + ".html", "<p>" + text + "</p>");
@@ -236,9 +233,6 @@ private slots:
         filled.replace('\0', QByteArray());
         QVERIFY(filled.contains("Wzorzec") && filled.contains("Rezystor"));
     }
-
-private:
-    std::unique_ptr<helperFolder> m_folder;
 };
 
 KIVZP_TEST(tst_runners)

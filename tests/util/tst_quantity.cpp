@@ -9,47 +9,35 @@ class tst_quantity : public QObject
 {
     Q_OBJECT
 private slots:
+    // Grouped by what they mean.
     void values_data()
     {
         const rows<double, int> row;
-        row("4k7", 4700, quantity::none);
-        row("4K7", 4700, quantity::none);
-        row("4.7 kΩ", 4700, quantity::ohm);
-        row("4,7kohm", 4700, quantity::ohm);
-        row("4.7 k\u2126", 4700, quantity::ohm);
-        row("4k7Ω", 4700, quantity::ohm);
-        row("4700", 4700, quantity::none);
-        row("0", 0, quantity::none);
-        row("0.5", 0.5, quantity::none);
-        row(".5", 0.5, quantity::none);
-        row("2M2", 2.2e6, quantity::none);
-        row("2m2", 2.2e-3, quantity::none);
-        row("0R1", 0.1, quantity::ohm);
-        row("R47", 0.47, quantity::ohm);
-        row("47R", 47, quantity::ohm);
-        row("47r", 47, quantity::ohm);
-        row("100n", 100e-9, quantity::none);
-        row("100 nF", 100e-9, quantity::farad);
-        row("0.1uf", 100e-9, quantity::farad);
-        row("0,1µF", 100e-9, quantity::farad);
-        row("0,1\u03bcF", 100e-9, quantity::farad);
-        row("4n7", 4.7e-9, quantity::none);
-        row("5p", 5e-12, quantity::none);
-        row("10mH", 0.01, quantity::henry);
-        row("3V3", 3.3, quantity::volt);
-        row("3.3 V", 3.3, quantity::volt);
-        row("24VDC", 24, quantity::volt);
-        row("-5V", -5, quantity::volt);
-        row("10 %", 10, quantity::percent);
-        row("±10%", 10, quantity::percent);
-        row("+/-0.5 %", 0.5, quantity::percent);
-        row("350mA", 0.35, quantity::ampere);
-        row("1.2Ah", 1.2, quantity::ampereHour);
-        row("8MHz", 8e6, quantity::hertz);
-        row("8 mhz", 8e6, quantity::hertz);
-        row("1 250,50", 1250.5, quantity::none);
-        row("1\u00a0250,50 zł", 1250.5, quantity::zloty);
-        row("12.50 PLN", 12.5, quantity::zloty);
+        row.each({"4k7", "4K7", "4700"}, 4700, quantity::none);
+        row.each({"4.7 kΩ", "4,7kohm", "4.7 k\u2126", "4k7Ω"}, 4700, quantity::ohm);
+        row.each({"0"}, 0, quantity::none);
+        row.each({"0.5", ".5"}, 0.5, quantity::none);
+        row.each({"2M2"}, 2.2e6, quantity::none);
+        row.each({"2m2"}, 2.2e-3, quantity::none);
+        row.each({"0R1"}, 0.1, quantity::ohm);
+        row.each({"R47"}, 0.47, quantity::ohm);
+        row.each({"47R", "47r"}, 47, quantity::ohm);
+        row.each({"100n"}, 100e-9, quantity::none);
+        row.each({"100 nF", "0.1uf", "0,1µF", "0,1\u03bcF"}, 100e-9, quantity::farad);
+        row.each({"4n7"}, 4.7e-9, quantity::none);
+        row.each({"5p"}, 5e-12, quantity::none);
+        row.each({"10mH"}, 0.01, quantity::henry);
+        row.each({"3V3", "3.3 V"}, 3.3, quantity::volt);
+        row.each({"24VDC"}, 24, quantity::volt);
+        row.each({"-5V"}, -5, quantity::volt);
+        row.each({"10 %", "±10%"}, 10, quantity::percent);
+        row.each({"+/-0.5 %"}, 0.5, quantity::percent);
+        row.each({"350mA"}, 0.35, quantity::ampere);
+        row.each({"1.2Ah"}, 1.2, quantity::ampereHour);
+        row.each({"8MHz", "8 mhz"}, 8e6, quantity::hertz);
+        row.each({"1 250,50"}, 1250.5, quantity::none);
+        row.each({"1\u00a0250,50 zł"}, 1250.5, quantity::zloty);
+        row.each({"12.50 PLN"}, 12.5, quantity::zloty);
     }
 
     void values()
