@@ -7,13 +7,13 @@
 using namespace testSupport;
 using namespace bomOperations;
 
-class tst_bom : public QObject
+class tst_bom : public folderTest
 {
     Q_OBJECT
 private slots:
-    void init()
+    void init() override
     {
-        m_folder = std::make_unique<programFolder>();
+        folderTest::init();
         m_database = std::make_unique<kiv_mat_databaseStruct>();
         m_database->groups.push_back(std::make_unique<d_groupStruct>());
         addMaterial("A", "0,5", "10");
@@ -24,12 +24,12 @@ private slots:
         m_index.add(m_database.get());
     }
 
-    void cleanup()
+    void cleanup() override
     {
         m_index.clear();
         m_lists.clear();
         m_database.reset();
-        m_folder.reset();
+        folderTest::cleanup();
     }
 
     void quantities_data()
@@ -312,7 +312,6 @@ private:
         return lines.join(';');
     }
 
-    std::unique_ptr<programFolder> m_folder;
     std::unique_ptr<kiv_mat_databaseStruct> m_database;
     ktmIndex m_index;
     std::vector<std::unique_ptr<kiv_mat_bomStruct>> m_lists;

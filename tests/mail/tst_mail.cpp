@@ -146,9 +146,9 @@ private slots:
         QVERIFY(read(lines[2].section('[', 1).chopped(1)).contains("charset=\"UTF-8\""));
 
         if (!password.isEmpty()) {
-            zip_compress wrong;
-            wrong.decompress(packed, m_folder->path("wrong"), "other");
-            QVERIFY(wrong.wait() != 0);
+            zip_compress open;
+            open.decompress(packed, m_folder->path("open"), "");
+            QVERIFY(open.wait() != 0);
         }
         zip_compress unzip;
         unzip.decompress(packed, m_folder->path("out"), password);

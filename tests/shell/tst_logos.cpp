@@ -11,22 +11,12 @@ private slots:
     void days_data()
     {
         const rows<QString, QString> row;
-        row("2026-11-24", "", "");
-        row("2026-12-01", "_christmas", "_christmas");
-        row("2017-12-31", "_christmas", "_christmas");
-        row("2017-04-24", "_christmas_3", "_christmas3");
-        row("2017-04-25", "_vacation_2", "");
-        row("2017-05-01", "", "");
-        row("2018-03-01", "", "");
-        row("2018-03-26", "_christmas_3", "_christmas3");
-        row("2018-04-06", "_christmas_3", "_christmas3");
-        row("2018-04-07", "", "");
-        row("2018-04-30", "_vacation_2", "");
-        row("2019-04-10", "", "");
-        row("2026-07-01", "_vacation", "");
-        row("2026-08-31", "_vacation", "");
+        row.each({"2026-11-24", "2017-05-01", "2018-03-01", "2018-04-07", "2019-04-10", "2026-10-01"}, "", "");
+        row.each({"2026-12-01", "2017-12-31"}, "_christmas", "_christmas");
+        row.each({"2017-04-24", "2018-03-26", "2018-04-06"}, "_christmas_3", "_christmas3");
+        row.each({"2017-04-25", "2018-04-30"}, "_vacation_2", "");
+        row.each({"2026-07-01", "2026-08-31"}, "_vacation", "");
         row("2026-09-30", "_back_to_school", "");
-        row("2026-10-01", "", "");
     }
 
     void days()

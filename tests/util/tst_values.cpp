@@ -1,9 +1,11 @@
-// Texts, numbers, dates, and words in both languages.
+// Texts, numbers with units, dates, and words in both languages.
 #include "testSupport.h"
 
 #include "util/dates.h"
+#include "util/foldedText.h"
 #include "util/labels.h"
 #include "util/numbers.h"
+#include "util/quantity.h"
 #include "util/text.h"
 #include "util/translation.h"
 
@@ -84,6 +86,106 @@ private slots:
         QCOMPARE(labels::dateFormat(), QString("dd.MM.yyyy"));
         QCOMPARE(labels::optionCaption("FILE_DB_WAREHOUSE"), QString("Plik bazy danych wearhouse"));
         QCOMPARE(labels::optionCaption("EDIT_FIRM"), QString("Edycja bazy danych producent\u00f3wi dostawc\u00f3w"));
+    }
+
+    // Grouped by what they mean.
+    void values_data()
+    {
+        const rows<double, int> row;
+        row.each({"4k7", "4K7", "4700"}, 4700, quantity::none);
+        row.each({"4.7 kΩ", "4,7kohm", "4.7 k\u2126", "4k7Ω"}, 4700, quantity::ohm);
+        row.each({"0"}, 0, quantity::none);
+        row.each({"0.5", ".5"}, 0.5, quantity::none);
+        row.each({"2M2"}, 2.2e6, quantity::none);
+        row.each({"2m2"}, 2.2e-3, quantity::none);
+        row.each({"0R1"}, 0.1, quantity::ohm);
+        row.each({"R47"}, 0.47, quantity::ohm);
+        row.each({"47R", "47r"}, 47, quantity::ohm);
+        row.each({"100n"}, 100e-9, quantity::none);
+        row.each({"100 nF", "0.1uf", "0,1µF", "0,1\u03bcF"}, 100e-9, quantity::farad);
+        row.each({"4n7"}, 4.7e-9, quantity::none);
+        row.each({"5p"}, 5e-12, quantity::none);
+        row.each({"10mH"}, 0.01, quantity::henry);
+        row.each({"3V3", "3.3 V"}, 3.3, quantity::volt);
+        row.each({"24VDC"}, 24, quantity::volt);
+        row.each({"-5V"}, -5, quantity::volt);
+        row.each({"10 %", "±10%"}, 10, quantity::percent);
+        row.each({"+/-0.5 %"}, 0.5, quantity::percent);
+        row.each({"350mA"}, 0.35, quantity::ampere);
+        row.each({"1.2Ah"}, 1.2, quantity::ampereHour);
+        row.each({"8MHz", "8 mhz"}, 8e6, quantity::hertz);
+        row.each({"1 250,50"}, 1250.5, quantity::none);
+        row.each({"1\u00a0250,50 zł"}, 1250.5, quantity::zloty);
+        row.each({"12.50 PLN"}, 12.5, quantity::zloty);
+    }
+
+    void values()
+    {
+        const auto [value, unit] = fetch<double, int>();
+        const std::optional<quantity> read = quantity::parse(tag());
+        QVERIFY(read);
+        QVERIFY2(qAbs(read->value - value) <= 1e-12 * qAbs(value), qPrintable(QString::number(read->value)));
+        QCOMPARE(int(read->unit), unit);
+    }
+
+    void noQuantities()
+    {
+        for (const char *text :
+             {"",        " ",     "R",     "k",   "0603", "M3",    "1x3",    "4k7k", "4k7 kΩ", "10mm", "32kB",
+              "74HC595", "BC547", "1.2.3", "1e5", "0x10", "5 V 3", "100pcs", "--5",  "±",      "4..7", "100nF/50V"})
+            QVERIFY2(!quantity::parse(QString::fromUtf8(text)), text);
+        QVERIFY(!quantity::parse(QString(84, '9') + "T9T"));
+    }
+
+    void startOfText_data()
+    {
+        const rows<double> row;
+        row("100nF/50V", 100e-9);
+        row("4k7 1%", 4700.0);
+        row("10k±5%", 10e3);
+        row("100 pcs", 100.0);
+        row("5V", 5.0);
+        row("1x3", 0.0);
+        row("10-pin", 0.0);
+        row("STM32 5V", 0.0);
+    }
+
+    void startOfText()
+    {
+        const auto [value] = fetch<double>();
+        const std::optional<quantity> read = quantity::parseStart(tag());
+        QCOMPARE(read ? read->value : 0.0, value);
+    }
+
+    void comparison()
+    {
+        const auto of = [](const char *text) { return *quantity::parse(QString::fromUtf8(text)); };
+        QCOMPARE(of("100n").compare(of("0.1u")), 0);
+        QCOMPARE(of("0.0000001").compare(of("100nF")), 0);
+        QVERIFY(of("99.9n").compare(of("0.1u")) < 0);
+        QVERIFY(of("12345.68").compare(of("12345.67")) > 0);
+        QVERIFY(of("100n").fits(of("100nF")));
+        QVERIFY(!of("5V").fits(of("5A")));
+    }
+
+    void folding_data()
+    {
+        const rows<QString> row;
+        row("ZAŻÓŁĆ GĘŚLĄ JAŹŃ", "zazolc gesla jazn");
+        row("zaz\u0307o\u0301łc\u0301", "zazolc");
+        row("100 µF 4.7\u2126", "100 uf 4.7ohm");
+        row("Straße Ærø", "strasse aero");
+        row("\t7,5 ×\u00a0\n9 mm²\u2013", " 7,5 x 9 mm2-");
+        row("Ц ж \u6f22", "ц ж \u6f22");
+        row("a\U0001D400b", "aab");
+    }
+
+    void folding()
+    {
+        const auto [folded] = fetch<QString>();
+        QCOMPARE(QString::fromStdString(text::folded(tag())), folded);
+        // Half of a surrogate pair is dropped.
+        QCOMPARE(text::folded("a" + QString(QChar(0xd801)) + "b"), std::string("ab"));
     }
 };
 

@@ -1,11 +1,12 @@
-// Listings of the warehouse: what is read of them and what it changes.
+// Listings: those of the warehouse, and the CPV codes for groups, which materials take over.
 #include "testSupport.h"
 
+#include "database/cpvOperations.h"
 #include "database/warehouseListing.h"
 
 using namespace testSupport;
 
-class tst_warehouseListing : public folderTest
+class tst_listings : public folderTest
 {
     Q_OBJECT
 private slots:
@@ -61,15 +62,13 @@ private slots:
         first->d_averagePrice = "7.00";
         materialStruct *second = material(database, "A", "K2");
         second->d_averagePrice = "5.00";
-        ktmIndex index;
-        index.add(&database);
         const listingResult result = matchListing(parseListing("Towar: K1\nIlosc: 1\nWartosc: 1\n"
                                                                "Towar: K1 <name>\nIlosc: 3000,5\nWartosc: 13,5\n"
                                                                "Towar: K2\nIlosc: 0\nWartosc: 0\n"
                                                                "Towar: 317121-01.30-00192\nIlosc: 1\nWartosc: 1\n"
                                                                "Towar: <brak indeksu>\nIlosc: 1\nWartosc: 1\n"
                                                                "Towar: K2 again\nIlosc: b/d\nWartosc: 1\n"),
-                                                  index);
+                                                  indexOf(database));
         QCOMPARE(result.problems, QStringList({"<b>K1</b>&nbsp;Stands again further down, this one not used<br>",
                                                "<b>317121-01.30-00192</b>&nbsp;Does not exist in databases<br>",
                                                "<b>&lt;brak indeksu&gt;</b>&nbsp;Error in KTM line<br>",
@@ -94,11 +93,9 @@ private slots:
         materialStruct *m = material(database, "A", "K");
         m->d_inWarehouse = "10,0";
         m->d_averagePrice = "0,3333";
-        ktmIndex index;
-        index.add(&database);
-        QVERIFY(matchListing(parseListing("Towar: K\nIlosc: 10\nWartosc: 3,333"), index).changes.empty());
+        QVERIFY(matchListing(parseListing("Towar: K\nIlosc: 10\nWartosc: 3,333"), indexOf(database)).changes.empty());
         m->d_averagePrice = "";
-        const auto changes = matchListing(parseListing("Towar: K\nIlosc: 10\nWartosc: 20"), index).changes;
+        const auto changes = matchListing(parseListing("Towar: K\nIlosc: 10\nWartosc: 20"), indexOf(database)).changes;
         QCOMPARE(int(changes.size()), 1);
         QCOMPARE(changes[0].after, QString("2.00"));
     }
@@ -113,9 +110,7 @@ private slots:
         o->d_inWarehouse = "1,5";
         material(other, "B", "K2", "bad")->d_averagePrice = "many";
         material(other, "B", "", "no key");
-        ktmIndex index;
-        index.add(&mine);
-        const listingResult result = matchListing(entriesOf(other), index);
+        const listingResult result = matchListing(entriesOf(other), indexOf(mine));
         QCOMPARE(int(result.changes.size()), 1);
         QCOMPARE(result.changes[0].after, QString("1.5"));
         QCOMPARE(result.problems, QStringList({"<b>K2 bad</b>&nbsp;Error in KTM line<br>",
@@ -126,11 +121,9 @@ private slots:
     {
         kiv_mat_databaseStruct database;
         material(database, "A", "K");
-        ktmIndex index;
-        index.add(&database);
         const auto entries = parseListing(QString("Towar: K\nIlosc: 1\nWartosc: 1\n").repeated(100));
         const listingResult result =
-            matchListing(entries, index, [](long long done, long long total) { return done < total; });
+            matchListing(entries, indexOf(database), [](long long done, long long total) { return done < total; });
         QVERIFY(result.cancelled);
         QVERIFY(result.changes.empty());
     }
@@ -144,7 +137,107 @@ private slots:
             QVERIFY2(error.contains("corrupted") && error.contains("<b>" + path + "</b>"), qPrintable(error));
         }
     }
+
+    void cpvLines_data()
+    {
+        const rows<QByteArray, QString, QString> row;
+        row("code and name", "Diody\t31712340-5 Diody\n", "31712340-5", "");
+        row("code alone, CRLF", "Diody\t31712340-5\r\n", "31712340-5", "");
+        row("no line end, blanks", "Diody\t  31712340-5", "31712340-5", "");
+        row("third column", "Diody\t31712340-5\tDiodes", "31712340-5", "");
+        row("byte order mark",
+            "\xef\xbb\xbf"
+            "Diody\t31712340-5",
+            "31712340-5", "");
+        row("the last line counts", "Diody\t31712340-5\nDiody\t31712341-2\n", "31712341-2", "");
+        row("the same code", "Diody\told\n", "old", "CPV syntax error<br><b>Diody</b>&nbsp;[&nbsp;old&nbsp;]<br>");
+        row("no hyphen", "Diody\t317123405 x", "old",
+            "CPV syntax error<br><b>Diody</b>&nbsp;[&nbsp;317123405&nbsp;]<br>");
+        row("no code", "Diody\n", "old", "CPV syntax error<br><b>Diody</b>&nbsp;[&nbsp;&nbsp;]<br>");
+        row("another case", "DIODY\t31712340-5\n\n \n", "old",
+            "Group does not exist<br><b>DIODY</b>&nbsp;[&nbsp;31712340-5&nbsp;]<br>");
+        row("no tab", "Diody <31712340-5>", "old",
+            "Group does not exist<br><b>Diody &lt;31712340-5&gt;</b>&nbsp;[&nbsp;&nbsp;]<br>");
+        row("empty file", "", "old", "");
+    }
+
+    void cpvLines()
+    {
+        const auto [list, cpv, problems] = fetch<QByteArray, QString, QString>();
+        kiv_mat_databaseStruct database;
+        group(database, "Diody")->cpv = "old";
+        group(database, "Other");
+        database.groups.push_back(std::make_unique<d_groupStruct>());
+        database.groups.back()->name = "Diody";
+        database.groups.back()->cpv = "old";
+        const auto result = loadCpvForGroups(m_folder->write("list.txt", list), database);
+        QCOMPARE(result.problems.join(QString()), problems);
+        QCOMPARE(database.groups[0]->cpv, QString("old"));
+        QCOMPARE(int(result.changes.size()), cpv == "old" ? 0 : 2);
+        applyChanges(result.changes);
+        QCOMPARE(database.groups[0]->cpv, cpv);
+        QCOMPARE(database.groups[1]->cpv, QString());
+        QCOMPARE(database.groups[2]->cpv, cpv);
+    }
+
+    void cpvFileIsMissing()
+    {
+        kiv_mat_databaseStruct database;
+        for (const QString &path : {QString("/nowhere/list.txt"), QDir::tempPath()}) {
+            const auto result = loadCpvForGroups(path, database);
+            QCOMPARE(result.problems.size(), 1);
+            QVERIFY(result.problems[0].contains("<b>" + path + "</b>&nbsp;[&nbsp;"));
+        }
+    }
+
+    void cpvMoves()
+    {
+        kiv_mat_databaseStruct database;
+        material(database, "A", "1")->d_cpv = "31712340-5";
+        material(database, "A", "2")->d_cpv = "31712341-2";
+        material(database, "A", "3");
+        material(database, "none", "4")->d_cpv = "31712341-2";
+        material(database, "bad", "5")->d_cpv = "31712341-2";
+        group(database, "A")->cpv = "31712340-5";
+        group(database, "bad")->cpv = "<code>";
+        const auto result = moveCpvToMaterials(database);
+        QCOMPARE(result.problems,
+                 QStringList({"CPV syntax error<br>", "<b>bad</b>&nbsp;[&nbsp;&lt;code&gt;&nbsp;]<br>"}));
+        QCOMPARE(int(result.changes.size()), 2);
+        applyChanges(result.changes);
+        for (const auto &m : database.groups[0]->items)
+            QCOMPARE(m->d_cpv, QString("31712340-5"));
+        QCOMPARE(database.groups[1]->items[0]->d_cpv, QString("31712341-2"));
+        QCOMPARE(database.groups[2]->items[0]->d_cpv, QString("31712341-2"));
+    }
+
+    void cpvCancelled()
+    {
+        kiv_mat_databaseStruct database;
+        material(database, "A", "1");
+        group(database, "A")->cpv = "31712340-5";
+        const progressFunction cancel = [](long long, long long) { return false; };
+        const auto moved = moveCpvToMaterials(database, cancel);
+        QVERIFY(moved.cancelled && moved.changes.empty());
+        const auto loaded = loadCpvForGroups(m_folder->write("l.txt", "A\t31712341-2\n"), database, cancel);
+        QVERIFY(loaded.cancelled && loaded.changes.empty());
+    }
+
+    void cpvIndex()
+    {
+        QVERIFY(cpvIndexFile().isEmpty());
+        const QString path = m_folder->write("_files/Wspolny-Slownik-Zamowien.pdf", "%PDF");
+        QCOMPARE(cpvIndexFile(), QUrl("file://" + path));
+    }
+
+private:
+    static ktmIndex indexOf(kiv_mat_databaseStruct &database)
+    {
+        ktmIndex index;
+        index.add(&database);
+        return index;
+    }
 };
 
-KIVZP_TEST(tst_warehouseListing)
-#include "tst_warehouseListing.moc"
+KIVZP_TEST(tst_listings)
+#include "tst_listings.moc"
