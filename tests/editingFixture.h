@@ -35,8 +35,7 @@ protected:
         const QStringList parts = steps.split('|');
         for (const QString &part : parts) {
             work(part);
-            if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
-                opened && opened != m_front) {
+            if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow()); opened && opened != m_front) {
                 m_front = opened;
                 m_hands = std::make_unique<hands>(*opened);
             }

@@ -163,8 +163,7 @@ void hands::noteBox()
         return;
     m_lastBox = box;
     if (const auto *message = qobject_cast<QMessageBox *>(box))
-        m_boxes.append(message->windowTitle() + ": "
-                       + text::htmlToPlain(message->text()).simplified());
+        m_boxes.append(message->windowTitle() + ": " + text::htmlToPlain(message->text()).simplified());
     else if (box)
         m_boxes.append(box->windowTitle());
 }
@@ -186,8 +185,7 @@ QString hands::perform(const QString &step)
     if (step.startsWith('\'')) {
         const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
         for (const QChar letter : typed)
-            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown,
-                                QString(letter), {});
+            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown, QString(letter), {});
         return {};
     }
     if (step.startsWith('#'))
@@ -196,8 +194,7 @@ QString hands::perform(const QString &step)
         const QString name = step.mid(1).replace('_', ' ');
         for (auto *widget : front()->findChildren<QWidget *>()) {
             auto *button = qobject_cast<QAbstractButton *>(widget);
-            const bool isIt = widget->objectName() == step.mid(1)
-                              || (button && button->text().remove('&') == name);
+            const bool isIt = widget->objectName() == step.mid(1) || (button && button->text().remove('&') == name);
             if (!isIt || !widget->isVisible())
                 continue;
             // Through the window, which knows who gets what a disabled button does not take.
@@ -284,8 +281,7 @@ QString hands::clickCell(const QString &step)
     if (kind == "@?") {
         QTest::mouseClick(view->viewport(), Qt::RightButton, modifiers, place);
         // What the window system adds to a right click.
-        QContextMenuEvent menu(QContextMenuEvent::Mouse, place,
-                               view->viewport()->mapToGlobal(place));
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
         QApplication::sendEvent(view->viewport(), &menu);
         return {};
     }

@@ -1,11 +1,6 @@
 #include "testSupport.h"
 
-#include "util/paths.h"
 #include "util/text.h"
-
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
 
 #include <cstdio>
 
@@ -74,6 +69,31 @@ QString programFolder::write(const QString &relative, const QByteArray &content)
     return target;
 }
 
+QString programFolder::script(const QString &relative, const QByteArray &body) const
+{
+    QString file = write(relative, "#!/bin/sh\n" + body + "\n");
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file;
+}
+
+void programFolder::ship(const QStringList &folders) const
+{
+    for (const QString &folder : folders)
+        copyFolder(source(folder), path(folder));
+}
+
+void folderTest::init()
+{
+    m_folder = std::make_unique<programFolder>();
+    m_shown = std::make_unique<recordingPrompts>();
+}
+
+void folderTest::cleanup()
+{
+    m_shown.reset();
+    m_folder.reset();
+}
+
 recordingPrompts::recordingPrompts()
     : m_before(installPrompts(this))
 {
@@ -83,10 +103,7 @@ recordingPrompts::~recordingPrompts() { installPrompts(m_before); }
 
 void recordingPrompts::showError(const QString &html) { errors.append(text::htmlToPlain(html)); }
 
-void recordingPrompts::showInformation(const QString &html)
-{
-    informations.append(text::htmlToPlain(html));
-}
+void recordingPrompts::showInformation(const QString &html) { informations.append(text::htmlToPlain(html)); }
 
 prompts::answer recordingPrompts::ask(const QString &html, bool)
 {
@@ -110,15 +127,13 @@ std::optional<int> recordingPrompts::decide(const QString &html, const QStringLi
     return valueIn<int>(input);
 }
 
-std::optional<QString> recordingPrompts::inputText(const QString &title, const QString &,
-                                                   const QString &)
+std::optional<QString> recordingPrompts::inputText(const QString &title, const QString &, const QString &)
 {
     questions.append(title);
     return valueIn<QString>(input);
 }
 
-std::optional<int> recordingPrompts::inputNumber(const QString &title, const QString &, int, int,
-                                                 int)
+std::optional<int> recordingPrompts::inputNumber(const QString &title, const QString &, int, int, int)
 {
     questions.append(title);
     return valueIn<int>(input);
@@ -130,8 +145,7 @@ std::optional<QDate> recordingPrompts::inputDate(const QString &title, const QDa
     return valueIn<QDate>(input);
 }
 
-std::optional<int> recordingPrompts::choose(const QString &title, const QString &,
-                                            const QStringList &, int)
+std::optional<int> recordingPrompts::choose(const QString &title, const QString &, const QStringList &, int)
 {
     questions.append(title);
     return valueIn<int>(input);
@@ -141,6 +155,28 @@ QString recordingPrompts::saveFile(const QString &, const QString &name, const Q
 {
     proposed = name;
     return file;
+}
+
+ended run(const QString &program, const QStringList &arguments, const QStringList &environment, const QString &folder,
+          const QString &input)
+{
+    QProcess process;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (const QString &variable : environment) {
+        if (variable.contains('='))
+            variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
+        else
+            variables.remove(variable);
+    }
+    process.setProcessEnvironment(variables);
+    process.setWorkingDirectory(folder);
+    if (!input.isEmpty())
+        process.setStandardInputFile(input);
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, "crashed or hung: " + program};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
 }
 
 QByteArray read(const QString &path)
@@ -168,20 +204,59 @@ void copyFolder(const QString &from, const QString &to)
 
 QString source(const QString &relative) { return QStringLiteral(KIVZP_SOURCE_DIR "/") + relative; }
 
-QByteArray document(const char *root, const char *type, const char *schema,
-                    const QByteArray &content)
+QStringList sources(const QStringList &folders, const QStringList &patterns)
 {
-    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<") + root
-           + " xsi:noNamespaceSchemaLocation=\"" + schema
-           + "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:type=\"" + type + "\">"
-           + content + "</" + root + ">\n";
+    QStringList found;
+    for (const QString &folder : folders) {
+        const QStringList files = files::list(source(folder), patterns);
+        if (files.isEmpty())
+            qFatal("no file in %s", qPrintable(folder));
+        found += files;
+    }
+    return found;
 }
 
-QByteArray order(const QByteArray &content)
+QByteArray document(const char *root, const char *type, const char *schema, const QByteArray &content)
 {
-    return document("kiv_mat_zp", "KIV_MAT_ZP_1", "kiv_mat.xsd", content);
+    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<") + root + " xsi:noNamespaceSchemaLocation=\""
+           + schema + "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:type=\"" + type + "\">" + content
+           + "</" + root + ">\n";
 }
+
+QByteArray database(const QByteArray &content)
+{
+    return document("kiv_mat_database", "KIV_MAT_DATABASE_1", "kiv_mat.xsd", content);
+}
+
+QByteArray bom(const QByteArray &content) { return document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd", content); }
+
+QByteArray order(const QByteArray &content) { return document("kiv_mat_zp", "KIV_MAT_ZP_1", "kiv_mat.xsd", content); }
 
 QString realData() { return qEnvironmentVariable("KIVZP_REAL_DATA"); }
+
+const QStringList &realFiles()
+{
+    static const QTemporaryDir unpacked;
+    static const QStringList files = [] {
+        QStringList found;
+        for (QString path : ::files::list(realData(), {"*.xml", "*.xml.gz"})) {
+            if (path.contains("/raw/"))
+                continue;
+            if (path.endsWith(".gz")) {
+                QProcess gzip;
+                gzip.setStandardOutputFile(unpacked.filePath(QFileInfo(path).completeBaseName()));
+                gzip.start("gzip", {"-dc", path});
+                if (!gzip.waitForFinished(60000) || gzip.exitCode() != 0)
+                    qFatal("cannot unpack %s", qPrintable(path));
+                path = unpacked.filePath(QFileInfo(path).completeBaseName());
+            }
+            found.append(path);
+        }
+        if (found.size() < 20)
+            qFatal("too few files in %s", qPrintable(realData()));
+        return found;
+    }();
+    return files;
+}
 
 } // namespace testSupport

@@ -1,10 +1,26 @@
-// What the tests share: the list of test classes, a program folder of their own, and prompts that
-// record instead of showing.
+// What the tests share: the list of test classes, a program folder of their own, prompts that record
+// instead of showing, and rows of one line. Precompiled, with what most tests include.
 #pragma once
 
+#include "data/configStruct.h"
+#include "data/kiv_mat_bomStruct.h"
+#include "data/kiv_mat_databaseStruct.h"
+#include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_zpStruct.h"
+#include "data/ktmIndex.h"
+#include "data/loaders.h"
+#include "data/vocabulary.h"
+#include "database/databaseSupport.h"
+#include "util/files.h"
+#include "util/paths.h"
 #include "util/prompts.h"
 
-#include <QStringList>
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -12,8 +28,7 @@
 
 // Puts a test class in the list of the executable: KIVZP_TEST(tst_text) at the end of its file.
 // NOLINTBEGIN(bugprone-macro-parentheses): a class name takes none
-#define KIVZP_TEST(Class)                                                                          \
-    static const bool registered_##Class = testSupport::add(#Class, [] { return new Class; });
+#define KIVZP_TEST(Class) static const bool registered_##Class = testSupport::add(#Class, [] { return new Class; });
 // NOLINTEND(bugprone-macro-parentheses)
 
 namespace testSupport {
@@ -30,6 +45,10 @@ public:
     QString path(const QString &relative = {}) const;
     // Writes bytes to a file in the folder and returns its path.
     QString write(const QString &relative, const QByteArray &content) const;
+    // The same for a shell script that can be run.
+    QString script(const QString &relative, const QByteArray &body) const;
+    // Copies folders of the source tree into this one.
+    void ship(const QStringList &folders) const;
 
 private:
     QTemporaryDir m_dir;
@@ -75,8 +94,70 @@ private:
     prompts *m_before;
 };
 
+// A test class whose slots each begin with a folder and prompts of their own.
+class folderTest : public QObject
+{
+    Q_OBJECT
+protected slots:
+    virtual void init();
+    virtual void cleanup();
+
+protected:
+    std::unique_ptr<programFolder> m_folder;
+    std::unique_ptr<recordingPrompts> m_shown;
+};
+
+// QtTest keeps the pointers.
+constexpr const char *columnNames[] = {"0", "1", "2", "3", "4", "5", "6"};
+
+// The rows of a test, made in its "_data" slot: rows<QString, int> row; row("tag", "text", 1);
+template <class... Values>
+class rows
+{
+public:
+    rows()
+    {
+        int column = 0;
+        (QTest::addColumn<Values>(columnNames[column++]), ...);
+    }
+    void operator()(const char *tag, const Values &...values) const { (QTest::newRow(tag) << ... << values); }
+    // Rows that differ in their tags alone, which are what is tested.
+    void each(const std::initializer_list<const char *> &tags, const Values &...values) const
+    {
+        for (const char *tag : tags)
+            (*this)(tag, values...);
+    }
+};
+
+// The present row, read back: const auto [text, number] = fetch<QString, int>();
+template <class... Values>
+std::tuple<Values...> fetch()
+{
+    int column = 0;
+    // Braces keep the order.
+    return std::tuple<Values...>{*static_cast<Values *>(QTest::qData(columnNames[column++], qMetaTypeId<Values>()))...};
+}
+
+// The present row's tag as a text.
+inline QString tag() { return QString::fromUtf8(QTest::currentDataTag()); }
+
+// How a process ended and what it wrote.
+struct ended
+{
+    int code = -1; // also when it crashed or did not end within a minute
+    QString out;
+    QString err;
+};
+// Runs a program to its end. In the environment "NAME=value" sets and "NAME" removes a variable.
+ended run(const QString &program, const QStringList &arguments, const QStringList &environment = {},
+          const QString &folder = {}, const QString &input = {});
+
 QByteArray read(const QString &path);
 void write(const QString &path, const QByteArray &content);
+// NOLINTBEGIN(bugprone-macro-parentheses): a class name takes none
+// The files below folders of the source tree; a test fails that finds none in one of them.
+QStringList sources(const QStringList &folders, const QStringList &patterns);
+// NOLINTEND(bugprone-macro-parentheses)
 
 // Copies a folder with all its files.
 void copyFolder(const QString &from, const QString &to);
@@ -86,12 +167,15 @@ QString source(const QString &relative);
 
 // The root element's start tag of a file kind: root, xsi:type and schema as the program writes
 // them.
-QByteArray document(const char *root, const char *type, const char *schema,
-                    const QByteArray &content);
+QByteArray document(const char *root, const char *type, const char *schema, const QByteArray &content);
+QByteArray database(const QByteArray &content);
+QByteArray bom(const QByteArray &content);
 // An order with that content.
 QByteArray order(const QByteArray &content);
 
 // The folder of real data, or an empty text.
 QString realData();
+// Its databases, orders and BOM lists, packed ones unpacked.
+const QStringList &realFiles();
 
 } // namespace testSupport

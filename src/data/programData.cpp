@@ -187,14 +187,16 @@ bool programData::reloadDatabase(databaseKind kind)
 void programData::putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database)
 {
     m_files[kind] = fileState::of(database->filePath);
-    const bool again = m_databases[kind]->materialCount() > 0;
     const auto before = std::exchange(m_databases[kind], std::move(database));
-    if (!again) {
+    const bool nothingBehind =
+        std::all_of(m_databases.begin() + kind + 1, m_databases.end(),
+                    [](const auto &later) { return later->materialCount() == 0; });
+    if (before->materialCount() == 0 && nothingBehind) {
         m_materials.add(m_databases[kind].get());
         m_search.add(m_databases[kind].get());
         return;
     }
-    // The indexes look at the materials of the one before.
+    // The indexes look at the materials of the one before, or list a later database first.
     m_materials.clear();
     m_search.clear();
     for (const auto &known : m_databases) {

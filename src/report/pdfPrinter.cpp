@@ -33,6 +33,7 @@ public:
         : m_view(view)
         , m_minimum(view->minimumWidth())
         , m_maximum(view->maximumWidth())
+        , m_size(view->size())
         , m_viewport(view->page()->viewportSize())
         , m_zoom(view->zoomFactor())
     {
@@ -46,6 +47,7 @@ public:
     {
         m_view->setMinimumWidth(m_minimum);
         m_view->setMaximumWidth(m_maximum);
+        m_view->resize(m_size);
         m_view->page()->setViewportSize(m_viewport);
         m_view->setZoomFactor(m_zoom);
     }
@@ -55,6 +57,7 @@ private:
     QWebView *m_view;
     int m_minimum;
     int m_maximum;
+    QSize m_size;
     QSize m_viewport;
     qreal m_zoom;
 };

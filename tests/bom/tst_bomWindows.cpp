@@ -48,21 +48,17 @@ private slots:
 private:
     Kiv_bomWindow &window() { return m_window->bomWindow(); }
     QStandardItem *file(int at) { return bomTree::allFiles(window().model()).at(at); }
-    void setSets(int at, int sets)
-    {
-        window().model()->setValue(bomTree::setsCell(file(at)), sets);
-    }
+    void setSets(int at, int sets) { window().model()->setValue(bomTree::setsCell(file(at)), sets); }
     void select(QStandardItem *item) { window().view()->setCurrentIndex(item->index()); }
     QString setPath() { return m_folder->path("_files/boms.xml"); }
     // A list of one line in the set's folder.
     QString writeList(const char *name, const QByteArray &ktm, const QByteArray &quantity)
     {
-        return m_folder->write(
-            QString("_files/boms/") + name,
-            testSupport::document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd",
-                                  "<update>1</update><material><d_ktm>" + ktm
-                                      + "</d_ktm><d_name>own</d_name><d_quantity>" + quantity
-                                      + "</d_quantity><d_designator>R1</d_designator></material>"));
+        return m_folder->write(QString("_files/boms/") + name,
+                               testSupport::document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd",
+                                                     "<update>1</update><material><d_ktm>" + ktm
+                                                         + "</d_ktm><d_name>own</d_name><d_quantity>" + quantity
+                                                         + "</d_quantity><d_designator>R1</d_designator></material>"));
     }
     // A list added to the set, with its number of sets.
     void addList(const char *name, const QByteArray &ktm, const QByteArray &quantity, int sets)
@@ -213,9 +209,8 @@ void tst_bomWindows::setChangesAndSaves()
 void tst_bomWindows::emptySetTakesAFile()
 {
     m_window.reset();
-    m_folder->write("_files/boms.xml",
-                    testSupport::document("kiv_mat_boms", "KIV_MAT_BOMS_1", "kiv_mat_boms.xsd",
-                                          "<update>1</update><server_release>1</server_release>"));
+    m_folder->write("_files/boms.xml", testSupport::document("kiv_mat_boms", "KIV_MAT_BOMS_1", "kiv_mat_boms.xsd",
+                                                             "<update>1</update><server_release>1</server_release>"));
     m_window = std::make_unique<MainWindow>(programData::instance());
     QCOMPARE(window().model()->rowCount(), 0);
     addList("first.xml", "X", "1", 2);
@@ -265,11 +260,8 @@ void tst_bomWindows::exports()
 
 void tst_bomWindows::linesOfAList()
 {
-    const QByteArray known = programData::instance()
-                                 .database(programData::warehouse)
-                                 .groups[0]
-                                 ->items[0]
-                                 ->d_ktm.toUtf8();
+    const QByteArray known =
+        programData::instance().database(programData::warehouse).groups[0]->items[0]->d_ktm.toUtf8();
     const QString path = writeList("lines.xml", "NONE-1", "2");
     Kiv_bomViewWindow &list = window().viewWindow(path);
     list.showNow();
@@ -311,15 +303,13 @@ void tst_bomWindows::linesOfAList()
 
 void tst_bomWindows::insertFromTheDatabase()
 {
-    const QString known =
-        programData::instance().database(programData::warehouse).groups[0]->items[0]->d_ktm;
+    const QString known = programData::instance().database(programData::warehouse).groups[0]->items[0]->d_ktm;
     emit m_window->databaseWindow(programData::warehouse).insertToBom(known);
     QVERIFY(m_shown->informations.last().contains("No BOM list is open"));
 
     select(file(0));
     window().commandBom(false);
-    Kiv_bomViewWindow &list =
-        window().viewWindow(m_folder->path("_files/boms/zasilacz_liniowy_5v.xml"));
+    Kiv_bomViewWindow &list = window().viewWindow(m_folder->path("_files/boms/zasilacz_liniowy_5v.xml"));
     QVERIFY(list.isVisible());
     const int before = list.model()->rowCount();
     emit m_window->databaseWindow(programData::warehouse).insertToBom(known);
@@ -364,8 +354,7 @@ void tst_bomWindows::intoTheOrder()
     QFETCH(const QString, quantity);
     const QString ktm = firstLine().ktm;
     firstLine().unit.clear();
-    auto *material =
-        const_cast<materialStruct *>(programData::instance().materials().find(ktm)->material);
+    auto *material = const_cast<materialStruct *>(programData::instance().materials().find(ktm)->material);
     material->d_inWarehouse = "1";
     const auto lines = order().orderItems.items.size();
     // Two lists of one material are one need; an unknown one is told and not ordered.
@@ -412,9 +401,7 @@ void tst_bomWindows::needsTable()
 void tst_bomWindows::orderIsSent()
 {
     m_window->view().lines()->setValue(
-        static_cast<myItem::myItemStandard *>(
-            m_window->view().lines()->item(0, orderTree::quantityColumn)),
-        77);
+        static_cast<myItem::myItemStandard *>(m_window->view().lines()->item(0, orderTree::quantityColumn)), 77);
     m_shown->nextAnswer = answer::no;
     m_window->commandZpSend(false);
     QDir folder(m_folder->path("_e-mail"));
@@ -451,8 +438,7 @@ void tst_bomWindows::dataAreSent()
     m_window->action(name.toLatin1().constData())->trigger();
     QCOMPARE(m_shown->errors, QStringList());
     QCOMPARE(pendingSysCommands::instance().size(), size_t(3));
-    const QString text = testSupport::read(
-        QFileInfo(paths::temporaryDir() + "/msg_database.cmd").absoluteFilePath());
+    const QString text = testSupport::read(QFileInfo(paths::temporaryDir() + "/msg_database.cmd").absoluteFilePath());
     const QString zip = text.section("attachment", -1).section('[', 1).section(']', 0, 0);
     QVERIFY2(zip.contains(archive) && QFile::exists(zip), qPrintable(text));
     m_window->close();

@@ -41,10 +41,7 @@ struct fixture
         made->unit = "odd unit";
         return made;
     }
-    myItemStandard *cell(int row, int column)
-    {
-        return static_cast<myItemStandard *>(model.item(row, column));
-    }
+    myItemStandard *cell(int row, int column) { return static_cast<myItemStandard *>(model.item(row, column)); }
     // As the main window does after every change.
     void renumber()
     {
@@ -62,16 +59,13 @@ struct fixture
             QStringList stored;
             for (size_t c = 0; c < orderItemStruct::fields().size(); ++c) {
                 shown.append(cell(r, int(c))->text());
-                stored.append((*order.orderItems.items.at(size_t(r)))
-                              .*orderItemStruct::fields()[c].member);
+                stored.append((*order.orderItems.items.at(size_t(r))).*orderItemStruct::fields()[c].member);
             }
             if (shown != stored)
                 return "row " + QString::number(r) + " differs from its record";
             lines.append(shown.join('|'));
         }
-        return order.orderItems.items.size() == size_t(model.rowCount())
-                   ? lines.join('\n')
-                   : "other number of records";
+        return order.orderItems.items.size() == size_t(model.rowCount()) ? lines.join('\n') : "other number of records";
     }
 
     configStruct config;
@@ -131,8 +125,7 @@ void tst_editCommands::randomWalk()
         }
         const size_t before = f.stack.undoCount();
         if (kind == 0 || f.model.rowCount() == 0) {
-            f.stack.push(std::make_unique<appendNewMaterial>(
-                &f.model, f.rows.makeDetachedRow(fixture::line(step))));
+            f.stack.push(std::make_unique<appendNewMaterial>(&f.model, f.rows.makeDetachedRow(fixture::line(step))));
         } else if (kind == 1) {
             f.stack.push(std::make_unique<deleteMaterial>(&f.model, f.model.index(row, 0)));
         } else if (kind == 2) {
@@ -142,10 +135,9 @@ void tst_editCommands::randomWalk()
                                                      f.rows.makeDetachedRow(fixture::line(step))));
         } else if (kind == 4) {
             std::vector<std::unique_ptr<command>> members;
-            members.push_back(std::make_unique<changeValue>(
-                &f.model, f.cell(row, orderTree::waitColumn), QDate(2027, 1, 1 + step % 28)));
-            members.push_back(
-                std::make_unique<deleteFromItem>(f.model.invisibleRootItem(), f.model.item(row)));
+            members.push_back(std::make_unique<changeValue>(&f.model, f.cell(row, orderTree::waitColumn),
+                                                            QDate(2027, 1, 1 + step % 28)));
+            members.push_back(std::make_unique<deleteFromItem>(f.model.invisibleRootItem(), f.model.item(row)));
             f.stack.push(std::make_unique<appendCommands>(std::move(members)));
         } else {
             f.model.setValue(f.cell(row, orderTree::quantityColumn), random.bounded(5));
@@ -261,8 +253,7 @@ void tst_editCommands::groups()
     change->redo();
     QCOMPARE(changes.count(), 3);
     QCOMPARE(view.count, 3);
-    QVERIFY(!cellBlock::set(&f.model, cells,
-                            [](const myItemStandard &) { return QVariant(QString("all")); }));
+    QVERIFY(!cellBlock::set(&f.model, cells, [](const myItemStandard &) { return QVariant(QString("all")); }));
 }
 
 void tst_editCommands::pasteBlock_data()
@@ -273,12 +264,9 @@ void tst_editCommands::pasteBlock_data()
     QTest::addColumn<int>("refused");
     using namespace orderTree;
     QTest::newRow("block") << "1\tpcs.\n2\tkg\n" << int(quantityColumn) << "1 pcs. 2 kg" << 0;
-    QTest::newRow("what does not fit")
-        << "x\tkg\r\n2000000\tno unit" << int(quantityColumn) << "0 kg 1 odd unit" << 3;
-    QTest::newRow("words as they are shown")
-        << "TAK\tnew target" << int(rohsColumn) << "TAK new target  " << 0;
-    QTest::newRow("no past dates")
-        << "01.01.2020\tdescription" << int(waitColumn) << "NIE description NIE " << 1;
+    QTest::newRow("what does not fit") << "x\tkg\r\n2000000\tno unit" << int(quantityColumn) << "0 kg 1 odd unit" << 3;
+    QTest::newRow("words as they are shown") << "TAK\tnew target" << int(rohsColumn) << "TAK new target  " << 0;
+    QTest::newRow("no past dates") << "01.01.2020\tdescription" << int(waitColumn) << "NIE description NIE " << 1;
     QTest::newRow("amounts with a comma") << "1,5\t-1" << int(priceColumn) << "1.50  30,95 " << 1;
     QTest::newRow("read-only cells") << "9" << int(inWarehouseColumn) << " 0  1" << 1;
 }
@@ -292,8 +280,7 @@ void tst_editCommands::pasteBlock()
     QList<int> columns;
     for (int c = 0; c < orderTree::columnCount; ++c)
         columns.append(c);
-    auto pasted = cellBlock::paste(&f.model, f.model.index(0, column), {f.model.index(0, column)},
-                                   columns, text);
+    auto pasted = cellBlock::paste(&f.model, f.model.index(0, column), {f.model.index(0, column)}, columns, text);
     QStringList cells;
     for (int r = 0; r < 2; ++r)
         for (int c : {column, column + 1})

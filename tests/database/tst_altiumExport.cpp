@@ -1,18 +1,15 @@
 // The exports for the CAD tool, read back by other programs.
-#include "database/databaseSupport.h"
 #include "testSupport.h"
 
 #include "database/altiumExport.h"
 #include "database/exportNames.h"
-#include "util/files.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
-using testSupport::material;
+using namespace testSupport;
 
 namespace {
 
@@ -21,76 +18,36 @@ const QString longText = QString(40000, 'x');
 // Everything that a spreadsheet or SQL could take for something else.
 void fillNasty(kiv_mat_databaseStruct &database)
 {
-    const QStringList names{"Group",
-                            "group",
-                            "Case",
-                            "0603",
-                            "R-SMD",
-                            "Układy scalone",
-                            "O'Brien's",
-                            "'",
-                            "",
-                            "",
-                            "sqlite_stat",
-                            "a[b]:*?/\\c",
-                            "History",
-                            "Groups",
-                            "with \"quotes\"",
-                            "Złącza 2.54 mm jednorzędowe Samtec TSW",
-                            "Złącza 2.54 mm jednorzędowe Samtec SSW",
-                            "x;drop table y--",
-                            "id"};
-    const QStringList values{"00220",
-                             "=1+1",
-                             "1e5",
-                             "12,50",
-                             "it's 'q'",
-                             " blanks ",
-                             "a\nb\tc",
-                             "-",
-                             "<&>",
-                             "0Ω ±1%",
-                             QString::fromUtf8("😀"),
-                             "';--"};
+    const QStringList names =
+        QString("Group|group|Case|0603|R-SMD|Układy scalone|O'Brien's|'|||sqlite_stat|a[b]:*?/\\c|"
+                "History|Groups|with \"quotes\"|Złącza 2.54 mm jednorzędowe Samtec TSW|"
+                "Złącza 2.54 mm jednorzędowe Samtec SSW|x;drop table y--|id")
+            .split('|');
+    const QStringList values = QString("00220|=1+1|1e5|12,50|it's 'q'| blanks |a\nb\tc|-|<&>|0Ω ±1%|😀|';--").split('|');
     int number = 0;
     for (const QString &name : names) {
         database.groups.push_back(std::make_unique<d_groupStruct>());
         database.groups.back()->name = name;
         for (const QString &value : values) {
-            materialStruct *added =
-                database.groups.back()->append(std::make_unique<materialStruct>());
+            materialStruct *added = database.groups.back()->append(std::make_unique<materialStruct>());
             added->d_ktm = QString("%1").arg(++number, 5, 10, QChar('0'));
-            added->d_name = value;
-            added->d_value = value;
-            added->d_footprintRef6 = value;
+            added->d_name = added->d_value = added->d_footprintRef6 = value;
         }
     }
     database.groups.front()->items.front()->d_description = longText;
 }
 
-QByteArray run(const QString &program, const QStringList &arguments, const QString &input = {})
+// What a program wrote; an error's text when it failed or complained.
+QByteArray output(const QString &program, const QStringList &arguments, const QString &input = {})
 {
-    QProcess process;
-    if (!input.isEmpty())
-        process.setStandardInputFile(input);
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return "failed: " + process.readAllStandardError();
-    const QByteArray errors = process.readAllStandardError();
-    return errors.isEmpty() ? process.readAllStandardOutput() : "complained: " + errors;
+    const ended done = run(program, arguments, {}, {}, input);
+    return done.code == 0 && done.err.isEmpty() ? done.out.toUtf8() : "failed: " + done.err.toUtf8();
 }
 
 // The sheets in order, each as its name and rows of cells.
 QJsonArray readWorkbook(const QString &path)
 {
-    const QByteArray json =
-        run("/usr/bin/python3",
-            {"-c",
-             "import openpyxl, json, sys\n"
-             "book = openpyxl.load_workbook(sys.argv[1])\n"
-             "print(json.dumps([[s.title, [[c.value for c in r] for r in s.iter_rows()]]"
-             " for s in book]))",
-             path});
+    const QByteArray json = output("/usr/bin/python3", {source("tests/files/readWorkbook.py"), path});
     if (!json.startsWith('['))
         qWarning("%s", json.constData());
     return QJsonDocument::fromJson(json).array();
@@ -98,285 +55,215 @@ QJsonArray readWorkbook(const QString &path)
 
 } // namespace
 
-class tst_altiumExport : public QObject
+class tst_altiumExport : public folderTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_folder = std::make_unique<testSupport::programFolder>(); }
-    void sheetNames_data();
-    void sheetNames();
-    void sqlNames_data();
-    void sqlNames();
-    void scriptText_data();
-    void scriptText();
-    void scriptRuns();
-    void workbookReadsBack();
-    void groupsReadBack();
-    void oldFilesAreReplacedWhole();
-    void nothingIsLeftHalfDone();
-    void descriptionNamesWhatIsThere();
+    void sheetNames_data()
+    {
+        const rows<QStringList, QStringList> row;
+        row("Polish letters", {"Łódź"}, {"Lodz"});
+        row("refused characters", {"[a]:*?/\\b"}, {"_a______b"});
+        row("apostrophes", {"''a'b'", "'"}, {"a'b", "Group"});
+        row("empty", {"", ""}, {"Group", "Group 2"});
+        row("case", {"ab", "AB", "aB"}, {"ab", "AB 2", "aB 3"});
+        row("a number that is taken", {"a", "a 2", "a"}, {"a", "a 2", "a 3"});
+        row("reserved", {"groups", "History"}, {"groups 2", "History 2"});
+        row("long", {QString(40, 'a'), QString(40, 'A')}, {QString(31, 'a'), QString(29, 'A') + " 2"});
+        row("apostrophe where it is cut", {QString(30, 'a') + "'b"}, {QString(30, 'a')});
+        row("no half character", {QString(30, 'a') + "😀"}, {QString(30, 'a')});
+    }
+
+    void sheetNames()
+    {
+        const auto [wanted, given] = fetch<QStringList, QStringList>();
+        QCOMPARE(exportNames::sheetNames(wanted, {"Groups"}), given);
+    }
+
+    void sqlNames_data()
+    {
+        const rows<QString> row;
+        row("Rezystory", "Rezystory");
+        row("Other parameters", "'Other parameters'");
+        row("Układy", "Uklady");
+        row("O'Brien", "OBrien");
+        row("group", "'group'");
+        row("0603", "'0603'");
+        row("R-SMD", "'R-SMD'");
+        row("Ω", "'Ω'");
+        row("_x1", "_x1");
+        row("", "'Group'");
+        row("SQLite_x", "_SQLite_x");
+        row("ID", "ID_2");
+    }
+
+    void sqlNames()
+    {
+        const auto [given] = fetch<QString>();
+        QCOMPARE(exportNames::quoted(exportNames::sqlNames({tag()}, {"id"}).at(0)), given);
+    }
+
+    void scriptText()
+    {
+        kiv_mat_databaseStruct database;
+        QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::done);
+        QCOMPARE(read(path("a.txt")), QByteArray("BEGIN TRANSACTION;\n\nCOMMIT;\n"));
+        materialStruct *m = material(database, "Układy a", "");
+        for (const auto &field : materialStruct::fields())
+            m->*field.member = QString(field.name).mid(2);
+        m->d_name = "it's";
+        QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::done);
+        QCOMPARE(QString(read(path("a.txt"))), QString(read(source("tests/files/altiumScript.txt"))));
+    }
+
+    // sqlite3 runs the script without a word; every row and value is there.
+    void scriptRuns()
+    {
+        kiv_mat_databaseStruct database;
+        fillNasty(database);
+        const exportResult result = exportAltiumSqlite(database, path("a.SQLITE"));
+        QCOMPARE(result.result, exportResult::done);
+        QCOMPARE(result.materials, database.materialCount());
+        QCOMPARE(output("sqlite3", {path("a.SQLITE")}, path("a.txt")), QByteArray());
+
+        QStringList names;
+        for (const auto &group : database.groups)
+            names.append(group->name);
+        const QStringList tables = exportNames::sqlNames(names);
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
+            connection.setDatabaseName(path("a.SQLITE"));
+            QVERIFY(connection.open());
+            QCOMPARE(connection.tables().size(), tables.size());
+            for (int i = 0; i < tables.size(); ++i) {
+                const d_groupStruct &group = *database.groups[size_t(i)];
+                QSqlQuery query(connection);
+                QVERIFY(query.exec("select * from " + exportNames::quoted(tables.at(i)) + " order by id"));
+                for (const auto &expected : group.items) {
+                    QVERIFY(query.next());
+                    QCOMPARE(query.value(1).toString(), expected->d_ktm);
+                    QCOMPARE(query.value(2).toString(), group.name);
+                    QCOMPARE(query.value(9).toString(), expected->d_description);
+                    QCOMPARE(query.value(10).toString(), expected->d_name);
+                    QCOMPARE(query.value(23).toString(), expected->d_footprintRef6);
+                }
+                QVERIFY(!query.next());
+            }
+        }
+        QSqlDatabase::removeDatabase("test");
+    }
+
+    void workbookReadsBack()
+    {
+        kiv_mat_databaseStruct database;
+        fillNasty(database);
+        const exportResult result = exportAltiumXlsx(database, path("a.xlsx"));
+        QCOMPARE(result.result, exportResult::done);
+        QVERIFY(result.notes.join("").contains("<b>00001</b>&nbsp;[Description]"));
+        QVERIFY(result.notes.join("").contains("<b>group</b>&nbsp;[group 2]"));
+
+        const QJsonArray sheets = readWorkbook(path("a.xlsx"));
+        QCOMPARE(sheets.size(), int(database.groups.size()));
+        for (int i = 0; i < sheets.size(); ++i) {
+            const d_groupStruct &group = *database.groups[size_t(i)];
+            const QJsonArray rows = sheets[i][1].toArray();
+            QCOMPARE(rows.size(), 1 + int(group.items.size()));
+            QCOMPARE(rows[0].toArray().size(), 23);
+            QCOMPARE(rows[0][15].toString(), QString("Comment"));
+            for (int row = 1; row < rows.size(); ++row) {
+                const materialStruct &expected = *group.items[size_t(row - 1)];
+                QCOMPARE(rows[row][0].toString(), expected.d_ktm);
+                QCOMPARE(rows[row][1].toString(), group.name);
+                QCOMPARE(rows[row][8].toString(), expected.d_description.left(32767));
+                QCOMPARE(rows[row][9].toString(), expected.d_name);
+                QVERIFY(rows[row][15].isNull());
+                QCOMPARE(rows[row][22].toString(), expected.d_footprintRef6);
+            }
+        }
+    }
+
+    void groupsReadBack()
+    {
+        kiv_mat_databaseStruct database;
+        material(database, "Groups", "K1", "n1")->d_cpv = "c1";
+        material(database, "Groups", "K2", "n2");
+        group(database, "empty")->cpv = "31711130-3";
+        database.groups.back()->ktm = "317111";
+        QCOMPARE(exportGroups(database, path("g.xlsx")).result, exportResult::done);
+        const QByteArray found = QJsonDocument(readWorkbook(path("g.xlsx"))).toJson(QJsonDocument::Compact);
+        QCOMPARE(found, QByteArray("[[\"Groups\",[[\"Name\",\"KTM\",\"CPV\"],[\"Groups\",null,null],"
+                                   "[\"empty\",\"317111\",\"31711130-3\"]]],"
+                                   "[\"Groups 2\",[[\"Name\",\"KTM\",\"CPV\"],[\"n1\",\"K1\",\"c1\"],"
+                                   "[\"n2\",\"K2\",null]]],[\"empty\",[[\"Name\",\"KTM\",\"CPV\"]]]]"));
+    }
+
+    void oldFilesAreReplacedWhole()
+    {
+        kiv_mat_databaseStruct database;
+        material(database, "G", "K");
+        const QString target = path("a.sqlite");
+        QVERIFY(output("sqlite3", {target, "create table G(a); insert into G values(1);"}).isEmpty());
+        m_folder->write("a.sqlite-journal", "left by another program");
+        // Twice: the second export replaces what the script has made of the first.
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(exportAltiumSqlite(database, target).result, exportResult::done);
+            QVERIFY(!QFile::exists(target + "-journal"));
+            QCOMPARE(output("sqlite3", {target}, path("a.txt")), QByteArray());
+            QCOMPARE(output("sqlite3", {target, "select count(*), KTM from G"}), QByteArray("1|K\n"));
+        }
+    }
+
+    // Cancelled, or without a place to write: old files stay, no other file is left.
+    void nothingIsLeftHalfDone()
+    {
+        kiv_mat_databaseStruct database;
+        for (int i = 0; i < 200; ++i)
+            material(database, "G", QString::number(i));
+        for (const char *name : {"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"})
+            m_folder->write(name, "old");
+        const progressFunction cancel = [](long long done, long long total) { return total != 200 || done < 100; };
+        for (const auto function : {exportAltiumXlsx, exportGroups, exportAltiumSqlite}) {
+            const QString ending = function == exportAltiumSqlite ? ".sqlite" : ".xlsx";
+            QCOMPARE(function(database, m_folder->path("a" + ending), cancel).result, exportResult::cancelled);
+            const exportResult refused = function(database, m_folder->path("a.txt/x" + ending), {});
+            QCOMPARE(refused.result, exportResult::failed);
+            QVERIFY(refused.error.contains("a.txt"));
+        }
+        // The description cannot be written: the workbook is not replaced either.
+        QVERIFY(QFile::remove(path("a.DbLib")) && QDir().mkdir(path("a.DbLib")));
+        QCOMPARE(exportAltiumXlsx(database, path("a.xlsx")).result, exportResult::failed);
+        QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::failed);
+        for (const char *name : {"a.sqlite", "a.txt", "a.xlsx"})
+            QCOMPARE(read(m_folder->path(name)), QByteArray("old"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    }
+
+    // Each described table and column stands in the exported file under that name.
+    void descriptionNamesWhatIsThere()
+    {
+        kiv_mat_databaseStruct database;
+        for (const char *name : {"A.b", "with|bar", "with]bracket", "Group"})
+            material(database, name, "K");
+        QVERIFY(exportAltiumXlsx(database, path("part s.xlsx")).files.contains(path("part s.DbLib")));
+        const QString text = QString::fromUtf8(read(path("part s.DbLib")));
+        QVERIFY(text.contains("Data Source=.\\part s.xlsx;"));
+        QVERIFY(!text.contains("with|"));
+        QVERIFY(text.contains("TableName=with_bracket$"));
+        QVERIFY(text.contains("TableName=A#b$\r\n"));
+        QVERIFY(text.contains("TableName=Group$\r\n"));
+        QCOMPARE(text.count("[FieldMap"), 3 * 23);
+        QVERIFY(text.contains("FieldName=Group$.LibraryRef|TableNameOnly=Group$|FieldNameOnly="
+                              "LibraryRef|FieldType=1|ParameterName=[Library Ref]|"));
+        const QStringList notes = exportAltiumSqlite(database, path("p.sqlite")).notes;
+        QCOMPARE(notes.filter("<b>with").size(), 2);
+        const QString sql = QString::fromUtf8(read(path("p.DbLib")));
+        QVERIFY(sql.contains("Database=.\\p.sqlite;"));
+        QVERIFY(sql.contains("TableName=A.b\r\n"));
+    }
 
 private:
     QString path(const char *name) const { return m_folder->path(name); }
-    std::unique_ptr<testSupport::programFolder> m_folder;
 };
-
-void tst_altiumExport::sheetNames_data()
-{
-    QTest::addColumn<QStringList>("wanted");
-    QTest::addColumn<QStringList>("given");
-    QTest::newRow("Polish letters") << QStringList("Łódź") << QStringList("Lodz");
-    QTest::newRow("refused characters") << QStringList("[a]:*?/\\b") << QStringList("_a______b");
-    QTest::newRow("apostrophes") << QStringList{"''a'b'", "'"} << QStringList{"a'b", "Group"};
-    QTest::newRow("empty") << QStringList{"", ""} << QStringList{"Group", "Group 2"};
-    QTest::newRow("case") << QStringList{"ab", "AB", "aB"} << QStringList{"ab", "AB 2", "aB 3"};
-    QTest::newRow("a number that is taken")
-        << QStringList{"a", "a 2", "a"} << QStringList{"a", "a 2", "a 3"};
-    QTest::newRow("reserved") << QStringList{"groups", "History"}
-                              << QStringList{"groups 2", "History 2"};
-    QTest::newRow("long") << QStringList{QString(40, 'a'), QString(40, 'A')}
-                          << QStringList{QString(31, 'a'), QString(29, 'A') + " 2"};
-    QTest::newRow("apostrophe where it is cut")
-        << QStringList(QString(30, 'a') + "'b") << QStringList(QString(30, 'a'));
-    QTest::newRow("no half character")
-        << QStringList(QString(30, 'a') + QString::fromUtf8("😀")) << QStringList(QString(30, 'a'));
-}
-
-void tst_altiumExport::sheetNames()
-{
-    QFETCH(QStringList, wanted);
-    QTEST(exportNames::sheetNames(wanted, {"Groups"}), "given");
-}
-
-void tst_altiumExport::sqlNames_data()
-{
-    QTest::addColumn<QString>("wanted");
-    QTest::addColumn<QString>("given");
-    const auto row = [](const char *wanted, const char *given) {
-        QTest::newRow(wanted) << QString(wanted) << QString(given);
-    };
-    row("Rezystory", "Rezystory");
-    row("Other parameters", "'Other parameters'");
-    row("Układy", "Uklady");
-    row("O'Brien", "OBrien");
-    row("group", "'group'");
-    row("0603", "'0603'");
-    row("R-SMD", "'R-SMD'");
-    row("Ω", "'Ω'");
-    row("_x1", "_x1");
-    row("", "'Group'");
-    row("SQLite_x", "_SQLite_x");
-    row("ID", "ID_2");
-}
-
-void tst_altiumExport::sqlNames()
-{
-    QFETCH(QString, wanted);
-    QTEST(exportNames::quoted(exportNames::sqlNames({wanted}, {"id"}).at(0)), "given");
-}
-
-void tst_altiumExport::scriptText_data()
-{
-    QTest::addColumn<bool>("withGroup");
-    QTest::addColumn<QByteArray>("script");
-    QTest::newRow("no groups") << false << QByteArray("BEGIN TRANSACTION;\n\nCOMMIT;\n");
-    QTest::newRow("one material")
-        << true
-        << QByteArray(
-               "BEGIN TRANSACTION;\ncreate table 'Uklady a'(id integer primary key, KTM "
-               "varchar(128), 'Group' varchar(128), Value varchar(128), Power varchar(128), "
-               "Voltage varchar(128), 'Current' varchar(128), Tolerance varchar(128), 'Other "
-               "parameters' varchar(128), Description varchar(128), Name varchar(128), 'Case' "
-               "varchar(128), Quantity varchar(128), Price varchar(128), 'Average price' "
-               "varchar(128), Active varchar(128), Comment varchar(128), LibraryRef varchar(128), "
-               "FootprintRef varchar(128), FootprintRef2 varchar(128), FootprintRef3 "
-               "varchar(128), FootprintRef4 varchar(128), FootprintRef5 varchar(128), "
-               "FootprintRef6 varchar(128) );\ninsert into 'Uklady a' values(1, "
-               "'K','Układy a','v','pw','vo','c','t','o','d','it''s','ca','q','pr','av','NIE','',"
-               "'l','f','f2','f3','f4','f5','f6');\n\nCOMMIT;\n");
-}
-
-void tst_altiumExport::scriptText()
-{
-    QFETCH(bool, withGroup);
-    kiv_mat_databaseStruct database;
-    if (withGroup) {
-        materialStruct *m = material(database, "Układy a", "K", "it's");
-        m->d_value = "v";
-        m->d_power = "pw";
-        m->d_voltage = "vo";
-        m->d_current = "c";
-        m->d_tolerance = "t";
-        m->d_otherParameters = "o";
-        m->d_description = "d";
-        m->d_case = "ca";
-        m->d_quantity = "q";
-        m->d_price = "pr";
-        m->d_averagePrice = "av";
-        m->d_libraryRef = "l";
-        m->d_footprintRef = "f";
-        m->d_footprintRef2 = "f2";
-        m->d_footprintRef3 = "f3";
-        m->d_footprintRef4 = "f4";
-        m->d_footprintRef5 = "f5";
-        m->d_footprintRef6 = "f6";
-    }
-    QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::done);
-    QTEST(testSupport::read(path("a.txt")), "script");
-}
-
-// sqlite3 runs the script without a word; every row and value is there.
-void tst_altiumExport::scriptRuns()
-{
-    kiv_mat_databaseStruct database;
-    fillNasty(database);
-    const exportResult result = exportAltiumSqlite(database, path("a.SQLITE"));
-    QCOMPARE(result.result, exportResult::done);
-    QCOMPARE(result.materials, database.materialCount());
-    QCOMPARE(run("sqlite3", {path("a.SQLITE")}, path("a.txt")), QByteArray());
-
-    QStringList names;
-    for (const auto &group : database.groups)
-        names.append(group->name);
-    const QStringList tables = exportNames::sqlNames(names);
-    {
-        QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
-        connection.setDatabaseName(path("a.SQLITE"));
-        QVERIFY(connection.open());
-        QCOMPARE(connection.tables().size(), tables.size());
-        for (int i = 0; i < tables.size(); ++i) {
-            const d_groupStruct &group = *database.groups[size_t(i)];
-            QSqlQuery query(connection);
-            QVERIFY(
-                query.exec("select * from " + exportNames::quoted(tables.at(i)) + " order by id"));
-            for (const auto &expected : group.items) {
-                QVERIFY(query.next());
-                QCOMPARE(query.value(1).toString(), expected->d_ktm);
-                QCOMPARE(query.value(2).toString(), group.name);
-                QCOMPARE(query.value(9).toString(), expected->d_description);
-                QCOMPARE(query.value(10).toString(), expected->d_name);
-                QCOMPARE(query.value(23).toString(), expected->d_footprintRef6);
-            }
-            QVERIFY(!query.next());
-        }
-    }
-    QSqlDatabase::removeDatabase("test");
-}
-
-void tst_altiumExport::workbookReadsBack()
-{
-    kiv_mat_databaseStruct database;
-    fillNasty(database);
-    const exportResult result = exportAltiumXlsx(database, path("a.xlsx"));
-    QCOMPARE(result.result, exportResult::done);
-    QVERIFY(result.notes.join("").contains("<b>00001</b>&nbsp;[Description]"));
-    QVERIFY(result.notes.join("").contains("<b>group</b>&nbsp;[group 2]"));
-
-    const QJsonArray sheets = readWorkbook(path("a.xlsx"));
-    QCOMPARE(sheets.size(), int(database.groups.size()));
-    for (int i = 0; i < sheets.size(); ++i) {
-        const d_groupStruct &group = *database.groups[size_t(i)];
-        const QJsonArray rows = sheets[i][1].toArray();
-        QCOMPARE(rows.size(), 1 + int(group.items.size()));
-        QCOMPARE(rows[0].toArray().size(), 23);
-        QCOMPARE(rows[0][15].toString(), QString("Comment"));
-        for (int row = 1; row < rows.size(); ++row) {
-            const materialStruct &expected = *group.items[size_t(row - 1)];
-            QCOMPARE(rows[row][0].toString(), expected.d_ktm);
-            QCOMPARE(rows[row][1].toString(), group.name);
-            QCOMPARE(rows[row][8].toString(), expected.d_description.left(32767));
-            QCOMPARE(rows[row][9].toString(), expected.d_name);
-            QVERIFY(rows[row][15].isNull());
-            QCOMPARE(rows[row][22].toString(), expected.d_footprintRef6);
-        }
-    }
-}
-
-void tst_altiumExport::groupsReadBack()
-{
-    kiv_mat_databaseStruct database;
-    material(database, "Groups", "K1", "n1")->d_cpv = "c1";
-    material(database, "Groups", "K2", "n2");
-    testSupport::group(database, "empty")->cpv = "31711130-3";
-    database.groups.back()->ktm = "317111";
-    QCOMPARE(exportGroups(database, path("g.xlsx")).result, exportResult::done);
-    const QByteArray found =
-        QJsonDocument(readWorkbook(path("g.xlsx"))).toJson(QJsonDocument::Compact);
-    QCOMPARE(found, QByteArray("[[\"Groups\",[[\"Name\",\"KTM\",\"CPV\"],[\"Groups\",null,null],"
-                               "[\"empty\",\"317111\",\"31711130-3\"]]],"
-                               "[\"Groups 2\",[[\"Name\",\"KTM\",\"CPV\"],[\"n1\",\"K1\",\"c1\"],"
-                               "[\"n2\",\"K2\",null]]],[\"empty\",[[\"Name\",\"KTM\",\"CPV\"]]]]"));
-}
-
-void tst_altiumExport::oldFilesAreReplacedWhole()
-{
-    kiv_mat_databaseStruct database;
-    material(database, "G", "K");
-    const QString target = path("a.sqlite");
-    QVERIFY(run("sqlite3", {target, "create table G(a); insert into G values(1);"}).isEmpty());
-    m_folder->write("a.sqlite-journal", "left by another program");
-    // Twice: the second export replaces what the script has made of the first.
-    for (int i = 0; i < 2; ++i) {
-        QCOMPARE(exportAltiumSqlite(database, target).result, exportResult::done);
-        QVERIFY(!QFile::exists(target + "-journal"));
-        QCOMPARE(run("sqlite3", {target}, path("a.txt")), QByteArray());
-        QCOMPARE(run("sqlite3", {target, "select count(*), KTM from G"}), QByteArray("1|K\n"));
-    }
-}
-
-// Cancelled, or without a place to write: old files stay, no other file is left.
-void tst_altiumExport::nothingIsLeftHalfDone()
-{
-    kiv_mat_databaseStruct database;
-    for (int i = 0; i < 200; ++i)
-        material(database, "G", QString::number(i));
-    const QStringList names{"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"};
-    for (const QString &name : names)
-        m_folder->write(name, "old");
-    const progressFunction cancel = [](long long done, long long total) {
-        return total != 200 || done < 100;
-    };
-    for (const auto function : {exportAltiumXlsx, exportGroups, exportAltiumSqlite}) {
-        const QString ending = function == exportAltiumSqlite ? ".sqlite" : ".xlsx";
-        QCOMPARE(function(database, m_folder->path("a" + ending), cancel).result,
-                 exportResult::cancelled);
-        const exportResult refused = function(database, m_folder->path("a.txt/x" + ending), {});
-        QCOMPARE(refused.result, exportResult::failed);
-        QVERIFY(refused.error.contains("a.txt"));
-    }
-    // The description cannot be written: the workbook is not replaced either.
-    QVERIFY(QFile::remove(path("a.DbLib")) && QDir().mkdir(path("a.DbLib")));
-    QCOMPARE(exportAltiumXlsx(database, path("a.xlsx")).result, exportResult::failed);
-    QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::failed);
-    for (const char *name : {"a.sqlite", "a.txt", "a.xlsx"})
-        QCOMPARE(testSupport::read(m_folder->path(name)), QByteArray("old"));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
-}
-
-// Each described table and column stands in the exported file under that name.
-void tst_altiumExport::descriptionNamesWhatIsThere()
-{
-    kiv_mat_databaseStruct database;
-    material(database, "A.b", "K");
-    material(database, "with|bar", "K");
-    material(database, "with]bracket", "K");
-    material(database, "Group", "K");
-    QVERIFY(exportAltiumXlsx(database, path("part s.xlsx")).files.contains(path("part s.DbLib")));
-    const QString text = QString::fromUtf8(testSupport::read(path("part s.DbLib")));
-    QVERIFY(text.contains("Data Source=.\\part s.xlsx;"));
-    QVERIFY(!text.contains("with|"));
-    QVERIFY(text.contains("TableName=with_bracket$"));
-    QVERIFY(text.contains("TableName=A#b$\r\n"));
-    QVERIFY(text.contains("TableName=Group$\r\n"));
-    QCOMPARE(text.count("[FieldMap"), 3 * 23);
-    QVERIFY(text.contains("FieldName=Group$.LibraryRef|TableNameOnly=Group$|FieldNameOnly="
-                          "LibraryRef|FieldType=1|ParameterName=[Library Ref]|"));
-    const QStringList notes = exportAltiumSqlite(database, path("p.sqlite")).notes;
-    QCOMPARE(notes.filter("<b>with").size(), 2);
-    const QString sql = QString::fromUtf8(testSupport::read(path("p.DbLib")));
-    QVERIFY(sql.contains("Database=.\\p.sqlite;"));
-    QVERIFY(sql.contains("TableName=A.b\r\n"));
-}
 
 KIVZP_TEST(tst_altiumExport)
 #include "tst_altiumExport.moc"

@@ -1,28 +1,188 @@
 // Duplicates, empty fields, counts, links and reports of a material database.
-#include "database/databaseSupport.h"
 #include "testSupport.h"
 
-#include "data/kiv_mat_firmStruct.h"
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
 #include "database/linkOperations.h"
 
-using testSupport::manufacturer;
-using testSupport::material;
+using namespace testSupport;
 
-class tst_databaseChecks : public QObject
+class tst_databaseChecks : public folderTest
 {
     Q_OBJECT
 private slots:
-    void sameKtm();
-    void samePartNumber();
-    void emptyFields_data();
-    void emptyFields();
-    void information();
-    void linksAreAskedOnceAndInTurn();
-    void linkCheckCanBeCancelled();
-    void reportEscapesAndMarks();
-    void reportIsWrittenWholeOrNotAtAll();
+    void sameKtm()
+    {
+        kiv_mat_databaseStruct database;
+        material(database, "A", "2", "<two>");
+        material(database, "A", "1", "one");
+        material(database, "A", "");
+        material(database, "B", "");
+        material(database, "B", "3");
+        QVERIFY(duplicateKtms(database).empty());
+        material(database, "B", "1", "one again");
+        material(database, "B", "2", "two again");
+        material(database, "B", "1", "one once more");
+        QCOMPARE(duplicateLines(duplicateKtms(database)),
+                 QStringList(
+                     {"<b>2</b> [&lt;two&gt;], [two again]<br>", "<b>1</b> [one], [one again], [one once more]<br>"}));
+    }
+
+    void samePartNumber()
+    {
+        kiv_mat_databaseStruct database;
+        materialStruct *first = material(database, "A", "1", "first");
+        manufacturer(first, "Yageo", "RC0603");
+        manufacturer(first, "Yageo", "RC0603");
+        manufacturer(first, "Other", "");
+        QVERIFY(duplicatePartNumbers(database).empty());
+        // Another maker's part, and one without a number, are others.
+        materialStruct *second = material(database, "B", "2", "second");
+        manufacturer(second, "Vishay", "RC0603");
+        manufacturer(second, "Other", "  ");
+        QVERIFY(duplicatePartNumbers(database).empty());
+        materialStruct *third = material(database, "B", "3", "third");
+        manufacturer(third, " YAGEO ", "rc0603");
+        manufacturer(third, "Yageo", "RC0603");
+        QCOMPARE(duplicateLines(duplicatePartNumbers(database)),
+                 QStringList{"<b>Yageo RC0603</b> [1 first], [3 third]<br>"});
+    }
+
+    void emptyFields_data()
+    {
+        const rows<QString, QStringList> row;
+        row("nothing", "", {});
+        row("KTM", "d_ktm", {"KTM"});
+        row("CPV", "d_cpv", {"CPV"});
+        row("name", "d_name", {"Name"});
+        row("unit", "d_unit", {"Unit"});
+        row("what many materials do not have", "d_voltage", {});
+    }
+
+    void emptyFields()
+    {
+        const auto [field, missing] = fetch<QString, QStringList>();
+        kiv_mat_databaseStruct database;
+        materialStruct *m = complete(database);
+        for (const auto &f : materialStruct::fields())
+            if (f.name == field)
+                m->*f.member = " \n";
+        const std::vector<incompleteMaterial> found = incompleteMaterials(database);
+        QCOMPARE(int(found.size()), missing.isEmpty() ? 0 : 1);
+        if (!found.empty())
+            QCOMPARE(found[0].missing, missing);
+        m->information.status.clear();
+        m->manufacturers.items.clear();
+        QCOMPARE(incompleteMaterials(database)[0].missing,
+                 missing + QStringList({"Status", "Manufacturers / Suppliers"}));
+    }
+
+    void information()
+    {
+        kiv_mat_databaseStruct database;
+        complete(database);
+        material(database, "H", "K2");
+        QCOMPARE(informationText(database),
+                 QString("<b>Materials count</b> [ 2 ]<br><br>Materials count in database [ 2 ]<br>"
+                         "Groups count in database [ 2 ]<br>Materials count with status [ 1 ]<br>"
+                         "<br>"));
+    }
+
+    void linksAreAskedOnceAndInTurn()
+    {
+        kiv_mat_databaseStruct database;
+        materialStruct *m = material(database, "A", "1");
+        manufacturer(m, "Y", "1", "https://good.pl/a b.pdf");
+        manufacturer(m, "Y", "2", "http://bad.pl/https:x");
+        manufacturer(m, "Y", "3")->files.append(std::make_unique<fileStruct>());
+        supplierStruct *s = appendTo(m->suppliers);
+        appendTo(s->files)->name = "http://bad.pl/https:x";
+        appendTo(s->files)->name = "http://[not valid";
+        QStringList asked;
+        std::vector<long long> told;
+        const linkCheckResult result = checkUrls(
+            database,
+            [&told](long long done, long long total) {
+                told.push_back(done);
+                return total == 5;
+            },
+            [&asked](const QUrl &url, const std::function<bool()> &) {
+                asked.append(url.toString());
+                return url.host() == "good.pl";
+            });
+        QCOMPARE(asked, QStringList({"http://good.pl/a b.pdf", "http://bad.pl/http:x"}));
+        QCOMPARE(told, std::vector<long long>({0, 1, 2, 3, 4, 5}));
+        QVERIFY(!result.cancelled);
+        QCOMPARE(linkErrorLines(result),
+                 QStringList({"[Error] http://bad.pl/https:x<br>", "[Error] <br>", "[Error] http://bad.pl/https:x<br>",
+                              "[Error] http://[not valid<br>"}));
+    }
+
+    // Cancelled before or while a link is asked: that link counts as not checked.
+    void linkCheckCanBeCancelled()
+    {
+        kiv_mat_databaseStruct database;
+        for (const char *link : {"http://a", "http://b", "http://c"})
+            manufacturer(material(database, "A", link), "Y", "1", link);
+        int told = 0;
+        const auto probe = [](const QUrl &, const std::function<bool()> &keepGoing) {
+            for (int wait = 0; wait < 10; ++wait)
+                if (!keepGoing())
+                    return false;
+            return true;
+        };
+        const linkCheckResult result = checkUrls(
+            database, [&told](long long, long long) { return ++told < 15; }, probe);
+        QVERIFY(result.cancelled);
+        QCOMPARE(told, 15);
+        QCOMPARE(int(result.links.size()), 1);
+        QVERIFY(result.links[0].answers);
+    }
+
+    void reportEscapesAndMarks()
+    {
+        kiv_mat_databaseStruct database;
+        materialStruct *m = complete(database);
+        m->d_name = "<b>&\"";
+        manufacturer(m, "Bourns", "<2>", "https://x.pl/\"onclick=");
+        manufacturer(m, "Unknown", "3", "javascript:alert(1)");
+        kiv_mat_firmStruct firms;
+        firmStruct *firm = appendTo(firms.manufacturers);
+        firm->name = "Bourns";
+        firm->status = "ZIELONY";
+        for (const auto kind : {databaseReportKind::brief, databaseReportKind::full}) {
+            const QString path = databaseReportPath(m_folder->path("db.XML"), kind);
+            QCOMPARE(writeDatabaseReport(database, &firms, kind, path).result, exportResult::done);
+        }
+        const QString brief = QString::fromUtf8(read(m_folder->path("db_short.html")));
+        const QString full = QString::fromUtf8(read(m_folder->path("db_full.html")));
+        for (const QString &page : {brief, full}) {
+            QVERIFY(page.contains("&lt;b&gt;&amp;&quot;"));
+            QVERIFY(page.contains("1 [ PLN ]"));
+            QVERIFY(page.endsWith("</html>\n"));
+        }
+        QVERIFY(!brief.contains("Bourns"));
+        QVERIFY(full.contains("#2E9E4F\">&#9679;</span>&nbsp;Bourns &lt;2&gt;"));
+        QVERIFY(full.contains("<br>Unknown 3"));
+        QVERIFY(full.contains("<a href=\"https://x.pl/&quot;onclick=\">"));
+        QVERIFY(!full.contains("href=\"javascript"));
+        QVERIFY(full.contains("Status firmy:"));
+    }
+
+    void reportIsWrittenWholeOrNotAtAll()
+    {
+        const QString path = m_folder->write("r.html", "old");
+        kiv_mat_databaseStruct database;
+        material(database, "A", "1");
+        material(database, "B", "2");
+        const progressFunction cancel = [](long long done, long long) { return done < 1; };
+        QCOMPARE(writeDatabaseReport(database, nullptr, databaseReportKind::full, path, cancel).result,
+                 exportResult::cancelled);
+        QCOMPARE(read(path), QByteArray("old"));
+        QCOMPARE(
+            writeDatabaseReport(database, nullptr, databaseReportKind::full, m_folder->path("r.html/x.html")).result,
+            exportResult::failed);
+    }
 
 private:
     // A material that lacks nothing.
@@ -38,184 +198,6 @@ private:
         return m;
     }
 };
-
-void tst_databaseChecks::sameKtm()
-{
-    kiv_mat_databaseStruct database;
-    material(database, "A", "2", "<two>");
-    material(database, "A", "1", "one");
-    material(database, "A", "");
-    material(database, "B", "");
-    material(database, "B", "3");
-    QVERIFY(duplicateKtms(database).empty());
-    material(database, "B", "1", "one again");
-    material(database, "B", "2", "two again");
-    material(database, "B", "1", "one once more");
-    QCOMPARE(duplicateLines(duplicateKtms(database)),
-             QStringList({"<b>2</b> [&lt;two&gt;], [two again]<br>",
-                          "<b>1</b> [one], [one again], [one once more]<br>"}));
-}
-
-void tst_databaseChecks::samePartNumber()
-{
-    kiv_mat_databaseStruct database;
-    materialStruct *first = material(database, "A", "1", "first");
-    manufacturer(first, "Yageo", "RC0603");
-    manufacturer(first, "Yageo", "RC0603");
-    manufacturer(first, "Other", "");
-    QVERIFY(duplicatePartNumbers(database).empty());
-    // Another maker's part, and one without a number, are others.
-    materialStruct *second = material(database, "B", "2", "second");
-    manufacturer(second, "Vishay", "RC0603");
-    manufacturer(second, "Other", "  ");
-    QVERIFY(duplicatePartNumbers(database).empty());
-    materialStruct *third = material(database, "B", "3", "third");
-    manufacturer(third, " YAGEO ", "rc0603");
-    manufacturer(third, "Yageo", "RC0603");
-    QCOMPARE(duplicateLines(duplicatePartNumbers(database)),
-             QStringList("<b>Yageo RC0603</b> [1 first], [3 third]<br>"));
-}
-
-void tst_databaseChecks::emptyFields_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QStringList>("missing");
-    QTest::newRow("nothing") << "" << QStringList();
-    QTest::newRow("KTM") << "d_ktm" << QStringList("KTM");
-    QTest::newRow("CPV") << "d_cpv" << QStringList("CPV");
-    QTest::newRow("name") << "d_name" << QStringList("Name");
-    QTest::newRow("unit") << "d_unit" << QStringList("Unit");
-    QTest::newRow("what many materials do not have") << "d_voltage" << QStringList();
-}
-
-void tst_databaseChecks::emptyFields()
-{
-    QFETCH(QString, field);
-    QFETCH(QStringList, missing);
-    kiv_mat_databaseStruct database;
-    materialStruct *m = complete(database);
-    for (const auto &f : materialStruct::fields())
-        if (f.name == field)
-            m->*f.member = " \n";
-    const std::vector<incompleteMaterial> found = incompleteMaterials(database);
-    QCOMPARE(int(found.size()), missing.isEmpty() ? 0 : 1);
-    if (!found.empty())
-        QCOMPARE(found[0].missing, missing);
-    m->information.status.clear();
-    m->manufacturers.items.clear();
-    QCOMPARE(incompleteMaterials(database)[0].missing,
-             missing + QStringList({"Status", "Manufacturers / Suppliers"}));
-}
-
-void tst_databaseChecks::information()
-{
-    kiv_mat_databaseStruct database;
-    complete(database);
-    material(database, "H", "K2");
-    QCOMPARE(informationText(database),
-             QString("<b>Materials count</b> [ 2 ]<br><br>Materials count in database [ 2 ]<br>"
-                     "Groups count in database [ 2 ]<br>Materials count with status [ 1 ]<br>"
-                     "<br>"));
-}
-
-void tst_databaseChecks::linksAreAskedOnceAndInTurn()
-{
-    kiv_mat_databaseStruct database;
-    materialStruct *m = material(database, "A", "1");
-    manufacturer(m, "Y", "1", "https://good.pl/a b.pdf");
-    manufacturer(m, "Y", "2", "http://bad.pl/https:x");
-    manufacturer(m, "Y", "3")->files.append(std::make_unique<fileStruct>());
-    supplierStruct *s = m->suppliers.append(std::make_unique<supplierStruct>());
-    s->files.append(std::make_unique<fileStruct>())->name = "http://bad.pl/https:x";
-    s->files.append(std::make_unique<fileStruct>())->name = "http://[not valid";
-    QStringList asked;
-    std::vector<long long> told;
-    const linkCheckResult result = checkUrls(
-        database,
-        [&told](long long done, long long total) {
-            told.push_back(done);
-            return total == 5;
-        },
-        [&asked](const QUrl &url, const std::function<bool()> &) {
-            asked.append(url.toString());
-            return url.host() == "good.pl";
-        });
-    QCOMPARE(asked, QStringList({"http://good.pl/a b.pdf", "http://bad.pl/http:x"}));
-    QCOMPARE(told, std::vector<long long>({0, 1, 2, 3, 4, 5}));
-    QVERIFY(!result.cancelled);
-    QCOMPARE(linkErrorLines(result),
-             QStringList({"[Error] http://bad.pl/https:x<br>", "[Error] <br>",
-                          "[Error] http://bad.pl/https:x<br>", "[Error] http://[not valid<br>"}));
-}
-
-// Cancelled before or while a link is asked: that link counts as not checked.
-void tst_databaseChecks::linkCheckCanBeCancelled()
-{
-    kiv_mat_databaseStruct database;
-    for (const char *link : {"http://a", "http://b", "http://c"})
-        manufacturer(material(database, "A", link), "Y", "1", link);
-    int told = 0;
-    const auto probe = [](const QUrl &, const std::function<bool()> &keepGoing) {
-        for (int wait = 0; wait < 10; ++wait)
-            if (!keepGoing())
-                return false;
-        return true;
-    };
-    const linkCheckResult result = checkUrls(
-        database, [&told](long long, long long) { return ++told < 15; }, probe);
-    QVERIFY(result.cancelled);
-    QCOMPARE(told, 15);
-    QCOMPARE(int(result.links.size()), 1);
-    QVERIFY(result.links[0].answers);
-}
-
-void tst_databaseChecks::reportEscapesAndMarks()
-{
-    const testSupport::programFolder folder;
-    kiv_mat_databaseStruct database;
-    materialStruct *m = complete(database);
-    m->d_name = "<b>&\"";
-    manufacturer(m, "Bourns", "<2>", "https://x.pl/\"onclick=");
-    manufacturer(m, "Unknown", "3", "javascript:alert(1)");
-    kiv_mat_firmStruct firms;
-    firmStruct *firm = firms.manufacturers.append(std::make_unique<firmStruct>());
-    firm->name = "Bourns";
-    firm->status = "ZIELONY";
-    for (const auto kind : {databaseReportKind::brief, databaseReportKind::full}) {
-        const QString path = databaseReportPath(folder.path("db.XML"), kind);
-        QCOMPARE(writeDatabaseReport(database, &firms, kind, path).result, exportResult::done);
-    }
-    const QString brief = QString::fromUtf8(testSupport::read(folder.path("db_short.html")));
-    const QString full = QString::fromUtf8(testSupport::read(folder.path("db_full.html")));
-    for (const QString &page : {brief, full}) {
-        QVERIFY(page.contains("&lt;b&gt;&amp;&quot;"));
-        QVERIFY(page.contains("1 [ PLN ]"));
-        QVERIFY(page.endsWith("</html>\n"));
-    }
-    QVERIFY(!brief.contains("Bourns"));
-    QVERIFY(full.contains("#2E9E4F\">&#9679;</span>&nbsp;Bourns &lt;2&gt;"));
-    QVERIFY(full.contains("<br>Unknown 3"));
-    QVERIFY(full.contains("<a href=\"https://x.pl/&quot;onclick=\">"));
-    QVERIFY(!full.contains("href=\"javascript"));
-    QVERIFY(full.contains("Status firmy:"));
-}
-
-void tst_databaseChecks::reportIsWrittenWholeOrNotAtAll()
-{
-    const testSupport::programFolder folder;
-    const QString path = folder.write("r.html", "old");
-    kiv_mat_databaseStruct database;
-    material(database, "A", "1");
-    material(database, "B", "2");
-    const progressFunction cancel = [](long long done, long long) { return done < 1; };
-    QCOMPARE(writeDatabaseReport(database, nullptr, databaseReportKind::full, path, cancel).result,
-             exportResult::cancelled);
-    QCOMPARE(testSupport::read(path), QByteArray("old"));
-    QCOMPARE(writeDatabaseReport(database, nullptr, databaseReportKind::full,
-                                 folder.path("r.html/x.html"))
-                 .result,
-             exportResult::failed);
-}
 
 KIVZP_TEST(tst_databaseChecks)
 #include "tst_databaseChecks.moc"

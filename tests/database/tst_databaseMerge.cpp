@@ -1,14 +1,9 @@
 // Two databases compared, merged and updated.
-#include "database/databaseSupport.h"
 #include "testSupport.h"
 
-#include "data/kiv_mat_bomStruct.h"
-#include "data/kiv_mat_zpStruct.h"
-#include "data/loaders.h"
 #include "database/databaseMerge.h"
 
-using testSupport::manufacturer;
-using testSupport::material;
+using namespace testSupport;
 
 namespace {
 
@@ -32,141 +27,128 @@ class tst_databaseMerge : public QObject
 {
     Q_OBJECT
 private slots:
-    void everyFieldCounts();
-    void differencesInFileOrder();
-    void repeatedAndMissingKtms();
-    void mergeTakesWhatIsSelected();
-    void usesAreListed();
-    void cancelled();
-};
-
-// A difference in any field of the file, and in that one only, is found and taken over.
-void tst_databaseMerge::everyFieldCounts()
-{
-    QCOMPARE(int(comparedFields().size()), 24 + 8 + 2);
-    for (size_t i = 0; i < comparedFields().size(); ++i) {
-        const comparedField &field = comparedFields()[i];
-        kiv_mat_databaseStruct mine;
-        material(mine, "A", "K", "n");
-        kiv_mat_databaseStruct other;
-        materialStruct *o = material(other, "B", "K", "n");
-        if (field.name == "d_ktm")
-            continue;
-        if (field.name == "manufacturers") {
-            manufacturer(o, "Y", "1", "link");
-        } else if (field.name == "suppliers") {
-            o->suppliers.append(std::make_unique<supplierStruct>())->partNo = "2";
-        } else {
-            for (const auto &f : materialStruct::fields())
-                if (f.name == field.name)
-                    o->*f.member = "x";
-            for (const auto &f : informationsStruct::fields())
-                if (f.name == field.name)
-                    o->information.*f.member = "x";
+    // A difference in any field of the file, and in that one only, is found and taken over.
+    void everyFieldCounts()
+    {
+        QCOMPARE(int(comparedFields().size()), 24 + 8 + 2);
+        for (size_t i = 0; i < comparedFields().size(); ++i) {
+            const comparedField &field = comparedFields()[i];
+            kiv_mat_databaseStruct mine;
+            material(mine, "A", "K", "n");
+            kiv_mat_databaseStruct other;
+            materialStruct *o = material(other, "B", "K", "n");
+            if (field.name == "d_ktm")
+                continue;
+            if (field.name == "manufacturers") {
+                manufacturer(o, "Y", "1", "link");
+            } else if (field.name == "suppliers") {
+                o->suppliers.append(std::make_unique<supplierStruct>())->partNo = "2";
+            } else {
+                for (const auto &f : materialStruct::fields())
+                    if (f.name == field.name)
+                        o->*f.member = "x";
+                for (const auto &f : informationsStruct::fields())
+                    if (f.name == field.name)
+                        o->information.*f.member = "x";
+            }
+            comparison found = compareDatabases(mine, other);
+            QCOMPARE(summary(found), QStringList("~K " + field.name));
+            QVERIFY(field.text(*o) != field.text(*found.differences[0].mine));
+            carryOut(found.differences, absentOnes::keep, &mine);
+            QVERIFY(compareDatabases(mine, other).differences.empty());
+            // A copy, not the other's own.
+            o->manufacturers.items.clear();
+            QCOMPARE(int(mine.groups[0]->items[0]->manufacturers.items.size()), field.name == "manufacturers" ? 1 : 0);
         }
-        comparison found = compareDatabases(mine, other);
-        QCOMPARE(summary(found), QStringList("~K " + field.name));
-        QVERIFY(field.text(*o) != field.text(*found.differences[0].mine));
-        carryOut(found.differences, absentOnes::keep, &mine);
-        QVERIFY(compareDatabases(mine, other).differences.empty());
-        // A copy, not the other's own.
-        o->manufacturers.items.clear();
-        QCOMPARE(int(mine.groups[0]->items[0]->manufacturers.items.size()),
-                 field.name == "manufacturers" ? 1 : 0);
     }
-}
 
-void tst_databaseMerge::differencesInFileOrder()
-{
-    kiv_mat_databaseStruct mine;
-    material(mine, "A", "1");
-    material(mine, "A", "2")->d_description = "Text";
-    material(mine, "B", "3");
-    kiv_mat_databaseStruct other;
-    material(other, "C", "4");
-    material(other, "C", "2")->d_description = "text";
-    material(other, "C", "1");
-    QCOMPARE(summary(compareDatabases(mine, other)),
-             QStringList({"+4 ", "~2 d_description", "-3 "}));
-    QCOMPARE(deletedLines(compareDatabases(mine, other).differences),
-             QStringList({"Materials deleted<br>", "<b>3</b> &nbsp;[B]<br>"}));
-    QVERIFY(deletedLines(compareDatabases(mine, mine).differences).isEmpty());
-}
+    void differencesInFileOrder()
+    {
+        kiv_mat_databaseStruct mine;
+        material(mine, "A", "1");
+        material(mine, "A", "2")->d_description = "Text";
+        material(mine, "B", "3");
+        kiv_mat_databaseStruct other;
+        material(other, "C", "4");
+        material(other, "C", "2")->d_description = "text";
+        material(other, "C", "1");
+        QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"+4 ", "~2 d_description", "-3 "}));
+        QCOMPARE(deletedLines(compareDatabases(mine, other).differences),
+                 QStringList({"Materials deleted<br>", "<b>3</b> &nbsp;[B]<br>"}));
+        QVERIFY(deletedLines(compareDatabases(mine, mine).differences).isEmpty());
+    }
 
-void tst_databaseMerge::repeatedAndMissingKtms()
-{
-    const auto fill = [](kiv_mat_databaseStruct &database) {
-        material(database, "A", "1", "first");
-        material(database, "A", "1", "second");
-        material(database, "A", "", "nameless key");
-        material(database, "A", "", "another");
-    };
-    kiv_mat_databaseStruct mine;
-    kiv_mat_databaseStruct other;
-    fill(mine);
-    fill(other);
-    QCOMPARE(summary(compareDatabases(mine, other)), QStringList());
-    material(other, "A", "1", "third");
-    material(other, "A", "", "new");
-    other.groups[0]->items[1]->d_name = "changed";
-    other.groups[0]->items.erase(other.groups[0]->items.begin() + 2);
-    QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"~1 d_name", "+1 ", "+ ", "- "}));
-}
+    void repeatedAndMissingKtms()
+    {
+        const auto fill = [](kiv_mat_databaseStruct &database) {
+            material(database, "A", "1", "first");
+            material(database, "A", "1", "second");
+            material(database, "A", "", "nameless key");
+            material(database, "A", "", "another");
+        };
+        kiv_mat_databaseStruct mine;
+        kiv_mat_databaseStruct other;
+        fill(mine);
+        fill(other);
+        QCOMPARE(summary(compareDatabases(mine, other)), QStringList());
+        material(other, "A", "1", "third");
+        material(other, "A", "", "new");
+        other.groups[0]->items[1]->d_name = "changed";
+        other.groups[0]->items.erase(other.groups[0]->items.begin() + 2);
+        QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"~1 d_name", "+1 ", "+ ", "- "}));
+    }
 
-void tst_databaseMerge::mergeTakesWhatIsSelected()
-{
-    kiv_mat_databaseStruct mine;
-    materialStruct *m = material(mine, "A", "1", "old name");
-    m->d_price = "1";
-    material(mine, "A", "absent");
-    kiv_mat_databaseStruct other;
-    material(other, "A", "1", "new name")->d_price = "2";
-    material(other, "A", "2");
-    material(other, "New", "3");
-    other.groups[1]->cpv = "31711130-3";
-    comparison found = compareDatabases(mine, other);
-    QCOMPARE(int(found.differences.size()), 4);
-    // The name is kept, the second material is left out.
-    std::vector<materialDifference> selected{found.differences[0], found.differences[2],
-                                             found.differences[3]};
-    std::erase_if(selected[0].fields,
-                  [](int f) { return comparedFields()[size_t(f)].name == "d_name"; });
-    carryOut(selected, absentOnes::keep, &mine);
-    QCOMPARE(m->d_name, QString("old name"));
-    QCOMPARE(m->d_price, QString("2"));
-    QCOMPARE(int(mine.groups[0]->items.size()), 2);
-    QCOMPARE(mine.groups[1]->cpv, QString("31711130-3"));
-    QCOMPARE(mine.groups[1]->items[0]->d_ktm, QString("3"));
-    QVERIFY(mine.groups[1]->items[0].get() != other.groups[1]->items[0].get());
-}
+    void mergeTakesWhatIsSelected()
+    {
+        kiv_mat_databaseStruct mine;
+        materialStruct *m = material(mine, "A", "1", "old name");
+        m->d_price = "1";
+        material(mine, "A", "absent");
+        kiv_mat_databaseStruct other;
+        material(other, "A", "1", "new name")->d_price = "2";
+        material(other, "A", "2");
+        material(other, "New", "3");
+        other.groups[1]->cpv = "31711130-3";
+        comparison found = compareDatabases(mine, other);
+        QCOMPARE(int(found.differences.size()), 4);
+        // The name is kept, the second material is left out.
+        std::vector<materialDifference> selected{found.differences[0], found.differences[2], found.differences[3]};
+        std::erase_if(selected[0].fields, [](int f) { return comparedFields()[size_t(f)].name == "d_name"; });
+        carryOut(selected, absentOnes::keep, &mine);
+        QCOMPARE(m->d_name, QString("old name"));
+        QCOMPARE(m->d_price, QString("2"));
+        QCOMPARE(int(mine.groups[0]->items.size()), 2);
+        QCOMPARE(mine.groups[1]->cpv, QString("31711130-3"));
+        QCOMPARE(mine.groups[1]->items[0]->d_ktm, QString("3"));
+        QVERIFY(mine.groups[1]->items[0].get() != other.groups[1]->items[0].get());
+    }
 
-void tst_databaseMerge::usesAreListed()
-{
-    kiv_mat_zpStruct order;
-    order.filePath = "o.xml";
-    for (const char *ktm : {"1", "2", "1"})
-        order.orderItems.append(std::make_unique<orderItemStruct>())->ktm = ktm;
-    QCOMPARE(usesOf({"1", "3"}, order),
-             QStringList({"<b>1</b> &nbsp;[o.xml]<br>", "<b>1</b> &nbsp;[o.xml]<br>"}));
-    kiv_mat_bomStruct bom;
-    bom.filePath = "b.xml";
-    bom.materials.push_back(std::make_unique<materialStruct>());
-    bom.materials[0]->d_ktm = "3";
-    bom.materials[0]->d_name = "<n>";
-    QCOMPARE(usesOf({"1", "3"}, bom), QStringList("<b>3</b> &lt;n&gt;&nbsp;[b.xml]<br>"));
-}
+    void usesAreListed()
+    {
+        kiv_mat_zpStruct order;
+        order.filePath = "o.xml";
+        for (const char *ktm : {"1", "2", "1"})
+            order.orderItems.append(std::make_unique<orderItemStruct>())->ktm = ktm;
+        QCOMPARE(usesOf({"1", "3"}, order), QStringList({"<b>1</b> &nbsp;[o.xml]<br>", "<b>1</b> &nbsp;[o.xml]<br>"}));
+        kiv_mat_bomStruct bom;
+        bom.filePath = "b.xml";
+        bom.materials.push_back(std::make_unique<materialStruct>());
+        bom.materials[0]->d_ktm = "3";
+        bom.materials[0]->d_name = "<n>";
+        QCOMPARE(usesOf({"1", "3"}, bom), QStringList("<b>3</b> &lt;n&gt;&nbsp;[b.xml]<br>"));
+    }
 
-void tst_databaseMerge::cancelled()
-{
-    kiv_mat_databaseStruct mine;
-    kiv_mat_databaseStruct other;
-    for (int i = 0; i < 200; ++i)
-        material(other, "A", QString::number(i));
-    const comparison result =
-        compareDatabases(mine, other, [](long long done, long long) { return done < 100; });
-    QVERIFY(result.cancelled);
-    QVERIFY(result.differences.empty());
-}
+    void cancelled()
+    {
+        kiv_mat_databaseStruct mine;
+        kiv_mat_databaseStruct other;
+        for (int i = 0; i < 200; ++i)
+            material(other, "A", QString::number(i));
+        const comparison result = compareDatabases(mine, other, [](long long done, long long) { return done < 100; });
+        QVERIFY(result.cancelled);
+        QVERIFY(result.differences.empty());
+    }
+};
 
 KIVZP_TEST(tst_databaseMerge)
 #include "tst_databaseMerge.moc"

@@ -64,8 +64,7 @@ void tst_databaseWindow::init()
     known.loadConfiguration();
     known.loadFirm();
     known.loadDatabase(programData::warehouse);
-    m_window =
-        std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
+    m_window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
     m_window->show();
     m_window->commandEdit(true);
 }
@@ -143,8 +142,7 @@ void tst_databaseWindow::editsReachTheIndexes()
     // What must not be stored is refused in the cell, too.
     for (const QString &wrong : {QString("wrong"), database().groups[1]->items[0]->d_ktm})
         m_window->model()->setValue(cell, wrong);
-    QTRY_COMPARE(m_shown->errors,
-                 QStringList({"Ktm syntax error", "Another material has this KTM"}));
+    QTRY_COMPARE(m_shown->errors, QStringList({"Ktm syntax error", "Another material has this KTM"}));
     QCOMPARE(material->d_ktm, ktm);
     m_window->selectMaterial(material);
     m_window->commandDeleteMaterials(true);
@@ -231,8 +229,7 @@ void tst_databaseWindow::saving()
     m_shown->input = 0;
     m_window->commandSave(true);
     QCOMPARE(database().groups.front()->name, QString("written elsewhere"));
-    QVERIFY(!fileVersions::of(m_folder->path("_files/db_warehouse.xml"),
-                              programData::instance().config().backupPath())
+    QVERIFY(!fileVersions::of(m_folder->path("_files/db_warehouse.xml"), programData::instance().config().backupPath())
                  .isEmpty());
 }
 
@@ -240,10 +237,9 @@ void tst_databaseWindow::listingIsOneStep()
 {
     const QByteArray before = content();
     const QString stock = first()->d_inWarehouse;
-    m_shown->file =
-        m_folder->write("stock.txt", "Towar: " + first()->d_ktm.toUtf8()
-                                         + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
-                                           "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
+    m_shown->file = m_folder->write("stock.txt", "Towar: " + first()->d_ktm.toUtf8()
+                                                     + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
+                                                       "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
     // The list of changes waits for its answer.
     QTimer answer;
     connect(&answer, &QTimer::timeout, this, [] {
@@ -282,8 +278,7 @@ void tst_databaseWindow::mergeView()
     QStandardItem *changed = merge.model()->item(0);
     for (int row = 0; row < changed->rowCount(); ++row)
         if (changed->child(row, 2)->text() == "77.00")
-            merge.view()->selectionModel()->select(changed->child(row)->index(),
-                                                   QItemSelectionModel::Select);
+            merge.view()->selectionModel()->select(changed->child(row)->index(), QItemSelectionModel::Select);
     merge.commandSet(true);
     QCOMPARE(first()->d_price, QString("77.00"));
     QVERIFY(first()->d_description != "other");
@@ -307,8 +302,7 @@ void tst_databaseWindow::updateDeletesWhatIsMarked()
     const QString kept = database().groups[0]->items[1]->d_ktm;
     kiv_mat_databaseStruct other;
     QCOMPARE(loadDatabase(database().filePath, &other), 0);
-    other.groups[0]->items.erase(other.groups[0]->items.begin(),
-                                 other.groups[0]->items.begin() + 2);
+    other.groups[0]->items.erase(other.groups[0]->items.begin(), other.groups[0]->items.begin() + 2);
     QCOMPARE(saveXmlNoEvents(path, &other), 0);
     kiv_mat_zpStruct order;
     order.initialise(programData::instance().config());
@@ -322,8 +316,7 @@ void tst_databaseWindow::updateDeletesWhatIsMarked()
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         if (!dialog)
             return;
-        for (QTreeWidgetItem *item :
-             dialog->findChild<QTreeWidget *>()->findItems(kept, Qt::MatchExactly))
+        for (QTreeWidgetItem *item : dialog->findChild<QTreeWidget *>()->findItems(kept, Qt::MatchExactly))
             item->setCheckState(0, Qt::Unchecked);
         dialog->accept();
     });

@@ -65,10 +65,7 @@ private:
         select(cell);
         m_window->model()->setValue(static_cast<myItem::myItemStandard *>(cell), value);
     }
-    QStandardItem *firm(materialTree::rowKind kind, int row = 0)
-    {
-        return m_window->rows().section(kind)->child(row);
-    }
+    QStandardItem *firm(materialTree::rowKind kind, int row = 0) { return m_window->rows().section(kind)->child(row); }
     void select(const QStandardItem *item)
     {
         QVERIFY(item);
@@ -131,8 +128,8 @@ void tst_materialWindow::showsEveryField()
         QCOMPARE(edited().information.*field.member, QString("x"));
     }
     QVERIFY(m_material->information == informationsStruct());
-    QCOMPARE(links(), QStringList({"FILE_DATASHEET http://server/redfiles/DATASHEET/a.pdf",
-                                   "FILE_DATASHEET file:///bin/sh"}));
+    QCOMPARE(links(),
+             QStringList({"FILE_DATASHEET http://server/redfiles/DATASHEET/a.pdf", "FILE_DATASHEET file:///bin/sh"}));
 }
 
 void tst_materialWindow::handsBack_data()
@@ -150,18 +147,15 @@ void tst_materialWindow::handsBack()
     QStandardItem item;
     QStringList given;
     std::unique_ptr<materialStruct> received;
-    const auto receive = [&](const char *how, QStandardItem *at, int row,
-                             materialStruct *material) {
+    const auto receive = [&](const char *how, QStandardItem *at, int row, materialStruct *material) {
         received.reset(material);
         given.append(QString("%1 %2 %3").arg(how).arg(at == &item).arg(row));
     };
     connect(m_window.get(), &materialWindow::addNew, this,
             [&](QStandardItem *at, materialStruct *m) { receive("new", at, 0, m); });
-    connect(m_window.get(),
-            qOverload<QStandardItem *, int, materialStruct *>(&materialWindow::editExist), this,
+    connect(m_window.get(), qOverload<QStandardItem *, int, materialStruct *>(&materialWindow::editExist), this,
             [&](QStandardItem *at, int row, materialStruct *m) { receive("row", at, row, m); });
-    connect(m_window.get(),
-            qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
+    connect(m_window.get(), qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
             [&](QStandardItem *at, materialStruct *m) { receive("own", at, 0, m); });
     const QStringList expected{"new 1 0", "row 1 7", "own 1 0"};
     if (opener == 0) {
@@ -279,8 +273,7 @@ void tst_materialWindow::typedValueCounts()
 {
     showGood();
     std::unique_ptr<materialStruct> received;
-    connect(m_window.get(),
-            qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
+    connect(m_window.get(), qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
             [&](QStandardItem *, materialStruct *m) { received.reset(m); });
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     m_window->view()->edit(m_window->rows().valueOf("d_name")->index());
@@ -310,8 +303,7 @@ void tst_materialWindow::closing()
     QFETCH(bool, good);
     showGood();
     int given = 0;
-    connect(m_window.get(),
-            qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
+    connect(m_window.get(), qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist), this,
             [&](QStandardItem *, materialStruct *m) {
                 const std::unique_ptr<materialStruct> received(m);
                 ++given;
@@ -339,8 +331,7 @@ void tst_materialWindow::serverLinks_data()
     const QString base = "http://server/redfiles/";
     QTest::newRow("datasheet") << "datasheets" << QVariant("y/b c.pdf")
                                << "FILE_DATASHEET " + base + "DATASHEET/y/b%20c.pdf" << 0;
-    QTest::newRow("declaration") << "declarations" << QVariant("b.pdf")
-                                 << "FILE_MD " + base + "RoHS/b.pdf" << 0;
+    QTest::newRow("declaration") << "declarations" << QVariant("b.pdf") << "FILE_MD " + base + "RoHS/b.pdf" << 0;
     QTest::newRow("cancelled") << "datasheets" << QVariant() << "" << 0;
     QTest::newRow("leads out") << "datasheets" << QVariant("../b.pdf") << "" << 1;
 }
@@ -380,11 +371,10 @@ void tst_materialWindow::sends_data()
     QTest::addColumn<QString>("logged");
     QTest::addColumn<QString>("listed");
     const QString done = "Send file <b>%1</b>&nbsp;[server:/redfiles/DATASHEET/a.pdf]&nbsp;%2<br>";
-    QTest::newRow("completed") << QByteArray("printf 'pw=%s' \"$4\"")
-                               << "pw=***<br>" + done.arg("%1", "completed") << "";
+    QTest::newRow("completed") << QByteArray("printf 'pw=%s' \"$4\"") << "pw=***<br>" + done.arg("%1", "completed")
+                               << "";
     QTest::newRow("refused there") << QByteArray("exit 1") << "" << done.arg("%1", "error");
-    QTest::newRow("no helper") << QByteArray()
-                               << "The program cannot be started [_bin/pscp.exe]<br>"
+    QTest::newRow("no helper") << QByteArray() << "The program cannot be started [_bin/pscp.exe]<br>"
                                << "Sending error <b>%1</b>&nbsp;"
                                   "[server:/redfiles/DATASHEET/a.pdf]<br>";
 }
@@ -395,8 +385,7 @@ void tst_materialWindow::sends()
     QFETCH(QString, logged);
     QFETCH(QString, listed);
     if (!helper.isEmpty())
-        m_folder->script("pscp.exe", "printf '[%s]' \"$@\" > '" + m_folder->path("got").toUtf8()
-                                         + "'; " + helper);
+        m_folder->script("pscp.exe", "printf '[%s]' \"$@\" > '" + m_folder->path("got").toUtf8() + "'; " + helper);
     showGood();
     m_shown->file = m_folder->write("a.pdf", "pdf");
     select(firm(materialTree::manufacturer)->child(0));
@@ -458,8 +447,8 @@ void tst_materialWindow::actionsAreReachable()
     auto *menu = m_window->findChild<QMenu *>("contextMenu");
     for (const QAction *action : menu->actions())
         texts.append(QString(action->text()).remove('&'));
-    QCOMPARE(texts, QStringList({"Add manufacturer", "Add suppler", "Add file", "Delete file",
-                                 "Delete files", "Open"}));
+    QCOMPARE(texts,
+             QStringList({"Add manufacturer", "Add suppler", "Add file", "Delete file", "Delete files", "Open"}));
     const QStandardItem *row = firm(materialTree::manufacturer);
     const QPoint place = m_window->view()->visualRect(row->index()).center();
     QTest::mouseClick(m_window->view()->viewport(), Qt::RightButton, {}, place);

@@ -1,166 +1,162 @@
-// Which materials use a firm, what a new name does to them, and where a home page leads.
+// Which materials use a firm, what a new name does to them, where a home page leads, and tax numbers.
 #include "testSupport.h"
 
-#include "data/kiv_mat_databaseStruct.h"
+#include "firm/firmChecks.h"
 #include "firm/firmOperations.h"
 
+using namespace testSupport;
 using namespace firmOperations;
 Q_DECLARE_METATYPE(firmOperations::firmKind)
+Q_DECLARE_METATYPE(taxNumberState)
 
 class tst_firmOperations : public QObject
 {
     Q_OBJECT
 private slots:
-    void init();
-    void uses_data();
-    void uses();
-    void renamed_data();
-    void renamed();
-    void homePages_data();
-    void homePages();
+    void init()
+    {
+        m_database = std::make_unique<kiv_mat_databaseStruct>();
+        m_database->fileName = "db.xml";
+        const auto add = [this](const QString &ktm, const QStringList &made, const QStringList &sold) {
+            materialStruct *added = material(*m_database, "G", ktm, "<" + ktm + ">");
+            for (const QString &name : made)
+                appendTo(added->manufacturers)->name = name;
+            for (const QString &name : sold)
+                appendTo(added->suppliers)->name = name;
+        };
+        add("1", {"A", "B", "A"}, {"TME"});
+        add("2", {"B"}, {"A"});
+        add("3", {"a", ""}, {});
+    }
+
+    // Firms, and firm and KTM of what is found; "planned": B is to be A, and A is to be C.
+    void uses_data()
+    {
+        const auto makers = firmOperations::manufacturer;
+        const auto sellers = firmOperations::supplier;
+        const rows<firmKind, QStringList, bool, QStringList> row;
+        row("maker", makers, {"A"}, false, {"A1"});
+        row("seller", sellers, {"A"}, false, {"A2"});
+        row("two", makers, {"A", "B"}, false, {"A1", "B1", "B2"});
+        row("empty", makers, {""}, false, {});
+        row("none", makers, {}, false, {});
+        row("planned", makers, {"A", "B", "C"}, true, {"C1", "A1", "A2"});
+        row("other kind", sellers, {"A"}, true, {"A2"});
+    }
+
+    void uses()
+    {
+        const auto [kind, firms, planned, expected] = fetch<firmKind, QStringList, bool, QStringList>();
+        renameStep step;
+        step[firmOperations::manufacturer] = {{"B", "A"}, {"A", "C"}};
+        const auto uses = usesOf(QSet<QString>(firms.begin(), firms.end()), kind, {m_database.get()},
+                                 planned ? renameList{step} : renameList());
+        QStringList found;
+        for (const firmUse &use : uses)
+            found.append(use.firm + use.material->d_ktm);
+        QCOMPARE(found, expected);
+        if (!uses.empty())
+            QVERIFY(useLines(uses)[0].contains("&lt;" + uses[0].material->d_ktm + "&gt; [db.xml]"));
+    }
+
+    // Steps of new names for makers, the makers of the three materials afterwards, and how many changed.
+    void renamed_data()
+    {
+        const rows<QVector<names>, QString, int> row;
+        row("nothing", {}, "A B A|B|a ", 0);
+        row("exactly", {{{"A", "X"}}}, "X B X|B|a ", 2);
+        row("exchanged", {{{"A", "B"}, {"B", "A"}}}, "B A B|A|a ", 4);
+        row("one after the other", {{{"A", "B"}}, {{"B", "C"}}}, "C C C|C|a ", 4);
+        row("there and back", {{{"A", "X"}}, {{"X", "A"}}}, "A B A|B|a ", 0);
+    }
+
+    void renamed()
+    {
+        const auto [makers, after, changed] = fetch<QVector<names>, QString, int>();
+        renameList steps;
+        for (const names &step : makers)
+            steps.emplace_back()[firmOperations::manufacturer] = step;
+        const auto changes = changesOf(*m_database, steps);
+        QCOMPARE(int(changes.size()), changed);
+        applyNames(changes);
+        revertNames(changes);
+        applyNames(changes);
+        QStringList made;
+        for (const auto &present : m_database->groups[0]->items) {
+            QStringList firms;
+            for (const auto &maker : present->manufacturers.items)
+                firms.append(maker->name);
+            made.append(firms.join(' '));
+        }
+        QCOMPARE(made.join('|'), after);
+        // Sellers of the same name are other firms.
+        QCOMPARE(m_database->groups[0]->items[1]->suppliers.items[0]->name, QString("A"));
+    }
+
+    void homePages_data()
+    {
+        const rows<QString> row;
+        row("https://www.ti.com/a?b=c", "https://www.ti.com/a?b=c");
+        row(" www.ti.com ", "http://www.ti.com");
+        row.each({"http://www", "", "file:///etc/passwd", "/etc/passwd", "javascript:alert(1.0)", "no page at all"},
+                 "");
+    }
+
+    void homePages()
+    {
+        const auto [url] = fetch<QString>();
+        QCOMPARE(homePage(tag()).toString(), url);
+    }
+
+    void taxNumbers_data()
+    {
+        const rows<taxNumberState> row;
+        for (const char *none : {"", " - "})
+            row(none, taxNumberState::none);
+        for (const char *good : {"5260250274", "526-025-02-74", "PL 526 025 02 74", "pl5260250274"})
+            row(good, taxNumberState::good);
+        // In the last, a sum leaves 10, which fits no digit.
+        for (const char *wrong :
+             {"5260250275", "526025027", "52602502740", "526025027X", "0000000000", "PL", "brak", "1000010000"})
+            row(wrong, taxNumberState::wrong);
+        row("DE123456789", taxNumberState::foreign);
+    }
+
+    void taxNumbers()
+    {
+        const auto [state] = fetch<taxNumberState>();
+        QCOMPARE(int(checkTaxNumber(tag())), int(state));
+        QCOMPARE(taxNumberWarning(tag()).contains(tag()) && !tag().isEmpty(), state == taxNumberState::wrong);
+    }
+
+    void everyWrongDigitIsFound()
+    {
+        const QString good = "5260250274";
+        for (int place = 0; place < good.size(); ++place) {
+            for (char digit = '0'; digit <= '9'; ++digit) {
+                QString number = good;
+                number[place] = digit;
+                QCOMPARE(checkTaxNumber(number) == taxNumberState::good, number == good);
+            }
+        }
+    }
+
+    void wrongTaxNumbersAreListed()
+    {
+        kiv_mat_firmStruct firms;
+        for (const char *nip : {"", "5260250274", "1"}) {
+            appendTo(firms.manufacturers)->nip = nip;
+            appendTo(firms.suppliers)->nip = nip;
+        }
+        QVERIFY(firmsWithWrongTaxNumber(firms)
+                == decltype(firmsWithWrongTaxNumber(firms))(
+                    {firms.manufacturers.items[2].get(), firms.suppliers.items[2].get()}));
+    }
 
 private:
-    // "KTM: manufacturers / suppliers" of all materials.
-    QStringList shown() const;
-
+    using names = QHash<QString, QString>;
     std::unique_ptr<kiv_mat_databaseStruct> m_database;
 };
-
-void tst_firmOperations::init()
-{
-    m_database = std::make_unique<kiv_mat_databaseStruct>();
-    m_database->fileName = "db.xml";
-    const auto add = [this](const QString &ktm, const QStringList &made, const QStringList &sold) {
-        m_database->groups.push_back(std::make_unique<d_groupStruct>());
-        auto *material = m_database->groups.back()->append(std::make_unique<materialStruct>());
-        material->d_ktm = ktm;
-        material->d_name = "<" + ktm + ">";
-        for (const QString &name : made)
-            material->manufacturers.append(std::make_unique<manufacturerStruct>())->name = name;
-        for (const QString &name : sold)
-            material->suppliers.append(std::make_unique<supplierStruct>())->name = name;
-    };
-    add("1", {"A", "B", "A"}, {"TME"});
-    add("2", {"B"}, {"A"});
-    add("3", {"a", ""}, {});
-}
-
-QStringList tst_firmOperations::shown() const
-{
-    QStringList lines;
-    for (const auto &group : m_database->groups)
-        for (const auto &material : group->items) {
-            QString line = material->d_ktm + ":";
-            for (const auto &source : material->manufacturers.items)
-                line += " " + source->name;
-            line += " /";
-            for (const auto &source : material->suppliers.items)
-                line += " " + source->name;
-            lines.append(line);
-        }
-    return lines;
-}
-
-void tst_firmOperations::uses_data()
-{
-    QTest::addColumn<firmKind>("kind");
-    QTest::addColumn<QStringList>("firms");
-    QTest::addColumn<bool>("planned");
-    QTest::addColumn<QStringList>("found"); // firm and KTM
-    QTest::newRow("maker") << manufacturer << QStringList("A") << false << QStringList("A1");
-    QTest::newRow("seller") << supplier << QStringList("A") << false << QStringList("A2");
-    QTest::newRow("two") << manufacturer << QStringList({"A", "B"}) << false
-                         << QStringList({"A1", "B1", "B2"});
-    QTest::newRow("empty") << manufacturer << QStringList("") << false << QStringList();
-    QTest::newRow("none") << manufacturer << QStringList() << false << QStringList();
-    // B is to be A, and A is to be C.
-    QTest::newRow("planned") << manufacturer << QStringList({"A", "B", "C"}) << true
-                             << QStringList({"C1", "A1", "A2"});
-    QTest::newRow("other kind") << supplier << QStringList("A") << true << QStringList("A2");
-}
-
-void tst_firmOperations::uses()
-{
-    QFETCH(QStringList, firms);
-    QFETCH(firmKind, kind);
-    QFETCH(bool, planned);
-    renameStep step;
-    step[manufacturer] = {{"B", "A"}, {"A", "C"}};
-    QStringList found;
-    const auto uses = usesOf(QSet<QString>(firms.begin(), firms.end()), kind, {m_database.get()},
-                             planned ? renameList{step} : renameList());
-    for (const firmUse &use : uses)
-        found.append(use.firm + use.material->d_ktm);
-    QTEST(found, "found");
-    if (!uses.empty())
-        QVERIFY(useLines(uses)[0].contains("&lt;" + uses[0].material->d_ktm + "&gt; [db.xml]"));
-}
-
-void tst_firmOperations::renamed_data()
-{
-    using names = QHash<QString, QString>;
-    QTest::addColumn<QVector<names>>("makers");
-    QTest::addColumn<QStringList>("after");
-    QTest::addColumn<int>("changed");
-    QTest::newRow("nothing") << QVector<names>() << shown() << 0;
-    QTest::newRow("exactly") << QVector<names>{{{"A", "X"}}}
-                             << QStringList({"1: X B X / TME", "2: B / A", "3: a  /"}) << 2;
-    QTest::newRow("exchanged") << QVector<names>{{{"A", "B"}, {"B", "A"}}}
-                               << QStringList({"1: B A B / TME", "2: A / A", "3: a  /"}) << 4;
-    QTest::newRow("one after the other")
-        << QVector<names>{{{"A", "B"}}, {{"B", "C"}}}
-        << QStringList({"1: C C C / TME", "2: C / A", "3: a  /"}) << 4;
-    QTest::newRow("there and back") << QVector<names>{{{"A", "X"}}, {{"X", "A"}}}
-                                    << QStringList({"1: A B A / TME", "2: B / A", "3: a  /"}) << 0;
-}
-
-void tst_firmOperations::renamed()
-{
-    using names = QHash<QString, QString>;
-    QFETCH(QVector<names>, makers);
-    renameList steps;
-    for (const names &step : makers) {
-        steps.emplace_back();
-        steps.back()[manufacturer] = step;
-    }
-    const auto changes = changesOf(*m_database, steps);
-    QTEST(int(changes.size()), "changed");
-    const QStringList before = shown();
-    revertNames(changes);
-    QCOMPARE(shown(), before);
-    applyNames(changes);
-    QFETCH(QStringList, after);
-    if (!makers.isEmpty())
-        QCOMPARE(shown(), after);
-}
-
-void tst_firmOperations::homePages_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("url");
-    QTest::newRow("whole") << "https://www.ti.com/a?b=c"
-                           << "https://www.ti.com/a?b=c";
-    QTest::newRow("short") << " www.ti.com "
-                           << "http://www.ti.com";
-    QTest::newRow("default") << "http://www"
-                             << "";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("file") << "file:///etc/passwd"
-                          << "";
-    QTest::newRow("path") << "/etc/passwd"
-                          << "";
-    QTest::newRow("script") << "javascript:alert(1.0)"
-                            << "";
-    QTest::newRow("text") << "no page at all"
-                          << "";
-}
-
-void tst_firmOperations::homePages()
-{
-    QFETCH(QString, text);
-    QTEST(homePage(text).toString(), "url");
-}
 
 KIVZP_TEST(tst_firmOperations)
 #include "tst_firmOperations.moc"

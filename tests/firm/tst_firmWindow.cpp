@@ -148,8 +148,8 @@ void tst_firmWindow::editedAndSaved()
     QVERIFY(m_shown->logged.contains("Save file <b>firms.xml</b> ["));
     kiv_mat_firmStruct saved;
     QCOMPARE(loadFirm(path(), &saved), 0);
-    QVERIFY(equalFields(*saved.suppliers.items.back(), *m_window->edited().suppliers.items.back(),
-                        firmStruct::fields()));
+    QVERIFY(
+        equalFields(*saved.suppliers.items.back(), *m_window->edited().suppliers.items.back(), firmStruct::fields()));
     QCOMPARE(saved.suppliers.items.back()->status, QString("NIEBIESKI"));
     QCOMPARE(programData::instance().firm().suppliers.items.back()->name, QString("a & b"));
     // What was saved over is kept.
@@ -169,8 +169,7 @@ void tst_firmWindow::usedFirmsStay()
     QCOMPARE(m_shown->listed.count("<b>Abracon</b>: "), uses("Abracon"));
     // A firm that stands twice can go once.
     edit(before, name, "Abracon");
-    selection->select(m_window->model(manufacturer)->index(0, 0),
-                      QItemSelectionModel::ClearAndSelect);
+    selection->select(m_window->model(manufacturer)->index(0, 0), QItemSelectionModel::ClearAndSelect);
     m_window->commandDelete(true);
     QCOMPARE(m_shown->errors.size(), 1);
     QCOMPARE(m_window->edited().manufacturers.items.back()->name, QString("Abracon"));
@@ -398,11 +397,8 @@ void tst_firmWindow::found()
     int steps = 0;
     do {
         m_window->commandFindNext(true);
-        QVERIFY(m_window->view(manufacturer)
-                    ->currentIndex()
-                    .data()
-                    .toString()
-                    .contains("semicond", Qt::CaseInsensitive));
+        QVERIFY(
+            m_window->view(manufacturer)->currentIndex().data().toString().contains("semicond", Qt::CaseInsensitive));
     } while (m_window->view(manufacturer)->currentIndex() != first && ++steps < 100);
     QVERIFY(steps > 0 && steps < 100);
     m_shown->input = QString("in no firm");

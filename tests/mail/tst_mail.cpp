@@ -1,422 +1,317 @@
 // Messages: what the program writes, and what the launchers make of it.
 #include "testSupport.h"
 
-#include "data/configStruct.h"
-#include "data/kiv_mat_zpStruct.h"
-#include "data/vocabulary.h"
 #include "mail/mail.h"
 #include "tools/zip_compress.h"
-#include "util/files.h"
-#include "util/paths.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
-class tst_mail : public QObject
+using namespace testSupport;
+
+class numberedOrder : public kiv_mat_zpStruct
+{
+public:
+    explicit numberedOrder(const QString &number) { options.findOption(optionKey::orderNumber)->value1 = number; }
+};
+
+class tst_mail : public folderTest
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
-    void addresses_data();
-    void addresses();
-    void recipients();
-    void descriptionText();
-    void orderMessage();
-    void messageNames_data();
-    void messageNames();
-    void dataMessage_data();
-    void dataMessage();
-    void dataMessageFails();
-    void startsTheRightProgram();
-    void emlHoldsEverything();
-    void composers_data();
-    void composers();
-    void launcherRefuses();
+    void init() override
+    {
+        folderTest::init();
+        m_folder->ship({"_bin", "_e-mail", "_files"});
+    }
+
+    void cleanup() override
+    {
+        folderTest::cleanup();
+        files::removeFolder(paths::temporaryDir());
+    }
+
+    void addresses_data()
+    {
+        const rows<QString, QStringList> row;
+        row("link", "mailto:a@x.pl", {"a@x.pl"});
+        row("several", " mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;", {"a@x.pl", "b@x.pl", "c@x.pl"});
+        row("query", "mailto:a@x.pl?subject=b@x", {"a@x.pl"});
+        row("encoded", "mailto:a%2Bb@x.pl", {"a+b@x.pl"});
+        row("twice", "a@x.pl;a@x.pl", {"a@x.pl"});
+        row("none", "http://x.pl", {});
+        row("line end", "a@x.pl\nsubject [x]", {"a@x.pl subject [x]"});
+    }
+
+    void addresses()
+    {
+        const auto [configured, expected] = fetch<QString, QStringList>();
+        QCOMPARE(mail::addresses(configured), expected);
+    }
+
+    void recipients()
+    {
+        configStruct config;
+        addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
+        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList("e@x.pl"));
+        addPerson(config, "PERSON_CONTRACTOR", "Jan", "j@x.pl;k@x.pl");
+        addPerson(config, "PERSON_ADMIN", "Ewa", "admin@x.pl");
+        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", " Jan"), QStringList({"j@x.pl", "k@x.pl"}));
+        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList());
+        QCOMPARE(mail::recipients(config, "PERSON_ADMIN", "Ewa"), QStringList("admin@x.pl"));
+    }
+
+    void descriptionText()
+    {
+        QCOMPARE(mail::description({{"a@x", "b@x"}, "s\nto [c@x]", "/b.html", {"/1", "/2"}}),
+                 QString("to \t\t\t[a@x]\nto \t\t\t[b@x]\nsubject \t[s to [c@x]]\n"
+                         "body \t\t[/b.html]\nattachment \t[/1]\nattachment \t[/2]\n"));
+    }
+
+    void orderMessage()
+    {
+        for (const char *name : {"msg_old.cmd", "old.html", "msg_old.eml"})
+            m_folder->write(QString("_e-mail/") + name, "old");
+        m_folder->write("_e-mail/msg_template.htm", "<b>{Do_no}</b> {Do_no}");
+        configStruct config;
+        addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
+        numberedOrder order("ZP/1<3>/26");
+        order.options.findOption(optionKey::orderDate)->value1 = "24.11.2026";
+        const QString path = mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf");
+        const QString base = m_folder->path("_e-mail/msg_ZP_1_3_26_24.11.2026");
+        QCOMPARE(path, base + ".cmd");
+        QCOMPARE(QString(read(path)), "to \t\t\t[e@x.pl]\nsubject \t[DD - Order ZP/1<3>/26]\nbody \t\t[" + base
+                                          + ".html]\nattachment \t[/o/zp.xml]\nattachment \t[/o/zp.pdf]\n");
+        QCOMPARE(read(base + ".html"), QByteArray("<b>ZP/1&lt;3&gt;/26</b> ZP/1&lt;3&gt;/26"));
+        QStringList left = QDir(mail::folder()).entryList(QDir::Files);
+        left.removeAll("msg_ZP_1_3_26_24.11.2026.cmd");
+        left.removeAll("msg_ZP_1_3_26_24.11.2026.html");
+        QCOMPARE(left, QStringList({"KIV_EMAIL.exe", "KIV_EMAIL_MAPI.exe", "msg_old.eml", "msg_template.htm"}));
+        // Without a template the body is empty.
+        QFile::remove(mail::templatePath());
+        QVERIFY(!mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf").isEmpty());
+        QCOMPARE(read(base + ".html"), QByteArray());
+    }
+
+    void messageNames_data()
+    {
+        const rows<QString, QString> row;
+        row("slashes", "ZP/13/2026", "ZP_13_2026");
+        row("upwards", "../../x\\y:z", ".._.._x_y_z");
+        row("letters", "źdźbło [1]", "źdźbło_1");
+        row("nothing", " // ", "order");
+        row("long", QString(500, 'x'), QString(80, 'x'));
+    }
+
+    void messageNames()
+    {
+        const auto [number, name] = fetch<QString, QString>();
+        QCOMPARE(mail::messageName(numberedOrder(number)), name);
+    }
+
+    void dataMessage_data()
+    {
+        const rows<int, QString, QString, QString, QStringList> row;
+        row("databases", int(mail::contents::databases), "Database", "database_", "",
+            QStringList({"_files/db_author.xml", "_files/db_mechanics.xml", "_files/db_service.xml",
+                         "_files/db_warehouse.xml"}));
+        row("boms, secret", int(mail::contents::boms), "Boms", "boms_", "two words",
+            QStringList({"_files/boms.xml", "_files/boms/konwerter_rs232_usb.xml", "_files/boms/modul_stm32f103.xml",
+                         "_files/boms/przedwzmacniacz_audio.xml", "_files/boms/sterownik_przekaznikow.xml",
+                         "_files/boms/zasilacz_liniowy_5v.xml"}));
+    }
+
+    void dataMessage()
+    {
+        const auto [what, subject, archive, password, files] = fetch<int, QString, QString, QString, QStringList>();
+        configStruct config;
+        config.setDefaults();
+        config.options.findOption(optionKey::archivePassword)->value1 = password;
+        addPerson(config, "PERSON_ADMIN", "Adam", "mailto:adam@x.pl");
+        QStringList later;
+        const QString path =
+            mail::writeData(mail::contents(what), config, [&](const QString &file) { later.append(file); });
+        QVERIFY2(path.endsWith("/msg_database.cmd"), qPrintable(m_shown->logged));
+        const QStringList lines = QString(read(path)).split('\n');
+        QCOMPARE(lines[0], QString("to \t\t\t[adam@x.pl]"));
+        QCOMPARE(lines[1].section('[', 1).chopped(1), subject);
+        const QString packed = lines[3].section('[', 1).chopped(1);
+        QVERIFY2(
+            QRegularExpression('/' + archive + R"(\d{4}\.\d\d\.\d\d_\d\d:\d\d:\d\d\.zip$)").match(packed).hasMatch(),
+            qPrintable(packed));
+        later.sort();
+        QStringList made = files::list(paths::temporaryDir(), {});
+        QCOMPARE(later, made);
+        QVERIFY(read(lines[2].section('[', 1).chopped(1)).contains("charset=\"UTF-8\""));
+
+        if (!password.isEmpty()) {
+            zip_compress open;
+            open.decompress(packed, m_folder->path("open"), "");
+            QVERIFY(open.wait() != 0);
+        }
+        zip_compress unzip;
+        unzip.decompress(packed, m_folder->path("out"), password);
+        QCOMPARE(unzip.wait(), 0);
+        QStringList found;
+        for (const QString &file : files::list(m_folder->path("out"), {})) {
+            found.append(QDir(m_folder->path("out")).relativeFilePath(file));
+            QCOMPARE(read(file), read(m_folder->path(found.last())));
+        }
+        QCOMPARE(found, files);
+    }
+
+    void dataMessageFails()
+    {
+        configStruct config;
+        const auto never = [](const QString &) { QFAIL("nothing was written"); };
+        QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
+        QVERIFY(m_shown->logged.contains("There are no files to send."));
+        config.setDefaults();
+        QFile::remove(m_folder->path("_bin/zip.exe"));
+        QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
+        QVERIFY(m_shown->logged.contains("cannot be written"));
+        files::removeFolder(paths::temporaryDir());
+        files::writeText(paths::temporaryDir(), "no folder");
+        QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
+        QVERIFY(m_shown->logged.contains("Temporary folder error"));
+        QFile::remove(paths::temporaryDir());
+    }
+
+    void startsTheRightProgram()
+    {
+        configStruct config;
+        for (const char *name : {"KIV_EMAIL.exe", "KIV_EMAIL_MAPI.exe"})
+            m_folder->script(QString("_e-mail/") + name,
+                             "printf '%s %s %s;' ${0##*/} \"$1\" \"$KIVZP_MAIL_FOLDER\" > \"$1.started\"\n");
+        const QString description = m_folder->write("a b.cmd", "");
+        const auto started = [&] {
+            QFile::remove(description + ".started");
+            if (!mail::start(description, config))
+                return QByteArray("not started");
+            const bool wrote = QTest::qWaitFor([&] { return read(description + ".started").endsWith(';'); });
+            if (!wrote)
+                return QByteArray("not run");
+            return read(description + ".started");
+        };
+        const QByteArray arguments = (' ' + description + ' ' + mail::folder() + ';').toUtf8();
+        QCOMPARE(started(), "KIV_EMAIL.exe" + arguments);
+        appendTo(config.options)->type = optionKey::emailMapi;
+        QCOMPARE(started(), "KIV_EMAIL_MAPI.exe" + arguments);
+        QFile::remove(m_folder->path("_e-mail/KIV_EMAIL_MAPI.exe"));
+        QCOMPARE(started(), QByteArray("not started"));
+    }
+
+    // From the order to a message as another mail reader understands it.
+    void emlHoldsEverything()
+    {
+        configStruct config;
+        addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl; Jan Żak <j@x.pl>; <broken@");
+        const QString number = "ZP/żółć]/13 [a]" + QString(100, 'x');
+        QByteArray bytes;
+        for (int i = 0; i < 100000; ++i)
+            bytes.append(char(unsigned(i) * unsigned(i) / 7));
+        const QString first = m_folder->write("zam ówienie].xml", "<a>\r\n\xc5\xbc</a>");
+        const QString second = m_folder->write("b\"'.pdf", bytes);
+        const QString description = mail::writeOrder(numberedOrder(number), config, first, second);
+        const ended called = launch("KIV_EMAIL_MAPI.exe", description);
+        QVERIFY2(called.code == 0 && called.err.contains("No address: <broken@"), qPrintable(called.err));
+        QCOMPARE(called.out, description.chopped(3) + "eml");
+
+        const ended reader = run("python3", {source("tests/files/readMail.py"), called.out});
+        const QJsonObject message = QJsonDocument::fromJson(reader.out.toUtf8()).object();
+        QVERIFY2(!message.isEmpty(), qPrintable(reader.err));
+        QCOMPARE(message["subject"].toString(), "DD - Order " + number);
+        QCOMPARE(message["to"].toArray(), QJsonArray({QJsonArray({"", "e@x.pl"}), QJsonArray({"Jan Żak", "j@x.pl"})}));
+        QCOMPARE(message["unsent"].toString(), QString("1"));
+        QString body = QString::fromUtf8(read(description.chopped(3) + "html"));
+        QCOMPARE(message["html"].toString(), body);
+        QVERIFY(body.contains(number));
+        QVERIFY(message["plain"].toString().contains(number));
+        QVERIFY(!message["plain"].toString().contains('<'));
+        const auto digest = [](const QString &path) {
+            return QString(QCryptographicHash::hash(read(path), QCryptographicHash::Md5).toHex());
+        };
+        QCOMPARE(message["files"].toArray(), QJsonArray({QJsonArray({QFileInfo(first).fileName(), digest(first)}),
+                                                         QJsonArray({QFileInfo(second).fileName(), digest(second)})}));
+        // A second one does not take the first one's place.
+        QVERIFY(launch("KIV_EMAIL.exe", description).out.endsWith("_2.eml"));
+    }
+
+    void composers_data()
+    {
+        const rows<QString, QString, QString> row;
+        const QString plain("--utf8|--subject|DD - Order NUMBER|--body|Nr NUMBER|--attach|FOLDER/a b.xml|--attach|"
+                            "FOLDER/c.pdf|e@x.pl|f@x.pl");
+        row("any", "kmail.desktop", "1", plain);
+        row("thunderbird", "org.mozilla.Thunderbird.desktop", "1",
+            "-compose|to='e@x.pl,f@x.pl',subject='DD - Order 1',format=1,"
+            "message='FOLDER/_e-mail/msg_1.html',"
+            "attachment='file://FOLDER/a%20b.xml,file://FOLDER/c.pdf'");
+        row("thunderbird, quote", "thunderbird.desktop", "1'", plain);
+    }
+
+    // Of programs that stand for the desktop's.
+    void composers()
+    {
+        auto [handler, number, expected] = fetch<QString, QString, QString>();
+        const QByteArray record = "printf '%s|' \"$@\" > \"$RECORD.new\" && mv \"$RECORD.new\" "
+                                  "\"$RECORD\"\n";
+        m_folder->script("bin/xdg-email", record);
+        m_folder->script("bin/thunderbird", record);
+        m_folder->script("bin/xdg-mime", "echo " + handler.toUtf8());
+        m_folder->write("_e-mail/msg_template.htm", "<head><title>x</title></head><p>Nr {Do_no}</p>");
+        m_folder->write("a b.xml", "");
+        m_folder->write("c.pdf", "");
+        configStruct config;
+        addPerson(config, "PERSON_CONTRACTOR", "Ewa", "e@x.pl;f@x.pl");
+        const QString description =
+            mail::writeOrder(numberedOrder(number), config, m_folder->path("a b.xml"), m_folder->path("c.pdf"));
+        const ended called = launch("KIV_EMAIL.exe", description, true);
+        QCOMPARE(called.code, 0);
+        QCOMPARE(called.out, QString());
+        QVERIFY(QTest::qWaitFor([&] { return QFile::exists(m_folder->path("record")); }));
+        const QString arguments = read(m_folder->path("record")).replace("\n|", "|");
+        QCOMPARE(arguments.chopped(1), expected.replace("NUMBER", number).replace("FOLDER", m_folder->path()));
+        // A composer that fails leaves the message as a file.
+        m_folder->script("bin/xdg-email", "exit 3\n");
+        m_folder->script("bin/xdg-mime", "exit 4\n");
+        m_folder->script("bin/xdg-open", "true\n");
+        QCOMPARE(launch("KIV_EMAIL.exe", description, true).out, description.chopped(3) + "eml");
+    }
+
+    void launcherRefuses()
+    {
+        const QString missing = m_folder->write("m.cmd", "subject \t[x]\nattachment \t[/none/y.pdf]\n");
+        const ended called = launch("KIV_EMAIL.exe", missing);
+        QCOMPARE(called.code, 1);
+        QVERIFY(called.err.contains("does not exist: /none/y.pdf"));
+        QVERIFY(!QFile::exists(m_folder->path("m.eml")));
+        QCOMPARE(launch("KIV_EMAIL.exe", "/none/m.cmd").code, 1);
+        QCOMPARE(launch("KIV_EMAIL.exe", m_folder->write("n.cmd", "\xff\xfe")).code, 1);
+        // What is no field counts as nothing.
+        QCOMPARE(launch("KIV_EMAIL.exe", m_folder->write("o.cmd", "cc [a@x]\nto a@x\n")).code, 0);
+    }
 
 private:
-    static void addPerson(configStruct &config, const char *role, const QString &name,
-                          const QString &link)
+    static void addPerson(configStruct &config, const char *role, const QString &name, const QString &link)
     {
-        personStruct *person = config.persons.append(std::make_unique<personStruct>());
+        personStruct *person = appendTo(config.persons);
         person->type = role;
         person->name = name;
         person->link = link;
     }
-    // A program in the folder "bin" that writes down its arguments, one a line, and ends with 0.
-    void fakeProgram(const QString &path, const QByteArray &does)
+    // A launcher of the source tree, without a desktop unless the folder "bin" holds one.
+    ended launch(const QString &name, const QString &description, bool desktop = false)
     {
-        const QString file = m_folder->write(path, "#!/bin/sh\n" + does);
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        ended done = run(source("_e-mail/" + name), {description},
+                         {"WAYLAND_DISPLAY", desktop ? "DISPLAY=:none" : "DISPLAY", "LC_ALL=C",
+                          "PATH=" + m_folder->path("bin") + ':' + qEnvironmentVariable("PATH"),
+                          "RECORD=" + m_folder->path("record")});
+        done.out = done.out.trimmed();
+        return done;
     }
-    struct result
-    {
-        int code;
-        QString out;
-        QString err;
-    };
-    // A launcher of the source tree, without a desktop unless bin holds one.
-    result launch(const QString &name, const QString &description, bool desktop = false)
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove("WAYLAND_DISPLAY");
-        environment.remove("DISPLAY");
-        if (desktop)
-            environment.insert("DISPLAY", ":none");
-        environment.insert("PATH", m_folder->path("bin") + ':' + environment.value("PATH"));
-        environment.insert("RECORD", m_folder->path("record"));
-        environment.insert("LC_ALL", "C");
-        process.setProcessEnvironment(environment);
-        process.start(testSupport::source("_e-mail/" + name), {description});
-        process.waitForFinished();
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed(),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
-
-    std::unique_ptr<testSupport::programFolder> m_folder;
-    std::unique_ptr<testSupport::recordingPrompts> m_shown;
 };
-
-void tst_mail::init()
-{
-    m_folder = std::make_unique<testSupport::programFolder>();
-    m_shown = std::make_unique<testSupport::recordingPrompts>();
-    for (const char *dir : {"_bin", "_e-mail", "_files"})
-        testSupport::copyFolder(testSupport::source(dir), m_folder->path(dir));
-}
-
-void tst_mail::cleanup()
-{
-    m_shown.reset();
-    m_folder.reset();
-    files::removeFolder(paths::temporaryDir());
-}
-
-void tst_mail::addresses_data()
-{
-    QTest::addColumn<QString>("configured");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("link") << "mailto:a@x.pl" << QStringList("a@x.pl");
-    QTest::newRow("several") << " mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;"
-                             << QStringList({"a@x.pl", "b@x.pl", "c@x.pl"});
-    QTest::newRow("query") << "mailto:a@x.pl?subject=b@x" << QStringList("a@x.pl");
-    QTest::newRow("encoded") << "mailto:a%2Bb@x.pl" << QStringList("a+b@x.pl");
-    QTest::newRow("twice") << "a@x.pl;a@x.pl" << QStringList("a@x.pl");
-    QTest::newRow("none") << "http://x.pl" << QStringList();
-    QTest::newRow("line end") << "a@x.pl\nsubject [x]" << QStringList("a@x.pl subject [x]");
-}
-
-void tst_mail::addresses()
-{
-    QFETCH(QString, configured);
-    QTEST(mail::addresses(configured), "expected");
-}
-
-void tst_mail::recipients()
-{
-    configStruct config;
-    addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
-    QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList("e@x.pl"));
-    addPerson(config, "PERSON_CONTRACTOR", "Jan", "j@x.pl;k@x.pl");
-    addPerson(config, "PERSON_ADMIN", "Ewa", "admin@x.pl");
-    QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", " Jan"),
-             QStringList({"j@x.pl", "k@x.pl"}));
-    QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList());
-    QCOMPARE(mail::recipients(config, "PERSON_ADMIN", "Ewa"), QStringList("admin@x.pl"));
-}
-
-void tst_mail::descriptionText()
-{
-    QCOMPARE(mail::description({{"a@x", "b@x"}, "s\nto [c@x]", "/b.html", {"/1", "/2"}}),
-             QString("to \t\t\t[a@x]\nto \t\t\t[b@x]\nsubject \t[s to [c@x]]\n"
-                     "body \t\t[/b.html]\nattachment \t[/1]\nattachment \t[/2]\n"));
-}
-
-void tst_mail::orderMessage()
-{
-    for (const char *name : {"msg_old.cmd", "old.html", "msg_old.eml"})
-        m_folder->write(QString("_e-mail/") + name, "old");
-    m_folder->write("_e-mail/msg_template.htm", "<b>{Do_no}</b> {Do_no}");
-    configStruct config;
-    addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
-    kiv_mat_zpStruct order;
-    order.options.findOption(optionKey::orderNumber)->value1 = "ZP/1<3>/26";
-    order.options.findOption(optionKey::orderDate)->value1 = "24.11.2026";
-    const QString path = mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf");
-    const QString base = m_folder->path("_e-mail/msg_ZP_1_3_26_24.11.2026");
-    QCOMPARE(path, base + ".cmd");
-    QCOMPARE(QString(testSupport::read(path)),
-             "to \t\t\t[e@x.pl]\nsubject \t[DD - Order ZP/1<3>/26]\nbody \t\t[" + base
-                 + ".html]\nattachment \t[/o/zp.xml]\nattachment \t[/o/zp.pdf]\n");
-    QCOMPARE(testSupport::read(base + ".html"),
-             QByteArray("<b>ZP/1&lt;3&gt;/26</b> ZP/1&lt;3&gt;/26"));
-    QStringList left = QDir(mail::folder()).entryList(QDir::Files);
-    left.removeAll("msg_ZP_1_3_26_24.11.2026.cmd");
-    left.removeAll("msg_ZP_1_3_26_24.11.2026.html");
-    QCOMPARE(left, QStringList(
-                       {"KIV_EMAIL.exe", "KIV_EMAIL_MAPI.exe", "msg_old.eml", "msg_template.htm"}));
-    // Without a template the body is empty.
-    QFile::remove(mail::templatePath());
-    QVERIFY(!mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf").isEmpty());
-    QCOMPARE(testSupport::read(base + ".html"), QByteArray());
-}
-
-void tst_mail::messageNames_data()
-{
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("slashes") << "ZP/13/2026"
-                             << "ZP_13_2026";
-    QTest::newRow("upwards") << "../../x\\y:z"
-                             << ".._.._x_y_z";
-    QTest::newRow("letters") << QString::fromUtf8("źdźbło [1]") << QString::fromUtf8("źdźbło_1");
-    QTest::newRow("nothing") << " // "
-                             << "order";
-    QTest::newRow("long") << QString(500, 'x') << QString(80, 'x');
-}
-
-void tst_mail::messageNames()
-{
-    QFETCH(QString, number);
-    kiv_mat_zpStruct order;
-    order.options.findOption(optionKey::orderNumber)->value1 = number;
-    QTEST(mail::messageName(order), "name");
-}
-
-void tst_mail::dataMessage_data()
-{
-    QTest::addColumn<int>("what");
-    QTest::addColumn<QString>("subject");
-    QTest::addColumn<QString>("archive");
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QStringList>("files");
-    QTest::newRow("databases") << int(mail::contents::databases) << "Database"
-                               << "database_"
-                               << ""
-                               << QStringList({"_files/db_author.xml", "_files/db_mechanics.xml",
-                                               "_files/db_service.xml", "_files/db_warehouse.xml"});
-    QTest::newRow("boms, secret") << int(mail::contents::boms) << "Boms"
-                                  << "boms_"
-                                  << "two words"
-                                  << QStringList({"_files/boms.xml",
-                                                  "_files/boms/konwerter_rs232_usb.xml",
-                                                  "_files/boms/modul_stm32f103.xml",
-                                                  "_files/boms/przedwzmacniacz_audio.xml",
-                                                  "_files/boms/sterownik_przekaznikow.xml",
-                                                  "_files/boms/zasilacz_liniowy_5v.xml"});
-}
-
-void tst_mail::dataMessage()
-{
-    QFETCH(int, what);
-    QFETCH(QString, password);
-    QFETCH(QString, archive);
-    QFETCH(QStringList, files);
-    configStruct config;
-    config.setDefaults();
-    config.options.findOption(optionKey::archivePassword)->value1 = password;
-    addPerson(config, "PERSON_ADMIN", "Adam", "mailto:adam@x.pl");
-    QStringList later;
-    const QString path = mail::writeData(mail::contents(what), config,
-                                         [&](const QString &file) { later.append(file); });
-    QVERIFY2(path.endsWith("/msg_database.cmd"), qPrintable(m_shown->logged));
-    const QStringList lines = QString(testSupport::read(path)).split('\n');
-    QCOMPARE(lines[0], QString("to \t\t\t[adam@x.pl]"));
-    QTEST(lines[1].section('[', 1).chopped(1), "subject");
-    const QString packed = lines[3].section('[', 1).chopped(1);
-    QVERIFY2(QRegularExpression('/' + archive + R"(\d{4}\.\d\d\.\d\d_\d\d:\d\d:\d\d\.zip$)")
-                 .match(packed)
-                 .hasMatch(),
-             qPrintable(packed));
-    later.sort();
-    QStringList made = files::list(paths::temporaryDir(), {});
-    QCOMPARE(later, made);
-    QVERIFY(testSupport::read(lines[2].section('[', 1).chopped(1)).contains("charset=\"UTF-8\""));
-
-    if (!password.isEmpty()) {
-        zip_compress wrong;
-        wrong.decompress(packed, m_folder->path("wrong"), "other");
-        QVERIFY(wrong.wait() != 0);
-    }
-    zip_compress unzip;
-    unzip.decompress(packed, m_folder->path("out"), password);
-    QCOMPARE(unzip.wait(), 0);
-    QStringList found;
-    for (const QString &file : files::list(m_folder->path("out"), {})) {
-        found.append(QDir(m_folder->path("out")).relativeFilePath(file));
-        QCOMPARE(testSupport::read(file), testSupport::read(m_folder->path(found.last())));
-    }
-    QCOMPARE(found, files);
-}
-
-void tst_mail::dataMessageFails()
-{
-    configStruct config;
-    const auto never = [](const QString &) { QFAIL("nothing was written"); };
-    QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
-    QVERIFY(m_shown->logged.contains("There are no files to send."));
-    config.setDefaults();
-    QFile::remove(m_folder->path("_bin/zip.exe"));
-    QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
-    QVERIFY(m_shown->logged.contains("cannot be written"));
-    files::removeFolder(paths::temporaryDir());
-    files::writeText(paths::temporaryDir(), "no folder");
-    QCOMPARE(mail::writeData(mail::contents::databases, config, never), QString());
-    QVERIFY(m_shown->logged.contains("Temporary folder error"));
-    QFile::remove(paths::temporaryDir());
-}
-
-void tst_mail::startsTheRightProgram()
-{
-    configStruct config;
-    for (const char *name : {"KIV_EMAIL.exe", "KIV_EMAIL_MAPI.exe"})
-        fakeProgram(QString("_e-mail/") + name,
-                    "printf '%s %s %s;' ${0##*/} \"$1\" \"$KIVZP_MAIL_FOLDER\" > \"$1.started\"\n");
-    const QString description = m_folder->write("a b.cmd", "");
-    const auto started = [&] {
-        QFile::remove(description + ".started");
-        if (!mail::start(description, config))
-            return QByteArray("not started");
-        const bool wrote = QTest::qWaitFor(
-            [&] { return testSupport::read(description + ".started").endsWith(';'); });
-        if (!wrote)
-            return QByteArray("not run");
-        return testSupport::read(description + ".started");
-    };
-    const QByteArray arguments = (' ' + description + ' ' + mail::folder() + ';').toUtf8();
-    QCOMPARE(started(), "KIV_EMAIL.exe" + arguments);
-    config.options.append(std::make_unique<optionStruct>())->type = optionKey::emailMapi;
-    QCOMPARE(started(), "KIV_EMAIL_MAPI.exe" + arguments);
-    QFile::remove(m_folder->path("_e-mail/KIV_EMAIL_MAPI.exe"));
-    QCOMPARE(started(), QByteArray("not started"));
-}
-
-// From the order to a message as another mail reader understands it.
-void tst_mail::emlHoldsEverything()
-{
-    configStruct config;
-    addPerson(config, "PERSON_CONTRACTOR", "Ewa",
-              QString::fromUtf8("mailto:e@x.pl; Jan Żak <j@x.pl>; <broken@"));
-    kiv_mat_zpStruct order;
-    const QString number = QString::fromUtf8("ZP/żółć]/13 [a]") + QString(100, 'x');
-    order.options.findOption(optionKey::orderNumber)->value1 = number;
-    QByteArray bytes;
-    for (int i = 0; i < 100000; ++i)
-        bytes.append(char(unsigned(i) * unsigned(i) / 7));
-    const QString first =
-        m_folder->write(QString::fromUtf8("zam ówienie].xml"), "<a>\r\n\xc5\xbc</a>");
-    const QString second = m_folder->write("b\"'.pdf", bytes);
-    const QString description = mail::writeOrder(order, config, first, second);
-    const result called = launch("KIV_EMAIL_MAPI.exe", description);
-    QVERIFY2(called.code == 0 && called.err.contains("No address: <broken@"),
-             qPrintable(called.err));
-    QCOMPARE(called.out, description.chopped(3) + "eml");
-
-    QProcess reader;
-    reader.start("python3", {"-c", R"(
-import email, email.policy, json, sys, hashlib
-m = email.message_from_binary_file(open(sys.argv[1], 'rb'), policy=email.policy.default)
-print(json.dumps({
-    'subject': m['subject'], 'to': [[a.display_name, a.addr_spec] for a in m['to'].addresses],
-    'unsent': m['x-unsent'], 'html': m.get_body(('html',)).get_content(),
-    'plain': m.get_body(('plain',)).get_content(),
-    'files': [[a.get_filename(), hashlib.md5(a.get_payload(decode=True)).hexdigest()]
-              for a in m.iter_attachments()]}))
-)",
-                             called.out});
-    QVERIFY(reader.waitForFinished());
-    const QJsonObject read = QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
-    QVERIFY2(!read.isEmpty(), reader.readAllStandardError());
-    QCOMPARE(read["subject"].toString(), "DD - Order " + number);
-    QCOMPARE(read["to"].toArray(),
-             QJsonArray({QJsonArray({"", "e@x.pl"}),
-                         QJsonArray({QString::fromUtf8("Jan Żak"), "j@x.pl"})}));
-    QCOMPARE(read["unsent"].toString(), QString("1"));
-    QString body = QString::fromUtf8(testSupport::read(description.chopped(3) + "html"));
-    QCOMPARE(read["html"].toString(), body);
-    QVERIFY(body.contains(number));
-    QVERIFY(read["plain"].toString().contains(number));
-    QVERIFY(!read["plain"].toString().contains('<'));
-    const auto digest = [](const QString &path) {
-        return QString(
-            QCryptographicHash::hash(testSupport::read(path), QCryptographicHash::Md5).toHex());
-    };
-    QCOMPARE(read["files"].toArray(),
-             QJsonArray({QJsonArray({QFileInfo(first).fileName(), digest(first)}),
-                         QJsonArray({QFileInfo(second).fileName(), digest(second)})}));
-    // A second one does not take the first one's place.
-    QVERIFY(launch("KIV_EMAIL.exe", description).out.endsWith("_2.eml"));
-}
-
-void tst_mail::composers_data()
-{
-    QTest::addColumn<QString>("handler");
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<QString>("expected");
-    const QString plain(
-        "--utf8|--subject|DD - Order NUMBER|--body|Nr NUMBER|--attach|FOLDER/a b.xml|--attach|"
-        "FOLDER/c.pdf|e@x.pl|f@x.pl");
-    QTest::newRow("any") << "kmail.desktop"
-                         << "1" << plain;
-    QTest::newRow("thunderbird") << "org.mozilla.Thunderbird.desktop"
-                                 << "1"
-                                 << "-compose|to='e@x.pl,f@x.pl',subject='DD - Order 1',format=1,"
-                                    "message='FOLDER/_e-mail/msg_1.html',"
-                                    "attachment='file://FOLDER/a%20b.xml,file://FOLDER/c.pdf'";
-    QTest::newRow("thunderbird, quote") << "thunderbird.desktop"
-                                        << "1'" << plain;
-}
-
-// Of programs that stand for the desktop's.
-void tst_mail::composers()
-{
-    QFETCH(QString, handler);
-    QFETCH(QString, number);
-    QFETCH(QString, expected);
-    const QByteArray record = "printf '%s|' \"$@\" > \"$RECORD.new\" && mv \"$RECORD.new\" "
-                              "\"$RECORD\"\n";
-    fakeProgram("bin/xdg-email", record);
-    fakeProgram("bin/thunderbird", record);
-    fakeProgram("bin/xdg-mime", "echo " + handler.toUtf8());
-    m_folder->write("_e-mail/msg_template.htm", "<head><title>x</title></head><p>Nr {Do_no}</p>");
-    m_folder->write("a b.xml", "");
-    m_folder->write("c.pdf", "");
-    configStruct config;
-    addPerson(config, "PERSON_CONTRACTOR", "Ewa", "e@x.pl;f@x.pl");
-    kiv_mat_zpStruct order;
-    order.options.findOption(optionKey::orderNumber)->value1 = number;
-    const QString description =
-        mail::writeOrder(order, config, m_folder->path("a b.xml"), m_folder->path("c.pdf"));
-    const result called = launch("KIV_EMAIL.exe", description, true);
-    QCOMPARE(called.code, 0);
-    QCOMPARE(called.out, QString());
-    QVERIFY(QTest::qWaitFor([&] { return QFile::exists(m_folder->path("record")); }));
-    const QString arguments = testSupport::read(m_folder->path("record")).replace("\n|", "|");
-    QCOMPARE(arguments.chopped(1),
-             expected.replace("NUMBER", number).replace("FOLDER", m_folder->path()));
-    // A composer that fails leaves the message as a file.
-    fakeProgram("bin/xdg-email", "exit 3\n");
-    fakeProgram("bin/xdg-mime", "exit 4\n");
-    fakeProgram("bin/xdg-open", "true\n");
-    QCOMPARE(launch("KIV_EMAIL.exe", description, true).out, description.chopped(3) + "eml");
-}
-
-void tst_mail::launcherRefuses()
-{
-    const QString missing = m_folder->write("m.cmd", "subject \t[x]\nattachment \t[/none/y.pdf]\n");
-    const result called = launch("KIV_EMAIL.exe", missing);
-    QCOMPARE(called.code, 1);
-    QVERIFY(called.err.contains("does not exist: /none/y.pdf"));
-    QVERIFY(!QFile::exists(m_folder->path("m.eml")));
-    QCOMPARE(launch("KIV_EMAIL.exe", "/none/m.cmd").code, 1);
-    QCOMPARE(launch("KIV_EMAIL.exe", m_folder->write("n.cmd", "\xff\xfe")).code, 1);
-    // What is no field counts as nothing.
-    QCOMPARE(launch("KIV_EMAIL.exe", m_folder->write("o.cmd", "cc [a@x]\nto a@x\n")).code, 0);
-}
 
 KIVZP_TEST(tst_mail)
 #include "tst_mail.moc"

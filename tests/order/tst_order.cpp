@@ -69,8 +69,7 @@ private:
     }
     void edit(int row, int column, const QVariant &value)
     {
-        view().lines()->setValue(
-            static_cast<myItem::myItemStandard *>(view().lines()->item(row, column)), value);
+        view().lines()->setValue(static_cast<myItem::myItemStandard *>(view().lines()->item(row, column)), value);
     }
 
     std::unique_ptr<testSupport::programFolder> m_folder;
@@ -277,9 +276,8 @@ void tst_order::bulkEdits_data()
                                         << field(&orderItemStruct::quantity) << "12";
     QTest::newRow("Set all dates") << slot(&MainWindow::commandZpAllDates) << QVariant(date)
                                    << field(&orderItemStruct::wait) << date.toString("dd.MM.yyyy");
-    QTest::newRow("Set all descriptions")
-        << slot(&MainWindow::commandZpAllDescriptions) << QVariant(QString("x"))
-        << field(&orderItemStruct::description) << "x";
+    QTest::newRow("Set all descriptions") << slot(&MainWindow::commandZpAllDescriptions) << QVariant(QString("x"))
+                                          << field(&orderItemStruct::description) << "x";
     QTest::newRow("Set all RoHS") << slot(&MainWindow::commandZpAllRoHS) << QVariant(0)
                                   << field(&orderItemStruct::rohsRequired) << "NIE";
     QTest::newRow("Set all units") << slot(&MainWindow::commandZpAllUnits) << QVariant(2)
@@ -308,8 +306,7 @@ void tst_order::bulkEdits()
     // The order's report follows.
     m_window->commandZpRedo(true);
     m_window->refreshPreview();
-    QVERIFY(m_window->document().report().contains(member == &orderItemStruct::unit ? "taśma"
-                                                                                         : set)
+    QVERIFY(m_window->document().report().contains(member == &orderItemStruct::unit ? "taśma" : set)
             || member == &orderItemStruct::rohsRequired || member == &orderItemStruct::unit);
 }
 
@@ -345,8 +342,7 @@ void tst_order::specialLines()
 
     m_shown->informations.clear();
     m_window->commandAddPCB(true);
-    QVERIFY(m_shown->informations.value(0).contains("Only one PCB order")
-            || last()->ktm == "SRV-001.100");
+    QVERIFY(m_shown->informations.value(0).contains("Only one PCB order") || last()->ktm == "SRV-001.100");
     m_shown->informations.clear();
     m_window->commandAddPCB(true);
     QCOMPARE(m_shown->informations.value(0).simplified(), QString("Only one PCB order"));
@@ -358,8 +354,7 @@ void tst_order::specialLines()
     const size_t steps = m_window->stack().undoCount();
     const int lines = view().lines()->rowCount();
     m_window->appendToOrder({known, shipment, "no such KTM", known}, 5);
-    QCOMPARE(m_shown->informations,
-             QStringList("In Do can be only one entry SHIPMENT of KTM: " + shipment));
+    QCOMPARE(m_shown->informations, QStringList("In Do can be only one entry SHIPMENT of KTM: " + shipment));
     QCOMPARE(view().lines()->rowCount(), lines + 2);
     QCOMPARE(m_window->stack().undoCount(), steps + 1);
     QCOMPARE(last()->quantity, QString("5"));
@@ -370,8 +365,7 @@ void tst_order::deleteAndSort()
 {
     const QStringList names = column(&orderItemStruct::name);
     for (int row : {0, 2, 20})
-        view().linesView()->selectionModel()->select(view().lines()->index(row, 1),
-                                                     QItemSelectionModel::Select);
+        view().linesView()->selectionModel()->select(view().lines()->index(row, 1), QItemSelectionModel::Select);
     m_window->commandDeleteLines(true);
     QCOMPARE(column(&orderItemStruct::name).size(), names.size() - 3);
     QCOMPARE(column(&orderItemStruct::name).first(), names[1]);
@@ -406,8 +400,7 @@ void tst_order::pricesAndSums()
     m_window->commandZpClearPrices(true);
     QCOMPARE(column(&orderItemStruct::price).count("0.00"), view().lines()->rowCount());
     m_window->commandZpAllSum(true);
-    QVERIFY2(m_shown->informations.last().contains("0.00 [ PLN ]"),
-             qPrintable(m_shown->informations.last()));
+    QVERIFY2(m_shown->informations.last().contains("0.00 [ PLN ]"), qPrintable(m_shown->informations.last()));
     m_shown->nextAnswer = answer::yes;
     m_window->commandZpRefreshPrices(true);
     QVERIFY(!column(&orderItemStruct::price).contains("0.00"));
@@ -420,8 +413,8 @@ void tst_order::copyAndFind()
 {
     view().linesView()->selectionModel()->select(view().lines()->index(0, orderTree::nameColumn),
                                                  QItemSelectionModel::Select);
-    view().linesView()->selectionModel()->select(
-        view().lines()->index(1, orderTree::quantityColumn), QItemSelectionModel::Select);
+    view().linesView()->selectionModel()->select(view().lines()->index(1, orderTree::quantityColumn),
+                                                 QItemSelectionModel::Select);
     m_window->commandCopyCells(true);
     QCOMPARE(QApplication::clipboard()->text(), QString("STM32F103C8T6\n25"));
     QApplication::clipboard()->setText("5\nfive");
@@ -434,21 +427,20 @@ void tst_order::copyAndFind()
 
     m_shown->input = QString("bezpiecznik");
     m_window->commandFind(true);
-    QCOMPARE(view().linesView()->currentIndex(),
-             view().lines()->index(15, orderTree::descriptionColumn));
+    QCOMPARE(view().linesView()->currentIndex(), view().lines()->index(15, orderTree::descriptionColumn));
 
     const QString other = m_folder->path("other.xml");
     QVERIFY(QFile::copy(path(), other));
     QString reason;
-    QVERIFY(orderOperations::appendToFile(other, view().records({2}), {1, 5},
-                                          programData::instance().config(), &reason));
+    QVERIFY(
+        orderOperations::appendToFile(other, view().records({2}), {1, 5}, programData::instance().config(), &reason));
     kiv_mat_zpStruct target;
     QCOMPARE(loadZp(other, &target), 0);
     QCOMPARE(target.orderItems.items.back()->name, QString("ABLS-8.000MHZ-B4-T"));
     QCOMPARE(target.orderItems.items.back()->ktm, QString());
     QCOMPARE(target.orderItems.items.back()->index, QString("22"));
-    QVERIFY(!orderOperations::appendToFile(m_folder->write("bad.xml", "bad"), {}, {},
-                                           programData::instance().config(), &reason));
+    QVERIFY(!orderOperations::appendToFile(m_folder->write("bad.xml", "bad"), {}, {}, programData::instance().config(),
+                                           &reason));
     QCOMPARE(testSupport::read(m_folder->path("bad.xml")), QByteArray("bad"));
 }
 
@@ -481,8 +473,8 @@ void tst_order::addMaterials()
 
 void tst_order::messageTemplate()
 {
-    const QString path = m_folder->write("_e-mail/msg_template.htm",
-                                         "<html><body><p>Order <b>{Do_no}</b></p></body></html>");
+    const QString path =
+        m_folder->write("_e-mail/msg_template.htm", "<html><body><p>Order <b>{Do_no}</b></p></body></html>");
     const QByteArray before = testSupport::read(path);
     emailTempWindow looked;
     looked.accept();
@@ -577,8 +569,7 @@ void tst_order::otherProgram()
     // A lock of a process that is no more is void.
     m_shown->file = m_folder->path("second.xml");
     QVERIFY(QFile::copy(path(), m_shown->file));
-    m_folder->write(".second.xml.lock",
-                    "999999999\nKivZP\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    m_folder->write(".second.xml.lock", "999999999\nKivZP\n" + QSysInfo::machineHostName().toUtf8() + "\n");
     m_window->commandZpOpen(true);
     QCOMPARE(m_shown->listed, QString());
     m_shown->file = m_folder->path("third.xml");
@@ -624,8 +615,7 @@ void tst_order::configuration()
     window.commandDefault(true);
     QCOMPARE(option("FONT_SIZE")->text(), QString("14"));
     window.commandUndo(true);
-    window.options()->setValue(option("PATH_BACKUP"),
-                               m_folder->path("_config/kiv_mat_config.xml/x"));
+    window.options()->setValue(option("PATH_BACKUP"), m_folder->path("_config/kiv_mat_config.xml/x"));
     window.commandSave(true);
     QCOMPARE(m_shown->errors.size(), 1);
     QCOMPARE(announced.count(), 0);
@@ -644,8 +634,7 @@ void tst_order::configuration()
     // The order's lines do not look at the configuration that went.
     view().refreshLooks();
     // Sorting ends the history, not the changes.
-    window.persons()->setValue(static_cast<myItem::myItemStandard *>(window.persons()->item(0, 4)),
-                               QString("Newer"));
+    window.persons()->setValue(static_cast<myItem::myItemStandard *>(window.persons()->item(0, 4)), QString("Newer"));
     window.persons()->sort(4);
     m_shown->nextAnswer = answer::cancel;
     window.show();

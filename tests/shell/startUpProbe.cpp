@@ -40,9 +40,8 @@ void tell(MainWindow &window)
     if (task == "crash") {
         // A minute of work, and then the power fails.
         orderView &view = window.view();
-        view.lines()->setValue(
-            static_cast<myItem::myItemStandard *>(view.lines()->item(0, orderTree::nameColumn)),
-            QString("UNSAVED"));
+        view.lines()->setValue(static_cast<myItem::myItemStandard *>(view.lines()->item(0, orderTree::nameColumn)),
+                               QString("UNSAVED"));
         window.storeRecovery();
         std::raise(SIGKILL);
     } else if (task == "recover") {

@@ -78,8 +78,7 @@ void tst_mainWindow::stagesAdvanceTheSplash()
     splash::setProgress(3, 4);
     QCOMPARE(dialog.seen.join(' '), QString("0/10 1/9 2/9 3/9 4/9 5/9 6/9 7/9 8/9 9/9"));
     // The order has lines of the database left out.
-    QVERIFY2(m_shown->listed.startsWith("Materials does not exist in database:<br><b>"),
-             qPrintable(m_shown->listed));
+    QVERIFY2(m_shown->listed.startsWith("Materials does not exist in database:<br><b>"), qPrintable(m_shown->listed));
     QVERIFY(m_shown->logged.startsWith("Open file <b>zp_0.xml</b> ["));
     QVERIFY(programData::instance().database(programData::mechanics).groups.empty());
     QVERIFY(programData::instance().materials().find("SRV-000.100"));
@@ -113,8 +112,7 @@ void tst_mainWindow::printAsksForAFile()
     m_shown->file = m_folder->path("print & more/o");
     window.commandZpPrint(true);
     QVERIFY(testSupport::read(m_shown->file + ".pdf").startsWith("%PDF"));
-    QCOMPARE(m_shown->logged,
-             "Print to file <b>o.pdf</b> [" + QString(m_shown->file).toHtmlEscaped() + ".pdf]<br>");
+    QCOMPARE(m_shown->logged, "Print to file <b>o.pdf</b> [" + QString(m_shown->file).toHtmlEscaped() + ".pdf]<br>");
     QVERIFY(window.statusBar()->currentMessage().contains("o.pdf"));
     m_shown->file = m_folder->path("_zp/zp_0.xml/o.pdf");
     window.commandZpPrint(true);
@@ -126,8 +124,8 @@ void tst_mainWindow::wheelZooms()
     myWebView view;
     view.showReport("<p>x</p>");
     const auto wheel = [&view](int delta, Qt::KeyboardModifiers modifiers) {
-        QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, delta), Qt::NoButton,
-                          modifiers, Qt::NoScrollPhase, false);
+        QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, delta), Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
         QApplication::sendEvent(&view, &event);
         return float(view.zoomFactor());
     };

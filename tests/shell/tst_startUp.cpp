@@ -4,247 +4,198 @@
 
 #include "util/dataFolder.h"
 
-#include <QDir>
-#include <QProcess>
 #include <QSettings>
 
 #include <unistd.h>
 
-using testSupport::document;
+using namespace testSupport;
 
-class tst_startUp : public QObject
+class tst_startUp : public folderTest
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup() { m_folder.reset(); }
-    void sampleData();
-    void faults_data();
-    void faults();
-    void corruptFilesStayAsTheyAre();
-    void settingsAreReadAndWritten();
-    void lockedProgramFolder();
-    void killedWhileEditing();
-    void english();
-    void dataFolderKeepsWhatTheUserHas();
+    void init() override
+    {
+        folderTest::init();
+        m_folder->ship({"_config", "_files", "_zp"});
+        QVERIFY(QFile::copy(KIVZP_PROBE, m_folder->path("probe")));
+    }
+
+    void sampleData()
+    {
+        const result seen = start();
+        QCOMPARE(seen.code, 7);
+        QCOMPARE(seen.told["title"], QString("Zam\u00f3wienie"));
+        QCOMPARE(seen.told["visible"], QString("yes"));
+        QCOMPARE(seen.told["errors"], QString());
+        QCOMPARE(seen.told["errorsVisible"], QString("no"));
+        QCOMPARE(seen.told["log"], "Otwarto plik zp_0.xml [" + m_folder->path("_zp/zp_0.xml") + "] | ");
+        QVERIFY(seen.told["page"].contains("STM32F103C8T6"));
+        QVERIFY(seen.told["page"].contains("STMicroelectronics"));
+        QVERIFY(!seen.told["temporary"].isEmpty() && !QDir(seen.told["temporary"]).exists());
+        // The folder for backups is settled for later runs.
+        QVERIFY(read(m_folder->path("_config/kiv_mat_config.xml")).contains("PATH_BACKUP"));
+    }
+
+    void faults_data()
+    {
+        const rows<QString, QString, QByteArray, QStringList, bool> row;
+        const QString corrupt = "Plik nie istnieje lub jest uszkodzony ";
+        row("no configuration", "_config", "", "",
+            {corrupt + "@/_config/kiv_mat_config.xml [ config.xml ]",
+             "Utworzono plik domy\u015blny  [@/_config/kiv_mat_config.xml]"},
+            true);
+        row("broken configuration", "", "_config/kiv_mat_config.xml", "<kiv_config",
+            {corrupt + "@/_config/kiv_mat_config.xml [ config.xml ]"}, true);
+        row("no schemas: said once", "_validator", "", "",
+            {"@/_validator/", "@/_config/kiv_mat_config.xml", "@/_zp/zp_0.xml"}, false);
+        row("configuration of another root", "", "_config/kiv_mat_config.xml", "<kiv_confix/>",
+            {"@/_config/kiv_mat_config.xml"}, true);
+        row("unreadable database", "", "_files/db_warehouse.xml", "nonsense",
+            {corrupt + "@/_files/db_warehouse.xml [wiersz 1, kolumna 1"}, true);
+        row("database of another kind", "", "_files/db_service.xml",
+            document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd", ""),
+            {corrupt + "@/_files/db_service.xml [plik jest innego rodzaju]"}, true);
+        row("missing firm register", "_files/firms.xml", "", "",
+            {corrupt + "@/_files/firms.xml", "Utworzono plik domy\u015blny  [@/_files/firms.xml]"}, true);
+        row("missing order", "_zp/zp_0.xml", "", "", {corrupt + "@/_zp/zp_0.xml"}, false);
+        row("order with an unknown element", "", "_zp/zp_0.xml", order("\n<colour/>"),
+            {corrupt + "@/_zp/zp_0.xml [wiersz 3, kolumna"}, false);
+        row("style sheet with errors", "", "style.qss", "QWidget { color: ", {corrupt + "@/style.qss"}, true);
+    }
+
+    void faults()
+    {
+        const auto [removed, written, content, errors, orderShown] =
+            fetch<QString, QString, QByteArray, QStringList, bool>();
+        if (!removed.isEmpty())
+            QVERIFY(QFile::remove(m_folder->path(removed)) || QDir(m_folder->path(removed)).removeRecursively());
+        if (!written.isEmpty())
+            m_folder->write(written, content);
+        const result seen = start();
+        QCOMPARE(seen.code, 7);
+        QCOMPARE(seen.told["visible"], QString("yes"));
+        QCOMPARE(seen.told["errorsVisible"], QString("yes"));
+        int lines = 0;
+        // Without a database the order's materials are unknown, which is listed behind.
+        const QString faults = seen.told["errors"].section("Materiały nie", 0, 0);
+        for (const QString &line : faults.split(" | ", Qt::SkipEmptyParts))
+            lines += !line.trimmed().isEmpty();
+        for (const QString &error : qAsConst(errors))
+            QVERIFY2(seen.told["errors"].contains(QString(error).replace("@", m_folder->path())),
+                     qPrintable(seen.told["errors"]));
+        QCOMPARE(lines, errors.size());
+        QCOMPARE(seen.told["page"].contains("STM32F103C8T6"), orderShown);
+    }
+
+    void corruptFilesStayAsTheyAre()
+    {
+        const QStringList files{"_config/kiv_mat_config.xml", "_files/firms.xml", "_zp/zp_0.xml"};
+        for (const QString &file : files)
+            m_folder->write(file, "corrupt");
+        QCOMPARE(start().code, 7);
+        for (const QString &file : files)
+            QCOMPARE(read(m_folder->path(file)), QByteArray("corrupt"));
+        m_folder->write(files.first(), "<kiv_confix/>");
+        QCOMPARE(start().code, 7);
+        QCOMPARE(read(m_folder->path(files.first())), QByteArray("<kiv_confix/>"));
+    }
+
+    void settingsAreReadAndWritten()
+    {
+        const QString settings = m_folder->path("home/config/VELT/KivZP.conf");
+        QFile::copy(m_folder->path("_zp/zp_0.xml"), m_folder->path("_zp/other.xml"));
+        m_folder->write("home/config/VELT/KivZP.conf", "[General]\nlastZp=_zp/other.xml\naltiumDir=/altium\n");
+        result seen = start();
+        QVERIFY(seen.told["log"].contains("other.xml"));
+        {
+            const QSettings after(settings, QSettings::IniFormat);
+            QCOMPARE(after.value("lastZp").toString(), QString("_zp/other.xml"));
+            QCOMPARE(after.value("altiumDir").toString(), QString("/altium"));
+            QCOMPARE(after.allKeys().size(), 2);
+        }
+        // A store that can be neither read nor written: the defaults, and the program starts.
+        QVERIFY(QFile::remove(settings));
+        QVERIFY(QDir().mkpath(settings));
+        seen = start();
+        QCOMPARE(seen.code, 7);
+        QVERIFY(seen.told["log"].contains("zp_0.xml"));
+    }
+
+    // As another user, who may read the program's folder but not write it.
+    void lockedProgramFolder()
+    {
+        const uint nobody = geteuid() == 0 ? 65534 : geteuid();
+        QDir().mkpath(m_folder->path("home"));
+        const auto everybody = QFile::ReadOther | QFile::ExeOther;
+        QVERIFY(QFile::setPermissions(m_folder->path("home"), QFile::Permissions(0x7777)));
+        const auto owner = QFile::ReadOwner | QFile::ExeOwner;
+        QVERIFY(QFile::setPermissions(m_folder->path(), owner | everybody));
+        const result seen = start({}, nobody);
+        QVERIFY(QFile::setPermissions(m_folder->path(), owner | everybody | QFile::WriteOwner));
+        QCOMPARE(seen.code, 7);
+        const QString own = m_folder->path("home/data/VELT/KivZP");
+        QCOMPARE(seen.told["data"], own);
+        QVERIFY2(seen.told["log"].contains(own + " |"), qPrintable(seen.told["log"]));
+        QVERIFY2(seen.told["log"].contains("db_warehouse.xml"), qPrintable(seen.told["log"]));
+        QVERIFY(seen.told["page"].contains("STM32F103C8T6"));
+        QCOMPARE(seen.told["errors"], QString());
+        QVERIFY(!read(m_folder->path("_config/kiv_mat_config.xml")).contains("PATH_BACKUP"));
+    }
+
+    void killedWhileEditing()
+    {
+        // Nothing is offered after a normal end.
+        QCOMPARE(start().code, 7);
+        QVERIFY(!start("recover").told.contains("question"));
+        QCOMPARE(start("crash").code, -1);
+        QVERIFY(!read(m_folder->path("_zp/zp_0.xml")).contains("UNSAVED"));
+        const result seen = start("recover");
+        QVERIFY2(seen.told["question"].contains("zp_0.xml"), qPrintable(seen.told["question"]));
+        QCOMPARE(seen.told["firstName"], QString("UNSAVED"));
+    }
+
+    void english()
+    {
+        const QString path = m_folder->path("_config/kiv_mat_config.xml");
+        m_folder->write("_config/kiv_mat_config.xml",
+                        read(path).replace("</options>", "<option editable=\"YES\" type=\"LANGUAGE\" value1=\"en\""
+                                                         " value2=\"\" unit=\"\" description=\"\"/></options>"));
+        QCOMPARE(start().told["title"], QString("Order"));
+    }
+
+    void dataFolderKeepsWhatTheUserHas()
+    {
+        m_folder->write("own/_zp/zp_0.xml", "mine");
+        const QString own = m_folder->path("own");
+        QCOMPARE(dataFolder::choose(m_folder->path(), own).perUser, false);
+        const dataFolder::choice choice = dataFolder::choose(m_folder->path("none"), own);
+        QVERIFY(choice.perUser);
+        QVERIFY(choice.copied.isEmpty());
+        QCOMPARE(read(m_folder->path("own/_zp/zp_0.xml")), QByteArray("mine"));
+    }
 
 private:
     struct result
     {
-        int code = -1;
+        int code;
         QHash<QString, QString> told;
-        QString err;
     };
-    result start(uint asUser = 0, const QString &task = {}) const;
-    std::unique_ptr<testSupport::programFolder> m_folder;
-};
-
-void tst_startUp::init()
-{
-    m_folder = std::make_unique<testSupport::programFolder>();
-    for (const char *folder : {"_config", "_files", "_zp"})
-        testSupport::copyFolder(testSupport::source(folder), m_folder->path(folder));
-    QVERIFY(QFile::copy(KIVZP_PROBE, m_folder->path("probe")));
-}
-
-tst_startUp::result tst_startUp::start(uint asUser, const QString &task) const
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_CONFIG_HOME", m_folder->path("home/config"));
-    environment.insert("XDG_DATA_HOME", m_folder->path("home/data"));
-    environment.insert("KIVZP_PROBE_TASK", task);
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(m_folder->path());
-    if (asUser == 0)
-        process.start(m_folder->path("probe"), QStringList());
-    else
-        process.start("setpriv",
-                      {QString("--reuid=%1").arg(asUser), QString("--regid=%1").arg(asUser),
-                       "--clear-groups", m_folder->path("probe")});
-    result seen;
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return seen;
-    seen.code = process.exitCode();
-    seen.err = QString::fromUtf8(process.readAllStandardError());
-    for (const QString &line : QString::fromUtf8(process.readAllStandardOutput()).split('\n'))
-        seen.told.insert(line.section(": ", 0, 0), line.section(": ", 1));
-    return seen;
-}
-
-void tst_startUp::sampleData()
-{
-    const result seen = start();
-    QCOMPARE(seen.code, 7);
-    QCOMPARE(seen.told["title"], QString("Zam\u00f3wienie"));
-    QCOMPARE(seen.told["visible"], QString("yes"));
-    QCOMPARE(seen.told["errors"], QString());
-    QCOMPARE(seen.told["errorsVisible"], QString("no"));
-    QCOMPARE(seen.told["log"], "Otwarto plik zp_0.xml [" + m_folder->path("_zp/zp_0.xml") + "] | ");
-    QVERIFY(seen.told["page"].contains("STM32F103C8T6"));
-    QVERIFY(seen.told["page"].contains("STMicroelectronics"));
-    QVERIFY(!seen.told["temporary"].isEmpty() && !QDir(seen.told["temporary"]).exists());
-    // The folder for backups is settled for later runs.
-    QVERIFY(
-        testSupport::read(m_folder->path("_config/kiv_mat_config.xml")).contains("PATH_BACKUP"));
-}
-
-void tst_startUp::faults_data()
-{
-    QTest::addColumn<QString>("removed");
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QStringList>("errors");
-    QTest::addColumn<bool>("orderShown");
-    const QString corrupt = "Plik nie istnieje lub jest uszkodzony ";
-    const auto row = [](const char *name, const char *removed, const char *written,
-                        const QByteArray &content, const QStringList &errors, bool orderShown) {
-        QTest::newRow(name) << QString(removed) << QString(written) << content << errors
-                            << orderShown;
-    };
-    row("no configuration", "_config", "", "",
-        {corrupt + "@/_config/kiv_mat_config.xml [ config.xml ]",
-         "Utworzono plik domy\u015blny  [@/_config/kiv_mat_config.xml]"},
-        true);
-    row("broken configuration", "", "_config/kiv_mat_config.xml", "<kiv_config",
-        {corrupt + "@/_config/kiv_mat_config.xml [ config.xml ]"}, true);
-    row("no schemas: said once", "_validator", "", "",
-        {"@/_validator/", "@/_config/kiv_mat_config.xml", "@/_zp/zp_0.xml"}, false);
-    row("configuration of another root", "", "_config/kiv_mat_config.xml", "<kiv_confix/>",
-        {"@/_config/kiv_mat_config.xml"}, true);
-    row("unreadable database", "", "_files/db_warehouse.xml", "nonsense",
-        {corrupt + "@/_files/db_warehouse.xml [wiersz 1, kolumna 1"}, true);
-    row("database of another kind", "", "_files/db_service.xml",
-        document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd", ""),
-        {corrupt + "@/_files/db_service.xml [plik jest innego rodzaju]"}, true);
-    row("missing firm register", "_files/firms.xml", "", "",
-        {corrupt + "@/_files/firms.xml", "Utworzono plik domy\u015blny  [@/_files/firms.xml]"},
-        true);
-    row("missing order", "_zp/zp_0.xml", "", "", {corrupt + "@/_zp/zp_0.xml"}, false);
-    row("order with an unknown element", "", "_zp/zp_0.xml", testSupport::order("\n<colour/>"),
-        {corrupt + "@/_zp/zp_0.xml [wiersz 3, kolumna"}, false);
-    row("style sheet with errors", "", "style.qss", "QWidget { color: ", {corrupt + "@/style.qss"},
-        true);
-}
-
-void tst_startUp::faults()
-{
-    QFETCH(QString, removed);
-    QFETCH(QString, written);
-    QFETCH(QByteArray, content);
-    QFETCH(QStringList, errors);
-    QFETCH(bool, orderShown);
-    if (!removed.isEmpty())
-        QVERIFY(QFile::remove(m_folder->path(removed))
-                || QDir(m_folder->path(removed)).removeRecursively());
-    if (!written.isEmpty())
-        m_folder->write(written, content);
-    const result seen = start();
-    QCOMPARE(seen.code, 7);
-    QCOMPARE(seen.told["visible"], QString("yes"));
-    QCOMPARE(seen.told["errorsVisible"], QString("yes"));
-    int lines = 0;
-    // Without a database the order's materials are unknown, which is listed behind.
-    const QString faults = seen.told["errors"].section("Materiały nie", 0, 0);
-    for (const QString &line : faults.split(" | ", Qt::SkipEmptyParts))
-        lines += !line.trimmed().isEmpty();
-    for (const QString &error : qAsConst(errors))
-        QVERIFY2(seen.told["errors"].contains(QString(error).replace("@", m_folder->path())),
-                 qPrintable(seen.told["errors"]));
-    QCOMPARE(lines, errors.size());
-    QCOMPARE(seen.told["page"].contains("STM32F103C8T6"), orderShown);
-}
-
-void tst_startUp::corruptFilesStayAsTheyAre()
-{
-    const QStringList files{"_config/kiv_mat_config.xml", "_files/firms.xml", "_zp/zp_0.xml"};
-    for (const QString &file : files)
-        m_folder->write(file, "corrupt");
-    QCOMPARE(start().code, 7);
-    for (const QString &file : files)
-        QCOMPARE(testSupport::read(m_folder->path(file)), QByteArray("corrupt"));
-    m_folder->write(files.first(), "<kiv_confix/>");
-    QCOMPARE(start().code, 7);
-    QCOMPARE(testSupport::read(m_folder->path(files.first())), QByteArray("<kiv_confix/>"));
-}
-
-void tst_startUp::killedWhileEditing()
-{
-    // Nothing is offered after a normal end.
-    QCOMPARE(start().code, 7);
-    QVERIFY(!start(0, "recover").told.contains("question"));
-    QCOMPARE(start(0, "crash").code, -1);
-    QVERIFY(!testSupport::read(m_folder->path("_zp/zp_0.xml")).contains("UNSAVED"));
-    const result seen = start(0, "recover");
-    QVERIFY2(seen.told["question"].contains("zp_0.xml"), qPrintable(seen.told["question"]));
-    QCOMPARE(seen.told["firstName"], QString("UNSAVED"));
-}
-
-void tst_startUp::english()
-{
-    const QString path = m_folder->path("_config/kiv_mat_config.xml");
-    m_folder->write("_config/kiv_mat_config.xml",
-                    testSupport::read(path).replace(
-                        "</options>", "<option editable=\"YES\" type=\"LANGUAGE\" value1=\"en\""
-                                      " value2=\"\" unit=\"\" description=\"\"/></options>"));
-    QCOMPARE(start().told["title"], QString("Order"));
-}
-
-void tst_startUp::settingsAreReadAndWritten()
-{
-    const QString settings = m_folder->path("home/config/VELT/KivZP.conf");
-    QFile::copy(m_folder->path("_zp/zp_0.xml"), m_folder->path("_zp/other.xml"));
-    m_folder->write("home/config/VELT/KivZP.conf",
-                    "[General]\nlastZp=_zp/other.xml\naltiumDir=/altium\n");
-    result seen = start();
-    QVERIFY(seen.told["log"].contains("other.xml"));
+    result start(const QString &task = {}, uint asUser = geteuid()) const
     {
-        const QSettings after(settings, QSettings::IniFormat);
-        QCOMPARE(after.value("lastZp").toString(), QString("_zp/other.xml"));
-        QCOMPARE(after.value("altiumDir").toString(), QString("/altium"));
-        QCOMPARE(after.allKeys().size(), 2);
+        const QString user = QString::number(asUser);
+        const QStringList other{"--reuid=" + user, "--regid=" + user, "--clear-groups", m_folder->path("probe")};
+        const bool own = asUser == geteuid();
+        const ended done = run(own ? m_folder->path("probe") : "setpriv", own ? QStringList() : other,
+                               {"XDG_CONFIG_HOME=" + m_folder->path("home/config"),
+                                "XDG_DATA_HOME=" + m_folder->path("home/data"), "KIVZP_PROBE_TASK=" + task},
+                               m_folder->path());
+        result seen{done.code, {}};
+        for (const QString &line : done.out.split('\n'))
+            seen.told.insert(line.section(": ", 0, 0), line.section(": ", 1));
+        return seen;
     }
-    // A store that can be neither read nor written: the defaults, and the program starts.
-    QVERIFY(QFile::remove(settings));
-    QVERIFY(QDir().mkpath(settings));
-    seen = start();
-    QCOMPARE(seen.code, 7);
-    QVERIFY(seen.told["log"].contains("zp_0.xml"));
-}
-
-// As another user, who may read the program's folder but not write it.
-void tst_startUp::lockedProgramFolder()
-{
-    const uint nobody = geteuid() == 0 ? 65534 : 0;
-    QDir().mkpath(m_folder->path("home"));
-    const auto everybody = QFile::ReadOther | QFile::ExeOther;
-    QVERIFY(QFile::setPermissions(m_folder->path("home"), QFile::Permissions(0x7777)));
-    const auto owner = nobody ? QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
-                              : QFile::ReadOwner | QFile::ExeOwner;
-    QVERIFY(QFile::setPermissions(m_folder->path(), owner | everybody));
-    const result seen = start(nobody);
-    QVERIFY(QFile::setPermissions(m_folder->path(), owner | everybody | QFile::WriteOwner));
-    QCOMPARE(seen.code, 7);
-    const QString own = m_folder->path("home/data/VELT/KivZP");
-    QCOMPARE(seen.told["data"], own);
-    QVERIFY2(seen.told["log"].contains(own + " |"), qPrintable(seen.told["log"]));
-    QVERIFY2(seen.told["log"].contains("db_warehouse.xml"), qPrintable(seen.told["log"]));
-    QVERIFY(seen.told["page"].contains("STM32F103C8T6"));
-    QCOMPARE(seen.told["errors"], QString());
-    QVERIFY(
-        !testSupport::read(m_folder->path("_config/kiv_mat_config.xml")).contains("PATH_BACKUP"));
-}
-
-void tst_startUp::dataFolderKeepsWhatTheUserHas()
-{
-    m_folder->write("own/_zp/zp_0.xml", "mine");
-    const QString own = m_folder->path("own");
-    QCOMPARE(dataFolder::choose(m_folder->path(), own).perUser, false);
-    const dataFolder::choice choice = dataFolder::choose(m_folder->path("none"), own);
-    QVERIFY(choice.perUser);
-    QVERIFY(choice.copied.isEmpty());
-    QCOMPARE(testSupport::read(m_folder->path("own/_zp/zp_0.xml")), QByteArray("mine"));
-}
+};
 
 KIVZP_TEST(tst_startUp)
 #include "tst_startUp.moc"

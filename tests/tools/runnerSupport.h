@@ -1,28 +1,19 @@
-// A program folder whose helpers are scripts, and the output of a runner with what it must not
-// hold.
+// Helpers in a program folder, and the output of their runner.
 #pragma once
 
 #include "testSupport.h"
 
 #include "tools/childRunner.h"
 
+// A program folder whose helpers are scripts, or the ones that ship.
 class helperFolder : public testSupport::programFolder
 {
 public:
-    // A helper under that name.
     QString script(const QString &name, const QByteArray &body) const
     {
-        QString file = write(QStringLiteral("_bin/") + name, "#!/bin/sh\n" + body + "\n");
-        QFile::setPermissions(file, QFile::permissions(file) | QFile::ExeOwner);
-        return file;
+        return programFolder::script(QStringLiteral("_bin/") + name, body);
     }
-
-    // The helpers as they ship.
-    void ship() const
-    {
-        testSupport::copyFolder(testSupport::source(QStringLiteral("_bin")),
-                                path(QStringLiteral("_bin")));
-    }
+    void ship() const { programFolder::ship({QStringLiteral("_bin")}); }
 };
 
 // What a runner logs while the object lives; its bytes are UTF-8 where the helper wrote that.

@@ -34,12 +34,11 @@ void tst_items::kinds()
     QCOMPARE(combo.text(), QString("b"));
     combo.setCurrentIndex(2);
     QCOMPARE(combo.currentIndex(), 0);
-    const myItemComboBox described("key", comboEntries{{"a", "why", {}, {}}, {"b", "", {}, {}}}, 0,
-                                   true);
+    const myItemComboBox described("key", comboEntries{{"a", "why", {}, {}}, {"b", "", {}, {}}}, 0, true);
     QCOMPARE(described.displayText(), QString("a - why"));
     for (int kind = standardKind; kind <= pathEditKind; ++kind) {
-        const std::unique_ptr<myItemStandard> cell(makeCell(
-            {"k", myItem::kind(kind), true, entriesOf(QStringList{"x"}), false, 0, 9}, "x"));
+        const std::unique_ptr<myItemStandard> cell(
+            makeCell({"k", myItem::kind(kind), true, entriesOf(QStringList{"x"}), false, 0, 9}, "x"));
         QCOMPARE(cell->type(), kind);
         QVERIFY(!cell->highlighted && !cell->colourOn);
     }
@@ -82,8 +81,8 @@ void tst_items::textsStayAsRead()
     commandStack stack(nullptr, nullptr);
     recordEdits(&model, &stack);
     QFETCH(int, kind);
-    myItemStandard *cell = makeCell(
-        {"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100}, stored);
+    myItemStandard *cell =
+        makeCell({"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100}, stored);
     model.appendRow(cell);
     QCOMPARE(cell->text(), stored);
     QTEST(displayText(*cell), "shown");
@@ -156,8 +155,7 @@ void tst_items::rowsMadeWhenNeeded()
     QCOMPARE(group->rowCount(), 2);
     QVERIFY(!model.canFetchMore(group->index()));
     QCOMPARE(records.asked, 1);
-    const QAbstractItemModelTester tester(&model,
-                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
 }
 
 void tst_items::sortsByValue()

@@ -43,10 +43,7 @@ private slots:
 
 private:
     QWidget *editor() { return m_view->viewport()->findChild<QWidget *>("editor"); }
-    myItemStandard *cell(int row, int column)
-    {
-        return static_cast<myItemStandard *>(m_model->item(row, column));
-    }
+    myItemStandard *cell(int row, int column) { return static_cast<myItemStandard *>(m_model->item(row, column)); }
 
     std::unique_ptr<commandStack> m_stack;
     std::unique_ptr<myModel> m_model;
@@ -98,15 +95,12 @@ void tst_views::lookingChangesNothing()
 {
     QFETCH(int, kind);
     QFETCH(QString, stored);
-    m_model->setItem(
-        0, 1,
-        makeCell({"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100},
-                 stored));
+    m_model->setItem(0, 1,
+                     makeCell({"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK"}), false, 0, 100}, stored));
     const QModelIndex index = m_model->index(0, 1);
     const auto *delegate = static_cast<myModelDelegate *>(m_view->itemDelegate());
     QStyleOptionViewItem option;
-    const std::unique_ptr<QWidget> opened(
-        delegate->createEditor(m_view->viewport(), option, index));
+    const std::unique_ptr<QWidget> opened(delegate->createEditor(m_view->viewport(), option, index));
     QVERIFY(opened);
     delegate->setEditorData(opened.get(), index);
     delegate->setModelData(opened.get(), m_model.get(), index);
@@ -140,8 +134,7 @@ void tst_views::calendar()
 void tst_views::enterAndEscape()
 {
     QStringList valuesAtEnter;
-    connect(m_view.get(), &myTreeView::keyEnter, this,
-            [&] { valuesAtEnter.append(cell(0, 1)->text()); });
+    connect(m_view.get(), &myTreeView::keyEnter, this, [&] { valuesAtEnter.append(cell(0, 1)->text()); });
     QSignalSpy escapes(m_view.get(), &myTreeView::keyEscape);
     m_view->setCurrentIndex(m_model->index(0, 1));
     QTest::keyClick(m_view.get(), Qt::Key_Return);
@@ -192,8 +185,7 @@ void tst_views::readOnlyAndLocked()
 
 void tst_views::mouseTells()
 {
-    const QSignalSpy clicked(m_view.get(),
-                             qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked));
+    const QSignalSpy clicked(m_view.get(), qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked));
     const QSignalSpy released(m_view.get(), qOverload<QModelIndex>(&myTreeView::release));
     const QPoint place = m_view->visualRect(m_model->index(1, 1)).center();
     QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, place);
@@ -278,8 +270,7 @@ void tst_views::formattedText()
     dialog.findChild<QAction *>("italic")->trigger();
     dialog.findChild<QAction *>("align_center")->trigger();
     const QString html = dialog.html();
-    QVERIFY2(html.contains("<b>") && html.contains("<i>") && html.contains("center"),
-             qPrintable(html));
+    QVERIFY2(html.contains("<b>") && html.contains("<i>") && html.contains("center"), qPrintable(html));
     QVERIFY2(!html.contains("style=") && !html.contains("script"), qPrintable(html));
 }
 

@@ -1,124 +1,193 @@
-// Texts, numbers, dates and colours.
+// Texts, numbers with units, dates, and words in both languages.
 #include "testSupport.h"
 
-#include "util/colours.h"
 #include "util/dates.h"
+#include "util/foldedText.h"
+#include "util/labels.h"
 #include "util/numbers.h"
+#include "util/quantity.h"
 #include "util/text.h"
+#include "util/translation.h"
+
+using namespace testSupport;
 
 class tst_values : public QObject
 {
     Q_OBJECT
 private slots:
-    void texts_data();
-    void texts();
-    void numberChecks_data();
-    void numberChecks();
-    void numberErrorsAreCollected();
-    void monthNames_data();
-    void monthNames();
-    void colourTexts();
+    void cleanup() { translation::install("en"); }
+
+    void texts_data()
+    {
+        using namespace text;
+        const rows<QString, QString> row;
+        row("trailing spaces", trimTrailingSpaces(" a \t  "), " a \t");
+        row("html", htmlToPlain("a&nbsp;<b>b</b><br>c &lt; &#x119;"), "a b\nc < \u0119");
+        row("slashes", normalisePath("a//b///c"), "a/b/c");
+        row("backslashes", normalisePath("\\\\a\\\\\\b/"), "\\a\\b/");
+        row("file name", fileNameOfPath("/x/y/\u017c.tar.gz"), "\u017c.tar.gz");
+        row("line ends", storable("a\r\nb\rc\n"), "a\nb\nc\n");
+        row("control characters", storable(QString("a\u0001\tb\u001f") + QChar(0)), "a\tb");
+        row("not characters", storable(QString("a") + QChar(0xfffe) + QChar(0xffff) + "b"), "ab");
+        const QString pair = QString::fromUcs4(U"\U0001F600", 1);
+        row("pairs stay, halves go", storable(pair + QChar(0xd83d) + "x" + QChar(0xde00)), pair + "x");
+        row("escaped with line ends", toHtml("<a & \"b\">\nc"), "&lt;a &amp; &quot;b&quot;&gt;<br>c");
+        row("month by the compiler", dates::fromMonthNames("Nov  4 2026"), "04.11.2026");
+        row("month in capitals", dates::fromMonthNames("JAN 31 2027"), "31.01.2027");
+        row("any other word is December", dates::fromMonthNames("xyz 1 2026"), "01.12.2026");
+        row("no year", dates::fromMonthNames("apr 2"), "02.04.");
+        row("no date", dates::fromMonthNames(""), "");
+    }
+
+    void texts()
+    {
+        const auto [result, expected] = fetch<QString, QString>();
+        QCOMPARE(result, expected);
+    }
+
+    // The number, or -99 for none.
+    void numberChecks_data()
+    {
+        const rows<double> row;
+        row("0x1F", 31);
+        row("0X1F", -99);
+        row("1F", -99);
+        row("3,14", 3.14);
+        row("3.14", 3.14);
+        row("-2", -2);
+        row("", -99);
+        row("1,2,3", -99);
+        row("5 szt.", -99);
+        row("0x1FFFFFFFF", -99);
+    }
+
+    void numberChecks()
+    {
+        const auto [value] = fetch<double>();
+        QString errors;
+        QCOMPARE(numbers::check(tag(), &errors), value != -99);
+        QCOMPARE(errors, value == -99 ? "&nbsp;" + tag() + "&nbsp;is not a number<br>" : QString());
+        QCOMPARE(numbers::value(tag()), value == -99 ? 0 : value);
+    }
+
+    void storedWordsAreShownInTheLanguage()
+    {
+        QCOMPARE(labels::storedUnits().size(), 15);
+        QCOMPARE(labels::shown("pcs."), QString("pcs."));
+        QCOMPARE(labels::shown("TAK"), QString("YES"));
+        QCOMPARE(labels::signature(), QString(" Signature"));
+        translation::install("pl");
+        // A foreign unit stays, also when it is a text of the catalogue.
+        const QStringList words{"pcs.", "TAK", "YES", "NIE", "Price"};
+        QStringList shown;
+        for (const QString &word : words)
+            shown += labels::shown(word);
+        QCOMPARE(shown, QStringList({"szt.", "TAK", "TAK", "NIE", "Price"}));
+        QCOMPARE(labels::dateFormat(), QString("dd.MM.yyyy"));
+        QCOMPARE(labels::optionCaption("FILE_DB_WAREHOUSE"), QString("Plik bazy danych wearhouse"));
+        QCOMPARE(labels::optionCaption("EDIT_FIRM"), QString("Edycja bazy danych producent\u00f3wi dostawc\u00f3w"));
+    }
+
+    // Grouped by what they mean.
+    void values_data()
+    {
+        const rows<double, int> row;
+        row.each({"4k7", "4K7", "4700"}, 4700, quantity::none);
+        row.each({"4.7 kΩ", "4,7kohm", "4.7 k\u2126", "4k7Ω"}, 4700, quantity::ohm);
+        row.each({"0"}, 0, quantity::none);
+        row.each({"0.5", ".5"}, 0.5, quantity::none);
+        row.each({"2M2"}, 2.2e6, quantity::none);
+        row.each({"2m2"}, 2.2e-3, quantity::none);
+        row.each({"0R1"}, 0.1, quantity::ohm);
+        row.each({"R47"}, 0.47, quantity::ohm);
+        row.each({"47R", "47r"}, 47, quantity::ohm);
+        row.each({"100n"}, 100e-9, quantity::none);
+        row.each({"100 nF", "0.1uf", "0,1µF", "0,1\u03bcF"}, 100e-9, quantity::farad);
+        row.each({"4n7"}, 4.7e-9, quantity::none);
+        row.each({"5p"}, 5e-12, quantity::none);
+        row.each({"10mH"}, 0.01, quantity::henry);
+        row.each({"3V3", "3.3 V"}, 3.3, quantity::volt);
+        row.each({"24VDC"}, 24, quantity::volt);
+        row.each({"-5V"}, -5, quantity::volt);
+        row.each({"10 %", "±10%"}, 10, quantity::percent);
+        row.each({"+/-0.5 %"}, 0.5, quantity::percent);
+        row.each({"350mA"}, 0.35, quantity::ampere);
+        row.each({"1.2Ah"}, 1.2, quantity::ampereHour);
+        row.each({"8MHz", "8 mhz"}, 8e6, quantity::hertz);
+        row.each({"1 250,50"}, 1250.5, quantity::none);
+        row.each({"1\u00a0250,50 zł"}, 1250.5, quantity::zloty);
+        row.each({"12.50 PLN"}, 12.5, quantity::zloty);
+    }
+
+    void values()
+    {
+        const auto [value, unit] = fetch<double, int>();
+        const std::optional<quantity> read = quantity::parse(tag());
+        QVERIFY(read);
+        QVERIFY2(qAbs(read->value - value) <= 1e-12 * qAbs(value), qPrintable(QString::number(read->value)));
+        QCOMPARE(int(read->unit), unit);
+    }
+
+    void noQuantities()
+    {
+        for (const char *text :
+             {"",        " ",     "R",     "k",   "0603", "M3",    "1x3",    "4k7k", "4k7 kΩ", "10mm", "32kB",
+              "74HC595", "BC547", "1.2.3", "1e5", "0x10", "5 V 3", "100pcs", "--5",  "±",      "4..7", "100nF/50V"})
+            QVERIFY2(!quantity::parse(QString::fromUtf8(text)), text);
+        QVERIFY(!quantity::parse(QString(84, '9') + "T9T"));
+    }
+
+    void startOfText_data()
+    {
+        const rows<double> row;
+        row("100nF/50V", 100e-9);
+        row("4k7 1%", 4700.0);
+        row("10k±5%", 10e3);
+        row("100 pcs", 100.0);
+        row("5V", 5.0);
+        row("1x3", 0.0);
+        row("10-pin", 0.0);
+        row("STM32 5V", 0.0);
+    }
+
+    void startOfText()
+    {
+        const auto [value] = fetch<double>();
+        const std::optional<quantity> read = quantity::parseStart(tag());
+        QCOMPARE(read ? read->value : 0.0, value);
+    }
+
+    void comparison()
+    {
+        const auto of = [](const char *text) { return *quantity::parse(QString::fromUtf8(text)); };
+        QCOMPARE(of("100n").compare(of("0.1u")), 0);
+        QCOMPARE(of("0.0000001").compare(of("100nF")), 0);
+        QVERIFY(of("99.9n").compare(of("0.1u")) < 0);
+        QVERIFY(of("12345.68").compare(of("12345.67")) > 0);
+        QVERIFY(of("100n").fits(of("100nF")));
+        QVERIFY(!of("5V").fits(of("5A")));
+    }
+
+    void folding_data()
+    {
+        const rows<QString> row;
+        row("ZAŻÓŁĆ GĘŚLĄ JAŹŃ", "zazolc gesla jazn");
+        row("zaz\u0307o\u0301łc\u0301", "zazolc");
+        row("100 µF 4.7\u2126", "100 uf 4.7ohm");
+        row("Straße Ærø", "strasse aero");
+        row("\t7,5 ×\u00a0\n9 mm²\u2013", " 7,5 x 9 mm2-");
+        row("Ц ж \u6f22", "ц ж \u6f22");
+        row("a\U0001D400b", "aab");
+    }
+
+    void folding()
+    {
+        const auto [folded] = fetch<QString>();
+        QCOMPARE(QString::fromStdString(text::folded(tag())), folded);
+        // Half of a surrogate pair is dropped.
+        QCOMPARE(text::folded("a" + QString(QChar(0xd801)) + "b"), std::string("ab"));
+    }
 };
-
-void tst_values::texts_data()
-{
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<QString>("expected");
-    using namespace text;
-    const auto row = [](const char *name, const QString &result, const QString &expected) {
-        QTest::newRow(name) << result << expected;
-    };
-    row("trailing tabs only", chopTrailingTabs("\ta\tb \t\t"), "\ta\tb ");
-    row("tabs of an empty text", chopTrailingTabs(""), "");
-    row("only tabs", chopTrailingTabs("\t\t"), "");
-    row("leading spaces, not tabs", trimLeadingSpaces("  \t a "), "\t a ");
-    row("trailing spaces", trimTrailingSpaces(" a \t  "), " a \t");
-    row("double spaces", collapseDoubleSpaces("a     b  c d"), "a b c d");
-    row("html", htmlToPlain("a&nbsp;<b>b</b><br>c &lt; &#x119;"), "a b\nc < \u0119");
-    row("slashes", normalisePath("a//b///c"), "a/b/c");
-    row("backslashes", normalisePath("\\\\a\\\\\\b/"), "\\a\\b/");
-    row("file name", fileNameOfPath("/x/y/\u017c.tar.gz"), "\u017c.tar.gz");
-    row("line ends", storable("a\r\nb\rc\n"), "a\nb\nc\n");
-    row("control characters", storable(QString("a\u0001\tb\u001f") + QChar(0)), "a\tb");
-    row("not characters", storable(QString("a") + QChar(0xfffe) + QChar(0xffff) + "b"), "ab");
-    row("pairs stay, halves go",
-        storable(QString::fromUcs4(U"\U0001F600", 1) + QChar(0xd83d) + "x" + QChar(0xde00)),
-        QString::fromUcs4(U"\U0001F600", 1) + "x");
-    row("escaped with line ends", toHtml("<a & \"b\">\nc"), "&lt;a &amp; &quot;b&quot;&gt;<br>c");
-}
-
-void tst_values::texts()
-{
-    QFETCH(QString, result);
-    QTEST(result, "expected");
-}
-
-void tst_values::numberChecks_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isNumber");
-    QTest::addColumn<double>("value");
-    QTest::newRow("hexadecimal") << "0x1F" << true << 31.0;
-    QTest::newRow("hexadecimal prefix is case-sensitive") << "0X1F" << false << 0.0;
-    QTest::newRow("hexadecimal without prefix") << "1F" << false << 0.0;
-    QTest::newRow("comma") << "3,14" << true << 3.14;
-    QTest::newRow("point") << "3.14" << true << 3.14;
-    QTest::newRow("negative") << "-2" << true << -2.0;
-    QTest::newRow("empty") << "" << false << 0.0;
-    QTest::newRow("two commas") << "1,2,3" << false << 0.0;
-    QTest::newRow("unit behind") << "5 szt." << false << 0.0;
-    QTest::newRow("hexadecimal past 32 bits") << "0x1FFFFFFFF" << false << 0.0;
-}
-
-void tst_values::numberChecks()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, isNumber);
-    QCOMPARE(numbers::check(text), isNumber);
-    QTEST(numbers::value(text), "value");
-}
-
-void tst_values::numberErrorsAreCollected()
-{
-    QString errors;
-    QVERIFY(!numbers::check("", &errors));
-    QVERIFY(!numbers::check("1F", &errors));
-    QVERIFY(numbers::check("2,5", &errors));
-    QCOMPARE(errors, QString("&nbsp;&nbsp;is not a number<br>&nbsp;1F&nbsp;is not a number<br>"));
-}
-
-void tst_values::monthNames_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("compiler's form") << "Nov  4 2026"
-                                     << "04.11.2026";
-    QTest::newRow("upper case") << "JAN 31 2027"
-                                << "31.01.2027";
-    QTest::newRow("december falls through") << "dec 24 2026"
-                                            << "24.12.2026";
-    QTest::newRow("any other word too") << "xyz 1 2026"
-                                        << "01.12.2026";
-    QTest::newRow("no year") << "apr 2"
-                             << "02.04.";
-    QTest::newRow("empty") << ""
-                           << "";
-}
-
-void tst_values::monthNames()
-{
-    QFETCH(QString, text);
-    QTEST(dates::fromMonthNames(text), "expected");
-}
-
-void tst_values::colourTexts()
-{
-    QCOMPARE(colours::toRgb("#ff8000"), QString("rgb(255, 128, 0)"));
-    QCOMPARE(colours::toRgb("red"), QString("rgb(127, 0, 0)"));
-    QCOMPARE(colours::fromText("#0A1b2C"), QColor(10, 27, 44));
-    QVERIFY(!colours::fromText("#0A1b2").isValid());
-    QCOMPARE(colours::backgroundAttribute("#FCF7D9"), QString("bgcolor=\"#FCF7D9\""));
-}
 
 KIVZP_TEST(tst_values)
 #include "tst_values.moc"

@@ -16,11 +16,9 @@ struct editedWindow
 
 const editedWindow windows[] = {
     {"order", "", "orderLines@0,1", "orderLines@1,1", "_zp/zp_0.xml", "Ctrl+Q", ""},
-    {"database", "Ctrl+D Return", "materials@0,0", "materials@1,0", "_files/db_warehouse.xml",
-     "Ctrl+W", "Ctrl+E"},
+    {"database", "Ctrl+D Return", "materials@0,0", "materials@1,0", "_files/db_warehouse.xml", "Ctrl+W", "Ctrl+E"},
     {"firms", "#firm", "manufacturers@0,1", "manufacturers@1,1", "_files/firms.xml", "Ctrl+W", ""},
-    {"configuration", "#config", "options@12,1", "options@32,1", "_config/kiv_mat_config.xml",
-     "Ctrl+W", ""},
+    {"configuration", "#config", "options@12,1", "options@32,1", "_config/kiv_mat_config.xml", "Ctrl+W", ""},
     {"BOM lists", "Ctrl+B", "boms@0,0", "boms@0/0,0", "_files/boms.xml", "Ctrl+W", "", "#save"},
     {"BOM list", "Ctrl+B|boms@0/0/0,0 Return", "lines@0,2", "lines@1,2", "", "Ctrl+W", "Ctrl+E"},
 };
@@ -40,8 +38,7 @@ class tst_editWindows : public editingFixture
     QString fileOf(const editedWindow &w)
     {
         return w.file[0] ? path(w.file)
-                         : dynamic_cast<QWidget &>(window()).windowTitle().section('[', 1).section(
-                             ']', 0, 0);
+                         : dynamic_cast<QWidget &>(window()).windowTitle().section('[', 1).section(']', 0, 0);
     }
     // The window opened and unlocked, ready to be worked in.
     const editedWindow &open()
@@ -66,9 +63,8 @@ private slots:
         const editedWindow &w = open();
         const QString file = fileOf(w);
         work(QString("%1 F2 Ctrl+A 'Zażółć 7'").arg(w.cell));
-        const QHash<QString, QString> ends{{"Return", "Return"}, {"Tab", "Tab"},
-                                           {"Escape", "Escape"}, {"elsewhere", w.other},
-                                           {"save", ""},         {"close", ""}};
+        const QHash<QString, QString> ends{{"Return", "Return"},   {"Tab", "Tab"}, {"Escape", "Escape"},
+                                           {"elsewhere", w.other}, {"save", ""},   {"close", ""}};
         if (way == "close")
             work(QString("%1 !Yes").arg(w.close));
         else
