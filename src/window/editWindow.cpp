@@ -168,13 +168,19 @@ void editWindow::commandEdit(bool on)
     claimFile();
     showState();
     if (before != m_locked)
-        tell(m_locked ? tr("Editing is locked") : tr("Editing is allowed"));
+        tell(m_locked ? lockedText() : tr("Editing is allowed"));
+}
+
+QString editWindow::lockedText() const
+{
+    const QString locked = tr("Editing is locked");
+    return mayUnlock() ? locked : locked + QLatin1String(": ") + lockedReason();
 }
 
 bool editWindow::refuseWhileLocked()
 {
     if (m_locked)
-        tell(tr("Editing is locked"));
+        tell(lockedText());
     return m_locked;
 }
 

@@ -209,6 +209,7 @@ private:
     bool settleOtherVersion();
     void claimFile();
     bool mayUnlock() const;
+    QString lockedText() const;
 
     programData &m_known;
     std::unique_ptr<commandStack> m_stack;

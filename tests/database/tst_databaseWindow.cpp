@@ -224,10 +224,10 @@ void tst_databaseWindow::saving()
     // Another program's work is not overwritten without a word.
     saved.groups.front()->name = "written elsewhere";
     QCOMPARE(saveXmlNoEvents(m_folder->path("_files/db_warehouse.xml"), &saved), 0);
-    m_window->commandSave(true);
+    m_window->save();
     QCOMPARE(m_shown->questions.size(), 1);
     m_shown->input = 0;
-    m_window->commandSave(true);
+    m_window->save();
     QCOMPARE(database().groups.front()->name, QString("written elsewhere"));
     QVERIFY(!fileVersions::of(m_folder->path("_files/db_warehouse.xml"), programData::instance().config().backupPath())
                  .isEmpty());
