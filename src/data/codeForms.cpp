@@ -44,7 +44,8 @@ bool isNamed(const xmlNode *node, const char *name)
 // Whether it is that element of the schema language with these attributes and no others.
 bool is(xmlNode *node, const char *name, std::initializer_list<const char *> attributes)
 {
-    if (!node->ns || std::strcmp(reinterpret_cast<const char *>(node->ns->href), schemaNamespace)
+    if (!node->ns
+        || std::strcmp(reinterpret_cast<const char *>(node->ns->href), schemaNamespace) != 0
         || !isNamed(node, name))
         return false;
     size_t count = 0;
@@ -155,7 +156,7 @@ void readForms(const QByteArray &xsd, formSet *set)
         if (!is(element, "element", {"name", "type"}))
             continue;
         if (auto patterns = patternsOf(named(all, "simpleType", attribute(element, "type"))))
-            set->forms.insert(attribute(element, "name"), std::move(patterns));
+            set->forms.insert(attribute(element, "name"), patterns);
     }
 }
 

@@ -232,9 +232,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    if (isModified() && m_document.path().isEmpty())
-        leaveUnsaved();
-    else if (isModified() && !askToLeave(closeQuestion(), closesWithCancel()))
+    if (isModified()
+        && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel())))
         leaveUnsaved();
     else
         m_recovery->discard();
@@ -245,8 +244,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     pendingSysCommands::executeAll();
     pendingSysCommands::destroy();
     m_order->attentions()->document()->setModified(false);
-    setClean();
-    baseWindow::closeEvent(event);
+    stopAsking();
+    editWindow::closeEvent(event);
 }
 
 void MainWindow::commandZpPrint(bool)

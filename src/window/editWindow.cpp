@@ -399,7 +399,7 @@ bool editWindow::discard()
 
 void editWindow::closeAtEnd()
 {
-    m_programEnds = true;
+    stopAsking();
     close();
 }
 

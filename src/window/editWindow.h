@@ -196,7 +196,8 @@ protected:
     const QString &otherUser() const { return m_fileLock.otherUser(); }
     // Title, marks of change, actions.
     void showState();
-    bool programEnds() const { return m_programEnds; }
+    // The program ends: the window closes without a question.
+    void stopAsking() { m_programEnds = true; }
 
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
