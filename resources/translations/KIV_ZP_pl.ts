@@ -2587,10 +2587,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Edycja jest dozwolona</translation>
     </message>
     <message>
-        <source>The file is open elsewhere, too </source>
-        <translation>Plik jest otwarty także gdzie indziej </translation>
-    </message>
-    <message>
         <source>The file %1 is open elsewhere, too: %2. Whoever saves last would replace what the other one saved.</source>
         <translation>Plik %1 jest otwarty także gdzie indziej: %2. Kto zapisze jako ostatni, zastąpi to, co zapisał drugi.</translation>
     </message>

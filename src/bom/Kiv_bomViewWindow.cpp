@@ -70,17 +70,21 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
 
 bool Kiv_bomViewWindow::load()
 {
-    onDisk() = fileState::of(m_path);
+    const fileState state = fileState::of(m_path);
     auto bom = std::make_unique<kiv_mat_bomStruct>();
     QString error;
     m_fault.clear();
     if (!readBom(m_path, bom.get(), &error)) {
+        userPrompts().listError(error);
+        userPrompts().showErrors();
+        // What is shown stays.
+        if (isVisible())
+            return false;
         // Saved over, what the file holds would be lost.
         m_fault = tr("the file cannot be read");
         bom = std::make_unique<kiv_mat_bomStruct>();
-        userPrompts().listError(error);
-        userPrompts().showErrors();
     }
+    onDisk() = state;
     setClean();
     model()->setRecords(nullptr);
     // Its records are looked at until the tree shows the new ones.

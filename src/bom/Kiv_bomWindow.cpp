@@ -395,16 +395,16 @@ bool Kiv_bomWindow::load()
     QHash<QString, int> sets;
     for (const QStandardItem *file : bomTree::allFiles(model()))
         sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
+    auto boms = known().readBoms();
+    userPrompts().showErrors();
+    if (!boms)
+        return false;
     setClean();
     model()->setRecords(nullptr);
     model()->removeRows(0, model()->rowCount());
-    const bool read = known().loadBoms();
+    known().putInUse(std::move(boms));
     showSet(sets);
-    if (!read) {
-        m_saved.clear();
-        setChanged();
-    }
-    return read;
+    return true;
 }
 
 bool Kiv_bomWindow::write(const QString &path)

@@ -7,6 +7,7 @@
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
+#include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
@@ -192,10 +193,17 @@ QString configWindow::forbidden(QLatin1String option) const
 bool configWindow::load()
 {
     auto config = std::make_unique<configStruct>();
-    onDisk() = fileState::of(filePath());
+    const fileState state = fileState::of(filePath());
     const bool read = config->load(filePath());
+    // A window that shows options had their file.
+    const bool again = isVisible();
+    if (!read)
+        userPrompts().listError(messages::failed(messages::fileCorrupted(), filePath()));
+    if (again && (!read || !known().replaceConfiguration(filePath())))
+        return false;
     // Saved over, what the file holds would be lost.
     m_fault = read || !QFileInfo::exists(filePath()) ? QString() : tr("the file cannot be read");
+    onDisk() = state;
     if (!read) {
         config = std::make_unique<configStruct>();
         config->setDefaults();
@@ -217,6 +225,8 @@ bool configWindow::load()
     show(personsPage, *m_personRows, m_edited->persons.items);
     show(targetsPage, *m_targetRows, m_edited->targets.items);
     setUnlocked(true);
+    if (again)
+        emit configChange();
     return read;
 }
 

@@ -213,15 +213,27 @@ std::vector<const kiv_mat_databaseStruct *> programData::databases() const
     return all;
 }
 
-bool programData::loadBoms()
+void programData::loadBoms()
 {
     const QString name = m_config->options.value(optionKey::fileBoms);
-    if (name.isEmpty() || isSwitchedOff(optionKey::loadBoms))
-        return true;
     auto boms = std::make_unique<kiv_mat_bomsStruct>();
-    if (!readInto(*boms, paths::data(name), {}))
-        return false;
+    if (!name.isEmpty() && !isSwitchedOff(optionKey::loadBoms)
+        && readInto(*boms, paths::data(name), {}))
+        putInUse(std::move(boms));
+}
+
+std::unique_ptr<kiv_mat_bomsStruct> programData::readBoms()
+{
+    auto boms = std::make_unique<kiv_mat_bomsStruct>();
+    QString reason;
+    if (readChecked(m_boms->filePath, boms.get(), &reason))
+        return boms;
+    userPrompts().listError(messages::failed(messages::fileCorrupted(), m_boms->filePath, reason));
+    return nullptr;
+}
+
+void programData::putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms)
+{
     m_boms = std::move(boms);
     m_fileOfBoms = fileState::of(m_boms->filePath);
-    return true;
 }

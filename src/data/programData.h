@@ -36,8 +36,11 @@ public:
     void loadConfiguration();
     void loadFirm(const progressFunction &progress = {});
     void loadDatabase(databaseKind kind, const progressFunction &progress = {});
-    // True unless a set is named that cannot be read; then the one before stays.
-    bool loadBoms();
+    void loadBoms();
+    // The set's file as it is now, to be put in use; null, with the fault listed, when it cannot be
+    // read.
+    std::unique_ptr<kiv_mat_bomsStruct> readBoms();
+    void putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms);
     // Reads a loaded database's file again, whatever the options say now. False, with the database
     // as it is, when it cannot be read.
     bool reloadDatabase(databaseKind kind);

@@ -130,6 +130,8 @@ bool Kiv_mat_databaseMergeWindow::open(const QString &path)
     m_other = std::move(other);
     m_comparison = std::move(found);
     showDifferences();
+    raise();
+    activateWindow();
     if (model()->rowCount() == 0)
         userPrompts().showInformation(allMaterialsInDatabase().toHtmlEscaped());
     return true;
@@ -194,19 +196,33 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
     if (selected.empty())
         for (int row = 0; row < model()->rowCount(); ++row)
             selected[model()->item(row)->data(placeRole).toInt()];
+    // The database may have other records by now: the differences are found anew, by the materials
+    // of the other file, which stay.
+    std::map<const materialStruct *, std::set<int>> chosen;
+    for (const auto &[place, fields] : selected)
+        chosen[m_comparison.differences[size_t(place)].other] = fields;
     std::vector<materialDifference> wanted;
-    for (const auto &[place, fields] : selected) {
-        materialDifference difference = m_comparison.differences[size_t(place)];
-        if (!fields.empty() && difference.kind == materialDifference::changed)
-            difference.fields.assign(fields.begin(), fields.end());
+    for (materialDifference &difference :
+         compareDatabases(m_database->rows().database(), *m_other).differences) {
+        const auto found = chosen.find(difference.other);
+        if (!difference.other || found == chosen.end())
+            continue;
+        if (!found->second.empty() && difference.kind == materialDifference::changed)
+            difference.fields.assign(found->second.begin(), found->second.end());
         wanted.push_back(std::move(difference));
     }
     const int count = int(wanted.size());
     m_database->takeOver(wanted, false, tr("Merge"));
-    // What is left of the differences, against the database as it is now.
+    compareAgain();
+    tell(tr("%n material(s) taken over", nullptr, count));
+}
+
+void Kiv_mat_databaseMergeWindow::compareAgain()
+{
+    if (!m_other)
+        return;
     m_comparison = compareDatabases(m_database->rows().database(), *m_other);
     showDifferences();
-    tell(tr("%n material(s) taken over", nullptr, count));
 }
 
 void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)

@@ -24,6 +24,9 @@ public:
     // After the database's lock changed.
     void updateActions() override;
 
+    // After the database was read again.
+    void compareAgain();
+
     myModel *model() { return modelOf(m_view); }
     myTreeView *view() { return m_view; }
 

@@ -362,6 +362,8 @@ bool Kiv_mat_databaseWindow::load()
     const bool read = known().reloadDatabase(m_kind);
     QApplication::restoreOverrideCursor();
     showDatabase();
+    if (m_merge)
+        m_merge->compareAgain();
     if (!read)
         setChanged();
     userPrompts().showErrors();
@@ -370,8 +372,8 @@ bool Kiv_mat_databaseWindow::load()
 
 bool Kiv_mat_databaseWindow::mayClose()
 {
-    finishEditing();
-    return (!m_editor || !m_editor->isVisible() || m_editor->close()) && editWindow::mayClose();
+    return finishEditing() && (!m_editor || !m_editor->isVisible() || m_editor->close())
+           && editWindow::mayClose();
 }
 
 void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)

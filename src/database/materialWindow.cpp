@@ -21,7 +21,6 @@
 #include <QThread>
 #include <QUrl>
 
-
 namespace {
 
 const windowAction<materialWindow> actionTable[] = {

@@ -152,18 +152,26 @@ bool firmWindow::load()
 {
     const QString name = known().config().options.value(optionKey::fileFirm);
     m_path = paths::data(name);
-    onDisk() = fileState::of(m_path);
+    const fileState state = fileState::of(m_path);
     auto firms = std::make_unique<kiv_mat_firmStruct>();
     QString reason;
-    m_fault.clear();
+    QString fault;
+    // A window that shows firms had their file.
+    const bool again = isVisible();
     if (name.isEmpty()) {
-        m_fault = tr("the configuration names no file");
-    } else if (QFileInfo::exists(m_path) && !readChecked(m_path, firms.get(), &reason)) {
+        fault = tr("the configuration names no file");
+    } else if ((again || QFileInfo::exists(m_path)) && !readChecked(m_path, firms.get(), &reason)) {
         // Saved over, what it holds would be lost.
-        m_fault = tr("the file cannot be read");
+        fault = tr("the file cannot be read");
         firms = std::make_unique<kiv_mat_firmStruct>();
         userPrompts().listError(messages::failed(messages::fileCorrupted(), m_path, reason));
     }
+    if (again && !fault.isEmpty())
+        return false;
+    m_fault = fault;
+    onDisk() = state;
+    if (again)
+        known().loadFirm();
     setClean();
     m_renames.clear();
     m_unwritten = {};
@@ -329,6 +337,14 @@ bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &
     for (const nameChange &change : changes)
         known().search().update(change.material);
     return written;
+}
+
+// What could not be done with a database was given up with the window.
+void firmWindow::closed()
+{
+    m_renames.clear();
+    m_unwritten = {};
+    editWindow::closed();
 }
 
 void firmWindow::saved()

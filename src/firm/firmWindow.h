@@ -41,6 +41,7 @@ protected:
     bool load() override;
     bool write(const QString &path) override;
     void saved() override;
+    void closed() override;
     QString fault() const override { return m_fault; }
     QLatin1String editOption() const override;
     QString closeQuestion() const override;

@@ -230,6 +230,7 @@ MainWindow::MainWindow(programData &files)
     loadDataFiles();
     QTimer::singleShot(updateCheckDelayMs, this, &MainWindow::checkUpdate);
     openLastOrder();
+    m_order->linesView()->setFocus();
     splash::setProgress(stages, stages);
     userPrompts().showErrors();
 }

@@ -73,25 +73,24 @@ void MainWindow::leaveUnsaved()
 
 bool MainWindow::closeDocument()
 {
-    finishEditing();
+    if (!finishEditing())
+        return false;
     if (!isModified())
         return true;
     if (m_document.path().isEmpty()) {
         leaveUnsaved();
         return true;
     }
-    if (!askToLeave(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
-                        + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]"),
-                    true))
-        return false;
-    m_recovery->discard();
-    return true;
+    return askToLeave(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
+                          + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]"),
+                      true);
 }
 
 void MainWindow::commandZpNew(bool)
 {
     if (!closeDocument())
         return;
+    m_recovery->discard();
     m_document.startNew();
     userState::instance().lastZp.clear();
     showDocument();
@@ -123,6 +122,8 @@ void MainWindow::fileDropped(const QString &path)
 
 void MainWindow::openFile(const QString &path)
 {
+    // The order before was saved or given up.
+    m_recovery->discard();
     userState::instance().lastZp = m_document.load(path, true) ? path : QString();
     showDocument();
     userPrompts().showErrors();
@@ -130,8 +131,10 @@ void MainWindow::openFile(const QString &path)
 
 void MainWindow::storeRecovery()
 {
-    if (!isModified())
+    if (!isModified()) {
+        m_recovery->discard();
         return;
+    }
     m_order->takeAttentions();
     m_recovery->store(m_document.order(), m_document.path());
 }
@@ -164,8 +167,10 @@ void MainWindow::offerRecovery()
 bool MainWindow::load()
 {
     const bool read = m_document.reload();
-    if (read)
+    if (read) {
+        m_recovery->discard();
         showDocument();
+    }
     return read;
 }
 
@@ -224,7 +229,10 @@ QString MainWindow::closeQuestion() const
 // closes in any case: what could not be saved is offered at the next start.
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    finishEditing();
+    if (!finishEditing()) {
+        event->ignore();
+        return;
+    }
     const std::vector<editWindow *> others = secondaryWindows();
     if (!std::all_of(others.begin(), others.end(), [](editWindow *w) { return w->mayClose(); })) {
         for (editWindow *window : others)

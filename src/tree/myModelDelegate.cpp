@@ -18,8 +18,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QProgressBar>
 #include <QSpinBox>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -536,8 +538,9 @@ void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionVi
     editor->update();
 }
 
-// An action that waits for what is being typed is enabled by the time its key is looked up.
-void myModelDelegate::commitBeforeShortcut(QWidget *editor, QKeyEvent *event)
+// An action that is disabled may wait for what is being typed: it is asked again once that is in.
+// Others take it in themselves.
+void myModelDelegate::enableByCommit(QWidget *editor, QKeyEvent *event)
 {
     // Keys of the editor's own come first.
     event->ignore();
@@ -545,11 +548,19 @@ void myModelDelegate::commitBeforeShortcut(QWidget *editor, QKeyEvent *event)
     if (event->isAccepted())
         return;
     const QKeySequence pressed(event->key() | int(event->modifiers()));
-    const QList<QAction *> actions = editor->window()->findChildren<QAction *>();
-    if (std::any_of(actions.begin(), actions.end(), [&pressed](const QAction *action) {
-            return action->shortcuts().contains(pressed);
-        }))
-        emit commitData(editor);
+    for (QAction *action : editor->window()->findChildren<QAction *>()) {
+        if (action->isEnabled() || !action->shortcuts().contains(pressed))
+            continue;
+        event->accept();
+        // Taking the text may ask the user, which cannot be done while the key is looked up.
+        QTimer::singleShot(0, action, [this, action, taken = QPointer<QWidget>(editor)] {
+            if (taken)
+                emit commitData(taken);
+            if (action->isEnabled())
+                action->trigger();
+        });
+        return;
+    }
 }
 
 bool myModelDelegate::eventFilter(QObject *watched, QEvent *event)
@@ -562,6 +573,6 @@ bool myModelDelegate::eventFilter(QObject *watched, QEvent *event)
     auto *editor = qobject_cast<QWidget *>(watched);
     if (!editor || event->type() != QEvent::ShortcutOverride)
         return false;
-    commitBeforeShortcut(editor, static_cast<QKeyEvent *>(event));
+    enableByCommit(editor, static_cast<QKeyEvent *>(event));
     return event->isAccepted();
 }

@@ -42,7 +42,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void commitBeforeShortcut(QWidget *editor, class QKeyEvent *event);
+    void enableByCommit(QWidget *editor, class QKeyEvent *event);
     QWidget *makeEditor(QWidget *parent, const myItem::myItemStandard &item) const;
     void closeWith(class QDialog *dialog) const;
     void paintBar(QPainter *painter, const QStyleOptionViewItem &option,

@@ -55,14 +55,14 @@ protected:
             if (QAction *made = addAction(entry.row))
                 connect(made, entry.row.checkable ? &QAction::toggled : &QAction::triggered, this,
                         [this, slot = entry.slot](bool on) {
-                            beforeAction();
-                            (static_cast<Window *>(this)->*slot)(on);
+                            if (beforeAction())
+                                (static_cast<Window *>(this)->*slot)(on);
                         });
         giveMnemonics();
     }
 
-    // Called before a menu opens and before the slot of any action.
-    virtual void beforeAction() {}
+    // Called before a menu opens and before the slot of any action, which false keeps from running.
+    virtual bool beforeAction() { return true; }
 
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;

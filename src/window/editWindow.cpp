@@ -4,7 +4,6 @@
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "tree/myTreeView.h"
-#include "util/messages.h"
 #include "util/prompts.h"
 
 #include <QAction>
@@ -76,6 +75,7 @@ myTreeView *editWindow::addView(const QString &accessibleName, const char *name,
 void editWindow::watchView(myTreeView *view)
 {
     connect(modelOf(view), &myModel::sorted, this, &editWindow::clearCommands);
+    connect(modelOf(view), &myModel::refused, this, [this] { m_refused = true; });
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { updateActions(); });
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -122,10 +122,12 @@ void editWindow::showState()
 
 void editWindow::tell(const QString &text) { statusBar()->showMessage(text); }
 
-void editWindow::finishEditing()
+bool editWindow::finishEditing()
 {
+    m_refused = false;
     for (myTreeView *view : m_views)
         view->finishEditing();
+    return !m_refused;
 }
 
 // --- Lock
@@ -191,19 +193,14 @@ void editWindow::allowWhenUnlocked(std::initializer_list<const char *> names, bo
         setAvailable(name, !m_locked && otherwise, m_locked ? lockedReason() : whyNot);
 }
 
-// Who only reads claims nothing.
+// Who only reads claims nothing, nor does a window that is not shown.
 void editWindow::claimFile()
 {
     const QString before = m_fileLock.otherUser();
-    m_fileLock.claim(m_locked ? QString() : filePath());
+    m_fileLock.claim(m_locked || !isVisible() ? QString() : filePath());
     const QString &other = m_fileLock.otherUser();
     if (other.isEmpty() || other == before)
         return;
-    if (!isVisible()) {
-        userPrompts().listError(
-            messages::failed(tr("The file is open elsewhere, too "), filePath(), other));
-        return;
-    }
     userPrompts().showInformation(
         tr("The file %1 is open elsewhere, too: %2. Whoever saves last would replace what the "
            "other one saved.")
@@ -325,7 +322,8 @@ bool editWindow::settleOtherVersion()
 
 bool editWindow::saveTo(const QString &path)
 {
-    finishEditing();
+    if (!finishEditing())
+        return false;
     if (!fault().isEmpty()) {
         tell(fault());
         return false;
@@ -345,7 +343,8 @@ bool editWindow::save() { return saveTo(filePath()); }
 
 void editWindow::commandSave(bool)
 {
-    finishEditing();
+    if (!finishEditing())
+        return;
     if (isModified() || !fault().isEmpty())
         save();
     else
@@ -366,9 +365,17 @@ void editWindow::showNow()
     if (!view->currentIndex().isValid())
         view->selectionModel()->setCurrentIndex(view->model()->index(0, 0),
                                                 QItemSelectionModel::NoUpdate);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
+}
+
+void editWindow::showEvent(QShowEvent *event)
+{
+    baseWindow::showEvent(event);
+    // Who else has the file is told over the window.
+    QTimer::singleShot(0, this, &editWindow::claimFile);
 }
 
 bool editWindow::askToLeave(const QString &question, bool withCancel)
@@ -387,8 +394,8 @@ bool editWindow::askToLeave(const QString &question, bool withCancel)
 
 bool editWindow::mayClose()
 {
-    finishEditing();
-    return m_givenUp || !isModified() || askToLeave(closeQuestion(), closesWithCancel());
+    return finishEditing()
+           && (m_givenUp || !isModified() || askToLeave(closeQuestion(), closesWithCancel()));
 }
 
 bool editWindow::discard()

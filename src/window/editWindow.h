@@ -173,8 +173,8 @@ protected:
 
     // --- What it does with it ---
 
-    // Takes what stands in open editors.
-    void finishEditing();
+    // Takes what stands in open editors. False when a text was refused, which the user is told.
+    bool finishEditing();
     // One step, already applied; null is none.
     void push(std::unique_ptr<command> change, const QString &what);
     // The document is as its file has it, and the history empty.
@@ -202,7 +202,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
-    void beforeAction() override { finishEditing(); }
+    void showEvent(QShowEvent *event) override;
+    bool beforeAction() override { return finishEditing(); }
 
 private:
     void followHistory();
@@ -222,6 +223,7 @@ private:
     QTimer *m_storing;
     QString m_wanted; // what is searched
     bool m_locked = false;
+    bool m_refused = false; // what was typed last
     bool m_givenUp = false;
     bool m_programEnds = false;
 };
