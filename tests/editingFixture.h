@@ -36,11 +36,16 @@ protected:
         for (const QString &part : parts) {
             work(part);
             if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
-                opened && opened != m_front) {
-                m_front = opened;
-                m_hands = std::make_unique<hands>(*opened);
-            }
+                opened && opened != m_front)
+                turnTo(*opened);
         }
+    }
+
+    // Works in a window that is open already from here on.
+    void turnTo(QMainWindow &opened)
+    {
+        m_front = &opened;
+        m_hands = std::make_unique<hands>(opened);
     }
 
     // Called before the main window is made: other files, other options.

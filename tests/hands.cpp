@@ -7,12 +7,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTimer>
 #include <QTreeView>
 #include <QWindow>
@@ -35,10 +37,12 @@ QWidget *front()
 
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
-    QWindow *window = QGuiApplication::focusWindow();
+    QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (QWidget *popup = QApplication::activePopupWidget())
         window = popup->windowHandle();
-    QTest::keyClick(window, Qt::Key(key), modifiers);
+    QTest::keyPress(window.data(), Qt::Key(key), modifiers);
+    if (window)
+        QTest::keyRelease(window.data(), Qt::Key(key), modifiers);
 }
 
 // Steps are parted by blanks, but for those within apostrophes.
@@ -137,6 +141,13 @@ void hands::next()
         m_running = false;
         return;
     }
+    // What a window manager does when a box has closed.
+    if (!front() && m_window.isVisible() && !std::exchange(m_isRaised, true)) {
+        m_window.activateWindow();
+        QTimer::singleShot(pauseMs, qApp, [this] { next(); });
+        return;
+    }
+    m_isRaised = false;
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))
@@ -183,7 +194,7 @@ QString hands::perform(const QString &step)
         return {};
     }
     if (step.startsWith('#'))
-        return choose(step.mid(1));
+        return choose(QString(step).remove(QRegularExpression("^#-?")), step.startsWith("#-"));
     if (step.startsWith('!')) {
         const QString name = step.mid(1).replace('_', ' ');
         for (auto *widget : front()->findChildren<QWidget *>()) {
@@ -197,6 +208,12 @@ QString hands::perform(const QString &step)
             QTest::mouseClick(widget, Qt::LeftButton);
             return {};
         }
+        for (auto *bar : front()->findChildren<QTabBar *>())
+            for (int tab = 0; tab < bar->count(); ++tab)
+                if (bar->isVisible() && bar->tabText(tab).remove('&') == name) {
+                    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+                    return {};
+                }
         return "there is no such widget";
     }
     if (step.contains('@'))
@@ -210,7 +227,7 @@ QString hands::perform(const QString &step)
 }
 
 // Opens the menu by its letter and takes the entry by its own; where entries have none, by arrows.
-QString hands::choose(const QString &name)
+QString hands::choose(const QString &name, bool mayBeDisabled)
 {
     auto *context = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QAction *action = front()->findChild<QAction *>(name);
@@ -229,11 +246,16 @@ QString hands::choose(const QString &name)
         if (QApplication::activePopupWidget() != menu)
             return "its menu does not open";
     }
-    if (!action->isEnabled()) {
-        menu->close();
-        return "it is disabled: " + action->toolTip();
-    }
     const QChar letter = mnemonicOf(action->text());
+    if (!action->isEnabled()) {
+        if (!letter.isNull())
+            QTest::keyClick(menu, Qt::Key(letter.unicode()));
+        menu->close();
+        const QString fault = "it is disabled: " + action->toolTip();
+        if (mayBeDisabled)
+            m_boxes.append(fault);
+        return mayBeDisabled ? QString() : fault;
+    }
     if (!letter.isNull() && menu != context) {
         QTest::keyClick(menu, Qt::Key(letter.unicode()));
         return {};
@@ -248,13 +270,21 @@ QString hands::choose(const QString &name)
 
 QString hands::clickCell(const QString &step)
 {
-    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@)([\\d/]+),(\\d+)$");
+    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@\\^|@)(?:([\\d/]+),)?(\\d+)$");
     const auto match = form.match(step);
     if (!match.hasMatch())
         return "no such step";
     QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
     if (!view || !view->isVisible())
         return "there is no such tree in front";
+    if (match.captured(3) == "@^") {
+        const QHeaderView *header = view->header();
+        const int left = header->sectionViewportPosition(match.captured(5).toInt());
+        constexpr int inside = 8;
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          {left + inside, header->height() / 2});
+        return {};
+    }
     QModelIndex index;
     const QStringList rows = match.captured(4).split('/');
     for (const QString &row : rows) {
