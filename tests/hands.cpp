@@ -24,6 +24,7 @@ namespace {
 constexpr int pauseMs = 15;
 constexpr int guardMs = 200;
 constexpr int mostMs = 15000;
+constexpr int mostWaits = 100;
 
 // The window that takes keys now.
 QWidget *front()
@@ -35,11 +36,16 @@ QWidget *front()
     return QApplication::activeWindow();
 }
 
+// While a list pops up below an editor no window has the focus.
+QWindow *keyWindow()
+{
+    QWindow *focus = QApplication::activePopupWidget() ? nullptr : QGuiApplication::focusWindow();
+    return focus || !front() ? focus : front()->windowHandle();
+}
+
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
-    QPointer<QWindow> window = QGuiApplication::focusWindow();
-    if (QWidget *popup = QApplication::activePopupWidget())
-        window = popup->windowHandle();
+    const QPointer<QWindow> window = keyWindow();
     QTest::keyPress(window.data(), Qt::Key(key), modifiers);
     if (window)
         QTest::keyRelease(window.data(), Qt::Key(key), modifiers);
@@ -141,13 +147,20 @@ void hands::next()
         m_running = false;
         return;
     }
-    // What a window manager does when a box has closed.
-    if (!front() && m_window.isVisible() && !std::exchange(m_isRaised, true)) {
-        m_window.activateWindow();
+    // A box takes keys a moment after it was opened; once it has closed, a window manager gives
+    // them to the window before.
+    QWidget *window = front();
+    const bool takesKeys = QApplication::activePopupWidget()
+                           || (window && window->windowHandle() == QGuiApplication::focusWindow());
+    if (!takesKeys && ++m_waits < mostWaits) {
+        if (!window && m_window.isVisible())
+            window = &m_window;
+        if (window)
+            window->activateWindow();
         QTimer::singleShot(pauseMs, qApp, [this] { next(); });
         return;
     }
-    m_isRaised = false;
+    m_waits = 0;
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))
@@ -168,7 +181,7 @@ void hands::noteBox()
     if (const auto *message = qobject_cast<QMessageBox *>(box))
         m_boxes.append(message->windowTitle() + ": "
                        + text::htmlToPlain(message->text()).simplified());
-    else if (box)
+    else if (box && !qobject_cast<QMainWindow *>(box))
         m_boxes.append(box->windowTitle());
 }
 
@@ -189,8 +202,7 @@ QString hands::perform(const QString &step)
     if (step.startsWith('\'')) {
         const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
         for (const QChar letter : typed)
-            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown,
-                                QString(letter), {});
+            QTest::sendKeyEvent(QTest::Click, keyWindow(), Qt::Key_unknown, QString(letter), {});
         return {};
     }
     if (step.startsWith('#'))

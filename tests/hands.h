@@ -69,5 +69,5 @@ private:
     QWidget *m_lastBox = nullptr;
     QString m_fault;
     bool m_running = false;
-    bool m_isRaised = false;
+    int m_waits = 0; // since a window took keys last
 };

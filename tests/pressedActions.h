@@ -71,11 +71,11 @@ protected:
     QString seenNow()
     {
         QStringList lines = boxes();
-        const QWidget *front = QApplication::activeWindow();
         lines << status() << look() << seen().listed << seen().logged << std::exchange(m_opened, {})
-              << "clipboard " + QGuiApplication::clipboard()->text()
-              << (window().isVisible() ? "in front " + (front ? front->windowTitle() : QString())
-                                       : QString("closed"));
+              << "clipboard " + QGuiApplication::clipboard()->text();
+        for (const QMainWindow *shown : shownWindows())
+            lines << "shown " + shown->windowTitle();
+        lines << (window().isVisible() ? "" : "closed");
         saveAll();
         lines << "saving " + boxes().join(' ') << differences();
         return lines.join('\n');

@@ -7,6 +7,28 @@
 
 using namespace firmOperations;
 
+const std::vector<pressedAction> actions = {
+    {"save", "F2 Ctrl+A 'Nowa' Return #save",
+     "Save file <b>firms.xml</b> [|+<fullname>Nowa|-<fullname>Abracon LLC"},
+    {"close", "#close", "closed"},
+    {"edit", "#edit", "Editing is "},
+    {"undo", "F2 Ctrl+A 'Nowa' Return #undo", "Undone: |at Abracon LLC", true},
+    {"redo", "F2 Ctrl+A 'Nowa' Return Ctrl+Z #redo", "Done again: |+<fullname>Nowa", true},
+    {"copyCells", "#copyCells", "1 cell copied|clipboard Abracon LLC"},
+    {"pasteCells", "manufacturers@2,1 Ctrl+C manufacturers@0,1 #pasteCells",
+     "1 cell pasted|+<fullname>Allegro MicroSystems, Inc.", true},
+    {"find", "#find 'semicond' Return", "Found in line 4|at Alpha & Omega"},
+    {"find, nothing", "#find 'in no firm' Return", "No line holds in no firm|at Abracon LLC"},
+    {"findNext", "Ctrl+F 'semicond' Return #findNext", "Found in line 4|Limited"},
+    {"add", "#add", "rows 60|+<name>FIRM</name>|+<fullname>FIRM SA", true},
+    {"add, supplier", "!Suppliers #add", "rows 12|+<name>FIRM</name>", true},
+    {"add, context menu", "manufacturers@?0,1 #add", "+<name>FIRM</name>", true},
+    {"delete", "Ins manufacturers@59,0 #delete", "1 firm deleted|rows 59", true},
+    {"delete, used", "#delete Escape", "Error: Materials use|Abracon: |<b>Abracon</b>: |rows 59",
+     true},
+    {"homePage", "#homePage", "opened https://abracon.com"},
+};
+
 class tst_firmWindow : public actionFixture
 {
     Q_OBJECT
@@ -40,32 +62,7 @@ class tst_firmWindow : public actionFixture
     }
     std::vector<pressedWindow> windows() override
     {
-        return {{"firms",
-                 "#firm|manufacturers@0,1",
-                 "Ctrl+E",
-                 {
-                     {"save", "F2 Ctrl+A 'Nowa' Return #save",
-                      "Save file <b>firms.xml</b> [|+<fullname>Nowa|-<fullname>Abracon LLC"},
-                     {"close", "#close", "closed"},
-                     {"edit", "#edit", "Editing is "},
-                     {"undo", "F2 Ctrl+A 'Nowa' Return #undo", "Undone: |at Abracon LLC", true},
-                     {"redo", "F2 Ctrl+A 'Nowa' Return Ctrl+Z #redo",
-                      "Done again: |+<fullname>Nowa", true},
-                     {"copyCells", "#copyCells", "1 cell copied|clipboard Abracon LLC"},
-                     {"pasteCells", "manufacturers@2,1 Ctrl+C manufacturers@0,1 #pasteCells",
-                      "1 cell pasted|+<fullname>Allegro MicroSystems, Inc.", true},
-                     {"find", "#find 'semicond' Return", "Found in line 4|at Alpha & Omega"},
-                     {"find, nothing", "#find 'in no firm' Return",
-                      "No line holds in no firm|at Abracon LLC"},
-                     {"findNext", "Ctrl+F 'semicond' Return #findNext", "Found in line 4|Limited"},
-                     {"add", "#add", "rows 60|+<name>FIRM</name>|+<fullname>FIRM SA", true},
-                     {"add, supplier", "!Suppliers #add", "rows 12|+<name>FIRM</name>", true},
-                     {"add, context menu", "manufacturers@?0,1 #add", "+<name>FIRM</name>", true},
-                     {"delete", "Ins manufacturers@59,0 #delete", "1 firm deleted|rows 59", true},
-                     {"delete, used", "#delete Escape",
-                      "Error: Materials use|Abracon: |<b>Abracon</b>: |rows 59", true},
-                     {"homePage", "#homePage", "opened https://abracon.com"},
-                 }}};
+        return {{"firms", "#firm|manufacturers@0,1", "Ctrl+E", actions}};
     }
 
 private slots:
