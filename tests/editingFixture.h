@@ -34,12 +34,30 @@ protected:
     {
         const QStringList parts = steps.split('|');
         for (const QString &part : parts) {
+            const QList<QMainWindow *> before = shownWindows();
             work(part);
-            if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow()); opened && opened != m_front) {
-                m_front = opened;
-                m_hands = std::make_unique<hands>(*opened);
-            }
+            auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
+            for (QMainWindow *shown : shownWindows())
+                if (!before.contains(shown))
+                    opened = shown;
+            if (opened && opened != m_front)
+                turnTo(*opened);
         }
+    }
+    static QList<QMainWindow *> shownWindows()
+    {
+        QList<QMainWindow *> shown;
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *opened = qobject_cast<QMainWindow *>(widget); opened && opened->isVisible())
+                shown.append(opened);
+        return shown;
+    }
+
+    // Works in a window that is open already from here on.
+    void turnTo(QMainWindow &opened)
+    {
+        m_front = &opened;
+        m_hands = std::make_unique<hands>(opened);
     }
 
     // Called before the main window is made: other files, other options.

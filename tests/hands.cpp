@@ -7,12 +7,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTimer>
 #include <QTreeView>
 #include <QWindow>
@@ -21,8 +23,8 @@ namespace {
 
 constexpr int pauseMs = 15;
 constexpr int guardMs = 200;
-constexpr int mostPatience = 100;
 constexpr int mostMs = 15000;
+constexpr int mostWaits = 100;
 
 // The window that takes keys now.
 QWidget *front()
@@ -34,12 +36,19 @@ QWidget *front()
     return QApplication::activeWindow();
 }
 
+// While a list pops up below an editor no window has the focus.
+QWindow *keyWindow()
+{
+    QWindow *focus = QApplication::activePopupWidget() ? nullptr : QGuiApplication::focusWindow();
+    return focus || !front() ? focus : front()->windowHandle();
+}
+
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
-    QWindow *window = QGuiApplication::focusWindow();
-    if (QWidget *popup = QApplication::activePopupWidget())
-        window = popup->windowHandle();
-    QTest::keyClick(window, Qt::Key(key), modifiers);
+    const QPointer<QWindow> window = keyWindow();
+    QTest::keyPress(window.data(), Qt::Key(key), modifiers);
+    if (window)
+        QTest::keyRelease(window.data(), Qt::Key(key), modifiers);
 }
 
 // Steps are parted by blanks, but for those within apostrophes.
@@ -138,13 +147,20 @@ void hands::next()
         m_running = false;
         return;
     }
-    // A window manager would bring the window behind a closed one to the front.
-    if (!front() && m_patience-- > 0) {
-        m_window.activateWindow();
+    // A box takes keys a moment after it was opened; once it has closed, a window manager gives
+    // them to the window before.
+    QWidget *window = front();
+    const bool takesKeys =
+        QApplication::activePopupWidget() || (window && window->windowHandle() == QGuiApplication::focusWindow());
+    if (!takesKeys && ++m_waits < mostWaits) {
+        if (!window && m_window.isVisible())
+            window = &m_window;
+        if (window)
+            window->activateWindow();
         QTimer::singleShot(pauseMs, qApp, [this] { next(); });
         return;
     }
-    m_patience = mostPatience;
+    m_waits = 0;
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))
@@ -164,7 +180,7 @@ void hands::noteBox()
     m_lastBox = box;
     if (const auto *message = qobject_cast<QMessageBox *>(box))
         m_boxes.append(message->windowTitle() + ": " + text::htmlToPlain(message->text()).simplified());
-    else if (box)
+    else if (box && !qobject_cast<QMainWindow *>(box))
         m_boxes.append(box->windowTitle());
 }
 
@@ -185,11 +201,11 @@ QString hands::perform(const QString &step)
     if (step.startsWith('\'')) {
         const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
         for (const QChar letter : typed)
-            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown, QString(letter), {});
+            QTest::sendKeyEvent(QTest::Click, keyWindow(), Qt::Key_unknown, QString(letter), {});
         return {};
     }
     if (step.startsWith('#'))
-        return choose(step.mid(1));
+        return choose(QString(step).remove(QRegularExpression("^#-?")), step.startsWith("#-"));
     if (step.startsWith('!')) {
         const QString name = step.mid(1).replace('_', ' ');
         for (auto *widget : front()->findChildren<QWidget *>()) {
@@ -202,6 +218,12 @@ QString hands::perform(const QString &step)
                               widget->mapTo(widget->window(), widget->rect().center()));
             return {};
         }
+        for (auto *bar : front()->findChildren<QTabBar *>())
+            for (int tab = 0; tab < bar->count(); ++tab)
+                if (bar->isVisible() && bar->tabText(tab).remove('&') == name) {
+                    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+                    return {};
+                }
         return "there is no such widget";
     }
     if (step.contains('@'))
@@ -215,7 +237,7 @@ QString hands::perform(const QString &step)
 }
 
 // Opens the menu by its letter and takes the entry by its own; where entries have none, by arrows.
-QString hands::choose(const QString &name)
+QString hands::choose(const QString &name, bool mayBeDisabled)
 {
     auto *context = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QAction *action = front()->findChild<QAction *>(name);
@@ -234,11 +256,16 @@ QString hands::choose(const QString &name)
         if (QApplication::activePopupWidget() != menu)
             return "its menu does not open";
     }
-    if (!action->isEnabled()) {
-        menu->close();
-        return "it is disabled: " + action->toolTip();
-    }
     const QChar letter = mnemonicOf(action->text());
+    if (!action->isEnabled()) {
+        if (!letter.isNull())
+            QTest::keyClick(menu, Qt::Key(letter.unicode()));
+        menu->close();
+        const QString fault = "it is disabled: " + action->toolTip();
+        if (mayBeDisabled)
+            m_boxes.append(fault);
+        return mayBeDisabled ? QString() : fault;
+    }
     if (!letter.isNull() && menu != context) {
         QTest::keyClick(menu, Qt::Key(letter.unicode()));
         return {};
@@ -253,13 +280,20 @@ QString hands::choose(const QString &name)
 
 QString hands::clickCell(const QString &step)
 {
-    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@)([\\d/]+),(\\d+)$");
+    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@\\^|@)(?:([\\d/]+),)?(\\d+)$");
     const auto match = form.match(step);
     if (!match.hasMatch())
         return "no such step";
     QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
     if (!view || !view->isVisible())
         return "there is no such tree in front";
+    if (match.captured(3) == "@^") {
+        const QHeaderView *header = view->header();
+        const int left = header->sectionViewportPosition(match.captured(5).toInt());
+        constexpr int inside = 8;
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {left + inside, header->height() / 2});
+        return {};
+    }
     QModelIndex index;
     const QStringList rows = match.captured(4).split('/');
     for (const QString &row : rows) {

@@ -40,10 +40,13 @@ public:
     //                           row, logical column; lines@1/3,5 is row 3 below row 1
     //   lines@?3,5              the same with the right button
     //   +lines@3,5              a click with Ctrl
+    //   lines@^5                a click on the header of a column
     //   #name                   chooses the action of that object name from its menu, or from the
     //                           context menu that is open
-    //   !name                   a click on the widget of that object name, or on the button of that
-    //                           text
+    //   #-name                  the same, where it may be disabled: what its tool tip says is noted
+    //                           as a box that came up
+    //   !name                   a click on the widget of that object name, or on the button or tab
+    //                           of that text
     //   ~200                    waits so many milliseconds
     // Fails the test, telling the step, when one cannot be done or boxes are left at the end.
     void operator()(const QString &steps);
@@ -56,7 +59,7 @@ public:
 private:
     void next();
     QString perform(const QString &step);
-    QString choose(const QString &name);
+    QString choose(const QString &name, bool mayBeDisabled);
     QString clickCell(const QString &step);
     void noteBox();
 
@@ -65,6 +68,6 @@ private:
     QStringList m_boxes;
     QWidget *m_lastBox = nullptr;
     QString m_fault;
-    int m_patience = 0;
     bool m_running = false;
+    int m_waits = 0; // since a window took keys last
 };

@@ -562,6 +562,18 @@
         <source>Firms renamed</source>
         <translation>Zmieniono nazwy firm</translation>
     </message>
+    <message>
+        <source>Xlsx File</source>
+        <translation>Plik XLSX</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>Zapisano %1</translation>
+    </message>
+    <message>
+        <source>SQLITE File</source>
+        <translation>Plik SQLite</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -92,8 +92,11 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
      &Kiv_mat_databaseWindow::commandFind},
 
     {{"expand", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Expand"),
-      "action_expand", nullptr, QT_TRANSLATE_NOOP("actions", "Open all groups"), true},
+      "action_expand", nullptr, QT_TRANSLATE_NOOP("actions", "Open all groups")},
      &Kiv_mat_databaseWindow::commandExpand},
+    {{"expand2", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "action_expand", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Open all groups"), true},
+     &Kiv_mat_databaseWindow::commandExpand2},
     {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Close all groups"), true},
      &Kiv_mat_databaseWindow::commandCollaps},
@@ -158,10 +161,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandCPVIndexWWW},
 
-    // Without a menu: of the context menu and the tool bar only.
-    {{"expand2", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "action_expand", nullptr,
-      nullptr},
-     &Kiv_mat_databaseWindow::commandExpand2},
+    // Without a menu: of the context menu only.
     {{"openLink", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
      &Kiv_mat_databaseWindow::commandOpenLink},

@@ -286,8 +286,10 @@ QString libraryPath(const QString &path)
 QString proposedExportPath(const QString &databasePath, const QString &folder,
                            const QString &ending)
 {
-    const QString name = QFileInfo(databasePath).fileName();
-    return folder + QLatin1Char('/') + withEnding(name, {QStringLiteral(".xml")}, ending);
+    const QFileInfo database(databasePath);
+    const QString name = database.fileName();
+    return (QFileInfo(folder).isDir() ? folder : database.absolutePath()) + QLatin1Char('/')
+           + withEnding(name, {QStringLiteral(".xml")}, ending);
 }
 
 exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QString &path,

@@ -31,6 +31,6 @@ QString scriptPath(const QString &path);
 QString libraryPath(const QString &path);
 
 // The file to propose for an export: the database's file name with ending (".xlsx" or ".sqlite") in
-// place of ".xml", in the folder.
+// place of ".xml", in the folder, or beside the database when there is no such folder.
 QString proposedExportPath(const QString &databasePath, const QString &folder,
                            const QString &ending);

@@ -30,6 +30,11 @@
 
 namespace {
 
+QString xlsxFilter()
+{
+    return Kiv_mat_databaseWindow::tr("Xlsx File") + QLatin1String(" (*.xlsx)");
+}
+
 QString xmlFilter() { return Kiv_mat_databaseWindow::tr("Xml File") + QLatin1String(" (*.xml)"); }
 
 // Many texts of records as one step; rows that are made follow.
@@ -122,8 +127,11 @@ void Kiv_mat_databaseWindow::tellExport(const exportResult &result)
     for (const QString &file : result.files)
         userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(file), file));
     list({}, result.notes);
-    tell(tr("%n material(s) written to %1", nullptr, result.materials)
-             .arg(QDir::toNativeSeparators(result.files.value(0))));
+    // Lists of groups and of links count no materials.
+    const QString form = result.materials > 0
+                             ? tr("%n material(s) written to %1", nullptr, result.materials)
+                             : tr("%1 written");
+    tell(form.arg(QDir::toNativeSeparators(result.files.value(0))));
 }
 
 // --- Reports and exports
@@ -166,7 +174,7 @@ void Kiv_mat_databaseWindow::commandAltiumXlsx(bool)
                                     proposedExportPath(m_rows->database().filePath,
                                                        userState::instance().altiumDir,
                                                        QStringLiteral(".xlsx")),
-                                    QStringLiteral("Xlsx (*.xlsx)")),
+                                    xlsxFilter()),
              exportAltiumXlsx);
 }
 
@@ -176,7 +184,7 @@ void Kiv_mat_databaseWindow::commandAltiumSQLite(bool)
                                     proposedExportPath(m_rows->database().filePath,
                                                        userState::instance().altiumDir,
                                                        QStringLiteral(".sqlite")),
-                                    QStringLiteral("SQLite (*.sqlite)")),
+                                    tr("SQLITE File") + QLatin1String(" (*.sqlite)")),
              exportAltiumSqlite);
 }
 
@@ -185,7 +193,7 @@ void Kiv_mat_databaseWindow::commandGroups(bool)
     exportTo(userPrompts().saveFile(tr("Save to File"),
                                     QFileInfo(m_rows->database().filePath).absolutePath()
                                         + QLatin1String("/groups.xlsx"),
-                                    QStringLiteral("Xlsx (*.xlsx)")),
+                                    xlsxFilter()),
              exportGroups);
 }
 
@@ -233,7 +241,7 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
     const QString path = userPrompts().saveFile(
         tr("Save to File"),
         QFileInfo(m_rows->database().filePath).absolutePath() + QLatin1String("/links.xlsx"),
-        QStringLiteral("Xlsx (*.xlsx)"));
+        xlsxFilter());
     if (!path.isEmpty())
         tellExport(exportLinks(checked, path));
 }

@@ -86,6 +86,10 @@ bool workProgress::tell(long long done, long long total)
 
 bool workProgress::eventFilter(QObject *watched, QEvent *event)
 {
+    // What asks in the middle of the work is answered.
+    const QWidget *asking = QApplication::activeModalWidget();
+    if (asking && asking != m_bar->window())
+        return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)

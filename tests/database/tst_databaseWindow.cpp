@@ -1,345 +1,240 @@
-// The database window and the merge view on the sample warehouse.
-#include "testSupport.h"
+// The database window and the merge view, worked with hands on a small warehouse.
+#include "pressedActions.h"
 
-#include "data/kiv_mat_zpStruct.h"
 #include "data/loaders.h"
-#include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
-#include "tree/myTreeView.h"
-#include "util/fileVersions.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTimer>
-#include <QTreeWidget>
-
-class tst_databaseWindow : public QObject
-{
-    Q_OBJECT
-private slots:
-    void init();
-    void cleanup();
-    void groupsFirst();
-    void filters();
-    void editsReachTheIndexes();
-    void groupsAndCpv();
-    void copyCutPaste();
-    void closingWithoutSaving();
-    void saving();
-    void listingIsOneStep();
-    void mergeView();
-    void updateDeletesWhatIsMarked();
-    void toOrder();
-
-private:
-    kiv_mat_databaseStruct &database() { return m_window->rows().database(); }
-    materialStruct *first() { return database().groups.front()->items.front().get(); }
-    void search(const char *words)
-    {
-        m_window->findChild<QLineEdit *>("words")->setText(words);
-        QTest::keyClick(m_window->findChild<QLineEdit *>("words"), Qt::Key_Return);
-    }
-    // As one text, in file order.
-    QByteArray content()
-    {
-        saveXmlNoEvents(m_folder->path("content.xml"), &database());
-        return testSupport::read(m_folder->path("content.xml"));
-    }
-
-    std::unique_ptr<testSupport::programFolder> m_folder;
-    std::unique_ptr<testSupport::recordingPrompts> m_shown;
-    std::unique_ptr<Kiv_mat_databaseWindow> m_window;
+const std::vector<pressedAction> databaseActions = {
+    {"save", "F2 Ctrl+A 'Nowy' Return #save", "Saved|+<d_name>Nowy</d_name>|-<d_name>M0"},
+    {"update", "#update 'other.xml' Return Return", "-<d_ktm>317111-01.01-00002|+<d_price>77.00|317111-01.02-00001",
+     true},
+    {"merge", "#merge 'other.xml' Return", "shown Merge ["},
+    {"close", "#close", "closed"},
+    {"fullReport", "#fullReport !Yes", "Do you want create ?|4 materials written|new _files/db_warehouse_full.html"},
+    {"shortReport", "#shortReport !Yes", "4 materials written|new _files/db_warehouse_short.html"},
+    {"edit", "#edit", "Editing is "},
+    {"undo", "F2 Ctrl+A 'Nowy' Return #undo", "Undone: |at M0", true},
+    {"redo", "F2 Ctrl+A 'Nowy' Return Ctrl+Z #redo", "Done again: |+<d_name>Nowy", true},
+    {"copyText", "#copyText", "1 cell copied|clipboard M0"},
+    {"copyMaterials", "#copyMaterials", "1 material copied"},
+    {"cutMaterials", "#cutMaterials", "1 material deleted|-<d_name>M0", true},
+    {"cutMaterials, moved", "#cutMaterials materials@1,0 Ctrl+V", "1 material pasted|below M1 M2 M3 M0", true},
+    {"pasteMaterials", "Ctrl+Shift+C #pasteMaterials",
+     "1 of them needs a new KTM|+<d_name>M0|+<d_ktm></d_ktm>|below M0 M1 M2 M0", true},
+    {"deleteMaterials", "#deleteMaterials", "1 material deleted|-<d_name>M0", true},
+    {"deleteMaterials, group", "materials@1,0 #deleteMaterials", "Only empty groups are deleted", true},
+    {"addGroup", "#addGroup 'Nowa' Return", "rows 3|+<d_group name=\"Nowa\"", true},
+    {"addGroup, known", "#addGroup 'Rezystory SMD 0805' Return Escape", "Warning: Group already exists|rows 2", true},
+    {"addMaterial", "#addMaterial", "shown New material", true},
+    {"editParameters", "#editParameters !Yes",
+     "Do you want to edit material ?|shown Edit parameters [317111-01.01-00001]", true},
+    {"editCpv", "materials@1,0 #editCpv '31712114-2' Return",
+     "+<d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", true},
+    {"editCpv, wrong", "#editCpv 'none' Return Escape", "Error: CPV syntax error", true},
+    {"find", "#find '00002' Return", "1 of 4 materials shown|below M1\n"},
+    {"expand", "materials@0,0 Left #expand", "open 2|below M0 M1 M2 M3"},
+    {"expand2", "materials@0,0 Left !Expand", "open 2"},
+    {"collaps", "#collaps", "open 0"},
+    {"columns", "#columns Down Return", "columns 9"},
+    {"gray", "#gray", "1 of 4 materials shown|below M1\n"},
+    // Only one status at a time; the active one again shows all.
+    {"green", "#gray #green", "1 of 4 materials shown|below M0\n"},
+    {"green, again", "#green #green", "4 materials\n|below M0 M1 M2\n"},
+    // What is fetched later is filtered when it comes.
+    {"blue", "#blue #expand", "open 2|below M3\n"},
+    {"violet", "#violet", "1 of 4 materials shown|below M2\n"},
+    {"edited", "#edited", "1 of 4 materials shown|below M2\n"},
+    {"findDuplicate", "#findDuplicate Escape", "Information: All materials has unique KTM"},
+    {"findEmpty", "#findEmpty", "Materials with empty fields:|317111-01.02-00001"},
+    {"checkUrls", "#checkUrls 'links.xlsx' Return", "[Error] http://127.0.0.1/a.pdf<br>|new _files/links.xlsx"},
+    {"parse", "#parse 'stock.txt' Return Return",
+     "ABCDEF-01.01-00001</b>&nbsp;Does not exist in databases|"
+     "+<d_inWarehouse>1234|+<d_averagePrice>2.00",
+     true},
+    {"information", "#information Escape", "Information: Materials count [ 4 ]"},
+    {"altiumXlsx", "#altiumXlsx 'a.xlsx' Return", "new _files/a.xlsx"},
+    {"altiumSqlite", "#altiumSqlite 'a.sqlite' Return", "new _files/a.sqlite"},
+    {"groups", "#groups 'g.xlsx' Return", "g.xlsx|new _files/g.xlsx"},
+    {"loadCpv", "#loadCpv 'cpv.txt' Return",
+     "CPV syntax error|+<d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", true},
+    {"moveCpv", "#moveCpv Return", "+<d_cpv>31712114-2</d_cpv>", true},
+    {"cpvIndex", "#cpvIndex", "The dictionary of CPV codes is not there"},
+    {"cpvIndexWww", "#cpvIndexWww", "opened https://ted.europa.eu"},
+    {"openLink", "materials@?0/0,0 #openLink", "opened http://127.0.0.1/a.pdf"},
+    {"expandGroup", "materials@?1,0 #expandGroup", "open 2"},
+    {"collapsGroup", "materials@?0,0 #collapsGroup", "open 0"},
+    {"insertToBom", "materials@?0/0,0 #insertToBom Escape", "No BOM list is open"},
+    {"toOrder", "materials@?0/0,0 #toOrder", "1 line added|last 1 of 317111-01.01-00001"},
+    {"toOrderN", "materials@?0/0,0 #toOrderN Ctrl+A '12' Return", "1 line added|last 12 of 317111-01.01-00001"},
 };
 
-void tst_databaseWindow::init()
-{
-    m_folder = std::make_unique<testSupport::programFolder>();
-    m_shown = std::make_unique<testSupport::recordingPrompts>();
-    for (const char *folder : {"_config", "_files"})
-        testSupport::copyFolder(testSupport::source(folder), m_folder->path(folder));
-    programData &known = programData::instance();
-    known.clear();
-    known.loadConfiguration();
-    known.loadFirm();
-    known.loadDatabase(programData::warehouse);
-    m_window = std::make_unique<Kiv_mat_databaseWindow>(programData::instance(), programData::warehouse);
-    m_window->show();
-    m_window->commandEdit(true);
-}
+const std::vector<pressedAction> mergeActions = {
+    {"open", "#open 'copy.xml' Return Escape", "Information: All materials in database|rows 0"},
+    {"set", "#set", "2 materials taken over|rows 0|+<d_price>77.00|+<d_desc"},
+    // A field of the changed one; the others stay in the list.
+    {"set, a field", "differences@0,0 Right differences@0/11,1 #set", "1 material taken over|rows 2|+<d_price>77.00"},
+    {"close", "#close", "closed"},
+    {"undo", "differences@0,0 Del #undo", "Undone: |rows 2"},
+    {"redo", "differences@0,0 Del Ctrl+Z #redo", "Done again: |rows 1"},
+    {"leaveOut", "differences@0,0 #leaveOut", "rows 1"},
+    {"expand", "#expand", "open 2"},
+    {"collaps", "#expand #collaps", "open 0"},
+};
 
-void tst_databaseWindow::cleanup()
+class tst_databaseWindow : public actionFixture
 {
-    m_window.reset();
-    programData::instance().clear();
-    m_shown.reset();
-    m_folder.reset();
-}
+    Q_OBJECT
 
-void tst_databaseWindow::groupsFirst()
-{
-    QVERIFY(m_window->windowTitle().startsWith("Database of material ["));
-    QCOMPARE(m_window->model()->rowCount(), int(database().groups.size()));
-    QCOMPARE(m_window->model()->item(0)->rowCount(), 0);
-    QVERIFY(m_window->model()->hasChildren(m_window->model()->index(0, 0)));
-    m_window->commandExpand(true);
-    QCOMPARE(m_window->model()->item(0)->rowCount(), int(database().groups.front()->items.size()));
-    const QStandardItem *status = m_window->model()->item(0)->child(0, databaseTree::statusColumn);
-    QCOMPARE(status->whatsThis(), first()->information.status);
-    m_window->commandEdit(false);
-    QVERIFY(m_window->windowTitle().contains("Editing locked"));
-}
+    static constexpr const char *opened = "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0";
+    QString file() { return path("_files/db_warehouse.xml"); }
+    Kiv_mat_databaseWindow &databaseWindow() { return mainWindow().databaseWindow(programData::warehouse); }
+    static const ktmIndex &known() { return programData::instance().materials(); }
 
-void tst_databaseWindow::filters()
-{
-    const int all = database().materialCount();
-    const auto count = [this](const QString &status) {
-        int found = 0;
-        for (const auto &group : database().groups)
-            for (const auto &material : group->items)
-                found += status.isEmpty() || material->information.status == status;
-        return found;
-    };
-    m_window->action("green")->trigger();
-    QCOMPARE(m_window->shownCount(), count("ZIELONY"));
-    // Only one status at a time; the active one again shows all.
-    m_window->action("gray")->trigger();
-    QVERIFY(!m_window->action("green")->isChecked());
-    QCOMPARE(m_window->shownCount(), count("SZARY"));
-    // What is fetched later is filtered when it comes.
-    m_window->commandExpand(true);
-    int visible = 0;
-    for (int g = 0; g < m_window->model()->rowCount(); ++g)
-        for (int r = 0; r < m_window->model()->item(g)->rowCount(); ++r)
-            visible += !m_window->view()->isRowHidden(r, m_window->model()->index(g, 0));
-    QCOMPARE(visible, count("SZARY"));
-    m_window->action("gray")->trigger();
-    QCOMPARE(m_window->shownCount(), all);
+    // Two groups of three materials and one. In "other.xml" the first one has other texts, the
+    // second and the last are missing, and there is a new one.
+    void prepare() override
+    {
+        userState::instance().altiumDir.clear();
+        kiv_mat_databaseStruct all;
+        QCOMPARE(loadDatabase(file(), &all), 0);
+        all.groups.resize(2);
+        all.groups[0]->items.resize(3);
+        all.groups[1]->items.resize(1);
+        all.groups[0]->cpv = "31712114-2";
+        const char *const statuses[] = {"ZIELONY", "SZARY", "FIOLETOWY", "NIEBIESKI"};
+        for (int i = 0; i < 4; ++i) {
+            materialStruct &material = i < 3 ? *all.groups[0]->items[i] : *all.groups[1]->items[0];
+            material.d_name = QString("M%1").arg(i);
+            material.information.status = statuses[i];
+            material.information.edited = i == 2 ? "TAK" : "NIE";
+            material.d_description = i == 3 ? "" : "text";
+            for (const auto &maker : material.manufacturers.items)
+                maker->files.items.resize(0);
+            for (const auto &supplier : material.suppliers.items)
+                supplier->files.items.resize(0);
+        }
+        materialStruct &first = *all.groups[0]->items[0];
+        first.manufacturers.items[0]->files.append(std::make_unique<fileStruct>())->name = "http://127.0.0.1/a.pdf";
+        QCOMPARE(saveXmlNoEvents(file(), &all), 0);
+        QCOMPARE(saveXmlNoEvents(path("copy.xml"), &all), 0);
+        first.d_price = "77.00";
+        first.d_description = "other";
+        all.groups[0]->items.erase(all.groups[0]->items.begin() + 1);
+        all.groups[1]->items[0]->d_ktm = "317111-01.02-00099";
+        QCOMPARE(saveXmlNoEvents(path("other.xml"), &all), 0);
+        folder().write("stock.txt", "Towar: 317111-01.01-00001 x\nIlosc: 1 234\nWartosc: 2468,00\n"
+                                    "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
+        folder().write("cpv.txt", "Rezystory SMD 0805\t31712114-2 x\nRezystory SMD 0603\t7\n");
+    }
+    QString look() override
+    {
+        const auto &lines = mainWindow().document().order().orderItems.items;
+        return actionFixture::look()
+               + QString("\norder: %1 lines, last %2 of %3\n")
+                     .arg(lines.size())
+                     .arg(lines.back()->quantity, lines.back()->ktm);
+    }
+    void saveAll() override
+    {
+        if (databaseWindow().isVisible() && databaseWindow().isModified())
+            hands{databaseWindow()}("Ctrl+S Escape");
+    }
+    std::vector<pressedWindow> windows() override
+    {
+        return {
+            {"database", opened, "Ctrl+E", databaseActions},
+            {"merge", "Ctrl+D Return|Ctrl+E|#merge 'other.xml' Return", "", mergeActions},
+        };
+    }
 
-    search("rezystor 0603 value:10k");
-    QVERIFY(m_window->shownCount() > 0 && m_window->shownCount() < 10);
-    search("");
-    QCOMPARE(m_window->shownCount(), all);
-}
-
-void tst_databaseWindow::editsReachTheIndexes()
-{
-    const ktmIndex &known = programData::instance().materials();
-    materialStruct *material = first();
-    const QString ktm = material->d_ktm;
-    const QByteArray before = content();
-    m_window->selectMaterial(material);
-    auto *cell = static_cast<myItem::myItemStandard *>(
-        m_window->rows().find(material)->parent()->child(0, databaseTree::ktmColumn));
-    m_window->model()->setValue(cell, QString("ABCDEF-01.01-00001"));
-    QVERIFY(!known.find(ktm) && known.find("ABCDEF-01.01-00001")->material == material);
-    search("ktm:ABCDEF-01.01-00001");
-    QCOMPARE(m_window->shownCount(), 1);
-    QVERIFY(m_window->isModified());
-    m_window->commandUndo(true);
-    QVERIFY(known.find(ktm));
+private slots:
     // What must not be stored is refused in the cell, too.
-    for (const QString &wrong : {QString("wrong"), database().groups[1]->items[0]->d_ktm})
-        m_window->model()->setValue(cell, wrong);
-    QTRY_COMPARE(m_shown->errors, QStringList({"Ktm syntax error", "Another material has this KTM"}));
-    QCOMPARE(material->d_ktm, ktm);
-    m_window->selectMaterial(material);
-    m_window->commandDeleteMaterials(true);
-    QVERIFY(!known.find(ktm));
-    QCOMPARE(database().materialCount(), known.size());
-    m_window->commandUndo(true);
-    QCOMPARE(known.find(ktm)->material, first());
-    QCOMPARE(content(), before);
-}
+    void refused_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("box");
+        QTest::newRow("KTM") << "materials@0/0,1 F2 Ctrl+A 'wrong'"
+                             << "Error: Ktm syntax error";
+        QTest::newRow("KTM of another") << "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001'"
+                                        << "Error: Another material has this KTM";
+        QTest::newRow("CPV") << "materials@1,2 F2 Ctrl+A '317'"
+                             << "Error: CPV syntax error";
+        QTest::newRow("group") << "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603'"
+                               << "Error: Group already exists";
+    }
+    void refused()
+    {
+        QFETCH(QString, steps);
+        openWindow(opened);
+        work(steps + " Return ~100 Escape");
+        QTEST(boxes().join('|'), "box");
+        QVERIFY(!databaseWindow().isModified());
+    }
 
-void tst_databaseWindow::groupsAndCpv()
-{
-    m_shown->input = database().groups.front()->name;
-    m_window->commandAddGroup(true);
-    QCOMPARE(m_shown->informations, QStringList("Group already exists"));
-    m_shown->input = QString("New group");
-    m_window->commandAddGroup(true);
-    QCOMPARE(database().groups.back()->name, QString("New group"));
-    m_shown->input = QString("not a code");
-    m_window->commandEditCpv(true);
-    QCOMPARE(m_shown->errors, QStringList("CPV syntax error"));
-    m_shown->input = QString("31712114-1");
-    m_window->commandEditCpv(true);
-    QCOMPARE(database().groups.back()->cpv, QString("31712114-1"));
-    m_window->commandUndo(true);
-    m_window->commandUndo(true);
-    QVERIFY(database().groups.back()->name != "New group");
-}
+    void editsReachTheIndexes()
+    {
+        const QString before = "317111-01.01-00001";
+        openWindow(opened);
+        work("materials@0/0,1 F2 Ctrl+A 'ABCDEF-01.01-00001' Return");
+        QVERIFY(!known().find(before) && known().find("ABCDEF-01.01-00001"));
+        work("#find 'ktm:ABCDEF-01.01-00001' Return ");
+        QCOMPARE(databaseWindow().shownCount(), 1);
+        work("Ctrl+Z #find Ctrl+A ' ' Return materials@0/0,0 Ctrl+X");
+        QVERIFY(!known().find(before) && known().size() > 0);
+        work("materials@1,0 Ctrl+V");
+        QCOMPARE(known().find(before)->group, databaseWindow().rows().database().groups[1].get());
+        work("Ctrl+Z Ctrl+Z");
+        QVERIFY(known().find(before) && !databaseWindow().isModified());
+        // Given up, what was deleted is there again.
+        const QByteArray content = testSupport::read(file());
+        work("materials@0/0,0 Del Ctrl+W !No");
+        QCOMPARE(boxes(), QStringList("Asking: Save database"));
+        QVERIFY(known().find(before));
+        QCOMPARE(testSupport::read(file()), content);
+    }
 
-void tst_databaseWindow::copyCutPaste()
-{
-    const QByteArray before = content();
-    materialStruct *material = first();
-    const QString ktm = material->d_ktm;
-    m_window->selectMaterial(material);
-    m_window->commandCopyMaterials(true);
-    m_window->commandPasteMaterials(true);
-    // A KTM stands for one material.
-    QCOMPARE(database().groups.front()->items.back()->d_ktm, QString());
-    QCOMPARE(database().groups.front()->items.back()->d_name, material->d_name);
-    m_window->commandUndo(true);
-    m_window->selectMaterial(material);
-    m_window->commandCutMaterials(true);
-    m_window->view()->setCurrentIndex(m_window->model()->index(1, 0));
-    m_window->view()->clearSelection();
-    m_window->commandPasteMaterials(true);
-    QCOMPARE(database().groups[1]->items.back()->d_ktm, ktm);
-    QCOMPARE(programData::instance().materials().find(ktm)->group, database().groups[1].get());
-    m_window->commandUndo(true);
-    m_window->commandUndo(true);
-    QCOMPARE(content(), before);
-}
+    // What is unticked stays, and the order's lines that lose their material are listed.
+    void updateDeletesWhatIsTicked()
+    {
+        openWindow(opened);
+        work("materials@?0/1,0 #toOrder materials@1,0 Right materials@?1/0,0 #toOrder");
+        // Changed, new, and the two that are absent.
+        work("#update 'other.xml' Return Down Down Down Space Return");
+        QVERIFY(boxes().contains("Update"));
+        work("Ctrl+S");
+        kiv_mat_databaseStruct saved;
+        QCOMPARE(loadDatabase(file(), &saved), 0);
+        QCOMPARE(saved.materialCount(), 4);
+        const QByteArray content = testSupport::read(file());
+        QVERIFY(!content.contains("317111-01.01-00002") && content.contains("317111-01.02-00001"));
+        QVERIFY(content.contains("317111-01.02-00099") && content.contains("<d_price>77.00"));
+        QVERIFY(saved.update.startsWith(QDate::currentDate().toString("yyyy.MM.dd")));
+        // In the list of the deleted ones and in that of their uses.
+        QCOMPARE(seen().listed.count("317111-01.01-00002"), 2);
+        QCOMPARE(seen().listed.count("317111-01.02-00001"), 0);
+        QVERIFY(seen().listed.contains("The open order uses deleted materials:"));
+    }
 
-void tst_databaseWindow::closingWithoutSaving()
-{
-    const QString ktm = first()->d_ktm;
-    const QByteArray file = testSupport::read(m_folder->path("_files/db_warehouse.xml"));
-    m_window->selectMaterial(first());
-    m_window->commandDeleteMaterials(true);
-    m_shown->nextAnswer = prompts::answer::no;
-    QVERIFY(m_window->close());
-    QCOMPARE(m_shown->questions, QStringList("Save database"));
-    QVERIFY(programData::instance().materials().find(ktm));
-    QCOMPARE(testSupport::read(m_folder->path("_files/db_warehouse.xml")), file);
-    QVERIFY(!m_window->action("undo")->isEnabled());
-}
-
-void tst_databaseWindow::saving()
-{
-    const QString ktm = first()->d_ktm;
-    m_window->selectMaterial(first());
-    m_window->commandDeleteMaterials(true);
-    m_window->commandSave(true);
-    QVERIFY(!m_window->isModified() && !m_window->action("undo")->isEnabled());
-    kiv_mat_databaseStruct saved;
-    QCOMPARE(loadDatabase(m_folder->path("_files/db_warehouse.xml"), &saved), 0);
-    QCOMPARE(saved.materialCount(), database().materialCount());
-    QVERIFY(saved.update.startsWith(QDate::currentDate().toString("yyyy.MM.dd")));
-    // Another program's work is not overwritten without a word.
-    saved.groups.front()->name = "written elsewhere";
-    QCOMPARE(saveXmlNoEvents(m_folder->path("_files/db_warehouse.xml"), &saved), 0);
-    m_window->save();
-    QCOMPARE(m_shown->questions.size(), 1);
-    m_shown->input = 0;
-    m_window->save();
-    QCOMPARE(database().groups.front()->name, QString("written elsewhere"));
-    QVERIFY(!fileVersions::of(m_folder->path("_files/db_warehouse.xml"), programData::instance().config().backupPath())
-                 .isEmpty());
-}
-
-void tst_databaseWindow::listingIsOneStep()
-{
-    const QByteArray before = content();
-    const QString stock = first()->d_inWarehouse;
-    m_shown->file = m_folder->write("stock.txt", "Towar: " + first()->d_ktm.toUtf8()
-                                                     + " x\nIlosc: 1 234\nWartosc: 2468,00\n"
-                                                       "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
-    // The list of changes waits for its answer.
-    QTimer answer;
-    connect(&answer, &QTimer::timeout, this, [] {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-            dialog->accept();
-    });
-    answer.start(10);
-    m_window->commandParse(true);
-    QCOMPARE(first()->d_inWarehouse, QString("1234"));
-    QCOMPARE(first()->d_averagePrice, QString("2.00"));
-    QVERIFY2(m_shown->listed.contains("Does not exist in databases"), qPrintable(m_shown->listed));
-    m_window->commandUndo(true);
-    QCOMPARE(content(), before);
-}
-
-void tst_databaseWindow::mergeView()
-{
-    const QString path = m_folder->path("other.xml");
-    QVERIFY(QFile::copy(m_folder->path("_files/db_warehouse.xml"), path));
-    Kiv_mat_databaseMergeWindow merge(m_window.get());
-    QVERIFY(merge.open(path));
-    QCOMPARE(m_shown->informations, QStringList("All materials in database"));
-    kiv_mat_databaseStruct other;
-    QCOMPARE(loadDatabase(path, &other), 0);
-    other.groups[0]->items[0]->d_price = "77.00";
-    other.groups[0]->items[0]->d_description = "other";
-    other.groups[1]->items[0]->d_ktm = "ADDED-KTM";
-    QCOMPARE(saveXmlNoEvents(path, &other), 0);
-    QVERIFY(merge.open(path));
-    QCOMPARE(merge.model()->rowCount(), 2);
-    QCOMPARE(merge.model()->headerData(1, Qt::Horizontal).toString(), QString("Value [orgin]"));
-
-    // One field of the changed material, then all that is left; nothing is deleted.
-    const QByteArray before = content();
-    const int count = database().materialCount();
-    QStandardItem *changed = merge.model()->item(0);
-    for (int row = 0; row < changed->rowCount(); ++row)
-        if (changed->child(row, 2)->text() == "77.00")
-            merge.view()->selectionModel()->select(changed->child(row)->index(), QItemSelectionModel::Select);
-    merge.commandSet(true);
-    QCOMPARE(first()->d_price, QString("77.00"));
-    QVERIFY(first()->d_description != "other");
-    merge.view()->clearSelection();
-    merge.commandSet(true);
-    QCOMPARE(first()->d_description, QString("other"));
-    QVERIFY(programData::instance().materials().find("ADDED-KTM"));
-    QCOMPARE(database().materialCount(), count + 1);
-    QCOMPARE(merge.model()->rowCount(), 0);
-    m_window->commandUndo(true);
-    m_window->commandUndo(true);
-    QCOMPARE(content(), before);
-    QVERIFY(!merge.open(m_folder->write("bad.xml", "bad")));
-    QVERIFY(m_shown->listed.contains("bad.xml</b>"));
-}
-
-void tst_databaseWindow::updateDeletesWhatIsMarked()
-{
-    const QString path = m_folder->path("other.xml");
-    const QString deleted = first()->d_ktm;
-    const QString kept = database().groups[0]->items[1]->d_ktm;
-    kiv_mat_databaseStruct other;
-    QCOMPARE(loadDatabase(database().filePath, &other), 0);
-    other.groups[0]->items.erase(other.groups[0]->items.begin(), other.groups[0]->items.begin() + 2);
-    QCOMPARE(saveXmlNoEvents(path, &other), 0);
-    kiv_mat_zpStruct order;
-    order.initialise(programData::instance().config());
-    for (const QString &ktm : {deleted, kept})
-        order.orderItems.append(std::make_unique<orderItemStruct>())->ktm = ktm;
-    m_window->openOrder = [&order]() -> const kiv_mat_zpStruct & { return order; };
-
-    m_shown->file = path;
-    QTimer answer;
-    connect(&answer, &QTimer::timeout, this, [&kept] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        for (QTreeWidgetItem *item : dialog->findChild<QTreeWidget *>()->findItems(kept, Qt::MatchExactly))
-            item->setCheckState(0, Qt::Unchecked);
-        dialog->accept();
-    });
-    answer.start(10);
-    m_window->commandUpdate(true);
-    const ktmIndex &known = programData::instance().materials();
-    QVERIFY(!known.find(deleted) && known.find(kept));
-    // In the list of the deleted ones and in that of their uses.
-    QCOMPARE(m_shown->listed.count(deleted), 2);
-    QCOMPARE(m_shown->listed.count(kept), 0);
-}
-
-void tst_databaseWindow::toOrder()
-{
-    const QSignalSpy sent(m_window.get(), &Kiv_mat_databaseWindow::appendToOrder);
-    m_window->selectMaterial(first());
-    m_window->commandToOrder(true);
-    m_shown->input = 12;
-    m_window->commandToOrderN(true);
-    QCOMPARE(sent.count(), 2);
-    QCOMPARE(sent.last().at(0).toStringList(), QStringList(first()->d_ktm));
-    QCOMPARE(sent.last().at(1).toUInt(), 12u);
-}
+    void mergeIsOneStep()
+    {
+        openWindow("Ctrl+D Return");
+        QMainWindow &database = window();
+        openWindow("#merge 'other.xml' Return|#-set");
+        QMainWindow &merge = window();
+        QVERIFY(boxes().join(' ').contains("editing of the database is locked"));
+        turnTo(database);
+        work("Ctrl+E");
+        turnTo(merge);
+        work("Ctrl+S");
+        QVERIFY(known().find("317111-01.02-00099") && known().find("317111-01.01-00002"));
+        turnTo(database);
+        work("#undo");
+        QVERIFY(!databaseWindow().isModified());
+        folder().write("bad.xml", "bad");
+        openWindow("#merge 'bad.xml' Return");
+        QVERIFY(seen().listed.contains("bad.xml</b>"));
+    }
+};
 
 KIVZP_TEST(tst_databaseWindow)
 #include "tst_databaseWindow.moc"
