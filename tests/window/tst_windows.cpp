@@ -1,7 +1,6 @@
 // What all windows have: actions, progress, a remembered place; and the log and errors windows.
 #include "testSupport.h"
 
-#include "util/paths.h"
 #include "window/messageWindow.h"
 #include "window/workProgress.h"
 
@@ -13,6 +12,8 @@
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
+
+using namespace testSupport;
 
 class sampleWindow : public baseWindow
 {
@@ -48,128 +49,122 @@ class tst_windows : public QObject
 {
     Q_OBJECT
 private slots:
-    void init() { m_folder = std::make_unique<testSupport::programFolder>(); }
+    void init() { m_folder = std::make_unique<programFolder>(); }
     void cleanup() { m_folder.reset(); }
-    void tableMakesMenusAndToolBar();
-    void placeIsRemembered();
-    void progressShowsAndCancels();
-    void messagesWaitForTheWindow();
-    void externalOutputIsPlainText();
+    void tableMakesMenusAndToolBar()
+    {
+        sampleWindow window;
+        QAction *print = window.action("print");
+        QCOMPARE(print->shortcut(), QKeySequence("Ctrl+P"));
+        QCOMPARE(print->toolTip(), QString("About (Ctrl+P)"));
+        print->trigger();
+        QCOMPARE(window.printed, 1);
+        window.action("edit")->trigger();
+        QVERIFY(window.edited);
+        QVERIFY(!window.action("none"));
+        const QMenu *menu = window.menuBar()->findChild<QMenu *>("menuFile");
+        QCOMPARE(menu->actions().size(), 3);
+        QVERIFY(menu->actions().at(1)->isSeparator());
+        QCOMPARE(window.findChild<QToolBar *>()->actions(), QList<QAction *>({print}));
+        // Mnemonics do not collide.
+        QCOMPARE(print->text(), QString("&Print"));
+        QCOMPARE(window.action("edit")->text(), QString("&Exit"));
+    }
 
-private:
-    std::unique_ptr<testSupport::programFolder> m_folder;
-};
+    void placeIsRemembered()
+    {
+        {
+            sampleWindow window;
+            window.show();
+            window.resize(612, 345);
+            window.findChild<QSplitter *>()->setSizes({100, 500});
+            QCoreApplication::processEvents();
+            window.hide();
+        }
+        sampleWindow again;
+        again.show();
+        QCOMPARE(again.size(), QSize(612, 345));
+        const QList<int> sizes = again.findChild<QSplitter *>()->sizes();
+        QVERIFY(sizes[0] * 3 < sizes[1]);
+        // A file of nonsense is no obstacle.
+        m_folder->write("_config/windows.ini", QByteArray("\x00[[=sampleWindow\n", 17));
+        sampleWindow third;
+        third.show();
+        QVERIFY(third.isVisible());
+    }
 
-void tst_windows::tableMakesMenusAndToolBar()
-{
-    sampleWindow window;
-    QAction *print = window.action("print");
-    QCOMPARE(print->shortcut(), QKeySequence("Ctrl+P"));
-    QCOMPARE(print->toolTip(), QString("About (Ctrl+P)"));
-    print->trigger();
-    QCOMPARE(window.printed, 1);
-    window.action("edit")->trigger();
-    QVERIFY(window.edited);
-    QVERIFY(!window.action("none"));
-    const QMenu *menu = window.menuBar()->findChild<QMenu *>("menuFile");
-    QCOMPARE(menu->actions().size(), 3);
-    QVERIFY(menu->actions().at(1)->isSeparator());
-    QCOMPARE(window.findChild<QToolBar *>()->actions(), QList<QAction *>({print}));
-    // Mnemonics do not collide.
-    QCOMPARE(print->text(), QString("&Print"));
-    QCOMPARE(window.action("edit")->text(), QString("&Exit"));
-}
-
-void tst_windows::placeIsRemembered()
-{
+    void progressShowsAndCancels()
     {
         sampleWindow window;
         window.show();
-        window.resize(612, 345);
-        window.findChild<QSplitter *>()->setSizes({100, 500});
-        QCoreApplication::processEvents();
-        window.hide();
-    }
-    sampleWindow again;
-    again.show();
-    QCOMPARE(again.size(), QSize(612, 345));
-    const QList<int> sizes = again.findChild<QSplitter *>()->sizes();
-    QVERIFY(sizes[0] * 3 < sizes[1]);
-    // A file of nonsense is no obstacle.
-    m_folder->write("_config/windows.ini", QByteArray("\x00[[=sampleWindow\n", 17));
-    sampleWindow third;
-    third.show();
-    QVERIFY(third.isVisible());
-}
-
-void tst_windows::progressShowsAndCancels()
-{
-    sampleWindow window;
-    window.show();
-    auto *bar = window.findChild<QProgressBar *>();
-    auto *cancel = window.findChild<QToolButton *>("cancelButton");
-    QVERIFY(!bar->isVisible());
-    int steps = 0;
-    bool entered = false;
-    {
-        workProgress::scope work(window.progress(), "Work");
-        const progressFunction tell = work.function();
-        while (tell(steps, 1000) && steps < 1000) {
-            QTest::qSleep(5);
-            ++steps;
-            if (steps == 100) {
-                QVERIFY(bar->isVisible());
-                QVERIFY(bar->value() > 0);
-                // Neither a key nor closing reaches the window while it works.
-                QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
-                entered = window.printed > 0;
-                window.close();
-                QVERIFY(window.isVisible());
-                QTest::mouseClick(cancel, Qt::LeftButton);
+        auto *bar = window.findChild<QProgressBar *>();
+        auto *cancel = window.findChild<QToolButton *>("cancelButton");
+        QVERIFY(!bar->isVisible());
+        int steps = 0;
+        bool entered = false;
+        {
+            workProgress::scope work(window.progress(), "Work");
+            const progressFunction tell = work.function();
+            while (tell(steps, 1000) && steps < 1000) {
+                QTest::qSleep(5);
+                ++steps;
+                if (steps == 100) {
+                    QVERIFY(bar->isVisible());
+                    QVERIFY(bar->value() > 0);
+                    // Neither a key nor closing reaches the window while it works.
+                    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+                    entered = window.printed > 0;
+                    window.close();
+                    QVERIFY(window.isVisible());
+                    QTest::mouseClick(cancel, Qt::LeftButton);
+                }
             }
+            QVERIFY(work.cancelled());
         }
-        QVERIFY(work.cancelled());
+        QVERIFY(!entered);
+        QVERIFY(steps < 200);
+        QVERIFY(!bar->isVisible());
+        // The next work starts uncancelled.
+        workProgress::scope next(window.progress(), "Next");
+        QVERIFY(!next.cancelled());
     }
-    QVERIFY(!entered);
-    QVERIFY(steps < 200);
-    QVERIFY(!bar->isVisible());
-    // The next work starts uncancelled.
-    workProgress::scope next(window.progress(), "Next");
-    QVERIFY(!next.cancelled());
-}
 
-void tst_windows::messagesWaitForTheWindow()
-{
-    logWindow &log = logWindow::instance();
-    auto *view = log.findChild<QTextEdit *>("text");
-    log.commandClear(true);
-    log.append("one<br>");
-    QCOMPARE(log.text(), QString("one<br>"));
-    QCOMPARE(view->toPlainText(), QString());
-    log.showNow();
-    QCOMPARE(view->toPlainText().trimmed(), QString("one"));
-    log.append("<b>two</b><br>");
-    QCOMPARE(view->toPlainText().split('\n', Qt::SkipEmptyParts), QStringList({"one", "two"}));
-    QTest::keyClick(&log, Qt::Key_Escape);
-    QVERIFY(!log.isVisible());
-    log.append("three");
-    log.showNow();
-    QVERIFY(view->toPlainText().endsWith("three"));
-    log.action("clear")->trigger();
-    QCOMPARE(log.text() + view->toPlainText(), QString());
-    log.append("four");
-    QCOMPARE(view->toPlainText(), QString("four"));
-    log.hideNow();
-    QVERIFY(&errorsWindow::instance() != static_cast<messageWindow *>(&log));
-}
+    void messagesWaitForTheWindow()
+    {
+        logWindow &log = logWindow::instance();
+        auto *view = log.findChild<QTextEdit *>("text");
+        log.commandClear(true);
+        log.append("one<br>");
+        QCOMPARE(log.text(), QString("one<br>"));
+        QCOMPARE(view->toPlainText(), QString());
+        log.showNow();
+        QCOMPARE(view->toPlainText().trimmed(), QString("one"));
+        log.append("<b>two</b><br>");
+        QCOMPARE(view->toPlainText().split('\n', Qt::SkipEmptyParts), QStringList({"one", "two"}));
+        QTest::keyClick(&log, Qt::Key_Escape);
+        QVERIFY(!log.isVisible());
+        log.append("three");
+        log.showNow();
+        QVERIFY(view->toPlainText().endsWith("three"));
+        log.action("clear")->trigger();
+        QCOMPARE(log.text() + view->toPlainText(), QString());
+        log.append("four");
+        QCOMPARE(view->toPlainText(), QString("four"));
+        log.hideNow();
+        QVERIFY(&errorsWindow::instance() != static_cast<messageWindow *>(&log));
+    }
 
-void tst_windows::externalOutputIsPlainText()
-{
-    logWindow &log = logWindow::instance();
-    log.commandClear(true);
-    log.appendToLog("<b>100 %</b>");
-    QCOMPARE(log.text(), QString("&lt;b&gt;100 %&lt;/b&gt;<br>"));
-}
+    void externalOutputIsPlainText()
+    {
+        logWindow &log = logWindow::instance();
+        log.commandClear(true);
+        log.appendToLog("<b>100 %</b>");
+        QCOMPARE(log.text(), QString("&lt;b&gt;100 %&lt;/b&gt;<br>"));
+    }
+
+private:
+    std::unique_ptr<programFolder> m_folder;
+};
 
 KIVZP_TEST(tst_windows)
 #include "tst_windows.moc"
