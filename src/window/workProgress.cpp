@@ -54,6 +54,7 @@ void workProgress::begin(const QString &text)
     if (m_depth++ > 0)
         return;
     m_cancelled = false;
+    m_modal = QApplication::activeModalWidget();
     m_bar->setValue(0);
     m_bar->setFormat(text + QLatin1String(" %p%"));
     m_sinceBegin.start();
@@ -86,6 +87,9 @@ bool workProgress::tell(long long done, long long total)
 
 bool workProgress::eventFilter(QObject *watched, QEvent *event)
 {
+    // What the work asks or tells in a box of its own has to be answered.
+    if (const QWidget *modal = QApplication::activeModalWidget(); modal && modal != m_modal)
+        return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
