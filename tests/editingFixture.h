@@ -43,6 +43,21 @@ protected:
         }
     }
 
+    // The program begins, and offers what its last run left unsaved; steps answer that.
+    void start()
+    {
+        m_main = std::make_unique<MainWindow>(programData::instance());
+        m_front = m_main.get();
+        m_hands = std::make_unique<hands>(*m_main);
+    }
+    void restart(const QString &steps)
+    {
+        end();
+        start();
+        QTimer::singleShot(0, m_main.get(), &MainWindow::offerRecovery);
+        work("~50 " + steps);
+    }
+
     // Called before the main window is made: other files, other options.
     virtual void prepare() {}
     void setOption(const char *key, const QString &value)
@@ -67,20 +82,23 @@ private slots:
         userState::instance().lastZp = "_zp/zp_0.xml";
         prepare();
         m_seen = std::make_unique<seenPrompts>();
-        m_main = std::make_unique<MainWindow>(programData::instance());
-        m_front = m_main.get();
-        m_hands = std::make_unique<hands>(*m_main);
+        start();
     }
     void cleanup()
     {
-        m_hands.reset();
-        m_main.reset();
-        programData::instance().clear();
+        end();
         m_seen.reset();
         m_folder.reset();
     }
 
 private:
+    void end()
+    {
+        m_hands.reset();
+        m_main.reset();
+        programData::instance().clear();
+    }
+
     std::unique_ptr<testSupport::programFolder> m_folder;
     std::unique_ptr<seenPrompts> m_seen;
     std::unique_ptr<MainWindow> m_main;

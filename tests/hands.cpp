@@ -7,7 +7,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
+#include <QListView>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -33,12 +35,19 @@ QWidget *front()
     return QApplication::activeWindow();
 }
 
+// A list that completes what is typed comes and goes; the keys are meant for the field.
+QWindow *keyTarget()
+{
+    QWidget *popup = QApplication::activePopupWidget();
+    QWidget *focus = QApplication::focusWidget();
+    if (popup && !qobject_cast<QListView *>(popup))
+        return popup->windowHandle();
+    return (focus ? focus->window() : front())->windowHandle();
+}
+
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
-    QWindow *window = QGuiApplication::focusWindow();
-    if (QWidget *popup = QApplication::activePopupWidget())
-        window = popup->windowHandle();
-    QTest::keyClick(window, Qt::Key(key), modifiers);
+    QTest::keyClick(keyTarget(), Qt::Key(key), modifiers);
 }
 
 // Steps are parted by blanks, but for those within apostrophes.
@@ -86,6 +95,19 @@ seenPrompts::seenPrompts()
 
 seenPrompts::~seenPrompts() { installPrompts(m_before); }
 
+void seenPrompts::listError(const QString &html)
+{
+    listed += html;
+    if (showsErrors)
+        dialogPrompts::listError(html);
+}
+
+void seenPrompts::showErrors()
+{
+    if (showsErrors)
+        dialogPrompts::showErrors();
+}
+
 hands::hands(QWidget &window)
     : m_window(window)
 {
@@ -129,7 +151,7 @@ void hands::operator()(const QString &steps)
 }
 
 // The next step waits in the event loop before this one is done: this one may open a box, which has
-// a loop of its own.
+// a loop of its own. Letters open none, and are many.
 void hands::next()
 {
     noteBox();
@@ -137,15 +159,32 @@ void hands::next()
         m_running = false;
         return;
     }
+    // Here no window manager brings the window below to the front when a box goes; and a box that
+    // just comes up is not there yet.
+    QWidget *now = front();
+    if (now && (now->isActiveWindow() || QApplication::activePopupWidget())) {
+        m_worked = now->window();
+    } else {
+        if (!now)
+            now = m_worked && m_worked->isVisible() ? m_worked.data() : &m_window;
+        now->activateWindow();
+        QTimer::singleShot(pauseMs, qApp, [this] { next(); });
+        return;
+    }
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))
         wait = step.mid(1).toInt();
-    QTimer::singleShot(wait, qApp, [this] { next(); });
+    const bool isText = step.startsWith('\'');
+    const auto goOn = [this, wait] { QTimer::singleShot(wait, qApp, [this] { next(); }); };
+    if (!isText)
+        goOn();
     if (const QString fault = perform(step); !fault.isEmpty() && m_fault.isEmpty()) {
         m_fault = step + ": " + fault;
         m_steps.clear();
     }
+    if (isText)
+        goOn();
 }
 
 void hands::noteBox()
@@ -178,12 +217,11 @@ QString hands::perform(const QString &step)
     if (step.startsWith('\'')) {
         const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
         for (const QChar letter : typed)
-            QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown,
-                                QString(letter), {});
+            QTest::sendKeyEvent(QTest::Click, keyTarget(), Qt::Key_unknown, QString(letter), {});
         return {};
     }
-    if (step.startsWith('#'))
-        return choose(step.mid(1));
+    if (step.startsWith('#') || (step.startsWith('-') && step.size() > 1))
+        return choose(step.mid(1), step.startsWith('-'));
     if (step.startsWith('!')) {
         const QString name = step.mid(1).replace('_', ' ');
         for (auto *widget : front()->findChildren<QWidget *>()) {
@@ -210,7 +248,7 @@ QString hands::perform(const QString &step)
 }
 
 // Opens the menu by its letter and takes the entry by its own; where entries have none, by arrows.
-QString hands::choose(const QString &name)
+QString hands::choose(const QString &name, bool disabled)
 {
     auto *context = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QAction *action = front()->findChild<QAction *>(name);
@@ -228,6 +266,12 @@ QString hands::choose(const QString &name)
         press(letter.unicode(), Qt::AltModifier);
         if (QApplication::activePopupWidget() != menu)
             return "its menu does not open";
+    }
+    if (disabled) {
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+        m_boxes.append(name + ": " + action->toolTip());
+        menu->close();
+        return action->isEnabled() ? "it is enabled" : QString();
     }
     if (!action->isEnabled()) {
         menu->close();
@@ -248,13 +292,19 @@ QString hands::choose(const QString &name)
 
 QString hands::clickCell(const QString &step)
 {
-    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@)([\\d/]+),(\\d+)$");
+    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@)(h|[\\d/]+),(\\d+)$");
     const auto match = form.match(step);
     if (!match.hasMatch())
         return "no such step";
     QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
     if (!view || !view->isVisible())
         return "there is no such tree in front";
+    if (match.captured(4) == "h") {
+        QHeaderView *header = view->header();
+        const int left = header->sectionViewportPosition(match.captured(5).toInt());
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(left + 20, 5));
+        return {};
+    }
     QModelIndex index;
     const QStringList rows = match.captured(4).split('/');
     for (const QString &row : rows) {

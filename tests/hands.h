@@ -4,11 +4,12 @@
 
 #include "window/dialogPrompts.h"
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QTreeView;
-class QWidget;
 
 // The program's real boxes and file dialogs; lines for the log and errors windows are noted.
 class seenPrompts : public dialogPrompts
@@ -17,11 +18,12 @@ public:
     seenPrompts();
     ~seenPrompts() override;
     void log(const QString &html) override { logged += html; }
-    void listError(const QString &html) override { listed += html; }
-    void showErrors() override {}
+    void listError(const QString &html) override;
+    void showErrors() override;
 
     QString logged;
     QString listed;
+    bool showsErrors = false; // errors go to their window, too
 
 private:
     prompts *m_before;
@@ -40,8 +42,12 @@ public:
     //                           row, logical column; lines@1/3,5 is row 3 below row 1
     //   lines@?3,5              the same with the right button
     //   +lines@3,5              a click with Ctrl
+    //   lines@h,5               a click on the header of a column
     //   #name                   chooses the action of that object name from its menu, or from the
     //                           context menu that is open
+    //   -name                   a click on that action in its menu, where it has to be disabled;
+    //   its
+    //                           tool tip is noted among the boxes
     //   !name                   a click on the widget of that object name, or on the button of that
     //                           text
     //   ~200                    waits so many milliseconds
@@ -56,7 +62,7 @@ public:
 private:
     void next();
     QString perform(const QString &step);
-    QString choose(const QString &name);
+    QString choose(const QString &name, bool disabled);
     QString clickCell(const QString &step);
     void noteBox();
 
@@ -64,6 +70,7 @@ private:
     QStringList m_steps;
     QStringList m_boxes;
     QWidget *m_lastBox = nullptr;
+    QPointer<QWidget> m_worked; // the window that was in front last
     QString m_fault;
     bool m_running = false;
 };
