@@ -45,7 +45,7 @@ protected:
                 QDate::currentDate().addDays(match.captured(1).toInt()).toString("dd.MM.yyyy"));
         return text.replace('%', path(""));
     }
-    void steps(const QString &steps) { work(filled(steps)); }
+    void steps(const QString &steps) { openWindow(filled(steps)); }
 
     // "PLACE = TEXT; PLACE ~ PART; PLACE !~ PART": what stands there is, holds, does not hold that.
     void look(const QString &looks)

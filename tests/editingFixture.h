@@ -29,12 +29,17 @@ protected:
     QStringList boxes() { return m_hands->boxes(); }
     QString status() const { return m_front->statusBar()->currentMessage(); }
 
-    // Steps in the main window that open another one, which is worked in from here on.
+    // Steps in the main window that open another one, which is worked in from here on; "<" is back
+    // to the main window.
     void openWindow(const QString &steps)
     {
         const QStringList parts = steps.split('|');
         for (const QString &part : parts) {
-            work(part);
+            if (part.startsWith('<')) {
+                m_front = m_main.get();
+                m_hands = std::make_unique<hands>(*m_main);
+            }
+            work(part.mid(part.startsWith('<')));
             if (auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
                 opened && opened != m_front) {
                 m_front = opened;

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int pauseMs = 15;
+constexpr int waitsForWindow = 5;
 constexpr int guardMs = 200;
 constexpr int mostMs = 15000;
 
@@ -114,7 +115,7 @@ hands::hands(QWidget &window)
     window.show();
     window.raise();
     window.activateWindow();
-    if (!QTest::qWaitForWindowActive(&window))
+    if (!QTest::qWaitFor([&window] { return window.isActiveWindow(); }))
         qFatal("the window does not become active");
 }
 
@@ -164,10 +165,12 @@ void hands::next()
     QWidget *now = front();
     if (now && (now->isActiveWindow() || QApplication::activePopupWidget())) {
         m_worked = now->window();
+        m_waits = 0;
     } else {
         if (!now)
             now = m_worked && m_worked->isVisible() ? m_worked.data() : &m_window;
-        now->activateWindow();
+        if (++m_waits % waitsForWindow == 0)
+            now->activateWindow();
         QTimer::singleShot(pauseMs, qApp, [this] { next(); });
         return;
     }

@@ -71,6 +71,7 @@ private:
     QStringList m_boxes;
     QWidget *m_lastBox = nullptr;
     QPointer<QWidget> m_worked; // the window that was in front last
+    int m_waits = 0;
     QString m_fault;
     bool m_running = false;
 };
