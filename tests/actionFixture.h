@@ -12,6 +12,14 @@
 #include <QUrl>
 #include <QWebFrame>
 
+struct scenario
+{
+    const char *name;
+    const char *steps;
+    const char *seen; // what look() takes
+};
+Q_DECLARE_METATYPE(const scenario *)
+
 enum class lockRule
 {
     edits,  // disabled while locked; one step takes it back
@@ -121,16 +129,30 @@ protected:
         return index.siblingAtColumn(column).data().toString();
     }
 
+    template <size_t Count>
+    static void addScenarios(const scenario (&table)[Count])
+    {
+        QTest::addColumn<const scenario *>("of");
+        for (const scenario &row : table)
+            QTest::newRow(row.name) << &row;
+    }
+    void live()
+    {
+        QFETCH(const scenario *, of);
+        steps(of->steps);
+        look(of->seen);
+    }
+
     // --- Tables of actions ---
 
     template <size_t Count>
-    static void addActions(const pressedAction (&table)[Count])
+    static void addActions(const pressedAction (&table)[Count], bool hasLock = true)
     {
         QTest::addColumn<const pressedAction *>("row");
         QTest::addColumn<bool>("locked");
         for (const pressedAction &row : table) {
             QTest::addRow("%s | %s", row.before, row.steps) << &row << false;
-            if (row.lock != lockRule::none)
+            if (hasLock && row.lock != lockRule::none)
                 QTest::addRow("%s | %s, locked", row.before, row.steps) << &row << true;
         }
     }

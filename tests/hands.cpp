@@ -235,7 +235,10 @@ QString hands::perform(const QString &step)
                 continue;
             if (!widget->isEnabled())
                 return "it is disabled";
-            QTest::mouseClick(widget, Qt::LeftButton);
+            // Beyond its text a radio button or check box takes no click.
+            const bool isPush = !button || !button->isCheckable();
+            QTest::mouseClick(widget, Qt::LeftButton, {},
+                              isPush ? widget->rect().center() : QPoint(8, widget->height() / 2));
             return {};
         }
         return "there is no such widget";

@@ -13,15 +13,6 @@
 
 #define EDIT "orderLines@0,1 F2 Ctrl+A 'Żuk' Return "
 
-struct scenario
-{
-    const char *name;
-    const char *steps;
-    const char *seen;
-};
-
-Q_DECLARE_METATYPE(const scenario *)
-
 const scenario scenarios[] = {
     // --- Opening and beginning ---
     {"open, thought better of", EDIT "Ctrl+O !Cancel",
@@ -148,18 +139,8 @@ class tst_order : public actionFixture
     }
 
 private slots:
-    void life_data()
-    {
-        QTest::addColumn<const scenario *>("of");
-        for (const scenario &row : scenarios)
-            QTest::newRow(row.name) << &row;
-    }
-    void life()
-    {
-        QFETCH(const scenario *, of);
-        steps(of->steps);
-        look(of->seen);
-    }
+    void life_data() { addScenarios(scenarios); }
+    void life() { live(); }
 
     void lockedWhileMaterialsAreChosen()
     {
