@@ -29,13 +29,16 @@ protected:
     QStringList boxes() { return m_hands->boxes(); }
     QString status() const { return m_front->statusBar()->currentMessage(); }
 
-    // Steps in the main window that open another one, which is worked in from here on.
+    // Steps in the main window that open another one, which is worked in from here on; parts stand between "|", and "<"
+    // begins one in the main window.
     void openWindow(const QString &steps)
     {
         const QStringList parts = steps.split('|');
         for (const QString &part : parts) {
             const QList<QMainWindow *> before = shownWindows();
-            work(part);
+            if (part.startsWith('<'))
+                turnTo(*m_main);
+            work(part.mid(part.startsWith('<')));
             auto *opened = qobject_cast<QMainWindow *>(QApplication::activeWindow());
             for (QMainWindow *shown : shownWindows())
                 if (!before.contains(shown))
@@ -58,6 +61,20 @@ protected:
     {
         m_front = &opened;
         m_hands = std::make_unique<hands>(opened);
+    }
+
+    // The program begins, and offers what its last run left unsaved; steps answer that.
+    void start()
+    {
+        m_main = std::make_unique<MainWindow>(programData::instance());
+        turnTo(*m_main);
+    }
+    void restart(const QString &steps)
+    {
+        end();
+        start();
+        QTimer::singleShot(0, m_main.get(), &MainWindow::offerRecovery);
+        work("~50 " + steps);
     }
 
     // Called before the main window is made: other files, other options.
@@ -84,20 +101,23 @@ private slots:
         userState::instance().lastZp = "_zp/zp_0.xml";
         prepare();
         m_seen = std::make_unique<seenPrompts>();
-        m_main = std::make_unique<MainWindow>(programData::instance());
-        m_front = m_main.get();
-        m_hands = std::make_unique<hands>(*m_main);
+        start();
     }
     void cleanup()
     {
-        m_hands.reset();
-        m_main.reset();
-        programData::instance().clear();
+        end();
         m_seen.reset();
         m_folder.reset();
     }
 
 private:
+    void end()
+    {
+        m_hands.reset();
+        m_main.reset();
+        programData::instance().clear();
+    }
+
     std::unique_ptr<testSupport::programFolder> m_folder;
     std::unique_ptr<seenPrompts> m_seen;
     std::unique_ptr<MainWindow> m_main;

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListView>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -16,6 +17,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QWindow>
 
@@ -25,6 +27,7 @@ constexpr int pauseMs = 15;
 constexpr int guardMs = 200;
 constexpr int mostMs = 15000;
 constexpr int mostWaits = 100;
+constexpr int waitsForWindow = 5;
 
 // The window that takes keys now.
 QWidget *front()
@@ -36,11 +39,14 @@ QWidget *front()
     return QApplication::activeWindow();
 }
 
-// While a list pops up below an editor no window has the focus.
+// A list that completes what is typed comes and goes; the keys are meant for the field.
 QWindow *keyWindow()
 {
-    QWindow *focus = QApplication::activePopupWidget() ? nullptr : QGuiApplication::focusWindow();
-    return focus || !front() ? focus : front()->windowHandle();
+    QWidget *popup = QApplication::activePopupWidget();
+    const QWidget *focus = QApplication::focusWidget();
+    if (popup && !qobject_cast<QListView *>(popup))
+        return popup->windowHandle();
+    return focus ? focus->window()->windowHandle() : front() ? front()->windowHandle() : nullptr;
 }
 
 void press(int key, Qt::KeyboardModifiers modifiers = {})
@@ -96,13 +102,26 @@ seenPrompts::seenPrompts()
 
 seenPrompts::~seenPrompts() { installPrompts(m_before); }
 
+void seenPrompts::listError(const QString &html)
+{
+    listed += html;
+    if (showsErrors)
+        dialogPrompts::listError(html);
+}
+
+void seenPrompts::showErrors()
+{
+    if (showsErrors)
+        dialogPrompts::showErrors();
+}
+
 hands::hands(QWidget &window)
     : m_window(window)
 {
     window.show();
     window.raise();
     window.activateWindow();
-    if (!QTest::qWaitForWindowActive(&window))
+    if (!QTest::qWaitFor([&window] { return window.isActiveWindow(); }))
         qFatal("the window does not become active");
 }
 
@@ -131,7 +150,7 @@ void hands::operator()(const QString &steps)
             open->close();
     });
     guard.start(guardMs);
-    QTimer::singleShot(0, qApp, [this] { next(); });
+    QTimer::singleShot(0, &m_context, [this] { next(); });
     while (m_running && time.elapsed() < mostMs + 1000)
         QTest::qWait(1);
     QTest::qWait(pauseMs);
@@ -147,29 +166,35 @@ void hands::next()
         m_running = false;
         return;
     }
-    // A box takes keys a moment after it was opened; once it has closed, a window manager gives
-    // them to the window before.
-    QWidget *window = front();
-    const bool takesKeys =
-        QApplication::activePopupWidget() || (window && window->windowHandle() == QGuiApplication::focusWindow());
-    if (!takesKeys && ++m_waits < mostWaits) {
-        if (!window && m_window.isVisible())
-            window = &m_window;
-        if (window)
-            window->activateWindow();
-        QTimer::singleShot(pauseMs, qApp, [this] { next(); });
+    // Here no window manager brings the window below to the front when a box goes; and a box that
+    // just comes up takes no keys yet.
+    QWidget *now = front();
+    const bool takesKeys = now && (now->isActiveWindow() || QApplication::activePopupWidget());
+    if (!takesKeys && m_waits < mostWaits) {
+        if (!now)
+            now = m_worked && m_worked->isVisible() ? m_worked.data() : &m_window;
+        if (++m_waits % waitsForWindow == 0)
+            now->activateWindow();
+        QTimer::singleShot(pauseMs, &m_context, [this] { next(); });
         return;
     }
+    m_worked = now ? now->window() : nullptr;
     m_waits = 0;
     const QString step = m_steps.takeFirst();
     int wait = pauseMs;
     if (step.startsWith('~'))
         wait = step.mid(1).toInt();
-    QTimer::singleShot(wait, qApp, [this] { next(); });
+    // Letters open no box, and are many.
+    const bool isText = step.startsWith('\'');
+    const auto goOn = [this, wait] { QTimer::singleShot(wait, &m_context, [this] { next(); }); };
+    if (!isText)
+        goOn();
     if (const QString fault = perform(step); !fault.isEmpty() && m_fault.isEmpty()) {
         m_fault = step + ": " + fault;
         m_steps.clear();
     }
+    if (isText)
+        goOn();
 }
 
 void hands::noteBox()
@@ -214,8 +239,11 @@ QString hands::perform(const QString &step)
             if (!isIt || !widget->isVisible())
                 continue;
             // Through the window, which knows who gets what a disabled button does not take.
-            QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
-                              widget->mapTo(widget->window(), widget->rect().center()));
+            // Beyond its text a radio button or check box takes no click.
+            const bool isPush = !button || !button->isCheckable() || qobject_cast<QToolButton *>(button);
+            QTest::mouseClick(
+                widget->window()->windowHandle(), Qt::LeftButton, {},
+                widget->mapTo(widget->window(), isPush ? widget->rect().center() : QPoint(8, widget->height() / 2)));
             return {};
         }
         for (auto *bar : front()->findChildren<QTabBar *>())
@@ -261,9 +289,9 @@ QString hands::choose(const QString &name, bool mayBeDisabled)
         if (!letter.isNull())
             QTest::keyClick(menu, Qt::Key(letter.unicode()));
         menu->close();
-        const QString fault = "it is disabled: " + action->toolTip();
+        const QString fault = "is disabled: " + action->toolTip();
         if (mayBeDisabled)
-            m_boxes.append(fault);
+            m_boxes.append(name + ": " + fault);
         return mayBeDisabled ? QString() : fault;
     }
     if (!letter.isNull() && menu != context) {

@@ -4,11 +4,12 @@
 
 #include "window/dialogPrompts.h"
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QTreeView;
-class QWidget;
 
 // The program's real boxes and file dialogs; lines for the log and errors windows are noted.
 class seenPrompts : public dialogPrompts
@@ -17,11 +18,12 @@ public:
     seenPrompts();
     ~seenPrompts() override;
     void log(const QString &html) override { logged += html; }
-    void listError(const QString &html) override { listed += html; }
-    void showErrors() override {}
+    void listError(const QString &html) override;
+    void showErrors() override;
 
     QString logged;
     QString listed;
+    bool showsErrors = false; // errors go to their window, too
 
 private:
     prompts *m_before;
@@ -69,5 +71,7 @@ private:
     QWidget *m_lastBox = nullptr;
     QString m_fault;
     bool m_running = false;
+    QPointer<QWidget> m_worked; // the window that was in front last
+    QObject m_context; // what is still to be done goes with it
     int m_waits = 0; // since a window took keys last
 };

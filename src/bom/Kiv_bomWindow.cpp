@@ -162,6 +162,8 @@ bool Kiv_bomWindow::hasSets() const
                        [](const QStandardItem *file) { return bomTree::setsOf(file) > 0; });
 }
 
+QString Kiv_bomWindow::nothingBuilt() { return tr("no list is built: all numbers of sets are 0"); }
+
 void Kiv_bomWindow::updateActions()
 {
     const QList<QStandardItem *> files = bomTree::allFiles(model());
@@ -170,9 +172,9 @@ void Kiv_bomWindow::updateActions()
         built += bomTree::setsOf(file) > 0;
     for (const char *name : {"addFile", "addGroup", "save"})
         setAvailable(name, fault().isEmpty(), fault());
-    for (const char *name : {"set", "clear"})
-        setAvailable(name, built > 0, tr("no list is built: all numbers of sets are 0"));
-    for (const char *name : {"report", "allQuantities", "setAll"})
+    setAvailable("clear", built > 0, nothingBuilt());
+    // "set" takes a number that is still being typed.
+    for (const char *name : {"set", "report", "allQuantities", "setAll"})
         setAvailable(name, !files.isEmpty(), tr("there is no list"));
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));

@@ -73,6 +73,7 @@ protected:
     QString fault() const override;
     QString closeQuestion() const override { return tr("Save the changed set of BOM lists?"); }
     void updateActions() override;
+    static QString nothingBuilt();
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);

@@ -64,6 +64,8 @@ void Kiv_bomWindow::commandSet(bool)
     for (QStandardItem *file : bomTree::allFiles(model()))
         if (bomTree::setsOf(file) > 0)
             built.append(file);
+    if (built.isEmpty())
+        tell(nothingBuilt());
     const readLists read = this->read(built);
     // Half of what is built would be ordered unnoticed.
     if (read.complete && !read.lists.empty())

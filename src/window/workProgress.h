@@ -48,6 +48,7 @@ private:
     QToolButton *m_cancel;
     QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sincePaint;
+    const QWidget *m_modal = nullptr; // the box that was open when the work began
     int m_depth = 0;
     bool m_cancelled = false;
 };

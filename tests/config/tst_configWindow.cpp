@@ -75,7 +75,7 @@ private slots:
         QCOMPARE(mainWindow().findChild<QTreeView *>("orderLines")->font().pixelSize(), 20);
         // Sorting ends the history, not the changes.
         work("!Persons persons@0,4 F2 Ctrl+A 'Newer' Return persons@^4 #-undo Ctrl+W Escape");
-        QVERIFY(boxes().value(0).contains("it is disabled: Undo") && window().isVisible());
+        QVERIFY(boxes().value(0).contains("is disabled: Undo") && window().isVisible());
         work("Ctrl+W !No");
         QVERIFY(!window().isVisible());
         QVERIFY(!testSupport::read(file()).contains("Newer"));

@@ -1,144 +1,188 @@
-// The main window on the sample data.
-#include "testSupport.h"
+// The actions of the main window, one by one, and its start.
+#include "scenarioFixture.h"
 
-#include "data/programData.h"
-#include "order/orderDocument.h"
 #include "report/myWebView.h"
-#include "shell/MainWindow.h"
 #include "shell/startupDialog.h"
-#include "util/userState.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QStatusBar>
 #include <QWheelEvent>
 
-class tst_mainWindow : public QObject
-{
-    Q_OBJECT
-private slots:
-    void init();
-    void cleanup();
-    void stagesAdvanceTheSplash();
-    void actionsAreReachable();
-    void printAsksForAFile();
-    void wheelZooms();
+#define EDIT "orderLines@0,1 F2 Ctrl+A 'Żuk' Return"
 
-private:
-    std::unique_ptr<testSupport::programFolder> m_folder;
-    std::unique_ptr<testSupport::recordingPrompts> m_shown;
+using enum lockRule;
+const pressedRow actions[] = {
+    {"zpNew", EDIT, "#zpNew !No", "orderLines = 0; orderOptions@1,1 = {+0}; title = Order"},
+    {"zpOpen", "", "#zpOpen '%/_zp/one.xml' Return", "orderLines = 1; orderLines@0,1 = ONE", reads},
+    {"save", EDIT, "#save",
+     "status = Saved; title = Order; file _zp/zp_0.xml ~ <name>Żuk<; log ~ Save file <b>zp_0.xml; "
+     "files backup/zp_0.*.xml ~ zp_0",
+     reads},
+    {"zpSaveAs", EDIT, "#zpSaveAs Ctrl+A '%/o.xml' Return",
+     "file o.xml ~ Żuk; file o.html ~ Żuk; file _zp/zp_0.xml !~ Żuk; status = Saved as %/o.xml", reads},
+    {"zpPrint", "", "#zpPrint Ctrl+A '%/p&o' Return",
+     "file p&o.pdf ~ PDF-1; log ~ Print to file <b>p&amp;o.pdf; status = Printed to %/p&o.pdf", reads},
+    {"zpPrint", "", "#zpPrint Ctrl+A '%/_zp/zp_0.xml/p.pdf' Return Return", "boxes ~ cannot be written"},
+    {"zpSend", "", "#zpSend", "status ~ the message is %/_e-mail/msg_; title = Order", reads},
+    {"zpSend", EDIT, "#zpSend !No", "files _e-mail/*.cmd = ; title = Order *"},
+    {"archiveDD", "", "#archiveDD", "status ~ Archived as; files backup/*.archive.* ~ zp_0", reads},
+    {"archiveDatabase", "", "#archiveDatabase", "status ~ 4 database; files backup/*.archive.* ~ db_mechanics", reads},
+    {"sendDatabase", "", "#sendDatabase", "status ~ the message is", reads},
+    {"sendBoms", "", "#sendBoms", "status ~ the message is", reads},
+    {"exit", "", "#exit", "title = closed; boxes ="},
+    {"edit", "", "#edit", "status = Editing is locked"},
+    {"edit", "#edit", "#edit", "status = Editing is allowed"},
+    {"undo", EDIT, "#undo", "status ~ Undone: ; orderLines@0,1 = STM32F103C8T6; title = Order"},
+    {"undo", EDIT " Ctrl+E", "#undo", "status = Editing is locked; orderLines@0,1 = Żuk"},
+    {"redo", EDIT " Ctrl+Z", "#redo", "status ~ Done again: ; orderLines@0,1 = Żuk"},
+    {"redo", EDIT " Ctrl+Z Ctrl+E", "#redo", "status = Editing is locked; title = Order"},
+    {"copyCells", "orderLines@0,1 +orderLines@1,5", "#copyCells", "clipboard = STM32F103C8T6\n25", reads},
+    {"pasteCells", "orderLines@1,5 Ctrl+C orderLines@6,5", "#pasteCells", "orderLines@6,5 = 25", edits},
+    {"zpCopy", "", "#zpCopy !Copy", "status ~ 21 line; clipboard ~ STM32F103C8T6", reads},
+    {"zpClear", "", "#zpClear Down Space !Clear", "orderLines:2 =; orderLines@1,1 ~ AMS", edits},
+    {"find", "", "#find 'bezpiecznik' Return", "status = Found in line 16", reads},
+    {"findNext", "Ctrl+F 'rezystor' Return", "#findNext", "status = Found in line 6", reads},
+    {"zpConfig", "", "#zpConfig", "focus = orderOptions", reads},
+    {"editAttentions", "", "#editAttentions Ctrl+Home 'Żuk' !OK", "attentions ~ Żuk", guards},
+    {"addMaterial", "", "#addMaterial ~60 'stm32f103' Return Escape", "orderLines = 22; orderLines@21,1 = STM32F103C8T6",
+     edits},
+    {"addShipment", "", "#addShipment",
+     "orderLines = 22; orderLines@21,11 = SRV-000.101; orderLines@21,8 = SHIPMENT; "
+     "orderLines@21,7 = {+0}; orderLines@21,0 = 22",
+     edits},
+    {"addPCB", "orderLines@19,1 Del", "#addPCB", "orderLines = 21; orderLines@20,11 = SRV-001.100", edits},
+    {"addPCB", "", "#addPCB Return", "boxes = Information: Only one PCB order; orderLines = 21"},
+    {"appendBom", "", "#appendBom", "front = Bill of materials", guards},
+    {"allQuantities", "", "#allQuantities '12' Return", "orderLines:5 = 12", edits},
+    {"allQuantities", "orderLines@1,2 +orderLines@3,2", "orderLines@?1,2 #allQuantities '12' Return !2_selected_lines",
+     "orderLines@1,5 = 12; orderLines@3,5 = 12; orderLines@2,5 = 25", edits},
+    {"allDates", "", "#allDates Down Return", "orderLines:7 = {+21}", edits},
+    {"allDescriptions", "", "#allDescriptions 'x' Return", "orderLines:8 = x", edits},
+    {"allRoHS", "", "#allRoHS Up Return", "orderLines:9 = NIE", edits},
+    {"allUnits", "", "#allUnits Down Down Return", "orderLines:6 = tape", edits},
+    {"allTargets", "", "#allTargets !Yes Down Return", "orderLines:10 ~ 31", edits},
+    {"allTargets", "", "#allTargets !No", "title = Order"},
+    {"allDates", "", "#allDates Escape", "title = Order"},
+    {"allSum", "", "#allSum Return", "boxes ~ [ PLN ]", reads},
+    {"clearPrice", "", "#clearPrice", "orderLines:2 = 0.00; orderLines:3 = 0.00", edits},
+    {"refreshPrices", "#clearPrice", "#refreshPrices !Yes", "orderLines@0,2 = 18.50", edits},
+    {"deleteLines", "orderLines@0,1 +orderLines@2,1 +orderLines@20,1", "orderLines@?2,1 #deleteLines",
+     "orderLines = 18; orderLines@0,1 = AMS1117-3.3; "
+     "orderLines@0,0 = 1",
+     edits},
+    {"deleteAll", "", "#deleteAll !Yes #-allDates", "orderLines = 0; boxes ~ has no lines", edits},
+    {"database", "", "#database Return", "front ~ db_warehouse.xml"},
+    {"bom", "", "#bom", "front = Bill of materials"},
+    {"firm", "", "#firm", "front = List of manufacturers and suppliers"},
+    {"messageTemplate", "", "#messageTemplate Ctrl+End ' Dziękuję' !OK",
+     "file _e-mail/msg_template.htm ~ Dziękuję; file _e-mail/msg_template.htm ~ {Do_no}"},
+    {"messageTemplate", "", "#messageTemplate !OK", "file _e-mail/msg_template.htm = <p>Order <b>{Do_no}</b></p>"},
+    {"config", "", "#config", "front = Configuration"},
+    {"previewBeside", "#previewBeside", "#previewBeside", "orderLines = 21"},
+    {"previewBeside", EDIT, "#previewBeside ~400", "page ~ Żuk"},
+    {"log", "", "#log", "front = Log"},
+    {"errors", "", "#errors", "front = Errors"},
+    {"help", "", "#help", "desktop = file://%/_help/KIV_ZP.html"},
+    {"about", "", "#about Escape", "boxes = About"},
 };
 
-void tst_mainWindow::init()
+class tst_mainWindow : public scenarioFixture
 {
-    m_folder = std::make_unique<testSupport::programFolder>();
-    m_shown = std::make_unique<testSupport::recordingPrompts>();
-    for (const char *folder : {"_config", "_files", "_zp"})
-        testSupport::copyFolder(testSupport::source(folder), m_folder->path(folder));
-    userState::instance().lastZp = "_zp/zp_0.xml";
-}
+    Q_OBJECT
 
-void tst_mainWindow::cleanup()
-{
-    programData::instance().clear();
-    m_shown.reset();
-    m_folder.reset();
-}
-
-void tst_mainWindow::stagesAdvanceTheSplash()
-{
-    // A file that is switched off has its stage all the same.
-    configStruct config;
-    QVERIFY(config.load(m_folder->path("_config/kiv_mat_config.xml")));
-    config.options.findOption("LOAD_DB_MECHANICS")->value1 = "NIE";
-    QVERIFY(config.save(m_folder->path("_config/kiv_mat_config.xml")));
-
-    class watchedSplash : public startupDialog
+    void prepare() override
     {
-    public:
-        QStringList seen;
-
-    protected:
-        void drawContents(QPainter *painter) override
-        {
-            const QString step = QString("%1/%2").arg(progress()).arg(maximum());
-            if (seen.isEmpty() || seen.last() != step)
-                seen.append(step);
-            startupDialog::drawContents(painter);
-        }
-    };
-    watchedSplash dialog;
-    QCOMPARE(dialog.maximum(), 100);
-    splash::hold(&dialog);
-    splash::setProgress(0, 10);
-    splash::show();
-    QCoreApplication::processEvents();
-    const MainWindow window(programData::instance());
-    splash::hold(nullptr);
-    splash::setProgress(3, 4);
-    QCOMPARE(dialog.seen.join(' '), QString("0/10 1/9 2/9 3/9 4/9 5/9 6/9 7/9 8/9 9/9"));
-    // The order has lines of the database left out.
-    QVERIFY2(m_shown->listed.startsWith("Materials does not exist in database:<br><b>"), qPrintable(m_shown->listed));
-    QVERIFY(m_shown->logged.startsWith("Open file <b>zp_0.xml</b> ["));
-    QVERIFY(programData::instance().database(programData::mechanics).groups.empty());
-    QVERIFY(programData::instance().materials().find("SRV-000.100"));
-}
-
-void tst_mainWindow::actionsAreReachable()
-{
-    const MainWindow window(programData::instance());
-    QCOMPARE(window.windowTitle(), QString("Order"));
-
-    QSet<QString> shortcuts;
-    for (const QAction *action : window.findChildren<QAction *>()) {
-        if (action->objectName().isEmpty() || action->isSeparator())
-            continue;
-        QVERIFY2(!action->icon().isNull() && !action->icon().availableSizes().isEmpty(),
-                 qPrintable(action->objectName()));
-        const QString shortcut = action->shortcut().toString();
-        QVERIFY2(shortcut.isEmpty() || !shortcuts.contains(shortcut), qPrintable(shortcut));
-        shortcuts.insert(shortcut);
+        scenarioFixture::prepare();
+        for (const char *name : {"_e-mail", "_bin"})
+            testSupport::copyFolder(testSupport::source(name), path(name));
+        QFile::remove(path("_e-mail/KIV_EMAIL.exe"));
+        folder().write("_help/KIV_ZP.html", "manual");
+        folder().write("_e-mail/msg_template.htm", "<p>Order <b>{Do_no}</b></p>");
+        folder().write("_zp/one.xml", testSupport::order("<order_items><order_item><name>ONE</name>"
+                                                         "</order_item></order_items>"));
     }
-    QVERIFY(shortcuts.contains("Ctrl+P"));
-}
 
-void tst_mainWindow::printAsksForAFile()
-{
-    MainWindow window(programData::instance());
-    m_shown->logged.clear();
-    window.commandZpPrint(true);
-    QCOMPARE(m_shown->proposed, m_folder->path("_zp/zp_0.pdf"));
-    QCOMPARE(m_shown->logged, QString());
-    m_shown->file = m_folder->path("print & more/o");
-    window.commandZpPrint(true);
-    QVERIFY(testSupport::read(m_shown->file + ".pdf").startsWith("%PDF"));
-    QCOMPARE(m_shown->logged, "Print to file <b>o.pdf</b> [" + QString(m_shown->file).toHtmlEscaped() + ".pdf]<br>");
-    QVERIFY(window.statusBar()->currentMessage().contains("o.pdf"));
-    m_shown->file = m_folder->path("_zp/zp_0.xml/o.pdf");
-    window.commandZpPrint(true);
-    QCOMPARE(m_shown->errors.size(), 1);
-}
+private slots:
+    void action_data() { addActions(actions); }
+    void action() { pressAction(); }
+    void allActions() { noneIsMissing(actions); }
 
-void tst_mainWindow::wheelZooms()
-{
-    myWebView view;
-    view.showReport("<p>x</p>");
-    const auto wheel = [&view](int delta, Qt::KeyboardModifiers modifiers) {
-        QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, delta), Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&view, &event);
-        return float(view.zoomFactor());
-    };
-    QCOMPARE(wheel(120, Qt::NoModifier), 1.0f);
-    QCOMPARE(wheel(-360, Qt::ControlModifier), 0.7f);
-    QCOMPARE(wheel(100, Qt::ControlModifier), 0.7f);
-    QCOMPARE(wheel(-119, Qt::ControlModifier), 0.7f);
-    QCOMPARE(wheel(480, Qt::ControlModifier), 1.1f);
-    // There is no lower bound.
-    wheel(-120 * 20, Qt::ControlModifier);
-    view.showReport("<p>x</p>");
-    QVERIFY(wheel(120 * 20, Qt::ControlModifier) > 1.0);
-}
+    // What is attached is there when the mail program reads the message, and goes with the program.
+    void sent_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("attached");
+        QTest::addColumn<QByteArray>("begins");
+        QTest::newRow("order") << EDIT " Ctrl+M !Yes"
+                               << ".pdf" << QByteArray("%PDF");
+        for (const char *name : {"Database", "Boms"})
+            QTest::newRow(name) << QString("#send%1").arg(name) << QString("/%1_").arg(name).toLower()
+                                << QByteArray("PK");
+    }
+    void sent()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QString, attached);
+        QFETCH(QByteArray, begins);
+        work(steps);
+        const QString message = testSupport::read(status().section("the message is ", 1));
+        const QString file = message.section("attachment", -1).section('[', 1).section(']', 0, 0);
+        QVERIFY2(file.contains(attached), qPrintable(message));
+        QVERIFY(testSupport::read(file).startsWith(begins));
+        if (attached == ".pdf")
+            QVERIFY(message.contains(path("_zp/zp_0.xml") + ']'));
+        work("Ctrl+Q");
+        QVERIFY(!QFile::exists(file));
+    }
+
+    void stagesAdvanceTheSplash()
+    {
+        class watchedSplash : public startupDialog
+        {
+        public:
+            QStringList seen;
+
+        protected:
+            void drawContents(QPainter *painter) override
+            {
+                const QString step = QString("%1/%2").arg(progress()).arg(maximum());
+                if (seen.isEmpty() || seen.last() != step)
+                    seen.append(step);
+                startupDialog::drawContents(painter);
+            }
+        };
+        // A file that is switched off has its stage all the same.
+        setOption("LOAD_DB_MECHANICS", "NIE");
+        watchedSplash dialog;
+        splash::hold(&dialog);
+        splash::setProgress(0, 10);
+        splash::show();
+        QCoreApplication::processEvents();
+        restart("");
+        splash::hold(nullptr);
+        QCOMPARE(dialog.seen.join(' '), QString("0/10 1/9 2/9 3/9 4/9 5/9 6/9 7/9 8/9 9/9"));
+        // The order has lines of the database left out.
+        look("errors ~ Materials does not exist in database:<br><b>");
+    }
+
+    void wheelZooms()
+    {
+        work("#previewBeside");
+        auto *view = window().findChild<myWebView *>();
+        const auto wheel = [view](int delta, Qt::KeyboardModifiers modifiers) {
+            QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, delta), Qt::NoButton, modifiers,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(view, &event);
+            return float(view->zoomFactor());
+        };
+        QCOMPARE(wheel(120, Qt::NoModifier), 1.0f);
+        QCOMPARE(wheel(-360, Qt::ControlModifier), 0.7f);
+        QCOMPARE(wheel(-119, Qt::ControlModifier), 0.7f);
+        QCOMPARE(wheel(480, Qt::ControlModifier), 1.1f);
+        // There is no lower bound.
+        wheel(-120 * 20, Qt::ControlModifier);
+        view->showReport("<p>x</p>");
+        QVERIFY(wheel(120 * 20, Qt::ControlModifier) > 1.0);
+    }
+};
 
 KIVZP_TEST(tst_mainWindow)
 #include "tst_mainWindow.moc"
