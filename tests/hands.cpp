@@ -23,6 +23,7 @@ namespace {
 
 constexpr int pauseMs = 15;
 constexpr int waitsForWindow = 5;
+constexpr int mostWaits = 200;
 constexpr int guardMs = 200;
 constexpr int mostMs = 15000;
 
@@ -144,7 +145,7 @@ void hands::operator()(const QString &steps)
             open->close();
     });
     guard.start(guardMs);
-    QTimer::singleShot(0, qApp, [this] { next(); });
+    QTimer::singleShot(0, &m_context, [this] { next(); });
     while (m_running && time.elapsed() < mostMs + 1000)
         QTest::qWait(1);
     QTest::qWait(pauseMs);
@@ -169,9 +170,14 @@ void hands::next()
     } else {
         if (!now)
             now = m_worked && m_worked->isVisible() ? m_worked.data() : &m_window;
-        if (++m_waits % waitsForWindow == 0)
+        if (++m_waits > mostWaits) {
+            m_fault = "no window is in front before " + m_steps.join(' ');
+            m_running = false;
+            return;
+        }
+        if (m_waits % waitsForWindow == 0)
             now->activateWindow();
-        QTimer::singleShot(pauseMs, qApp, [this] { next(); });
+        QTimer::singleShot(pauseMs, &m_context, [this] { next(); });
         return;
     }
     const QString step = m_steps.takeFirst();
@@ -179,7 +185,7 @@ void hands::next()
     if (step.startsWith('~'))
         wait = step.mid(1).toInt();
     const bool isText = step.startsWith('\'');
-    const auto goOn = [this, wait] { QTimer::singleShot(wait, qApp, [this] { next(); }); };
+    const auto goOn = [this, wait] { QTimer::singleShot(wait, &m_context, [this] { next(); }); };
     if (!isText)
         goOn();
     if (const QString fault = perform(step); !fault.isEmpty() && m_fault.isEmpty()) {

@@ -67,6 +67,7 @@ private:
     void noteBox();
 
     QWidget &m_window;
+    QObject m_context; // no step comes after its hands are gone
     QStringList m_steps;
     QStringList m_boxes;
     QWidget *m_lastBox = nullptr;
