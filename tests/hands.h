@@ -72,6 +72,6 @@ private:
     QString m_fault;
     bool m_running = false;
     QPointer<QWidget> m_worked; // the window that was in front last
-    QObject m_context; // what is still to be done goes with it
-    int m_waits = 0; // since a window took keys last
+    QObject m_context;          // what is still to be done goes with it
+    int m_waits = 0;            // since a window took keys last
 };

@@ -93,8 +93,8 @@ const scenario scenarios[] = {
     {"options for the next start", "#config|options@6,1 F2 Ctrl+A '20' Return options@31,1 F2 Up Return Ctrl+S Return",
      "boxes ~ count from the next start on; title = Configuration; "
      "file _config/kiv_mat_config.xml ~ FONT_SIZE\" value1=\"20"},
-    {"a sorted page stays changed", "#config|!Persons persons@0,4 F2 Ctrl+A 'Żuk' Return persons@^4 #-undo Ctrl+W !Cancel",
-     "title = Configuration *"},
+    {"a sorted page stays changed",
+     "#config|!Persons persons@0,4 F2 Ctrl+A 'Żuk' Return persons@^4 #-undo Ctrl+W !Cancel", "title = Configuration *"},
 };
 
 class tst_order : public scenarioFixture

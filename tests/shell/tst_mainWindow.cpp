@@ -42,8 +42,8 @@ const pressedRow actions[] = {
     {"findNext", "Ctrl+F 'rezystor' Return", "#findNext", "status = Found in line 6", reads},
     {"zpConfig", "", "#zpConfig", "focus = orderOptions", reads},
     {"editAttentions", "", "#editAttentions Ctrl+Home 'Żuk' !OK", "attentions ~ Żuk", guards},
-    {"addMaterial", "", "#addMaterial ~60 'stm32f103' Return Escape", "orderLines = 22; orderLines@21,1 = STM32F103C8T6",
-     edits},
+    {"addMaterial", "", "#addMaterial ~60 'stm32f103' Return Escape",
+     "orderLines = 22; orderLines@21,1 = STM32F103C8T6", edits},
     {"addShipment", "", "#addShipment",
      "orderLines = 22; orderLines@21,11 = SRV-000.101; orderLines@21,8 = SHIPMENT; "
      "orderLines@21,7 = {+0}; orderLines@21,0 = 22",
