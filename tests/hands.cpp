@@ -27,6 +27,8 @@ constexpr int pauseMs = 15;
 constexpr int guardMs = 200;
 constexpr int mostMs = 15000;
 constexpr int mostWaits = 100;
+const QLatin1String notThere("there is no such");
+const QLatin1String notOpen("its menu does not open");
 constexpr int waitsForWindow = 5;
 
 // The window that takes keys now.
@@ -169,7 +171,7 @@ void hands::next()
     // Here no window manager brings the window below to the front when a box goes; and a box that
     // just comes up takes no keys yet.
     QWidget *now = front();
-    const bool takesKeys = now && (now->isActiveWindow() || QApplication::activePopupWidget());
+    const bool takesKeys = now && keyWindow() && (now->isActiveWindow() || QApplication::activePopupWidget());
     if (!takesKeys && m_waits < mostWaits) {
         if (!now)
             now = m_worked && m_worked->isVisible() ? m_worked.data() : &m_window;
@@ -189,7 +191,14 @@ void hands::next()
     const auto goOn = [this, wait] { QTimer::singleShot(wait, &m_context, [this] { next(); }); };
     if (!isText)
         goOn();
-    if (const QString fault = perform(step); !fault.isEmpty() && m_fault.isEmpty()) {
+    const QString fault = perform(step);
+    // What is looked for may still be coming up.
+    if ((fault.startsWith(notThere) || fault == notOpen) && ++m_looks < mostWaits) {
+        m_steps.prepend(step);
+        return;
+    }
+    m_looks = 0;
+    if (!fault.isEmpty() && m_fault.isEmpty()) {
         m_fault = step + ": " + fault;
         m_steps.clear();
     }
@@ -252,7 +261,7 @@ QString hands::perform(const QString &step)
                     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
                     return {};
                 }
-        return "there is no such widget";
+        return notThere + QString(" widget");
     }
     if (step.contains('@'))
         return clickCell(step);
@@ -282,7 +291,7 @@ QString hands::choose(const QString &name, bool mayBeDisabled)
             return "its menu has no letter";
         press(letter.unicode(), Qt::AltModifier);
         if (QApplication::activePopupWidget() != menu)
-            return "its menu does not open";
+            return notOpen;
     }
     const QChar letter = mnemonicOf(action->text());
     if (!action->isEnabled()) {
@@ -314,7 +323,7 @@ QString hands::clickCell(const QString &step)
         return "no such step";
     QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
     if (!view || !view->isVisible())
-        return "there is no such tree in front";
+        return notThere + QString(" tree in front");
     if (match.captured(3) == "@^") {
         const QHeaderView *header = view->header();
         const int left = header->sectionViewportPosition(match.captured(5).toInt());

@@ -73,5 +73,6 @@ private:
     bool m_running = false;
     QPointer<QWidget> m_worked; // the window that was in front last
     QObject m_context;          // what is still to be done goes with it
+    int m_looks = 0;            // for what a step names
     int m_waits = 0;            // since a window took keys last
 };
