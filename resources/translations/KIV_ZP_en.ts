@@ -229,6 +229,23 @@
     </message>
 </context>
 <context>
+    <name>cellBlock</name>
+    <message numerus="yes">
+        <source>%n line(s) past the last row</source>
+        <translation>
+            <numerusform>%n line past the last row</numerusform>
+            <numerusform>%n lines past the last row</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pasted line(s) go past the last row. Add rows for them?</source>
+        <translation>
+            <numerusform>%n pasted line goes past the last row. Add a row for it?</numerusform>
+            <numerusform>%n pasted lines go past the last row. Add rows for them?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>changesDialog</name>
     <message numerus="yes">
         <source>%n change(s). What stays marked is taken over.</source>
@@ -628,6 +645,16 @@
         <translation>
             <numerusform>%n line without a price or quantity not counted</numerusform>
             <numerusform>%n lines without a price or quantity not counted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>typed</name>
+    <message numerus="yes">
+        <source>%1: at most %n decimal(s)</source>
+        <translation>
+            <numerusform>%1: at most %n decimal</numerusform>
+            <numerusform>%1: at most %n decimals</numerusform>
         </translation>
     </message>
 </context>

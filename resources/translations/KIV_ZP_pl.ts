@@ -451,10 +451,6 @@
         <translation>Edycja zablokowana</translation>
     </message>
     <message>
-        <source>no material was copied</source>
-        <translation>nie skopiowano materiału</translation>
-    </message>
-    <message>
         <source>no material is selected</source>
         <translation>nie zaznaczono materiału</translation>
     </message>
@@ -1367,10 +1363,6 @@
         <translation>Wklej</translation>
     </message>
     <message>
-        <source>Paste the copied materials into this group</source>
-        <translation>Wklej skopiowane materiały do tej grupy</translation>
-    </message>
-    <message>
         <source>Delete materials</source>
         <translation>Usuń materiały</translation>
     </message>
@@ -1806,6 +1798,10 @@
         <source>Edit the text that goes along with an order</source>
         <translation>Edytuj tekst dołączany do zamówienia</translation>
     </message>
+    <message>
+        <source>Paste the copied materials into this group, or the copied text into the cells from the current one on</source>
+        <translation>Wkleja skopiowane materiały do tej grupy albo skopiowany tekst do komórek od bieżącej</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -1934,6 +1930,38 @@
     <message>
         <source>These texts do not fit their cells:</source>
         <translation>Te teksty nie pasują do swoich komórek:</translation>
+    </message>
+    <message>
+        <source>this cell cannot be edited</source>
+        <translation>tej komórki nie można edytować</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) past the last row</source>
+        <translation>
+            <numerusform>%n wiersz za ostatnim wierszem</numerusform>
+            <numerusform>%n wiersze za ostatnim wierszem</numerusform>
+            <numerusform>%n wierszy za ostatnim wierszem</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; past the last column</source>
+        <translation>„%1” za ostatnią kolumną</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pasted line(s) go past the last row. Add rows for them?</source>
+        <translation>
+            <numerusform>%n wklejany wiersz wychodzi za ostatni. Dodać dla niego wiersz?</numerusform>
+            <numerusform>%n wklejane wiersze wychodzą za ostatni. Dodać dla nich wiersze?</numerusform>
+            <numerusform>%n wklejanych wierszy wychodzi za ostatni. Dodać dla nich wiersze?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add rows</source>
+        <translation>Dodaj wiersze</translation>
+    </message>
+    <message>
+        <source>Paste what fits</source>
+        <translation>Wklej to, co się mieści</translation>
     </message>
 </context>
 <context>
@@ -2687,6 +2715,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Errors</source>
         <translation>Błędy</translation>
+    </message>
+</context>
+<context>
+    <name>filterComboBox</name>
+    <message>
+        <source>Choices</source>
+        <translation>Pozycje do wyboru</translation>
+    </message>
+    <message>
+        <source>(nothing)</source>
+        <translation>(nic)</translation>
+    </message>
+    <message>
+        <source>%1 (as typed)</source>
+        <translation>%1 (jak wpisano)</translation>
     </message>
 </context>
 <context>
@@ -3736,6 +3779,37 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Date</source>
         <translation>Data</translation>
     </message>
+    <message>
+        <source>Typed date</source>
+        <translation>Wpisana data</translation>
+    </message>
+    <message>
+        <source>24.12 or +14</source>
+        <translation>24.12 lub +14</translation>
+    </message>
+</context>
+<context>
+    <name>myItem</name>
+    <message>
+        <source>A number is needed here</source>
+        <translation>Tu potrzebna jest liczba</translation>
+    </message>
+    <message>
+        <source>%1: dates from %2 to %3</source>
+        <translation>%1: daty od %2 do %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the list</source>
+        <translation>„%1” nie ma na liście</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither yes nor no</source>
+        <translation>„%1” to ani tak, ani nie</translation>
+    </message>
+    <message>
+        <source>This cell takes no text</source>
+        <translation>Ta komórka nie przyjmuje tekstu</translation>
+    </message>
 </context>
 <context>
     <name>needsDialog</name>
@@ -4167,6 +4241,41 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no number</source>
         <translation>%1 nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>typed</name>
+    <message>
+        <source>%1: either a comma or a point, before the decimals</source>
+        <translation>%1: przecinek albo kropka, tylko przed ułamkiem</translation>
+    </message>
+    <message>
+        <source>%1 is not a number</source>
+        <translation>%1 nie jest liczbą</translation>
+    </message>
+    <message>
+        <source>%1: the unit here is %2</source>
+        <translation>%1: jednostką jest tu %2</translation>
+    </message>
+    <message>
+        <source>%1: only a whole number makes sense here</source>
+        <translation>%1: tu ma sens tylko liczba całkowita</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: at most %n decimal(s)</source>
+        <translation>
+            <numerusform>%1: najwyżej %n miejsce po przecinku</numerusform>
+            <numerusform>%1: najwyżej %n miejsca po przecinku</numerusform>
+            <numerusform>%1: najwyżej %n miejsc po przecinku</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: from %2 to %3</source>
+        <translation>%1: od %2 do %3</translation>
+    </message>
+    <message>
+        <source>%1 is no date: write 24.12, 24.12.2026 or +14</source>
+        <translation>%1 nie jest datą: wpisz 24.12, 24.12.2026 albo +14</translation>
     </message>
 </context>
 <context>

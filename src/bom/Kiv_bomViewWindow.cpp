@@ -46,6 +46,11 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     , m_rows(std::make_unique<bomTree::lineRows>(
           bomTree::lineColumns(files.config(), files.materials())))
 {
+    m_rows->makeRecord = [] {
+        auto line = std::make_unique<materialStruct>();
+        line->d_quantity = QStringLiteral("1");
+        return line;
+    };
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/dialog_bom2_128.png")));
     addActions(actionTable);
     m_view = addView(tr("Lines of the BOM list"), "lines", this);

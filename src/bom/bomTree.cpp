@@ -231,6 +231,10 @@ treeColumns<materialStruct> lineColumns(const configStruct &config, const ktmInd
                 line.*member = text;
             };
         column.maximum = setsMaximum;
+        if (at.member == &material::d_quantity)
+            column.unit = [&materials](const material &line) {
+                return bomOperations::matched(line, materials).material->d_unit;
+            };
         if (at.cellKind == moneyKind)
             column.look = [pln](const material &, myItemStandard *cell) {
                 static_cast<myItemMoney *>(cell)->suffix = pln;

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 using myItem::myItemStandard;
 
 namespace cellBlock {
@@ -37,7 +39,10 @@ QString copied(const QModelIndexList &cells)
         if (before.isValid())
             text += QLatin1Char(
                 before.sibling(before.row(), 0) == cell.sibling(cell.row(), 0) ? '\t' : '\n');
-        text += oneLine(cell.data().toString());
+        const auto *model = qobject_cast<const myModel *>(cell.model());
+        const myItemStandard *item = model ? model->cell(cell) : nullptr;
+        if (!item || item->type() != myItem::passwordEditKind)
+            text += oneLine(cell.data().toString());
         before = cell;
     }
     return text;
@@ -75,47 +80,99 @@ std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows
     return grouped(std::move(members), model, view);
 }
 
-pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
-             const QList<int> &columns, const QString &text, htmlView *view)
-{
-    QString trimmed = text;
-    trimmed.remove(QLatin1Char('\r'));
-    if (trimmed.endsWith(QLatin1Char('\n')))
-        trimmed.chop(1);
-    QList<QStringList> block;
-    for (const QString &line : trimmed.split(QLatin1Char('\n')))
-        block.append(line.split(QLatin1Char('\t')));
+namespace {
 
+QList<QStringList> blockOf(QString text)
+{
+    text.remove(QLatin1Char('\r'));
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    QList<QStringList> block;
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        block.append(line.split(QLatin1Char('\t')));
+    return block;
+}
+
+// A date that another row of the column holds may be pasted, whatever a calendar offers.
+bool standsInColumn(const myModel *model, const QModelIndex &index, const QString &text)
+{
+    for (int row = 0; row < model->rowCount(index.parent()); ++row)
+        if (index.sibling(row, index.column()).data().toString() == text)
+            return true;
+    return false;
+}
+
+myItem::reading readPasted(const myModel *model, const QModelIndex &index,
+                           const myItemStandard &cell, const QString &text)
+{
+    if (cell.readOnly)
+        return {{}, QCoreApplication::translate("cellBlock", "this cell cannot be edited")};
+    myItem::reading read = model->read(cell, text);
+    if (!read.fault.isEmpty() && cell.type() == myItem::dateEditKind && !text.isEmpty()
+        && standsInColumn(model, index, text.trimmed()))
+        return {text.trimmed(), {}};
+    return read;
+}
+
+} // namespace
+
+int linesBeyond(const QModelIndex &start, const QString &text)
+{
+    const int rows = start.model()->rowCount(start.parent());
+    return std::max(0, start.row() + int(blockOf(text).size()) - rows);
+}
+
+pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
+             const QList<int> &columns, const QString &text, bool newRows, htmlView *view)
+{
+    const QList<QStringList> block = blockOf(text);
+    pasted result;
+    const changeBatch batch(model);
+    std::vector<std::unique_ptr<command>> members;
     // What goes where.
     QList<QPair<QModelIndex, QString>> targets;
     if (block.size() == 1 && block.first().size() == 1 && selected.size() > 1) {
         for (const QModelIndex &cell : selected)
             targets.append({cell, block.first().first()});
     } else {
+        const int beyond = linesBeyond(start, text);
+        for (int line = 0; line < beyond && newRows && model->records(); ++line)
+            if (const myItem::row added = model->records()->newRow(); !added.isEmpty())
+                members.push_back(std::make_unique<appendNewMaterial>(model, added));
+        if (const int lost = linesBeyond(start, text); lost > 0)
+            result.refused.append(QCoreApplication::translate(
+                "cellBlock", "%n line(s) past the last row", nullptr, lost));
         const int from = columns.indexOf(start.column());
         for (int r = 0; r < block.size(); ++r)
-            for (int c = 0; c < block[r].size() && from + c < columns.size(); ++c)
-                targets.append({start.sibling(start.row() + r, columns[from + c]), block[r][c]});
+            for (int c = 0; c < block[r].size(); ++c) {
+                if (from + c < columns.size())
+                    targets.append(
+                        {start.sibling(start.row() + r, columns[from + c]), block[r][c]});
+                else if (r == 0)
+                    result.refused.append(
+                        QCoreApplication::translate("cellBlock", "\"%1\" past the last column")
+                            .arg(block[r][c]));
+            }
     }
 
-    pasted result;
-    const changeBatch batch(model);
-    std::vector<std::unique_ptr<command>> members;
     for (const auto &[index, typed] : qAsConst(targets)) {
         myItemStandard *cell = model->cell(index);
         if (!cell || cell->text() == typed)
             continue;
-        const QVariant value = cell->readOnly ? QVariant() : myItem::parsed(*cell, typed);
-        if (!value.isValid())
+        const myItem::reading read = readPasted(model, index, *cell, typed);
+        if (!read.fault.isEmpty()) {
             result.refused.append(
                 QCoreApplication::translate("cellBlock", "%1, row %2: %3")
                     .arg(model->headerData(index.column(), Qt::Horizontal).toString())
                     .arg(index.row() + 1)
-                    .arg(typed));
-        else if (myItem::differs(*cell, value))
-            members.push_back(std::make_unique<changeValue>(model, cell, value));
+                    .arg(read.fault.contains(typed.trimmed())
+                             ? read.fault
+                             : typed.trimmed() + QLatin1String(", ") + read.fault));
+        } else if (read.value.isValid()) {
+            members.push_back(std::make_unique<changeValue>(model, cell, read.value));
+            ++result.changed;
+        }
     }
-    result.changed = int(members.size());
     result.change = grouped(std::move(members), model, view);
     return result;
 }

@@ -17,7 +17,7 @@ class myModel;
 namespace cellBlock {
 
 // The cells' texts: tabs between those of a row, a line for each row. Cells come in the order in
-// which they are seen. Tabs and line ends within a text become blanks.
+// which they are seen. Tabs and line ends within a text become blanks, passwords are left out.
 QString copied(const QModelIndexList &cells);
 
 enum whichCells
@@ -41,15 +41,20 @@ std::unique_ptr<command> clear(myModel *model, const QList<myItem::myItemStandar
 std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows,
                                     htmlView *view = nullptr);
 
+// How many lines of such a text, pasted from a cell on, find no row there.
+int linesBeyond(const QModelIndex &start, const QString &text);
+
 struct pasted
 {
     std::unique_ptr<command> change; // null when nothing changed
-    int changed = 0;
-    QStringList refused; // "column, row: text" of what does not fit its cell
+    int changed = 0;                 // cells
+    QStringList refused;             // "column, row: why", of what does not fit its cell
 };
 // Pastes tab-separated text into the cells from start on, to the right along the given columns and
-// down along its sisters; a single text goes into all the selected cells.
+// down along its sisters; a single text goes into all the selected cells. Lines past the last row
+// become new rows when asked for, where the tree can have them; else they are among the refused.
 pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
-             const QList<int> &columns, const QString &text, htmlView *view = nullptr);
+             const QList<int> &columns, const QString &text, bool newRows,
+             htmlView *view = nullptr);
 
 } // namespace cellBlock

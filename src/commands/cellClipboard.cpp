@@ -12,6 +12,17 @@
 
 namespace cellClipboard {
 
+namespace {
+
+bool canHaveNewRows(const myModel *model)
+{
+    const myItem::row probe = model->records()->newRow();
+    qDeleteAll(probe);
+    return !probe.isEmpty();
+}
+
+} // namespace
+
 int copy(const myTreeView *view)
 {
     QModelIndexList cells = view->selectedCells();
@@ -34,8 +45,22 @@ int paste(myTreeView *view, const std::function<void(std::unique_ptr<command>)> 
     const QModelIndex start = cells.isEmpty() ? view->currentIndex() : cells.first();
     if (!start.isValid())
         return 0;
-    cellBlock::pasted pasted = cellBlock::paste(static_cast<myModel *>(view->model()), start, cells,
-                                                columns, QApplication::clipboard()->text(), page);
+    auto *model = static_cast<myModel *>(view->model());
+    const QString text = QApplication::clipboard()->text();
+    bool newRows = false;
+    const int beyond = cellBlock::linesBeyond(start, text);
+    if (beyond > 0 && model->records() && canHaveNewRows(model)) {
+        const std::optional<int> answer = userPrompts().decide(
+            QCoreApplication::translate(
+                "cellBlock", "%n pasted line(s) go past the last row. Add rows for them?", nullptr,
+                beyond),
+            {QCoreApplication::translate("cellBlock", "Add rows"),
+             QCoreApplication::translate("cellBlock", "Paste what fits")});
+        if (!answer)
+            return 0;
+        newRows = answer == 0;
+    }
+    cellBlock::pasted pasted = cellBlock::paste(model, start, cells, columns, text, newRows, page);
     if (pasted.change)
         push(std::move(pasted.change));
     if (!pasted.refused.isEmpty()) {

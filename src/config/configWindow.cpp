@@ -36,6 +36,8 @@ const windowAction<configWindow> actionTable[] = {
     {usualActions::undo, &configWindow::commandUndo},
     {usualActions::redo, &configWindow::commandRedo},
     {usualActions::editSeparator, nullptr},
+    {usualActions::copyCells, &configWindow::commandCopyCells},
+    {usualActions::pasteCells, &configWindow::commandPasteCells},
     {{"add", "Edit", QT_TRANSLATE_NOOP("actions", "Add row"), "action_add_row", "Ins",
       QT_TRANSLATE_NOOP("actions", "Add a person or a target"), true},
      &configWindow::commandAdd},
@@ -215,6 +217,16 @@ bool configWindow::load()
     showOptions();
     m_personRows = std::make_unique<listRows<personStruct>>(personColumns());
     m_targetRows = std::make_unique<listRows<targetStruct>>(targetColumns());
+    m_personRows->makeRecord = [] {
+        auto person = std::make_unique<personStruct>();
+        person->type = optionKey::personAuthor;
+        return person;
+    };
+    m_targetRows->makeRecord = [] {
+        auto target = std::make_unique<targetStruct>();
+        target->type = optionKey::orderTarget;
+        return target;
+    };
     const auto show = [this](page at, auto &rows, auto &records) {
         myModel *model = modelOf(m_views[at]);
         model->setRecords(nullptr);
@@ -263,7 +275,7 @@ void configWindow::showOptions()
 
 void configWindow::updateActions()
 {
-    allowWhenUnlocked({"default"});
+    allowWhenUnlocked({"default", "pasteCells"});
     allowWhenUnlocked({"add", "delete"}, m_tabs->currentIndex() != optionsPage,
                       tr("options are neither added nor deleted"));
     setAvailable("save", m_fault.isEmpty(), m_fault);
@@ -271,18 +283,8 @@ void configWindow::updateActions()
 
 void configWindow::commandAdd(bool)
 {
-    const bool isPerson = m_tabs->currentIndex() == personsPage;
     myTreeView *view = currentView();
-    myItem::row items;
-    if (isPerson) {
-        auto person = std::make_unique<personStruct>();
-        person->type = optionKey::personAuthor;
-        items = m_personRows->makeDetachedRow(std::move(person));
-    } else {
-        auto target = std::make_unique<targetStruct>();
-        target->type = optionKey::orderTarget;
-        items = m_targetRows->makeDetachedRow(std::move(target));
-    }
+    const myItem::row items = modelOf(view)->records()->newRow();
     push(std::make_unique<appendNewMaterial>(modelOf(view), items), tr("Add row"));
     view->setCurrentIndex(view->model()->index(view->model()->rowCount() - 1, 0));
     view->setFocus();

@@ -12,6 +12,7 @@
 #include "window/workProgress.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDesktopServices>
@@ -19,6 +20,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTimer>
@@ -33,6 +35,8 @@ using myItem::myItemStandard;
 namespace {
 
 constexpr int filterDelayMs = 40;
+// What the clipboard holds while copied materials wait here.
+constexpr const char *materialsFormat = "application/x-kivzp-materials";
 const actionRow toolsSeparator{nullptr, "Tools", nullptr, nullptr, nullptr, nullptr, false};
 
 const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
@@ -68,7 +72,9 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Cut the selected materials")},
      &Kiv_mat_databaseWindow::commandCutMaterials},
     {{"pasteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Past"), "data_past_element2_128",
-      "Ctrl+V", QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group")},
+      "Ctrl+V",
+      QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group, or the copied "
+                                   "text into the cells from the current one on")},
      &Kiv_mat_databaseWindow::commandPasteMaterials},
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
@@ -208,10 +214,6 @@ void Kiv_mat_databaseWindow::buildWidgets()
     m_model->setCheck([this](const myItemStandard &item, const QVariant &value) {
         return faultOf(item, value.toString());
     });
-    connect(
-        m_model, &myModel::refused, this,
-        [](const QString &fault) { userPrompts().showError(fault.toHtmlEscaped()); },
-        Qt::QueuedConnection);
 
     m_words = new QLineEdit(page);
     m_words->setObjectName(QStringLiteral("words"));
@@ -298,7 +300,7 @@ void Kiv_mat_databaseWindow::updateActions()
 {
     allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
                        "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"});
-    allowWhenUnlocked({"pasteMaterials"}, !m_copied.empty(), tr("no material was copied"));
+    allowWhenUnlocked({"pasteMaterials"});
     if (m_merge)
         m_merge->updateActions();
 }
@@ -422,6 +424,10 @@ void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
     m_copied.clear();
     for (const materialStruct *material : selectedMaterials())
         m_copied.push_back(material->copy());
+    // Marks that materials, not cells, were copied last.
+    auto *mark = new QMimeData;
+    mark->setData(QLatin1String(materialsFormat), QByteArrayLiteral("1"));
+    QGuiApplication::clipboard()->setMimeData(mark);
     updateActions();
     tell(tr("%n material(s) copied", nullptr, int(m_copied.size())));
 }
@@ -432,8 +438,13 @@ void Kiv_mat_databaseWindow::commandCutMaterials(bool on)
     commandDeleteMaterials(on);
 }
 
-void Kiv_mat_databaseWindow::commandPasteMaterials(bool)
+void Kiv_mat_databaseWindow::commandPasteMaterials(bool on)
 {
+    const QMimeData *last = QGuiApplication::clipboard()->mimeData();
+    if (!last || !last->hasFormat(QLatin1String(materialsFormat))) {
+        commandPasteCells(on);
+        return;
+    }
     QStandardItem *group = currentGroup();
     if (!group)
         return;

@@ -32,6 +32,8 @@ const windowAction<materialWindow> actionTable[] = {
     {usualActions::undo, &materialWindow::commandUndo},
     {usualActions::redo, &materialWindow::commandRedo},
     {usualActions::editSeparator, nullptr},
+    {usualActions::copyCells, &materialWindow::commandCopyCells},
+    {usualActions::pasteCells, &materialWindow::commandPasteCells},
     {{"addManufacturer", QT_TRANSLATE_NOOP("actions", "Commands"),
       QT_TRANSLATE_NOOP("actions", "Add manufacturer"), "zp_add_manufacturer_grey_128", "Ctrl+M",
       nullptr, true},

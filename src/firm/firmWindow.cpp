@@ -118,6 +118,7 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
     const configStruct &config = known().config();
     auto rows = std::make_unique<firmRows>(firmTree::columns(
         kind == manufacturer ? config.manufacturerStatuses : config.supplierStatuses));
+    rows->makeRecord = std::make_unique<firmStruct>;
     setCaptions(modelOf(view), rows->columns());
     for (size_t i = 0; i < rows->columns().size(); ++i)
         view->header()->resizeSection(int(i), rows->columns()[i].width);
@@ -249,8 +250,7 @@ void firmWindow::commandAdd(bool)
 {
     myTreeView *view = currentView();
     myModel *firms = modelOf(view);
-    push(std::make_unique<appendNewMaterial>(
-             firms, current().rows->makeDetachedRow(std::make_unique<firmStruct>())),
+    push(std::make_unique<appendNewMaterial>(firms, current().rows->newRow()),
          labels::addNewFirm());
     const QModelIndex added = firms->index(firms->rowCount() - 1, firmTree::nameColumn);
     view->setCurrentIndex(added);

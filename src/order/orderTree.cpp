@@ -134,6 +134,8 @@ treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_z
                                     c.cellKind, c.editable));
     table[indexColumn].label = labels::ordinalNumber();
     table[quantityColumn].maximum = quantityMaximum;
+    table[quantityColumn].unit = [](const orderItemStruct &line) { return line.unit; };
+    table[waitColumn].entries = entriesOf(QStringList{statusWord::no});
     table[unitColumn].entries = entriesOf(orderOperations::units());
     table[rohsColumn].entries = entriesOf(config.goodWhenYes);
     table[targetColumn].canBeTyped = true;

@@ -2,8 +2,10 @@
 
 #include "commands/editCommands.h"
 #include "data/configStruct.h"
+#include "data/kiv_mat_databaseStruct.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "order/orderOperations.h"
 #include "tree/myModelDelegate.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
@@ -132,6 +134,10 @@ void orderView::show(kiv_mat_zpStruct &order)
     m_lines->removeRows(0, m_lines->rowCount());
     m_lineRows = std::make_unique<listRows<orderItemStruct>>(
         orderTree::columns(m_known.config(), order, m_known.materials()));
+    m_lineRows->makeRecord = [this] {
+        return orderOperations::newLine(materialStruct(), *m_order, QStringLiteral("1"),
+                                        QDate::currentDate());
+    };
     m_lineRows->onChange = [this](myItem::myItemStandard *item, myItem::myItemStandard *) {
         switch (item->column()) {
         case orderTree::quantityColumn:

@@ -47,9 +47,13 @@ myItem::myItemStandard *makeCell(const cellTraits &traits, const QString &stored
     case textEditKind:
         cell = new myItemTextEdit(key, {}, editable);
         break;
-    case dateEditKind:
-        cell = new myItemDateEdit(key, {}, editable);
+    case dateEditKind: {
+        auto *date = new myItemDateEdit(key, {}, editable);
+        for (const comboEntry &entry : entries)
+            date->words.append(entry.value);
+        cell = date;
         break;
+    }
     case fontComboBoxKind:
         cell = new myItemFontComboBox(key, QFont(stored), editable);
         break;

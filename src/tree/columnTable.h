@@ -18,11 +18,12 @@ struct treeColumn
     std::function<QString(const Record &)> read;
     std::function<void(Record &, const QString &)> write; // none: the cell shows only
     bool editable = true;
-    myItem::comboEntries entries = {}; // of combo boxes
+    myItem::comboEntries entries = {}; // of combo boxes; words in place of a date
     bool canBeTyped = false;           // values beside the entries
     int minimum = 0;                   // of spin boxes
     int maximum = 0;
     std::function<void(const Record &, myItem::myItemStandard *)> look = {}; // pictures, tool tips
+    std::function<QString(const Record &)> unit = {}; // the stored unit of what a number counts
 };
 
 template <class Record>
@@ -121,6 +122,13 @@ public:
             onChange(item, first);
     }
 
+    std::optional<QString> unitOf(const myItem::myItemStandard &item,
+                                  const myItem::myItemStandard *first) const override
+    {
+        const treeColumn<Record> &c = m_columns.at(size_t(item.column()));
+        return c.unit ? std::optional(c.unit(*recordOf(first))) : std::nullopt;
+    }
+
     void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override
     {
         recordPlaces::putInto(*m_list, parent, row, first);
@@ -130,6 +138,13 @@ public:
     {
         recordPlaces::takeFrom(*m_list, row, first);
     }
+
+    myItem::row newRow() override
+    {
+        return makeRecord ? makeDetachedRow(makeRecord()) : myItem::row();
+    }
+    // Makes the record of a new row, where pasted lines may become rows.
+    std::function<std::unique_ptr<Record>()> makeRecord;
 
     // Called after a cell's text went to its record.
     std::function<void(myItem::myItemStandard *item, myItem::myItemStandard *first)> onChange;

@@ -4,10 +4,15 @@
 #include "data/vocabulary.h"
 #include "util/labels.h"
 #include "util/numbers.h"
+#include "util/quantity.h"
 #include "util/text.h"
+#include "util/typed.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace myItem {
@@ -94,7 +99,7 @@ QString canonicalText(const myItemStandard &item)
     case spinBoxKind:
         return QString::number(static_cast<const myItemSpinBox &>(item).value());
     case moneyKind:
-        return numbers::money(static_cast<const myItemMoney &>(item).value());
+        return numbers::price(static_cast<const myItemMoney &>(item).value());
     case dateEditKind:
         return dateText(static_cast<const myItemDateEdit &>(item).date());
     default:
@@ -275,7 +280,7 @@ myItemMoney::myItemMoney(const QString &key, const QString &amount, bool editabl
 void myItemMoney::setValue(double value)
 {
     m_value = value;
-    setText(numbers::money(value));
+    setText(numbers::price(value));
 }
 
 void myItemMoney::setStoredText(const QString &text)
@@ -404,60 +409,117 @@ bool differs(const myItemStandard &item, const QVariant &value)
     return valueOf(item) != value;
 }
 
-QVariant parsed(const myItemStandard &item, const QString &typed)
+namespace {
+
+typed::numberForm formOf(const myItemStandard &item, const std::optional<QString> &unit)
+{
+    constexpr int mostDecimals = 6;
+    constexpr int leastOfPrices = 2;
+    switch (item.type()) {
+    case moneyKind:
+        return {0,
+                moneyMaximum,
+                mostDecimals,
+                leastOfPrices,
+                {QStringLiteral("PLN"), QStringLiteral("[ PLN ]"), QStringLiteral("zł"),
+                 QStringLiteral("zl")}};
+    case doubleSpinBoxKind: {
+        const auto &box = static_cast<const myItemDoubleSpinBox &>(item);
+        return {box.minimum, box.maximum, box.decimals, box.decimals};
+    }
+    case progressBarKind: {
+        const auto &bar = static_cast<const myItemProgressBar &>(item);
+        return {double(bar.minimum), double(bar.maximum)};
+    }
+    default: {
+        const auto &box = static_cast<const myItemSpinBox &>(item);
+        typed::numberForm form{double(box.minimum), double(box.maximum)};
+        if (unit && !unit->isEmpty())
+            form.units = QStringList{labels::shown(*unit), *unit};
+        if (unit && !labels::isCounted(*unit))
+            form.decimals = mostDecimals;
+        return form;
+    }
+    }
+}
+
+reading readNumber(const myItemStandard &item, const QString &text,
+                   const std::optional<QString> &unit)
+{
+    if (text.isEmpty()) {
+        if (item.type() == moneyKind)
+            return {QString(), {}};
+        return {{}, QCoreApplication::translate("myItem", "A number is needed here")};
+    }
+    const auto [number, fault] = typed::readNumber(text, formOf(item, unit));
+    if (!fault.isEmpty())
+        return {{}, fault};
+    const std::optional<double> before = numbers::finite(item.text());
+    return {before && *before == number.toDouble() ? QVariant() : QVariant(number), {}};
+}
+
+reading readDate(const myItemDateEdit &item, const QString &text)
+{
+    if (text.isEmpty())
+        return {QString(), {}};
+    for (const QString &word : item.words)
+        if (text.compare(word, Qt::CaseInsensitive) == 0
+            || text.compare(labels::shown(word), Qt::CaseInsensitive) == 0)
+            return {word, {}};
+    const auto [date, fault] = typed::readDay(text, QDate::currentDate());
+    if (!fault.isEmpty())
+        return {{}, fault};
+    if (date < firstDate() || date > lastDate())
+        return {{},
+                QCoreApplication::translate("myItem", "%1: dates from %2 to %3")
+                    .arg(dateText(date), dateText(firstDate()), dateText(lastDate()))};
+    return {date, {}};
+}
+
+reading readChoice(const myItemComboBox &combo, const QString &text)
+{
+    for (int i = 0; i < combo.entries().size(); ++i) {
+        const comboEntry &entry = combo.entries().at(i);
+        // An entry that shows its value has no other text, which an empty one is not to choose.
+        if (entry.value.compare(text, Qt::CaseInsensitive) == 0
+            || (!entry.shown.isEmpty() && entry.shown.compare(text, Qt::CaseInsensitive) == 0))
+            return {i, {}};
+    }
+    if (combo.canBeTyped)
+        return {text::storable(text), {}};
+    return {{}, QCoreApplication::translate("myItem", "\"%1\" is not in the list").arg(text)};
+}
+
+} // namespace
+
+reading read(const myItemStandard &item, const QString &typed, const std::optional<QString> &unit)
 {
     const QString trimmed = typed.trimmed();
     switch (item.type()) {
-    case comboBoxKind: {
-        const auto &combo = static_cast<const myItemComboBox &>(item);
-        for (int i = 0; i < combo.entries().size(); ++i) {
-            const comboEntry &entry = combo.entries().at(i);
-            if (entry.value.compare(trimmed, Qt::CaseInsensitive) == 0
-                || entry.shown.compare(trimmed, Qt::CaseInsensitive) == 0)
-                return i;
-        }
-        return combo.canBeTyped && !trimmed.isEmpty() ? QVariant(text::storable(trimmed))
-                                                      : QVariant();
-    }
+    case comboBoxKind:
+        return readChoice(static_cast<const myItemComboBox &>(item), trimmed);
     case progressBarKind:
-    case spinBoxKind: {
-        bool isNumber = false;
-        const int number = trimmed.toInt(&isNumber);
-        const bool spin = item.type() == spinBoxKind;
-        const int low = spin ? static_cast<const myItemSpinBox &>(item).minimum
-                             : static_cast<const myItemProgressBar &>(item).minimum;
-        const int high = spin ? static_cast<const myItemSpinBox &>(item).maximum
-                              : static_cast<const myItemProgressBar &>(item).maximum;
-        return isNumber && number >= low && number <= high ? QVariant(number) : QVariant();
-    }
+    case spinBoxKind:
     case moneyKind:
-    case doubleSpinBoxKind: {
-        const double number = numbers::value(trimmed);
-        const bool money = item.type() == moneyKind;
-        const double low = money ? 0 : static_cast<const myItemDoubleSpinBox &>(item).minimum;
-        const double high =
-            money ? moneyMaximum : static_cast<const myItemDoubleSpinBox &>(item).maximum;
-        return numbers::check(trimmed) && number >= low && number <= high ? QVariant(number)
-                                                                          : QVariant();
-    }
+    case doubleSpinBoxKind:
+        return readNumber(item, trimmed, unit);
     case checkBoxKind:
-        if (isYes(trimmed))
-            return int(Qt::Checked);
-        return trimmed.compare(statusWord::no, Qt::CaseInsensitive) == 0
-                   ? QVariant(int(Qt::Unchecked))
-                   : QVariant();
-    case dateEditKind: {
-        const QDate date = QDate::fromString(trimmed, labels::dateFormat());
-        return date.isValid() && date >= firstDate() && date <= lastDate() ? QVariant(date)
-                                                                           : QVariant();
-    }
+        if (isYes(trimmed) || trimmed.compare(labels::yes(), Qt::CaseInsensitive) == 0)
+            return {int(Qt::Checked), {}};
+        if (trimmed.compare(statusWord::no, Qt::CaseInsensitive) == 0
+            || trimmed.compare(labels::no(), Qt::CaseInsensitive) == 0)
+            return {int(Qt::Unchecked), {}};
+        return {{},
+                QCoreApplication::translate("myItem", "\"%1\" is neither yes nor no").arg(trimmed)};
+    case dateEditKind:
+        return readDate(static_cast<const myItemDateEdit &>(item), trimmed);
     case standardKind:
     case fontComboBoxKind:
-        return {};
+        return {{}, QCoreApplication::translate("myItem", "This cell takes no text")};
     case textEditKind:
-        return text::storable(typed);
+        return {text::storable(typed), {}};
     default:
-        return text::storable(typed).replace(QLatin1Char('\n'), QLatin1Char(' '));
+        return {text::storable(typed).replace(QLatin1Char('\n'), QLatin1Char(' ')), {}};
     }
 }
 
@@ -468,7 +530,7 @@ QString displayText(const myItemStandard &item)
         return static_cast<const myItemComboBox &>(item).displayText();
     case moneyKind:
         return numbers::check(item.text())
-                   ? numbers::money(static_cast<const myItemMoney &>(item).value())
+                   ? numbers::price(static_cast<const myItemMoney &>(item).value())
                          + static_cast<const myItemMoney &>(item).suffix
                    : item.text();
     case checkBoxKind:
@@ -483,6 +545,53 @@ QString displayText(const myItemStandard &item)
     }
 }
 
+QString editedText(const myItemStandard &item)
+{
+    if (item.type() == moneyKind && numbers::check(item.text()))
+        return numbers::price(static_cast<const myItemMoney &>(item).value());
+    return item.text();
+}
+
+namespace {
+
+// A number as a text that stands where the number does among its like.
+QString numberKey(double number)
+{
+    quint64 bits = 0;
+    static_assert(sizeof bits == sizeof number);
+    std::memcpy(&bits, &number, sizeof bits);
+    constexpr quint64 sign = quint64(1) << 63;
+    bits = (bits & sign) ? ~bits : bits | sign;
+    constexpr int digits = 16;
+    return QStringLiteral("%1").arg(bits, digits, 16, QLatin1Char('0'));
+}
+
+// Values with units by their size, other texts as people order them: R2 before R10.
+QString textKey(const QString &text)
+{
+    if (const auto value = quantity::parse(text))
+        return QLatin1Char('0') + numberKey(value->value);
+    QString key(QLatin1Char('1'));
+    const QString lower = text.toLower();
+    for (int i = 0; i < lower.size();) {
+        int end = i;
+        while (end < lower.size() && lower.at(end).isDigit())
+            ++end;
+        if (end == i) {
+            key += lower.at(i++);
+            continue;
+        }
+        while (i + 1 < end && lower.at(i) == QLatin1Char('0'))
+            ++i;
+        // The longer of two runs of digits is the larger number.
+        key += QLatin1Char('0') + QChar(ushort(end - i)) + lower.mid(i, end - i);
+        i = end;
+    }
+    return key;
+}
+
+} // namespace
+
 QVariant sortValue(const myItemStandard &item)
 {
     switch (item.type()) {
@@ -490,14 +599,13 @@ QVariant sortValue(const myItemStandard &item)
     case moneyKind:
     case progressBarKind:
     case doubleSpinBoxKind:
-        return numbers::check(item.text()) ? numbers::value(item.text())
-                                           : -std::numeric_limits<double>::infinity();
+        return numbers::finite(item.text()).value_or(-std::numeric_limits<double>::infinity());
     case dateEditKind: {
         const QDate date = static_cast<const myItemDateEdit &>(item).date();
         return date.isValid() ? date.toJulianDay() : std::numeric_limits<qint64>::min();
     }
     default:
-        return displayText(item);
+        return textKey(displayText(item));
     }
 }
 

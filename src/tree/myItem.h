@@ -12,6 +12,7 @@
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 class xmlData;
 struct comboBoxStruct;
@@ -216,6 +217,8 @@ public:
     void setDate(const QDate &date);
     void setStoredText(const QString &text);
 
+    QStringList words; // that may stand in place of a date
+
 private:
     QDate m_date;
 };
@@ -271,14 +274,27 @@ bool isForeign(const myItemStandard &item);
 // texts; a text that is no proper one for the value is changed too.
 bool differs(const myItemStandard &item, const QVariant &value);
 
-// The value of a typed or pasted text; invalid when the text does not fit the item's kind.
-QVariant parsed(const myItemStandard &item, const QString &text);
+// What a typed or pasted text means for a cell.
+struct reading
+{
+    QVariant value; // for setValue(); invalid when the cell holds it already or there is a fault
+    QString fault;  // why the text cannot be taken, for the user
+};
+// unit: the stored unit of what the number counts; none where there is no unit, so that the number
+// is a whole one.
+reading read(const myItemStandard &item, const QString &text,
+             const std::optional<QString> &unit = {});
 
-// The text painted for the item: translated words, amounts with two decimals, HTML without tags.
+// The text painted for the item: translated words, amounts with two decimals at least, HTML without
+// tags.
 QString displayText(const myItemStandard &item);
 
-// By what a column of the kind is sorted: a number or a date for those that have one. Texts that
-// are none come first.
+// The text that its editor begins with: the number as it is stored, a price as it is shown.
+QString editedText(const myItemStandard &item);
+
+// By what a column of the kind is sorted: a number or a date for those that have one, a text so
+// that numbers and values with units within a column stand by their size. Texts that are no number
+// come first.
 QVariant sortValue(const myItemStandard &item);
 
 // The dates that a calendar offers: from today to a year ahead.

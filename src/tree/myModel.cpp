@@ -75,20 +75,32 @@ void myModel::fetch(QStandardItem *item)
     first->sortChildren(m_sortColumn, m_sortOrder);
 }
 
-void myModel::setValue(myItemStandard *item, const QVariant &value)
+QString myModel::setValue(myItemStandard *item, const QVariant &value)
 {
     if (!m_editHook) {
         myItem::setValue(item, value);
         writeCell(item);
-        return;
+        return {};
     }
     if (!myItem::differs(*item, value))
-        return;
+        return {};
     const QString fault = m_check ? m_check(*item, value) : QString();
     if (fault.isEmpty())
         m_editHook(item, value);
-    else
-        emit refused(fault);
+    return fault;
+}
+
+myItem::reading myModel::read(const myItemStandard &item, const QString &text) const
+{
+    const QModelIndex index = item.index();
+    const myItemStandard *first = cell(index.sibling(index.row(), 0));
+    myItem::reading reading = myItem::read(
+        item, text, m_records && first ? m_records->unitOf(item, first) : std::nullopt);
+    if (reading.value.isValid() && !myItem::differs(item, reading.value))
+        reading.value = QVariant();
+    if (reading.value.isValid() && m_check)
+        reading.fault = m_check(item, reading.value);
+    return reading;
 }
 
 myItem::row myModel::rowOf(const QModelIndex &index) const

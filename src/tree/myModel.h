@@ -18,11 +18,20 @@ public:
 
     // A cell got another text, which goes to its record.
     virtual void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) = 0;
+    // The stored unit of what a number in the cell counts; none where it has no unit.
+    virtual std::optional<QString> unitOf(const myItem::myItemStandard &,
+                                          const myItem::myItemStandard *) const
+    {
+        return {};
+    }
     // The row whose first cell this is was put in below the parent: its record leaves the cell and
     // takes its place among the others.
     virtual void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) = 0;
     // The row was taken out: the first cell becomes the owner of its record.
     virtual void rowTaken(QStandardItem *parent, int row, myItem::myItemStandard *first) = 0;
+    // A top-level row for a new record, which the row owns; empty where rows do not come by
+    // themselves.
+    virtual myItem::row newRow() { return {}; }
     // The rows below a cell whose childrenPending is set.
     virtual std::vector<myItem::row> childRows(myItem::myItemStandard *) { return {}; }
 };
@@ -59,8 +68,11 @@ public:
 
     // Sets a cell's value (its type as in myItem::valueOf) through the edit hook. Nothing happens
     // when the cell holds that value already, unless its text is another one than the value gives,
-    // nor when the check refuses it.
-    void setValue(myItem::myItemStandard *item, const QVariant &value);
+    // nor when the check refuses it: then its fault is returned.
+    QString setValue(myItem::myItemStandard *item, const QVariant &value);
+
+    // What a typed or pasted text means for a cell, see myItem::read(); the check is asked, too.
+    myItem::reading read(const myItem::myItemStandard &item, const QString &text) const;
 
     // The cells of a row as the model shows them, by any of its indexes.
     myItem::row rowOf(const QModelIndex &index) const;
@@ -88,8 +100,6 @@ signals:
     void appendOccured();
     void removeOccured();
     void changeValueOccured();
-    // An edit was refused by the check.
-    void refused(const QString &fault);
 
 private:
     friend class changeBatch;

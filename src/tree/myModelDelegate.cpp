@@ -1,16 +1,19 @@
 #include "tree/myModelDelegate.h"
 
 #include "tree/IPCtrl.h"
+#include "tree/filterComboBox.h"
 #include "tree/myCalendarWidget.h"
 #include "tree/myModel.h"
+#include "tree/numberBox.h"
 #include "tree/richtexteditDialog.h"
+#include "util/numbers.h"
 #include "util/paths.h"
 #include "util/text.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -22,6 +25,7 @@
 #include <QProgressBar>
 #include <QSpinBox>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -44,17 +48,9 @@ myItemStandard *itemAt(const QModelIndex &index)
     return model ? model->cell(index) : nullptr;
 }
 
-// Set on an editor once the user changed something in it. What only was looked at is not written
-// back: the editor may be unable to show it as it is.
-constexpr const char *touchedProperty = "touched";
-
-template <class Editor, class... Signals>
-void noteTouch(Editor *editor, Signals... changed)
-{
-    (QObject::connect(editor, changed, editor,
-                      [editor] { editor->setProperty(touchedProperty, true); }),
-     ...);
-}
+// What an editor began with, and why its text was refused.
+constexpr const char *loadedProperty = "loaded";
+constexpr const char *faultProperty = "fault";
 
 // The wanted colour where it can be read on what is behind it, else black or white.
 QColor readable(const QColor &wanted, const QColor &behind)
@@ -81,52 +77,38 @@ QFont fontOf(const myItemStandard &item, const QFont &otherwise)
     return item.data(Qt::FontRole).isValid() ? item.font() : otherwise;
 }
 
-QSpinBox *makeSpinBox(QWidget *parent, const myItemSpinBox &item)
+using intBox = numberBox<QSpinBox>;
+using decimalBox = numberBox<QDoubleSpinBox>;
+
+// The text typed into the editor of a number.
+QString numberText(const QWidget *editor)
 {
-    auto *box = new QSpinBox(parent);
-    box->setRange(item.minimum, item.maximum);
-    box->setValue(item.value());
-    noteTouch(box, qOverload<int>(&QSpinBox::valueChanged));
-    box->setFrame(false);
-    box->setAlignment(Qt::AlignRight);
-    if (auto *line = box->findChild<QLineEdit *>())
-        QObject::connect(line, &QLineEdit::textEdited, box,
-                         [box] { box->setProperty(touchedProperty, true); });
-    return box;
+    if (const auto *whole = dynamic_cast<const intBox *>(editor))
+        return whole->typedText();
+    return dynamic_cast<const decimalBox &>(*editor).typedText();
 }
 
-QDoubleSpinBox *makeDoubleSpinBox(QWidget *parent, double minimum, double maximum, int decimals,
-                                  double value)
+// What the editor of a cell shows at first, to tell whether it was changed.
+QString loadedOf(const myItemStandard &item, const QWidget *editor)
 {
-    auto *box = new QDoubleSpinBox(parent);
-    box->setDecimals(decimals);
-    box->setRange(minimum, maximum);
-    box->setValue(value);
-    noteTouch(box, qOverload<double>(&QDoubleSpinBox::valueChanged));
-    box->setFrame(false);
-    box->setAlignment(Qt::AlignRight);
-    if (auto *line = box->findChild<QLineEdit *>())
-        QObject::connect(line, &QLineEdit::textEdited, box,
-                         [box] { box->setProperty(touchedProperty, true); });
-    return box;
+    const auto *font = qobject_cast<const QFontComboBox *>(editor);
+    return font ? font->currentText() : editedText(item);
 }
 
-QComboBox *makeComboBox(QWidget *parent, const myItemComboBox &item)
+// The line in which an editor shows what is typed; null when it has none.
+QLineEdit *lineOf(QWidget *editor)
 {
-    auto *box = new QComboBox(parent);
-    for (const comboEntry &entry : item.entries())
-        box->insertItem(box->count(), entry.icon, entry.shown.isEmpty() ? entry.value : entry.shown,
-                        entry.value);
-    if (!item.entries().isEmpty() && !item.entries().first().icon.isNull())
-        box->setIconSize(item.entries().first().icon.actualSize(box->iconSize()));
-    box->setEditable(item.canBeTyped);
-    box->setCurrentIndex(item.currentIndex());
-    return box;
+    if (auto *calendar = qobject_cast<myCalendarWidget *>(editor))
+        return calendar->line();
+    if (auto *line = qobject_cast<QLineEdit *>(editor))
+        return line;
+    return editor->findChild<QLineEdit *>();
 }
 
 myCalendarWidget *makeCalendar(QWidget *parent, const myItemDateEdit &item)
 {
-    auto *calendar = new myCalendarWidget(parent);
+    // Over the window, since a small tree would cut it.
+    auto *calendar = new myCalendarWidget(parent->window());
     calendar->setRange(firstDate(), lastDate());
     calendar->setSelectedDate(item.date());
     return calendar;
@@ -143,21 +125,6 @@ void loadPath(QFileDialog *dialog, const myItemStandard &item)
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setDirectory(path);
     }
-}
-
-// The typed text may be none of the entries; then it becomes one.
-int chosenIndex(const QComboBox *box, myItemComboBox *item)
-{
-    if (!box->isEditable())
-        return box->currentIndex();
-    const QString typed = text::storable(box->currentText().trimmed());
-    for (int i = 0; i < item->entries().size(); ++i) {
-        const comboEntry &entry = item->entries().at(i);
-        // An entry that shows its value has no other text, which an emptied box is not to choose.
-        if (entry.value == typed || (!entry.shown.isEmpty() && entry.shown == typed))
-            return i;
-    }
-    return item->indexOf(typed);
 }
 
 } // namespace
@@ -298,8 +265,9 @@ QWidget *myModelDelegate::makeEditor(QWidget *parent, const myItemStandard &item
 {
     switch (item.type()) {
     case comboBoxKind: {
-        QComboBox *box = makeComboBox(parent, static_cast<const myItemComboBox &>(item));
-        connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] {
+        const auto &combo = static_cast<const myItemComboBox &>(item);
+        auto *box = new filterComboBox(parent, combo.entries(), combo.canBeTyped);
+        connect(box, &filterComboBox::picked, this, [this, box] {
             auto *self = const_cast<myModelDelegate *>(this);
             emit self->commitData(box);
             emit self->closeEditor(box);
@@ -323,17 +291,18 @@ QWidget *myModelDelegate::makeEditor(QWidget *parent, const myItemStandard &item
             line->setEchoMode(QLineEdit::Password);
         return line;
     }
-    case spinBoxKind:
-        return makeSpinBox(parent, static_cast<const myItemSpinBox &>(item));
+    case spinBoxKind: {
+        const auto &spin = static_cast<const myItemSpinBox &>(item);
+        return new intBox(parent, spin.minimum, spin.maximum, numbers::plain);
+    }
     case doubleSpinBoxKind: {
-        const auto &box = static_cast<const myItemDoubleSpinBox &>(item);
-        return makeDoubleSpinBox(parent, box.minimum, box.maximum, box.decimals, box.value());
+        const auto &spin = static_cast<const myItemDoubleSpinBox &>(item);
+        auto *box = new decimalBox(parent, spin.minimum, spin.maximum, numbers::plain);
+        box->setDecimals(spin.decimals);
+        return box;
     }
-    case moneyKind: {
-        constexpr int decimals = 2;
-        return makeDoubleSpinBox(parent, 0, moneyMaximum, decimals,
-                                 static_cast<const myItemMoney &>(item).value());
-    }
+    case moneyKind:
+        return new decimalBox(parent, 0, moneyMaximum, numbers::price);
     case checkBoxKind: {
         auto *box = new QCheckBox(parent);
         box->setCheckState(static_cast<const myItemCheckBox &>(item).state());
@@ -399,6 +368,8 @@ QWidget *myModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
     else if (item->type() != dateEditKind)
         editor->setFont(fontOf(*item, option.font));
     editor->setEnabled(item->isEnabled());
+    if (QLineEdit *line = lineOf(editor))
+        connect(line, &QLineEdit::textEdited, editor, [editor] { mark(editor, {}); });
     return editor;
 }
 
@@ -412,18 +383,24 @@ void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
     const QVariant value = valueOf(*item);
     switch (item->type()) {
     case comboBoxKind:
-        static_cast<QComboBox *>(editor)->setCurrentIndex(value.toInt());
+        static_cast<filterComboBox *>(editor)->load(value.toInt());
         break;
     case progressBarKind:
         static_cast<QProgressBar *>(editor)->setValue(value.toInt());
         break;
-    case spinBoxKind:
-        static_cast<QSpinBox *>(editor)->setValue(value.toInt());
+    case spinBoxKind: {
+        auto *box = static_cast<intBox *>(editor);
+        box->setValue(value.toInt());
+        box->show(editedText(*item));
         break;
+    }
     case doubleSpinBoxKind:
-    case moneyKind:
-        static_cast<QDoubleSpinBox *>(editor)->setValue(value.toDouble());
+    case moneyKind: {
+        auto *box = static_cast<decimalBox *>(editor);
+        box->setValue(value.toDouble());
+        box->show(editedText(*item));
         break;
+    }
     case checkBoxKind:
         static_cast<QCheckBox *>(editor)->setCheckState(Qt::CheckState(value.toInt()));
         break;
@@ -452,7 +429,66 @@ void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
     default:
         QStyledItemDelegate::setEditorData(editor, index);
     }
-    editor->setProperty(touchedProperty, false);
+    editor->setProperty(loadedProperty, loadedOf(*item, editor));
+    mark(editor, {});
+}
+
+// The value that an editor holds. What only was looked at is none: the editor may be unable to show
+// it as it is.
+reading myModelDelegate::readEditor(QWidget *editor, const myModel &model,
+                                    const myItemStandard &item)
+{
+    switch (item.type()) {
+    case comboBoxKind: {
+        const auto *box = static_cast<filterComboBox *>(editor);
+        if (!box->isTouched())
+            return {};
+        const int chosen = box->chosen();
+        return chosen >= 0 ? reading{chosen, {}} : model.read(item, box->typedText());
+    }
+    case progressBarKind:
+        return {static_cast<QProgressBar *>(editor)->value(), {}};
+    case labelKind:
+    case lineEditKind:
+    case passwordEditKind:
+        return {text::storable(static_cast<QLineEdit *>(editor)->text()), {}};
+    case spinBoxKind:
+    case doubleSpinBoxKind:
+    case moneyKind: {
+        const QString typed = numberText(editor);
+        return typed == editor->property(loadedProperty).toString() ? reading()
+                                                                    : model.read(item, typed);
+    }
+    case checkBoxKind:
+        return {int(static_cast<QCheckBox *>(editor)->checkState()), {}};
+    case ipEditKind:
+        return {static_cast<IPCtrl *>(editor)->text(), {}};
+    case textEditKind:
+        if (static_cast<QDialog *>(editor)->result() == QDialog::Accepted)
+            return {static_cast<richtexteditDialog *>(editor)->html(), {}};
+        return {};
+    case dateEditKind: {
+        const auto *calendar = static_cast<myCalendarWidget *>(editor);
+        if (!calendar->typedText().isNull())
+            return model.read(item, calendar->typedText());
+        return calendar->isChosen() ? reading{calendar->selectedDate(), {}} : reading();
+    }
+    case fontComboBoxKind: {
+        const auto *box = static_cast<QFontComboBox *>(editor);
+        return box->currentText() == editor->property(loadedProperty).toString()
+                   ? reading()
+                   : reading{box->currentFont(), {}};
+    }
+    case pathEditKind: {
+        auto *dialog = static_cast<QFileDialog *>(editor);
+        const QStringList files = dialog->selectedFiles();
+        return dialog->result() == QDialog::Accepted && !files.isEmpty()
+                   ? reading{files.first(), {}}
+                   : reading();
+    }
+    default:
+        return {};
+    }
 }
 
 void myModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -464,59 +500,43 @@ void myModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
-    QVariant value;
-    switch (item->type()) {
-    case comboBoxKind:
-        value = chosenIndex(static_cast<QComboBox *>(editor), static_cast<myItemComboBox *>(item));
-        break;
-    case progressBarKind:
-        value = static_cast<QProgressBar *>(editor)->value();
-        break;
-    case labelKind:
-    case lineEditKind:
-    case passwordEditKind:
-        value = text::storable(static_cast<QLineEdit *>(editor)->text());
-        break;
-    case spinBoxKind:
-        static_cast<QSpinBox *>(editor)->interpretText();
-        if (editor->property(touchedProperty).toBool())
-            value = static_cast<QSpinBox *>(editor)->value();
-        break;
-    case doubleSpinBoxKind:
-    case moneyKind:
-        static_cast<QDoubleSpinBox *>(editor)->interpretText();
-        if (editor->property(touchedProperty).toBool())
-            value = static_cast<QDoubleSpinBox *>(editor)->value();
-        break;
-    case checkBoxKind:
-        value = int(static_cast<QCheckBox *>(editor)->checkState());
-        break;
-    case ipEditKind:
-        value = static_cast<IPCtrl *>(editor)->text();
-        break;
-    case textEditKind:
-        if (static_cast<QDialog *>(editor)->result() == QDialog::Accepted)
-            value = static_cast<richtexteditDialog *>(editor)->html();
-        break;
-    case dateEditKind:
-        if (static_cast<myCalendarWidget *>(editor)->isChosen())
-            value = static_cast<myCalendarWidget *>(editor)->selectedDate();
-        break;
-    case fontComboBoxKind:
-        value = static_cast<QFontComboBox *>(editor)->currentFont();
-        break;
-    case pathEditKind: {
-        auto *dialog = static_cast<QFileDialog *>(editor);
-        const QStringList files = dialog->selectedFiles();
-        if (dialog->result() == QDialog::Accepted && !files.isEmpty())
-            value = files.first();
-        break;
+    reading typed = readEditor(editor, *own, *item);
+    if (typed.fault.isEmpty() && typed.value.isValid())
+        typed.fault = own->setValue(item, typed.value);
+    mark(editor, typed.fault);
+    if (!typed.fault.isEmpty())
+        emit const_cast<myModelDelegate *>(this)->refused(typed.fault);
+}
+
+bool myModelDelegate::isRefused(const QWidget *editor)
+{
+    return !editor->property(faultProperty).toString().isEmpty();
+}
+
+// A refused text stays in its editor, which says why until it is typed in again.
+void myModelDelegate::mark(QWidget *editor, const QString &fault)
+{
+    const bool wasRefused = isRefused(editor);
+    editor->setProperty(faultProperty, fault);
+    if (fault.isEmpty() && !wasRefused)
+        return;
+    QWidget *line = lineOf(editor);
+    QPalette palette;
+    const QString shown = fault.isEmpty()
+                              ? QString()
+                              : QLatin1String("<p>") + text::toHtml(fault) + QLatin1String("</p>");
+    if (!fault.isEmpty()) {
+        palette = editor->palette();
+        palette.setColor(QPalette::Base, QColor(0xFF, 0xD8, 0xD0));
+        palette.setColor(QPalette::Text, Qt::black);
     }
-    default:
-        QStyledItemDelegate::setModelData(editor, model, index);
-    }
-    if (value.isValid())
-        own->setValue(item, value);
+    (line ? line : editor)->setPalette(palette);
+    editor->setToolTip(shown);
+    editor->setAccessibleDescription(fault);
+    if (fault.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(editor->mapToGlobal(QPoint(0, editor->height())), shown, editor);
 }
 
 void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
@@ -530,9 +550,16 @@ void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionVi
     QRect place = option.rect;
     if (item->type() == checkBoxKind)
         place.setLeft(place.left() + 2 * m_indentation);
-    else if (item->type() == dateEditKind)
+    else if (item->type() == dateEditKind) {
+        // In its window, wholly visible.
+        const QWidget *window = editor->parentWidget();
+        const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
+        if (view && view->viewport() != window)
+            place.moveTopLeft(view->viewport()->mapTo(window, place.topLeft()));
         place.setSize(calendarSize);
-    else if (item->type() == fontComboBoxKind)
+        place.moveLeft(std::max(0, std::min(place.left(), window->width() - place.width())));
+        place.moveTop(std::max(0, std::min(place.top(), window->height() - place.height())));
+    } else if (item->type() == fontComboBoxKind)
         place.setSize(fontBoxSize);
     editor->setGeometry(place);
     editor->update();

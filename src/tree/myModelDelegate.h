@@ -6,7 +6,9 @@
 
 namespace myItem {
 class myItemStandard;
-}
+struct reading;
+} // namespace myItem
+class myModel;
 
 // Percentages of a cell's range at which the colour of its bar changes.
 struct barThresholds
@@ -35,8 +37,16 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
+    // Whether the text of an open editor was refused: it stays there, marked, with a tool tip that
+    // says why, until it is mended or given up.
+    static bool isRefused(const QWidget *editor);
+
     // The colour of a coloured bar at that value of a range.
     QColor barColour(int value, int minimum, int maximum) const;
+
+signals:
+    // The text of an editor cannot be taken, for the reason given.
+    void refused(const QString &fault);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -44,6 +54,9 @@ protected:
 private:
     void enableByCommit(QWidget *editor, class QKeyEvent *event);
     QWidget *makeEditor(QWidget *parent, const myItem::myItemStandard &item) const;
+    static myItem::reading readEditor(QWidget *editor, const myModel &model,
+                                      const myItem::myItemStandard &item);
+    static void mark(QWidget *editor, const QString &fault);
     void closeWith(class QDialog *dialog) const;
     void paintBar(QPainter *painter, const QStyleOptionViewItem &option,
                   const myItem::myItemStandard &item) const;

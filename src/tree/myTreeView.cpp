@@ -4,8 +4,11 @@
 #include "tree/myModel.h"
 #include "tree/myModelDelegate.h"
 
+#include <QDialog>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 #include <set>
@@ -27,6 +30,7 @@ myTreeView::myTreeView(QWidget *parent)
     setEditTriggers(usualTriggers);
     auto *delegate = new myModelDelegate(this);
     setItemDelegate(delegate);
+    connect(delegate, &myModelDelegate::refused, this, &myTreeView::refused);
     // Escape in an editor ends there and never comes here as a key.
     connect(delegate, &QAbstractItemDelegate::closeEditor, this,
             [this](QWidget *, QAbstractItemDelegate::EndEditHint hint) {
@@ -53,15 +57,38 @@ void myTreeView::setModel(QAbstractItemModel *newModel)
                 });
 }
 
-void myTreeView::finishEditing()
+bool myTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool began = QTreeView::edit(index, trigger, event);
+    if (began)
+        m_edited = index;
+    return began;
+}
+
+bool myTreeView::finishEditing()
 {
     // Dialogs, which are windows of their own, end by their own buttons.
-    for (QWidget *editor :
-         viewport()->findChildren<QWidget *>(QStringLiteral("editor"), Qt::FindDirectChildrenOnly))
-        if (state() == EditingState && editor->isVisible()) {
-            emit itemDelegate()->commitData(editor);
-            emit itemDelegate()->closeEditor(editor);
-        }
+    const QPointer<QWidget> editor = m_edited.isValid() ? indexWidget(m_edited) : nullptr;
+    if (!editor || state() != EditingState || !editor->isVisible()
+        || qobject_cast<QDialog *>(editor))
+        return true;
+    emit itemDelegate()->commitData(editor);
+    if (!editor)
+        return true;
+    if (myModelDelegate::isRefused(editor)) {
+        backToEditor(editor);
+        return false;
+    }
+    emit itemDelegate()->closeEditor(editor);
+    return true;
+}
+
+// The cell whose editor stays open is the current one again.
+void myTreeView::backToEditor(QWidget *editor)
+{
+    if (m_edited.isValid() && currentIndex() != m_edited)
+        selectionModel()->setCurrentIndex(m_edited, QItemSelectionModel::ClearAndSelect);
+    editor->setFocus();
 }
 
 void myTreeView::setEditingLocked(bool locked)
@@ -283,6 +310,12 @@ QModelIndex myTreeView::nextEditable(bool forward) const
 
 void myTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    if (editor && hint != QAbstractItemDelegate::RevertModelCache
+        && myModelDelegate::isRefused(editor)) {
+        // Not while the view is about to go elsewhere.
+        QTimer::singleShot(0, editor, [this, editor] { backToEditor(editor); });
+        return;
+    }
     const QWidget *focused = window()->focusWidget();
     const bool isMine = editor && focused && (editor == focused || editor->isAncestorOf(focused));
     QTreeView::closeEditor(editor, hint);

@@ -17,14 +17,16 @@ class myTreeView : public QTreeView
 public:
     explicit myTreeView(QWidget *parent = nullptr);
 
+    using QTreeView::edit;
     void setModel(QAbstractItemModel *model) override;
 
     // Expands an item with everything below it; collapses one.
     void expandItem(QStandardItem *item);
     void collapseItem(QStandardItem *item);
 
-    // Takes what stands in an open editor, and closes it.
-    void finishEditing();
+    // Takes what stands in an open editor, and closes it. False when the text was refused: the
+    // editor stays open then, and says why.
+    bool finishEditing();
 
     // While locked no editor opens.
     void setEditingLocked(bool locked);
@@ -50,6 +52,8 @@ signals:
     void keyEscape();
     // On Return or Enter. When it ends an edit, the value is in the cell by then.
     void keyEnter();
+    // A typed text was refused; its editor stays open.
+    void refused(const QString &fault);
 
 protected:
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -59,6 +63,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     // Tab goes from one editable cell to the next.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    // An editor whose text was refused stays open, with the keyboard, unless it is given up.
     // The keyboard stays in the tree, also when a question came up while the value was taken.
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
@@ -68,9 +74,11 @@ private:
     // Marks the current row in place of the one before. Touches these two rows only.
     void moveHighlight();
     void clearHighlight();
+    void backToEditor(QWidget *editor);
     void escape();
     QModelIndex hitItem(const QMouseEvent *event) const;
     QModelIndex nextEditable(bool forward) const;
 
     QPersistentModelIndex m_highlighted;
+    QPersistentModelIndex m_edited; // the cell that an editor was opened on last
 };

@@ -23,6 +23,14 @@ const QStringList &storedUnits()
     return units;
 }
 
+bool isCounted(const QString &storedUnit)
+{
+    static const QStringList measured{
+        QStringLiteral("m"),  QStringLiteral("m2"), QStringLiteral("m3"), QStringLiteral("liter"),
+        QStringLiteral("kg"), QStringLiteral("mm"), QStringLiteral("cm"), QStringLiteral("g")};
+    return storedUnits().contains(storedUnit) && !measured.contains(storedUnit);
+}
+
 QString shown(const QString &stored)
 {
     if (stored == QLatin1String("TAK") || stored == QLatin1String("YES"))

@@ -16,6 +16,10 @@ namespace labels {
 // The unit names as files store them ("pcs.", "tray", ...), untranslated, in the order offered.
 const QStringList &storedUnits();
 
+// Whether a unit counts pieces, so that only whole quantities of it make sense. Units that are
+// none of the stored ones, and none at all, count nothing.
+bool isCounted(const QString &storedUnit);
+
 // What the user sees for a word stored in a file: a unit name or one of the words TAK, YES and NIE
 // in the user's language; any other text unchanged.
 QString shown(const QString &stored);

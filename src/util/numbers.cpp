@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -71,5 +72,16 @@ QString plain(double value)
 }
 
 QString money(double amount) { return QString::number(amount, 'f', 2); }
+
+QString price(double amount)
+{
+    QString text = plain(amount);
+    const int point = text.indexOf(QLatin1Char('.'));
+    constexpr int least = 2;
+    const int decimals = point < 0 ? 0 : text.size() - point - 1;
+    if (point < 0)
+        text += QLatin1Char('.');
+    return text + QString(std::max(0, least - decimals), QLatin1Char('0'));
+}
 
 } // namespace numbers

@@ -29,4 +29,7 @@ QString plain(double value);
 // Two decimals and a point, the form of amounts in reports and lists.
 QString money(double amount);
 
+// The form of prices: two decimals at least, six at most.
+QString price(double amount);
+
 } // namespace numbers

@@ -7,6 +7,10 @@
 
 namespace translation {
 
+namespace {
+QString installed;
+}
+
 const QStringList &languages()
 {
     static const QStringList known{QStringLiteral("pl"), QStringLiteral("en")};
@@ -17,6 +21,7 @@ bool install(const QString &language)
 {
     static QTranslator program;
     static QTranslator library;
+    installed = language;
     QCoreApplication::removeTranslator(&program);
     QCoreApplication::removeTranslator(&library);
     // The texts of Qt's own dialogs, where its catalogues are installed.
@@ -27,6 +32,8 @@ bool install(const QString &language)
         return false;
     return QCoreApplication::installTranslator(&program);
 }
+
+QString current() { return installed.isEmpty() ? ofEnvironment() : installed; }
 
 QString ofEnvironment()
 {

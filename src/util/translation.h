@@ -13,6 +13,9 @@ const QStringList &languages();
 // False when the program carries none for it; texts then show in English.
 bool install(const QString &language);
 
+// The language installed last; of the environment before.
+QString current();
+
 // The language of the environment when the program has it, else "en".
 QString ofEnvironment();
 

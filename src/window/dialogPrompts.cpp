@@ -1,5 +1,6 @@
 #include "window/dialogPrompts.h"
 
+#include "tree/myCalendarWidget.h"
 #include "util/labels.h"
 #include "util/text.h"
 #include "window/messageWindow.h"
@@ -115,7 +116,7 @@ std::optional<QDate> dialogPrompts::inputDate(const QString &title, const QDate 
     auto *calendar = new QCalendarWidget(&dialog);
     calendar->setDateRange(QDate::currentDate(), QDate::currentDate().addYears(1));
     calendar->setSelectedDate(initial);
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    myCalendarWidget::prepare(calendar);
     calendar->setAccessibleName(title);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);

@@ -75,7 +75,7 @@ myTreeView *editWindow::addView(const QString &accessibleName, const char *name,
 void editWindow::watchView(myTreeView *view)
 {
     connect(modelOf(view), &myModel::sorted, this, &editWindow::clearCommands);
-    connect(modelOf(view), &myModel::refused, this, [this] { m_refused = true; });
+    connect(view, &myTreeView::refused, this, &editWindow::tell);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { updateActions(); });
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -124,10 +124,10 @@ void editWindow::tell(const QString &text) { statusBar()->showMessage(text); }
 
 bool editWindow::finishEditing()
 {
-    m_refused = false;
+    bool taken = true;
     for (myTreeView *view : m_views)
-        view->finishEditing();
-    return !m_refused;
+        taken = view->finishEditing() && taken;
+    return taken;
 }
 
 // --- Lock

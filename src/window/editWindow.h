@@ -173,7 +173,8 @@ protected:
 
     // --- What it does with it ---
 
-    // Takes what stands in open editors. False when a text was refused, which the user is told.
+    // Takes what stands in open editors. False when a text was refused: its editor stays open and
+    // says why.
     bool finishEditing();
     // One step, already applied; null is none.
     void push(std::unique_ptr<command> change, const QString &what);
@@ -192,8 +193,6 @@ protected:
     bool saveTo(const QString &path);
     // Asks a question of unsaved changes, as mayClose() does.
     bool askToLeave(const QString &question, bool withCancel);
-    // Where somebody else has the document open: who.
-    const QString &otherUser() const { return m_fileLock.otherUser(); }
     // Title, marks of change, actions.
     void showState();
     // The program ends: the window closes without a question.
@@ -223,7 +222,6 @@ private:
     QTimer *m_storing;
     QString m_wanted; // what is searched
     bool m_locked = false;
-    bool m_refused = false; // what was typed last
     bool m_givenUp = false;
     bool m_programEnds = false;
 };
