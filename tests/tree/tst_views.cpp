@@ -168,6 +168,11 @@ private slots:
         QTest::mouseMove(m_view->viewport(), QPoint(20, 10));
         QTest::keyClick(m_view.get(), Qt::Key_Up);
         QCOMPARE(marked(), QString::number(m_view->currentIndex().row()));
+        // Escape takes it away, from an editor too.
+        QTest::keyClick(m_view.get(), Qt::Key_F2);
+        QTest::keyClick(editor(), Qt::Key_Escape);
+        QTRY_COMPARE(marked(), QString());
+        QVERIFY(!m_view->selectionModel()->hasSelection());
     }
 
     void headerSortsByValue()
