@@ -2,29 +2,19 @@
 
 #include "util/text.h"
 
-#include <cstdio>
-
 namespace testSupport {
 
-namespace {
+using testClass = std::pair<QByteArray, std::function<QObject *()>>;
 
-struct testClass
-{
-    const char *name;
-    std::function<QObject *()> create;
-};
-
-std::vector<testClass> &classes()
+static std::vector<testClass> &classes()
 {
     static std::vector<testClass> list;
     return list;
 }
 
-} // namespace
-
 bool add(const char *name, const std::function<QObject *()> &create)
 {
-    classes().push_back({name, create});
+    classes().emplace_back(name, create);
     return true;
 }
 
@@ -34,10 +24,10 @@ int run(int argc, char **argv)
     const QByteArray wanted = argc > 1 ? argv[1] : "";
     int failures = 0;
     bool found = false;
-    for (const testClass &test : classes()) {
-        if (wanted.isEmpty() || wanted == test.name) {
+    for (const auto &[name, create] : classes()) {
+        if (wanted.isEmpty() || wanted == name) {
             found = true;
-            const std::unique_ptr<QObject> object(test.create());
+            const std::unique_ptr<QObject> object(create());
             const int skip = wanted.isEmpty() ? 0 : 1;
             failures += QTest::qExec(object.get(), argc - skip, argv + skip);
         }
@@ -63,9 +53,7 @@ QString programFolder::write(const QString &relative, const QByteArray &content)
 {
     QString target = path(relative);
     QDir().mkpath(QFileInfo(target).absolutePath());
-    QFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(target));
+    testSupport::write(target, content);
     return target;
 }
 
@@ -94,67 +82,25 @@ void folderTest::cleanup()
     m_folder.reset();
 }
 
-recordingPrompts::recordingPrompts()
-    : m_before(installPrompts(this))
-{
-}
-
-recordingPrompts::~recordingPrompts() { installPrompts(m_before); }
-
 void recordingPrompts::showError(const QString &html) { errors.append(text::htmlToPlain(html)); }
 
-void recordingPrompts::showInformation(const QString &html) { informations.append(text::htmlToPlain(html)); }
-
-prompts::answer recordingPrompts::ask(const QString &html, bool)
+webServer::webServer(const std::function<QByteArray(const QByteArray &)> &replyFor)
 {
-    questions.append(text::htmlToPlain(html));
-    return nextAnswer;
-}
-
-namespace {
-
-template <class Value>
-std::optional<Value> valueIn(const QVariant &input)
-{
-    return input.isValid() ? std::optional(input.value<Value>()) : std::nullopt;
-}
-
-} // namespace
-
-std::optional<int> recordingPrompts::decide(const QString &html, const QStringList &)
-{
-    questions.append(text::htmlToPlain(html));
-    return valueIn<int>(input);
-}
-
-std::optional<QString> recordingPrompts::inputText(const QString &title, const QString &, const QString &)
-{
-    questions.append(title);
-    return valueIn<QString>(input);
-}
-
-std::optional<int> recordingPrompts::inputNumber(const QString &title, const QString &, int, int, int)
-{
-    questions.append(title);
-    return valueIn<int>(input);
-}
-
-std::optional<QDate> recordingPrompts::inputDate(const QString &title, const QDate &)
-{
-    questions.append(title);
-    return valueIn<QDate>(input);
-}
-
-std::optional<int> recordingPrompts::choose(const QString &title, const QString &, const QStringList &, int)
-{
-    questions.append(title);
-    return valueIn<int>(input);
-}
-
-QString recordingPrompts::saveFile(const QString &, const QString &name, const QString &)
-{
-    proposed = name;
-    return file;
+    connect(this, &QTcpServer::newConnection, this, [this, replyFor] {
+        QTcpSocket *socket = nextPendingConnection();
+        request.clear();
+        connect(socket, &QTcpSocket::readyRead, socket, [this, replyFor, socket] {
+            request += socket->readAll();
+            const bool whole = request.endsWith("\r\n\r\n");
+            const QByteArray reply = whole ? replyFor(request.split(' ').value(1)) : QByteArray();
+            if (reply.isEmpty())
+                return;
+            socket->write(reply);
+            socket->disconnectFromHost();
+        });
+        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    });
+    listen(QHostAddress::LocalHost);
 }
 
 ended run(const QString &program, const QStringList &arguments, const QStringList &environment, const QString &folder,
@@ -231,32 +177,5 @@ QByteArray database(const QByteArray &content)
 QByteArray bom(const QByteArray &content) { return document("kiv_mat_bom", "KIV_MAT_BOM_1", "kiv_mat.xsd", content); }
 
 QByteArray order(const QByteArray &content) { return document("kiv_mat_zp", "KIV_MAT_ZP_1", "kiv_mat.xsd", content); }
-
-QString realData() { return qEnvironmentVariable("KIVZP_REAL_DATA"); }
-
-const QStringList &realFiles()
-{
-    static const QTemporaryDir unpacked;
-    static const QStringList files = [] {
-        QStringList found;
-        for (QString path : ::files::list(realData(), {"*.xml", "*.xml.gz"})) {
-            if (path.contains("/raw/"))
-                continue;
-            if (path.endsWith(".gz")) {
-                QProcess gzip;
-                gzip.setStandardOutputFile(unpacked.filePath(QFileInfo(path).completeBaseName()));
-                gzip.start("gzip", {"-dc", path});
-                if (!gzip.waitForFinished(60000) || gzip.exitCode() != 0)
-                    qFatal("cannot unpack %s", qPrintable(path));
-                path = unpacked.filePath(QFileInfo(path).completeBaseName());
-            }
-            found.append(path);
-        }
-        if (found.size() < 20)
-            qFatal("too few files in %s", qPrintable(realData()));
-        return found;
-    }();
-    return files;
-}
 
 } // namespace testSupport

@@ -54,44 +54,43 @@ private:
     QTemporaryDir m_dir;
 };
 
-// In use while it lives.
+// In use while it lives; who asks gets no answer.
 class recordingPrompts : public prompts
 {
 public:
-    recordingPrompts();
-    ~recordingPrompts() override;
+    recordingPrompts() = default;
+    ~recordingPrompts() override { installPrompts(m_before); }
 
     void showError(const QString &html) override;
-    void showInformation(const QString &html) override;
-    void showWarning(const QString &html) override { showInformation(html); }
-    answer ask(const QString &html, bool withCancel) override;
-    QString openFile(const QString &, const QString &, const QString &) override { return file; }
-    QString saveFile(const QString &, const QString &proposed, const QString &) override;
+    void showInformation(const QString &) override {}
+    void showWarning(const QString &) override {}
+    answer ask(const QString &, bool) override { return answer::no; }
+    QString openFile(const QString &, const QString &, const QString &) override { return {}; }
+    QString saveFile(const QString &, const QString &, const QString &) override { return {}; }
+    std::optional<int> decide(const QString &, const QStringList &) override { return {}; }
+    std::optional<QString> inputText(const QString &, const QString &, const QString &) override { return {}; }
+    std::optional<int> inputNumber(const QString &, const QString &, int, int, int) override { return {}; }
+    std::optional<QDate> inputDate(const QString &, const QDate &) override { return {}; }
+    std::optional<int> choose(const QString &, const QString &, const QStringList &, int) override { return {}; }
     void log(const QString &html) override { logged += html; }
     void listError(const QString &html) override { listed += html; }
 
     // What was shown, as plain text.
     QStringList errors;
-    QStringList informations;
-    QStringList questions;
     // What went to the log and errors windows, as HTML.
     QString logged;
     QString listed;
-    // The last name proposed by a dialog for saving.
-    QString proposed;
-
-    // What the user answers.
-    std::optional<int> decide(const QString &html, const QStringList &) override;
-    std::optional<QString> inputText(const QString &, const QString &, const QString &) override;
-    std::optional<int> inputNumber(const QString &, const QString &, int, int, int) override;
-    std::optional<QDate> inputDate(const QString &, const QDate &) override;
-    std::optional<int> choose(const QString &, const QString &, const QStringList &, int) override;
-    QVariant input; // invalid: cancelled
-    answer nextAnswer = answer::no;
-    QString file;
 
 private:
-    prompts *m_before;
+    prompts *m_before = installPrompts(this);
+};
+
+// Answers each request with the reply for its path, if any.
+class webServer : public QTcpServer
+{
+public:
+    explicit webServer(const std::function<QByteArray(const QByteArray &path)> &replyFor);
+    QByteArray request; // the last one
 };
 
 // A test class whose slots each begin with a folder and prompts of their own.
@@ -172,10 +171,5 @@ QByteArray database(const QByteArray &content);
 QByteArray bom(const QByteArray &content);
 // An order with that content.
 QByteArray order(const QByteArray &content);
-
-// The folder of real data, or an empty text.
-QString realData();
-// Its databases, orders and BOM lists, packed ones unpacked.
-const QStringList &realFiles();
 
 } // namespace testSupport

@@ -161,8 +161,9 @@ private slots:
     void filesKeepTheirBytes_data()
     {
         const rows<QString> row;
-        for (const QString &path : sources({"_config", "_files", "_zp", "tests/files/kept"}, {"*.xml"})
-                                       + (realData().isEmpty() ? QStringList() : realFiles()))
+        const QString real = qEnvironmentVariable("KIVZP_REAL_DATA", "none");
+        for (const QString &path :
+             sources({"_config", "_files", "_zp", "tests/files/kept"}, {"*.xml"}) + files::list(real, {"*.xml"}))
             row(qPrintable(path.section('/', -2)), path);
     }
 
@@ -230,8 +231,10 @@ private slots:
                 return order(content + "/></options>");
             }(),
             false, 0);
-        for (const QString &path : sources({"tests/files/read", "tests/files/kept", "fuzz/corpus"}, {"*.xml"}))
-            row(qPrintable(path.section('/', -3)), read(path), true, 0);
+        for (const QString &path : sources(
+                 {"tests/files/read", "tests/files/kept", "tests/files/valid", "tests/files/invalid", "fuzz/corpus"},
+                 {"*.xml"}))
+            row(qPrintable(path.section('/', -3)), read(path), !path.contains("/invalid/"), 0);
     }
 
     // A test that needs more time than ctest allows has found a file that takes forever.

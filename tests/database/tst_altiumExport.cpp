@@ -59,48 +59,33 @@ class tst_altiumExport : public folderTest
 {
     Q_OBJECT
 private slots:
-    void sheetNames_data()
+    void names_data()
     {
         const rows<QStringList, QStringList> row;
-        row("Polish letters", {"Łódź"}, {"Lodz"});
-        row("refused characters", {"[a]:*?/\\b"}, {"_a______b"});
-        row("apostrophes", {"''a'b'", "'"}, {"a'b", "Group"});
-        row("empty", {"", ""}, {"Group", "Group 2"});
-        row("case", {"ab", "AB", "aB"}, {"ab", "AB 2", "aB 3"});
-        row("a number that is taken", {"a", "a 2", "a"}, {"a", "a 2", "a 3"});
-        row("reserved", {"groups", "History"}, {"groups 2", "History 2"});
-        row("long", {QString(40, 'a'), QString(40, 'A')}, {QString(31, 'a'), QString(29, 'A') + " 2"});
-        row("apostrophe where it is cut", {QString(30, 'a') + "'b"}, {QString(30, 'a')});
-        row("no half character", {QString(30, 'a') + "😀"}, {QString(30, 'a')});
+        const auto sheets = [](const QStringList &wanted) { return exportNames::sheetNames(wanted, {"Groups"}); };
+        row("Polish letters", sheets({"Łódź"}), {"Lodz"});
+        row("refused characters", sheets({"[a]:*?/\\b"}), {"_a______b"});
+        row("apostrophes", sheets({"''a'b'", "'"}), {"a'b", "Group"});
+        row("empty", sheets({"", ""}), {"Group", "Group 2"});
+        row("case", sheets({"ab", "AB", "aB"}), {"ab", "AB 2", "aB 3"});
+        row("a number that is taken", sheets({"a", "a 2", "a"}), {"a", "a 2", "a 3"});
+        row("reserved", sheets({"groups", "History"}), {"groups 2", "History 2"});
+        row("long", sheets({QString(40, 'a'), QString(40, 'A')}), {QString(31, 'a'), QString(29, 'A') + " 2"});
+        row("apostrophe where it is cut", sheets({QString(30, 'a') + "'b"}), {QString(30, 'a')});
+        row("no half character", sheets({QString(30, 'a') + "😀"}), {QString(30, 'a')});
+        const QString sql = "Rezystory|Other parameters|Układy|O'Brien|group|0603|R-SMD|Ω|_x1||SQLite_x|ID";
+        QStringList quoted;
+        for (const QString &name : sql.split('|'))
+            quoted.append(exportNames::quoted(exportNames::sqlNames({name}, {"id"}).at(0)));
+        row("SQL", quoted,
+            QString("Rezystory|'Other parameters'|Uklady|OBrien|'group'|'0603'|'R-SMD'|'Ω'|_x1|'Group'|_SQLite_x|ID_2")
+                .split('|'));
     }
 
-    void sheetNames()
+    void names()
     {
-        const auto [wanted, given] = fetch<QStringList, QStringList>();
-        QCOMPARE(exportNames::sheetNames(wanted, {"Groups"}), given);
-    }
-
-    void sqlNames_data()
-    {
-        const rows<QString> row;
-        row("Rezystory", "Rezystory");
-        row("Other parameters", "'Other parameters'");
-        row("Układy", "Uklady");
-        row("O'Brien", "OBrien");
-        row("group", "'group'");
-        row("0603", "'0603'");
-        row("R-SMD", "'R-SMD'");
-        row("Ω", "'Ω'");
-        row("_x1", "_x1");
-        row("", "'Group'");
-        row("SQLite_x", "_SQLite_x");
-        row("ID", "ID_2");
-    }
-
-    void sqlNames()
-    {
-        const auto [given] = fetch<QString>();
-        QCOMPARE(exportNames::quoted(exportNames::sqlNames({tag()}, {"id"}).at(0)), given);
+        const auto [given, expected] = fetch<QStringList, QStringList>();
+        QCOMPARE(given, expected);
     }
 
     void scriptText()

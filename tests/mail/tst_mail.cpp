@@ -32,41 +32,48 @@ private slots:
         files::removeFolder(paths::temporaryDir());
     }
 
-    void addresses_data()
+    void texts_data()
     {
-        const rows<QString, QStringList> row;
-        row("link", "mailto:a@x.pl", {"a@x.pl"});
-        row("several", " mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;", {"a@x.pl", "b@x.pl", "c@x.pl"});
-        row("query", "mailto:a@x.pl?subject=b@x", {"a@x.pl"});
-        row("encoded", "mailto:a%2Bb@x.pl", {"a+b@x.pl"});
-        row("twice", "a@x.pl;a@x.pl", {"a@x.pl"});
-        row("none", "http://x.pl", {});
-        row("line end", "a@x.pl\nsubject [x]", {"a@x.pl subject [x]"});
-    }
+        const rows<QString, QString> row;
+        const auto counted = [](const QStringList &list) {
+            return QString::number(list.size()) + ' ' + list.join('|');
+        };
+        const auto addresses = [&](const QString &configured) { return counted(mail::addresses(configured)); };
+        row("link", addresses("mailto:a@x.pl"), "1 a@x.pl");
+        row("several", addresses(" mailto:a@x.pl; b@x.pl ,MAILTO:c@x.pl;;"), "3 a@x.pl|b@x.pl|c@x.pl");
+        row("query", addresses("mailto:a@x.pl?subject=b@x"), "1 a@x.pl");
+        row("encoded", addresses("mailto:a%2Bb@x.pl"), "1 a+b@x.pl");
+        row("twice", addresses("a@x.pl;a@x.pl"), "1 a@x.pl");
+        row("none", addresses("http://x.pl"), "0 ");
+        row("line end", addresses("a@x.pl\nsubject [x]"), "1 a@x.pl subject [x]");
 
-    void addresses()
-    {
-        const auto [configured, expected] = fetch<QString, QStringList>();
-        QCOMPARE(mail::addresses(configured), expected);
-    }
-
-    void recipients()
-    {
         configStruct config;
+        const auto recipients = [&](const QString &role, const QString &name) {
+            return counted(mail::recipients(config, role, name));
+        };
         addPerson(config, "PERSON_CONTRACTOR", "Ewa", "mailto:e@x.pl");
-        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList("e@x.pl"));
+        row("only one of the role", recipients("PERSON_CONTRACTOR", "nobody"), "1 e@x.pl");
         addPerson(config, "PERSON_CONTRACTOR", "Jan", "j@x.pl;k@x.pl");
         addPerson(config, "PERSON_ADMIN", "Ewa", "admin@x.pl");
-        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", " Jan"), QStringList({"j@x.pl", "k@x.pl"}));
-        QCOMPARE(mail::recipients(config, "PERSON_CONTRACTOR", "nobody"), QStringList());
-        QCOMPARE(mail::recipients(config, "PERSON_ADMIN", "Ewa"), QStringList("admin@x.pl"));
+        row("by name", recipients("PERSON_CONTRACTOR", " Jan"), "2 j@x.pl|k@x.pl");
+        row("nobody", recipients("PERSON_CONTRACTOR", "nobody"), "0 ");
+        row("by role", recipients("PERSON_ADMIN", "Ewa"), "1 admin@x.pl");
+
+        const auto messageName = [](const QString &number) { return mail::messageName(numberedOrder(number)); };
+        row("slashes", messageName("ZP/13/2026"), "ZP_13_2026");
+        row("upwards", messageName("../../x\\y:z"), ".._.._x_y_z");
+        row("letters", messageName("źdźbło [1]"), "źdźbło_1");
+        row("nothing", messageName(" // "), "order");
+        row("long", messageName(QString(500, 'x')), QString(80, 'x'));
+        row("description", mail::description({{"a@x", "b@x"}, "s\nto [c@x]", "/b.html", {"/1", "/2"}}),
+            "to \t\t\t[a@x]\nto \t\t\t[b@x]\nsubject \t[s to [c@x]]\n"
+            "body \t\t[/b.html]\nattachment \t[/1]\nattachment \t[/2]\n");
     }
 
-    void descriptionText()
+    void texts()
     {
-        QCOMPARE(mail::description({{"a@x", "b@x"}, "s\nto [c@x]", "/b.html", {"/1", "/2"}}),
-                 QString("to \t\t\t[a@x]\nto \t\t\t[b@x]\nsubject \t[s to [c@x]]\n"
-                         "body \t\t[/b.html]\nattachment \t[/1]\nattachment \t[/2]\n"));
+        const auto [text, expected] = fetch<QString, QString>();
+        QCOMPARE(text, expected);
     }
 
     void orderMessage()
@@ -92,22 +99,6 @@ private slots:
         QFile::remove(mail::templatePath());
         QVERIFY(!mail::writeOrder(order, config, "/o/zp.xml", "/o/zp.pdf").isEmpty());
         QCOMPARE(read(base + ".html"), QByteArray());
-    }
-
-    void messageNames_data()
-    {
-        const rows<QString, QString> row;
-        row("slashes", "ZP/13/2026", "ZP_13_2026");
-        row("upwards", "../../x\\y:z", ".._.._x_y_z");
-        row("letters", "źdźbło [1]", "źdźbło_1");
-        row("nothing", " // ", "order");
-        row("long", QString(500, 'x'), QString(80, 'x'));
-    }
-
-    void messageNames()
-    {
-        const auto [number, name] = fetch<QString, QString>();
-        QCOMPARE(mail::messageName(numberedOrder(number)), name);
     }
 
     void dataMessage_data()

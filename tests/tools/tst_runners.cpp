@@ -27,41 +27,18 @@ namespace {
 
 const QByteArray content = QByteArray("\0\r\n\xff data ", 10).repeated(100000);
 
-// Answers GET of /file and of /moved, which leads to /file.
-class webServer : public QTcpServer
+// "/moved" leads to "/file".
+QByteArray replyFor(const QByteArray &path)
 {
-public:
-    webServer()
-    {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                requests += socket->readAll();
-                if (!requests.contains("\r\n\r\n"))
-                    return;
-                socket->write(answer(requests.split(' ').value(1)));
-                requests.clear();
-                socket->disconnectFromHost();
-            });
-            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        });
-        listen(QHostAddress::LocalHost);
-    }
-
-private:
-    static QByteArray answer(const QByteArray &path)
-    {
-        const QByteArray close = "Connection: close\r\n\r\n";
-        if (path == "/moved")
-            return "HTTP/1.1 302 Found\r\nLocation: /file\r\n" + close;
-        if (path == "/cut")
-            return "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n" + close + "part";
-        if (path == "/file" || path == "/[1-2]?a=\"b\"&c")
-            return "HTTP/1.1 200 OK\r\n" + close + content;
-        return "HTTP/1.1 404 Not Found\r\n" + close + "no";
-    }
-    QByteArray requests;
-};
+    const QByteArray close = "Connection: close\r\n\r\n";
+    if (path == "/moved")
+        return "HTTP/1.1 302 Found\r\nLocation: /file\r\n" + close;
+    if (path == "/cut")
+        return "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n" + close + "part";
+    if (path == "/file" || path == "/[1-2]?a=\"b\"&c")
+        return "HTTP/1.1 200 OK\r\n" + close + content;
+    return "HTTP/1.1 404 Not Found\r\n" + close + "no";
+}
 
 } // namespace
 
@@ -298,7 +275,7 @@ private slots:
     {
         const auto [address, result, hostUnknown] = fetch<QString, int, bool>();
         m_folder->ship({"_bin"});
-        const webServer server;
+        const webServer server(replyFor);
         const QString target = m_folder->path("za\u017c\u00f3\u0142\u0107 'x' \"y\".bin");
         curl_download runner;
         const runnerLog log(&runner, &curl_download::updateProgress);

@@ -3,50 +3,7 @@
 
 #include "util/linkCheck.h"
 
-#include <QThread>
-
 using namespace testSupport;
-
-// Takes one connection in a thread of its own, notes the request and gives the reply.
-class oneReply : public QThread
-{
-public:
-    explicit oneReply(QByteArray reply)
-        : m_reply(std::move(reply))
-    {
-        start();
-        while (!m_ready)
-            QThread::msleep(1);
-    }
-    ~oneReply() override { wait(); }
-
-    quint16 port() const { return m_port; }
-    QByteArray request; // complete after the destructor or wait()
-
-protected:
-    void run() override
-    {
-        QTcpServer server;
-        server.listen(QHostAddress::LocalHost);
-        m_port = server.serverPort();
-        m_ready = true;
-        if (!server.waitForNewConnection(5000))
-            return;
-        QTcpSocket *socket = server.nextPendingConnection();
-        while (!request.endsWith("\r\n\r\n") && socket->waitForReadyRead(5000))
-            request += socket->readAll();
-        if (!m_reply.isEmpty()) {
-            socket->write(m_reply);
-            socket->flush();
-        }
-        socket->waitForDisconnected(2000);
-    }
-
-private:
-    QByteArray m_reply;
-    std::atomic<quint16> m_port{0};
-    std::atomic<bool> m_ready{false};
-};
 
 class tst_linkCheck : public QObject
 {
@@ -66,16 +23,15 @@ private slots:
     void replies()
     {
         const auto [reply, good] = fetch<QByteArray, bool>();
-        const oneReply server(reply);
-        QCOMPARE(linkCheck::answers(QUrl("https://localhost/a.pdf"), server.port(), 500), good);
+        const webServer server([reply = reply](const QByteArray &) { return reply; });
+        QCOMPARE(linkCheck::answers(QUrl("https://localhost/a.pdf"), server.serverPort(), 500), good);
     }
 
     void requestNamesHostAndPath()
     {
-        oneReply server("HTTP/1.1 200 OK\r\n\r\n");
+        const webServer server([](const QByteArray &) { return "HTTP/1.1 200 OK\r\n\r\n"; });
         // What could end the line is encoded, the query is not asked for.
-        linkCheck::answers(QUrl("http://localhost/a b\r\nX: y/\u017c.pdf?q=1"), server.port(), 1000);
-        server.wait();
+        linkCheck::answers(QUrl("http://localhost/a b\r\nX: y/\u017c.pdf?q=1"), server.serverPort(), 1000);
         QCOMPARE(server.request, QByteArray("HEAD /a%20b%0D%0AX:%20y/%C5%BC.pdf HTTP/1.1\r\n"
                                             "Host: localhost\r\n\r\n"));
     }

@@ -37,6 +37,11 @@ private slots:
         row("any other word is December", dates::fromMonthNames("xyz 1 2026"), "01.12.2026");
         row("no year", dates::fromMonthNames("apr 2"), "02.04.");
         row("no date", dates::fromMonthNames(""), "");
+        row("binary", numbers::plain(0.1 + 0.2), "0.3");
+        row("large", numbers::plain(1e12), "1000000000000");
+        row("nearly nothing", numbers::plain(-1e-9), "0");
+        row("small", numbers::plain(0.0005), "0.0005");
+        row("negative", numbers::plain(-2.50), "-2.5");
     }
 
     void texts()
