@@ -382,6 +382,7 @@ void setStoredText(myItemStandard *item, const QString &text)
         break;
     case doubleSpinBoxKind:
         static_cast<myItemDoubleSpinBox *>(item)->setValue(numbers::value(text));
+        item->setText(text);
         break;
     case checkBoxKind:
         static_cast<myItemCheckBox *>(item)->setCheckState(isYes(text) ? Qt::Checked

@@ -52,15 +52,21 @@ private slots:
     {
         const rows<int, QString, QString, QString, QString> row;
         row("fraction", int(spinBoxKind), "2,5", "2,5", "2", "2");
+        row("sign", int(spinBoxKind), "2", "2", "+14", "14");
+        row("blanks", int(moneyKind), "5", "5.00", "1 234,50 z\u0142", "1234.50");
+        row("six places", int(moneyKind), "5", "5.00", "0,004200", "0.0042");
+        row("comma typed", int(doubleSpinBoxKind), "1", "1", "12,5", "12.50");
         row("above the maximum", int(spinBoxKind), "5000", "5000", "3", "3");
         row("no quantity", int(spinBoxKind), "", "", "0", "0");
         row("comma", int(moneyKind), "30,95", "30.95", "31", "31.00");
-        row("four places", int(moneyKind), "0.0123", "0.01", "", "0.0123");
-        row("beyond the editor's range", int(moneyKind), "2000000", "2000000.00", "", "2000000");
+        row("no more price", int(moneyKind), "0.0123", "0.0123", "\b", "");
+        row("beyond the range", int(moneyKind), "2000000", "2000000.00", "7.25", "7.25");
         row("no price", int(moneyKind), "", "", "0", "0.00");
         row("price in words", int(moneyKind), "gratis", "gratis", "1", "1.00");
-        row("past date", int(dateEditKind), "01.02.2003", "01.02.2003", "", "01.02.2003");
-        row("no date", int(dateEditKind), "NIE", "NIE", "", "NIE");
+        const QString soon = QDate::currentDate().addDays(14).toString("dd.MM.yyyy");
+        row("past date", int(dateEditKind), "01.02.2003", "01.02.2003", "+14", soon);
+        row("no date", int(dateEditKind), "NIE", "NIE", soon, soon);
+        row("a word for a date", int(dateEditKind), soon, soon, "nie", "NIE");
         row("foreign word", int(comboBoxKind), "MOŻE", "MOŻE", "N", "NIE");
         row("word in the user's language", int(comboBoxKind), "TAK", "YES", "N", "NIE");
         row("text", int(lineEditKind), " two  blanks ", " two  blanks ", "one", "one");
@@ -74,24 +80,67 @@ private slots:
         QCOMPARE(cell(0, 1)->text(), stored);
         QCOMPARE(displayText(*cell(0, 1)), shown);
         const QPoint elsewhere = m_view->visualRect(m_model->index(2, 3)).center();
-        for (const QString &typed : {QString(), keys}) {
+        bool byMouse = false;
+        for (const bool typing : {false, false, true}) {
             m_view->setCurrentIndex(m_model->index(0, 1));
             QTest::keyClick(m_view.get(), Qt::Key_F2);
             QVERIFY(editor());
-            QTest::keyClicks(editor(), typed);
-            // What is chosen in a list is taken at once.
-            if (typed.isEmpty())
+            if (typing)
+                type(keys);
+            if (std::exchange(byMouse, !byMouse))
                 QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, elsewhere);
-            else if (editor()->isVisible())
+            else
                 QTest::keyClick(editor(), Qt::Key_Return);
             QTRY_VERIFY(!editor());
-            QCOMPARE(cell(0, 1)->text(), typed.isEmpty() ? stored : after);
-            QCOMPARE(m_stack->undoCount(), size_t(typed.isEmpty() ? 0 : 1));
+            QCOMPARE(cell(0, 1)->text(), typing ? after : stored);
+            QCOMPARE(m_stack->undoCount(), size_t(typing));
         }
         m_stack->undo();
         QCOMPARE(cell(0, 1)->text(), stored);
         m_stack->redo();
         QCOMPARE(cell(0, 1)->text(), after);
+    }
+
+    // What cannot be taken stays in its editor, whatever key or click would leave it, until it is mended or Escape.
+    void refused_data()
+    {
+        const rows<int, QString, QString> row;
+        row("comma and point", int(moneyKind), "1.234,50", "either a comma or a point");
+        row("blank anywhere", int(moneyKind), "1 2", "is not a number");
+        row("seven places", int(moneyKind), "0.0000001", "at most 6 decimal");
+        row("negative", int(moneyKind), "-3", "from 0 to 1000000");
+        row("another currency", int(moneyKind), "5 EUR", "the unit here is PLN");
+        row("pieces in parts", int(spinBoxKind), "2,5", "whole number");
+        row("above the maximum", int(spinBoxKind), "101", "from 0 to 100");
+        row("nothing", int(spinBoxKind), "\b", "A number is needed");
+        row("past date", int(dateEditKind), "01.02.2003", "dates from");
+        row("no date", int(dateEditKind), "31.02", "is no date");
+        row("not in the list", int(comboBoxKind), "xyz", "is not in the list");
+    }
+
+    void refused()
+    {
+        const auto [kind, keys, fault] = fetch<int, QString, QString>();
+        const cellTraits traits{"k", myItem::kind(kind), true, entriesOf(QStringList{"TAK", "NIE"}), false, 0, 100};
+        m_model->setItem(0, 1, makeCell(traits, "TAK"));
+        const QPoint elsewhere = m_view->visualRect(m_model->index(2, 3)).center();
+        m_view->setCurrentIndex(m_model->index(0, 1));
+        QTest::keyClick(m_view.get(), Qt::Key_F2);
+        type(keys);
+        for (const int way : {int(Qt::Key_Return), int(Qt::Key_Tab), 0}) {
+            if (way)
+                QTest::keyClick(editor(), Qt::Key(way));
+            else
+                QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, elsewhere);
+            QTRY_VERIFY2(editor()->toolTip().contains(fault), qPrintable(editor()->toolTip()));
+            QTRY_COMPARE(m_view->currentIndex(), m_model->index(0, 1));
+            QVERIFY(editor()->isVisible() && !m_view->finishEditing());
+        }
+        QCOMPARE(cell(0, 1)->text(), QString("TAK"));
+        QTest::keyClick(editor(), Qt::Key_Escape);
+        QTRY_VERIFY(!editor());
+        QCOMPARE(cell(0, 1)->text(), QString("TAK"));
+        QCOMPARE(m_stack->undoCount(), size_t(0));
     }
 
     void calendar()
@@ -219,7 +268,15 @@ private slots:
     }
 
 private:
-    QWidget *editor() { return m_view->viewport()->findChild<QWidget *>("editor"); }
+    QWidget *editor() { return m_view->findChild<QWidget *>("editor"); }
+    void type(const QString &keys)
+    {
+        if (keys == "\b")
+            QTest::keyClick(editor(), Qt::Key_Backspace);
+        else
+            for (const QChar key : keys)
+                QTest::sendKeyEvent(QTest::Click, editor(), Qt::Key_unknown, QString(key), Qt::NoModifier);
+    }
     myItemStandard *cell(int row, int column) { return static_cast<myItemStandard *>(m_model->item(row, column)); }
 
     std::unique_ptr<commandStack> m_stack;
