@@ -1,5 +1,7 @@
 #include "util/numbers.h"
 
+#include "util/decimal.h"
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -71,5 +73,24 @@ QString plain(double value)
 }
 
 QString money(double amount) { return QString::number(amount, 'f', 2); }
+
+QString price(const QString &stored)
+{
+    const std::optional<decimal> number = decimal::read(stored);
+    return number ? number->text(6, 2) : stored;
+}
+
+QString grouped(const QString &number)
+{
+    QString result = number;
+    if (!decimal::read(number))
+        return result;
+    const int point = number.indexOf(QLatin1Char('.'));
+    const int first = number.startsWith(QLatin1Char('-')) ? 1 : 0;
+    constexpr int group = 3;
+    for (int i = (point < 0 ? number.size() : point) - group; i > first; i -= group)
+        result.insert(i, QChar(QChar::Nbsp));
+    return result;
+}
 
 } // namespace numbers

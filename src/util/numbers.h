@@ -29,4 +29,12 @@ QString plain(double value);
 // Two decimals and a point, the form of amounts in reports and lists.
 QString money(double amount);
 
+// A stored price as people read it, with a point: as many decimals as it has, from two to six. A
+// text that is no number stays as it is.
+QString price(const QString &stored);
+
+// A number with its thousands parted by no-break spaces, any other text as it is. For pages and
+// windows; files have plain numbers.
+QString grouped(const QString &number);
+
 } // namespace numbers

@@ -2,6 +2,7 @@
 #include "testSupport.h"
 
 #include "util/dates.h"
+#include "util/decimal.h"
 #include "util/foldedText.h"
 #include "util/labels.h"
 #include "util/numbers.h"
@@ -68,6 +69,38 @@ private slots:
         QCOMPARE(numbers::check(tag(), &errors), value != -99);
         QCOMPARE(errors, value == -99 ? "&nbsp;" + tag() + "&nbsp;is not a number<br>" : QString());
         QCOMPARE(numbers::value(tag()), value == -99 ? 0 : value);
+    }
+
+    // The exact number, or nothing for none; the price as pages show it.
+    void decimals_data()
+    {
+        const rows<QString, QString> row;
+        row("0.0042", "0.0042", "0.0042");
+        row("0.5", "0.5", "0.50");
+        row("12,3456", "12.3456", "12.3456");
+        row("-1234.005", "-1234.005", "-1\u00a0234.005");
+        row("1e6", "1000000", "1\u00a0000\u00a0000.00");
+        row("125E-5", "0.00125", "0.00125");
+        row("0.1234565", "0.1234565", "0.123457");
+        row("-0.0000001", "-0.0000001", "0.00");
+        row("999.9999995", "999.9999995", "1\u00a0000.00");
+        row(" +5. ", "5", "5.00");
+        row(".5", "0.5", "0.50");
+        row("0x1F", "31", "31.00");
+        row("0e99999999999", "0", "0.00");
+        row("999999999999999999.000000000000000001", "999999999999999999.000000000000000001",
+            "999\u00a0999\u00a0999\u00a0999\u00a0999\u00a0999.00");
+        for (const char *none : {"1e18", "1e-19", "1e99999999999", "nan", "inf", "", "-", "1,2,3", "1e", "123456 zl"})
+            row(none, "", none);
+    }
+
+    void decimals()
+    {
+        const auto [exact, price] = fetch<QString, QString>();
+        const std::optional<decimal> number = decimal::read(tag());
+        QCOMPARE(number ? number->text() : QString(), exact);
+        QCOMPARE(numbers::grouped(numbers::price(tag())), price);
+        QVERIFY(!number || numbers::finite(tag()));
     }
 
     void storedWordsAreShownInTheLanguage()
