@@ -44,34 +44,6 @@ std::optional<double> finite(const QString &text)
     return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-bool addProduct(double *sum, double a, double b)
-{
-    const double after = *sum + a * b;
-    if (!std::isfinite(after))
-        return false;
-    *sum = after;
-    return true;
-}
-
-bool addProduct(double *sum, double a, const QString &b)
-{
-    const std::optional<double> number = finite(b);
-    return number && addProduct(sum, a, *number);
-}
-
-QString plain(double value)
-{
-    constexpr int decimals = 6;
-    QString text = QString::number(value, 'f', decimals);
-    int end = text.size();
-    while (text.at(end - 1) == QLatin1Char('0'))
-        --end;
-    if (text.at(end - 1) == QLatin1Char('.'))
-        --end;
-    text.truncate(end);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
-}
-
 QString money(double amount) { return QString::number(amount, 'f', 2); }
 
 QString price(const QString &stored)

@@ -18,15 +18,7 @@ double value(const QString &text);
 // The value of a text that is a finite number; nothing for any other, "nan" and "inf" among them.
 std::optional<double> finite(const QString &text);
 
-// Adds a product to a sum. False, with the sum as it was, when it would be no finite number, or
-// when a text is none.
-bool addProduct(double *sum, double a, double b);
-bool addProduct(double *sum, double a, const QString &b);
-
-// The shortest form with a point and at most six decimals: 2.5, 1000000. The form of quantities.
-QString plain(double value);
-
-// Two decimals and a point, the form of amounts in reports and lists.
+// Two decimals and a point, the form of amounts in cells. Sums are decimal or lineSum.
 QString money(double amount);
 
 // A stored price as people read it, with a point: as many decimals as it has, from two to six. A

@@ -1,6 +1,7 @@
 // Texts, numbers with units, dates, and words in both languages.
 #include "testSupport.h"
 
+#include "data/lineSums.h"
 #include "util/dates.h"
 #include "util/decimal.h"
 #include "util/foldedText.h"
@@ -103,6 +104,30 @@ private slots:
         QVERIFY(!number || numbers::finite(tag()));
     }
 
+    // As whole numbers add up: a thousandth of a piece at a millionth of a zloty.
+    void sumsAreExact()
+    {
+        QRandomGenerator random(20261125);
+        const auto written = [&random](qint64 units, int decimals) {
+            const QString digits = QString::number(qAbs(units)).rightJustified(decimals + 1, '0');
+            return (units < 0 ? "-" : "") + digits.chopped(decimals) + ".,"[random.bounded(2)] + digits.right(decimals);
+        };
+        for (int round = 0; round < 500; ++round) {
+            lineSums sums;
+            qint64 expected = 0;
+            const int sets = 1 + random.bounded(9);
+            for (int line = random.bounded(50); line >= 0; --line) {
+                const qint64 quantity = random.bounded(1000) * QList<qint64>{1, 50, 1000}.at(random.bounded(3));
+                const qint64 price = random.bounded(-20000, 200000) * QList<qint64>{1, 50, 1000}.at(random.bounded(3));
+                sums.add(decimal::read(written(quantity, 3)), written(price, 6), "x");
+                expected += quantity * price * sets;
+            }
+            const qint64 grosz = (qAbs(expected) + 5000000) / 10000000;
+            QCOMPARE(sums.times(sets).price.amount.money(),
+                     written(expected < 0 ? -grosz : grosz, 2).replace(',', '.'));
+        }
+    }
+
     void storedWordsAreShownInTheLanguage()
     {
         QCOMPARE(labels::storedUnits().size(), 15);
@@ -116,6 +141,12 @@ private slots:
         for (const QString &word : words)
             shown += labels::shown(word);
         QCOMPARE(shown, QStringList({"szt.", "TAK", "TAK", "NIE", "Price"}));
+        lineSums sums;
+        sums.add(decimal(), "", "x");
+        sums.add(decimal(), "", "");
+        sums.add({}, "1", "1");
+        QCOMPARE(sums.price.note(),
+                 QString(" (pominięto 1 pozycję bez czytelnej ilości; pominięto 2 pozycje bez ceny)"));
         QCOMPARE(labels::dateFormat(), QString("dd.MM.yyyy"));
         QCOMPARE(labels::optionCaption("FILE_DB_WAREHOUSE"), QString("Plik bazy danych wearhouse"));
         QCOMPARE(labels::optionCaption("EDIT_FIRM"), QString("Edycja bazy danych producent\u00f3wi dostawc\u00f3w"));
