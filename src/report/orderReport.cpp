@@ -171,8 +171,9 @@ void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
     const auto row = [&page](const QString &caption, const lineSum &sum) {
         page.openRow();
         page.cell({}, caption.toHtmlEscaped());
-        page.cell({}, QLatin1String("<b>") + sum.money() + QLatin1String("</b> [ PLN ]")
-                          + note(sum.note().toHtmlEscaped()));
+        page.cell({}, QLatin1String("<b>") + sum.money() + QLatin1String("</b> [ PLN ]"));
+        // A cell of its own, so that the amounts stay below each other.
+        page.cell(QStringLiteral("style=\"text-align:left\""), note(sum.note().toHtmlEscaped()));
         page.closeRow();
     };
     row(labels::sumPrice(), sums.price);

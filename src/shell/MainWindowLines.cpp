@@ -139,7 +139,7 @@ void MainWindow::commandZpAllSum(bool)
     const lineSums sums = sumsOf(m_order->records(rows));
     const auto row = [](const QString &caption, const QString &value, const lineSum &of = {}) {
         return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td>"
-                              "<td>%3</td></tr>")
+                              "<td>&nbsp;%3</td></tr>")
             .arg(caption.toHtmlEscaped(), value, of.note().toHtmlEscaped());
     };
     userPrompts().showInformation(
