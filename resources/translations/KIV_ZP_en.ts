@@ -345,6 +345,44 @@
     </message>
 </context>
 <context>
+    <name>lineSums</name>
+    <message numerus="yes">
+        <source>%n line(s) without a readable quantity are left out</source>
+        <translation>
+            <numerusform>%n line without a readable quantity is left out</numerusform>
+            <numerusform>%n lines without a readable quantity are left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a price are left out</source>
+        <translation>
+            <numerusform>%n line without a price is left out</numerusform>
+            <numerusform>%n lines without a price are left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without an average price are left out</source>
+        <translation>
+            <numerusform>%n line without an average price is left out</numerusform>
+            <numerusform>%n lines without an average price are left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) of unknown materials are left out</source>
+        <translation>
+            <numerusform>%n line of an unknown material is left out</numerusform>
+            <numerusform>%n lines of unknown materials are left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) whose price is no number are left out</source>
+        <translation>
+            <numerusform>%n line whose price is no number is left out</numerusform>
+            <numerusform>%n lines whose price is no number are left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>log</name>
     <message>
         <source>Remove file</source>
@@ -465,13 +503,6 @@
         <translation>
             <numerusform>%n in no database</numerusform>
             <numerusform>%n in no database</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n line(s) without a quantity</source>
-        <translation>
-            <numerusform>%n line without a quantity</numerusform>
-            <numerusform>%n lines without a quantity</numerusform>
         </translation>
     </message>
 </context>
@@ -636,16 +667,6 @@
     <message>
         <source>OPTION_ARCHIVE_PASSWORD</source>
         <translation>OPTION_ARCHIVE_PASSWORD </translation>
-    </message>
-</context>
-<context>
-    <name>orderReport</name>
-    <message numerus="yes">
-        <source>%n line(s) without a price or quantity not counted</source>
-        <translation>
-            <numerusform>%n line without a price or quantity not counted</numerusform>
-            <numerusform>%n lines without a price or quantity not counted</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -726,10 +726,6 @@
         <translation>Pozycje</translation>
     </message>
     <message>
-        <source>Lines that could not be counted</source>
-        <translation>Pozycje, których nie można policzyć</translation>
-    </message>
-    <message>
         <source>Clear Price</source>
         <translation>Wyzeruj ceny</translation>
     </message>
@@ -1896,10 +1892,6 @@
     <message>
         <source>Not in the databases</source>
         <translation>Spoza baz danych</translation>
-    </message>
-    <message>
-        <source>Without a quantity or price</source>
-        <translation>Bez ilości lub ceny</translation>
     </message>
     <message>
         <source>Needed</source>
@@ -3370,6 +3362,49 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>lineSums</name>
+    <message numerus="yes">
+        <source>%n line(s) without a readable quantity are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję bez czytelnej ilości</numerusform>
+            <numerusform>pominięto %n pozycje bez czytelnej ilości</numerusform>
+            <numerusform>pominięto %n pozycji bez czytelnej ilości</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a price are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję bez ceny</numerusform>
+            <numerusform>pominięto %n pozycje bez ceny</numerusform>
+            <numerusform>pominięto %n pozycji bez ceny</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without an average price are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję bez ceny średniej</numerusform>
+            <numerusform>pominięto %n pozycje bez ceny średniej</numerusform>
+            <numerusform>pominięto %n pozycji bez ceny średniej</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) of unknown materials are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję nieznanego materiału</numerusform>
+            <numerusform>pominięto %n pozycje nieznanych materiałów</numerusform>
+            <numerusform>pominięto %n pozycji nieznanych materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) whose price is no number are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję z ceną, która nie jest liczbą</numerusform>
+            <numerusform>pominięto %n pozycje z cenami, które nie są liczbami</numerusform>
+            <numerusform>pominięto %n pozycji z cenami, które nie są liczbami</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>linesDialog</name>
     <message>
         <source>Selected lines</source>
@@ -3845,14 +3880,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>%n spoza baz danych</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n line(s) without a quantity</source>
-        <translation>
-            <numerusform>%n pozycja bez ilości</numerusform>
-            <numerusform>%n pozycje bez ilości</numerusform>
-            <numerusform>%n pozycji bez ilości</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Materials for the order</source>
         <translation>Materiały do zamówienia</translation>
@@ -4076,17 +4103,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>the file cannot be written</source>
         <translation>nie można zapisać pliku</translation>
-    </message>
-</context>
-<context>
-    <name>orderReport</name>
-    <message numerus="yes">
-        <source>%n line(s) without a price or quantity not counted</source>
-        <translation>
-            <numerusform>%n pozycja bez ceny lub ilości nie została policzona</numerusform>
-            <numerusform>%n pozycje bez ceny lub ilości nie zostały policzone</numerusform>
-            <numerusform>%n pozycji bez ceny lub ilości nie zostało policzonych</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,6 @@
 #include "order/orderOperations.h"
 #include "util/labels.h"
 #include "util/messages.h"
-#include "util/numbers.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -15,14 +14,11 @@ namespace bomOperations {
 namespace {
 
 // The line's quantity; nothing when no count can be made of it.
-std::optional<double> quantityOf(const materialStruct &line)
+std::optional<decimal> quantityOf(const materialStruct &line)
 {
-    const std::optional<double> quantity = numbers::finite(line.d_quantity);
-    return quantity && *quantity >= 0 ? quantity : std::nullopt;
+    const std::optional<decimal> quantity = decimal::read(line.d_quantity);
+    return quantity && *quantity >= decimal() ? quantity : std::nullopt;
 }
-
-constexpr double bomSums::*amounts[] = {&bomSums::quantity, &bomSums::price,
-                                        &bomSums::averagePrice};
 
 const QString &unitOf(const materialStruct &material)
 {
@@ -42,16 +38,15 @@ lineIndex indexOf(const kiv_mat_zpStruct &order)
 
 // The first of some lines that can get an amount on top, with its new quantity.
 std::optional<orderChange> raise(const kiv_mat_zpStruct &order, const std::vector<int> &lines,
-                                 const materialStruct &material, double by)
+                                 const materialStruct &material, const decimal &by)
 {
     for (const int i : lines) {
         const orderItemStruct &line = *order.orderItems.items[size_t(i)];
         const bool sameUnit = line.unit.isEmpty() || line.unit == unitOf(material);
-        const std::optional<double> before =
-            line.quantity.isEmpty() ? std::optional(0.0) : numbers::finite(line.quantity);
-        double after = before.value_or(0);
-        if (sameUnit && before && numbers::addProduct(&after, by, 1))
-            return orderChange{i, numbers::plain(after), nullptr};
+        const std::optional<decimal> before =
+            line.quantity.isEmpty() ? std::optional(decimal()) : decimal::read(line.quantity);
+        if (sameUnit && before)
+            return orderChange{i, (*before + by).text(), nullptr};
     }
     return std::nullopt;
 }
@@ -124,52 +119,22 @@ QString doesNotExist(const QString &ktm)
            + QCoreApplication::translate("bom", "does not exist") + QLatin1String("<br>");
 }
 
-bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials)
+lineSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials)
 {
-    bomSums sums;
+    lineSums sums;
     for (const auto &line : bom.materials) {
         const bomLine of = matched(*line, materials);
-        ++sums.lines;
-        sums.unknown += !of.known;
-        const std::optional<double> quantity = quantityOf(*line);
-        if (!quantity) {
-            ++sums.uncounted;
-            continue;
-        }
-        numbers::addProduct(&sums.quantity, *quantity, 1);
-        if (!numbers::addProduct(&sums.price, *quantity, of.material->d_price))
-            ++sums.uncounted;
-        numbers::addProduct(&sums.averagePrice, *quantity, of.material->d_averagePrice);
+        sums.add(quantityOf(*line), of.material->d_price, of.material->d_averagePrice, of.known);
     }
     return sums;
 }
 
-bomSums timesSets(const bomSums &sums, int sets)
+lineSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
 {
-    bomSums result = sums;
-    const int times = qMax(0, sets);
-    for (double bomSums::*amount : amounts) {
-        result.*amount = 0;
-        if (!numbers::addProduct(&(result.*amount), sums.*amount, times))
-            result.uncounted = result.lines;
-    }
-    return result;
-}
-
-bomSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
-{
-    bomSums all;
-    for (const bomSets &list : lists) {
-        if (list.sets <= 0)
-            continue;
-        const bomSums sums = timesSets(sumsOf(*list.bom, materials), list.sets);
-        bool counted = true;
-        for (double bomSums::*amount : amounts)
-            counted = numbers::addProduct(&(all.*amount), sums.*amount, 1) && counted;
-        all.lines += sums.lines;
-        all.unknown += sums.unknown;
-        all.uncounted += counted ? sums.uncounted : sums.lines;
-    }
+    lineSums all;
+    for (const bomSets &list : lists)
+        if (list.sets > 0)
+            all += sumsOf(*list.bom, materials).times(list.sets);
     return all;
 }
 
@@ -181,19 +146,18 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
         if (list.sets <= 0)
             continue;
         for (const auto &line : list.bom->materials) {
-            const std::optional<double> quantity = quantityOf(*line);
-            double needed = 0;
-            if (!quantity || !numbers::addProduct(&needed, *quantity, list.sets)) {
+            const std::optional<decimal> quantity = quantityOf(*line);
+            if (!quantity) {
                 result.uncounted.push_back(line.get());
                 continue;
             }
+            const decimal needed = quantity->times(list.sets);
             // No KTM holds a line end.
             const QString key =
                 line->d_ktm.isEmpty() ? QLatin1Char('\n') + line->d_name : line->d_ktm;
             const auto place = places.constFind(key);
             if (place != places.constEnd()) {
-                if (!numbers::addProduct(&result.needs[*place].needed, needed, 1))
-                    result.uncounted.push_back(line.get());
+                result.needs[*place].needed += needed;
                 continue;
             }
             places.insert(key, result.needs.size());
@@ -204,7 +168,7 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
             added.needed = needed;
             if (of.known) {
                 added.material = of.material;
-                added.inStock = numbers::finite(of.material->d_inWarehouse);
+                added.inStock = decimal::read(of.material->d_inWarehouse);
             }
         }
     }
@@ -215,7 +179,7 @@ std::vector<const need *> shortagesOf(const demand &of)
 {
     std::vector<const need *> list;
     for (const need &one : of.needs)
-        if (one.shortage() > 0)
+        if (one.isShort())
             list.push_back(&one);
     return list;
 }
@@ -227,9 +191,8 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
     const lineIndex lines = indexOf(order);
     size_t count = order.orderItems.items.size();
     for (const need &one : of.needs) {
-        const double wanted = which == amount::needed ? one.needed : one.shortage();
-        // Less than what is written of a quantity.
-        if (numbers::plain(wanted) == QLatin1String("0"))
+        const decimal wanted = which == amount::needed ? one.needed : one.shortage();
+        if (wanted == decimal())
             continue;
         if (!one.isKnown()) {
             plan.unknown.push_back(&one);
@@ -248,7 +211,7 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
             continue;
         }
         orderChange &change = plan.changes.emplace_back();
-        change.quantity = numbers::plain(wanted);
+        change.quantity = wanted.text();
         change.added = orderOperations::newLine(*one.material, order, change.quantity, wait);
         change.added->index = QString::number(++count);
     }

@@ -6,6 +6,7 @@
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
+#include "data/lineSums.h"
 
 #include <QDate>
 #include <QStringList>
@@ -48,21 +49,10 @@ struct bomSets
     int sets;
 };
 
-struct bomSums
-{
-    double quantity = 0;     // of all units together
-    double price = 0;        // PLN, price times quantity
-    double averagePrice = 0; // PLN
-    int lines = 0;
-    int unknown = 0;   // lines whose KTM no database has
-    int uncounted = 0; // lines whose quantity or price is no number, or too large to be summed
-};
 // Of one set.
-bomSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials);
-// The same for so many sets: the amounts grow, the numbers of lines do not.
-bomSums timesSets(const bomSums &sums, int sets);
+lineSums sumsOf(const kiv_mat_bomStruct &bom, const ktmIndex &materials);
 // Of several lists, each times its sets. Lists that are not built do not count.
-bomSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials);
+lineSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials);
 
 // --- What is needed ---
 
@@ -73,19 +63,22 @@ struct need
     QString ktm;
     QString name;
     const materialStruct *material = nullptr; // null when no database has it
-    double needed = 0;
-    std::optional<double> inStock; // nothing when unknown, or when the stock is no number
+    decimal needed;
+    std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
 
     bool isKnown() const { return material != nullptr; }
     // Needed and not in stock; an unknown stock, and one below nothing, count as nothing.
-    double shortage() const { return qMax(0.0, needed - qMax(0.0, inStock.value_or(0.0))); }
+    decimal shortage() const
+    {
+        return qMax(decimal(), needed - qMax(decimal(), inStock.value_or(decimal())));
+    }
+    bool isShort() const { return shortage() > decimal(); }
 };
 
 struct demand
 {
     std::vector<need> needs; // in the order of their first lines
-    // The lines whose quantity is no number, less than nothing, or too large to be summed: they are
-    // in no need.
+    // The lines whose quantity is no number or less than nothing: they are in no need.
     std::vector<const materialStruct *> uncounted;
 };
 // Looks at the lists and the materials, which have to live as long as it is used.

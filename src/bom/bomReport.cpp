@@ -3,7 +3,6 @@
 #include "report/html.h"
 #include "report/sourceNames.h"
 #include "util/labels.h"
-#include "util/numbers.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -71,21 +70,29 @@ void writeLines(html::htmlTable &page, const kiv_mat_bomStruct &bom, const ktmIn
     }
 }
 
-QString amount(double pln) { return numbers::money(pln) + QLatin1String(" [ PLN ]"); }
+QString amount(const lineSum &pln)
+{
+    return pln.money() + QLatin1String(" [ PLN ]") + pln.note().toHtmlEscaped();
+}
+
+QString amountOf(const lineSum &quantity)
+{
+    return quantity.amount.text() + quantity.note().toHtmlEscaped();
+}
 
 // Below the table, in lines of text.
-void writeSums(html::htmlTable &page, const bomSums &ofOne, int sets)
+void writeSums(html::htmlTable &page, const lineSums &ofOne, int sets)
 {
-    const auto write = [&page](int times, const bomSums &of) {
+    const auto write = [&page](int times, const lineSums &of) {
         page.append(QLatin1String("<p><b>") + setsText(times).toHtmlEscaped()
                     + QLatin1String("</b>: ") + labels::quantity() + QLatin1String(" = ")
-                    + numbers::plain(of.quantity) + QLatin1String("; ") + labels::sumPrice()
+                    + amountOf(of.quantity) + QLatin1String("; ") + labels::sumPrice()
                     + amount(of.price) + QLatin1String("; ") + labels::sumAveragePrice()
                     + amount(of.averagePrice) + QLatin1String("</p>\n"));
     };
     write(1, ofOne);
     if (sets > 1)
-        write(sets, timesSets(ofOne, sets));
+        write(sets, ofOne.times(sets));
 }
 
 QString nameOf(const kiv_mat_bomStruct &bom) { return QFileInfo(bom.fileName).completeBaseName(); }
@@ -132,12 +139,12 @@ QString title(const std::vector<bomSets> &lists)
     return all.size() <= longest ? all : all.left(longest) + QChar(0x2026);
 }
 
-QString sums(const bomSums &ofOne, int sets)
+QString sums(const lineSums &ofOne, int sets)
 {
     html::htmlTable table;
-    const auto write = [&table](const QString &heading, const bomSums &of) {
+    const auto write = [&table](const QString &heading, const lineSums &of) {
         table.labelRow({}, heading.toHtmlEscaped());
-        table.labelRow(labels::quantity(), numbers::plain(of.quantity));
+        table.labelRow(labels::quantity(), amountOf(of.quantity));
         table.labelRow(labels::price(), amount(of.price));
         table.labelRow(labels::averagePrice(), amount(of.averagePrice));
     };
@@ -145,11 +152,9 @@ QString sums(const bomSums &ofOne, int sets)
     table.labelRow(tr("Lines"), QString::number(ofOne.lines));
     if (ofOne.unknown > 0)
         table.labelRow(tr("Not in the databases"), QString::number(ofOne.unknown));
-    if (ofOne.uncounted > 0)
-        table.labelRow(tr("Without a quantity or price"), QString::number(ofOne.uncounted));
     write(setsText(1), ofOne);
     if (sets > 1)
-        write(setsText(sets), timesSets(ofOne, sets));
+        write(setsText(sets), ofOne.times(sets));
     table.closeTable();
     return table.text();
 }
@@ -182,11 +187,11 @@ QString needText(const need &of, needColumn column)
     case nameColumn:
         return of.name;
     case neededColumn:
-        return numbers::plain(of.needed);
+        return of.needed.text();
     case inStockColumn:
-        return of.inStock ? numbers::plain(*of.inStock) : QStringLiteral("?");
+        return of.inStock ? of.inStock->text() : QStringLiteral("?");
     case shortageColumn:
-        return numbers::plain(of.shortage());
+        return of.shortage().text();
     case knownColumn:
         return of.isKnown() ? labels::yes() : labels::no();
     default:

@@ -15,7 +15,7 @@ QString page(const std::vector<bomOperations::bomSets> &lists, const ktmIndex &m
 QString title(const std::vector<bomOperations::bomSets> &lists);
 
 // A fragment of HTML with the sums of one set, and of all sets when there are several.
-QString sums(const bomOperations::bomSums &ofOne, int sets);
+QString sums(const lineSums &ofOne, int sets);
 
 // A cell of the table of needs as text; unknown stock is "?".
 enum needColumn

@@ -2,7 +2,6 @@
 
 #include "bom/bomReport.h"
 #include "util/labels.h"
-#include "util/numbers.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -25,8 +24,8 @@ public:
     bool operator<(const QTreeWidgetItem &other) const override
     {
         const int column = treeWidget()->sortColumn();
-        const auto mine = numbers::finite(text(column));
-        const auto its = numbers::finite(other.text(column));
+        const auto mine = decimal::read(text(column));
+        const auto its = decimal::read(other.text(column));
         return mine && its ? *mine < *its : QTreeWidgetItem::operator<(other);
     }
 };
@@ -38,9 +37,7 @@ QTreeWidgetItem *itemOf(const need &of)
         item->setText(column, bomReport::needText(of, bomReport::needColumn(column)));
         item->setToolTip(column, item->text(column));
     }
-    const char *icon = !of.isKnown()       ? "line_unknown"
-                       : of.shortage() > 0 ? "line_short"
-                                           : "line_enough";
+    const char *icon = !of.isKnown() ? "line_unknown" : of.isShort() ? "line_short" : "line_enough";
     item->setIcon(0, QIcon(QStringLiteral(":/icons/icons/%1.png").arg(QLatin1String(icon))));
     return item;
 }
@@ -89,22 +86,20 @@ QTreeWidget *tableOf(const demand &of, QWidget *parent)
     return table;
 }
 
-QString summary(const demand &of, const bomSums &sums)
+QString summary(const demand &of, const lineSums &sums)
 {
     int shortOf = 0;
     int unknown = 0;
     for (const need &one : of.needs) {
-        shortOf += one.isKnown() && one.shortage() > 0;
+        shortOf += one.isKnown() && one.isShort();
         unknown += !one.isKnown();
     }
     QStringList parts{needsDialog::tr("%n material(s)", nullptr, int(of.needs.size())),
                       needsDialog::tr("%n short of stock", nullptr, shortOf)};
     if (unknown > 0)
         parts.append(needsDialog::tr("%n in no database", nullptr, unknown));
-    if (!of.uncounted.empty())
-        parts.append(
-            needsDialog::tr("%n line(s) without a quantity", nullptr, int(of.uncounted.size())));
-    parts.append(labels::sumPrice() + numbers::money(sums.price) + QLatin1String(" [ PLN ]"));
+    parts.append(labels::sumPrice() + sums.price.money() + QLatin1String(" [ PLN ]")
+                 + sums.price.note());
     return parts.join(QLatin1String(", "));
 }
 
@@ -119,7 +114,7 @@ QRadioButton *radio(const QString &text, const char *name, QGroupBox *box, bool 
 
 } // namespace
 
-needsDialog::needsDialog(const demand &of, const bomSums &sums, QWidget *parent)
+needsDialog::needsDialog(const demand &of, const lineSums &sums, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("needsDialog"));
@@ -146,6 +141,7 @@ needsDialog::needsDialog(const demand &of, const bomSums &sums, QWidget *parent)
     layout->addWidget(tableOf(of, this));
     auto *sum = new QLabel(summary(of, sums), this);
     sum->setObjectName(QStringLiteral("summary"));
+    sum->setWordWrap(true);
     layout->addWidget(sum);
     auto *choices = new QHBoxLayout;
     choices->addWidget(amounts);

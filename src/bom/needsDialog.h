@@ -13,8 +13,7 @@ class needsDialog : public QDialog
     Q_OBJECT
 public:
     // sums are those of all lists with their sets.
-    needsDialog(const bomOperations::demand &of, const bomOperations::bomSums &sums,
-                QWidget *parent);
+    needsDialog(const bomOperations::demand &of, const lineSums &sums, QWidget *parent);
 
     bomOperations::amount wantedAmount() const;
     bomOperations::present existing() const;

@@ -8,10 +8,9 @@
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "data/lineSums.h"
 #include "data/loaders.h"
-#include "data/orderSums.h"
 #include "report/orderReport.h"
-#include "util/numbers.h"
 #include "util/paths.h"
 
 #include <QCoreApplication>
@@ -29,11 +28,18 @@ QString count(size_t number) { return QString::number(number); }
 QList<fact> factsOf(const documentStruct &document)
 {
     if (const auto *order = dynamic_cast<const kiv_mat_zpStruct *>(&document)) {
-        const orderSums sums = sumsOf(*order);
-        return {{"options", count(order->options.items.size())},
-                {"lines", count(order->orderItems.items.size())},
-                {"sum", numbers::money(sums.price)},
-                {"average_sum", numbers::money(sums.averagePrice)}};
+        const lineSums sums = sumsOf(*order);
+        QList<fact> facts{{"options", count(order->options.items.size())},
+                          {"lines", count(order->orderItems.items.size())}};
+        const auto add = [&facts](const char *name, const char *leftOutName, const lineSum &sum) {
+            facts.append({name, sum.amount.money()});
+            const QString leftOut = sum.leftOutText();
+            if (!leftOut.isEmpty())
+                facts.append({leftOutName, leftOut});
+        };
+        add("sum", "sum_left_out", sums.price);
+        add("average_sum", "average_sum_left_out", sums.averagePrice);
+        return facts;
     }
     if (const auto *database = dynamic_cast<const kiv_mat_databaseStruct *>(&document)) {
         ktmIndex index;

@@ -5,6 +5,7 @@
 #include "data/vocabulary.h"
 #include "report/html.h"
 #include "util/labels.h"
+#include "util/numbers.h"
 #include "util/safeFile.h"
 #include "util/text.h"
 
@@ -49,7 +50,9 @@ QString dot(const QString &status)
 
 QString price(const QString &stored)
 {
-    return stored.isEmpty() ? QString() : text::toHtml(stored) + QLatin1String(" [ PLN ]");
+    return stored.isEmpty()
+               ? QString()
+               : text::toHtml(numbers::grouped(numbers::price(stored))) + QLatin1String(" [ PLN ]");
 }
 
 // A web address as a link; any other file name as text.

@@ -14,8 +14,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-#include <cmath>
-
 namespace {
 
 QString translated(const char *text)
@@ -28,10 +26,8 @@ bool readNumber(const QString &text, std::optional<double> *number)
 {
     if (text.isEmpty())
         return true;
-    if (!numbers::check(text) || !std::isfinite(numbers::value(text)))
-        return false;
-    *number = numbers::value(text);
-    return true;
+    *number = numbers::finite(text);
+    return number->has_value();
 }
 
 // A number as listings print it: digits in groups, a comma or a point, then perhaps a unit. Nothing

@@ -4,6 +4,7 @@
 #include "data/programData.h"
 #include "order/orderTree.h"
 #include "util/labels.h"
+#include "util/numbers.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -55,8 +56,9 @@ QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &m
 {
     QList<QStandardItem *> row;
     for (const foundColumn &column : columns) {
-        auto *item =
-            new QStandardItem(column.text ? material.*column.text : material.information.status);
+        const QString &stored = column.text ? material.*column.text : material.information.status;
+        auto *item = new QStandardItem(
+            column.text == &materialStruct::d_price ? numbers::price(stored) : stored);
         item->setEditable(false);
         item->setToolTip(item->text());
         if (column.isNumber)

@@ -5,9 +5,9 @@
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "util/decimal.h"
 #include "util/fileVersions.h"
 #include "util/labels.h"
-#include "util/numbers.h"
 
 #include <QCoreApplication>
 
@@ -20,13 +20,6 @@ namespace {
 const QString shipmentPrefix = QStringLiteral("SRV-000.10");
 const QString serviceKtm = QStringLiteral("SRV-000.001");
 constexpr int shipmentLines = 10;
-
-bool isCount(const QString &text, double *value)
-{
-    const std::optional<double> number = numbers::finite(text);
-    *value = number.value_or(0);
-    return number.has_value();
-}
 
 void appendOnce(QStringList &list, const QString &text)
 {
@@ -43,10 +36,10 @@ lineState stateOf(const orderItemStruct &line, const ktmIndex &materials)
         state.known = true;
         state.status = found->material->information.status;
     }
-    double wanted = 0;
-    double there = 0;
-    if (isCount(line.quantity, &wanted) && isCount(line.inWarehouse, &there))
-        state.inStock = there >= wanted ? stock::enough : stock::tooLittle;
+    const std::optional<decimal> wanted = decimal::read(line.quantity);
+    const std::optional<decimal> there = decimal::read(line.inWarehouse);
+    if (wanted && there)
+        state.inStock = *there >= *wanted ? stock::enough : stock::tooLittle;
     return state;
 }
 

@@ -3,16 +3,13 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
-#include "data/orderSums.h"
+#include "data/lineSums.h"
 #include "data/vocabulary.h"
 #include "report/html.h"
 #include "report/sourceNames.h"
 #include "util/cleanHtml.h"
 #include "util/labels.h"
-#include "util/numbers.h"
 #include "util/text.h"
-
-#include <QCoreApplication>
 
 namespace {
 
@@ -169,25 +166,19 @@ void writeLines(html::htmlTable &page, const kiv_mat_zpStruct &order, const ktmI
 
 void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
 {
-    const orderSums sums = sumsOf(order);
+    const lineSums sums = sumsOf(order);
     page.openTable(QStringLiteral("class=\"sums\""));
-    const auto row = [&page](const QString &caption, double amount) {
+    const auto row = [&page](const QString &caption, const lineSum &sum) {
         page.openRow();
         page.cell({}, caption.toHtmlEscaped());
-        page.cell({},
-                  QLatin1String("<b>") + numbers::money(amount) + QLatin1String("</b> [ PLN ]"));
+        page.cell({}, QLatin1String("<b>") + sum.money() + QLatin1String("</b> [ PLN ]"));
+        // A cell of its own, so that the amounts stay below each other.
+        page.cell(QStringLiteral("style=\"text-align:left\""), note(sum.note().toHtmlEscaped()));
         page.closeRow();
     };
     row(labels::sumPrice(), sums.price);
     row(labels::sumAveragePrice(), sums.averagePrice);
     page.closeTable();
-    if (sums.uncounted > 0)
-        page.append(QLatin1String("<p align=\"right\">")
-                    + note(QCoreApplication::translate(
-                               "orderReport", "%n line(s) without a price or quantity not counted",
-                               nullptr, sums.uncounted)
-                               .toHtmlEscaped())
-                    + QLatin1String("</p>\n"));
 }
 
 } // namespace

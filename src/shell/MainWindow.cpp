@@ -3,8 +3,8 @@
 #include "bom/Kiv_bomWindow.h"
 #include "config/configWindow.h"
 #include "data/kiv_infoStruct.h"
+#include "data/lineSums.h"
 #include "data/loaders.h"
-#include "data/orderSums.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
@@ -19,7 +19,6 @@
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/messages.h"
-#include "util/numbers.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/userState.h"
@@ -263,6 +262,8 @@ void MainWindow::buildWidgets()
     constexpr int labelMargin = 8;
     for (QLabel *label : {m_path, m_sums})
         label->setContentsMargins(labelMargin, 0, labelMargin, 0);
+    // A long note is cut where the window is narrow; the tool tip has all of it.
+    m_sums->setMinimumWidth(1);
     statusBar()->addPermanentWidget(m_sums);
     statusBar()->addPermanentWidget(m_path);
     constexpr QSize usualSize(1240, 820);
@@ -374,10 +375,12 @@ void MainWindow::showSums()
     m_path->setText(path.isEmpty() ? tr("New order") : QDir::toNativeSeparators(path));
     const std::vector<int> selected = m_order->selectedRows();
     const bool several = selected.size() > 1;
-    const orderSums sums = sumsOf(m_order->records(several ? selected : m_order->allRows()));
+    const lineSums sums = sumsOf(m_order->records(several ? selected : m_order->allRows()));
     m_sums->setText((several ? tr("%n selected line(s), %1 PLN", nullptr, sums.lines)
                              : tr("%n line(s), %1 PLN", nullptr, sums.lines))
-                        .arg(numbers::money(sums.price)));
+                        .arg(sums.price.money())
+                    + sums.price.note());
+    m_sums->setToolTip(m_sums->text());
 }
 
 void MainWindow::updateActions()

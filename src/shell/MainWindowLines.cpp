@@ -2,7 +2,7 @@
 #include "shell/MainWindow.h"
 
 #include "commands/cellBlock.h"
-#include "data/orderSums.h"
+#include "data/lineSums.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "order/addMaterialDialog.h"
@@ -136,21 +136,19 @@ void MainWindow::commandZpAllSum(bool)
 {
     const std::vector<int> selected = m_order->selectedRows();
     const std::vector<int> rows = selected.size() > 1 ? selected : m_order->allRows();
-    const orderSums sums = sumsOf(m_order->records(rows));
-    const auto row = [](const QString &caption, const QString &value) {
-        return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td></tr>")
-            .arg(caption.toHtmlEscaped(), value);
+    const lineSums sums = sumsOf(m_order->records(rows));
+    const auto row = [](const QString &caption, const QString &value, const lineSum &of = {}) {
+        return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\"><b>%2</b></td>"
+                              "<td>&nbsp;%3</td></tr>")
+            .arg(caption.toHtmlEscaped(), value, of.note().toHtmlEscaped());
     };
     userPrompts().showInformation(
         QLatin1String("<table>")
         + row(selected.size() > 1 ? tr("Selected lines") : tr("Lines"), QString::number(sums.lines))
-        + row(labels::quantities(), QString::number(sums.quantity))
-        + row(labels::sumPrice(), numbers::money(sums.price) + QLatin1String(" [ PLN ]"))
-        + row(labels::sumAveragePrice(),
-              numbers::money(sums.averagePrice) + QLatin1String(" [ PLN ]"))
-        + (sums.uncounted
-               ? row(tr("Lines that could not be counted"), QString::number(sums.uncounted))
-               : QString())
+        + row(labels::quantities(), sums.quantity.amount.text(), sums.quantity)
+        + row(labels::sumPrice(), sums.price.money() + QLatin1String(" [ PLN ]"), sums.price)
+        + row(labels::sumAveragePrice(), sums.averagePrice.money() + QLatin1String(" [ PLN ]"),
+              sums.averagePrice)
         + QLatin1String("</table>"));
 }
 

@@ -531,8 +531,7 @@ QString displayText(const myItemStandard &item)
         return static_cast<const myItemComboBox &>(item).displayText();
     case moneyKind:
         return numbers::check(item.text())
-                   ? numbers::price(static_cast<const myItemMoney &>(item).value())
-                         + static_cast<const myItemMoney &>(item).suffix
+                   ? numbers::price(item.text()) + static_cast<const myItemMoney &>(item).suffix
                    : item.text();
     case checkBoxKind:
         return labels::shown(item.text());
@@ -548,9 +547,7 @@ QString displayText(const myItemStandard &item)
 
 QString editedText(const myItemStandard &item)
 {
-    if (item.type() == moneyKind && numbers::check(item.text()))
-        return numbers::price(static_cast<const myItemMoney &>(item).value());
-    return item.text();
+    return item.type() == moneyKind ? numbers::price(item.text()) : item.text();
 }
 
 namespace {

@@ -1,8 +1,9 @@
 #include "util/numbers.h"
 
+#include "util/decimal.h"
+
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -13,6 +14,8 @@ double parse(QString text, bool *ok)
         return text.toUInt(ok, 16);
     return text.replace(QLatin1Char(','), QLatin1Char('.')).toDouble(ok);
 }
+
+constexpr int mostDecimals = 6;
 
 } // namespace
 
@@ -43,45 +46,32 @@ std::optional<double> finite(const QString &text)
     return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-bool addProduct(double *sum, double a, double b)
+QString price(const QString &stored)
 {
-    const double after = *sum + a * b;
-    if (!std::isfinite(after))
-        return false;
-    *sum = after;
-    return true;
+    const std::optional<decimal> number = decimal::read(stored);
+    return number ? number->text(mostDecimals, 2) : stored;
 }
 
-bool addProduct(double *sum, double a, const QString &b)
-{
-    const std::optional<double> number = finite(b);
-    return number && addProduct(sum, a, *number);
-}
+QString price(double amount) { return price(QString::number(amount, 'f', mostDecimals)); }
 
 QString plain(double value)
 {
-    constexpr int decimals = 6;
-    QString text = QString::number(value, 'f', decimals);
-    int end = text.size();
-    while (text.at(end - 1) == QLatin1Char('0'))
-        --end;
-    if (text.at(end - 1) == QLatin1Char('.'))
-        --end;
-    text.truncate(end);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+    const QString text = QString::number(value, 'f', mostDecimals);
+    const std::optional<decimal> number = decimal::read(text);
+    return number ? number->text(mostDecimals) : text;
 }
 
-QString money(double amount) { return QString::number(amount, 'f', 2); }
-
-QString price(double amount)
+QString grouped(const QString &number)
 {
-    QString text = plain(amount);
-    const int point = text.indexOf(QLatin1Char('.'));
-    constexpr int least = 2;
-    const int decimals = point < 0 ? 0 : text.size() - point - 1;
-    if (point < 0)
-        text += QLatin1Char('.');
-    return text + QString(std::max(0, least - decimals), QLatin1Char('0'));
+    QString result = number;
+    if (!decimal::read(number))
+        return result;
+    const int point = number.indexOf(QLatin1Char('.'));
+    const int first = number.startsWith(QLatin1Char('-')) ? 1 : 0;
+    constexpr int group = 3;
+    for (int i = (point < 0 ? number.size() : point) - group; i > first; i -= group)
+        result.insert(i, QChar(QChar::Nbsp));
+    return result;
 }
 
 } // namespace numbers

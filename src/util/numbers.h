@@ -18,18 +18,16 @@ double value(const QString &text);
 // The value of a text that is a finite number; nothing for any other, "nan" and "inf" among them.
 std::optional<double> finite(const QString &text);
 
-// Adds a product to a sum. False, with the sum as it was, when it would be no finite number, or
-// when a text is none.
-bool addProduct(double *sum, double a, double b);
-bool addProduct(double *sum, double a, const QString &b);
+// A stored price as people read it, with a point: as many decimals as it has, from two to six. A
+// text that is no number stays as it is.
+QString price(const QString &stored);
+QString price(double amount);
 
-// The shortest form with a point and at most six decimals: 2.5, 1000000. The form of quantities.
+// The shortest form with a point and at most six decimals: 2.5, 1000000.
 QString plain(double value);
 
-// Two decimals and a point, the form of amounts in reports and lists.
-QString money(double amount);
-
-// The form of prices: two decimals at least, six at most.
-QString price(double amount);
+// A number with its thousands parted by no-break spaces, any other text as it is. For pages and
+// windows; files have plain numbers.
+QString grouped(const QString &number);
 
 } // namespace numbers

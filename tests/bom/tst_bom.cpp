@@ -34,26 +34,18 @@ private slots:
     void sumsPerSetAndTimesSets()
     {
         const kiv_mat_bomStruct *one = list("A 4;B 1,5;X 7;C 2;A many;A -1;B inf");
-        const bomSums sums = sumsOf(*one, m_index);
+        const lineSums sums = sumsOf(*one, m_index);
         QCOMPARE(sums.lines, 7);
         QCOMPARE(sums.unknown, 1);
-        QCOMPARE(sums.quantity, 14.5);
-        QCOMPARE(sums.price, 5.0);
-        QCOMPARE(sums.averagePrice, 7.5);
-        QCOMPARE(sums.uncounted, 5); // X and C have no price, three have no quantity
-        QCOMPARE(timesSets(sums, 3).price, 15.0);
-        QCOMPARE(timesSets(sums, 3).lines, 7);
-        QCOMPARE(timesSets(sums, -1).quantity, 0.0);
-        // What is too large for a sum is left out of it and told.
-        const kiv_mat_bomStruct *huge = list("A 1e308;B 1e308");
-        QCOMPARE(sumsOf(*huge, m_index).quantity, 1e308);
-        const bomSums ten = timesSets(sumsOf(*huge, m_index), 10);
-        QCOMPARE(ten.quantity, 0.0);
-        QCOMPARE(ten.uncounted, 2);
-        QCOMPARE(demandOf({{huge, 10}, {list("A 1"), 1}}, m_index).uncounted.size(), size_t(2));
-
-        const bomSums all = sumsOf({{one, 2}, {list("B 1"), 10}, {list("B 1"), 0}}, m_index);
-        QCOMPARE(all.price, 30.0);
+        QCOMPARE(sums.quantity.amount.text(), QString("14.5"));
+        QCOMPARE(
+            sums.price.money() + sums.price.note(),
+            QString("5.00 (3 lines without a readable quantity are left out; 1 line of an unknown material is left "
+                    "out; 1 line whose price is no number is left out)"));
+        QCOMPARE(sums.averagePrice.money(), QString("7.50"));
+        const lineSums all = sumsOf({{one, 2}, {list("B 1"), 10}, {list("B 1"), 0}}, m_index);
+        QCOMPARE(all.price.money(), QString("30.00"));
+        QCOMPARE(all.price.leftOut, sums.price.leftOut);
         QCOMPARE(all.lines, 8);
     }
 
@@ -71,7 +63,7 @@ private slots:
                                 "D|name of D|4|-3|4|Yes|C|name of C|6|?|6|Yes|"));
         QCOMPARE(of.uncounted, std::vector<const materialStruct *>({odd->materials[1].get(), odd->materials[2].get()}));
         QCOMPARE(shortagesOf(of).size(), size_t(6));
-        QVERIFY(shortagesOf(demandOf({{list("A 5"), 2}}, m_index)).empty());
+        QVERIFY(shortagesOf(demandOf({{list("A 0.1;A 2,6"), 3}, {list("A 1.9"), 1}}, m_index)).empty());
     }
 
     void intoTheOrder_data()

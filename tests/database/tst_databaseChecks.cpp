@@ -158,7 +158,7 @@ private slots:
         const QString full = QString::fromUtf8(read(m_folder->path("db_full.html")));
         for (const QString &page : {brief, full}) {
             QVERIFY(page.contains("&lt;b&gt;&amp;&quot;"));
-            QVERIFY(page.contains("1 [ PLN ]"));
+            QVERIFY(page.contains("1.00 [ PLN ]"));
             QVERIFY(page.endsWith("</html>\n"));
         }
         QVERIFY(!brief.contains("Bourns"));

@@ -2,7 +2,7 @@
 // converters, for which scripts stand here.
 #include "testSupport.h"
 
-#include "data/orderSums.h"
+#include "data/lineSums.h"
 #include "report/docExport.h"
 #include "report/html.h"
 #include "report/orderReport.h"
@@ -25,13 +25,15 @@ private slots:
         append(order, "1", "many");
         append(order, "nan", "1");
         append(order, "1e300", "1e300");
-        const orderSums sums = sumsOf(order);
-        QCOMPARE(sums.price, 62.15);
-        QCOMPARE(sums.averagePrice, 64.4);
-        QCOMPARE(sums.uncounted, 4);
-        QCOMPARE(sums.lines, 6);
-        QVERIFY(orderReport(order, {}).contains("<b>62.15</b> [ PLN ]"));
-        QVERIFY(orderReport(order, {}).contains("4 lines without a price or quantity"));
+        append(order, "0,0042", "25");
+        append(order, "1000", "4");
+        const lineSums sums = sumsOf(order);
+        QCOMPARE(sums.price.amount.text(), QString("4062.255"));
+        QCOMPARE(sums.averagePrice.amount.text(), QString("4064.505"));
+        QCOMPARE(sums.lines, 8);
+        const QString page = orderReport(order, {});
+        QVERIFY(page.contains("<b>4\u00a0062.26</b> [ PLN ]"));
+        QVERIFY(page.contains("1 line without a price is left out;") && page.contains("an average price is left out;"));
     }
 
     void rowsShowTheLine()

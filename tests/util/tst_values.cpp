@@ -1,7 +1,9 @@
 // Texts, numbers with units, dates, and words in both languages.
 #include "testSupport.h"
 
+#include "data/lineSums.h"
 #include "util/dates.h"
+#include "util/decimal.h"
 #include "util/foldedText.h"
 #include "util/labels.h"
 #include "util/numbers.h"
@@ -75,6 +77,62 @@ private slots:
         QCOMPARE(numbers::value(tag()), value == -99 ? 0 : value);
     }
 
+    // The exact number, or nothing for none; the price as pages show it.
+    void decimals_data()
+    {
+        const rows<QString, QString> row;
+        row("0.0042", "0.0042", "0.0042");
+        row("0.5", "0.5", "0.50");
+        row("12,3456", "12.3456", "12.3456");
+        row("-1234.005", "-1234.005", "-1\u00a0234.005");
+        row("1e6", "1000000", "1\u00a0000\u00a0000.00");
+        row("125E-5", "0.00125", "0.00125");
+        row("0.1234565", "0.1234565", "0.123457");
+        row("-0.0000001", "-0.0000001", "0.00");
+        row("999.9999995", "999.9999995", "1\u00a0000.00");
+        row(" +5. ", "5", "5.00");
+        row(".5", "0.5", "0.50");
+        row("0x1F", "31", "31.00");
+        row("0e99999999999", "0", "0.00");
+        row("999999999999999999.000000000000000001", "999999999999999999.000000000000000001",
+            "999\u00a0999\u00a0999\u00a0999\u00a0999\u00a0999.00");
+        for (const char *none : {"1e18", "1e-19", "1e99999999999", "nan", "inf", "", "-", "1,2,3", "1e", "123456 zl"})
+            row(none, "", none);
+    }
+
+    void decimals()
+    {
+        const auto [exact, price] = fetch<QString, QString>();
+        const std::optional<decimal> number = decimal::read(tag());
+        QCOMPARE(number ? number->text() : QString(), exact);
+        QCOMPARE(numbers::grouped(numbers::price(tag())), price);
+        QVERIFY(!number || numbers::finite(tag()));
+    }
+
+    // As whole numbers add up: a thousandth of a piece at a millionth of a zloty.
+    void sumsAreExact()
+    {
+        QRandomGenerator random(20261125);
+        const auto written = [&random](qint64 units, int decimals) {
+            const QString digits = QString::number(qAbs(units)).rightJustified(decimals + 1, '0');
+            return (units < 0 ? "-" : "") + digits.chopped(decimals) + ".,"[random.bounded(2)] + digits.right(decimals);
+        };
+        for (int round = 0; round < 500; ++round) {
+            lineSums sums;
+            qint64 expected = 0;
+            const int sets = 1 + random.bounded(9);
+            for (int line = random.bounded(50); line >= 0; --line) {
+                const qint64 quantity = random.bounded(1000) * QList<qint64>{1, 50, 1000}.at(random.bounded(3));
+                const qint64 price = random.bounded(-20000, 200000) * QList<qint64>{1, 50, 1000}.at(random.bounded(3));
+                sums.add(decimal::read(written(quantity, 3)), written(price, 6), "x");
+                expected += quantity * price * sets;
+            }
+            const qint64 grosz = (qAbs(expected) + 5000000) / 10000000;
+            QCOMPARE(sums.times(sets).price.amount.money(),
+                     written(expected < 0 ? -grosz : grosz, 2).replace(',', '.'));
+        }
+    }
+
     void storedWordsAreShownInTheLanguage()
     {
         QCOMPARE(labels::storedUnits().size(), 15);
@@ -88,6 +146,12 @@ private slots:
         for (const QString &word : words)
             shown += labels::shown(word);
         QCOMPARE(shown, QStringList({"szt.", "TAK", "TAK", "NIE", "Price"}));
+        lineSums sums;
+        sums.add(decimal(), "", "x");
+        sums.add(decimal(), "", "");
+        sums.add({}, "1", "1");
+        QCOMPARE(sums.price.note(),
+                 QString(" (pominięto 1 pozycję bez czytelnej ilości; pominięto 2 pozycje bez ceny)"));
         QCOMPARE(labels::dateFormat(), QString("dd.MM.yyyy"));
         QCOMPARE(labels::optionCaption("FILE_DB_WAREHOUSE"), QString("Plik bazy danych wearhouse"));
         QCOMPARE(labels::optionCaption("EDIT_FIRM"), QString("Edycja bazy danych producent\u00f3wi dostawc\u00f3w"));
