@@ -53,7 +53,7 @@ row folderRow(Folder *folder)
 template <class Record>
 row owned(const row &items, std::unique_ptr<Record> record)
 {
-    static_cast<myItemStandard *>(items.first())->ownedRecord = std::move(record);
+    static_cast<myItemStandard *>(items.first())->own(std::move(record));
     return items;
 }
 

@@ -36,6 +36,7 @@ commandStack::~commandStack()
 
 void commandStack::push(std::unique_ptr<command> applied, const QString &what)
 {
+    m_moved = nullptr;
     m_done.push_back(
         {completed ? completed(std::move(applied)) : std::move(applied), what, ++m_lastNumber});
     clearRedo();
@@ -52,6 +53,7 @@ QString commandStack::undo()
         m_done.pop_back();
         if (last.change)
             last.change->undo();
+        m_moved = last.change.get();
         what = last.what;
         m_undone.push_back(std::move(last));
         enable(m_redoAction, true);
@@ -70,6 +72,7 @@ QString commandStack::redo()
         m_undone.pop_back();
         if (last.change)
             last.change->redo();
+        m_moved = last.change.get();
         what = last.what;
         m_done.push_back(std::move(last));
         enable(m_undoAction, true);
@@ -80,8 +83,17 @@ QString commandStack::redo()
     return what;
 }
 
+std::vector<QStandardItem *> commandStack::places() const
+{
+    std::vector<QStandardItem *> cells;
+    if (m_moved)
+        m_moved->places(cells);
+    return cells;
+}
+
 void commandStack::clear()
 {
+    m_moved = nullptr;
     discard(m_done);
     discard(m_undone);
     enable(m_undoAction, false);
@@ -95,4 +107,8 @@ void commandStack::tell() const
         changed();
 }
 
-void commandStack::clearRedo() { discard(m_undone); }
+void commandStack::clearRedo()
+{
+    m_moved = nullptr;
+    discard(m_undone);
+}

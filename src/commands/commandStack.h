@@ -32,6 +32,10 @@ public:
     QString undo();
     QString redo();
 
+    // The cells in the tree in which the step is seen that was undone or done again last; none when
+    // something else happened since.
+    std::vector<QStandardItem *> places() const;
+
     // Discards everything; only what could be redone.
     void clear();
     void clearRedo();
@@ -58,6 +62,7 @@ private:
     };
 
     void tell() const;
+    const command *m_moved = nullptr;
 
     quint64 m_lastNumber = 0;
     std::vector<step> m_done;   // the last one is the most recent

@@ -1,6 +1,9 @@
 #include "commands/editCommands.h"
 
 #include "commands/commandStack.h"
+#include "util/text.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <numeric>
@@ -43,14 +46,59 @@ void writeCell(QStandardItem *item)
         model->writeCell(static_cast<myItemStandard *>(item));
 }
 
+// A row that stands in for another one takes its place in the list of records.
+void takePlaceOf(const row &other, const row &fresh)
+{
+    const auto first = [](const row &of) {
+        return of.isEmpty() || of.first()->type() < myItem::standardKind
+                   ? nullptr
+                   : static_cast<myItemStandard *>(of.first());
+    };
+    const myItemStandard *before = first(other);
+    const myItemStandard *after = first(fresh);
+    if (!before || !after || !before->owned || !after->owned)
+        return;
+    after->owned->row = before->owned->row;
+    after->owned->place = before->owned->place;
+}
+
+void addPlace(std::vector<QStandardItem *> &cells, const heldRow &items, QStandardItem *parent,
+              int at)
+{
+    QStandardItem *first = items.isHolding() || !parent ? nullptr : parent->child(at);
+    if (first)
+        cells.push_back(first);
+}
+
+QString shortened(const myItemStandard &item)
+{
+    constexpr int most = 40;
+    const QString text = myItem::displayText(item).simplified();
+    return text.size() <= most ? text : text::firstUnits(text, most - 1) + QChar(0x2026);
+}
+
+QString tr(const char *text) { return QCoreApplication::translate("commands", text); }
+
+// What an edit is called in the history: where, from what and to what.
+QString described(const myModel *model, const myItemStandard &item, const QString &before)
+{
+    const myItemStandard *first = model->cell(item.index().siblingAtColumn(0));
+    const QString where = item.parent() && first && first != &item
+                              ? shortened(*first)
+                              : tr("line %1").arg(item.row() + 1);
+    return tr("%1, %2: %3 → %4")
+        .arg(where, model->headerData(item.column(), Qt::Horizontal).toString(), before,
+             shortened(item));
+}
+
 } // namespace
 
 void recordEdits(myModel *model, commandStack *stack)
 {
     model->setEditHook([model, stack](myItemStandard *item, const QVariant &value) {
-        const QString what = model->headerData(item->column(), Qt::Horizontal).toString();
-        stack->push(std::unique_ptr<command>(new (std::nothrow) changeValue(model, item, value)),
-                    what);
+        const QString before = shortened(*item);
+        auto change = std::unique_ptr<command>(new (std::nothrow) changeValue(model, item, value));
+        stack->push(std::move(change), described(model, *item, before));
     });
 }
 
@@ -82,6 +130,13 @@ void appendCommands::redo()
             member->redo();
 }
 
+void appendCommands::places(std::vector<QStandardItem *> &cells) const
+{
+    for (const auto &member : m_members)
+        if (member)
+            member->places(cells);
+}
+
 appendItems::appendItems(QStandardItem *parent, const row &items)
     : m_items(items)
     , m_parent(parent)
@@ -106,6 +161,11 @@ void appendItems::redo()
         m_row = putIn(m_parent, m_row, m_items.release());
 }
 
+void appendItems::places(std::vector<QStandardItem *> &cells) const
+{
+    addPlace(cells, m_items, m_parent, m_row);
+}
+
 appendNewMaterial::appendNewMaterial(myModel *model, const row &items)
     : m_model(model)
     , m_items(items)
@@ -126,6 +186,11 @@ void appendNewMaterial::redo()
     m_model->emitAppendOccured();
 }
 
+void appendNewMaterial::places(std::vector<QStandardItem *> &cells) const
+{
+    addPlace(cells, m_items, m_model->invisibleRootItem(), m_row);
+}
+
 changeRow::changeRow(QStandardItem *parent, int at, const row &items)
     : m_parent(parent)
     , m_new(items)
@@ -134,16 +199,22 @@ changeRow::changeRow(QStandardItem *parent, int at, const row &items)
     changeRow::redo();
 }
 
-void changeRow::undo()
+void changeRow::undo() { exchange(m_new, m_old); }
+
+void changeRow::redo() { exchange(m_old, m_new); }
+
+void changeRow::exchange(heldRow &out, heldRow &in)
 {
-    m_new.hold(takeOut(m_parent, m_row));
-    putIn(m_parent, m_row, m_old.release());
+    const row taken = takeOut(m_parent, m_row);
+    out.hold(taken);
+    const row items = in.release();
+    takePlaceOf(taken, items);
+    putIn(m_parent, m_row, items);
 }
 
-void changeRow::redo()
+void changeRow::places(std::vector<QStandardItem *> &cells) const
 {
-    m_old.hold(takeOut(m_parent, m_row));
-    putIn(m_parent, m_row, m_new.release());
+    cells.push_back(m_parent->child(m_row));
 }
 
 changeValue::changeValue(myModel *model, myItemStandard *item, const QVariant &value)
@@ -185,6 +256,11 @@ void deleteFromItem::undo() { putIn(m_parent, m_row, m_items.release()); }
 
 void deleteFromItem::redo() { m_items.hold(takeOut(m_parent, m_row)); }
 
+void deleteFromItem::places(std::vector<QStandardItem *> &cells) const
+{
+    addPlace(cells, m_items, m_parent, m_row);
+}
+
 deleteMaterial::deleteMaterial(myModel *model, const QModelIndex &index)
     : m_model(model)
     , m_row(index.row())
@@ -202,6 +278,11 @@ void deleteMaterial::redo()
 {
     m_items.hold(m_model->takeWithRecord(m_model->invisibleRootItem(), m_row));
     m_model->emitRemoveOccured();
+}
+
+void deleteMaterial::places(std::vector<QStandardItem *> &cells) const
+{
+    addPlace(cells, m_items, m_model->invisibleRootItem(), m_row);
 }
 
 increaseValue::increaseValue(QStandardItem *item, unsigned step)

@@ -31,6 +31,7 @@ public:
     void hold(const myItem::row &items) { m_items = items; }
     // What was held; nothing is any more.
     myItem::row release() { return std::exchange(m_items, {}); }
+    bool isHolding() const { return !m_items.isEmpty(); }
 
 private:
     myItem::row m_items;
@@ -46,6 +47,7 @@ public:
     ~appendCommands() override;
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
     size_t size() const { return m_members.size(); }
 
 private:
@@ -60,6 +62,7 @@ public:
     appendItems(QStandardItem *parent, const myItem::row &items);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
 
 private:
     heldRow m_items;
@@ -74,6 +77,7 @@ public:
     appendNewMaterial(myModel *model, const myItem::row &items);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
 
 private:
     myModel *m_model;
@@ -88,8 +92,11 @@ public:
     changeRow(QStandardItem *parent, int row, const myItem::row &items);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
 
 private:
+    void exchange(heldRow &out, heldRow &in);
+
     QStandardItem *m_parent;
     heldRow m_new;
     heldRow m_old;
@@ -104,6 +111,7 @@ public:
     changeValue(myModel *model, myItem::myItemStandard *item, const QVariant &value);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override { cells.push_back(m_item); }
 
 private:
     void written();
@@ -122,6 +130,7 @@ public:
     deleteFromItem(QStandardItem *parent, QStandardItem *item);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
 
 private:
     QStandardItem *m_parent;
@@ -136,6 +145,7 @@ public:
     deleteMaterial(myModel *model, const QModelIndex &index);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override;
 
 private:
     myModel *m_model;
@@ -150,6 +160,7 @@ public:
     increaseValue(QStandardItem *item, unsigned step);
     void undo() override;
     void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override { cells.push_back(m_item); }
 
 private:
     void set(unsigned value);

@@ -247,14 +247,14 @@ myItem::row rows::materialRow(materialStruct *material) const
 myItem::row rows::makeRow(std::unique_ptr<materialStruct> material) const
 {
     const myItem::row items = materialRow(material.get());
-    static_cast<myItemStandard *>(items.first())->ownedRecord = std::move(material);
+    static_cast<myItemStandard *>(items.first())->own(std::move(material));
     return items;
 }
 
 myItem::row rows::makeRow(std::unique_ptr<d_groupStruct> group) const
 {
     const myItem::row items = groupRow(group.get());
-    static_cast<myItemStandard *>(items.first())->ownedRecord = std::move(group);
+    static_cast<myItemStandard *>(items.first())->own(std::move(group));
     return items;
 }
 

@@ -163,7 +163,8 @@ bool putInto(xmlData *owner, int row, myItemStandard *first)
         return false;
     using Child = typename decltype(list->items)::value_type::element_type;
     list->items.emplace(list->items.begin() + row,
-                        static_cast<Child *>(first->ownedRecord.release()));
+                        static_cast<Child *>(first->owned->record.release()));
+    first->owned.reset();
     return true;
 }
 
@@ -173,7 +174,7 @@ bool takeFrom(xmlData *owner, int row, myItemStandard *first)
     auto *list = dynamic_cast<List *>(owner);
     if (!list)
         return false;
-    first->ownedRecord = std::move(list->items[size_t(row)]);
+    first->own(std::move(list->items[size_t(row)]));
     list->items.erase(list->items.begin() + row);
     return true;
 }
@@ -317,7 +318,7 @@ row materialTree::newFirm(rowKind kind) const
 {
     const auto rowOf = [this](auto source) {
         const row items = firmRow(source.get());
-        static_cast<myItemStandard *>(items.first())->ownedRecord = std::move(source);
+        static_cast<myItemStandard *>(items.first())->own(std::move(source));
         return items;
     };
     return kind == supplier ? rowOf(std::make_unique<supplierStruct>())
@@ -330,7 +331,7 @@ row materialTree::newFile(const QString &kind, const QString &name) const
     record->type = kind;
     record->name = name;
     const row items = fileRow(record.get());
-    static_cast<myItemStandard *>(items.first())->ownedRecord = std::move(record);
+    static_cast<myItemStandard *>(items.first())->own(std::move(record));
     return items;
 }
 

@@ -104,7 +104,7 @@ public:
     myItem::row makeDetachedRow(std::unique_ptr<Record> record) const
     {
         const myItem::row items = makeRow(m_columns, record.get());
-        static_cast<myItem::myItemStandard *>(items.first())->ownedRecord = std::move(record);
+        static_cast<myItem::myItemStandard *>(items.first())->own(std::move(record));
         return items;
     }
 

@@ -132,6 +132,12 @@ myItemStandard::~myItemStandard()
         delete attachedText;
 }
 
+void myItemStandard::own(std::unique_ptr<xmlData> detached)
+{
+    owned = std::make_unique<detachedRecord>();
+    owned->record = std::move(detached);
+}
+
 void myItemStandard::setUp(const QString &key, const QString &text, bool editable)
 {
     setWhatsThis(key);

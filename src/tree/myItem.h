@@ -3,6 +3,8 @@
 // was read, also where it is no proper value of the kind, until the cell is edited.
 #pragma once
 
+#include "data/xmlData.h"
+
 #include <QColor>
 #include <QDate>
 #include <QFont>
@@ -14,7 +16,6 @@
 #include <memory>
 #include <optional>
 
-class xmlData;
 struct comboBoxStruct;
 
 namespace myItem {
@@ -42,6 +43,15 @@ enum kind
     pathEditKind
 };
 
+// A record whose row is out of the tree, and where it was taken from, if it ever stood there: a
+// sorted tree shows its list in another order, so that the row alone does not tell the place.
+struct detachedRecord
+{
+    std::unique_ptr<xmlData> record;
+    int row = -1;
+    int place = -1; // in the list of records
+};
+
 // A cell without an editor, and the base of all others.
 class myItemStandard : public QStandardItem
 {
@@ -65,7 +75,8 @@ public:
     // In the first cell of a row: the record that the row shows, which the row owns only while it
     // is out of the tree, and whether the rows below it are still to be made.
     xmlData *record = nullptr;
-    std::unique_ptr<xmlData> ownedRecord;
+    std::unique_ptr<detachedRecord> owned;
+    void own(std::unique_ptr<xmlData> detached);
     bool childrenPending = false;
 
 protected:

@@ -19,15 +19,20 @@ auto placeOf(List &list, const xmlData *record, int row)
                         [record](const auto &item) { return item.get() == record; });
 }
 
+// A row that comes back to where it was taken from takes its old place among the records, any other
+// the one before the row below it.
 template <class Record>
 void putInto(std::vector<std::unique_ptr<Record>> &list, QStandardItem *parent, int row,
              myItem::myItemStandard *first)
 {
     auto place = list.end();
-    if (row + 1 < parent->rowCount())
+    if (first->owned->row == row && size_t(first->owned->place) <= list.size())
+        place = list.begin() + first->owned->place;
+    else if (row + 1 < parent->rowCount())
         place = placeOf(list, static_cast<myItem::myItemStandard *>(parent->child(row + 1))->record,
                         row);
-    (void)first->ownedRecord.release(); // the list owns it from here on
+    (void)first->owned->record.release(); // the list owns it from here on
+    first->owned.reset();
     list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
 }
 
@@ -35,7 +40,9 @@ template <class Record>
 void takeFrom(std::vector<std::unique_ptr<Record>> &list, int row, myItem::myItemStandard *first)
 {
     const auto place = placeOf(list, first->record, row);
-    first->ownedRecord = std::move(*place);
+    first->own(std::move(*place));
+    first->owned->row = row;
+    first->owned->place = int(place - list.begin());
     list.erase(place);
 }
 

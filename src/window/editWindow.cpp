@@ -12,9 +12,14 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
+#include <QStackedWidget>
+#include <QStandardItem>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -222,8 +227,39 @@ void editWindow::push(std::unique_ptr<command> change, const QString &what)
 void editWindow::tellHistory(const QString &form, const QString &what)
 {
     historyMoved();
+    showMoved();
     if (!what.isNull())
         tell(form.arg(what));
+}
+
+// What a step undone or done again is seen in gets selected, and is brought into sight.
+void editWindow::showMoved()
+{
+    constexpr size_t most = 1000; // selecting more takes longer than the step
+    std::vector<QStandardItem *> cells = m_stack->places();
+    cells.resize(std::min(cells.size(), most));
+    for (myTreeView *view : m_views) {
+        QItemSelection moved;
+        QModelIndex first;
+        for (const QStandardItem *cell : cells) {
+            const QModelIndex index = cell->index();
+            if (cell->model() != view->model() || view->isRowHidden(index.row(), index.parent()))
+                continue;
+            moved.select(index, index);
+            if (!first.isValid())
+                first = index;
+        }
+        if (!first.isValid())
+            continue;
+        // It may be on another page.
+        for (QWidget *page = view; page && page != this; page = page->parentWidget())
+            if (auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget()))
+                if (auto *tabs = qobject_cast<QTabWidget *>(stack->parentWidget()))
+                    tabs->setCurrentWidget(page);
+        view->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        view->selectionModel()->select(moved, QItemSelectionModel::ClearAndSelect);
+        view->scrollTo(first);
+    }
 }
 
 void editWindow::commandUndo(bool)

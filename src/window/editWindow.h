@@ -207,6 +207,7 @@ protected:
 private:
     void followHistory();
     void tellHistory(const QString &form, const QString &what);
+    void showMoved();
     bool settleOtherVersion();
     void claimFile();
     bool mayUnlock() const;
