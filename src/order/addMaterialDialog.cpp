@@ -3,6 +3,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/programData.h"
 #include "order/orderTree.h"
+#include "tree/countBox.h"
 #include "util/labels.h"
 #include "util/numbers.h"
 
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStandardItemModel>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -79,7 +79,7 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     , m_words(new QLineEdit(this))
     , m_view(new QTreeView(this))
     , m_found(new QStandardItemModel(this))
-    , m_quantity(new QSpinBox(this))
+    , m_quantity(new countBox(this, 1, orderTree::quantityMaximum, 1))
     , m_add(new QPushButton(tr("Add to the order"), this))
     , m_count(new QLabel(this))
 {
@@ -99,7 +99,6 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_quantity->setObjectName(QStringLiteral("quantity"));
     m_quantity->setAccessibleName(labels::quantity());
-    m_quantity->setRange(1, orderTree::quantityMaximum);
     m_add->setDefault(true);
     auto *close = new QPushButton(tr("Close"), this);
     close->setAutoDefault(false);
@@ -173,9 +172,10 @@ void addMaterialDialog::add()
     QStringList ktms;
     for (int row : rows)
         ktms.append(m_found->item(row)->data().toString());
-    if (ktms.isEmpty())
+    const std::optional<int> quantity = m_quantity->count();
+    if (ktms.isEmpty() || !quantity)
         return;
-    emit wanted(ktms, uint(m_quantity->value()));
+    emit wanted(ktms, uint(*quantity));
     m_words->setFocus();
     m_words->selectAll();
 }

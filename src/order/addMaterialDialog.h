@@ -7,7 +7,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QSpinBox;
+class countBox;
 class QStandardItemModel;
 class QTreeView;
 class programData;
@@ -42,7 +42,7 @@ private:
     QLineEdit *m_words;
     QTreeView *m_view;
     QStandardItemModel *m_found;
-    QSpinBox *m_quantity;
+    countBox *m_quantity;
     QPushButton *m_add;
     QLabel *m_count;
 };

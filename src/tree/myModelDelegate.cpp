@@ -5,6 +5,7 @@
 #include "tree/myCalendarWidget.h"
 #include "tree/myModel.h"
 #include "tree/numberBox.h"
+#include "tree/refusal.h"
 #include "tree/richtexteditDialog.h"
 #include "util/numbers.h"
 #include "util/paths.h"
@@ -25,7 +26,6 @@
 #include <QProgressBar>
 #include <QSpinBox>
 #include <QTimer>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -48,9 +48,8 @@ myItemStandard *itemAt(const QModelIndex &index)
     return model ? model->cell(index) : nullptr;
 }
 
-// What an editor began with, and why its text was refused.
+// What an editor began with.
 constexpr const char *loadedProperty = "loaded";
-constexpr const char *faultProperty = "fault";
 
 // The wanted colour where it can be read on what is behind it, else black or white.
 QColor readable(const QColor &wanted, const QColor &behind)
@@ -369,7 +368,8 @@ QWidget *myModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
         editor->setFont(fontOf(*item, option.font));
     editor->setEnabled(item->isEnabled());
     if (QLineEdit *line = lineOf(editor))
-        connect(line, &QLineEdit::textEdited, editor, [editor] { mark(editor, {}); });
+        connect(line, &QLineEdit::textEdited, editor,
+                [editor, line] { refusal::mark(editor, {}, line); });
     return editor;
 }
 
@@ -430,7 +430,7 @@ void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
         QStyledItemDelegate::setEditorData(editor, index);
     }
     editor->setProperty(loadedProperty, loadedOf(*item, editor));
-    mark(editor, {});
+    refusal::mark(editor, {}, lineOf(editor));
 }
 
 // The value that an editor holds. What only was looked at is none: the editor may be unable to show
@@ -503,41 +503,12 @@ void myModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     reading typed = readEditor(editor, *own, *item);
     if (typed.fault.isEmpty() && typed.value.isValid())
         typed.fault = own->setValue(item, typed.value);
-    mark(editor, typed.fault);
+    refusal::mark(editor, typed.fault, lineOf(editor));
     if (!typed.fault.isEmpty())
         emit const_cast<myModelDelegate *>(this)->refused(typed.fault);
 }
 
-bool myModelDelegate::isRefused(const QWidget *editor)
-{
-    return !editor->property(faultProperty).toString().isEmpty();
-}
-
-// A refused text stays in its editor, which says why until it is typed in again.
-void myModelDelegate::mark(QWidget *editor, const QString &fault)
-{
-    const bool wasRefused = isRefused(editor);
-    editor->setProperty(faultProperty, fault);
-    if (fault.isEmpty() && !wasRefused)
-        return;
-    QWidget *line = lineOf(editor);
-    QPalette palette;
-    const QString shown = fault.isEmpty()
-                              ? QString()
-                              : QLatin1String("<p>") + text::toHtml(fault) + QLatin1String("</p>");
-    if (!fault.isEmpty()) {
-        palette = editor->palette();
-        palette.setColor(QPalette::Base, QColor(0xFF, 0xD8, 0xD0));
-        palette.setColor(QPalette::Text, Qt::black);
-    }
-    (line ? line : editor)->setPalette(palette);
-    editor->setToolTip(shown);
-    editor->setAccessibleDescription(fault);
-    if (fault.isEmpty())
-        QToolTip::hideText();
-    else
-        QToolTip::showText(editor->mapToGlobal(QPoint(0, editor->height())), shown, editor);
-}
+bool myModelDelegate::isRefused(const QWidget *editor) { return refusal::isMarked(editor); }
 
 void myModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                                            const QModelIndex &index) const

@@ -56,7 +56,6 @@ private:
     QWidget *makeEditor(QWidget *parent, const myItem::myItemStandard &item) const;
     static myItem::reading readEditor(QWidget *editor, const myModel &model,
                                       const myItem::myItemStandard &item);
-    static void mark(QWidget *editor, const QString &fault);
     void closeWith(class QDialog *dialog) const;
     void paintBar(QPainter *painter, const QStyleOptionViewItem &option,
                   const myItem::myItemStandard &item) const;

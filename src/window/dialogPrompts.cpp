@@ -1,5 +1,6 @@
 #include "window/dialogPrompts.h"
 
+#include "tree/countBox.h"
 #include "tree/myCalendarWidget.h"
 #include "util/labels.h"
 #include "util/text.h"
@@ -10,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -103,10 +105,22 @@ std::optional<QString> dialogPrompts::inputText(const QString &title, const QStr
 std::optional<int> dialogPrompts::inputNumber(const QString &title, const QString &label,
                                               int initial, int minimum, int maximum)
 {
-    bool accepted = false;
-    const int number = QInputDialog::getInt(QApplication::activeWindow(), title, label, initial,
-                                            minimum, maximum, 1, &accepted);
-    return accepted ? std::optional(number) : std::nullopt;
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(title);
+    auto *number = new countBox(&dialog, minimum, maximum, initial);
+    number->setObjectName(QStringLiteral("number"));
+    number->setAccessibleName(label);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, [&dialog, number] {
+        if (number->count())
+            dialog.accept();
+    });
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(new QLabel(label, &dialog));
+    layout->addWidget(number);
+    layout->addWidget(buttons);
+    return dialog.exec() == QDialog::Accepted ? number->count() : std::nullopt;
 }
 
 std::optional<QDate> dialogPrompts::inputDate(const QString &title, const QDate &initial)
