@@ -16,53 +16,49 @@
 using enum lockRule;
 using bomOperations::bomSets;
 
-const pressedRow setActions[] = {
-    {"set", SETS, "#set Escape", "boxes = Materials for the order"},
-    {"set", "", "#set", "status = no list is built: all numbers of sets are 0"},
-    {"clear", SETS, "#clear !Yes", "boms@0/0/0,1 = 0", edits},
-    {"clear", SETS, "#clear !No", "boms@0/0/0,1 = 2"},
-    {"allQuantities", "", "#allQuantities '7' Return", "boms@0/0/0,1 = 7; boms@2/0/0,1 = 7", edits},
-    {"allQuantities", "boms@1,0", "#allQuantities '7' Return",
-     "boms@0/0/0,1 = 0; boms@1/0/0,1 = 7; boms@1/1/1,1 = 7; boms@2/0/0,1 = 0", edits},
-    {"allQuantities", SETS, "#allQuantities '7' Escape", "boms@0/0/0,1 = 2"},
-    {"setAll", "", "boms@?1/1,0 #setAll '7' Return", "boms@1/0/0,1 = 0; boms@1/1/0,1 = 7", edits},
-    {"report", "boms@2/0/0,0", "#report Ctrl+A '%/r.html' Return",
-     "file r.html ~ !!!!!NONE-1; status = Saved as %/r.html"},
-    {"report", SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
-    {"save", NAME, "#save", "file _files/boms.xml ~ Żuk; title = Bill of materials"},
-    {"close", "", "#close", "title = closed"},
-    {"undo", NAME, "#undo", "boms@0,0 = Zasilanie; title = Bill of materials"},
-    {"redo", NAME "Ctrl+Z", "#redo", "boms@0,0 = Żuk; title = Bill of materials *"},
-    {"addFile", "boms@1/0/0,0", "#addFile '%/" LIST "' Return",
+const scenario setActions[] = {
+    {SETS, "#set Escape", "boxes = Materials for the order"},
+    {"", "#set", "status = no list is built: all numbers of sets are 0"},
+    {SETS, "#clear !Yes", "boms@0/0/0,1 = 0", edits},
+    {SETS, "#clear !No", "boms@0/0/0,1 = 2"},
+    {"", "#allQuantities '7' Return", "boms@0/0/0,1 = 7; boms@2/0/0,1 = 7", edits},
+    {"boms@1,0", "#allQuantities '7' Return", "boms@0/0/0,1 = 0; boms@1/0/0,1 = 7; boms@1/1/1,1 = 7; boms@2/0/0,1 = 0",
+     edits},
+    {SETS, "#allQuantities '7' Escape", "boms@0/0/0,1 = 2"},
+    {"", "boms@?1/1,0 #setAll '7' Return", "boms@1/0/0,1 = 0; boms@1/1/0,1 = 7", edits},
+    {"boms@2/0/0,0", "#report Ctrl+A '%/r.html' Return", "file r.html ~ !!!!!NONE-1; status = Saved as %/r.html"},
+    {SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
+    {NAME, "#save", "file _files/boms.xml ~ Żuk; title = Bill of materials"},
+    {"", "#close", "title = closed"},
+    {NAME, "#undo", "boms@0,0 = Zasilanie; title = Bill of materials"},
+    {NAME "Ctrl+Z", "#redo", "boms@0,0 = Żuk; title = Bill of materials *"},
+    {"boms@1/0/0,0", "#addFile '%/" LIST "' Return",
      "boms@1/0/1,2 = boms/zasilacz_liniowy_5v.xml; title = Bill of materials *", edits},
-    {"addFile", "boms@0/1,0", "#addFile '%/far.xml' Return", "boms@0/1/0,2 = %/far.xml", edits},
-    {"addFile", "", "#addFile '%/_files/firms.xml' Return Return", "errors ~ firms.xml</b>; title = Bill of materials"},
-    {"addGroup", "boms@1/0/0,0", "#addGroup 'Żuk' Return", "boms@1/2,0 = Żuk", edits},
-    {"delete", "boms@0/0/0,0 +boms@0/1,0", "#delete", "boms@0/0/0,0 =; boms@0/1,0 =", edits},
-    {"delete", "boms@0,0", "#delete Return", "boxes = Information: Only empty folders can be deleted"},
-    {"expand", "#collaps", "#expand boms@1/1/0,0", "status ~ konwerter"},
-    {"collaps", "", "#collaps boms@0,0 Down #allQuantities '7' Return", "boms@1/1/0,1 = 7; boms@0/0/0,1 = 0"},
-    {"open", "", "boms@?0/0/0,0 #open", "desktop = file://%/" LIST},
-    {"bom", "", "boms@?0/0/0,0 #bom", "front = Bill of materials [%/" LIST "] Editing locked"},
-    {"csv", "", "boms@?2/0/0,0 #csv Ctrl+A '%/o.csv' Return", "file o.csv = !!!!!NONE-1\t2,5\n"},
-    {"csv", "", "boms@?2/0/0,0 #csv Ctrl+A '%/_zp/zp_0.xml/o.csv' Return Return", "boxes ~ cannot be written"},
+    {"boms@0/1,0", "#addFile '%/far.xml' Return", "boms@0/1/0,2 = %/far.xml", edits},
+    {"", "#addFile '%/_files/firms.xml' Return Return", "errors ~ firms.xml</b>; title = Bill of materials"},
+    {"boms@1/0/0,0", "#addGroup 'Żuk' Return", "boms@1/2,0 = Żuk", edits},
+    {"boms@0/0/0,0 +boms@0/1,0", "#delete", "boms@0/0/0,0 =; boms@0/1,0 =", edits},
+    {"boms@0,0", "#delete Return", "boxes = Information: Only empty folders can be deleted"},
+    {"#collaps", "#expand boms@1/1/0,0", "status ~ konwerter"},
+    {"", "#collaps boms@0,0 Down #allQuantities '7' Return", "boms@1/1/0,1 = 7; boms@0/0/0,1 = 0"},
+    {"", "boms@?0/0/0,0 #open", "desktop = file://%/" LIST},
+    {"", "boms@?0/0/0,0 #bom", "front = Bill of materials [%/" LIST "] Editing locked"},
+    {"", "boms@?2/0/0,0 #csv Ctrl+A '%/o.csv' Return", "file o.csv = !!!!!NONE-1\t2,5\n"},
+    {"", "boms@?2/0/0,0 #csv Ctrl+A '%/_zp/zp_0.xml/o.csv' Return Return", "boxes ~ cannot be written"},
     // The converter is not there.
-    {"doc", "", "boms@?2/0/0,0 #doc Ctrl+A '%/o.doc' Return ~300 Return",
-     "boxes ~ o.doc cannot be written; files o.doc ="},
+    {"", "boms@?2/0/0,0 #doc Ctrl+A '%/o.doc' Return ~300 Return", "boxes ~ o.doc cannot be written; files o.doc ="},
 };
 
-const pressedRow listActions[] = {
-    {"save", "Ctrl+E " CELL, "#save", "file " LIST " ~ Żuk; status = Saved", reads},
-    {"close", "", "#close", "title = closed"},
-    {"edit", "", "#edit", "status = Editing is allowed; title = Bill of materials [%/" LIST "]"},
-    {"undo", "Ctrl+E " CELL, "#undo", "lines@0,2 = R1"},
-    {"undo", "Ctrl+E " CELL "Ctrl+E", "#undo", "lines@0,2 = Żuk; status = Editing is locked"},
-    {"redo", "Ctrl+E " CELL "Ctrl+Z", "#redo", "lines@0,2 = Żuk"},
-    {"redo", "Ctrl+E " CELL "Ctrl+Z Ctrl+E", "#redo", "lines@0,2 = R1; status = Editing is locked"},
-    {"copyText", "Ctrl+E lines@0,2", "lines@?0,6 #copyText", "clipboard = " KNOWN, reads},
-    {"pasteCells", "Ctrl+E " CELL "Ctrl+C lines@1,2", "#pasteCells", "lines@1,2 = Żuk", edits},
-    {"deleteLines", "Ctrl+E lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
-    {"sum", "Ctrl+E", "#sum Return", "boxes ~ Information: ", reads},
+const scenario listActions[] = {
+    {CELL, "#save", "file " LIST " ~ Żuk; status = Saved", same},
+    {"", "#close", "title = closed"},
+    {"Ctrl+E", "#edit", "status = Editing is allowed; title = Bill of materials [%/" LIST "]"},
+    {CELL, "#undo", "lines@0,2 = R1", guards},
+    {CELL "Ctrl+Z", "#redo", "lines@0,2 = Żuk", guards},
+    {"lines@0,2", "lines@?0,6 #copyText", "clipboard = " KNOWN, reads},
+    {CELL "Ctrl+C lines@1,2", "#pasteCells", "lines@1,2 = Żuk", edits},
+    {"lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
+    {"", "#sum Return", "boxes ~ Information: ", reads},
 };
 
 const scenario scenarios[] = {
@@ -128,34 +124,23 @@ class tst_bomWindows : public scenarioFixture
         database.replace(stock, 17, "<d_inWarehouse>1<");
         testSupport::write(path("_files/db_warehouse.xml"), database);
     }
+    std::vector<scenarioTable> tables() override
+    {
+        return {{"Ctrl+B", false, setActions},
+                {"Ctrl+B|boms@0/0/0,0 Return|Ctrl+E", true, listActions},
+                {nullptr, false, scenarios}};
+    }
 
 private slots:
-    void setAction_data() { addActions(setActions, false); }
-    void setAction()
+    void widthsOfAList()
     {
-        openWindow("Ctrl+B");
-        pressAction();
-    }
-    void listAction_data() { addActions(listActions); }
-    void listAction()
-    {
-        openWindow("Ctrl+B|boms@0/0/0,0 Return");
-        pressAction();
-    }
-    void allActions()
-    {
-        openWindow("Ctrl+B");
-        noneIsMissing(setActions);
-        openWindow("boms@0/0/0,0 Return");
-        noneIsMissing(listActions);
+        steps("Ctrl+B|boms@0/0/0,0 Return");
         const auto *header = window().findChild<QHeaderView *>("linesHeader");
         QString widths;
         for (int column = 0; column < header->count(); ++column)
             widths += QString::number(header->sectionSize(column)) + ' ';
         QCOMPARE(widths, QString("50 320 150 80 80 80 150 80 80 200 80 80 250 "));
     }
-    void life_data() { addScenarios(scenarios); }
-    void life() { live(); }
 
     void insertFromTheDatabase()
     {

@@ -1,46 +1,51 @@
 // The material editor, worked with hands from the database window: what it shows, gives back,
 // undoes and sends to the file server.
-#include "pressedActions.h"
+#include "scenarioFixture.h"
 
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
 
-const std::vector<pressedAction> actions = {
-    {"set", "material@0/2,1 F2 Ctrl+A 'Nowy' Return #set", "closed|+<d_name>Nowy"},
-    {"close", "#close", "closed"},
-    {"undo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return #undo", "Undone: "},
-    {"redo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return Ctrl+Z #redo", "Done again: |+<d_name>Nowy"},
-    {"addManufacturer", "#addManufacturer 'Vishay' Return", "+<name>Vishay</name>"},
-    {"addSuppler", "#addSuppler 'Farnell' Return", "+<name>Farnell</name>"},
-    {"addFile", "material@3/0,0 #addFile 'http://x/y' Return", "+<file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
-    {"addFile, context menu", "material@?4/0,0 #addFile 'http://x/y' Return",
-     "+<file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
-    {"deleteRows", "material@4/0,0 #deleteRows", "-<name>TME</name>"},
-    {"deleteRows, some", "material@3/0,0 +material@4/0,0 #deleteRows Ctrl+Z", "Undone: Delete rows"},
-    {"deleteFile", "material@?3/0/1,0 #deleteFile", "-<file|bin/sh"},
-    {"deleteFiles", "material@?3/0,0 #deleteFiles", "-<file|bin/sh|a.pdf"},
-    {"datasheets", "material@3/0,0 #datasheets 'b c.pdf' Return Return",
-     "Please set path where write file|+<file type=\"FILE_DATASHEET\" "
-     "name=\"http://server/redfiles/DATASHEET/y/b%20c.pdf\"/>"},
-    {"datasheets, cancelled", "material@3/0,0 #datasheets 'b c.pdf' Return Escape", "Please set path where write file"},
-    {"datasheets, leads out", "material@3/0,0 #datasheets 'a.pdf' Return Ctrl+A '../b.pdf' Return Escape",
-     "Error: ../b.pdf is no path below the folder"},
-    {"declarations", "material@3/0,0 #declarations 'a.pdf' Return Ctrl+A 'b.pdf' Return",
-     "+<file type=\"FILE_MD\" name=\"http://server/redfiles/RoHS/b.pdf\"/>"},
-    {"copyFileToServer", "material@3/0/0,0 #copyFileToServer 'a.pdf' Return ~300",
-     "The program cannot be started|"
-     "Sending error <b>%1/redfiles/y/a.pdf</b>&nbsp;[server:/redfiles/DATASHEET/a.pdf]"},
-    {"open", "material@3/0/0,0 #open", "opened http://server/redfiles/DATASHEET/a.pdf"},
+#define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0|F4 !Yes"
+#define NAME "material@0/2,1 F2 Ctrl+A 'Nowy' Return"
+
+using enum lockRule;
+
+const scenario actions[] = {
+    {NAME, "#set", "title = closed; saved ~ <d_name>Nowy"},
+    {"", "#close", "title = closed; boxes ="},
+    {NAME, "#undo", "status ~ Undone: ; title !~ *"},
+    {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <d_name>Nowy"},
+    {"", "#addManufacturer 'Vishay' Return", "saved ~ <name>Vishay</name>"},
+    {"", "#addSuppler 'Farnell' Return", "saved ~ <name>Farnell</name>"},
+    {"material@3/0,0", "#addFile 'http://x/y' Return", "saved ~ <file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
+    {"", "material@?4/0,0 #addFile 'http://x/y' Return", "saved ~ <file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
+    {"material@4/0,0", "#deleteRows", "saved !~ <name>TME</name>"},
+    {"material@3/0,0 +material@4/0,0", "#deleteRows", "material! !~ Unknown; material! !~ TME", edits},
+    {"", "material@?3/0/1,0 #deleteFile", "saved !~ bin/sh; saved ~ a.pdf"},
+    {"", "material@?3/0,0 #deleteFiles", "saved !~ bin/sh; saved !~ a.pdf"},
+    {"material@3/0,0", "#datasheets 'b c.pdf' Return Return",
+     "boxes ~ Please set path where write file; saved ~ <file type=\"FILE_DATASHEET\" "
+     "name=\"http://server/redfiles/DATASHEET/y/b{pc}20c.pdf\"/>"},
+    {"material@3/0,0", "#datasheets 'b c.pdf' Return Escape", "boxes ~ Please set path where write file", reads},
+    {"material@3/0,0", "#datasheets 'a.pdf' Return Ctrl+A '../b.pdf' Return Escape",
+     "boxes ~ Error: ../b.pdf is no path below the folder", reads},
+    {"material@3/0,0", "#declarations 'a.pdf' Return Ctrl+A 'b.pdf' Return",
+     "saved ~ <file type=\"FILE_MD\" name=\"http://server/redfiles/RoHS/b.pdf\"/>"},
+    {"material@3/0/0,0", "#copyFileToServer 'a.pdf' Return ~300",
+     "log ~ The program cannot be started; errors ~ Sending error "
+     "<b>%/redfiles/y/a.pdf</b>&nbsp;[server:/redfiles/DATASHEET/a.pdf]"},
+    {"material@3/0/0,0", "#open", "desktop = http://server/redfiles/DATASHEET/a.pdf", reads},
 };
 
-class tst_materialWindow : public actionFixture
+class tst_materialWindow : public scenarioFixture
 {
     Q_OBJECT
 
     // One material, whose manufacturer is not in the register.
     void prepare() override
     {
+        scenarioFixture::prepare();
         kiv_mat_databaseStruct all;
         QCOMPARE(loadDatabase(file(), &all), 0);
         all.groups.resize(1);
@@ -72,27 +77,19 @@ class tst_materialWindow : public actionFixture
         if (!missing.isEmpty())
             setOption(missing.toUtf8(), "");
     }
-    QString file() { return path("_files/db_warehouse.xml"); }
+    QString file() override { return path("_files/db_warehouse.xml"); }
     materialWindow &editor() { return dynamic_cast<materialWindow &>(window()); }
     Kiv_mat_databaseWindow &database() { return mainWindow().databaseWindow(programData::warehouse); }
     // What the database holds by now.
     const materialStruct &given() { return *database().rows().database().groups[0]->items.back(); }
     void open(const QString &steps = {})
     {
-        openWindow(openedWith);
+        openWindow(OPEN);
         if (!steps.isEmpty())
             work(steps);
     }
     QModelIndex current() { return editor().findChild<QTreeView *>("material")->currentIndex(); }
-    void saveAll() override
-    {
-        if (window().isVisible() && window().windowTitle().endsWith('*'))
-            work("Ctrl+S");
-        if (database().isVisible() && database().isModified())
-            hands{database()}("Ctrl+S");
-    }
-    static constexpr const char *openedWith = "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0|F4 !Yes";
-    std::vector<pressedWindow> windows() override { return {{"material", openedWith, "", actions}}; }
+    std::vector<scenarioTable> tables() override { return {{OPEN, false, actions}}; }
 
 private slots:
     // A field that the record gets later is not to be missing here.
@@ -219,7 +216,6 @@ private slots:
     {
         QFETCH(QString, steps);
         QFETCH(QString, reasons);
-        QDesktopServices::setUrlHandler("https", this, "pageOpened");
         open();
         boxes();
         work(steps);

@@ -118,11 +118,9 @@ class tst_order : public scenarioFixture
         folder().write("_zp/.left.xml.lock", "999999999\nKivZP\n" + host + "\n");
         folder().write("_zp/.held.xml.lock", mine + "\ngui_tests\n" + host + "\n");
     }
+    std::vector<scenarioTable> tables() override { return {{nullptr, false, scenarios}}; }
 
 private slots:
-    void life_data() { addScenarios(scenarios); }
-    void life() { live(); }
-
     void lockedWhileMaterialsAreChosen()
     {
         work("Ins 'stm32f103'");
