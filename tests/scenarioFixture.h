@@ -78,34 +78,28 @@ protected:
     // that are not hidden, "lines^" for the number of columns that are not, the object name of a text for that.
     QString seenAt(const QString &place)
     {
-        if (place == "status")
-            return status();
-        if (place == "boxes")
-            return boxes().join(" | ");
-        if (place == "title")
-            return window().isVisible() ? window().windowTitle() : "closed";
-        if (place == "front")
-            return QApplication::activeWindow() ? QApplication::activeWindow()->windowTitle() : "";
-        if (place == "focus")
-            return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : "";
-        if (place == "log")
-            return seen().logged;
-        if (place == "errors")
-            return seen().listed;
-        if (place == "desktop")
-            return m_desktop;
-        if (place == "clipboard")
-            return QApplication::clipboard()->text();
-        if (place == "at") {
-            const auto *view = qobject_cast<QTreeView *>(window().focusWidget());
-            return view ? view->currentIndex().data().toString() : "no tree";
-        }
-        if (place == "saved") {
+        const QWidget *focus = QApplication::focusWidget();
+        const QWidget *front = QApplication::activeWindow();
+        const auto *at = qobject_cast<QTreeView *>(window().focusWidget());
+        if (place == "saved")
             saveAll();
-            return testSupport::read(file());
-        }
-        if (place == "page")
-            return window().findChild<myWebView *>()->page()->mainFrame()->toPlainText();
+        const QHash<QString, std::function<QString()>> words{
+            {"status", [&] { return status(); }},
+            {"boxes", [&] { return boxes().join(" | "); }},
+            {"title", [&] { return window().isVisible() ? window().windowTitle() : "closed"; }},
+            {"front", [&] { return front ? front->windowTitle() : ""; }},
+            {"focus", [&] { return focus ? focus->objectName() : ""; }},
+            {"log", [&] { return seen().logged; }},
+            {"errors", [&] { return seen().listed; }},
+            {"desktop", [&] { return m_desktop; }},
+            {"clipboard", [&] { return QApplication::clipboard()->text(); }},
+            {"at", [&] { return at ? at->currentIndex().data().toString() : "no tree"; }},
+            {"disk", [&] { return QString(testSupport::read(file())); }},
+            {"saved", [&] { return QString(testSupport::read(file())); }},
+            {"page", [&] { return window().findChild<myWebView *>()->page()->mainFrame()->toPlainText(); }},
+        };
+        if (words.contains(place))
+            return words[place]();
         if (place.startsWith("files "))
             return QDir(path(QFileInfo(place.mid(6)).path()))
                 .entryList({QFileInfo(place).fileName()}, QDir::Files)
@@ -154,7 +148,7 @@ protected:
     }
 
     virtual std::vector<scenarioTable> tables() = 0;
-    // What "saved" looks at.
+    // What "disk" looks at, and "saved" after saving.
     virtual QString file() { return path("_zp/zp_0.xml"); }
     // What is given to another window is saved there.
     void saveAll()
@@ -217,9 +211,10 @@ private slots:
             return;
         }
         steps(of.steps);
-        QVERIFY(of.lock != lockRule::edits || everything() != before);
+        const QString after = everything();
+        QVERIFY(of.lock != lockRule::edits || after != before);
         if (of.lock == lockRule::reads)
-            QCOMPARE(everything(), before);
+            QCOMPARE(after, before);
         const QString seen = of.seen;
         if (of.lock != lockRule::edits)
             return look(seen);
@@ -229,6 +224,7 @@ private slots:
         work("Ctrl+Z");
         QCOMPARE(everything(), before);
         work("Ctrl+Y");
+        QCOMPARE(everything(), after);
         look(seen.mid(saved));
     }
 

