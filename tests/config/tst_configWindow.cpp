@@ -1,19 +1,22 @@
 // The window of the configuration, worked with hands; and what the configuration forbids elsewhere.
-#include "pressedActions.h"
+#include "scenarioFixture.h"
 
 #include "config/configOperations.h"
 
-const std::vector<pressedAction> actions = {
-    {"save", "F2 Ctrl+A 'ZP/7' Return #save", "Saved|+<option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"ZP/7\""},
-    {"default", "#default", "+<option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"\"", true},
-    {"close", "#close", "closed"},
-    {"edit", "#edit", "Editing is "},
-    {"undo", "F2 Ctrl+A 'ZP/7' Return #undo", "Undone: |at ZP/13/2026", true},
-    {"redo", "F2 Ctrl+A 'ZP/7' Return Ctrl+Z #redo", "Done again: |value1=\"ZP/7\"|-<option", true},
-    {"add", "!Persons #add", "rows 9|+<person type=\"PERSON_AUTHOR\"", true},
-    {"add, target", "!Targets #add", "rows 7|+<target ", true},
-    {"delete", "!Persons persons@0,0 #delete", "rows 7|-<person type=\"PERSON_AUTHOR\" working_begin=\"01.09.2014\"",
-     true},
+#define NAME "F2 Ctrl+A 'ZP/7' Return"
+
+using enum lockRule;
+
+const scenario actions[] = {
+    {NAME, "#save", "status ~ Saved; saved ~ <option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"ZP/7\"", same},
+    {"", "#default", "saved ~ <option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"\"", edits},
+    {"", "#close", "title = closed; boxes ="},
+    {"", "#edit", "status = Editing is locked"},
+    {NAME, "#undo", "status ~ Undone: ; at = ZP/13/2026", guards},
+    {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ value1=\"ZP/7\"", guards},
+    {"!Persons", "#add", "persons = 9; saved ~ <person type=\"PERSON_AUTHOR\" ", edits},
+    {"!Targets", "#add", "targets = 7", edits},
+    {"!Persons persons@0,0", "#delete", "persons = 7; saved !~ working_begin=\"01.09.2014\"", edits},
 };
 
 // Options 2, 3 and 1 of the file.
@@ -31,14 +34,15 @@ const struct
     {"EDIT_CONFIG", "#config", "options@12,1", "_config/kiv_mat_config.xml", "EDIT_CONFIG is NIE; change line 5 of %1"},
 };
 
-class tst_configWindow : public actionFixture
+class tst_configWindow : public scenarioFixture
 {
     Q_OBJECT
 
-    QString file() { return path("_config/kiv_mat_config.xml"); }
+    QString file() override { return path("_config/kiv_mat_config.xml"); }
     // What the window would add is there already.
     void prepare() override
     {
+        scenarioFixture::prepare();
         configStruct config;
         QVERIFY(config.load(file()));
         configOperations::addMissing(&config);
@@ -48,10 +52,7 @@ class tst_configWindow : public actionFixture
         QFETCH(int, row);
         setOption(forbiddenWindows[row].option, "NIE");
     }
-    std::vector<pressedWindow> windows() override
-    {
-        return {{"configuration", "#config|options@12,1", "Ctrl+E", actions}};
-    }
+    std::vector<scenarioTable> tables() override { return {{"#config|options@12,1", true, actions}}; }
 
 private slots:
     void saved()

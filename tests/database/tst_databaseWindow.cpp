@@ -1,93 +1,107 @@
 // The database window and the merge view, worked with hands on a small warehouse.
-#include "pressedActions.h"
+#include "scenarioFixture.h"
 
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseWindow.h"
 
-const std::vector<pressedAction> databaseActions = {
-    {"save", "F2 Ctrl+A 'Nowy' Return #save", "Saved|+<d_name>Nowy</d_name>|-<d_name>M0"},
-    {"update", "#update 'other.xml' Return Return", "-<d_ktm>317111-01.01-00002|+<d_price>77.00|317111-01.02-00001",
-     true},
-    {"merge", "#merge 'other.xml' Return", "shown Merge ["},
-    {"merge, no database", "#merge 'cpv.txt' Return", "cpv.txt</b>"},
-    {"close", "#close", "closed"},
-    {"fullReport", "#fullReport !Yes", "Do you want create ?|4 materials written|new _files/db_warehouse_full.html"},
-    {"shortReport", "#shortReport !Yes", "4 materials written|new _files/db_warehouse_short.html"},
-    {"edit", "#edit", "Editing is "},
-    {"undo", "F2 Ctrl+A 'Nowy' Return #undo", "Undone: |at M0", true},
-    {"redo", "F2 Ctrl+A 'Nowy' Return Ctrl+Z #redo", "Done again: |+<d_name>Nowy", true},
-    {"copyText", "#copyText", "1 cell copied|clipboard M0"},
-    {"copyMaterials", "#copyMaterials", "1 material copied"},
-    {"cutMaterials", "#cutMaterials", "1 material deleted|-<d_name>M0", true},
-    {"cutMaterials, moved", "#cutMaterials materials@1,0 Ctrl+V", "1 material pasted|below M1 M2 M3 M0", true},
-    {"pasteMaterials", "Ctrl+Shift+C #pasteMaterials",
-     "1 of them needs a new KTM|+<d_name>M0|+<d_ktm></d_ktm>|below M0 M1 M2 M0", true},
-    {"deleteMaterials", "#deleteMaterials", "1 material deleted|-<d_name>M0", true},
-    {"deleteMaterials, group", "materials@1,0 #deleteMaterials", "Only empty groups are deleted", true},
-    {"addGroup", "#addGroup 'Nowa' Return", "rows 3|+<d_group name=\"Nowa\"", true},
-    {"addGroup, known", "#addGroup 'Rezystory SMD 0805' Return Escape", "Warning: Group already exists|rows 2", true},
-    {"addMaterial", "#addMaterial", "shown New material", true},
-    {"editParameters", "#editParameters !Yes",
-     "Do you want to edit material ?|shown Edit parameters [317111-01.01-00001]", true},
-    {"editCpv", "materials@1,0 #editCpv '31712114-2' Return",
-     "+<d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", true},
-    {"editCpv, wrong", "#editCpv 'none' Return Escape", "Error: CPV syntax error", true},
-    {"find", "#find '00002' Return", "1 of 4 materials shown|below M1\n"},
-    {"expand", "materials@0,0 Left #expand", "open 2|below M0 M1 M2 M3"},
-    {"expand2", "materials@0,0 Left !Expand", "open 2"},
-    {"collaps", "#collaps", "open 0"},
-    {"columns", "#columns Down Return", "columns 9"},
-    {"gray", "#gray", "1 of 4 materials shown|below M1\n"},
+#define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0 "
+#define REFUSED "Return ~100 Escape"
+#define NAME "F2 Ctrl+A 'Nowy' Return"
+
+using enum lockRule;
+
+const scenario databaseActions[] = {
+    {NAME, "#save", "status ~ Saved; saved ~ <d_name>Nowy</d_name>; saved !~ <d_name>M0", same},
+    {"materials@1,0 Right", "#update 'other.xml' Return Return",
+     "materials@1/0,1 = 317111-01.02-00099; saved ~ <d_price>77.00; saved !~ 317111-01.01-00002; errors ~ "
+     "317111-01.02-00001",
+     edits},
+    {"", "#merge 'other.xml' Return", "front ~ Merge [", same},
+    {"", "#merge 'cpv.txt' Return", "errors ~ cpv.txt</b>", same},
+    {"", "#close", "title = closed; boxes ="},
+    {"", "#fullReport !Yes", "boxes ~ Do you want create ?; file _files/db_warehouse_full.html ~ M3", reads},
+    {"", "#shortReport !Yes", "status ~ 4 materials written; file _files/db_warehouse_short.html ~ M3", reads},
+    {"", "#edit", "status = Editing is locked"},
+    {NAME, "#undo", "status ~ Undone: ; at = M0", guards},
+    {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <d_name>Nowy", guards},
+    {"", "#copyText", "status = 1 cell copied; clipboard = M0", reads},
+    {"", "#copyMaterials", "status ~ 1 material copied", reads},
+    {"", "#cutMaterials", "status ~ 1 material deleted; saved !~ <d_name>M0", edits},
+    {"Ctrl+X materials@1,0 Right", "#pasteMaterials", "status ~ 1 material pasted; materials@1/1,0 = M0", edits},
+    {"Ctrl+Shift+C", "#pasteMaterials", "status ~ 1 of them needs a new KTM; saved ~ <d_ktm></d_ktm>", edits},
+    {"", "#deleteMaterials", "status ~ 1 material deleted; saved !~ <d_name>M0", edits},
+    {"materials@1,0", "#deleteMaterials", "status ~ Only empty groups are deleted; materials = 2", guards},
+    {"", "#addGroup 'Nowa' Return", "materials = 3; saved ~ <d_group name=\"Nowa\"", edits},
+    {"", "#addGroup 'Rezystory SMD 0805' Return Escape", "boxes ~ Group already exists; materials = 2", guards},
+    {"", "#addMaterial", "front = New material", guards},
+    {"", "#editParameters !Yes", "front = Edit parameters [317111-01.01-00001]", guards},
+    {"materials@1,0", "#editCpv '31712114-2' Return", "saved ~ SMD 0805\" cpv=\"31712114-2\">", edits},
+    {"", "#editCpv 'none' Return Escape", "boxes ~ Error: CPV syntax error", guards},
+    {"", "#find '00002' Return", "status = 1 of 4 materials shown; materials! ~ |M1; materials! !~ M0", reads},
+    {"materials@0,0 Left", "#expand", "materials! ~ M0|M1|M2; materials! ~ |M3", same},
+    {"materials@0,0 Left", "!Expand", "materials! ~ M0|M1|M2; materials! ~ |M3", same},
+    {"", "#collaps", "materials! !~ M0", reads},
+    {"", "#columns Down Return", "materials^ = 9", reads},
+    {"", "#gray", "status = 1 of 4 materials shown; materials! ~ |M1; materials! !~ M0", reads},
     // Only one status at a time; the active one again shows all.
-    {"green", "#gray #green", "1 of 4 materials shown|below M0\n"},
-    {"green, again", "#green #green", "4 materials\n|below M0 M1 M2\n"},
+    {"#gray", "#green", "status = 1 of 4 materials shown; materials! ~ |M0; materials! !~ M1", reads},
+    {"#green", "#green", "status = 4 materials; materials! ~ M0|M1|M2", reads},
     // What is fetched later is filtered when it comes.
-    {"blue", "#blue #expand", "open 2|below M3\n"},
-    {"violet", "#violet", "1 of 4 materials shown|below M2\n"},
-    {"edited", "#edited", "1 of 4 materials shown|below M2\n"},
-    {"findDuplicate", "#findDuplicate Escape", "Information: All materials has unique KTM"},
-    {"findEmpty", "#findEmpty", "Materials with empty fields:|317111-01.02-00001"},
-    {"checkUrls", "#checkUrls 'links.xlsx' Return", "[Error] http://127.0.0.1/a.pdf<br>|new _files/links.xlsx"},
-    {"parse", "#parse 'stock.txt' Return Return",
-     "ABCDEF-01.01-00001</b>&nbsp;Does not exist in databases|"
-     "+<d_inWarehouse>1234|+<d_averagePrice>2.00",
-     true},
-    {"information", "#information Escape", "Information: Materials count [ 4 ]"},
-    {"altiumXlsx", "#altiumXlsx 'a.xlsx' Return", "new _files/a.xlsx"},
-    {"altiumSqlite", "#altiumSqlite 'a.sqlite' Return", "new _files/a.sqlite"},
-    {"groups", "#groups 'g.xlsx' Return", "g.xlsx|new _files/g.xlsx"},
-    {"loadCpv", "#loadCpv 'cpv.txt' Return",
-     "CPV syntax error|+<d_group name=\"Rezystory SMD 0805\" cpv=\"31712114-2\">", true},
-    {"moveCpv", "#moveCpv Return", "+<d_cpv>31712114-2</d_cpv>", true},
-    {"cpvIndex", "#cpvIndex", "The dictionary of CPV codes is not there"},
-    {"cpvIndexWww", "#cpvIndexWww", "opened https://ted.europa.eu"},
-    {"openLink", "materials@?0/0,0 #openLink", "opened http://127.0.0.1/a.pdf"},
-    {"expandGroup", "materials@?1,0 #expandGroup", "open 2"},
-    {"collapsGroup", "materials@?0,0 #collapsGroup", "open 0"},
-    {"insertToBom", "materials@?0/0,0 #insertToBom Escape", "No BOM list is open"},
-    {"toOrder", "materials@?0/0,0 #toOrder", "1 line added|last 1 of 317111-01.01-00001"},
-    {"toOrderN", "materials@?0/0,0 #toOrderN Ctrl+A '12' Return", "1 line added|last 12 of 317111-01.01-00001"},
+    {"#blue", "#expand", "materials! ~ |M3; materials! !~ M0", same},
+    {"", "#blue", "status = 1 of 4 materials shown", reads},
+    {"", "#violet", "status = 1 of 4 materials shown; materials! ~ |M2; materials! !~ M0", reads},
+    {"", "#edited", "status = 1 of 4 materials shown; materials! ~ |M2; materials! !~ M0", reads},
+    {"", "#findDuplicate Escape", "boxes = Information: All materials has unique KTM", reads},
+    {"", "#findEmpty", "errors ~ Materials with empty fields:; errors ~ 317111-01.02-00001", reads},
+    {"", "#checkUrls 'links.xlsx' Return", "errors ~ [Error] http://127; file _files/links.xlsx ~ PK", reads},
+    {"", "#parse 'stock.txt' Return Return",
+     "errors ~ ABCDEF-01.01-00001</b>&nbsp;Does not exist in databases; saved ~ <d_inWarehouse>1234; saved ~ "
+     "<d_averagePrice>2.00",
+     edits},
+    {"", "#information Escape", "boxes ~ Information: Materials count [ 4 ]", reads},
+    {"", "#altiumXlsx 'a.xlsx' Return", "file _files/a.xlsx ~ PK", reads},
+    {"", "#altiumSqlite 'a.sqlite' Return", "files _files/a.sqlite = a.sqlite", reads},
+    {"", "#groups 'g.xlsx' Return", "status ~ g.xlsx; file _files/g.xlsx ~ PK", reads},
+    {"", "#loadCpv 'cpv.txt' Return", "errors ~ CPV syntax error; saved ~ SMD 0805\" cpv=\"31712114-2\">", edits},
+    {"", "#moveCpv Return", "saved ~ <d_cpv>31712114-2</d_cpv>", edits},
+    {"", "#cpvIndex", "status ~ The dictionary of CPV codes is not there", reads},
+    {"", "#cpvIndexWww", "desktop ~ https://ted.europa.eu", reads},
+    {"", "materials@?0/0,0 #openLink", "desktop = http://127.0.0.1/a.pdf", reads},
+    {"", "materials@?1,0 #expandGroup", "materials! ~ M0|M1|M2; materials! ~ |M3", same},
+    {"", "materials@?0,0 #collapsGroup", "materials! !~ M0", reads},
+    {"", "materials@?0/0,0 #insertToBom Escape", "boxes ~ No BOM list is open", reads},
+    {"", "materials@?0/0,0 #toOrder", "status ~ 1 line added; orderLines@21,11 = 317111-01.01-00001", reads},
+    {"", "materials@?0/0,0 #toOrderN Ctrl+A '12' Return", "orderLines@21,5 = 12", reads},
 };
 
-const std::vector<pressedAction> mergeActions = {
-    {"open", "#open 'copy.xml' Return Escape", "Information: All materials in database|rows 0"},
-    {"set", "#set", "2 materials taken over|rows 0|+<d_price>77.00|+<d_desc"},
+const scenario mergeActions[] = {
+    {"", "#open 'copy.xml' Return Escape", "boxes ~ Information: All materials in database; differences = 0"},
+    {"", "#set", "status ~ 2 materials taken over; differences = 0; saved ~ <d_price>77.00"},
     // A field of the changed one; the others stay in the list.
-    {"set, a field", "differences@0,0 Right differences@0/11,1 #set", "1 material taken over|rows 2|+<d_price>77.00"},
-    {"close", "#close", "closed"},
-    {"undo", "differences@0,0 Del #undo", "Undone: |rows 2"},
-    {"redo", "differences@0,0 Del Ctrl+Z #redo", "Done again: |rows 1"},
-    {"leaveOut", "differences@0,0 #leaveOut", "rows 1"},
-    {"expand", "#expand", "open 2"},
-    {"collaps", "#expand #collaps", "open 0"},
+    {"differences@0,0 Right differences@0/11,1", "#set",
+     "status ~ 1 material; differences = 2; saved ~ <d_price>77.00"},
+    {"", "#close", "title = closed"},
+    {"differences@0,0 Del", "#undo", "status ~ Undone: ; differences = 2"},
+    {"differences@0,0 Del Ctrl+Z", "#redo", "status ~ Done again: ; differences = 1"},
+    {"differences@0,0", "#leaveOut", "differences = 1", edits},
+    {"", "#expand", "differences! ~ |KTM|"},
+    {"#expand", "#collaps", "differences! !~ |KTM|"},
 };
 
-class tst_databaseWindow : public actionFixture
+// What must not be stored is refused in the cell, too.
+const scenario refused[] = {
+    {"syntax", OPEN "materials@0/0,1 F2 Ctrl+A 'wrong' " REFUSED, "boxes = Error: Ktm syntax error; title !~ *"},
+    {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
+     "boxes ~ Another material has; title !~ *"},
+    {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "boxes = Error: CPV syntax error; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "boxes ~ Group already exists; title !~ *"},
+};
+
+class tst_databaseWindow : public scenarioFixture
 {
     Q_OBJECT
 
-    static constexpr const char *opened = "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0";
-    QString file() { return path("_files/db_warehouse.xml"); }
+    QString file() override { return path("_files/db_warehouse.xml"); }
     Kiv_mat_databaseWindow &databaseWindow() { return mainWindow().databaseWindow(programData::warehouse); }
     static const ktmIndex &known() { return programData::instance().materials(); }
 
@@ -95,6 +109,7 @@ class tst_databaseWindow : public actionFixture
     // second and the last are missing, and there is a new one.
     void prepare() override
     {
+        scenarioFixture::prepare();
         userState::instance().altiumDir.clear();
         kiv_mat_databaseStruct all;
         QCOMPARE(loadDatabase(file(), &all), 0);
@@ -127,54 +142,18 @@ class tst_databaseWindow : public actionFixture
                                     "Towar: ABCDEF-01.01-00001 y\nIlosc: 1\nWartosc: 1\n");
         folder().write("cpv.txt", "Rezystory SMD 0805\t31712114-2 x\nRezystory SMD 0603\t7\n");
     }
-    QString look() override
+    std::vector<scenarioTable> tables() override
     {
-        const auto &lines = mainWindow().document().order().orderItems.items;
-        return actionFixture::look()
-               + QString("\norder: %1 lines, last %2 of %3\n")
-                     .arg(lines.size())
-                     .arg(lines.back()->quantity, lines.back()->ktm);
-    }
-    void saveAll() override
-    {
-        if (databaseWindow().isVisible() && databaseWindow().isModified())
-            hands{databaseWindow()}("Ctrl+S Escape");
-    }
-    std::vector<pressedWindow> windows() override
-    {
-        return {
-            {"database", opened, "Ctrl+E", databaseActions},
-            {"merge", "Ctrl+D Return|Ctrl+E|#merge 'other.xml' Return", "", mergeActions},
-        };
+        return {{OPEN, true, databaseActions},
+                {"Ctrl+D Return|Ctrl+E|#merge 'other.xml' Return", false, mergeActions},
+                {nullptr, false, refused}};
     }
 
 private slots:
-    // What must not be stored is refused in the cell, too.
-    void refused_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("box");
-        const char *const rows[][2] = {
-            {"materials@0/0,1 F2 Ctrl+A 'wrong'", "Ktm syntax error"},
-            {"materials@0/0,1 F2 Ctrl+A '317111-01.02-00001'", "Another material has this KTM"},
-            {"materials@1,2 F2 Ctrl+A '317'", "CPV syntax error"},
-            {"materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603'", "Group already exists"}};
-        for (const auto &[steps, box] : rows)
-            QTest::newRow(box) << steps << QString("Error: ") + box;
-    }
-    void refused()
-    {
-        QFETCH(QString, steps);
-        openWindow(opened);
-        work(steps + " Return ~100 Escape");
-        QTEST(boxes().join('|'), "box");
-        QVERIFY(!databaseWindow().isModified());
-    }
-
     void editsReachTheIndexes()
     {
         const QString before = "317111-01.01-00001";
-        openWindow(opened);
+        openWindow(OPEN);
         work("materials@0/0,1 F2 Ctrl+A 'ABCDEF-01.01-00001' Return");
         QVERIFY(!known().find(before) && known().find("ABCDEF-01.01-00001"));
         work("#find 'ktm:ABCDEF-01.01-00001' Return ");
@@ -196,7 +175,7 @@ private slots:
     // What is unticked stays, and the order's lines that lose their material are listed.
     void updateDeletesWhatIsTicked()
     {
-        openWindow(opened);
+        openWindow(OPEN);
         work("materials@?0/1,0 #toOrder materials@1,0 Right materials@?1/0,0 #toOrder");
         // Changed, new, and the two that are absent.
         work("#update 'other.xml' Return Down Down Down Space Return");

@@ -1,46 +1,75 @@
 // The material editor, worked with hands from the database window: what it shows, gives back,
 // undoes and sends to the file server.
-#include "pressedActions.h"
+#include "scenarioFixture.h"
 
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
 
-const std::vector<pressedAction> actions = {
-    {"set", "material@0/2,1 F2 Ctrl+A 'Nowy' Return #set", "closed|+<d_name>Nowy"},
-    {"close", "#close", "closed"},
-    {"undo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return #undo", "Undone: "},
-    {"redo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return Ctrl+Z #redo", "Done again: |+<d_name>Nowy"},
-    {"addManufacturer", "#addManufacturer 'Vishay' Return", "+<name>Vishay</name>"},
-    {"addSuppler", "#addSuppler 'Farnell' Return", "+<name>Farnell</name>"},
-    {"addFile", "material@3/0,0 #addFile 'http://x/y' Return", "+<file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
-    {"addFile, context menu", "material@?4/0,0 #addFile 'http://x/y' Return",
-     "+<file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
-    {"deleteRows", "material@4/0,0 #deleteRows", "-<name>TME</name>"},
-    {"deleteRows, some", "material@3/0,0 +material@4/0,0 #deleteRows Ctrl+Z", "Undone: Delete rows"},
-    {"deleteFile", "material@?3/0/1,0 #deleteFile", "-<file|bin/sh"},
-    {"deleteFiles", "material@?3/0,0 #deleteFiles", "-<file|bin/sh|a.pdf"},
-    {"datasheets", "material@3/0,0 #datasheets 'b c.pdf' Return Return",
-     "Please set path where write file|+<file type=\"FILE_DATASHEET\" "
-     "name=\"http://server/redfiles/DATASHEET/y/b%20c.pdf\"/>"},
-    {"datasheets, cancelled", "material@3/0,0 #datasheets 'b c.pdf' Return Escape", "Please set path where write file"},
-    {"datasheets, leads out", "material@3/0,0 #datasheets 'a.pdf' Return Ctrl+A '../b.pdf' Return Escape",
-     "Error: ../b.pdf is no path below the folder"},
-    {"declarations", "material@3/0,0 #declarations 'a.pdf' Return Ctrl+A 'b.pdf' Return",
-     "+<file type=\"FILE_MD\" name=\"http://server/redfiles/RoHS/b.pdf\"/>"},
-    {"copyFileToServer", "material@3/0/0,0 #copyFileToServer 'a.pdf' Return ~300",
-     "The program cannot be started|"
-     "Sending error <b>%1/redfiles/y/a.pdf</b>&nbsp;[server:/redfiles/DATASHEET/a.pdf]"},
-    {"open", "material@3/0/0,0 #open", "opened http://server/redfiles/DATASHEET/a.pdf"},
+#define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0|F4 !Yes"
+#define STEPS OPEN "|Ctrl+M 'Vishay' Return Ins 'http://x/y' Return "
+#define ASKING "Asking: Set the changed material?"
+#define TYPED OPEN "|material@0/2,1 F2 Ctrl+A "
+#define NAME "material@0/2,1 F2 Ctrl+A 'Nowy' Return"
+
+using enum lockRule;
+
+const scenario actions[] = {
+    {NAME, "#set", "title = closed; saved ~ <d_name>Nowy"},
+    {"", "#close", "title = closed; boxes ="},
+    {NAME, "#undo", "status ~ Undone: ; title !~ *"},
+    {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <d_name>Nowy"},
+    {"", "#addManufacturer 'Vishay' Return", "saved ~ <name>Vishay</name>"},
+    {"", "#addSuppler 'Farnell' Return", "saved ~ <name>Farnell</name>"},
+    {"material@3/0,0", "#addFile 'http://x/y' Return", "saved ~ <file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
+    {"", "material@?4/0,0 #addFile 'http://x/y' Return", "saved ~ <file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
+    {"material@4/0,0", "#deleteRows", "saved !~ <name>TME</name>", edits},
+    {"material@3/0,0 +material@4/0,0", "#deleteRows", "material! !~ Unknown; material! !~ TME", edits},
+    {"", "material@?3/0/1,0 #deleteFile", "saved !~ bin/sh; saved ~ a.pdf", edits},
+    {"", "material@?3/0,0 #deleteFiles", "saved !~ bin/sh; saved !~ a.pdf", edits},
+    {"material@3/0,0", "#datasheets 'b c.pdf' Return Return",
+     "boxes ~ Please set path where write file; saved ~ \"http://server/redfiles/DATASHEET/y/b{pc}20c.pdf\"", edits},
+    {"material@3/0,0", "#datasheets 'b c.pdf' Return Escape", "boxes ~ Please set path where write file", reads},
+    {"material@3/0,0", "#datasheets 'a.pdf' Return Ctrl+A '../b.pdf' Return Escape",
+     "boxes ~ Error: ../b.pdf is no path below the folder", reads},
+    {"material@3/0,0", "#declarations 'a.pdf' Return Ctrl+A 'b.pdf' Return",
+     "saved ~ <file type=\"FILE_MD\" name=\"http://server/redfiles/RoHS/b.pdf\"/>", edits},
+    {"material@3/0/0,0", "#copyFileToServer 'a.pdf' Return ~300",
+     "log ~ The program cannot be started; errors ~ Sending error "
+     "<b>%/redfiles/y/a.pdf</b>&nbsp;[server:/redfiles/DATASHEET/a.pdf]"},
+    {"material@3/0/0,0", "#open", "desktop = http://server/redfiles/DATASHEET/a.pdf", reads},
 };
 
-class tst_materialWindow : public actionFixture
+const scenario scenarios[] = {
+    {"typed in a firm and a file",
+     OPEN "|material@4/0,1 F2 Ctrl+A '77-1' Return material@3/0/0,1 F2 Ctrl+A 'http://z' Return",
+     "saved ~ 77-1<; saved ~ \"http://z\""},
+    {"steps undone", STEPS "Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Z", "title !~ *; material@3/1,0 ="},
+    {"one too few", STEPS "Ctrl+Z Ctrl+Z Ctrl+Z", "title ~ *"},
+    {"done again", STEPS "Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+Y",
+     "saved ~ <name>Vishay<; saved ~ \"http://x/y\""},
+    {"no firm of the register", OPEN, "material@!3/0,0 ~ Not in the firm register"},
+    {"one of it", OPEN "|material@3/0,0 F2 Ctrl+A 'Vishay' Return", "material@!3/0,0 ~ ZIELONY"},
+
+    // --- Closing; what is at fault is gone to, the rest is kept ---
+    {"yes", TYPED "'Nowy' Return Ctrl+W !Yes", "boxes = " ASKING "; title = closed; saved ~ <d_name>Nowy"},
+    {"yes, refused", TYPED "Del Return Ctrl+W !Yes Escape Ctrl+W !No",
+     "boxes = " ASKING " | Error: Name empty | " ASKING "; title = closed; saved !~ <d_name></"},
+    {"no", TYPED "'Nowy' Return Ctrl+W !No", "boxes = " ASKING "; title = closed; saved !~ Nowy"},
+    {"cancel", TYPED "'Nowy' Return Ctrl+W Escape", "boxes = " ASKING "; title ~ *; material@0/2,1 = Nowy"},
+    {"set in the editor", TYPED "'Nowy' Ctrl+S", "boxes =; title = closed; saved ~ <d_name>Nowy"},
+    {"set, refused", TYPED "Del Return material@0/0,1 Ctrl+S Escape F2 'Nowy' Return Ctrl+S",
+     "boxes = Error: Name empty; title = closed; saved ~ <d_name>Nowy"},
+};
+
+class tst_materialWindow : public scenarioFixture
 {
     Q_OBJECT
 
     // One material, whose manufacturer is not in the register.
     void prepare() override
     {
+        scenarioFixture::prepare();
         kiv_mat_databaseStruct all;
         QCOMPARE(loadDatabase(file(), &all), 0);
         all.groups.resize(1);
@@ -72,27 +101,18 @@ class tst_materialWindow : public actionFixture
         if (!missing.isEmpty())
             setOption(missing.toUtf8(), "");
     }
-    QString file() { return path("_files/db_warehouse.xml"); }
+    QString file() override { return path("_files/db_warehouse.xml"); }
     materialWindow &editor() { return dynamic_cast<materialWindow &>(window()); }
     Kiv_mat_databaseWindow &database() { return mainWindow().databaseWindow(programData::warehouse); }
     // What the database holds by now.
     const materialStruct &given() { return *database().rows().database().groups[0]->items.back(); }
     void open(const QString &steps = {})
     {
-        openWindow(openedWith);
+        openWindow(OPEN);
         if (!steps.isEmpty())
             work(steps);
     }
-    QModelIndex current() { return editor().findChild<QTreeView *>("material")->currentIndex(); }
-    void saveAll() override
-    {
-        if (window().isVisible() && window().windowTitle().endsWith('*'))
-            work("Ctrl+S");
-        if (database().isVisible() && database().isModified())
-            hands{database()}("Ctrl+S");
-    }
-    static constexpr const char *openedWith = "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0|F4 !Yes";
-    std::vector<pressedWindow> windows() override { return {{"material", openedWith, "", actions}}; }
+    std::vector<scenarioTable> tables() override { return {{OPEN, false, actions}, {nullptr, false, scenarios}}; }
 
 private slots:
     // A field that the record gets later is not to be missing here.
@@ -134,92 +154,33 @@ private slots:
         QCOMPARE(material.suppliers.items[0]->name, QString("TME"));
     }
 
-    // A window that is asked to close, with a name that is good or missing.
-    void closing_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<int>("boxes");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("yes") << "'Nowy' Return Ctrl+W !Yes" << 1 << true << "Nowy";
-        QTest::newRow("yes, refused") << "Del Return Ctrl+W !Yes Escape" << 2 << false << "";
-        QTest::newRow("no") << "'Nowy' Return Ctrl+W !No" << 1 << true << "";
-        QTest::newRow("cancel") << "'Nowy' Return Ctrl+W Escape" << 1 << false << "";
-        QTest::newRow("set in the editor") << "'Nowy' Ctrl+S" << 0 << true << "Nowy";
-        QTest::newRow("set, refused") << "Del Return Ctrl+S Escape" << 1 << false << "";
-    }
-    void closing()
-    {
-        QFETCH(QString, steps);
-        QFETCH(QString, name);
-        QFETCH(bool, closed);
-        open();
-        boxes();
-        const QString before = given().d_name;
-        work("material@0/2,1 F2 Ctrl+A " + steps);
-        QTEST(int(boxes().size()), "boxes");
-        QCOMPARE(!window().isVisible(), closed);
-        QCOMPARE(given().d_name, name.isEmpty() ? before : name);
-        // What is at fault is gone to; the rest is kept.
-        if (!closed)
-            QCOMPARE(current(), editor().rows().valueOf("d_name")->index());
-    }
-
-    void undoTakesBack()
-    {
-        open("Ctrl+M 'Vishay' Return Ins 'http://x/y' Return material@4/0,1 F2 Ctrl+A '77-1' Return"
-             " material@3/0/0,1 F2 Ctrl+A 'http://z' Return");
-        work("Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Z");
-        QVERIFY(window().windowTitle().endsWith(" *"));
-        work("Ctrl+Z");
-        QVERIFY(!window().windowTitle().endsWith('*'));
-        work("Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+S");
-        QCOMPARE(given().manufacturers.items[1]->name, QString("Vishay"));
-        QCOMPARE(given().manufacturers.items[1]->files.items[0]->name, QString("http://x/y"));
-        QCOMPARE(given().manufacturers.items[0]->files.items[0]->name, QString("http://z"));
-        QCOMPARE(given().suppliers.items[0]->partNo, QString("77-1"));
-    }
-
-    void firmsOfTheRegister()
-    {
-        open("material@3/0,0");
-        QCOMPARE(current().data(Qt::ToolTipRole).toString(), QString("Not in the firm register"));
-        work("F2 Ctrl+A 'Vishay' Return material@3/0,0");
-        QVERIFY(current().data(Qt::ToolTipRole).toString().contains("ZIELONY"));
-    }
-
     void unavailable_data()
     {
         QTest::addColumn<QString>("missing");
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("reasons");
-        const QString noFirm = "no manufacturer or supplier is selected";
-        const QString noLink = "no link is selected";
-        const QString noServerLink = "no link to the file server is selected";
-        const QString link = "material@3/0/0,1 F2 Ctrl+A '%1' Return material@3/0/0,1 #-open";
-        QTest::newRow("field") << ""
-                               << "material@0/0,1 #-addFile #-deleteRows #-deleteFiles #-datasheets"
-                               << QStringList({noFirm, noFirm, noFirm, noFirm}).join('|');
-        QTest::newRow("firm") << ""
-                              << "material@4/0,0 #-deleteFile #-deleteFiles #-open"
-                              << "no file is selected|it has no files|" + noLink;
-        QTest::newRow("account") << "SERVER_USER_PASSWORD"
-                                 << "material@3/0/0,0 #-copyFileToServer"
-                                 << "the configuration has no account on the file server";
-        QTest::newRow("server") << "SERVER_NAME"
-                                << "material@3/0,0 #-datasheets #-declarations"
-                                << "the configuration names no file server|the configuration "
-                                   "names no file server";
-        QTest::newRow("elsewhere") << "" << link.arg("HTTPS://y.com/a") + " #-copyFileToServer" << noServerLink;
-        // The desktop could start a program.
-        for (const char *program : {"file:///bin/sh", "javascript:alert(1)", "/bin/sh"})
-            QTest::newRow(program) << "" << link.arg(program) << noLink;
+        const QString open = "material@3/0/0,1 F2 Ctrl+A '%1' Return material@3/0/0,1 #-open";
+        const QString noFirm = "no manufacturer or supplier is selected", noLink = "no link is selected";
+        const QString noServer = "the configuration names no file server";
+        const QStringList rows[] = {
+            {"", "material@0/0,1 #-addFile #-deleteRows #-deleteFiles #-datasheets", noFirm, noFirm, noFirm, noFirm},
+            {"", "material@4/0,0 #-deleteFile #-deleteFiles #-open", "no file is selected", "it has no files", noLink},
+            {"SERVER_USER_PASSWORD", "material@3/0/0,0 #-copyFileToServer",
+             "the configuration has no account on the file server"},
+            {"SERVER_NAME", "material@3/0,0 #-datasheets #-declarations", noServer, noServer},
+            {"", open.arg("HTTPS://y.com/a") + " #-copyFileToServer", "no link to the file server is selected"},
+            // The desktop could start a program.
+            {"", open.arg("file:///bin/sh"), noLink},
+            {"", open.arg("javascript:alert(1)"), noLink},
+            {"", open.arg("/bin/sh"), noLink},
+        };
+        for (const QStringList &row : rows)
+            QTest::addRow("%s", qPrintable(row[1])) << row[0] << row[1] << QStringList(row.mid(2)).join('|');
     }
     void unavailable()
     {
         QFETCH(QString, steps);
         QFETCH(QString, reasons);
-        QDesktopServices::setUrlHandler("https", this, "pageOpened");
         open();
         boxes();
         work(steps);

@@ -1,37 +1,58 @@
 // The window of the firm register, worked with hands: edited, renamed in the materials, saved.
-#include "pressedActions.h"
+#include "scenarioFixture.h"
 
 #include "data/loaders.h"
 #include "firm/firmOperations.h"
 #include "util/fileVersions.h"
 
-using namespace firmOperations;
+#define NAME "F2 Ctrl+A 'Nowa' Return"
 
-const std::vector<pressedAction> actions = {
-    {"save", "F2 Ctrl+A 'Nowa' Return #save", "Save file <b>firms.xml</b> [|+<fullname>Nowa|-<fullname>Abracon LLC"},
-    {"close", "#close", "closed"},
-    {"edit", "#edit", "Editing is "},
-    {"undo", "F2 Ctrl+A 'Nowa' Return #undo", "Undone: |at Abracon LLC", true},
-    {"redo", "F2 Ctrl+A 'Nowa' Return Ctrl+Z #redo", "Done again: |+<fullname>Nowa", true},
-    {"copyCells", "#copyCells", "1 cell copied|clipboard Abracon LLC"},
-    {"pasteCells", "manufacturers@2,1 Ctrl+C manufacturers@0,1 #pasteCells",
-     "1 cell pasted|+<fullname>Allegro MicroSystems, Inc.", true},
-    {"find", "#find 'semicond' Return", "Found in line 4|at Alpha & Omega"},
-    {"find, nothing", "#find 'in no firm' Return", "No line holds in no firm|at Abracon LLC"},
-    {"findNext", "Ctrl+F 'semicond' Return #findNext", "Found in line 4|Limited"},
-    {"add", "#add", "rows 60|+<name>FIRM</name>|+<fullname>FIRM SA", true},
-    {"add, supplier", "!Suppliers #add", "rows 12|+<name>FIRM</name>", true},
-    {"add, context menu", "manufacturers@?0,1 #add", "+<name>FIRM</name>", true},
-    {"delete", "Ins manufacturers@59,0 #delete", "1 firm deleted|rows 59", true},
-    {"delete, used", "#delete Escape", "Error: Materials use|Abracon: |<b>Abracon</b>: |rows 59", true},
-    {"homePage", "#homePage", "opened https://abracon.com"},
+using namespace firmOperations;
+using enum lockRule;
+
+const scenario actions[] = {
+    {NAME, "#save", "log ~ Save file <b>firms.xml</b> [; saved ~ <fullname>Nowa; saved !~ <fullname>Abracon LLC", same},
+    {"", "#close", "title = closed; boxes ="},
+    {"", "#edit", "status = Editing is locked"},
+    {NAME, "#undo", "status ~ Undone: ; at = Abracon LLC", guards},
+    {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <fullname>Nowa", guards},
+    {"", "#copyCells", "status = 1 cell copied; clipboard = Abracon LLC", reads},
+    {"manufacturers@2,1 Ctrl+C manufacturers@0,1", "#pasteCells", "status ~ 1 cell; manufacturers@0,1 ~ Allegro",
+     edits},
+    {"", "#find 'semicond' Return", "status = Found in line 4; at ~ Alpha & Omega", reads},
+    {"", "#find 'in no firm' Return", "status ~ No line holds in no firm; at = Abracon LLC", reads},
+    {"Ctrl+F 'semicond' Return", "#findNext", "status = Found in line 4; at ~ Limited", reads},
+    {"", "#add", "manufacturers = 60; saved ~ <name>FIRM</name>; saved ~ <fullname>FIRM SA", edits},
+    {"!Suppliers", "#add", "suppliers = 12; saved ~ <name>FIRM</name>", edits},
+    {"", "manufacturers@?0,1 #add", "manufacturers = 60", edits},
+    {"Ins manufacturers@59,0", "#delete", "status ~ 1 firm deleted; manufacturers = 59", edits},
+    {"", "#delete Escape", "boxes ~ is deleted: Abracon: ; errors ~ <b>Abracon</b>: ; manufacturers = 59", guards},
+    {"", "#homePage", "desktop = https://abracon.com", reads},
 };
 
-class tst_firmWindow : public actionFixture
+#define QUESTION "#firm|Down F2 Ctrl+A 'Żuk1' "
+#define GOES_ON " Tab Return Down Right F2 Ctrl+A 'Żuk2' Ctrl+S"
+
+const scenario scenarios[] = {
+    // A question that comes up while a value is taken leaves the keyboard in the tree.
+    {"keys after Return", QUESTION "Return" GOES_ON, "boxes ~ Materials use the old name; disk ~ Żuk1; disk ~ Żuk2"},
+    {"keys after Ctrl+S", QUESTION "Ctrl+S" GOES_ON, "boxes ~ Materials use the old name; disk ~ Żuk1; disk ~ Żuk2"},
+    // An action that has nothing to do until what is being typed is in.
+    {"typed, its key", "#firm|Ins manufacturers@59,4 F2 'https://x.example' Ctrl+H", "desktop = https://x.example"},
+    {"typed, its menu", "#firm|Ins manufacturers@59,4 F2 'https://x.example' #homePage", "desktop = https://x.example"},
+    {"a wrong tax number", "#firm|manufacturers@0,6 F2 '1234563217' Return", "manufacturers@!0,6 ~ ! The tax number"},
+    {"undone", "#firm|manufacturers@0,6 F2 '1234563217' Return Ctrl+Z", "manufacturers@!0,6 ="},
+    {"a right one", "#firm|manufacturers@0,6 F2 '123-456-32-18' Return", "manufacturers@!0,6 ="},
+    {"a click", "#firm|manufacturers@0,4", "desktop ="},
+    {"a click with Ctrl", "#firm|manufacturers@0,4 +manufacturers@0,4", "desktop = https://abracon.com"},
+    {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///x' Return #-homePage", "boxes ~ no firm with a home"},
+};
+
+class tst_firmWindow : public scenarioFixture
 {
     Q_OBJECT
 
-    QString file() { return path("_files/firms.xml"); }
+    QString file() override { return path("_files/firms.xml"); }
     QString database() { return path("_files/db_warehouse.xml"); }
     QString onDisk()
     {
@@ -47,7 +68,10 @@ class tst_firmWindow : public actionFixture
         return QString("manufacturers@0,0 F2 Ctrl+A '%1' Return ~50 !Rename_in_5_places").arg(to);
     }
     QModelIndex current() { return window().findChild<QTreeView *>("manufacturers")->currentIndex(); }
-    std::vector<pressedWindow> windows() override { return {{"firms", "#firm|manufacturers@0,1", "Ctrl+E", actions}}; }
+    std::vector<scenarioTable> tables() override
+    {
+        return {{"#firm|manufacturers@0,1", true, actions}, {nullptr, false, scenarios}};
+    }
 
 private slots:
     void usedFirmsStay()
@@ -203,33 +227,6 @@ private slots:
         QCOMPARE(boxes().filter("the file cannot be read").size(), 3);
         work("Ctrl+E Ins Ctrl+S");
         QCOMPARE(testSupport::read(file()), QByteArray("<kiv_mat_firm><oops"));
-    }
-
-    void homePageOpens()
-    {
-        QDesktopServices::setUrlHandler("https", this, "pageOpened");
-        openWindow("#firm|manufacturers@0,4");
-        QVERIFY(!seenNow().contains("opened"));
-        work("+manufacturers@0,4");
-        QVERIFY(seenNow().contains("opened https://abracon.com\n"));
-        work("manufacturers@0,4 F2 Ctrl+A 'file:///etc/passwd' Return #-homePage");
-        QVERIFY(boxes().value(0).contains("no firm with a home page selected"));
-    }
-
-    void taxNumberIsMarked_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<bool>("marked");
-        QTest::newRow("wrong") << "F2 '1234563217' Return" << true;
-        QTest::newRow("undone") << "F2 '1234563217' Return Ctrl+Z" << false;
-        QTest::newRow("right") << "F2 '123-456-32-18' Return" << false;
-    }
-    void taxNumberIsMarked()
-    {
-        QFETCH(QString, steps);
-        openWindow("#firm|manufacturers@0,6 " + steps + " manufacturers@0,6");
-        QTEST(!current().data(Qt::ToolTipRole).toString().isEmpty(), "marked");
-        QTEST(!current().data(Qt::DecorationRole).value<QIcon>().isNull(), "marked");
     }
 };
 

