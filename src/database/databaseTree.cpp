@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <limits>
+
 using namespace myItem;
 
 namespace databaseTree {
@@ -31,7 +33,7 @@ constexpr materialColumn materialColumns[] = {
     {"d_value", 90, lineEditKind},
     {"d_case", 90, lineEditKind},
     {"d_price", 110, moneyKind},
-    {"d_inWarehouse", 120, lineEditKind},
+    {"d_inWarehouse", 120, spinBoxKind},
     {"d_unit", 80, comboBoxKind},
     {"d_description", 260, lineEditKind},
     // Shown on choice.
@@ -129,8 +131,10 @@ treeColumns<materialStruct> columns(const configStruct &config)
         } else if (c.cellKind == comboBoxKind) {
             added.entries = entriesOf(config.goodWhenYes);
         } else if (added.key == QLatin1String("d_inWarehouse")) {
+            added.maximum = std::numeric_limits<int>::max();
+            added.unit = [](const materialStruct &material) { return material.d_unit; };
             added.look = [](const materialStruct &, myItemStandard *cell) {
-                cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                static_cast<myItemSpinBox *>(cell)->mayBeEmpty = true;
             };
         }
     }
@@ -375,6 +379,13 @@ void rows::rowTaken(QStandardItem *parent, int row, myItemStandard *first)
     forget(static_cast<materialStruct *>(first->record));
     recordPlaces::takeFrom(groupOf(parent)->items, row, first);
     showCount(parent);
+}
+
+std::optional<QString> rows::unitOf(const myItemStandard &item, const myItemStandard *first) const
+{
+    const auto &unit = m_columns[size_t(item.column())].unit;
+    const materialStruct *material = materialOf(first);
+    return unit && material ? std::optional(unit(*material)) : std::nullopt;
 }
 
 std::vector<myItem::row> rows::childRows(myItemStandard *first)

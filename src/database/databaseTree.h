@@ -60,6 +60,8 @@ public:
     void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override;
     void rowTaken(QStandardItem *parent, int row, myItem::myItemStandard *first) override;
     std::vector<myItem::row> childRows(myItem::myItemStandard *first) override;
+    std::optional<QString> unitOf(const myItem::myItemStandard &item,
+                                  const myItem::myItemStandard *first) const override;
 
 private:
     myItem::row groupRow(d_groupStruct *group) const;

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <limits>
 
 using namespace myItem;
 
@@ -37,6 +38,10 @@ cellTraits traitsOf(const QString &key, const configStruct &config)
     cellTraits traits{key, lineEditKind, true, {}, false, 0, 0};
     if (key == QLatin1String("d_price") || key == QLatin1String("d_averagePrice"))
         traits.kind = moneyKind;
+    if (key == QLatin1String("d_inWarehouse")) {
+        traits.kind = spinBoxKind;
+        traits.maximum = std::numeric_limits<int>::max();
+    }
     if (key == QLatin1String("d_unit")) {
         traits.kind = comboBoxKind;
         traits.entries = entriesOf(labels::storedUnits());
@@ -229,6 +234,8 @@ void materialTree::addFields(QStandardItem *parent, Record &record, const config
         auto *name = shownText(one.name, one.label());
         name->record = &record;
         myItemStandard *value = makeCell(traitsOf(one.name, config), record.*one.member);
+        if (value->type() == spinBoxKind)
+            static_cast<myItemSpinBox *>(value)->mayBeEmpty = true;
         // Texts and amounts stand below each other here.
         value->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         m_values.insert(one.name, value);
@@ -333,6 +340,13 @@ row materialTree::newFile(const QString &kind, const QString &name) const
     const row items = fileRow(record.get());
     static_cast<myItemStandard *>(items.first())->own(std::move(record));
     return items;
+}
+
+std::optional<QString> materialTree::unitOf(const myItemStandard &,
+                                            const myItemStandard *first) const
+{
+    const auto *material = dynamic_cast<const materialStruct *>(first->record);
+    return material ? std::optional(material->d_unit) : std::nullopt;
 }
 
 void materialTree::cellChanged(myItemStandard *item, myItemStandard *first)

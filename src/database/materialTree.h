@@ -52,6 +52,8 @@ public:
     void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) override;
     void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override;
     void rowTaken(QStandardItem *parent, int row, myItem::myItemStandard *first) override;
+    std::optional<QString> unitOf(const myItem::myItemStandard &item,
+                                  const myItem::myItemStandard *first) const override;
 
 private:
     myItem::myItemStandard *addSection(myModel *model, const QString &text, xmlData *record);

@@ -454,7 +454,8 @@ reading readNumber(const myItemStandard &item, const QString &text,
                    const std::optional<QString> &unit)
 {
     if (text.isEmpty()) {
-        if (item.type() == moneyKind)
+        if (item.type() == moneyKind
+            || (item.type() == spinBoxKind && static_cast<const myItemSpinBox &>(item).mayBeEmpty))
             return {QString(), {}};
         return {{}, QCoreApplication::translate("myItem", "A number is needed here")};
     }

@@ -144,7 +144,8 @@ public:
     int maximum;
     int defaultMinimum;
     int defaultMaximum;
-    int displayMode = 0; // 0 plain number, 1 bar, 2 bar coloured by the value
+    int displayMode = 0;     // 0 plain number, 1 bar, 2 bar coloured by the value
+    bool mayBeEmpty = false; // no number is a value, too
 
 private:
     int m_value = 0;

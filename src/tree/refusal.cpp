@@ -22,13 +22,12 @@ void mark(QWidget *editor, const QString &fault, QWidget *line)
     if (fault.isEmpty() && !isMarked(editor))
         return;
     editor->setProperty(faultProperty, fault);
-    QPalette palette;
-    if (!fault.isEmpty()) {
-        palette = editor->palette();
-        palette.setColor(QPalette::Base, QColor(0xFF, 0xD8, 0xD0));
-        palette.setColor(QPalette::Text, Qt::black);
-    }
-    (line ? line : editor)->setPalette(palette);
+    // A palette would lose against the style sheet of the tree.
+    (line ? line : editor)
+        ->setStyleSheet(fault.isEmpty()
+                            ? QString()
+                            : QStringLiteral("QLineEdit { background-color: #FFD8D0; "
+                                             "color: black; border: 1px solid #B00000; }"));
     // A tag, so that the text is taken for what it is whatever it holds.
     const QString shown = fault.isEmpty()
                               ? QString()
