@@ -3,6 +3,7 @@
 #include "bom/bomReport.h"
 #include "util/labels.h"
 #include "util/numbers.h"
+#include "util/text.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -36,7 +37,7 @@ QTreeWidgetItem *itemOf(const need &of)
     auto *item = new needItem;
     for (int column = 0; column < bomReport::needColumns; ++column) {
         item->setText(column, bomReport::needText(of, bomReport::needColumn(column)));
-        item->setToolTip(column, item->text(column));
+        item->setToolTip(column, text::toolTip(item->text(column)));
     }
     const char *icon = !of.isKnown()       ? "line_unknown"
                        : of.shortage() > 0 ? "line_short"

@@ -36,6 +36,7 @@ const windowAction<configWindow> actionTable[] = {
     {usualActions::undo, &configWindow::commandUndo},
     {usualActions::redo, &configWindow::commandRedo},
     {usualActions::editSeparator, nullptr},
+    {usualActions::fillDown, &configWindow::commandFillDown},
     {{"add", "Edit", QT_TRANSLATE_NOOP("actions", "Add row"), "action_add_row", "Ins",
       QT_TRANSLATE_NOOP("actions", "Add a person or a target"), true},
      &configWindow::commandAdd},
@@ -263,7 +264,7 @@ void configWindow::showOptions()
 
 void configWindow::updateActions()
 {
-    allowWhenUnlocked({"default"});
+    allowWhenUnlocked({"default", "fillDown"});
     allowWhenUnlocked({"add", "delete"}, m_tabs->currentIndex() != optionsPage,
                       tr("options are neither added nor deleted"));
     setAvailable("save", m_fault.isEmpty(), m_fault);
@@ -284,13 +285,13 @@ void configWindow::commandAdd(bool)
         items = m_targetRows->makeDetachedRow(std::move(target));
     }
     push(std::make_unique<appendNewMaterial>(modelOf(view), items), tr("Add row"));
-    view->setCurrentIndex(view->model()->index(view->model()->rowCount() - 1, 0));
+    view->goTo(view->model()->index(view->model()->rowCount() - 1, 0));
     view->setFocus();
 }
 
 void configWindow::commandDelete(bool)
 {
-    push(cellBlock::deleteRows(modelOf(currentView()), currentView()->selectedRows()),
+    push(cellBlock::deleteRows(modelOf(currentView()), currentView()->markedRows()),
          tr("Delete rows"));
 }
 

@@ -70,6 +70,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"pasteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Past"), "data_past_element2_128",
       "Ctrl+V", QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group")},
      &Kiv_mat_databaseWindow::commandPasteMaterials},
+    {usualActions::fillDown, &Kiv_mat_databaseWindow::commandFillDown},
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
      &Kiv_mat_databaseWindow::commandDeleteMaterials},
@@ -86,6 +87,26 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"editCpv", "Edit", QT_TRANSLATE_NOOP("actions", "Edit CPV"), "zp_cpv_edit_128", nullptr,
       nullptr},
      &Kiv_mat_databaseWindow::commandEditCpv},
+    {{"expandGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Open this group")},
+     &Kiv_mat_databaseWindow::commandExpandGroup},
+    {{"collapsGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Close this group")},
+     &Kiv_mat_databaseWindow::commandCollapsGroup},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
+    {{"toOrder", "Edit", QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
+      "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
+     &Kiv_mat_databaseWindow::commandToOrder},
+    {{"toOrderN", "Edit", QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
+      "action_add_material", "Ctrl+Shift+Return",
+      QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
+     &Kiv_mat_databaseWindow::commandToOrderN},
+    {{"insertToBom", "Edit", QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
+      "data_insert_to_bom_128", nullptr, nullptr},
+     &Kiv_mat_databaseWindow::commandInsertToBom},
+    {{"openLink", "Edit", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
+     &Kiv_mat_databaseWindow::commandOpenLink},
     {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
@@ -160,27 +181,6 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"cpvIndexWww", "Others", QT_TRANSLATE_NOOP("actions", "CPV index www"), "action_link",
       nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandCPVIndexWWW},
-
-    // Without a menu: of the context menu only.
-    {{"openLink", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
-     &Kiv_mat_databaseWindow::commandOpenLink},
-    {{"expandGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
-      nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandExpandGroup},
-    {{"collapsGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
-      nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandCollapsGroup},
-    {{"insertToBom", nullptr, QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
-      "data_insert_to_bom_128", nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandInsertToBom},
-    {{"toOrder", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
-      "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
-     &Kiv_mat_databaseWindow::commandToOrder},
-    {{"toOrderN", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
-      "action_add_material", "Ctrl+Shift+Return",
-      QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
-     &Kiv_mat_databaseWindow::commandToOrderN},
 };
 
 } // namespace
@@ -297,7 +297,12 @@ void Kiv_mat_databaseWindow::begin()
 void Kiv_mat_databaseWindow::updateActions()
 {
     allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
-                       "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"});
+                       "editParameters", "editCpv", "fillDown", "parse", "loadCpv", "moveCpv"});
+    const bool onMaterial = materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell()));
+    setAvailable("openLink", onMaterial, tr("no material is selected"));
+    for (const char *name : {"insertToBom", "toOrder", "toOrderN"})
+        setAvailable(name, onMaterial || m_view->selectionModel()->hasSelection(),
+                     tr("no material is selected"));
     allowWhenUnlocked({"pasteMaterials"}, !m_copied.empty(), tr("no material was copied"));
     if (m_merge)
         m_merge->updateActions();
@@ -306,8 +311,6 @@ void Kiv_mat_databaseWindow::updateActions()
 void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
-    const bool onMaterial =
-        materialRows::materialOf(m_model->itemFromIndex(m_view->currentIndex()));
     for (const char *name :
          {"copyText", "openLink", "editParameters", "copyMaterials", "cutMaterials",
           "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup", "collapsGroup",
@@ -316,8 +319,6 @@ void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
             menu.addAction(action(name));
         else
             menu.addSeparator();
-    for (const char *name : {"openLink", "insertToBom", "toOrder", "toOrderN"})
-        setAvailable(name, onMaterial, tr("no material is selected"));
     menu.exec(m_view->viewport()->mapToGlobal(position));
 }
 
@@ -390,12 +391,10 @@ void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 std::vector<materialStruct *> Kiv_mat_databaseWindow::selectedMaterials() const
 {
     std::vector<materialStruct *> found;
-    QModelIndexList cells = m_view->selectedCells();
-    if (cells.isEmpty() && m_view->currentIndex().isValid())
-        cells.append(m_view->currentIndex());
-    for (const QModelIndex &cell : cells)
+    // Rows are hidden little by little.
+    for (const QModelIndex &cell : m_view->markedCells())
         if (materialStruct *material = materialRows::materialOf(m_model->itemFromIndex(cell)))
-            if (found.empty() || found.back() != material)
+            if ((found.empty() || found.back() != material) && isShown(*material))
                 found.push_back(material);
     return found;
 }
@@ -410,7 +409,7 @@ QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
 
 void Kiv_mat_databaseWindow::commandOpenLink(bool)
 {
-    const QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    const QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
     const materialStruct *material = materialRows::materialOf(item);
     const QString link = material ? databaseTree::linkOf(*material) : QString();
     if (link.isEmpty() || !QDesktopServices::openUrl(QUrl::fromUserInput(link)))
@@ -467,9 +466,11 @@ void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
         if (myItemStandard *first = m_rows->find(*material))
             members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
     if (members.empty()) {
-        const QStandardItem *group = currentGroup();
+        const QModelIndex marked = m_view->markedCell();
+        const QStandardItem *group =
+            marked.isValid() && !marked.parent().isValid() ? m_model->item(marked.row()) : nullptr;
         if (!group || !materialRows::groupOf(group)->items.empty()) {
-            tell(tr("Only empty groups are deleted"));
+            tell(group ? tr("Only empty groups are deleted") : tr("No material is selected"));
             return;
         }
         members.push_back(std::make_unique<deleteMaterial>(m_model, group->index()));
@@ -600,9 +601,9 @@ void Kiv_mat_databaseWindow::commandAddMaterial(bool)
 
 void Kiv_mat_databaseWindow::commandEditParameters(bool)
 {
-    QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
     const materialStruct *material = materialRows::materialOf(item);
-    if (!material
+    if (!material || !isShown(*material)
         || userPrompts().ask(tr("Do you want to edit material ?").toHtmlEscaped(), false)
                != prompts::answer::yes)
         return;

@@ -138,7 +138,7 @@ private:
     void applyFilter();
     void filterSlice();
     void filterRow(QStandardItem *group, int row);
-    bool isShown(const materialStruct &material);
+    bool isShown(const materialStruct &material) const;
 
     // --- databaseTools.cpp ---
     void writeReport(databaseReportKind kind);

@@ -62,7 +62,7 @@ void Kiv_mat_databaseWindow::commandEdited(bool on)
     applyFilter();
 }
 
-bool Kiv_mat_databaseWindow::isShown(const materialStruct &material)
+bool Kiv_mat_databaseWindow::isShown(const materialStruct &material) const
 {
     if (!m_statusFilter.isEmpty() && !material.information.status.contains(m_statusFilter))
         return false;
@@ -134,12 +134,12 @@ void Kiv_mat_databaseWindow::filterSlice()
         }
     }
     m_filterGroup = -1;
+    m_view->deselectHidden();
 }
 
 void Kiv_mat_databaseWindow::selectItem(QTreeView *view, QStandardItem *item)
 {
-    view->setCurrentIndex(item->index());
-    view->scrollTo(item->index());
+    static_cast<myTreeView *>(view)->goTo(item->index());
 }
 
 void Kiv_mat_databaseWindow::selectMaterial(materialStruct *material)

@@ -4,6 +4,7 @@
 #include "data/programData.h"
 #include "order/orderTree.h"
 #include "util/labels.h"
+#include "util/text.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -58,7 +59,7 @@ QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &m
         auto *item =
             new QStandardItem(column.text ? material.*column.text : material.information.status);
         item->setEditable(false);
-        item->setToolTip(item->text());
+        item->setToolTip(text::toolTip(item->text()));
         if (column.isNumber)
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (!column.text)
@@ -153,7 +154,9 @@ void addMaterialDialog::search()
     for (const materialSearch::entry &entry : result.entries)
         m_found->appendRow(rowOf(m_known.config(), *entry.material));
     if (m_found->rowCount() > 0)
-        m_view->setCurrentIndex(m_found->index(0, 0));
+        // What is selected does not depend on the keys held, such as those that paste the words.
+        m_view->selectionModel()->setCurrentIndex(
+            m_found->index(0, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_add->setEnabled(m_found->rowCount() > 0);
     QString told = tr("%n material(s)", nullptr, result.total);
     if (result.total > shownMaterials)

@@ -84,7 +84,7 @@ void myModel::setValue(myItemStandard *item, const QVariant &value)
     }
     if (!myItem::differs(*item, value))
         return;
-    const QString fault = m_check ? m_check(*item, value) : QString();
+    const QString fault = faultOf(*item, value);
     if (fault.isEmpty())
         m_editHook(item, value);
     else

@@ -45,6 +45,8 @@ private:
     void enableByCommit(QWidget *editor, class QKeyEvent *event);
     QWidget *makeEditor(QWidget *parent, const myItem::myItemStandard &item) const;
     void closeWith(class QDialog *dialog) const;
+    QColor paintBackground(QPainter *painter, QStyleOptionViewItem *option,
+                           const QModelIndex &index, const myItem::myItemStandard &item) const;
     void paintBar(QPainter *painter, const QStyleOptionViewItem &option,
                   const myItem::myItemStandard &item) const;
 

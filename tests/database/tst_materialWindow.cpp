@@ -12,6 +12,7 @@ const std::vector<pressedAction> actions = {
     {"undo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return #undo", "Undone: "},
     {"redo", "material@0/2,1 F2 Ctrl+A 'Nowy' Return Ctrl+Z #redo", "Done again: |+<d_name>Nowy"},
     {"addManufacturer", "#addManufacturer 'Vishay' Return", "+<name>Vishay</name>"},
+    {"fillDown", "material@0/2,1 Shift+Down #fillDown", "Fill down|+<d_description>|-<d_description>"},
     {"addSuppler", "#addSuppler 'Farnell' Return", "+<name>Farnell</name>"},
     {"addFile", "material@3/0,0 #addFile 'http://x/y' Return", "+<file type=\"FILE_DATASHEET\" name=\"http://x/y\"/>"},
     {"addFile, context menu", "material@?4/0,0 #addFile 'http://x/y' Return",
@@ -144,7 +145,7 @@ private slots:
         QTest::newRow("yes") << "'Nowy' Return Ctrl+W !Yes" << 1 << true << "Nowy";
         QTest::newRow("yes, refused") << "Del Return Ctrl+W !Yes Escape" << 2 << false << "";
         QTest::newRow("no") << "'Nowy' Return Ctrl+W !No" << 1 << true << "";
-        QTest::newRow("cancel") << "'Nowy' Return Ctrl+W Escape" << 1 << false << "";
+        QTest::newRow("cancel") << "'Nowy' Return Up Ctrl+W Escape" << 1 << false << "";
         QTest::newRow("set in the editor") << "'Nowy' Ctrl+S" << 0 << true << "Nowy";
         QTest::newRow("set, refused") << "Del Return Ctrl+S Escape" << 1 << false << "";
     }

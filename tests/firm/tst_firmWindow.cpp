@@ -11,7 +11,7 @@ const std::vector<pressedAction> actions = {
     {"save", "F2 Ctrl+A 'Nowa' Return #save", "Save file <b>firms.xml</b> [|+<fullname>Nowa|-<fullname>Abracon LLC"},
     {"close", "#close", "closed"},
     {"edit", "#edit", "Editing is "},
-    {"undo", "F2 Ctrl+A 'Nowa' Return #undo", "Undone: |at Abracon LLC", true},
+    {"undo", "F2 Ctrl+A 'Nowa' Return Up #undo", "Undone: |at Abracon LLC", true},
     {"redo", "F2 Ctrl+A 'Nowa' Return Ctrl+Z #redo", "Done again: |+<fullname>Nowa", true},
     {"copyCells", "#copyCells", "1 cell copied|clipboard Abracon LLC"},
     {"pasteCells", "manufacturers@2,1 Ctrl+C manufacturers@0,1 #pasteCells",
@@ -19,6 +19,7 @@ const std::vector<pressedAction> actions = {
     {"find", "#find 'semicond' Return", "Found in line 4|at Alpha & Omega"},
     {"find, nothing", "#find 'in no firm' Return", "No line holds in no firm|at Abracon LLC"},
     {"findNext", "Ctrl+F 'semicond' Return #findNext", "Found in line 4|Limited"},
+    {"fillDown", "manufacturers@0,1 Shift+Down #fillDown", "Fill down|+<fullname>Abracon LLC", true},
     {"add", "#add", "rows 60|+<name>FIRM</name>|+<fullname>FIRM SA", true},
     {"add, supplier", "!Suppliers #add", "rows 12|+<name>FIRM</name>", true},
     {"add, context menu", "manufacturers@?0,1 #add", "+<name>FIRM</name>", true},
@@ -82,7 +83,7 @@ private slots:
         openWindow("#firm");
         work("manufacturers@0,0 F2 Ctrl+A 'Abracon Group' Return ~50 " + answer);
         QCOMPARE(boxes().size(), 1);
-        work("Ctrl+Z");
+        work("Ctrl+Z Up");
         QCOMPARE(current().data().toString(), QString("Abracon"));
         QVERIFY(!window().windowTitle().endsWith('*'));
         work("Ctrl+Y");
@@ -212,7 +213,7 @@ private slots:
         QVERIFY(!seenNow().contains("opened"));
         work("+manufacturers@0,4");
         QVERIFY(seenNow().contains("opened https://abracon.com\n"));
-        work("manufacturers@0,4 F2 Ctrl+A 'file:///etc/passwd' Return #-homePage");
+        work("manufacturers@0,4 F2 Ctrl+A 'file:///etc/passwd' Return Up #-homePage");
         QVERIFY(boxes().value(0).contains("no firm with a home page selected"));
     }
 

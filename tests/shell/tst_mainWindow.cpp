@@ -64,6 +64,12 @@ const pressedRow actions[] = {
     {"allSum", "", "#allSum Return", "boxes ~ [ PLN ]", reads},
     {"clearPrice", "", "#clearPrice", "orderLines:2 = 0.00; orderLines:3 = 0.00", edits},
     {"refreshPrices", "#clearPrice", "#refreshPrices !Yes", "orderLines@0,2 = 18.50", edits},
+    {"fillDown", "orderLines@0,8 +orderLines@2,8 +orderLines@2,5 +orderLines@3,5", "#fillDown",
+     "orderLines@2,8 ~ Mikrokontroler; orderLines@1,8 ~ Stabilizator; orderLines@3,5 = 25", edits},
+    {"moveUp", "orderLines@2,1 +orderLines@4,1", "#moveUp",
+     "orderLines@1,1 ~ ABLS; orderLines@3,1 ~ 10K; orderLines:0 ~ 1|2|3|4|5", edits},
+    {"moveDown", "orderLines@0,1 Shift+Down", "#moveDown Ctrl+S",
+     "orderLines@0,1 ~ ABLS; orderLines@1,1 ~ STM32; orderLines@0,0 = 1"},
     {"deleteLines", "orderLines@0,1 +orderLines@2,1 +orderLines@20,1", "orderLines@?2,1 #deleteLines",
      "orderLines = 18; orderLines@0,1 = AMS1117-3.3; "
      "orderLines@0,0 = 1",

@@ -1,6 +1,6 @@
 // What all editing windows have in common, with hands: what is typed is what is saved, whatever key
 // leaves the editor; closing, locking, and files that another program changed.
-#include "editingFixture.h"
+#include "scenarioFixture.h"
 
 struct editedWindow
 {
@@ -23,7 +23,33 @@ const editedWindow windows[] = {
     {"BOM list", "Ctrl+B|boms@0/0/0,0 Return", "lines@0,2", "lines@1,2", "", "Ctrl+W", "Ctrl+E"},
 };
 
-class tst_editWindows : public editingFixture
+#define DATABASE "Ctrl+D Return|Ctrl+E materials@0,0 Right "
+
+const scenario keys[] = {
+    {"nothing is selected after Escape", "orderLines@3,1 Escape Del", "orderLines = 21; status = No line is selected"},
+    {"one is selected after Ctrl+S", DATABASE "materials@0/1,0 F4 !Yes Ctrl+S Del", "status = 1 material deleted"},
+    {"what is hidden stays", DATABASE "materials@0/1,0 Ctrl+F 'zzzz' ~100 Tab Del", "status = No material is selected"},
+    {"what is closed stays", DATABASE "materials@0/1,0 materials@1,0 +materials@0/1,0 materials@0,0 Left Del",
+     "status = Only empty groups are deleted"},
+    {"to the order", DATABASE "materials@0/1,0 Ctrl+F Ctrl+Return", "status = 1 line added"},
+    {"the lock from a field", DATABASE "Ctrl+F 'x' Ctrl+E", "title ~ locked"},
+    {"undo from a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F Ctrl+Z", "status ~ Undone: "},
+    {"undo of a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F 'y' ~100 Ctrl+Z ~100",
+     "title ~ *; materials@0,0 = x"},
+    {"redo of attentions", "!attentions 'Żuk' Ctrl+Z Ctrl+Y", "attentions ~ Żuk"},
+    {"redo of an editor", "orderLines@0,8 F2 'Żuk' Ctrl+Z Ctrl+Y Return", "orderLines@0,8 = Żuk"},
+    {"Return goes down", "orderLines@0,5 F2 Ctrl+A '7' Return F2 Ctrl+A '8' Return",
+     "orderLines@0,5 = 7; orderLines@1,5 = 8"},
+    {"Ctrl+Return fills", "orderLines@0,5 Shift+Down Shift+Down F2 Ctrl+A '25' Ctrl+Return",
+     "orderLines@0,5 = 25; orderLines@1,5 = 25; orderLines@2,5 = 25; orderLines@3,5 = 4000"},
+    {"filled in one step", "orderLines@0,8 Shift+Down Shift+Down F2 Ctrl+A 'x' Ctrl+Return Ctrl+Z",
+     "orderLines@0,8 ~ Mikro; orderLines@2,8 ~ Rezo; title = Order"},
+    {"a field is emptied", "#config|options@12,1 Del", "options@12,1 =; status = Clear"},
+    {"Tab to the next number", "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '3' Tab Ctrl+A '4' Return",
+     "boms@0/0/0,1 = 3; boms@1/0/0,1 = 4"},
+};
+
+class tst_editWindows : public scenarioFixture
 {
     Q_OBJECT
 
@@ -56,6 +82,9 @@ class tst_editWindows : public editingFixture
     }
 
 private slots:
+    void keysDo_data() { addScenarios(keys); }
+    void keysDo() { live(); }
+
     void typedIsSaved_data() { addRows({"Return", "Tab", "Escape", "elsewhere", "save", "close"}); }
     void typedIsSaved()
     {
