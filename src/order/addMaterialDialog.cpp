@@ -100,6 +100,7 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     m_quantity->setAccessibleName(labels::quantity());
     m_quantity->setRange(1, orderTree::quantityMaximum);
     m_add->setDefault(true);
+    m_count->setTextFormat(Qt::PlainText);
     auto *close = new QPushButton(tr("Close"), this);
     close->setAutoDefault(false);
 
