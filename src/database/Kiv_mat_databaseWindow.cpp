@@ -237,6 +237,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     connect(m_words, &QLineEdit::returnPressed, this, [this] {
         applyFilter();
         m_view->setFocus();
+        goToFound();
     });
     // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
@@ -399,6 +400,17 @@ std::vector<materialStruct *> Kiv_mat_databaseWindow::selectedMaterials() const
     return found;
 }
 
+// For other windows; that there are none is told.
+QStringList Kiv_mat_databaseWindow::selectedKtms()
+{
+    QStringList ktms;
+    for (const materialStruct *material : selectedMaterials())
+        ktms.append(material->d_ktm);
+    if (ktms.isEmpty())
+        tell(tr("No material is selected"));
+    return ktms;
+}
+
 QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
 {
     QModelIndex index = m_view->currentIndex();
@@ -551,24 +563,20 @@ void Kiv_mat_databaseWindow::commandCollapsGroup(bool)
 
 void Kiv_mat_databaseWindow::commandInsertToBom(bool)
 {
-    for (const materialStruct *material : selectedMaterials())
-        emit insertToBom(material->d_ktm);
+    for (const QString &ktm : selectedKtms())
+        emit insertToBom(ktm);
 }
 
 void Kiv_mat_databaseWindow::commandToOrder(bool)
 {
-    QStringList ktms;
-    for (const materialStruct *material : selectedMaterials())
-        ktms.append(material->d_ktm);
+    const QStringList ktms = selectedKtms();
     if (!ktms.isEmpty())
         emit appendToOrder(ktms, 1);
 }
 
 void Kiv_mat_databaseWindow::commandToOrderN(bool)
 {
-    QStringList ktms;
-    for (const materialStruct *material : selectedMaterials())
-        ktms.append(material->d_ktm);
+    const QStringList ktms = selectedKtms();
     constexpr int mostPieces = 1000000;
     const auto quantity =
         ktms.isEmpty()

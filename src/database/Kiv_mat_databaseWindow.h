@@ -130,6 +130,8 @@ private:
     void showContextMenu(const QPoint &position);
     QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
     std::vector<materialStruct *> selectedMaterials() const;
+    QStringList selectedKtms();
+    void goToFound();
     QStandardItem *currentGroup() const;
     materialWindow &editor();
 

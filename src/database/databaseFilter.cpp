@@ -119,6 +119,20 @@ void Kiv_mat_databaseWindow::applyFilter()
     tell(told);
 }
 
+// The first material that the search shows, unless one of them is current.
+void Kiv_mat_databaseWindow::goToFound()
+{
+    if (m_query.terms().empty()
+        || materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell())))
+        return;
+    for (QModelIndex row = m_view->indexAt({0, 0}); row.isValid(); row = m_view->indexBelow(row))
+        if (const materialStruct *found = materialRows::materialOf(m_model->itemFromIndex(row));
+            found && isShown(*found)) {
+            m_view->goTo(row);
+            return;
+        }
+}
+
 // Rows that are made already, some at a time, so that the next key need not wait.
 void Kiv_mat_databaseWindow::filterSlice()
 {

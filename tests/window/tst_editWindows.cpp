@@ -32,6 +32,7 @@ const scenario keys[] = {
     {"what is closed stays", DATABASE "materials@0/1,0 materials@1,0 +materials@0/1,0 materials@0,0 Left Del",
      "status = Only empty groups are deleted"},
     {"to the order", DATABASE "materials@0/1,0 Ctrl+F Ctrl+Return", "status = 1 line added"},
+    {"found and to the order", "Ctrl+D Return|'RC0603FR-0722RL' Return Ctrl+Return", "status = 1 line added"},
     {"the lock from a field", DATABASE "Ctrl+F 'x' Ctrl+E", "title ~ locked"},
     {"undo from a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F Ctrl+Z", "status ~ Undone: "},
     {"undo of a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F 'y' ~100 Ctrl+Z ~100",
