@@ -594,6 +594,16 @@ def action_icons():
             layer(area(rect(4, 2.5, 16, 19, 1.2), WHITE, WHITE, .1),
                   Shape(rect(4, 2.5, 16, 19, 1.2), "none", SLATE, 2, True,
                         ' stroke-dasharray="2.6 3.23"'))],
+        "action_move_up": [
+            layer(line("M4 15h16M4 20h16", SLATE, 2)),
+            layer(line("M12 11V7", BLUE, 2.6), head(12, 2.2, -90, 5.4))],
+        "action_move_down": [
+            layer(line("M4 4h16M4 9h16", SLATE, 2)),
+            layer(line("M12 13v4", BLUE, 2.6), head(12, 21.8, 90, 5.4))],
+        "action_fill_down": [
+            layer(area(rect(5, 2.5, 14, 6.5), BLUE),
+                  area(rect(5, 9, 14, 12.5), WHITE), ink("M5.6 15.2h12.8", SLATE, 1.4)),
+            layer(line("M12 6v7", SLATE, 2.4), head(12, 19, 90, 5, SLATE))],
         "action_add_row": [table(), badge(PLUS, GREEN)],
         "action_merge": [
             layer(line("M3 19h2.5c4.5 0 4.5-7 9-7", SLATE, BOLD)),

@@ -34,6 +34,20 @@
             <numerusform>%n rows deleted</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>all %n list(s)</source>
+        <translation>
+            <numerusform>%n list</numerusform>
+            <numerusform>all %n lists</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected list(s)</source>
+        <translation>
+            <numerusform>%n selected list</numerusform>
+            <numerusform>%n selected lists</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -303,6 +317,13 @@
         <translation>
             <numerusform>%n cell pasted</numerusform>
             <numerusform>%n cells pasted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) moved</source>
+        <translation>
+            <numerusform>%n line moved</numerusform>
+            <numerusform>%n lines moved</numerusform>
         </translation>
     </message>
 </context>

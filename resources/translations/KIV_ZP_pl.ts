@@ -212,6 +212,22 @@
         <source>Save the changed set of BOM lists?</source>
         <translation>Zapisać zmieniony zbiór list materiałów?</translation>
     </message>
+    <message numerus="yes">
+        <source>all %n list(s)</source>
+        <translation>
+            <numerusform>%n lista</numerusform>
+            <numerusform>wszystkie %n listy</numerusform>
+            <numerusform>wszystkie %n list</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected list(s)</source>
+        <translation>
+            <numerusform>%n zaznaczona lista</numerusform>
+            <numerusform>%n zaznaczone listy</numerusform>
+            <numerusform>%n zaznaczonych list</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -570,6 +586,10 @@
         <source>SQLITE File</source>
         <translation>Plik SQLite</translation>
     </message>
+    <message>
+        <source>No material is selected</source>
+        <translation>Nie zaznaczono żadnego materiału</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -889,6 +909,14 @@
             <numerusform>odrzucono %n materiałów</numerusform>
         </translation>
     </message>
+    <message>
+        <source>No line is selected</source>
+        <translation>Nie zaznaczono żadnej pozycji</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Wypełnij</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -1204,7 +1232,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Usuń wszystko</translation>
+        <translation>Usuń</translation>
     </message>
     <message>
         <source>Delete all lines</source>
@@ -1795,6 +1823,43 @@
         <translation>Edytuj tekst dołączany do zamówienia</translation>
     </message>
     <message>
+        <source>Open this group</source>
+        <translation>Rozwiń tę grupę</translation>
+    </message>
+    <message>
+        <source>Close this group</source>
+        <translation>Zwiń tę grupę</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>all lines</comment>
+        <translation>Usuń wszystko</translation>
+    </message>
+    <message>
+        <source>Fill down</source>
+        <translation>Wypełnij w dół</translation>
+    </message>
+    <message>
+        <source>Put the topmost selected cell of each column into those below it</source>
+        <translation>Wpisz najwyższą zaznaczoną komórkę każdej kolumny do zaznaczonych pod nią</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Przesuń w górę</translation>
+    </message>
+    <message>
+        <source>Move the selected lines up</source>
+        <translation>Przesuń zaznaczone pozycje w górę</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Przesuń w dół</translation>
+    </message>
+    <message>
+        <source>Move the selected lines down</source>
+        <translation>Przesuń zaznaczone pozycje w dół</translation>
+    </message>
+    <message>
         <source>Paste the copied materials into this group, or the copied text into the cells from the current one on</source>
         <translation>Wkleja skopiowane materiały do tej grupy albo skopiowany tekst do komórek od bieżącej</translation>
     </message>
@@ -1911,6 +1976,10 @@
     <message>
         <source>In no database</source>
         <translation>Spoza baz danych</translation>
+    </message>
+    <message>
+        <source>The file is missing: %1</source>
+        <translation>Brak pliku: %1</translation>
     </message>
 </context>
 <context>
@@ -2689,6 +2758,30 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Nothing was changed</source>
         <translation>Niczego nie zmieniono</translation>
+    </message>
+    <message>
+        <source>Fill down</source>
+        <translation>Wypełnij w dół</translation>
+    </message>
+    <message>
+        <source>Select the cell to copy and those below it that are to be filled</source>
+        <translation>Zaznacz komórkę wzorcową i komórki pod nią, które mają zostać wypełnione</translation>
+    </message>
+    <message>
+        <source>No line is selected</source>
+        <translation>Nie zaznaczono żadnej pozycji</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) moved</source>
+        <translation>
+            <numerusform>Przesunięto %n pozycję</numerusform>
+            <numerusform>Przesunięto %n pozycje</numerusform>
+            <numerusform>Przesunięto %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
     </message>
 </context>
 <context>
@@ -4242,6 +4335,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Address</source>
         <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Keep the changes of the text?</source>
+        <translation>Zachować zmiany tekstu?</translation>
+    </message>
+    <message>
+        <source>%1 is no address of a page, of mail or of a file server</source>
+        <translation>%1 nie jest adresem strony, poczty ani serwera plików</translation>
     </message>
 </context>
 <context>

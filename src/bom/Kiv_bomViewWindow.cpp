@@ -27,6 +27,9 @@ const windowAction<Kiv_bomViewWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
      &Kiv_bomViewWindow::commandCopyCells},
     {usualActions::pasteCells, &Kiv_bomViewWindow::commandPasteCells},
+    {usualActions::fillDown, &Kiv_bomViewWindow::commandFillDown},
+    {usualActions::moveUp("Edit"), &Kiv_bomViewWindow::commandMoveUp},
+    {usualActions::moveDown("Edit"), &Kiv_bomViewWindow::commandMoveDown},
     {{"deleteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected lines")},
      &Kiv_bomViewWindow::commandDeleteLines},
@@ -55,8 +58,12 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     addActions(actionTable);
     m_view = addView(tr("Lines of the BOM list"), "lines", this);
     m_view->setRootIsDecorated(false);
+    m_view->setRowsDragged(true);
+    connect(
+        m_view, &myTreeView::rowsDragged, this,
+        [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name : {"copyText", "pasteCells", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "moveUp", "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(m_view);
     m_view->setFont(files.config().font());
@@ -118,7 +125,9 @@ void Kiv_bomViewWindow::updateActions()
 {
     const bool onLine = m_view->currentIndex().isValid();
     const QString noLine = tr("no line is selected");
-    allowWhenUnlocked({"pasteCells", "deleteLines"}, onLine, noLine);
+    allowWhenUnlocked({"pasteCells"}, onLine, noLine);
+    allowWhenUnlocked({"deleteLines", "fillDown", "moveUp", "moveDown"},
+                      !m_view->markedCells().isEmpty(), noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
@@ -132,9 +141,13 @@ void Kiv_bomViewWindow::commandShowSum(bool)
 
 void Kiv_bomViewWindow::commandDeleteLines(bool)
 {
-    const std::vector<int> rows = m_view->selectedRows();
+    const std::vector<int> rows = m_view->markedRows();
     push(cellBlock::deleteRows(model(), rows), tr("%n line(s) deleted", nullptr, int(rows.size())));
 }
+
+void Kiv_bomViewWindow::commandMoveUp(bool) { moveMarkedRows(m_view, true); }
+
+void Kiv_bomViewWindow::commandMoveDown(bool) { moveMarkedRows(m_view, false); }
 
 void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
 {
@@ -158,8 +171,7 @@ void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
 
 void Kiv_bomViewWindow::selectItem(QTreeView *view, QStandardItem *item)
 {
-    view->setCurrentIndex(item->index());
-    view->scrollTo(item->index());
+    static_cast<myTreeView *>(view)->goTo(item->index());
 }
 
 void Kiv_bomViewWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)

@@ -27,6 +27,8 @@ public:
 public slots:
     void commandShowSum(bool);
     void commandDeleteLines(bool);
+    void commandMoveUp(bool);
+    void commandMoveDown(bool);
     // Appends a line of the material; one that no database has is told in the errors window.
     void insertToBomView(const materialKtm &ktm);
 

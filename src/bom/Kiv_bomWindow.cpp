@@ -38,6 +38,19 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Set the number of sets of all or the selected lists"), true},
      &Kiv_bomWindow::commandAllQuantities},
     {usualActions::fileSeparator, nullptr},
+    {{"open", "File", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Open the file with the desktop's program")},
+     &Kiv_bomWindow::commandOpen},
+    {{"bom", "File", QT_TRANSLATE_NOOP("actions", "Bom"), "dialog_bom2_128", "Return",
+      QT_TRANSLATE_NOOP("actions", "Look at the lines of the list")},
+     &Kiv_bomWindow::commandBom},
+    {{"csv", "File", QT_TRANSLATE_NOOP("actions", "CSV"), "dialog_bom2_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Export the KTMs and quantities of the list")},
+     &Kiv_bomWindow::commandCsv},
+    {{"doc", "File", QT_TRANSLATE_NOOP("actions", "DOC"), "dialog_bom2_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Export the report of the list as a document")},
+     &Kiv_bomWindow::commandDoc},
+    {usualActions::fileSeparator, nullptr},
     {{"report", "File", QT_TRANSLATE_NOOP("actions", "Report"), "action_report", nullptr,
       QT_TRANSLATE_NOOP("actions",
                         "Write a page or PDF of the selected lists, else of those that are built"),
@@ -50,6 +63,7 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {usualActions::undo, &Kiv_bomWindow::commandUndo},
     {usualActions::redo, &Kiv_bomWindow::commandRedo},
     {usualActions::editSeparator, nullptr},
+    {usualActions::fillDown, &Kiv_bomWindow::commandFillDown},
     {{"addFile", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new file"), "data_new_element2_128",
       "Ins", QT_TRANSLATE_NOOP("actions", "Add a BOM list to this folder")},
      &Kiv_bomWindow::commandAddFile},
@@ -66,22 +80,10 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Close all groups"), true},
      &Kiv_bomWindow::commandCollaps},
-    // Only in the context menu.
+    // "All Quantities ..." of the context menu.
     {{"setAll", nullptr, QT_TRANSLATE_NOOP("actions", "Set all quantities"), "zp_quantity_128",
       nullptr, nullptr},
      &Kiv_bomWindow::commandAllQuantities},
-    {{"open", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Open the file with the desktop's program")},
-     &Kiv_bomWindow::commandOpen},
-    {{"bom", nullptr, QT_TRANSLATE_NOOP("actions", "Bom"), "dialog_bom2_128", "Return",
-      QT_TRANSLATE_NOOP("actions", "Look at the lines of the list")},
-     &Kiv_bomWindow::commandBom},
-    {{"csv", nullptr, QT_TRANSLATE_NOOP("actions", "CSV"), "dialog_bom2_128", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Export the KTMs and quantities of the list")},
-     &Kiv_bomWindow::commandCsv},
-    {{"doc", nullptr, QT_TRANSLATE_NOOP("actions", "DOC"), "dialog_bom2_128", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Export the report of the list as a document")},
-     &Kiv_bomWindow::commandDoc},
 };
 
 // What a set holds, as one text to compare.
@@ -106,6 +108,8 @@ Kiv_bomWindow::Kiv_bomWindow(programData &files)
     addActions(actionTable);
     m_view = addView(tr("BOM lists"), "boms", this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    // Numbers are typed one below the other.
+    m_view->setTabGoesDown(true);
     // On the tree alone: an editor takes the key for itself.
     action("bom")->setShortcutContext(Qt::WidgetShortcut);
     m_view->addAction(action("bom"));
@@ -138,6 +142,14 @@ void Kiv_bomWindow::showSet(const QHash<QString, int> &sets)
     m_saved = contentOf(known().boms());
     m_view->expandAll();
     showState();
+}
+
+// Files may have come and gone meanwhile.
+void Kiv_bomWindow::changeEvent(QEvent *event)
+{
+    editWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_rows)
+        m_rows->refreshLooks(model());
 }
 
 QString Kiv_bomWindow::filePath() const { return known().boms().filePath; }
@@ -178,7 +190,8 @@ void Kiv_bomWindow::updateActions()
         setAvailable(name, !files.isEmpty(), tr("there is no list"));
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));
-    setAvailable("delete", current(), tr("nothing is selected"));
+    for (const char *name : {"delete", "fillDown"})
+        setAvailable(name, !m_view->markedCells().isEmpty(), tr("nothing is selected"));
     m_counts->setText(tr("%n list(s)", nullptr, int(files.size())) + QLatin1String(", ")
                       + tr("%n of them built", nullptr, built));
 }
@@ -200,7 +213,7 @@ void Kiv_bomWindow::showContextMenu(const QPoint &position)
 
 QStandardItem *Kiv_bomWindow::current() const
 {
-    const QModelIndex at = m_view->currentIndex();
+    const QModelIndex at = m_view->markedCell();
     return at.isValid() ? model()->itemFromIndex(at.siblingAtColumn(0)) : nullptr;
 }
 
@@ -208,7 +221,7 @@ QStandardItem *Kiv_bomWindow::current() const
 QList<QStandardItem *> Kiv_bomWindow::selectedFiles() const
 {
     std::set<QStandardItem *> selected;
-    for (const QModelIndex &cell : m_view->selectionModel()->selectedIndexes())
+    for (const QModelIndex &cell : m_view->selectedCells())
         for (QStandardItem *file :
              bomTree::filesBelow(model()->itemFromIndex(cell.siblingAtColumn(0))))
             selected.insert(file);
@@ -239,8 +252,7 @@ void Kiv_bomWindow::headerTreeClicked(QPoint, uint, int section)
 
 void Kiv_bomWindow::selectItem(QTreeView *view, QStandardItem *item)
 {
-    view->setCurrentIndex(item->index());
-    view->scrollTo(item->index());
+    static_cast<myTreeView *>(view)->goTo(item->index());
 }
 
 void Kiv_bomWindow::commandExpand(bool)
@@ -270,13 +282,18 @@ void Kiv_bomWindow::setSets(const QList<QStandardItem *> &files, int sets, const
 
 void Kiv_bomWindow::commandAllQuantities(bool)
 {
-    const auto sets = userPrompts().inputNumber(labels::quantities(), labels::setAllQuantities(), 1,
-                                                1, bomTree::setsMaximum);
+    QList<QStandardItem *> files = selectedFiles();
+    const bool all = files.isEmpty();
+    if (all)
+        files = bomTree::allFiles(model());
+    const QString which = all ? tr("all %n list(s)", nullptr, int(files.size()))
+                              : tr("%n selected list(s)", nullptr, int(files.size()));
+    const auto sets = userPrompts().inputNumber(
+        labels::quantities(), labels::setAllQuantities() + QLatin1String(": ") + which, 1, 1,
+        bomTree::setsMaximum);
     if (!sets)
         return;
-    const QList<QStandardItem *> selected = selectedFiles();
-    setSets(selected.isEmpty() ? bomTree::allFiles(model()) : selected, *sets,
-            labels::setAllQuantities());
+    setSets(files, *sets, labels::setAllQuantities());
 }
 
 void Kiv_bomWindow::commandClear(bool)
@@ -367,7 +384,7 @@ void Kiv_bomWindow::commandDelete(bool)
 {
     std::vector<QStandardItem *> firsts;
     bool folderWithContent = false;
-    for (const QModelIndex &cell : m_view->selectionModel()->selectedIndexes()) {
+    for (const QModelIndex &cell : m_view->markedCells()) {
         QStandardItem *first = model()->itemFromIndex(cell.siblingAtColumn(0));
         folderWithContent = folderWithContent || first->hasChildren();
         if (!first->hasChildren() && std::find(firsts.begin(), firsts.end(), first) == firsts.end())

@@ -73,6 +73,7 @@ protected:
     QString fault() const override;
     QString closeQuestion() const override { return tr("Save the changed set of BOM lists?"); }
     void updateActions() override;
+    void changeEvent(QEvent *event) override;
     static QString nothingBuilt();
 
 private slots:

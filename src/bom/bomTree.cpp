@@ -5,6 +5,7 @@
 #include "util/labels.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 using namespace myItem;
@@ -26,15 +27,26 @@ myItemStandard *cellOf(const char *key, kind cellKind, bool editable, const QStr
 // Shown without its path and ending, as its report is headed.
 QString shownName(const fileStruct &file) { return QFileInfo(file.name).completeBaseName(); }
 
-row fileRow(fileStruct *file, int sets)
+// A file that is not there has another picture, and says so where the mouse rests.
+void showPresence(QStandardItem *name, const fileStruct &file, const QString &setPath)
+{
+    const QString path = ::pathOf(file, setPath);
+    const bool isThere = QFileInfo::exists(path);
+    const bool isXml = file.name.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
+    name->setIcon(icon(!isThere ? "system_error_trans_128"
+                       : isXml  ? "file_xml_128"
+                                : "action_errors"));
+    name->setToolTip(isThere ? file.name
+                             : QCoreApplication::translate("bomTree", "The file is missing: %1")
+                                   .arg(QDir::toNativeSeparators(path)));
+}
+
+row fileRow(fileStruct *file, int sets, const QString &setPath)
 {
     const row items{cellOf("name", standardKind, false, shownName(*file)),
                     cellOf("sets", spinBoxKind, true, QString::number(sets)),
                     cellOf("path", standardKind, false, file->name)};
-    items[nameColumn]->setIcon(icon(file->name.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)
-                                        ? "file_xml_128"
-                                        : "action_errors"));
-    items[nameColumn]->setToolTip(file->name);
+    showPresence(items[nameColumn], *file, setPath);
     static_cast<myItemStandard *>(items.first())->record = file;
     return items;
 }
@@ -89,7 +101,8 @@ void setRows::show(myModel *model, const QHash<QString, int> &sets)
         for (const auto &group : category->items) {
             const row below = folderRow(group.get());
             for (const auto &file : group->items)
-                below.first()->appendRow(fileRow(file.get(), sets.value(file->name)));
+                below.first()->appendRow(
+                    fileRow(file.get(), sets.value(file->name), m_boms->filePath));
             top.first()->appendRow(below);
         }
         model->appendRow(top);
@@ -97,9 +110,15 @@ void setRows::show(myModel *model, const QHash<QString, int> &sets)
     model->setRecords(this);
 }
 
+void setRows::refreshLooks(const myModel *model) const
+{
+    for (QStandardItem *first : allFiles(model))
+        showPresence(first, *fileOf(first), m_boms->filePath);
+}
+
 row setRows::makeRow(std::unique_ptr<fileStruct> file) const
 {
-    const row items = fileRow(file.get(), 0);
+    const row items = fileRow(file.get(), 0, m_boms->filePath);
     return owned(items, std::move(file));
 }
 

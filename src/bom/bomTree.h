@@ -33,6 +33,9 @@ public:
     // Shows all rows; sets has the numbers of files by their names.
     void show(myModel *model, const QHash<QString, int> &sets);
 
+    // Tells anew which files are there.
+    void refreshLooks(const myModel *model) const;
+
     // Rows of records that are nowhere yet, which the rows own.
     myItem::row makeRow(std::unique_ptr<fileStruct> file) const;
     myItem::row makeRow(std::unique_ptr<fileGroup> group) const;

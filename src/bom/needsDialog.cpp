@@ -2,6 +2,7 @@
 
 #include "bom/bomReport.h"
 #include "util/labels.h"
+#include "util/text.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -35,7 +36,7 @@ QTreeWidgetItem *itemOf(const need &of)
     auto *item = new needItem;
     for (int column = 0; column < bomReport::needColumns; ++column) {
         item->setText(column, bomReport::needText(of, bomReport::needColumn(column)));
-        item->setToolTip(column, item->text(column));
+        item->setToolTip(column, text::toolTip(item->text(column)));
     }
     const char *icon = !of.isKnown() ? "line_unknown" : of.isShort() ? "line_short" : "line_enough";
     item->setIcon(0, QIcon(QStringLiteral(":/icons/icons/%1.png").arg(QLatin1String(icon))));

@@ -116,6 +116,14 @@ myItem::reading readPasted(const myModel *model, const QModelIndex &index,
 
 } // namespace
 
+myItem::reading like(const myItemStandard &source, const myItemStandard &cell)
+{
+    if (cell.type() == myItem::fontComboBoxKind)
+        return {myItem::valueOf(source), {}};
+    return readPasted(static_cast<const myModel *>(cell.model()), cell.index(), cell,
+                      source.text());
+}
+
 int linesBeyond(const QModelIndex &start, const QString &text)
 {
     const int rows = start.model()->rowCount(start.parent());

@@ -33,6 +33,9 @@ std::unique_ptr<command> set(myModel *model, const QList<myItem::myItemStandard 
                              const std::function<QVariant(const myItem::myItemStandard &)> &value,
                              htmlView *view = nullptr, whichCells which = editableOnly);
 
+// What gives a cell the text of another one of its kind, as pasting it would.
+myItem::reading like(const myItem::myItemStandard &source, const myItem::myItemStandard &cell);
+
 // One step that empties the cells.
 std::unique_ptr<command> clear(myModel *model, const QList<myItem::myItemStandard *> &cells,
                                htmlView *view = nullptr);

@@ -348,6 +348,45 @@ void sortOrderModel::arrange(const std::vector<QStandardItem *> &firstCells)
     }
 }
 
+moveRows::moveRows(myModel *model, std::vector<int> rows, int before)
+    : m_model(model)
+    , m_rows(std::move(rows))
+    , m_to(before - int(std::count_if(m_rows.begin(), m_rows.end(), [before](int at) {
+               return at < before;
+           })))
+{
+    if (const modelRecords *records = model->records())
+        m_records = records->recordsNotAsShown(model);
+    moveRows::redo();
+}
+
+void moveRows::undo()
+{
+    const changeBatch batch(m_model);
+    QStandardItem *root = m_model->invisibleRootItem();
+    std::vector<row> taken;
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        taken.push_back(takeOut(root, m_to));
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        putIn(root, m_rows[i], taken[i]);
+    if (!m_records.empty())
+        m_model->records()->arrange(m_records);
+    m_model->emitAppendOccured();
+}
+
+void moveRows::redo()
+{
+    const changeBatch batch(m_model);
+    QStandardItem *root = m_model->invisibleRootItem();
+    std::vector<row> taken;
+    // From the last one on, so that the numbers of the others stay true.
+    for (auto at = m_rows.rbegin(); at != m_rows.rend(); ++at)
+        taken.push_back(takeOut(root, *at));
+    for (const row &items : taken)
+        putIn(root, m_to, items);
+    m_model->emitAppendOccured();
+}
+
 refreshHtml::refreshHtml(htmlView *view)
     : m_view(view)
 {

@@ -189,6 +189,23 @@ private:
     std::vector<QStandardItem *> m_newOrder;
 };
 
+// Top-level rows moved to stand before another one, in the order they had; before may be the number
+// of rows. Their records move with them.
+class moveRows : public command
+{
+public:
+    // rows: from the top down.
+    moveRows(myModel *model, std::vector<int> rows, int before);
+    void undo() override;
+    void redo() override;
+
+private:
+    myModel *m_model;
+    std::vector<int> m_rows;
+    int m_to;                               // where the first of them is then
+    std::vector<const xmlData *> m_records; // as they stood, where the tree shows another order
+};
+
 // What shows the order as a page.
 class htmlView
 {

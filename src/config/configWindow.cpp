@@ -38,6 +38,7 @@ const windowAction<configWindow> actionTable[] = {
     {usualActions::editSeparator, nullptr},
     {usualActions::copyCells, &configWindow::commandCopyCells},
     {usualActions::pasteCells, &configWindow::commandPasteCells},
+    {usualActions::fillDown, &configWindow::commandFillDown},
     {{"add", "Edit", QT_TRANSLATE_NOOP("actions", "Add row"), "action_add_row", "Ins",
       QT_TRANSLATE_NOOP("actions", "Add a person or a target"), true},
      &configWindow::commandAdd},
@@ -275,7 +276,7 @@ void configWindow::showOptions()
 
 void configWindow::updateActions()
 {
-    allowWhenUnlocked({"default", "pasteCells"});
+    allowWhenUnlocked({"default", "pasteCells", "fillDown"});
     allowWhenUnlocked({"add", "delete"}, m_tabs->currentIndex() != optionsPage,
                       tr("options are neither added nor deleted"));
     setAvailable("save", m_fault.isEmpty(), m_fault);
@@ -286,13 +287,13 @@ void configWindow::commandAdd(bool)
     myTreeView *view = currentView();
     const myItem::row items = modelOf(view)->records()->newRow();
     push(std::make_unique<appendNewMaterial>(modelOf(view), items), tr("Add row"));
-    view->setCurrentIndex(view->model()->index(view->model()->rowCount() - 1, 0));
+    view->goTo(view->model()->index(view->model()->rowCount() - 1, 0));
     view->setFocus();
 }
 
 void configWindow::commandDelete(bool)
 {
-    push(cellBlock::deleteRows(modelOf(currentView()), currentView()->selectedRows()),
+    push(cellBlock::deleteRows(modelOf(currentView()), currentView()->markedRows()),
          tr("Delete rows"));
 }
 

@@ -228,7 +228,7 @@ void Kiv_mat_databaseMergeWindow::compareAgain()
 void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
 {
     std::set<int> rows;
-    for (const QModelIndex &cell : m_view->selectedCells())
+    for (const QModelIndex &cell : m_view->markedCells())
         rows.insert(cell.parent().isValid() ? cell.parent().row() : cell.row());
     std::vector<std::unique_ptr<command>> members;
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)

@@ -76,6 +76,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Paste the copied materials into this group, or the copied "
                                    "text into the cells from the current one on")},
      &Kiv_mat_databaseWindow::commandPasteMaterials},
+    {usualActions::fillDown, &Kiv_mat_databaseWindow::commandFillDown},
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
      &Kiv_mat_databaseWindow::commandDeleteMaterials},
@@ -92,6 +93,26 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"editCpv", "Edit", QT_TRANSLATE_NOOP("actions", "Edit CPV"), "zp_cpv_edit_128", nullptr,
       nullptr},
      &Kiv_mat_databaseWindow::commandEditCpv},
+    {{"expandGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Open this group")},
+     &Kiv_mat_databaseWindow::commandExpandGroup},
+    {{"collapsGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Close this group")},
+     &Kiv_mat_databaseWindow::commandCollapsGroup},
+    {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
+    {{"toOrder", "Edit", QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
+      "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
+     &Kiv_mat_databaseWindow::commandToOrder},
+    {{"toOrderN", "Edit", QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
+      "action_add_material", "Ctrl+Shift+Return",
+      QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
+     &Kiv_mat_databaseWindow::commandToOrderN},
+    {{"insertToBom", "Edit", QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
+      "data_insert_to_bom_128", nullptr, nullptr},
+     &Kiv_mat_databaseWindow::commandInsertToBom},
+    {{"openLink", "Edit", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
+     &Kiv_mat_databaseWindow::commandOpenLink},
     {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
@@ -166,27 +187,6 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"cpvIndexWww", "Others", QT_TRANSLATE_NOOP("actions", "CPV index www"), "action_link",
       nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandCPVIndexWWW},
-
-    // Without a menu: of the context menu only.
-    {{"openLink", nullptr, QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
-     &Kiv_mat_databaseWindow::commandOpenLink},
-    {{"expandGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Expand"), "data_group_expanded1_128",
-      nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandExpandGroup},
-    {{"collapsGroup", nullptr, QT_TRANSLATE_NOOP("actions", "Collaps"), "data_group_collapsed1_128",
-      nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandCollapsGroup},
-    {{"insertToBom", nullptr, QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
-      "data_insert_to_bom_128", nullptr, nullptr},
-     &Kiv_mat_databaseWindow::commandInsertToBom},
-    {{"toOrder", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: 1"), "action_add_material",
-      "Ctrl+Return", QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order")},
-     &Kiv_mat_databaseWindow::commandToOrder},
-    {{"toOrderN", nullptr, QT_TRANSLATE_NOOP("actions", "To the order: N ..."),
-      "action_add_material", "Ctrl+Shift+Return",
-      QT_TRANSLATE_NOOP("actions", "Add the selected materials to the order with a quantity")},
-     &Kiv_mat_databaseWindow::commandToOrderN},
 };
 
 } // namespace
@@ -239,6 +239,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     connect(m_words, &QLineEdit::returnPressed, this, [this] {
         applyFilter();
         m_view->setFocus();
+        goToFound();
     });
     // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
@@ -299,7 +300,12 @@ void Kiv_mat_databaseWindow::begin()
 void Kiv_mat_databaseWindow::updateActions()
 {
     allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
-                       "editParameters", "editCpv", "parse", "loadCpv", "moveCpv"});
+                       "editParameters", "editCpv", "fillDown", "parse", "loadCpv", "moveCpv"});
+    const bool onMaterial = materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell()));
+    setAvailable("openLink", onMaterial, tr("no material is selected"));
+    for (const char *name : {"insertToBom", "toOrder", "toOrderN"})
+        setAvailable(name, onMaterial || m_view->selectionModel()->hasSelection(),
+                     tr("no material is selected"));
     allowWhenUnlocked({"pasteMaterials"});
     if (m_merge)
         m_merge->updateActions();
@@ -308,8 +314,6 @@ void Kiv_mat_databaseWindow::updateActions()
 void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
-    const bool onMaterial =
-        materialRows::materialOf(m_model->itemFromIndex(m_view->currentIndex()));
     for (const char *name :
          {"copyText", "openLink", "editParameters", "copyMaterials", "cutMaterials",
           "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup", "collapsGroup",
@@ -318,8 +322,6 @@ void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
             menu.addAction(action(name));
         else
             menu.addSeparator();
-    for (const char *name : {"openLink", "insertToBom", "toOrder", "toOrderN"})
-        setAvailable(name, onMaterial, tr("no material is selected"));
     menu.exec(m_view->viewport()->mapToGlobal(position));
 }
 
@@ -392,14 +394,23 @@ void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 std::vector<materialStruct *> Kiv_mat_databaseWindow::selectedMaterials() const
 {
     std::vector<materialStruct *> found;
-    QModelIndexList cells = m_view->selectedCells();
-    if (cells.isEmpty() && m_view->currentIndex().isValid())
-        cells.append(m_view->currentIndex());
-    for (const QModelIndex &cell : cells)
+    // Rows are hidden little by little.
+    for (const QModelIndex &cell : m_view->markedCells())
         if (materialStruct *material = materialRows::materialOf(m_model->itemFromIndex(cell)))
-            if (found.empty() || found.back() != material)
+            if ((found.empty() || found.back() != material) && isShown(*material))
                 found.push_back(material);
     return found;
+}
+
+// For other windows; that there are none is told.
+QStringList Kiv_mat_databaseWindow::selectedKtms()
+{
+    QStringList ktms;
+    for (const materialStruct *material : selectedMaterials())
+        ktms.append(material->d_ktm);
+    if (ktms.isEmpty())
+        tell(tr("No material is selected"));
+    return ktms;
 }
 
 QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
@@ -412,7 +423,7 @@ QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
 
 void Kiv_mat_databaseWindow::commandOpenLink(bool)
 {
-    const QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    const QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
     const materialStruct *material = materialRows::materialOf(item);
     const QString link = material ? databaseTree::linkOf(*material) : QString();
     if (link.isEmpty() || !QDesktopServices::openUrl(QUrl::fromUserInput(link)))
@@ -478,9 +489,11 @@ void Kiv_mat_databaseWindow::commandDeleteMaterials(bool)
         if (myItemStandard *first = m_rows->find(*material))
             members.push_back(std::make_unique<deleteFromItem>(first->parent(), first));
     if (members.empty()) {
-        const QStandardItem *group = currentGroup();
+        const QModelIndex marked = m_view->markedCell();
+        const QStandardItem *group =
+            marked.isValid() && !marked.parent().isValid() ? m_model->item(marked.row()) : nullptr;
         if (!group || !materialRows::groupOf(group)->items.empty()) {
-            tell(tr("Only empty groups are deleted"));
+            tell(group ? tr("Only empty groups are deleted") : tr("No material is selected"));
             return;
         }
         members.push_back(std::make_unique<deleteMaterial>(m_model, group->index()));
@@ -561,24 +574,20 @@ void Kiv_mat_databaseWindow::commandCollapsGroup(bool)
 
 void Kiv_mat_databaseWindow::commandInsertToBom(bool)
 {
-    for (const materialStruct *material : selectedMaterials())
-        emit insertToBom(material->d_ktm);
+    for (const QString &ktm : selectedKtms())
+        emit insertToBom(ktm);
 }
 
 void Kiv_mat_databaseWindow::commandToOrder(bool)
 {
-    QStringList ktms;
-    for (const materialStruct *material : selectedMaterials())
-        ktms.append(material->d_ktm);
+    const QStringList ktms = selectedKtms();
     if (!ktms.isEmpty())
         emit appendToOrder(ktms, 1);
 }
 
 void Kiv_mat_databaseWindow::commandToOrderN(bool)
 {
-    QStringList ktms;
-    for (const materialStruct *material : selectedMaterials())
-        ktms.append(material->d_ktm);
+    const QStringList ktms = selectedKtms();
     constexpr int mostPieces = 1000000;
     const auto quantity =
         ktms.isEmpty()
@@ -611,9 +620,9 @@ void Kiv_mat_databaseWindow::commandAddMaterial(bool)
 
 void Kiv_mat_databaseWindow::commandEditParameters(bool)
 {
-    QStandardItem *item = m_model->itemFromIndex(m_view->currentIndex());
+    QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
     const materialStruct *material = materialRows::materialOf(item);
-    if (!material
+    if (!material || !isShown(*material)
         || userPrompts().ask(tr("Do you want to edit material ?").toHtmlEscaped(), false)
                != prompts::answer::yes)
         return;

@@ -130,6 +130,8 @@ private:
     void showContextMenu(const QPoint &position);
     QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
     std::vector<materialStruct *> selectedMaterials() const;
+    QStringList selectedKtms();
+    void goToFound();
     QStandardItem *currentGroup() const;
     materialWindow &editor();
 
@@ -138,7 +140,7 @@ private:
     void applyFilter();
     void filterSlice();
     void filterRow(QStandardItem *group, int row);
-    bool isShown(const materialStruct &material);
+    bool isShown(const materialStruct &material) const;
 
     // --- databaseTools.cpp ---
     void writeReport(databaseReportKind kind);

@@ -62,7 +62,7 @@ void Kiv_mat_databaseWindow::commandEdited(bool on)
     applyFilter();
 }
 
-bool Kiv_mat_databaseWindow::isShown(const materialStruct &material)
+bool Kiv_mat_databaseWindow::isShown(const materialStruct &material) const
 {
     if (!m_statusFilter.isEmpty() && !material.information.status.contains(m_statusFilter))
         return false;
@@ -119,6 +119,20 @@ void Kiv_mat_databaseWindow::applyFilter()
     tell(told);
 }
 
+// The first material that the search shows, unless one of them is current.
+void Kiv_mat_databaseWindow::goToFound()
+{
+    if (m_query.terms().empty()
+        || materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell())))
+        return;
+    for (QModelIndex row = m_view->indexAt({0, 0}); row.isValid(); row = m_view->indexBelow(row))
+        if (const materialStruct *found = materialRows::materialOf(m_model->itemFromIndex(row));
+            found && isShown(*found)) {
+            m_view->goTo(row);
+            return;
+        }
+}
+
 // Rows that are made already, some at a time, so that the next key need not wait.
 void Kiv_mat_databaseWindow::filterSlice()
 {
@@ -134,12 +148,12 @@ void Kiv_mat_databaseWindow::filterSlice()
         }
     }
     m_filterGroup = -1;
+    m_view->deselectHidden();
 }
 
 void Kiv_mat_databaseWindow::selectItem(QTreeView *view, QStandardItem *item)
 {
-    view->setCurrentIndex(item->index());
-    view->scrollTo(item->index());
+    static_cast<myTreeView *>(view)->goTo(item->index());
 }
 
 void Kiv_mat_databaseWindow::selectMaterial(materialStruct *material)

@@ -284,7 +284,7 @@ void materialTree::show(myModel *model, materialStruct &material, const configSt
             fieldColumn(fileStruct::fields(), one.name, usualWidth, lineEditKind, true));
     // Links are longer than their column.
     m_fileColumns[valueColumn].look = [](const fileStruct &one, myItemStandard *cell) {
-        cell->setToolTip(one.name.toHtmlEscaped());
+        cell->setToolTip(one.name);
     };
     m_fileColumns[nameColumn].kind = comboBoxKind;
     for (const QString &kind : config.fileTypes)

@@ -34,6 +34,7 @@ const windowAction<materialWindow> actionTable[] = {
     {usualActions::editSeparator, nullptr},
     {usualActions::copyCells, &materialWindow::commandCopyCells},
     {usualActions::pasteCells, &materialWindow::commandPasteCells},
+    {usualActions::fillDown, &materialWindow::commandFillDown},
     {{"addManufacturer", QT_TRANSLATE_NOOP("actions", "Commands"),
       QT_TRANSLATE_NOOP("actions", "Add manufacturer"), "zp_add_manufacturer_grey_128", "Ctrl+M",
       nullptr, true},
@@ -177,14 +178,14 @@ void materialWindow::goTo(const QStandardItem *item)
 {
     if (!item)
         return;
-    m_view->setCurrentIndex(item->index());
-    m_view->scrollTo(item->index());
+    m_view->goTo(item->index());
     m_view->setFocus();
 }
 
 QStandardItem *materialWindow::currentRow() const
 {
-    return m_view->currentIndex().isValid() ? firstOf(model(), m_view->currentIndex()) : nullptr;
+    const QModelIndex marked = m_view->markedCell();
+    return marked.isValid() ? firstOf(model(), marked) : nullptr;
 }
 
 QStandardItem *materialWindow::currentFirm() const { return materialTree::firmOf(currentRow()); }
@@ -311,7 +312,7 @@ void materialWindow::commandDeleteFiles(bool)
 void materialWindow::commandDeleteRows(bool)
 {
     QList<QStandardItem *> rows;
-    for (const QModelIndex &cell : m_view->selectedCells()) {
+    for (const QModelIndex &cell : m_view->markedCells()) {
         QStandardItem *first = firstOf(model(), cell);
         if (materialTree::firmOf(first) && !rows.contains(first)
             && !rows.contains(materialTree::firmOf(first)))

@@ -1,4 +1,5 @@
 #include "dialogs/changesDialog.h"
+#include "util/text.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -24,7 +25,7 @@ changesDialog::changesDialog(const QString &title, const QStringList &captions,
         auto *item = new QTreeWidgetItem(row);
         item->setCheckState(0, Qt::Checked);
         for (int column = 0; column < row.size(); ++column)
-            item->setToolTip(column, row[column]);
+            item->setToolTip(column, text::toolTip(row[column]));
         items.append(item);
     }
     m_rows->addTopLevelItems(items);

@@ -42,6 +42,7 @@ const windowAction<firmWindow> actionTable[] = {
     {usualActions::editSeparator, nullptr},
     {usualActions::copyCells, &firmWindow::commandCopyCells},
     {usualActions::pasteCells, &firmWindow::commandPasteCells},
+    {usualActions::fillDown, &firmWindow::commandFillDown},
     {usualActions::editSeparator, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Find a text among the firms"), true},
@@ -189,10 +190,12 @@ bool firmWindow::load()
 
 void firmWindow::updateActions()
 {
-    const QModelIndex at = currentView()->currentIndex();
     setAvailable("save", m_fault.isEmpty(), m_fault);
     allowWhenUnlocked({"add"});
-    allowWhenUnlocked({"delete", "pasteCells"}, at.isValid(), tr("no firm selected"));
+    allowWhenUnlocked({"pasteCells"}, currentView()->currentIndex().isValid(),
+                      tr("no firm selected"));
+    allowWhenUnlocked({"delete", "fillDown"}, !currentView()->markedCells().isEmpty(),
+                      tr("no firm selected"));
     setAvailable("homePage", currentHomePage().isValid(), tr("no firm with a home page selected"));
     for (const page &each : m_pages)
         each.hint->setVisible(modelOf(each.view)->rowCount() == 0 && m_fault.isEmpty());
@@ -253,15 +256,14 @@ void firmWindow::commandAdd(bool)
     push(std::make_unique<appendNewMaterial>(firms, current().rows->newRow()),
          labels::addNewFirm());
     const QModelIndex added = firms->index(firms->rowCount() - 1, firmTree::nameColumn);
-    view->setCurrentIndex(added);
-    view->scrollTo(added);
+    view->goTo(added);
     view->setFocus();
 }
 
 void firmWindow::commandDelete(bool)
 {
     const firmKind kind = firmKind(m_tabs->currentIndex());
-    const std::vector<int> rows = currentView()->selectedRows();
+    const std::vector<int> rows = currentView()->markedRows();
     std::set<const xmlData *> selected;
     for (int row : rows)
         selected.insert(static_cast<myItemStandard *>(model(kind)->item(row))->record);
@@ -286,7 +288,7 @@ void firmWindow::commandDelete(bool)
 
 QUrl firmWindow::currentHomePage()
 {
-    const QModelIndex at = currentView()->currentIndex();
+    const QModelIndex at = currentView()->markedCell();
     return homePage(at.sibling(at.row(), firmTree::homePageColumn).data().toString());
 }
 

@@ -6,6 +6,7 @@
 #include "tree/countBox.h"
 #include "util/labels.h"
 #include "util/numbers.h"
+#include "util/text.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -60,7 +61,7 @@ QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &m
         auto *item = new QStandardItem(
             column.text == &materialStruct::d_price ? numbers::price(stored) : stored);
         item->setEditable(false);
-        item->setToolTip(item->text());
+        item->setToolTip(text::toolTip(item->text()));
         if (column.isNumber)
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         if (!column.text)
@@ -100,6 +101,7 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     m_quantity->setObjectName(QStringLiteral("quantity"));
     m_quantity->setAccessibleName(labels::quantity());
     m_add->setDefault(true);
+    m_count->setTextFormat(Qt::PlainText);
     auto *close = new QPushButton(tr("Close"), this);
     close->setAutoDefault(false);
 
@@ -154,7 +156,9 @@ void addMaterialDialog::search()
     for (const materialSearch::entry &entry : result.entries)
         m_found->appendRow(rowOf(m_known.config(), *entry.material));
     if (m_found->rowCount() > 0)
-        m_view->setCurrentIndex(m_found->index(0, 0));
+        // What is selected does not depend on the keys held, such as those that paste the words.
+        m_view->selectionModel()->setCurrentIndex(
+            m_found->index(0, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_add->setEnabled(m_found->rowCount() > 0);
     QString told = tr("%n material(s)", nullptr, result.total);
     if (result.total > shownMaterials)

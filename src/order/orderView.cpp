@@ -103,6 +103,7 @@ void orderView::buildLines()
     // A click on a header is a command of its own here.
     m_linesView->setSortingEnabled(false);
     m_linesView->setRootIsDecorated(false);
+    m_linesView->setRowsDragged(true);
     m_linesView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_linesView->header()->setObjectName(QStringLiteral("orderLinesHeader"));
     connect(m_lines, &myModel::changeValueOccured, this, &orderView::changed);
@@ -171,8 +172,8 @@ void orderView::show(kiv_mat_zpStruct &order)
     m_attentionsTouched = false;
     m_loading = false;
     if (m_lines->rowCount() > 0)
-        m_linesView->setCurrentIndex(m_lines->index(0, orderTree::nameColumn));
-    m_linesView->clearSelection();
+        m_linesView->selectionModel()->setCurrentIndex(m_lines->index(0, orderTree::nameColumn),
+                                                       QItemSelectionModel::NoUpdate);
     showHint();
 }
 

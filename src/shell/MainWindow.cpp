@@ -48,6 +48,9 @@ constexpr int refreshDelayMs = 250;
 
 const actionRow doSeparator{nullptr, "Do", nullptr, nullptr, nullptr, nullptr, false};
 
+// Not what the word means in the other windows.
+constexpr const char *deleteAll[] = QT_TRANSLATE_NOOP3("actions", "Delete", "all lines");
+
 const windowAction<MainWindow> actionTable[] = {
     {{"zpNew", QT_TRANSLATE_NOOP("actions", "File"), QT_TRANSLATE_NOOP("actions", "New"),
       "action_new", "Ctrl+N", QT_TRANSLATE_NOOP("actions", "Start an empty order"), true},
@@ -93,6 +96,7 @@ const windowAction<MainWindow> actionTable[] = {
     {usualActions::editSeparator, nullptr},
     {usualActions::copyCells, &MainWindow::commandCopyCells},
     {usualActions::pasteCells, &MainWindow::commandPasteCells},
+    {usualActions::fillDown, &MainWindow::commandFillDown},
     {{"zpCopy", "Edit", QT_TRANSLATE_NOOP("actions", "Copy ..."), "action_duplicate", nullptr,
       QT_TRANSLATE_NOOP("actions", "Copy lines to another order or to the clipboard")},
      &MainWindow::commandZpCopy},
@@ -156,11 +160,13 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Take prices and stock from the databases again")},
      &MainWindow::commandZpRefreshPrices},
     {doSeparator, nullptr},
+    {usualActions::moveUp("Do"), &MainWindow::commandMoveUp},
+    {usualActions::moveDown("Do"), &MainWindow::commandMoveDown},
     {{"deleteLines", "Do", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", nullptr,
       QT_TRANSLATE_NOOP("actions", "Delete the selected lines (Del)")},
      &MainWindow::commandDeleteLines},
-    {{"deleteAll", "Do", QT_TRANSLATE_NOOP("actions", "Delete"), "action_clear", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Delete all lines")},
+    {{"deleteAll", "Do", deleteAll[0], "action_clear", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Delete all lines"), false, false, deleteAll[1]},
      &MainWindow::commandZpDeleteAll},
 
     {{"database", QT_TRANSLATE_NOOP("actions", "Tools"),
@@ -258,6 +264,7 @@ void MainWindow::buildWidgets()
     m_tabs->addTab(m_preview, labels::previewDo());
     setCentralWidget(m_tabs);
     m_path = new QLabel(this);
+    m_path->setTextFormat(Qt::PlainText);
     m_sums = new QLabel(this);
     constexpr int labelMargin = 8;
     for (QLabel *label : {m_path, m_sums})
@@ -287,6 +294,11 @@ void MainWindow::buildWidgets()
             &MainWindow::modelTreeClicked);
     connect(m_order->linesView(), &QWidget::customContextMenuRequested, this,
             &MainWindow::showContextMenu);
+    connect(m_order->linesView(), &myTreeView::keyFill, this, &MainWindow::fillSelected);
+    connect(m_order->linesView(), &myTreeView::rowsDragged, this,
+            [this](const std::vector<int> &rows, int before) {
+                moveRowsBefore(m_order->linesView(), rows, before);
+            });
     connect(static_cast<myHeaderView *>(m_order->linesView()->header()), &myHeaderView::clicked,
             this, &MainWindow::headerTreeClicked);
     connect(m_order->attentions(), &myTextEdit::clicked, this, &MainWindow::textEditDoubleClicked);
@@ -390,8 +402,8 @@ void MainWindow::updateActions()
     allowWhenUnlocked(
         {"pasteCells", "addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"});
     allowWhenUnlocked({"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS",
-                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "deleteLines",
-                       "deleteAll"},
+                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "fillDown",
+                       "moveUp", "moveDown", "deleteLines", "deleteAll"},
                       !empty, noLines);
     for (const char *name : {"zpCopy", "allSum", "find", "findNext", "copyCells"})
         setAvailable(name, !empty, noLines);
@@ -401,9 +413,10 @@ void MainWindow::updateActions()
 void MainWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
-    for (const char *name : {"copyCells", "pasteCells", "", "addMaterial", "addShipment", "addPCB",
-                             "appendBom", "", "allQuantities", "allDates", "allDescriptions",
-                             "allRoHS", "allUnits", "allTargets", "", "deleteLines"})
+    for (const char *name :
+         {"copyCells", "pasteCells", "", "addMaterial", "addShipment", "addPCB", "appendBom", "",
+          "allQuantities", "allDates", "allDescriptions", "allRoHS", "allUnits", "allTargets", "",
+          "moveUp", "moveDown", "deleteLines"})
         if (*name)
             menu.addAction(action(name));
         else
@@ -556,8 +569,11 @@ void MainWindow::checkUpdate()
 
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() != Qt::Key_Delete || !m_order->linesView()->hasFocus()) {
+        editWindow::keyPressEvent(event);
+        return;
+    }
     baseWindow::keyPressEvent(event);
-    if (event->key() == Qt::Key_Delete && m_order->linesView()->hasFocus()
-        && action("deleteLines")->isEnabled())
+    if (action("deleteLines")->isEnabled())
         commandDeleteLines(false);
 }

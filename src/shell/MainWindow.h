@@ -81,6 +81,8 @@ public slots:
     void commandZpRefreshPrices(bool);
     void commandZpDeleteAll(bool);
     void commandDeleteLines(bool);
+    void commandMoveUp(bool);
+    void commandMoveDown(bool);
     void commandEditAttentions(bool);
     void commandAddMaterial(bool);
     void commandAddShipment(bool);
@@ -170,6 +172,7 @@ private:
     std::optional<std::vector<int>> wantedRows();
     void appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines, const QString &what);
     void addSpecialLine(const QString &ktm, const QString &description);
+    void fillSelected();
     void deleteRows(const std::vector<int> &rows, const QString &what);
 
     // --- MainWindowBom.cpp ---

@@ -29,7 +29,7 @@ void MainWindow::commandZpConfig(bool)
     m_tabs->setCurrentIndex(0);
     myTreeView *options = m_order->optionsView();
     options->setFocus();
-    options->setCurrentIndex(m_order->options()->index(0, 1));
+    options->goTo(m_order->options()->index(0, 1));
 }
 
 // All lines, or the selected ones when several are and the user says so.
@@ -258,10 +258,49 @@ void MainWindow::deleteRows(const std::vector<int> &rows, const QString &what)
 
 void MainWindow::commandDeleteLines(bool)
 {
-    std::vector<int> rows = m_order->selectedRows();
-    if (rows.empty() && m_order->linesView()->currentIndex().isValid())
-        rows.push_back(m_order->linesView()->currentIndex().row());
+    const std::vector<int> rows = m_order->linesView()->markedRows();
+    if (rows.empty())
+        tell(tr("No line is selected"));
     deleteRows(rows, tr("%n line(s) deleted", nullptr, int(rows.size())));
+}
+
+void MainWindow::commandMoveUp(bool) { moveMarkedRows(m_order->linesView(), true); }
+
+void MainWindow::commandMoveDown(bool) { moveMarkedRows(m_order->linesView(), false); }
+
+// What is typed goes into all selected cells of its column, as one step.
+void MainWindow::fillSelected()
+{
+    const myTreeView *view = m_order->linesView();
+    const myItemStandard *typed = m_order->lines()->cell(view->currentIndex());
+    QList<myItemStandard *> others;
+    if (typed)
+        others = cellsLike(typed, view->selectedCells());
+    QString fault;
+    const auto fillOthers = [&]() -> std::unique_ptr<command> {
+        const auto cells = std::exchange(others, {});
+        for (const myItemStandard *cell : cells)
+            if (fault = cellBlock::like(*typed, *cell).fault; !fault.isEmpty())
+                return nullptr;
+        return cellBlock::set(
+            m_order->lines(), cells,
+            [typed](const myItemStandard &cell) { return cellBlock::like(*typed, cell).value; },
+            this);
+    };
+    stack().completed = [&](std::unique_ptr<command> change) -> std::unique_ptr<command> {
+        std::vector<std::unique_ptr<command>> members;
+        members.push_back(std::move(change));
+        members.push_back(fillOthers());
+        return std::make_unique<appendCommands>(std::move(members), m_order->lines());
+    };
+    const bool taken = finishEditing();
+    stack().completed = nullptr;
+    // A value that was there before makes no step of its own.
+    if (taken && !others.isEmpty())
+        push(fillOthers(), tr("Fill"));
+    // One cell that cannot take it leaves all others as they are.
+    if (!fault.isEmpty())
+        userPrompts().showError(fault.toHtmlEscaped());
 }
 
 void MainWindow::commandZpDeleteAll(bool)
@@ -289,8 +328,7 @@ void MainWindow::appendLines(std::vector<std::unique_ptr<orderItemStruct>> lines
     myTreeView *view = m_order->linesView();
     const QModelIndex last =
         m_order->lines()->index(m_order->lines()->rowCount() - 1, orderTree::quantityColumn);
-    view->setCurrentIndex(last);
-    view->scrollTo(last);
+    view->goTo(last);
 }
 
 void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)

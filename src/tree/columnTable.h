@@ -145,6 +145,24 @@ public:
     }
     // Makes the record of a new row, where pasted lines may become rows.
     std::function<std::unique_ptr<Record>()> makeRecord;
+    std::vector<const xmlData *> recordsNotAsShown(const myModel *model) const override
+    {
+        std::vector<const xmlData *> records;
+        bool asShown = true;
+        for (const auto &record : *m_list) {
+            asShown =
+                asShown
+                && static_cast<myItem::myItemStandard *>(model->item(int(records.size())))->record
+                       == record.get();
+            records.push_back(record.get());
+        }
+        return asShown ? std::vector<const xmlData *>() : records;
+    }
+
+    void arrange(const std::vector<const xmlData *> &records) override
+    {
+        recordPlaces::arrange(*m_list, records);
+    }
 
     // Called after a cell's text went to its record.
     std::function<void(myItem::myItemStandard *item, myItem::myItemStandard *first)> onChange;

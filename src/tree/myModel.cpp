@@ -84,7 +84,7 @@ QString myModel::setValue(myItemStandard *item, const QVariant &value)
     }
     if (!myItem::differs(*item, value))
         return {};
-    const QString fault = m_check ? m_check(*item, value) : QString();
+    const QString fault = faultOf(*item, value);
     if (fault.isEmpty())
         m_editHook(item, value);
     return fault;
@@ -92,6 +92,9 @@ QString myModel::setValue(myItemStandard *item, const QVariant &value)
 
 myItem::reading myModel::read(const myItemStandard &item, const QString &text) const
 {
+    // What was read once is not judged anew.
+    if (text == item.text())
+        return {};
     const QModelIndex index = item.index();
     const myItemStandard *first = cell(index.sibling(index.row(), 0));
     myItem::reading reading = myItem::read(

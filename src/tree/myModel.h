@@ -9,6 +9,8 @@
 #include <functional>
 #include <vector>
 
+class myModel;
+
 // What a window's model shows: the records behind its rows. The model calls it, so that whatever
 // moves or changes in the tree, by a command or its undo, does the same in the records.
 class modelRecords
@@ -34,6 +36,10 @@ public:
     virtual myItem::row newRow() { return {}; }
     // The rows below a cell whose childrenPending is set.
     virtual std::vector<myItem::row> childRows(myItem::myItemStandard *) { return {}; }
+    // The records behind the top-level rows as their file has them, when the tree shows them in
+    // another order, else nothing; and the records put into such an order again.
+    virtual std::vector<const xmlData *> recordsNotAsShown(const myModel *) const { return {}; }
+    virtual void arrange(const std::vector<const xmlData *> &) {}
 };
 
 class myModel : public QStandardItemModel
@@ -65,6 +71,12 @@ public:
     // What is asked before an edit: the fault of a value for a cell, empty when there is none.
     using check = std::function<QString(const myItem::myItemStandard &item, const QVariant &value)>;
     void setCheck(check newCheck) { m_check = std::move(newCheck); }
+
+    // What the check says of a value.
+    QString faultOf(const myItem::myItemStandard &item, const QVariant &value) const
+    {
+        return m_check ? m_check(item, value) : QString();
+    }
 
     // Sets a cell's value (its type as in myItem::valueOf) through the edit hook. Nothing happens
     // when the cell holds that value already, unless its text is another one than the value gives,

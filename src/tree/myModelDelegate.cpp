@@ -137,6 +137,43 @@ myModelDelegate::myModelDelegate(QObject *parent)
 // --- Painting
 // -------------------------------------------------------------------------------------
 
+// The mark of the current row or of the cell, the selection, and the frame of the cell that keys go
+// to; a selected cell has a frame, too, so that it is not told by colour alone. Returns what is
+// behind the text now.
+QColor myModelDelegate::paintBackground(QPainter *painter, QStyleOptionViewItem *option,
+                                        const QModelIndex &index, const myItemStandard &item) const
+{
+    QColor behind = option->palette.color(option->features & QStyleOptionViewItem::Alternate
+                                              ? QPalette::AlternateBase
+                                              : QPalette::Base);
+    const bool selected = option->state & QStyle::State_Selected;
+    const bool marked = item.highlighted || item.colourOn;
+    if (item.highlighted)
+        behind = highlightColour;
+    else if (item.colourOn)
+        behind = item.colour;
+    constexpr int darker = 165; // percent
+    if (selected)
+        behind = marked ? behind.darker(darker) : option->palette.color(QPalette::Highlight);
+    if (selected || marked) {
+        painter->fillRect(option->rect, behind);
+        option->backgroundBrush = Qt::NoBrush;
+    }
+    const auto *view = qobject_cast<const QAbstractItemView *>(option->widget);
+    const bool isCursor = view && view->currentIndex() == index;
+    const bool hasKeys = isCursor && view->hasFocus();
+    if (isCursor || selected) {
+        painter->save();
+        painter->setPen(readable(option->palette.color(QPalette::Text), behind));
+        const int lines = hasKeys ? 2 : 1;
+        for (int inset = 0; inset < lines; ++inset)
+            painter->drawRect(option->rect.adjusted(inset, inset, -inset - 1, -inset - 1));
+        painter->restore();
+    }
+    option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+    return behind;
+}
+
 void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given,
                             const QModelIndex &index) const
 {
@@ -153,22 +190,12 @@ void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
     option.features |= QStyleOptionViewItem::HasDisplay;
     option.decorationSize = QSize(option.rect.height() - 2, option.rect.height() - 2);
 
-    QColor behind = given.palette.color(option.features & QStyleOptionViewItem::Alternate
-                                            ? QPalette::AlternateBase
-                                            : QPalette::Base);
-    if (item->highlighted)
-        behind = highlightColour;
-    else if (item->colourOn)
-        behind = item->colour;
-    if (item->highlighted || item->colourOn) {
-        painter->fillRect(option.rect, behind);
-        option.backgroundBrush = Qt::NoBrush;
-    }
-    if (item->highlighted)
-        option.state &= ~QStyle::State_Selected;
-    const QColor wanted = item->foreground().style() == Qt::NoBrush
-                              ? given.palette.color(QPalette::Text)
-                              : item->foreground().color();
+    const bool selected = option.state & QStyle::State_Selected;
+    const QColor behind = paintBackground(painter, &option, index, *item);
+    const QColor wanted = item->foreground().style() != Qt::NoBrush ? item->foreground().color()
+                          : selected && !item->highlighted && !item->colourOn
+                              ? given.palette.color(QPalette::HighlightedText)
+                              : given.palette.color(QPalette::Text);
     option.palette.setColor(QPalette::Text, readable(wanted, behind));
 
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();

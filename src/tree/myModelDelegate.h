@@ -57,6 +57,8 @@ private:
     static myItem::reading readEditor(QWidget *editor, const myModel &model,
                                       const myItem::myItemStandard &item);
     void closeWith(class QDialog *dialog) const;
+    QColor paintBackground(QPainter *painter, QStyleOptionViewItem *option,
+                           const QModelIndex &index, const myItem::myItemStandard &item) const;
     void paintBar(QPainter *painter, const QStyleOptionViewItem &option,
                   const myItem::myItemStandard &item) const;
 

@@ -3,12 +3,17 @@
 #include "tree/myHeaderView.h"
 #include "tree/myModel.h"
 #include "tree/myModelDelegate.h"
+#include "util/text.h"
 
 #include <QDialog>
+#include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
+#include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <set>
@@ -31,6 +36,7 @@ myTreeView::myTreeView(QWidget *parent)
     auto *delegate = new myModelDelegate(this);
     setItemDelegate(delegate);
     connect(delegate, &myModelDelegate::refused, this, &myTreeView::refused);
+    connect(this, &QTreeView::collapsed, this, &myTreeView::deselectHidden);
     // Escape in an editor ends there and never comes here as a key.
     connect(delegate, &QAbstractItemDelegate::closeEditor, this,
             [this](QWidget *, QAbstractItemDelegate::EndEditHint hint) {
@@ -108,9 +114,30 @@ void myTreeView::expandItem(QStandardItem *item)
 
 void myTreeView::collapseItem(QStandardItem *item) { collapse(item->index()); }
 
+void myTreeView::goTo(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    // QAbstractItemView::setCurrentIndex() would ask the keyboard what to select.
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    scrollTo(index);
+    m_unmarked = false;
+    moveHighlight();
+}
+
+bool myTreeView::isSeen(const QModelIndex &index) const
+{
+    if (isRowHidden(index.row(), index.parent()) || isColumnHidden(index.column()))
+        return false;
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent())
+        if (!isExpanded(above) || isRowHidden(above.row(), above.parent()))
+            return false;
+    return true;
+}
+
 QModelIndexList myTreeView::selectedCells() const
 {
-    QModelIndexList cells =
+    const QModelIndexList selected =
         selectionModel() ? selectionModel()->selectedIndexes() : QModelIndexList();
     // Rows from the root down, then columns as they stand on the screen.
     const auto placeOf = [this](const QModelIndex &index) {
@@ -120,25 +147,57 @@ QModelIndexList myTreeView::selectedCells() const
         return place;
     };
     std::vector<std::pair<std::vector<int>, QModelIndex>> placed;
-    placed.reserve(size_t(cells.size()));
-    for (const QModelIndex &cell : qAsConst(cells))
-        placed.emplace_back(placeOf(cell), cell);
+    placed.reserve(size_t(selected.size()));
+    for (const QModelIndex &cell : selected)
+        if (isSeen(cell))
+            placed.emplace_back(placeOf(cell), cell);
     std::sort(placed.begin(), placed.end(),
               [](const auto &a, const auto &b) { return a.first < b.first; });
-    cells.clear();
+    QModelIndexList cells;
     for (const auto &[place, cell] : placed)
         cells.append(cell);
     return cells;
 }
 
-std::vector<int> myTreeView::selectedRows() const
+QModelIndex myTreeView::markedCell() const
+{
+    const QModelIndex current = currentIndex();
+    return m_highlighted.isValid() && isSeen(current) ? current : QModelIndex();
+}
+
+QModelIndexList myTreeView::markedCells() const
+{
+    QModelIndexList cells = selectedCells();
+    if (cells.isEmpty() && markedCell().isValid())
+        cells.append(markedCell());
+    return cells;
+}
+
+std::vector<int> myTreeView::markedRows() const
 {
     std::set<int> rows;
-    if (selectionModel())
-        for (const QModelIndex &cell : selectionModel()->selectedIndexes())
-            if (!cell.parent().isValid())
-                rows.insert(cell.row());
+    for (const QModelIndex &cell : markedCells())
+        if (!cell.parent().isValid())
+            rows.insert(cell.row());
     return {rows.begin(), rows.end()};
+}
+
+void myTreeView::deselectHidden()
+{
+    if (!selectionModel())
+        return;
+    QItemSelection hidden;
+    for (const QModelIndex &cell : selectionModel()->selectedIndexes())
+        if (!isSeen(cell))
+            hidden.select(cell, cell);
+    if (!hidden.isEmpty())
+        selectionModel()->select(hidden, QItemSelectionModel::Deselect);
+    QModelIndex current = currentIndex();
+    if (!current.isValid() || isColumnHidden(current.column()) || isSeen(current))
+        return;
+    while (current.isValid() && !isSeen(current))
+        current = current.parent();
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
 }
 
 bool myTreeView::findNext(const QString &text)
@@ -157,10 +216,8 @@ bool myTreeView::findNext(const QString &text)
         if (!item || isColumnHidden(index.column())
             || !myItem::displayText(*item).contains(text, Qt::CaseInsensitive))
             continue;
-        setCurrentIndex(index);
-        scrollTo(index);
+        goTo(index);
         setFocus();
-        moveHighlight();
         return true;
     }
     return false;
@@ -173,19 +230,135 @@ QModelIndex myTreeView::hitItem(const QMouseEvent *event) const
     return own && index.isValid() && own->itemFromIndex(index) ? index : QModelIndex();
 }
 
+void myTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTreeView::currentChanged(current, previous);
+    m_unmarked = false;
+    moveHighlight();
+    emit markChanged();
+}
+
+void myTreeView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    emit markChanged();
+}
+
+// --- Tool tips
+// ------------------------------------------------------------------------------------
+
+QString myTreeView::toolTipOf(const QModelIndex &index) const
+{
+    const QString own = index.data(Qt::ToolTipRole).toString();
+    const auto *model = qobject_cast<const myModel *>(this->model());
+    const myItem::myItemStandard *item = model ? model->cell(index) : nullptr;
+    if (!item)
+        return own;
+    const QString whole = myItem::displayText(*item);
+    const QRect place = visualRect(index);
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    const QFont font = item->data(Qt::FontRole).isValid() ? item->font() : this->font();
+    int needed = QFontMetrics(font).horizontalAdvance(whole) + margin;
+    if (!item->icon().isNull() || item->type() == myItem::comboBoxKind)
+        needed += place.height() + margin;
+    if ((needed <= place.width() && !whole.contains(QLatin1Char('\n'))) || own.contains(whole))
+        return own;
+    return own.isEmpty() ? whole : whole + QLatin1Char('\n') + own;
+}
+
+bool myTreeView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString told = index.isValid() ? toolTipOf(index) : QString();
+    QToolTip::showText(help->globalPos(), told.isEmpty() ? told : text::toolTip(told), viewport(),
+                       visualRect(index));
+    return true;
+}
+
+// --- Dragging rows
+// --------------------------------------------------------------------------------
+
+void myTreeView::dragTo(const QPoint &position)
+{
+    const int last = model()->rowCount() - 1;
+    const QModelIndex over = indexAt({0, position.y()});
+    if (over.isValid()) {
+        const QRect row = visualRect(over);
+        m_dropBefore = over.row() + (position.y() > row.center().y() ? 1 : 0);
+        scrollTo(over);
+    } else {
+        m_dropBefore = position.y() < 0 ? 0 : last + 1;
+        // Rows beyond the edge come in one by one.
+        const QModelIndex edge = indexAt({0, position.y() < 0 ? 0 : viewport()->height() - 1});
+        if (edge.isValid())
+            scrollTo(model()->index(qBound(0, edge.row() + (position.y() < 0 ? -1 : 1), last), 0));
+    }
+    viewport()->setCursor(Qt::ClosedHandCursor);
+    viewport()->update();
+}
+
+void myTreeView::endDrag(bool dropped)
+{
+    const std::vector<int> rows = std::exchange(m_draggable, {});
+    const int before = std::exchange(m_dropBefore, -1);
+    if (before < 0)
+        return;
+    viewport()->unsetCursor();
+    viewport()->update();
+    if (dropped)
+        emit rowsDragged(rows, before);
+}
+
+void myTreeView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (m_dropBefore < 0)
+        return;
+    const int rows = model()->rowCount();
+    const QRect row = visualRect(model()->index(qMin(m_dropBefore, rows - 1), 0));
+    const int y = m_dropBefore < rows ? row.top() : row.bottom();
+    constexpr int thickness = 3;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Text), thickness));
+    painter.drawLine(0, y, viewport()->width(), y);
+}
+
+// --- Mouse
+// ----------------------------------------------------------------------------------------
+
 void myTreeView::mouseMoveEvent(QMouseEvent *event)
 {
+    if (!m_draggable.empty() && (event->buttons() & Qt::LeftButton)
+        && (m_dropBefore >= 0
+            || (event->pos() - m_pressed).manhattanLength() >= QApplication::startDragDistance())) {
+        dragTo(event->pos());
+        return;
+    }
     QTreeView::mouseMoveEvent(event);
-    moveHighlight();
+    if (!m_unmarked)
+        moveHighlight();
 }
 
 void myTreeView::mousePressEvent(QMouseEvent *event)
 {
+    const std::vector<int> selected = m_rowsDragged ? markedRows() : std::vector<int>();
     QTreeView::mousePressEvent(event);
     if (const QModelIndex index = hitItem(event); index.isValid()) {
+        m_draggable.clear();
+        if (m_rowsDragged && event->buttons() == Qt::LeftButton && !isEditingLocked()
+            && event->modifiers() == Qt::NoModifier && header()->visualIndex(index.column()) == 0) {
+            m_pressed = event->pos();
+            m_draggable = std::binary_search(selected.begin(), selected.end(), index.row())
+                              ? selected
+                              : std::vector<int>{index.row()};
+        }
         emit clicked(event->pos(), uint(event->buttons()), index);
         emit clicked(event->pos(), uint(event->buttons()));
     }
+    m_unmarked = false;
     moveHighlight();
 }
 
@@ -196,12 +369,14 @@ void myTreeView::mouseDoubleClickEvent(QMouseEvent *event)
         emit doubleClicked(event->pos(), uint(event->buttons()), index);
         emit doubleClicked(event->pos(), uint(event->buttons()));
     }
+    m_unmarked = false;
     moveHighlight();
 }
 
 void myTreeView::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeView::mouseReleaseEvent(event);
+    endDrag(true);
     if (const QModelIndex index = hitItem(event); index.isValid()) {
         emit release(event->pos(), uint(event->buttons()), index);
         emit release(index);
@@ -221,12 +396,15 @@ void myTreeView::keyPressEvent(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Escape:
         event->accept();
+        endDrag(false);
         escape();
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
         event->accept();
-        if (editing) {
+        if (editing && (event->modifiers() & Qt::ControlModifier)) {
+            emit keyFill();
+        } else if (editing) {
             // The delegate writes the value once the events before are done.
             QMetaObject::invokeMethod(this, &myTreeView::keyEnter, Qt::QueuedConnection);
         } else {
@@ -239,11 +417,13 @@ void myTreeView::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Right:
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
+        m_unmarked = false;
         moveHighlight();
         break;
     case Qt::Key_Up:
     case Qt::Key_Down:
         event->accept();
+        m_unmarked = false;
         moveHighlight();
         emit keyUpDown();
         break;
@@ -254,9 +434,11 @@ void myTreeView::keyPressEvent(QKeyEvent *event)
 
 void myTreeView::escape()
 {
+    m_unmarked = true;
     clearHighlight();
     clearSelection();
     emit keyEscape();
+    emit markChanged();
 }
 
 void myTreeView::moveHighlight()
@@ -289,8 +471,18 @@ QModelIndex myTreeView::nextEditable(bool forward) const
     const auto *own = qobject_cast<const myModel *>(model());
     if (!own || !currentIndex().isValid())
         return {};
+    const auto isEditable = [own](const QModelIndex &index) {
+        const myItem::myItemStandard *item = own->cell(index);
+        return item && !item->readOnly && item->type() != myItem::standardKind;
+    };
     const int step = forward ? 1 : -1;
     QModelIndex row = currentIndex();
+    if (m_tabGoesDown) {
+        do
+            row = forward ? indexBelow(row) : indexAbove(row);
+        while (row.isValid() && !isEditable(row.siblingAtColumn(currentIndex().column())));
+        return row.isValid() ? row.siblingAtColumn(currentIndex().column()) : QModelIndex();
+    }
     int visual = header()->visualIndex(row.column()) + step;
     while (row.isValid()) {
         for (; visual >= 0 && visual < header()->count(); visual += step) {
@@ -298,14 +490,27 @@ QModelIndex myTreeView::nextEditable(bool forward) const
             if (header()->isSectionHidden(column))
                 continue;
             const QModelIndex index = row.sibling(row.row(), column);
-            const myItem::myItemStandard *item = own->cell(index);
-            if (item && !item->readOnly && item->type() != myItem::standardKind)
+            if (isEditable(index))
                 return index;
         }
         row = forward ? indexBelow(row) : indexAbove(row);
         visual = forward ? 0 : header()->count() - 1;
     }
     return {};
+}
+
+// To the same column of the next row, where what was typed was taken and there is one in the same
+// place of the tree.
+void myTreeView::goDown()
+{
+    if (state() == EditingState)
+        return;
+    const QModelIndex current = currentIndex();
+    QModelIndex below = m_tabGoesDown ? nextEditable(true) : indexBelow(current);
+    if (below.isValid() && below.parent() == current.parent())
+        goTo(below.siblingAtColumn(current.column()));
+    else if (m_tabGoesDown)
+        goTo(below);
 }
 
 void myTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -317,10 +522,14 @@ void myTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint
         return;
     }
     const QWidget *focused = window()->focusWidget();
+    const bool wasOpen = state() == EditingState;
     const bool isMine = editor && focused && (editor == focused || editor->isAncestorOf(focused));
     QTreeView::closeEditor(editor, hint);
     if (isMine && state() != EditingState)
         setFocus();
+    // By Return, and the value is taken.
+    if (hint == QAbstractItemDelegate::SubmitModelCache && wasOpen)
+        goDown();
 }
 
 QModelIndex myTreeView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)

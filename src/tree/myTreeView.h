@@ -32,10 +32,26 @@ public:
     void setEditingLocked(bool locked);
     bool isEditingLocked() const { return editTriggers() == NoEditTriggers; }
 
-    // The cells selected, in the order in which they are seen.
+    // Goes to a cell, which is the only one selected then, whatever keys are held meanwhile.
+    void goTo(const QModelIndex &index);
+
+    // The cells selected, in the order in which they are seen; what is not seen is not among them.
     QModelIndexList selectedCells() const;
-    // The top-level rows that have a selected cell, from the top down.
-    std::vector<int> selectedRows() const;
+    // The current cell while its row is marked, which it is not after Escape.
+    QModelIndex markedCell() const;
+    // What an action on rows acts on: the selected cells, else the marked one.
+    QModelIndexList markedCells() const;
+    // The top-level rows of these, from the top down.
+    std::vector<int> markedRows() const;
+    // Has nothing selected that is hidden or in a closed row; the current cell goes to the row that
+    // was closed.
+    void deselectHidden();
+
+    // Tab goes down the column instead of along the row.
+    void setTabGoesDown(bool down) { m_tabGoesDown = down; }
+
+    // Rows can be dragged by their first cell; rowsDragged() says where to.
+    void setRowsDragged(bool dragged) { m_rowsDragged = dragged; }
 
     // Goes to the next top-level cell, after the current one and around, whose shown text holds the
     // text in any case. False when there is none.
@@ -54,8 +70,20 @@ signals:
     void keyEnter();
     // A typed text was refused; its editor stays open.
     void refused(const QString &fault);
+    // On Return with Ctrl in an editor, before its value is taken.
+    void keyFill();
+    // Another cell is current, or others are selected or marked.
+    void markChanged();
+    // Top-level rows, from the top down, were dropped before another one.
+    void rowsDragged(const std::vector<int> &rows, int before);
 
 protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+    // A text that does not fit its cell is told whole, always as plain text.
+    bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -79,6 +107,18 @@ private:
     QModelIndex hitItem(const QMouseEvent *event) const;
     QModelIndex nextEditable(bool forward) const;
 
+    bool isSeen(const QModelIndex &index) const;
+    QString toolTipOf(const QModelIndex &index) const;
+    void goDown();
+    void dragTo(const QPoint &position);
+    void endDrag(bool dropped);
+
     QPersistentModelIndex m_highlighted;
     QPersistentModelIndex m_edited; // the cell that an editor was opened on last
+    bool m_unmarked = false; // since Escape, until the user goes on
+    bool m_tabGoesDown = false;
+    bool m_rowsDragged = false;
+    QPoint m_pressed;
+    std::vector<int> m_draggable; // the rows that the press was on
+    int m_dropBefore = -1;        // while they are dragged
 };

@@ -3,6 +3,8 @@
 
 #include "tree/myItem.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -44,6 +46,18 @@ void takeFrom(std::vector<std::unique_ptr<Record>> &list, int row, myItem::myIte
     first->owned->row = row;
     first->owned->place = int(place - list.begin());
     list.erase(place);
+}
+
+// Puts the records of a list into an order that names each of them.
+template <class Record>
+void arrange(std::vector<std::unique_ptr<Record>> &list, const std::vector<const xmlData *> &order)
+{
+    QHash<const xmlData *, int> places;
+    for (const xmlData *record : order)
+        places.insert(record, places.size());
+    std::sort(list.begin(), list.end(), [&places](const auto &a, const auto &b) {
+        return places.value(a.get()) < places.value(b.get());
+    });
 }
 
 } // namespace recordPlaces

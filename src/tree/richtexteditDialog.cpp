@@ -6,7 +6,9 @@
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextFragment>
 #include <QTextList>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -41,7 +43,8 @@ richtexteditDialog::richtexteditDialog(QWidget *parent)
     auto *bar = new QToolBar(this);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    // Who presses the button means it.
+    connect(buttons, &QDialogButtonBox::rejected, this, [this] { done(Rejected); });
     m_edit->setObjectName(QStringLiteral("text"));
     m_edit->setAccessibleName(tr("Text"));
     m_edit->setTabChangesFocus(true);
@@ -113,19 +116,80 @@ void richtexteditDialog::chooseColour()
         m_edit->setTextColor(colour);
 }
 
-void richtexteditDialog::editLink()
+void richtexteditDialog::reject()
+{
+    if (!m_edit->document()->isModified()) {
+        QDialog::reject();
+        return;
+    }
+    switch (userPrompts().ask(tr("Keep the changes of the text?"), true)) {
+    case prompts::answer::yes:
+        accept();
+        break;
+    case prompts::answer::no:
+        QDialog::reject();
+        break;
+    default:
+        break;
+    }
+}
+
+// The whole link that the cursor is in or beside, else what is selected.
+QTextCursor richtexteditDialog::linkAtCursor() const
 {
     QTextCursor cursor = m_edit->textCursor();
-    const std::optional<QString> address =
-        userPrompts().inputText(tr("Link"), tr("Address"), cursor.charFormat().anchorHref());
-    if (!address)
+    if (cursor.hasSelection())
+        return cursor;
+    // Parts of it may be bold.
+    int from = -1;
+    int to = -1;
+    QString address;
+    const QTextBlock block = cursor.block();
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment part = it.fragment();
+        const QString itsAddress = part.charFormat().anchorHref();
+        if (itsAddress.isEmpty() || itsAddress != address) {
+            if (from >= 0 && to >= cursor.position())
+                break;
+            address = itsAddress;
+            from = address.isEmpty() ? -1 : part.position();
+        }
+        to = part.position() + part.length();
+        if (from > cursor.position())
+            return cursor;
+    }
+    if (from >= 0 && to >= cursor.position()) {
+        cursor.setPosition(from);
+        cursor.setPosition(to, QTextCursor::KeepAnchor);
+    }
+    return cursor;
+}
+
+void richtexteditDialog::editLink()
+{
+    QTextCursor cursor = linkAtCursor();
+    QTextCursor inside = cursor;
+    inside.setPosition(qMin(cursor.selectionStart() + 1, cursor.selectionEnd()));
+    const QString before = cursor.hasSelection() ? inside.charFormat().anchorHref() : QString();
+    std::optional<QString> typed = before;
+    QString address;
+    do {
+        typed = userPrompts().inputText(tr("Link"), tr("Address"), *typed);
+        if (!typed)
+            return;
+        address = linkAddress(*typed);
+        if (address.isEmpty() && !typed->trimmed().isEmpty())
+            userPrompts().showError(tr("%1 is no address of a page, of mail or of a file server")
+                                        .arg(typed->toHtmlEscaped()));
+    } while (address.isEmpty() && !typed->trimmed().isEmpty());
+    if (address.isEmpty() && before.isEmpty())
         return;
     QTextCharFormat format;
-    format.setAnchor(!address->isEmpty());
-    format.setAnchorHref(*address);
-    format.setFontUnderline(!address->isEmpty());
+    format.setAnchor(!address.isEmpty());
+    format.setAnchorHref(address);
+    format.setFontUnderline(!address.isEmpty());
     if (!cursor.hasSelection())
-        cursor.insertText(*address, format);
+        cursor.insertText(*typed, format);
     else
         cursor.mergeCharFormat(format);
 }

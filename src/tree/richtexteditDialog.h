@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTextCursor>
 
 class QAction;
 class QTextEdit;
@@ -18,10 +19,14 @@ public:
     void setHtml(const QString &html);
     QString html() const;
 
+    // Asks about changes, which Escape must not lose.
+    void reject() override;
+
 private:
     void buildToolBar(QToolBar *bar);
     void chooseColour();
     void editLink();
+    QTextCursor linkAtCursor() const;
     void makeList(int style);
     void showFormat();
 

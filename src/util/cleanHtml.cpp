@@ -236,3 +236,16 @@ QString cleanHtml(const QString &html)
     writer.writeFrame(document.rootFrame());
     return writer.markup;
 }
+
+QString linkAddress(const QString &typed)
+{
+    const QString address = typed.trimmed();
+    static const QRegularExpression mail(QStringLiteral("^[^\\s/:@]+@[^\\s/:@]+\\.[^\\s/:@]+$"));
+    static const QRegularExpression host(
+        QStringLiteral("^[^\\s/:@.]+(\\.[^\\s/:@.]+)+(:\\d+)?([/?#].*)?$"));
+    if (mail.match(address).hasMatch())
+        return QLatin1String("mailto:") + address;
+    if (host.match(address).hasMatch())
+        return QLatin1String("https://") + address;
+    return linkAllowed(address) && QUrl(address).isValid() ? address : QString();
+}

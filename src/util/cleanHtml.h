@@ -9,3 +9,7 @@
 // to http, https, mailto and ftp addresses. Scripts, styles, images and everything else are left
 // out. A text without tags counts as plain text. Empty when there is no content.
 QString cleanHtml(const QString &html);
+
+// An address as a link that cleanHtml() keeps: one without a scheme becomes a web or mail address.
+// Empty when it is none.
+QString linkAddress(const QString &typed);

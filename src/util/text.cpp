@@ -94,4 +94,10 @@ QString toHtml(const QString &text)
     return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
 }
 
+QString toolTip(const QString &text)
+{
+    return text.isEmpty() ? QString()
+                          : QLatin1String("<qt>") + toHtml(text) + QLatin1String("</qt>");
+}
+
 } // namespace text

@@ -35,4 +35,8 @@ QString firstUnits(const QString &text, int units);
 // HTML-escaped text with its line ends as "<br>".
 QString toHtml(const QString &text);
 
+// A text for a tool tip, which shows it as it is: left alone, one that looks like HTML would be
+// shown as such, with pictures and all.
+QString toolTip(const QString &text);
+
 } // namespace text

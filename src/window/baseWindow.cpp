@@ -17,7 +17,10 @@
 
 namespace {
 
-QString translated(const char *text) { return QCoreApplication::translate("actions", text); }
+QString translated(const char *text, const char *meaning = nullptr)
+{
+    return QCoreApplication::translate("actions", text, meaning);
+}
 
 constexpr const char *usualToolTip = "usualToolTip";
 
@@ -86,12 +89,12 @@ QAction *baseWindow::addAction(const actionRow &row)
             m_toolBar->addSeparator();
         return nullptr;
     }
-    auto *made = new QAction(translated(row.text), this);
+    auto *made = new QAction(translated(row.text, row.meaning), this);
     made->setObjectName(QLatin1String(row.name));
     made->setCheckable(row.checkable);
     if (row.icon)
         made->setIcon(QIcon(QStringLiteral(":/icons/icons/%1.png").arg(QLatin1String(row.icon))));
-    QString toolTip = translated(row.toolTip ? row.toolTip : row.text);
+    QString toolTip = row.toolTip ? translated(row.toolTip) : translated(row.text, row.meaning);
     if (row.shortcut) {
         made->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
         toolTip += QStringLiteral(" (%1)").arg(made->shortcut().toString(QKeySequence::NativeText));

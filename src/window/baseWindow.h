@@ -19,6 +19,7 @@ struct actionRow
     const char *toolTip;  // where it says more than the text
     bool onToolBar = false;
     bool checkable = false;
+    const char *meaning = nullptr; // where a text is translated in more than one way
 };
 
 // A row of a window's table: the action and the slot that takes its state.

@@ -8,8 +8,13 @@
 #include "util/fileLock.h"
 #include "window/baseWindow.h"
 
+#include <QModelIndexList>
+
 #include <optional>
 
+namespace myItem {
+class myItemStandard;
+}
 class QLabel;
 class QTimer;
 class htmlView;
@@ -47,6 +52,28 @@ inline constexpr actionRow pasteCells{
     "action_paste",
     "Ctrl+V",
     QT_TRANSLATE_NOOP("actions", "Paste text into the cells from the current one on")};
+inline constexpr actionRow fillDown{
+    "fillDown",
+    "Edit",
+    QT_TRANSLATE_NOOP("actions", "Fill down"),
+    "action_fill_down",
+    "Ctrl+Shift+D",
+    QT_TRANSLATE_NOOP("actions",
+                      "Put the topmost selected cell of each column into those below it")};
+constexpr actionRow moveUp(const char *menu)
+{
+    return {"moveUp",         menu,     QT_TRANSLATE_NOOP("actions", "Move up"),
+            "action_move_up", "Alt+Up", QT_TRANSLATE_NOOP("actions", "Move the selected lines up")};
+}
+constexpr actionRow moveDown(const char *menu)
+{
+    return {"moveDown",
+            menu,
+            QT_TRANSLATE_NOOP("actions", "Move down"),
+            "action_move_down",
+            "Alt+Down",
+            QT_TRANSLATE_NOOP("actions", "Move the selected lines down")};
+}
 inline constexpr actionRow findNext{
     "findNext",         "Edit", QT_TRANSLATE_NOOP("actions", "Find next"),
     "action_find_next", "F3",   nullptr};
@@ -101,6 +128,7 @@ public slots:
     void commandPasteCells(bool);
     void commandFind(bool);
     void commandFindNext(bool);
+    void commandFillDown(bool);
     // Forgets the history, because rows moved that it knows by number; changes stay changes.
     void clearCommands();
     // Tells something in the status bar.
@@ -202,9 +230,23 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     bool beforeAction() override { return finishEditing(); }
 
+    // The selected cells of a column that take what another one has, without that one.
+    QList<myItem::myItemStandard *> cellsLike(const myItem::myItemStandard *source,
+                                              const QModelIndexList &cells) const;
+    // A step that moves the marked rows of a tree past the next one, or some before another row.
+    void moveMarkedRows(myTreeView *view, bool up);
+    void moveRowsBefore(myTreeView *view, const std::vector<int> &rows, int before);
+
 private:
+    void followFocus(QWidget *, QWidget *now);
+    bool isOwnKey(QWidget *field, const class QKeyEvent *event) const;
+    bool takesShortcut(const class QKeyEvent *event) const;
+    void clearCells(const myTreeView *view);
+    void pushMove(myTreeView *view, std::vector<std::unique_ptr<command>> moves, int rows);
     void followHistory();
     void tellHistory(const QString &form, const QString &what);
     void showMoved();

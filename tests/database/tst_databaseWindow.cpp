@@ -5,7 +5,7 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
 #define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0 "
-#define REFUSED "Return ~100 Escape"
+#define REFUSED "Return ~100"
 #define NAME "F2 Ctrl+A 'Nowy' Return"
 
 using enum lockRule;
@@ -22,6 +22,8 @@ const scenario databaseActions[] = {
     {"", "#fullReport !Yes", "boxes ~ Do you want create ?; file _files/db_warehouse_full.html ~ M3", reads},
     {"", "#shortReport !Yes", "status ~ 4 materials written; file _files/db_warehouse_short.html ~ M3", reads},
     {"", "#edit", "status = Editing is locked"},
+    {"materials@0/0,0 Shift+Down", "#fillDown", "status = Fill down; materials@0/1,0 = M0; saved !~ M1", edits},
+    {"materials@0/0,1 Shift+Down", "#fillDown Escape", "boxes ~ Another material has this KTM"},
     {NAME, "#undo", "status ~ Undone: ; at = M0", guards},
     {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <d_name>Nowy", guards},
     {"", "#copyText", "status = 1 cell copied; clipboard = M0", reads},
@@ -90,11 +92,11 @@ const scenario mergeActions[] = {
 
 // What must not be stored is refused in the cell, too.
 const scenario refused[] = {
-    {"syntax", OPEN "materials@0/0,1 F2 Ctrl+A 'wrong' " REFUSED, "boxes = Error: Ktm syntax error; title !~ *"},
+    {"syntax", OPEN "materials@0/0,1 F2 Ctrl+A 'wrong' " REFUSED, "status = Ktm syntax error; title !~ *"},
     {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
-     "boxes ~ Another material has; title !~ *"},
-    {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "boxes = Error: CPV syntax error; title !~ *"},
-    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "boxes ~ Group already exists; title !~ *"},
+     "status ~ Another material has; title !~ *"},
+    {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "status = CPV syntax error; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "status = Group already exists; title !~ *"},
 };
 
 class tst_databaseWindow : public scenarioFixture

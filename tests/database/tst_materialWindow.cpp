@@ -17,6 +17,9 @@ using enum lockRule;
 const scenario actions[] = {
     {NAME, "#set", "title = closed; saved ~ <d_name>Nowy"},
     {"", "#close", "title = closed; boxes ="},
+    {"material@0/2,1 Shift+Down", "#fillDown", "status = Fill down"},
+    {"material@0/2,1", "#copyCells", "status = 1 cell copied"},
+    {"material@0/2,1 Ctrl+C material@0/3,1", "#pasteCells", "status ~ 1 cell pasted"},
     {NAME, "#undo", "status ~ Undone: ; title !~ *"},
     {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <d_name>Nowy"},
     {"", "#addManufacturer 'Vishay' Return", "saved ~ <name>Vishay</name>"},
@@ -56,7 +59,7 @@ const scenario scenarios[] = {
     {"yes, refused", TYPED "Del Return Ctrl+W !Yes Escape Ctrl+W !No",
      "boxes = " ASKING " | Error: Name empty | " ASKING "; title = closed; saved !~ <d_name></"},
     {"no", TYPED "'Nowy' Return Ctrl+W !No", "boxes = " ASKING "; title = closed; saved !~ Nowy"},
-    {"cancel", TYPED "'Nowy' Return Ctrl+W Escape", "boxes = " ASKING "; title ~ *; material@0/2,1 = Nowy"},
+    {"cancel", TYPED "'Nowy' Return Up Ctrl+W Escape", "boxes = " ASKING "; title ~ *; material@0/2,1 = Nowy"},
     {"set in the editor", TYPED "'Nowy' Ctrl+S", "boxes =; title = closed; saved ~ <d_name>Nowy"},
     {"set, refused", TYPED "Del Return material@0/0,1 Ctrl+S Escape F2 'Nowy' Return Ctrl+S",
      "boxes = Error: Name empty; title = closed; saved ~ <d_name>Nowy"},

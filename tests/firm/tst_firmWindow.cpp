@@ -14,6 +14,7 @@ const scenario actions[] = {
     {NAME, "#save", "log ~ Save file <b>firms.xml</b> [; saved ~ <fullname>Nowa; saved !~ <fullname>Abracon LLC", same},
     {"", "#close", "title = closed; boxes ="},
     {"", "#edit", "status = Editing is locked"},
+    {"manufacturers@0,1 Shift+Down", "#fillDown", "manufacturers@1,1 = Abracon LLC", edits},
     {NAME, "#undo", "status ~ Undone: ; at = Abracon LLC", guards},
     {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ <fullname>Nowa", guards},
     {"", "#copyCells", "status = 1 cell copied; clipboard = Abracon LLC", reads},
@@ -45,7 +46,7 @@ const scenario scenarios[] = {
     {"a right one", "#firm|manufacturers@0,6 F2 '123-456-32-18' Return", "manufacturers@!0,6 ="},
     {"a click", "#firm|manufacturers@0,4", "desktop ="},
     {"a click with Ctrl", "#firm|manufacturers@0,4 +manufacturers@0,4", "desktop = https://abracon.com"},
-    {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///x' Return #-homePage", "boxes ~ no firm with a home"},
+    {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///x' Return Up #-homePage", "boxes ~ no firm with a home"},
 };
 
 class tst_firmWindow : public scenarioFixture
@@ -106,7 +107,7 @@ private slots:
         openWindow("#firm");
         work("manufacturers@0,0 F2 Ctrl+A 'Abracon Group' Return ~50 " + answer);
         QCOMPARE(boxes().size(), 1);
-        work("Ctrl+Z");
+        work("Ctrl+Z Up");
         QCOMPARE(current().data().toString(), QString("Abracon"));
         QVERIFY(!window().windowTitle().endsWith('*'));
         work("Ctrl+Y");

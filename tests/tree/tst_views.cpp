@@ -12,8 +12,11 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTextDocument>
+#include <QToolTip>
 
 using namespace testSupport;
 using namespace myItem;
@@ -197,6 +200,40 @@ private slots:
         QTest::mouseDClick(text.viewport(), Qt::LeftButton, {}, QPoint(3, 4));
         QCOMPARE(pressed.first().at(1).toUInt(), uint(Qt::RightButton));
         QCOMPARE(twice.count(), 1);
+    }
+
+    void rowsAreDraggedByTheirFirstCell()
+    {
+        m_view->setRowsDragged(true);
+        std::vector<int> rows;
+        int before = -1;
+        connect(m_view.get(), &myTreeView::rowsDragged, this, [&](const std::vector<int> &dragged, int to) {
+            rows = dragged;
+            before = to;
+        });
+        for (int column : {1, 0}) {
+            const auto place = [&](int row) { return m_view->visualRect(m_model->index(row, column)).center(); };
+            QTest::mousePress(m_view->viewport(), Qt::LeftButton, {}, place(0));
+            QMouseEvent move(QEvent::MouseMove, place(2) + QPoint(0, 4), Qt::NoButton, Qt::LeftButton, {});
+            QApplication::sendEvent(m_view->viewport(), &move);
+            QTest::mouseRelease(m_view->viewport(), Qt::LeftButton, {}, place(2) + QPoint(0, 4));
+            QCOMPARE(before, column == 0 ? 3 : -1);
+        }
+        // The others were selected by the first drag.
+        QCOMPARE(rows, (std::vector<int>{0, 1, 2}));
+    }
+
+    // A material's name is no HTML, whatever it looks like.
+    void toolTipsArePlain()
+    {
+        const QString name = "<img src=\"file:///etc/x.png\"> a name longer than the cell is wide in this tree here";
+        m_model->setItem(0, 1, new myItemLineEdit("k", name, true));
+        const QPoint place = m_view->visualRect(m_model->index(0, 1)).center();
+        QHelpEvent help(QEvent::ToolTip, place, m_view->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(m_view->viewport(), &help);
+        QTextDocument shown;
+        shown.setHtml(QToolTip::text());
+        QCOMPARE(shown.toPlainText(), name);
     }
 
     void highlightFollowsTheCurrentRow()

@@ -1,6 +1,6 @@
 // What all editing windows have in common, with hands: what is typed is what is saved, whatever key
 // leaves the editor; closing, locking, and files that another program changed.
-#include "editingFixture.h"
+#include "scenarioFixture.h"
 
 struct editedWindow
 {
@@ -23,10 +23,59 @@ const editedWindow windows[] = {
     {"BOM list", "Ctrl+B|boms@0/0/0,0 Return", "lines@0,2", "lines@1,2", "", "Ctrl+W", "Ctrl+E"},
 };
 
-class tst_editWindows : public editingFixture
+#define DATABASE "Ctrl+D Return|Ctrl+E materials@0,0 Right "
+
+const scenario keys[] = {
+    {"nothing is selected after Escape", "orderLines@3,1 Escape Del", "orderLines = 21; status = No line is selected"},
+    {"one is selected after Ctrl+S", DATABASE "materials@0/1,0 F4 !Yes Ctrl+S Del", "status = 1 material deleted"},
+    {"what is hidden stays", DATABASE "materials@0/1,0 Ctrl+F 'zzzz' ~100 Tab Del", "status = No material is selected"},
+    {"what is closed stays", DATABASE "materials@0/1,0 materials@1,0 +materials@0/1,0 materials@0,0 Left Del",
+     "status = Only empty groups are deleted"},
+    {"to the order", DATABASE "materials@0/1,0 Ctrl+F Ctrl+Return", "status = 1 line added"},
+    {"found and to the order", "Ctrl+D Return|'RC0603FR-0722RL' Return Ctrl+Return", "status = 1 line added"},
+    {"the lock from a field", DATABASE "Ctrl+F 'x' Ctrl+E", "title ~ locked"},
+    {"undo from a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F Ctrl+Z", "status ~ Undone: "},
+    {"undo of a field", DATABASE "materials@0,0 F2 Ctrl+A 'x' Return Ctrl+F 'y' ~100 Ctrl+Z ~100",
+     "title ~ *; materials@0,0 = x"},
+    {"redo of attentions", "!attentions 'Żuk' Ctrl+Z Ctrl+Y", "attentions ~ Żuk"},
+    {"redo of an editor", "orderLines@0,8 F2 'Żuk' Ctrl+Z Ctrl+Y Return", "orderLines@0,8 = Żuk"},
+    {"Return goes down", "orderLines@0,5 F2 Ctrl+A '7' Return F2 Ctrl+A '8' Return",
+     "orderLines@0,5 = 7; orderLines@1,5 = 8"},
+    {"Ctrl+Return fills", "orderLines@0,5 Shift+Down Shift+Down F2 Ctrl+A '25' Ctrl+Return",
+     "orderLines@0,5 = 25; orderLines@1,5 = 25; orderLines@2,5 = 25; orderLines@3,5 = 4000"},
+    {"filled in one step", "orderLines@0,8 Shift+Down Shift+Down F2 Ctrl+A 'x' Ctrl+Return Ctrl+Z",
+     "orderLines@0,8 ~ Mikro; orderLines@2,8 ~ Rezo; title = Order"},
+    {"a comma in a price", "orderLines@0,2 F2 '12,5' Return Ctrl+S", "disk ~ <price>12.50<"},
+    {"a fraction of what is measured", "orderLines@17,5 F2 '2,45 kg' Return Ctrl+S", "disk ~ <quantity>2.45<"},
+    {"a fraction of a piece", "orderLines@1,1 F2 'Żuk' Return orderLines@0,5 F2 '2,5' Ctrl+S Ctrl+Q",
+     "status ~ whole number; title = Order *; disk !~ Żuk"},
+    {"a negative number of sets", "Ctrl+B|boms@0/0/0,1 F2 '-3' Return ~100 Escape Escape #set", "status ~ all numbers"},
+    {"a unit", "orderLines@0,6 F2 'kg' Return Ctrl+S", "disk ~ <unit>kg<"},
+    {"a person by a part of the name", "orderOptions@3,1 F2 'walska' Down Return", "orderOptions@3,1 ~ walska"},
+    {"a day", "orderLines@0,7 F2 '+14' Return orderLines@1,7 F2 'nie' Return", "orderLines:7 ~ {+14}|NIE|"},
+    {"lines past the end", "orderLines@0,8 Shift+Down Shift+Down Ctrl+C orderLines@20,8 Ctrl+V Return",
+     "orderLines = 23; orderLines@22,8 ~ Rezonator; orderLines@22,0 = 23"},
+    {"no more lines wanted", "orderLines@0,8 Shift+Down Ctrl+C orderLines@20,8 Ctrl+V Right Return",
+     "orderLines = 21; orderLines@20,8 ~ Mikro; errors ~ 1 line past"},
+    {"what does not fit", "orderLines@0,8 Ctrl+C orderLines@0,5 Ctrl+V", "errors ~ row 1: Mikro; errors ~ is not a number"},
+    {"undo goes there", "orderLines@20,1 F2 'Żuk' Return orderLines@0,1 Ctrl+Z F2 Ctrl+A 'Wół' Return",
+     "orderLines@20,1 = Wół"},
+    {"a link is edited",
+     "#editAttentions Ctrl+Home Ctrl+L 'www.a.pl' Return Left Ctrl+L Ctrl+A 'b@c.pl' Return !OK Ctrl+S",
+     "file _zp/zp_0.xml ~ mailto:b@c.pl; file _zp/zp_0.xml !~ //www.a.pl"},
+    {"no link", "#editAttentions Ctrl+Home Ctrl+L '/x' Return Return Escape Escape",
+     "boxes ~ is no address; title = Order"},
+    {"Escape asks", "#editAttentions Ctrl+Home 'Żuk' Escape !Yes", "attentions ~ Żuk"},
+    {"a field is emptied", "#config|options@12,1 Del", "options@12,1 =; status = Clear"},
+    {"Tab to the next number", "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '3' Tab Ctrl+A '4' Return",
+     "boms@0/0/0,1 = 3; boms@1/0/0,1 = 4"},
+};
+
+class tst_editWindows : public scenarioFixture
 {
     Q_OBJECT
 
+    std::vector<scenarioTable> tables() override { return {{nullptr, false, keys}}; }
     static void addRows(std::initializer_list<const char *> rows)
     {
         QTest::addColumn<int>("window");
@@ -56,6 +105,23 @@ class tst_editWindows : public editingFixture
     }
 
 private slots:
+    // Deleted and brought back in a sorted tree, a material stands where it stood in its file.
+    void sortedPlacesStay()
+    {
+        openWindow(DATABASE "materials@^6 materials@^6");
+        const auto ktms = [this] {
+            const QString all = testSupport::read(path("_files/db_warehouse.xml"));
+            QStringList found;
+            for (auto it = QRegularExpression("<d_ktm>[^<]*").globalMatch(all); it.hasNext();)
+                found.append(it.next().captured());
+            return found;
+        };
+        const QStringList before = ktms();
+        work("materials@0/3,0 Del Ctrl+Z materials@0/5,8 F2 'Żuk' Return Ctrl+S");
+        QVERIFY(testSupport::read(path("_files/db_warehouse.xml")).contains("Żuk"));
+        QCOMPARE(ktms(), before);
+    }
+
     void typedIsSaved_data() { addRows({"Return", "Tab", "Escape", "elsewhere", "save", "close"}); }
     void typedIsSaved()
     {
