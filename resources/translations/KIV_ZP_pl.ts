@@ -2463,6 +2463,17 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>commands</name>
+    <message>
+        <source>line %1</source>
+        <translation>wiersz %1</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 → %4</source>
+        <translation>%1, %2: %3 → %4</translation>
+    </message>
+</context>
+<context>
     <name>configOperations</name>
     <message>
         <source>is no number from %1 to %2</source>

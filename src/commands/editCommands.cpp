@@ -77,16 +77,15 @@ QString shortened(const myItemStandard &item)
     return text.size() <= most ? text : text::firstUnits(text, most - 1) + QChar(0x2026);
 }
 
-QString tr(const char *text) { return QCoreApplication::translate("commands", text); }
-
 // What an edit is called in the history: where, from what and to what.
 QString described(const myModel *model, const myItemStandard &item, const QString &before)
 {
     const myItemStandard *first = model->cell(item.index().siblingAtColumn(0));
-    const QString where = item.parent() && first && first != &item
-                              ? shortened(*first)
-                              : tr("line %1").arg(item.row() + 1);
-    return tr("%1, %2: %3 → %4")
+    const QString where =
+        item.parent() && first && first != &item
+            ? shortened(*first)
+            : QCoreApplication::translate("commands", "line %1").arg(item.row() + 1);
+    return QCoreApplication::translate("commands", "%1, %2: %3 → %4")
         .arg(where, model->headerData(item.column(), Qt::Horizontal).toString(), before,
              shortened(item));
 }
