@@ -61,12 +61,8 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     setCentralWidget(m_view);
     m_view->setFont(files.config().font());
     setCaptions(model(), m_rows->columns());
-    for (size_t c = 0; c < m_rows->columns().size(); ++c) {
-        const treeColumn<materialStruct> &column = m_rows->columns()[c];
-        m_view->header()->resizeSection(int(c), column.width);
-        // Longer than some columns are wide.
-        model()->setHeaderData(int(c), Qt::Horizontal, column.label, Qt::ToolTipRole);
-    }
+    for (size_t c = 0; c < m_rows->columns().size(); ++c)
+        m_view->header()->resizeSection(int(c), m_rows->columns()[c].width);
     constexpr QSize usualSize(1280, 640);
     resize(usualSize);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,

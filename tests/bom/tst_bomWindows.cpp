@@ -153,6 +153,8 @@ private slots:
         for (int column = 0; column < header->count(); ++column)
             widths += QString::number(header->sectionSize(column)) + ' ';
         QCOMPARE(widths, QString("50 320 150 80 80 80 150 80 80 200 80 80 250 "));
+        // "Price [ PLN ]" and "Ave. price [ PLN ]" in two lines.
+        QVERIFY(header->height() > 2 * header->fontMetrics().height());
     }
     void life_data() { addScenarios(scenarios); }
     void life() { live(); }
