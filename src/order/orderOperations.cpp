@@ -45,8 +45,10 @@ lineState stateOf(const orderItemStruct &line, const ktmIndex &materials)
     }
     double wanted = 0;
     double there = 0;
-    if (isCount(line.quantity, &wanted) && isCount(line.inWarehouse, &there))
+    if (isCount(line.quantity, &wanted) && isCount(line.inWarehouse, &there)) {
         state.inStock = there >= wanted ? stock::enough : stock::tooLittle;
+        state.share = there >= wanted ? 1 : std::max(0.0, there / wanted);
+    }
     return state;
 }
 
