@@ -2,6 +2,7 @@
 
 #include "bom/bomReport.h"
 #include "commands/cellBlock.h"
+#include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "tree/myTreeView.h"
@@ -27,6 +28,10 @@ const windowAction<Kiv_bomViewWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Copy the selected cells as text")},
      &Kiv_bomViewWindow::commandCopyCells},
     {usualActions::pasteCells, &Kiv_bomViewWindow::commandPasteCells},
+    {{"pasteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Paste lines"), "action_paste",
+      "Ctrl+Shift+V",
+      QT_TRANSLATE_NOOP("actions", "Paste text as new lines below the selected one")},
+     &Kiv_bomViewWindow::commandPasteLines},
     {{"deleteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected lines")},
      &Kiv_bomViewWindow::commandDeleteLines},
@@ -56,7 +61,7 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     m_view = addView(tr("Lines of the BOM list"), "lines", this);
     m_view->setRootIsDecorated(false);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name : {"copyText", "pasteCells", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(m_view);
     m_view->setFont(files.config().font());
@@ -115,6 +120,7 @@ void Kiv_bomViewWindow::updateActions()
     const bool onLine = m_view->currentIndex().isValid();
     const QString noLine = tr("no line is selected");
     allowWhenUnlocked({"pasteCells", "deleteLines"}, onLine, noLine);
+    allowWhenUnlocked({"pasteLines"});
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
@@ -132,6 +138,26 @@ void Kiv_bomViewWindow::commandDeleteLines(bool)
     push(cellBlock::deleteRows(model(), rows), tr("%n line(s) deleted", nullptr, int(rows.size())));
 }
 
+// Below the selected lines; at the end when none is.
+int Kiv_bomViewWindow::rowForNewLine()
+{
+    const std::vector<int> rows = m_view->selectedRows();
+    return rows.empty() ? model()->rowCount() : rows.back() + 1;
+}
+
+void Kiv_bomViewWindow::commandPasteLines(bool)
+{
+    const int before = model()->rowCount();
+    const int row = rowForNewLine();
+    cellClipboard::pasteRows(
+        m_view, row, bomTree::ktmColumn,
+        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste lines")); });
+    const int added = model()->rowCount() - before;
+    if (added > 0)
+        selectItem(m_view, model()->item(row, bomTree::quantityColumn));
+    tell(tr("%n line(s) pasted", nullptr, added));
+}
+
 void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
 {
     auto line = newBomLine(ktm, known().materials());
@@ -145,10 +171,11 @@ void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
                                           .arg(QDir::toNativeSeparators(m_path).toHtmlEscaped()));
         return;
     }
+    const int row = rowForNewLine();
     push(std::make_unique<appendItems>(model()->invisibleRootItem(),
-                                       m_rows->makeDetachedRow(std::move(line))),
+                                       m_rows->makeDetachedRow(std::move(line)), row),
          tr("Material inserted"));
-    selectItem(m_view, model()->item(model()->rowCount() - 1, bomTree::quantityColumn));
+    selectItem(m_view, model()->item(row, bomTree::quantityColumn));
     tell(tr("Inserted %1").arg(ktm));
 }
 

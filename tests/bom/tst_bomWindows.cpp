@@ -61,6 +61,8 @@ const pressedRow listActions[] = {
     {"redo", "Ctrl+E " CELL "Ctrl+Z Ctrl+E", "#redo", "lines@0,2 = R1; status = Editing is locked"},
     {"copyText", "Ctrl+E lines@0,2", "lines@?0,6 #copyText", "clipboard = " KNOWN, reads},
     {"pasteCells", "Ctrl+E " CELL "Ctrl+C lines@1,2", "#pasteCells", "lines@1,2 = Żuk", edits},
+    {"pasteLines", "Ctrl+E lines@0,2 Ctrl+C lines@0,6", "#pasteLines",
+     "lines = 3; lines@1,6 = !!!!!R1; lines@2,6 = " KNOWN, edits},
     {"deleteLines", "Ctrl+E lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
     {"sum", "Ctrl+E", "#sum Return", "boxes ~ Information: ", reads},
 };
@@ -163,10 +165,12 @@ private slots:
     {
         steps("Ctrl+B|boms@0/0/0,0 Return");
         QMainWindow &list = window();
-        steps("Ctrl+E|<Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom");
+        steps("Ctrl+E lines@0,2|<Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom");
         hands inList(list);
         const auto *lines = list.findChild<QTreeView *>("lines")->model();
         QCOMPARE(lines->rowCount(), 3);
+        // Below the line that was selected.
+        QVERIFY(lines->index(1, 6).data() != lines->index(2, 6).data());
         inList("Ctrl+Z");
         QCOMPARE(lines->rowCount(), 2);
         inList("Ctrl+Y Ctrl+S");
