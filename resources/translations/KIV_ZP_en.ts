@@ -10,6 +10,13 @@
             <numerusform>%n lines deleted</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n line(s) pasted</source>
+        <translation>
+            <numerusform>%n line pasted</numerusform>
+            <numerusform>%n lines pasted</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_bomWindow</name>

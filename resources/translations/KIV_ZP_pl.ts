@@ -61,6 +61,18 @@
         <source>Save the changed BOM list %1?</source>
         <translation>Zapisać zmienioną listę materiałów %1?</translation>
     </message>
+    <message>
+        <source>Paste lines</source>
+        <translation>Wklej pozycje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) pasted</source>
+        <translation>
+            <numerusform>Wklejono %n pozycję</numerusform>
+            <numerusform>Wklejono %n pozycje</numerusform>
+            <numerusform>Wklejono %n pozycji</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_bomWindow</name>
@@ -1862,6 +1874,14 @@
     <message>
         <source>Paste the copied materials into this group, or the copied text into the cells from the current one on</source>
         <translation>Wkleja skopiowane materiały do tej grupy albo skopiowany tekst do komórek od bieżącej</translation>
+    </message>
+    <message>
+        <source>Paste lines</source>
+        <translation>Wklej pozycje</translation>
+    </message>
+    <message>
+        <source>Paste text as new lines below the selected one</source>
+        <translation>Wkleja tekst jako nowe pozycje pod zaznaczoną</translation>
     </message>
 </context>
 <context>

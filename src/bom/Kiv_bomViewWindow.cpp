@@ -2,6 +2,7 @@
 
 #include "bom/bomReport.h"
 #include "commands/cellBlock.h"
+#include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "tree/myTreeView.h"
@@ -30,6 +31,10 @@ const windowAction<Kiv_bomViewWindow> actionTable[] = {
     {usualActions::fillDown, &Kiv_bomViewWindow::commandFillDown},
     {usualActions::moveUp("Edit"), &Kiv_bomViewWindow::commandMoveUp},
     {usualActions::moveDown("Edit"), &Kiv_bomViewWindow::commandMoveDown},
+    {{"pasteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Paste lines"), "action_paste",
+      "Ctrl+Shift+V",
+      QT_TRANSLATE_NOOP("actions", "Paste text as new lines below the selected one")},
+     &Kiv_bomViewWindow::commandPasteLines},
     {{"deleteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected lines")},
      &Kiv_bomViewWindow::commandDeleteLines},
@@ -63,17 +68,14 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name : {"copyText", "pasteCells", "moveUp", "moveDown", "deleteLines"})
+    for (const char *name :
+         {"copyText", "pasteCells", "pasteLines", "moveUp", "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(m_view);
     m_view->setFont(files.config().font());
     setCaptions(model(), m_rows->columns());
-    for (size_t c = 0; c < m_rows->columns().size(); ++c) {
-        const treeColumn<materialStruct> &column = m_rows->columns()[c];
-        m_view->header()->resizeSection(int(c), column.width);
-        // Longer than some columns are wide.
-        model()->setHeaderData(int(c), Qt::Horizontal, column.label, Qt::ToolTipRole);
-    }
+    for (size_t c = 0; c < m_rows->columns().size(); ++c)
+        m_view->header()->resizeSection(int(c), m_rows->columns()[c].width);
     constexpr QSize usualSize(1280, 640);
     resize(usualSize);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
@@ -128,6 +130,7 @@ void Kiv_bomViewWindow::updateActions()
     allowWhenUnlocked({"pasteCells"}, onLine, noLine);
     allowWhenUnlocked({"deleteLines", "fillDown", "moveUp", "moveDown"},
                       !m_view->markedCells().isEmpty(), noLine);
+    allowWhenUnlocked({"pasteLines"});
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
@@ -149,6 +152,26 @@ void Kiv_bomViewWindow::commandMoveUp(bool) { moveMarkedRows(m_view, true); }
 
 void Kiv_bomViewWindow::commandMoveDown(bool) { moveMarkedRows(m_view, false); }
 
+// Below the selected lines; at the end when none is.
+int Kiv_bomViewWindow::rowForNewLine()
+{
+    const std::vector<int> rows = m_view->markedRows();
+    return rows.empty() ? model()->rowCount() : rows.back() + 1;
+}
+
+void Kiv_bomViewWindow::commandPasteLines(bool)
+{
+    const int before = model()->rowCount();
+    const int row = rowForNewLine();
+    cellClipboard::pasteRows(
+        m_view, row, bomTree::ktmColumn,
+        [this](std::unique_ptr<command> change) { push(std::move(change), tr("Paste lines")); });
+    const int added = model()->rowCount() - before;
+    if (added > 0)
+        selectItem(m_view, model()->item(row, bomTree::quantityColumn));
+    tell(tr("%n line(s) pasted", nullptr, added));
+}
+
 void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
 {
     auto line = newBomLine(ktm, known().materials());
@@ -162,10 +185,11 @@ void Kiv_bomViewWindow::insertToBomView(const materialKtm &ktm)
                                           .arg(QDir::toNativeSeparators(m_path).toHtmlEscaped()));
         return;
     }
+    const int row = rowForNewLine();
     push(std::make_unique<appendItems>(model()->invisibleRootItem(),
-                                       m_rows->makeDetachedRow(std::move(line))),
+                                       m_rows->makeDetachedRow(std::move(line)), row),
          tr("Material inserted"));
-    selectItem(m_view, model()->item(model()->rowCount() - 1, bomTree::quantityColumn));
+    selectItem(m_view, model()->item(row, bomTree::quantityColumn));
     tell(tr("Inserted %1").arg(ktm));
 }
 

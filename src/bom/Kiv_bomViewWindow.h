@@ -29,7 +29,9 @@ public slots:
     void commandDeleteLines(bool);
     void commandMoveUp(bool);
     void commandMoveDown(bool);
-    // Appends a line of the material; one that no database has is told in the errors window.
+    void commandPasteLines(bool);
+    // Adds a line of the material below the selected one; a material that no database has is told
+    // in the errors window.
     void insertToBomView(const materialKtm &ktm);
 
 protected:
@@ -46,6 +48,8 @@ private slots:
     void selectItem(QTreeView *view, QStandardItem *item);
 
 private:
+    int rowForNewLine();
+
     QString m_path;
     QString m_fault; // why the list cannot be edited
     std::unique_ptr<kiv_mat_bomStruct> m_bom;

@@ -276,6 +276,9 @@ treeColumns<materialStruct> lineColumns(const configStruct &config, const ktmInd
     table[lineNameColumn].look = [](const material &, myItemStandard *cell) {
         cell->setToolTip(cell->text());
     };
+    table[unitColumn].read = [&materials](const material &line) {
+        return labels::shown(bomOperations::matched(line, materials).material->d_unit);
+    };
     table[ktmColumn].read = [&materials](const material &line) {
         return bomOperations::matched(line, materials).shownKtm();
     };

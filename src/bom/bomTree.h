@@ -66,7 +66,8 @@ enum lineColumn
     lineNameColumn = 1,
     designatorColumn,
     quantityColumn,
-    ktmColumn = 6
+    unitColumn = 5,
+    ktmColumn
 };
 
 // materials are looked at as long as the columns are used.

@@ -163,6 +163,11 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
             }
     }
 
+    // What a cell shows only may follow from the others of its row.
+    std::stable_partition(targets.begin(), targets.end(), [model](const auto &target) {
+        const myItemStandard *cell = model->cell(target.first);
+        return cell && !cell->readOnly;
+    });
     for (const auto &[index, typed] : qAsConst(targets)) {
         myItemStandard *cell = model->cell(index);
         if (!cell || cell->text() == typed)
@@ -182,6 +187,24 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
         }
     }
     result.change = grouped(std::move(members), model, view);
+    return result;
+}
+
+pasted pasteRows(myModel *model, int at, int column, const QList<int> &columns, const QString &text)
+{
+    const changeBatch batch(model);
+    std::vector<std::unique_ptr<command>> members;
+    const int count = blockOf(text).size();
+    for (int line = 0; line < count && model->records(); ++line)
+        if (const myItem::row added = model->records()->newRow(); !added.isEmpty())
+            members.push_back(
+                std::make_unique<appendItems>(model->invisibleRootItem(), added, at + line));
+    if (members.empty())
+        return {};
+    pasted result = paste(model, model->index(at, column), {}, columns, text, false);
+    if (result.change)
+        members.push_back(std::move(result.change));
+    result.change = grouped(std::move(members), model, nullptr);
     return result;
 }
 

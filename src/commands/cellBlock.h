@@ -60,4 +60,9 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
              const QList<int> &columns, const QString &text, bool newRows,
              htmlView *view = nullptr);
 
+// Pastes the text into new top-level rows, the first of which becomes row "at", from a column on.
+// Nothing where the tree has no new rows.
+pasted pasteRows(myModel *model, int at, int column, const QList<int> &columns,
+                 const QString &text);
+
 } // namespace cellBlock

@@ -21,6 +21,33 @@ bool canHaveNewRows(const myModel *model)
     return !probe.isEmpty();
 }
 
+QList<int> seenColumns(const QHeaderView *header)
+{
+    QList<int> columns;
+    for (int visual = 0; visual < header->count(); ++visual)
+        if (!header->isSectionHidden(header->logicalIndex(visual)))
+            columns.append(header->logicalIndex(visual));
+    return columns;
+}
+
+int carryOut(cellBlock::pasted pasted, const pushFunction &push)
+{
+    if (pasted.change)
+        push(std::move(pasted.change));
+    if (!pasted.refused.isEmpty()) {
+        userPrompts().listError(
+            QCoreApplication::translate("cellBlock", "These texts do not fit their cells:")
+                .toHtmlEscaped()
+            + QLatin1String("<br><b>")
+            + pasted.refused.join(QLatin1Char('\n'))
+                  .toHtmlEscaped()
+                  .replace(QLatin1Char('\n'), QLatin1String("<br>"))
+            + QLatin1String("</b><br>"));
+        userPrompts().showErrors();
+    }
+    return pasted.changed;
+}
+
 } // namespace
 
 int copy(const myTreeView *view)
@@ -33,14 +60,8 @@ int copy(const myTreeView *view)
     return cells.size();
 }
 
-int paste(myTreeView *view, const std::function<void(std::unique_ptr<command>)> &push,
-          htmlView *page)
+int paste(myTreeView *view, const pushFunction &push, htmlView *page)
 {
-    const QHeaderView *header = view->header();
-    QList<int> columns;
-    for (int visual = 0; visual < header->count(); ++visual)
-        if (!header->isSectionHidden(header->logicalIndex(visual)))
-            columns.append(header->logicalIndex(visual));
     const QModelIndexList cells = view->selectedCells();
     const QModelIndex start = cells.isEmpty() ? view->currentIndex() : cells.first();
     if (!start.isValid())
@@ -60,21 +81,19 @@ int paste(myTreeView *view, const std::function<void(std::unique_ptr<command>)> 
             return 0;
         newRows = answer == 0;
     }
-    cellBlock::pasted pasted = cellBlock::paste(model, start, cells, columns, text, newRows, page);
-    if (pasted.change)
-        push(std::move(pasted.change));
-    if (!pasted.refused.isEmpty()) {
-        userPrompts().listError(
-            QCoreApplication::translate("cellBlock", "These texts do not fit their cells:")
-                .toHtmlEscaped()
-            + QLatin1String("<br><b>")
-            + pasted.refused.join(QLatin1Char('\n'))
-                  .toHtmlEscaped()
-                  .replace(QLatin1Char('\n'), QLatin1String("<br>"))
-            + QLatin1String("</b><br>"));
-        userPrompts().showErrors();
-    }
-    return pasted.changed;
+    return carryOut(
+        cellBlock::paste(model, start, cells, seenColumns(view->header()), text, newRows, page),
+        push);
+}
+
+int pasteRows(myTreeView *view, int at, int usualColumn, const pushFunction &push)
+{
+    const QModelIndexList cells = view->selectedCells();
+    const int column = cells.isEmpty() ? usualColumn : cells.first().column();
+    return carryOut(cellBlock::pasteRows(static_cast<myModel *>(view->model()), at, column,
+                                         seenColumns(view->header()),
+                                         QApplication::clipboard()->text()),
+                    push);
 }
 
 } // namespace cellClipboard

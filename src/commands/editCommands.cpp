@@ -136,14 +136,14 @@ void appendCommands::places(std::vector<QStandardItem *> &cells) const
             member->places(cells);
 }
 
-appendItems::appendItems(QStandardItem *parent, const row &items)
+appendItems::appendItems(QStandardItem *parent, const row &items, std::optional<int> at)
     : m_items(items)
     , m_parent(parent)
     , m_row(0)
 {
     if (m_parent) {
         fetchFirst(m_parent);
-        m_row = m_parent->rowCount();
+        m_row = at.value_or(m_parent->rowCount());
     }
     appendItems::redo();
 }

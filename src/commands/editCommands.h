@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class commandStack;
@@ -55,11 +56,12 @@ private:
     QPointer<myModel> m_model;
 };
 
-// A row added at the end below a parent; with a null parent nothing happens.
+// A row added below a parent, at the end or where it is told to stand; with a null parent nothing
+// happens.
 class appendItems : public command
 {
 public:
-    appendItems(QStandardItem *parent, const myItem::row &items);
+    appendItems(QStandardItem *parent, const myItem::row &items, std::optional<int> row = {});
     void undo() override;
     void redo() override;
     void places(std::vector<QStandardItem *> &cells) const override;

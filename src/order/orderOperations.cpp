@@ -8,6 +8,7 @@
 #include "util/decimal.h"
 #include "util/fileVersions.h"
 #include "util/labels.h"
+#include "util/numbers.h"
 
 #include <QCoreApplication>
 
@@ -38,8 +39,14 @@ lineState stateOf(const orderItemStruct &line, const ktmIndex &materials)
     }
     const std::optional<decimal> wanted = decimal::read(line.quantity);
     const std::optional<decimal> there = decimal::read(line.inWarehouse);
-    if (wanted && there)
-        state.inStock = *there >= *wanted ? stock::enough : stock::tooLittle;
+    if (wanted && there) {
+        const bool isEnough = *there >= *wanted;
+        state.inStock = isEnough ? stock::enough : stock::tooLittle;
+        state.share =
+            isEnough
+                ? 1
+                : std::max(0.0, numbers::value(line.inWarehouse) / numbers::value(line.quantity));
+    }
     return state;
 }
 

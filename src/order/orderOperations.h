@@ -28,6 +28,7 @@ struct lineState
     bool known = false; // a loaded database has the KTM
     QString status;     // the status word of the material, empty when unknown
     stock inStock = stock::unknown;
+    double share = 0; // of the quantity that is in stock, from 0 to 1
 };
 lineState stateOf(const orderItemStruct &line, const ktmIndex &materials);
 

@@ -50,10 +50,19 @@ void showStatus(const orderItemStruct &line, myItemStandard *cell, const ktmInde
             : tr("The status of this material does not allow to order it"));
 }
 
+// A bar of what of the quantity is in stock, under the stock as it is stored.
 void showStock(const orderItemStruct &line, myItemStandard *cell, const ktmIndex &materials)
 {
     using orderOperations::stock;
-    const stock state = orderOperations::stateOf(line, materials).inStock;
+    const orderOperations::lineState of = orderOperations::stateOf(line, materials);
+    const stock state = of.inStock;
+    constexpr int whole = 1000000;
+    auto *bar = static_cast<myItemSpinBox *>(cell);
+    bar->displayMode = state == stock::unknown ? 0 : 2;
+    bar->minimum = 0;
+    bar->maximum = whole;
+    bar->setValue(int(of.share * whole));
+    bar->setText(line.inWarehouse);
     const QString numbers = tr("%1 in stock, %2 ordered").arg(line.inWarehouse, line.quantity);
     set(cell, {},
         state == stock::enough      ? QStringLiteral("line_enough")
@@ -78,7 +87,7 @@ constexpr lineColumn lineColumns[] = {
     {"name", 190, lineEditKind, true},
     {"price", 90, moneyKind, true},
     {"average_price", 116, moneyKind, true},
-    {"in_warehouse", 136, standardKind, false},
+    {"in_warehouse", 136, spinBoxKind, false},
     {"quantity", 84, spinBoxKind, true},
     {"unit", 92, comboBoxKind, true},
     {"wait", 92, dateEditKind, true},
@@ -142,7 +151,6 @@ treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_z
     table[targetColumn].entries = entriesOf(orderOperations::targets(config, order));
     table[inWarehouseColumn].look = [&materials](const orderItemStruct &line,
                                                  myItemStandard *cell) {
-        cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         showStock(line, cell, materials);
     };
     table[indexColumn].look = [](const orderItemStruct &, myItemStandard *cell) {

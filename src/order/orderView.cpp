@@ -142,6 +142,7 @@ void orderView::show(kiv_mat_zpStruct &order)
     m_lineRows->onChange = [this](myItem::myItemStandard *item, myItem::myItemStandard *) {
         switch (item->column()) {
         case orderTree::quantityColumn:
+        case orderTree::inWarehouseColumn:
         case orderTree::ktmColumn:
             orderTree::refreshLooks(m_lines, item->row(), m_lineRows->columns());
             break;
@@ -183,6 +184,7 @@ void orderView::refreshSettings()
     for (myTreeView *view : {m_optionsView, m_linesView}) {
         static_cast<myModelDelegate *>(view->itemDelegate())->setThresholds(thresholdsOf(config));
         view->setFont(config.font());
+        view->viewport()->update();
     }
 }
 

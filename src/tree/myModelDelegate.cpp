@@ -76,6 +76,29 @@ QFont fontOf(const myItemStandard &item, const QFont &otherwise)
     return item.data(Qt::FontRole).isValid() ? item.font() : otherwise;
 }
 
+// Letters become somewhat narrower before a text is cut: codes that differ in their ends alone stay
+// apart.
+void condense(QStyleOptionViewItem *option, const QStyle *style)
+{
+    constexpr int leastStretch = 75; // percent
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
+    const int room =
+        style->subElementRect(QStyle::SE_ItemViewItemText, option, option->widget).width()
+        - 2 * margin;
+    const int needed = QFontMetrics(option->font).horizontalAdvance(option->text);
+    QFont font = option->font;
+    for (int stretch = needed > room ? 100 * room / needed : 0; stretch >= leastStretch;
+         --stretch) {
+        font.setStretch(stretch);
+        const QFontMetrics metrics(font);
+        if (metrics.horizontalAdvance(option->text) > room)
+            continue;
+        option->font = font;
+        option->fontMetrics = metrics;
+        return;
+    }
+}
+
 using intBox = numberBox<QSpinBox>;
 using decimalBox = numberBox<QDoubleSpinBox>;
 
@@ -246,6 +269,7 @@ void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
     default:
         break;
     }
+    condense(&option, style);
     style->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
 }
 

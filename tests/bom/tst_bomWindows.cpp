@@ -64,6 +64,7 @@ const scenario listActions[] = {
     {CELL "Ctrl+Z", "#redo", "lines@0,2 = Żuk", guards},
     {"lines@0,2", "lines@?0,6 #copyText", "clipboard = " KNOWN, reads},
     {CELL "lines@0,2 Ctrl+C lines@1,2", "#pasteCells", "lines@1,2 = Żuk", edits},
+    {"lines@0,2 Ctrl+C lines@0,6", "#pasteLines", "lines = 3; lines@1,6 = !!!!!R1; lines@2,6 = " KNOWN, edits},
     {CELL "lines@0,2 +lines@1,2", "#fillDown", "lines@1,2 = Żuk", edits},
     {"lines@0,2", "#moveDown", "lines@0,2 = R1; status = 1 line moved", edits},
     {"lines@1,2", "#moveUp", "lines@0,2 = R1; status = 1 line moved", edits},
@@ -155,16 +156,20 @@ private slots:
         for (int column = 0; column < header->count(); ++column)
             widths += QString::number(header->sectionSize(column)) + ' ';
         QCOMPARE(widths, QString("50 320 150 80 80 80 150 80 80 200 80 80 250 "));
+        // "Price [ PLN ]" and "Ave. price [ PLN ]" in two lines.
+        QVERIFY(header->height() > 2 * header->fontMetrics().height());
     }
 
     void insertFromTheDatabase()
     {
         steps("Ctrl+B|boms@0/0/0,0 Return");
         QMainWindow &list = window();
-        steps("Ctrl+E|<Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom");
+        steps("Ctrl+E lines@0,2|<Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom");
         hands inList(list);
         const auto *lines = list.findChild<QTreeView *>("lines")->model();
         QCOMPARE(lines->rowCount(), 3);
+        // Below the line that was selected.
+        QVERIFY(lines->index(1, 6).data() != lines->index(2, 6).data());
         inList("Ctrl+Z");
         QCOMPARE(lines->rowCount(), 2);
         inList("Ctrl+Y Ctrl+S");
