@@ -64,6 +64,9 @@ const pressedRow listActions[] = {
     {"pasteLines", "Ctrl+E lines@0,2 Ctrl+C lines@0,6", "#pasteLines",
      "lines = 3; lines@1,6 = !!!!!R1; lines@2,6 = " KNOWN, edits},
     {"deleteLines", "Ctrl+E lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
+    {"pickMaterial", "Ctrl+E lines@0,2", "#pickMaterial Ctrl+A 'ams1117' Return",
+     "lines@0,1 = AMS1117-3.3; lines@0,2 = R1; lines@0,3 = 0,75", edits},
+    {"find", "Ctrl+E", "#find 'R9' ~100", "counts = 2 lines, 0 of them unknown, 0 found", reads},
     {"sum", "Ctrl+E", "#sum Return", "boxes ~ Information: ", reads},
 };
 
@@ -92,6 +95,15 @@ const scenario scenarios[] = {
     {"typed and closed", "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@0,2 F2 Ctrl+A 'Żuk' Ctrl+W !Yes",
      "title = closed; file " LIST " ~ Żuk"},
     {"kept open", "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E " CELL "Ctrl+W !Cancel", "lines@0,2 = Żuk"},
+
+    {"what a search hides is not deleted",
+     "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@1,2 F2 Ctrl+A 'T9' Return lines@0,2 +lines@1,2 Ctrl+F 't9' ~100 "
+     "#deleteLines",
+     "lines = 1; lines@0,2 = R1; counts = 1 line, 0 of them unknown, 0 found"},
+    {"one material for one line", "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@0,2 +lines@1,2 #-pickMaterial",
+     "boxes ~ : several lines are selected"},
+    {"unknown ones found", "Ctrl+B|boms@2/0/0,0 Return|Ctrl+F '!!!!!' ~100",
+     "counts = 1 line, 1 of them unknown, 1 found"},
 
     // --- From the database ---
     {"no list is open", "Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom Return",
