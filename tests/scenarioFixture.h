@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTextEdit>
 #include <QTreeView>
 #include <QUrl>
@@ -108,6 +109,8 @@ protected:
             return testSupport::read(path(place.mid(5)));
         if (const auto *text = window().findChild<QTextEdit *>(place))
             return text->toPlainText();
+        if (const auto *label = window().findChild<QLabel *>(place))
+            return label->text();
         static const QRegularExpression form("^(\\w+)(@!|[@:!^])?(?:([\\d/]+),)?(\\d+)?$");
         const auto match = form.match(place);
         const auto *view = window().findChild<QTreeView *>(match.captured(1));

@@ -17,6 +17,27 @@
             <numerusform>%n lines pasted</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them unknown</source>
+        <translation>
+            <numerusform>%n of them unknown</numerusform>
+            <numerusform>%n of them unknown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n found</source>
+        <translation>
+            <numerusform>%n found</numerusform>
+            <numerusform>%n found</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_bomWindow</name>

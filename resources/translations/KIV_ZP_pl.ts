@@ -73,6 +73,38 @@
             <numerusform>Wklejono %n pozycji</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them unknown</source>
+        <translation>
+            <numerusform>w tym %n nieznana</numerusform>
+            <numerusform>w tym %n nieznane</numerusform>
+            <numerusform>w tym %n nieznanych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n found</source>
+        <translation>
+            <numerusform>znaleziono %n</numerusform>
+            <numerusform>znaleziono %n</numerusform>
+            <numerusform>znaleziono %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>several lines are selected</source>
+        <translation>zaznaczono kilka pozycji</translation>
+    </message>
+    <message>
+        <source>Material picked</source>
+        <translation>Wybrano materiał</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_bomWindow</name>
@@ -457,14 +489,6 @@
     <message>
         <source>The open order uses deleted materials:</source>
         <translation>Otwarte zamówienie używa usuniętych materiałów:</translation>
-    </message>
-    <message>
-        <source>Words to search for</source>
-        <translation>Szukane słowa</translation>
-    </message>
-    <message>
-        <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
-        <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
     </message>
     <message>
         <source>Materials</source>
@@ -1883,6 +1907,14 @@
         <source>Paste text as new lines below the selected one</source>
         <translation>Wkleja tekst jako nowe pozycje pod zaznaczoną</translation>
     </message>
+    <message>
+        <source>Pick material ...</source>
+        <translation>Wybierz materiał ...</translation>
+    </message>
+    <message>
+        <source>Search the databases for the material of the selected line</source>
+        <translation>Szuka w bazach materiału dla zaznaczonej pozycji</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -1921,6 +1953,18 @@
     <message>
         <source>the first %1 are shown</source>
         <translation>pokazano pierwsze %1</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Wybierz</translation>
+    </message>
+    <message>
+        <source>Pick material</source>
+        <translation>Wybór materiału</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
 </context>
 <context>
@@ -4374,6 +4418,17 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no address of a page, of mail or of a file server</source>
         <translation>%1 nie jest adresem strony, poczty ani serwera plików</translation>
+    </message>
+</context>
+<context>
+    <name>searchLine</name>
+    <message>
+        <source>Words to search for</source>
+        <translation>Szukane słowa</translation>
+    </message>
+    <message>
+        <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
+        <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
     </message>
 </context>
 <context>

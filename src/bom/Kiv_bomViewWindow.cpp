@@ -5,11 +5,15 @@
 #include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
+#include "order/addMaterialDialog.h"
 #include "tree/myTreeView.h"
 #include "util/prompts.h"
+#include "window/searchLine.h"
 
 #include <QDir>
 #include <QHeaderView>
+#include <QLabel>
+#include <QStatusBar>
 
 using namespace bomOperations;
 
@@ -35,9 +39,17 @@ const windowAction<Kiv_bomViewWindow> actionTable[] = {
       "Ctrl+Shift+V",
       QT_TRANSLATE_NOOP("actions", "Paste text as new lines below the selected one")},
      &Kiv_bomViewWindow::commandPasteLines},
+    {{"pickMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Pick material ..."),
+      "action_add_material", "Ctrl+M",
+      QT_TRANSLATE_NOOP("actions", "Search the databases for the material of the selected line"),
+      true},
+     &Kiv_bomViewWindow::commandPickMaterial},
     {{"deleteLines", "Edit", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected lines")},
      &Kiv_bomViewWindow::commandDeleteLines},
+    {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
+      QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
+     &Kiv_bomViewWindow::commandFind},
     {{"sum", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Sum"),
       "action_sum", nullptr,
       QT_TRANSLATE_NOOP("actions", "Sums of quantities and prices, per set and for all sets"),
@@ -61,7 +73,13 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     };
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/dialog_bom2_128.png")));
     addActions(actionTable);
-    m_view = addView(tr("Lines of the BOM list"), "lines", this);
+    auto *page = new QWidget(this);
+    m_view = addView(tr("Lines of the BOM list"), "lines", page);
+    m_words = new searchLine(m_view);
+    connect(m_words, &searchLine::wanted, this, &Kiv_bomViewWindow::applyFilter);
+    m_counts = new QLabel(this);
+    m_counts->setObjectName(QStringLiteral("counts"));
+    statusBar()->addPermanentWidget(m_counts);
     m_view->setRootIsDecorated(false);
     m_view->setRowsDragged(true);
     connect(
@@ -69,9 +87,9 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     for (const char *name :
-         {"copyText", "pasteCells", "pasteLines", "moveUp", "moveDown", "deleteLines"})
+         {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp", "moveDown", "deleteLines"})
         m_view->addAction(action(name));
-    setCentralWidget(m_view);
+    setCentralWidget(page);
     m_view->setFont(files.config().font());
     setCaptions(model(), m_rows->columns());
     for (size_t c = 0; c < m_rows->columns().size(); ++c)
@@ -106,6 +124,7 @@ bool Kiv_bomViewWindow::load()
     m_rows->show(model(), &m_bom->materials);
     model()->setRecords(m_rows.get());
     m_view->sortByColumn(bomTree::lineNameColumn, Qt::AscendingOrder);
+    applyFilter();
     setUnlocked(false);
     return m_fault.isEmpty();
 }
@@ -131,15 +150,87 @@ void Kiv_bomViewWindow::updateActions()
     allowWhenUnlocked({"deleteLines", "fillDown", "moveUp", "moveDown"},
                       !m_view->markedCells().isEmpty(), noLine);
     allowWhenUnlocked({"pasteLines"});
+    allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
+                      m_view->markedRows().size() > 1 ? tr("several lines are selected")
+                                                        : noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
+    showCounts();
+}
+
+void Kiv_bomViewWindow::showCounts()
+{
+    int unknown = 0;
+    for (const auto &line : m_bom->materials)
+        unknown += !matched(*line, known().materials()).known;
+    QString counts = tr("%n line(s)", nullptr, int(m_bom->materials.size())) + QLatin1String(", ")
+                     + tr("%n of them unknown", nullptr, unknown);
+    if (!m_words->text().isEmpty()) {
+        int found = 0;
+        for (int row = 0; row < model()->rowCount(); ++row)
+            found += !m_view->isRowHidden(row, {});
+        counts += QLatin1String(", ") + tr("%n found", nullptr, found);
+    }
+    m_counts->setText(counts);
+}
+
+void Kiv_bomViewWindow::commandFind(bool) { m_words->begin(); }
+
+// A line is searched as the material that it shows, with its own designators.
+void Kiv_bomViewWindow::applyFilter()
+{
+    const searchQuery query = m_words->query();
+    std::vector<std::unique_ptr<materialStruct>> shown;
+    materialSearch search;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const auto *first = static_cast<const myItem::myItemStandard *>(model()->item(row));
+        const bomLine of = matched(*bomTree::lineRows::recordOf(first), known().materials());
+        shown.push_back(of.material->copy());
+        shown.back()->d_ktm = of.shownKtm();
+        shown.back()->d_description += QLatin1Char(' ') + of.line->d_designator;
+        search.insert({shown.back().get()});
+    }
+    for (int row = 0; row < model()->rowCount(); ++row)
+        m_words->setRowShown(model()->index(row, 0),
+                             query.terms().empty()
+                                 || search.matches(shown[size_t(row)].get(), query));
+    m_view->deselectHidden();
+    tell(query.errors().join(QLatin1String(", ")));
+    updateActions();
+}
+
+bool Kiv_bomViewWindow::takesFiles() const { return true; }
+
+void Kiv_bomViewWindow::fileDropped(const QString &path)
+{
+    if (openList)
+        openList(path);
 }
 
 void Kiv_bomViewWindow::commandShowSum(bool)
 {
     userPrompts().showInformation(
         bomReport::sums(sumsOf(*m_bom, known().materials()), sets ? sets() : 1));
+}
+
+// The one selected line, or that of the cursor when none is; else -1.
+int Kiv_bomViewWindow::rowToPickFor() const
+{
+    const std::vector<int> rows = m_view->markedRows();
+    return rows.empty() ? m_view->currentIndex().row() : rows.size() == 1 ? rows.front() : -1;
+}
+
+void Kiv_bomViewWindow::commandPickMaterial(bool)
+{
+    const int row = rowToPickFor();
+    const auto *first = static_cast<const myItem::myItemStandard *>(model()->item(row));
+    const materialStruct &line = *bomTree::lineRows::recordOf(first);
+    const QString ktm =
+        addMaterialDialog::pick(known(), this, line.d_name + QLatin1Char(' ') + line.d_value);
+    auto *cell = static_cast<myItem::myItemStandard *>(model()->item(row, bomTree::ktmColumn));
+    if (!ktm.isEmpty() && line.d_ktm != ktm)
+        push(std::make_unique<changeValue>(model(), cell, ktm), tr("Material picked"));
 }
 
 void Kiv_bomViewWindow::commandDeleteLines(bool)

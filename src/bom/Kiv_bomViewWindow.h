@@ -5,7 +5,9 @@
 #include "bom/bomTree.h"
 #include "window/editWindow.h"
 
+class QLabel;
 class QTreeView;
+class searchLine;
 
 using materialKtm = QString;
 
@@ -23,6 +25,8 @@ public:
 
     // How many sets of the list are built, for the sums.
     std::function<int()> sets;
+    // Opens a list in a window of its own.
+    std::function<void(const QString &path)> openList;
 
 public slots:
     void commandShowSum(bool);
@@ -30,6 +34,9 @@ public slots:
     void commandMoveUp(bool);
     void commandMoveDown(bool);
     void commandPasteLines(bool);
+    void commandFind(bool);
+    // Gives the selected line the KTM of a material that is searched for.
+    void commandPickMaterial(bool);
     // Adds a line of the material below the selected one; a material that no database has is told
     // in the errors window.
     void insertToBomView(const materialKtm &ktm);
@@ -42,6 +49,8 @@ protected:
     QString fault() const override { return m_fault; }
     QString closeQuestion() const override;
     void updateActions() override;
+    bool takesFiles() const override;
+    void fileDropped(const QString &path) override;
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
@@ -49,10 +58,15 @@ private slots:
 
 private:
     int rowForNewLine();
+    int rowToPickFor() const;
+    void applyFilter();
+    void showCounts();
 
     QString m_path;
     QString m_fault; // why the list cannot be edited
     std::unique_ptr<kiv_mat_bomStruct> m_bom;
     std::unique_ptr<bomTree::lineRows> m_rows;
     myTreeView *m_view;
+    searchLine *m_words = nullptr;
+    QLabel *m_counts = nullptr;
 };

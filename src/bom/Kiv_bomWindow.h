@@ -99,6 +99,8 @@ private:
     void setSets(const QList<QStandardItem *> &files, int sets, const QString &what);
     QStandardItem *groupForNewFile(std::vector<std::unique_ptr<command>> &members);
     readLists read(const QList<QStandardItem *> &files);
+    // Opens the file that was dropped on a list's window in one of its own.
+    void openList(const QString &path);
     void tellWritten(const QString &path, bool written);
 
     std::unique_ptr<bomTree::setRows> m_rows;

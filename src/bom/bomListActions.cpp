@@ -182,8 +182,22 @@ Kiv_bomViewWindow &Kiv_bomWindow::viewWindow(const QString &path)
                     sets += bomTree::setsOf(file);
             return sets;
         };
+        window->openList = [this](const QString &file) { openList(file); };
     }
     return *window;
+}
+
+void Kiv_bomWindow::openList(const QString &path)
+{
+    kiv_mat_bomStruct bom;
+    QString error;
+    if (!readBom(path, &bom, &error)) {
+        userPrompts().listError(error);
+        userPrompts().showErrors();
+        return;
+    }
+    m_lastView = QDir::cleanPath(path);
+    viewWindow(m_lastView).showNow();
 }
 
 void Kiv_bomWindow::commandBom(bool)

@@ -124,14 +124,14 @@ myItem::reading like(const myItemStandard &source, const myItemStandard &cell)
                       source.text());
 }
 
-int linesBeyond(const QModelIndex &start, const QString &text)
+int linesBeyond(const QList<int> &rows, const QString &text)
 {
-    const int rows = start.model()->rowCount(start.parent());
-    return std::max(0, start.row() + int(blockOf(text).size()) - rows);
+    return std::max(0, int(blockOf(text).size()) - int(rows.size()));
 }
 
 pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
-             const QList<int> &columns, const QString &text, bool newRows, htmlView *view)
+             QList<int> rows, const QList<int> &columns, const QString &text, bool newRows,
+             htmlView *view)
 {
     const QList<QStringList> block = blockOf(text);
     pasted result;
@@ -143,19 +143,20 @@ pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &se
         for (const QModelIndex &cell : selected)
             targets.append({cell, block.first().first()});
     } else {
-        const int beyond = linesBeyond(start, text);
+        const int beyond = linesBeyond(rows, text);
         for (int line = 0; line < beyond && newRows && model->records(); ++line)
-            if (const myItem::row added = model->records()->newRow(); !added.isEmpty())
+            if (const myItem::row added = model->records()->newRow(); !added.isEmpty()) {
+                rows.append(model->rowCount());
                 members.push_back(std::make_unique<appendNewMaterial>(model, added));
-        if (const int lost = linesBeyond(start, text); lost > 0)
+            }
+        if (const int lost = linesBeyond(rows, text); lost > 0)
             result.refused.append(QCoreApplication::translate(
                 "cellBlock", "%n line(s) past the last row", nullptr, lost));
         const int from = columns.indexOf(start.column());
-        for (int r = 0; r < block.size(); ++r)
+        for (int r = 0; r < std::min(block.size(), rows.size()); ++r)
             for (int c = 0; c < block[r].size(); ++c) {
                 if (from + c < columns.size())
-                    targets.append(
-                        {start.sibling(start.row() + r, columns[from + c]), block[r][c]});
+                    targets.append({start.sibling(rows[r], columns[from + c]), block[r][c]});
                 else if (r == 0)
                     result.refused.append(
                         QCoreApplication::translate("cellBlock", "\"%1\" past the last column")
@@ -194,14 +195,17 @@ pasted pasteRows(myModel *model, int at, int column, const QList<int> &columns, 
 {
     const changeBatch batch(model);
     std::vector<std::unique_ptr<command>> members;
+    QList<int> rows;
     const int count = blockOf(text).size();
     for (int line = 0; line < count && model->records(); ++line)
-        if (const myItem::row added = model->records()->newRow(); !added.isEmpty())
+        if (const myItem::row added = model->records()->newRow(); !added.isEmpty()) {
+            rows.append(at + line);
             members.push_back(
                 std::make_unique<appendItems>(model->invisibleRootItem(), added, at + line));
+        }
     if (members.empty())
         return {};
-    pasted result = paste(model, model->index(at, column), {}, columns, text, false);
+    pasted result = paste(model, model->index(at, column), {}, rows, columns, text, false);
     if (result.change)
         members.push_back(std::move(result.change));
     result.change = grouped(std::move(members), model, nullptr);

@@ -44,8 +44,8 @@ std::unique_ptr<command> clear(myModel *model, const QList<myItem::myItemStandar
 std::unique_ptr<command> deleteRows(myModel *model, const std::vector<int> &rows,
                                     htmlView *view = nullptr);
 
-// How many lines of such a text, pasted from a cell on, find no row there.
-int linesBeyond(const QModelIndex &start, const QString &text);
+// How many lines of such a text find none of the rows.
+int linesBeyond(const QList<int> &rows, const QString &text);
 
 struct pasted
 {
@@ -54,10 +54,11 @@ struct pasted
     QStringList refused;             // "column, row: why", of what does not fit its cell
 };
 // Pastes tab-separated text into the cells from start on, to the right along the given columns and
-// down along its sisters; a single text goes into all the selected cells. Lines past the last row
-// become new rows when asked for, where the tree can have them; else they are among the refused.
+// down along the given rows beside it; a single text goes into all the selected cells. Lines past
+// the last row become new rows when asked for, where the tree can have them; else they are among
+// the refused.
 pasted paste(myModel *model, const QModelIndex &start, const QModelIndexList &selected,
-             const QList<int> &columns, const QString &text, bool newRows,
+             QList<int> rows, const QList<int> &columns, const QString &text, bool newRows,
              htmlView *view = nullptr);
 
 // Pastes the text into new top-level rows, the first of which becomes row "at", from a column on.

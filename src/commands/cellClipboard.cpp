@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QMimeData>
 
 namespace cellClipboard {
 
@@ -28,6 +29,16 @@ QList<int> seenColumns(const QHeaderView *header)
         if (!header->isSectionHidden(header->logicalIndex(visual)))
             columns.append(header->logicalIndex(visual));
     return columns;
+}
+
+// What a search hides is not pasted over.
+QList<int> seenRowsFrom(const myTreeView *view, const QModelIndex &start)
+{
+    QList<int> rows;
+    for (int row = start.row(); row < view->model()->rowCount(start.parent()); ++row)
+        if (!view->isRowHidden(row, start.parent()))
+            rows.append(row);
+    return rows;
 }
 
 int carryOut(cellBlock::pasted pasted, const pushFunction &push)
@@ -64,12 +75,14 @@ int paste(myTreeView *view, const pushFunction &push, htmlView *page)
 {
     const QModelIndexList cells = view->selectedCells();
     const QModelIndex start = cells.isEmpty() ? view->currentIndex() : cells.first();
-    if (!start.isValid())
+    const QMimeData *copied = QApplication::clipboard()->mimeData();
+    if (!start.isValid() || !copied || !copied->hasText())
         return 0;
     auto *model = static_cast<myModel *>(view->model());
-    const QString text = QApplication::clipboard()->text();
+    const QString text = copied->text();
+    const QList<int> rows = seenRowsFrom(view, start);
     bool newRows = false;
-    const int beyond = cellBlock::linesBeyond(start, text);
+    const int beyond = cellBlock::linesBeyond(rows, text);
     if (beyond > 0 && model->records() && canHaveNewRows(model)) {
         const std::optional<int> answer = userPrompts().decide(
             QCoreApplication::translate(
@@ -81,9 +94,9 @@ int paste(myTreeView *view, const pushFunction &push, htmlView *page)
             return 0;
         newRows = answer == 0;
     }
-    return carryOut(
-        cellBlock::paste(model, start, cells, seenColumns(view->header()), text, newRows, page),
-        push);
+    return carryOut(cellBlock::paste(model, start, cells, rows, seenColumns(view->header()), text,
+                                     newRows, page),
+                    push);
 }
 
 int pasteRows(myTreeView *view, int at, int usualColumn, const pushFunction &push)

@@ -9,6 +9,7 @@
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/prompts.h"
+#include "window/searchLine.h"
 #include "window/workProgress.h"
 
 #include <QApplication>
@@ -18,14 +19,11 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QStatusBar>
-#include <QTimer>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include <set>
 
@@ -34,7 +32,6 @@ using myItem::myItemStandard;
 
 namespace {
 
-constexpr int filterDelayMs = 40;
 // What the clipboard holds while copied materials wait here.
 constexpr const char *materialsFormat = "application/x-kivzp-materials";
 const actionRow toolsSeparator{nullptr, "Tools", nullptr, nullptr, nullptr, nullptr, false};
@@ -215,32 +212,14 @@ void Kiv_mat_databaseWindow::buildWidgets()
         return faultOf(item, value.toString());
     });
 
-    m_words = new QLineEdit(page);
-    m_words->setObjectName(QStringLiteral("words"));
-    m_words->setAccessibleName(tr("Words to search for"));
-    m_words->setPlaceholderText(
-        tr("Name, KTM, value, part number: 100n 0603, case:SOT23, price:<2"));
-    m_words->setClearButtonEnabled(true);
+    m_words = new searchLine(m_view);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(2);
-    layout->addWidget(m_words);
-    layout->addWidget(m_view);
     setCentralWidget(page);
     constexpr QSize usualSize(1280, 800);
     resize(usualSize);
 
-    m_filterDelay = new QTimer(this);
-    m_filterDelay->setSingleShot(true);
-    m_filterDelay->setInterval(filterDelayMs);
-    connect(m_filterDelay, &QTimer::timeout, this, &Kiv_mat_databaseWindow::applyFilter);
-    connect(m_words, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
-    connect(m_words, &QLineEdit::returnPressed, this, [this] {
-        applyFilter();
-        m_view->setFocus();
-        goToFound();
-    });
+    connect(m_words, &searchLine::wanted, this, &Kiv_mat_databaseWindow::applyFilter);
+    connect(m_words, &QLineEdit::returnPressed, this, &Kiv_mat_databaseWindow::goToFound);
     // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
     connect(m_model, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &parent, int first, int last) {

@@ -13,11 +13,10 @@
 #include "window/editWindow.h"
 
 class Kiv_mat_databaseMergeWindow;
-class QLineEdit;
-class QTimer;
 class QTreeView;
 class kiv_mat_zpStruct;
 class materialWindow;
+class searchLine;
 enum class databaseReportKind;
 
 using materialKtm = QString;
@@ -154,8 +153,7 @@ private:
     programData::databaseKind m_kind;
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
-    QLineEdit *m_words = nullptr;
-    QTimer *m_filterDelay = nullptr;
+    searchLine *m_words = nullptr;
     std::unique_ptr<databaseTree::rows> m_rows;
     std::vector<std::unique_ptr<materialStruct>> m_copied;
     std::unique_ptr<Kiv_mat_databaseMergeWindow> m_merge;

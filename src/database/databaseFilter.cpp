@@ -3,12 +3,12 @@
 
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
+#include "window/searchLine.h"
 #include "window/workProgress.h"
 
 #include <QAction>
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMenu>
 #include <QStatusBar>
 #include <QTimer>
@@ -33,11 +33,7 @@ const std::pair<const char *, QLatin1String> statusFilters[] = {
 
 // ----------------------------------------------------------------------
 
-void Kiv_mat_databaseWindow::commandFind(bool)
-{
-    m_words->setFocus();
-    m_words->selectAll();
-}
+void Kiv_mat_databaseWindow::commandFind(bool) { m_words->begin(); }
 
 void Kiv_mat_databaseWindow::setFilter(const char *name, const QString &word, bool on)
 {
@@ -78,15 +74,12 @@ void Kiv_mat_databaseWindow::filterRow(QStandardItem *group, int row)
     const auto *material = first ? static_cast<materialStruct *>(first->record) : nullptr;
     if (!material)
         return;
-    const bool hidden = !isShown(*material);
-    if (m_view->isRowHidden(row, group->index()) != hidden)
-        m_view->setRowHidden(row, group->index(), hidden);
+    m_words->setRowShown(first->index(), isShown(*material));
 }
 
 void Kiv_mat_databaseWindow::applyFilter()
 {
-    m_filterDelay->stop();
-    m_query = searchQuery::parse(m_words->text());
+    m_query = m_words->query();
     const bool searching = !m_query.terms().empty();
     m_shownCount = 0;
     int all = 0;
@@ -100,9 +93,7 @@ void Kiv_mat_databaseWindow::applyFilter()
         QStandardItem *item = m_rows->groupItem(group.get());
         if (!item)
             continue;
-        const bool hidden = searching && matches == 0;
-        if (m_view->isRowHidden(item->row(), {}) != hidden)
-            m_view->setRowHidden(item->row(), {}, hidden);
+        m_words->setRowShown(item->index(), !searching || matches > 0);
         if (matches > 0)
             matching.push_back(item);
     }

@@ -74,17 +74,18 @@ QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &m
 
 } // namespace
 
-addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
+addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent, purpose what)
     : QDialog(parent)
     , m_known(known)
+    , m_purpose(what)
     , m_words(new QLineEdit(this))
     , m_view(new QTreeView(this))
     , m_found(new QStandardItemModel(this))
     , m_quantity(new countBox(this, 1, orderTree::quantityMaximum, 1))
-    , m_add(new QPushButton(tr("Add to the order"), this))
+    , m_add(new QPushButton(what == picksOne ? tr("Pick") : tr("Add to the order"), this))
     , m_count(new QLabel(this))
 {
-    setWindowTitle(tr("Add material"));
+    setWindowTitle(what == picksOne ? tr("Pick material") : tr("Add material"));
     m_words->setObjectName(QStringLiteral("words"));
     m_words->setAccessibleName(tr("Words to search for"));
     m_words->setPlaceholderText(
@@ -97,12 +98,13 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAlternatingRowColors(true);
-    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setSelectionMode(what == picksOne ? QAbstractItemView::SingleSelection
+                                              : QAbstractItemView::ExtendedSelection);
     m_quantity->setObjectName(QStringLiteral("quantity"));
     m_quantity->setAccessibleName(labels::quantity());
     m_add->setDefault(true);
     m_count->setTextFormat(Qt::PlainText);
-    auto *close = new QPushButton(tr("Close"), this);
+    auto *close = new QPushButton(what == picksOne ? tr("Cancel") : tr("Close"), this);
     close->setAutoDefault(false);
 
     QStringList captions;
@@ -114,7 +116,10 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
 
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(m_count, 1);
-    bottom->addWidget(new QLabel(labels::quantity(), this));
+    auto *quantityCaption = new QLabel(labels::quantity(), this);
+    quantityCaption->setVisible(what == addsToOrder);
+    m_quantity->setVisible(what == addsToOrder);
+    bottom->addWidget(quantityCaption);
     bottom->addWidget(m_quantity);
     bottom->addWidget(m_add);
     bottom->addWidget(close);
@@ -129,6 +134,18 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent)
     connect(m_view, &QTreeView::doubleClicked, this, &addMaterialDialog::add);
     connect(m_add, &QPushButton::clicked, this, &addMaterialDialog::add);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QString addMaterialDialog::pick(programData &known, QWidget *parent, const QString &words)
+{
+    known.search().prepare();
+    addMaterialDialog dialog(known, parent, picksOne);
+    QString tried = words.simplified();
+    while (!tried.isEmpty() && known.search().find(searchQuery::parse(tried), 1).total == 0)
+        tried = tried.section(QLatin1Char(' '), 0, -2);
+    dialog.m_words->setText(tried.isEmpty() ? words.simplified() : tried);
+    dialog.exec();
+    return dialog.m_picked;
 }
 
 void addMaterialDialog::showNow()
@@ -179,6 +196,11 @@ void addMaterialDialog::add()
     const std::optional<int> quantity = m_quantity->count();
     if (ktms.isEmpty() || !quantity)
         return;
+    if (m_purpose == picksOne) {
+        m_picked = ktms.first();
+        accept();
+        return;
+    }
     emit wanted(ktms, uint(*quantity));
     m_words->setFocus();
     m_words->selectAll();

@@ -1,4 +1,5 @@
-// Finds materials of the loaded databases as the user types, and adds them to the order.
+// Finds materials of the loaded databases as the user types, and adds them to the order, or picks
+// one of them.
 #pragma once
 
 #include <QDialog>
@@ -16,13 +17,23 @@ class addMaterialDialog : public QDialog
 {
     Q_OBJECT
 public:
-    addMaterialDialog(programData &known, QWidget *parent);
+    enum purpose
+    {
+        addsToOrder,
+        picksOne
+    };
+    addMaterialDialog(programData &known, QWidget *parent, purpose what = addsToOrder);
+
+    // Asks for a material, searching for some words at first; the last of them are left out when
+    // all together find nothing. Returns its KTM, empty when none was picked.
+    static QString pick(programData &known, QWidget *parent, const QString &words);
 
     // Shows the dialog with the words searched last, ready to be typed over.
     void showNow();
 
 public slots:
-    // Adds the selected materials with the quantity, and is ready for the next search.
+    // Adds the selected materials with the quantity, and is ready for the next search; or takes the
+    // one that is picked.
     void add();
     // What became of them.
     void showAnswer(const QString &text);
@@ -39,6 +50,8 @@ private:
     void search();
 
     programData &m_known;
+    purpose m_purpose;
+    QString m_picked; // KTM
     QLineEdit *m_words;
     QTreeView *m_view;
     QStandardItemModel *m_found;

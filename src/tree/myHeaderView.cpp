@@ -2,7 +2,7 @@
 
 #include <QHelpEvent>
 #include <QMouseEvent>
-#include <QStyleOptionHeader>
+#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -11,6 +11,7 @@ myHeaderView::myHeaderView(QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent)
 {
     setSectionsMovable(true);
+    setTextElideMode(Qt::ElideNone);
     setDefaultAlignment(Qt::Alignment(QFlag(int(Qt::AlignCenter) | int(Qt::TextWordWrap))));
     setSortIndicator(-1, Qt::AscendingOrder);
     connect(this, &QHeaderView::sectionClicked, this, &myHeaderView::clickedSection);
@@ -23,16 +24,26 @@ QString myHeaderView::captionOf(int section) const
     return model() ? model()->headerData(section, orientation()).toString() : QString();
 }
 
-// Where the style puts the caption of a section of that size.
-QRect myHeaderView::labelIn(const QSize &size, int section) const
+// A unit in brackets is not broken.
+QString myHeaderView::shownCaption(int section) const
+{
+    const QChar noBreak(QChar::Nbsp);
+    return captionOf(section)
+        .replace(QLatin1String("[ "), QLatin1Char('[') + QString(noBreak))
+        .replace(QLatin1String(" ]"), noBreak + QLatin1String("]"));
+}
+
+QStyleOptionHeader myHeaderView::optionOf(const QRect &rect, int section) const
 {
     QStyleOptionHeader option;
     initStyleOption(&option);
-    option.rect = QRect(QPoint(), size);
+    option.rect = rect;
     option.section = section;
     if (isSortIndicatorShown() && sortIndicatorSection() == section)
-        option.sortIndicator = QStyleOptionHeader::SortDown;
-    return style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
+        option.sortIndicator = sortIndicatorOrder() == Qt::AscendingOrder
+                                   ? QStyleOptionHeader::SortDown
+                                   : QStyleOptionHeader::SortUp;
+    return option;
 }
 
 int myHeaderView::heightOf(int section) const
@@ -41,9 +52,10 @@ int myHeaderView::heightOf(int section) const
     // The mark of sorting grows with the section and leaves the caption less room.
     constexpr int attempts = 3;
     for (int i = 0; i < attempts; ++i) {
-        const QRect label = labelIn({sectionSize(section), height}, section);
+        const QStyleOptionHeader option = optionOf({0, 0, sectionSize(section), height}, section);
+        const QRect label = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
         const QRect text = fontMetrics().boundingRect(
-            {0, 0, label.width(), 0}, Qt::AlignCenter | Qt::TextWordWrap, captionOf(section));
+            {0, 0, label.width(), 0}, Qt::AlignCenter | Qt::TextWordWrap, shownCaption(section));
         if (text.height() <= label.height())
             break;
         height += text.height() - label.height();
@@ -60,16 +72,29 @@ QSize myHeaderView::sizeHint() const
     return size;
 }
 
+// The base would break captions at any blank.
 void myHeaderView::paintSection(QPainter *painter, const QRect &rect, int section) const
 {
+    QStyleOptionHeader option = optionOf(rect, section);
+    const int visual = visualIndex(section);
+    option.position = count() == 1            ? QStyleOptionHeader::OnlyOneSection
+                      : visual == 0           ? QStyleOptionHeader::Beginning
+                      : visual == count() - 1 ? QStyleOptionHeader::End
+                                              : QStyleOptionHeader::Middle;
+    if (window()->isActiveWindow())
+        option.state |= QStyle::State_Active;
+    option.text = shownCaption(section);
+    option.textAlignment = defaultAlignment();
     // A word wider than the section would lose both its ends.
-    const int room = labelIn(rect.size(), section).width();
-    const QStringList words = captionOf(section).split(QLatin1Char(' '));
-    const bool fits = std::all_of(words.begin(), words.end(), [&](const QString &word) {
-        return fontMetrics().horizontalAdvance(word) <= room;
-    });
-    const_cast<myHeaderView *>(this)->setTextElideMode(fits ? Qt::ElideNone : Qt::ElideRight);
-    QHeaderView::paintSection(painter, rect, section);
+    const int room = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this).width();
+    const QStringList words = option.text.split(QLatin1Char(' '));
+    if (std::any_of(words.begin(), words.end(), [&](const QString &word) {
+            return fontMetrics().horizontalAdvance(word) > room;
+        }))
+        option.text = fontMetrics().elidedText(captionOf(section), Qt::ElideRight, room);
+    painter->save();
+    style()->drawControl(QStyle::CE_Header, &option, painter, this);
+    painter->restore();
 }
 
 bool myHeaderView::viewportEvent(QEvent *event)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHeaderView>
+#include <QStyleOptionHeader>
 
 class myHeaderView : public QHeaderView
 {
@@ -28,7 +29,8 @@ protected:
 
 private:
     QString captionOf(int section) const;
-    QRect labelIn(const QSize &size, int section) const;
+    QString shownCaption(int section) const;
+    QStyleOptionHeader optionOf(const QRect &rect, int section) const;
     int heightOf(int section) const;
 
     QPoint m_pressPosition;

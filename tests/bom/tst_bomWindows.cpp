@@ -69,6 +69,8 @@ const scenario listActions[] = {
     {"lines@0,2", "#moveDown", "lines@0,2 = R1; status = 1 line moved", edits},
     {"lines@1,2", "#moveUp", "lines@0,2 = R1; status = 1 line moved", edits},
     {"lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
+    {"lines@0,2", "#pickMaterial Ctrl+A 'ams1117' Return", "lines@0,1 = AMS1117-3.3; lines@0,2 = R1; lines@0,3 = 0,75", edits},
+    {"", "#find 'R9' ~100", "counts = 2 lines, 0 of them unknown, 0 found", reads},
     {"", "#sum Return", "boxes ~ Information: ", reads},
 };
 
@@ -104,6 +106,15 @@ const scenario scenarios[] = {
      "lines@0,6 = !!!!!NONE-2; file " PREAMP " ~ <d_ktm>NONE-2<"},
     {"typed and closed", FIRST "lines@0,2 F2 Ctrl+A 'Żuk' Ctrl+W !Yes", "title = closed; file " LIST " ~ Żuk"},
     {"kept open", FIRST CELL "Ctrl+W !Cancel", "lines@0,2 = Żuk"},
+
+    {"what a search hides is not deleted",
+     "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@1,2 F2 Ctrl+A 'T9' Return lines@0,2 +lines@1,2 Ctrl+F 't9' ~100 "
+     "#deleteLines",
+     "lines = 1; lines@0,2 = R1; counts = 1 line, 0 of them unknown, 0 found"},
+    {"one material for one line", "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@0,2 +lines@1,2 #-pickMaterial",
+     "boxes ~ : several lines are selected"},
+    {"unknown ones found", "Ctrl+B|boms@2/0/0,0 Return|Ctrl+F '!!!!!' ~100",
+     "counts = 1 line, 1 of them unknown, 1 found"},
 
     // --- From the database ---
     {"no list is open", INSERT "Return", "boxes ~ No BOM list is open"},

@@ -267,7 +267,7 @@ private slots:
         for (int c = 0; c < orderTree::columnCount; ++c)
             columns.append(c);
         auto pasted =
-            cellBlock::paste(&f.model, f.model.index(0, column), {f.model.index(0, column)}, columns, text, false);
+            cellBlock::paste(&f.model, f.model.index(0, column), {f.model.index(0, column)}, {0, 1}, columns, text, false);
         QStringList cells;
         for (int r = 0; r < 2; ++r)
             for (int c : {column, column + 1})
