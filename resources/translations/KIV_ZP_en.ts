@@ -100,6 +100,13 @@
             <numerusform>%n fields differ</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nothing is selected. Take over all %n difference(s)?</source>
+        <translation>
+            <numerusform>Nothing is selected. Take over the %n difference?</numerusform>
+            <numerusform>Nothing is selected. Take over all %n differences?</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseWindow</name>

@@ -347,6 +347,14 @@
             <numerusform>Różni się %n pól</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nothing is selected. Take over all %n difference(s)?</source>
+        <translation>
+            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
+            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
+            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseWindow</name>
@@ -952,6 +960,10 @@
     <message>
         <source>Fill</source>
         <translation>Wypełnij</translation>
+    </message>
+    <message>
+        <source>the lines are not shown</source>
+        <translation>pozycje nie są pokazane</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,8 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {usualActions::undo, &Kiv_bomWindow::commandUndo},
     {usualActions::redo, &Kiv_bomWindow::commandRedo},
     {usualActions::editSeparator, nullptr},
+    {usualActions::copyCells, &Kiv_bomWindow::commandCopyCells},
+    {usualActions::pasteCells, &Kiv_bomWindow::commandPasteCells},
     {usualActions::fillDown, &Kiv_bomWindow::commandFillDown},
     {{"addFile", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new file"), "data_new_element2_128",
       "Ins", QT_TRANSLATE_NOOP("actions", "Add a BOM list to this folder")},
@@ -122,6 +124,7 @@ Kiv_bomWindow::Kiv_bomWindow(programData &files)
 
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_bomWindow::itemTreeClicked);
+    connect(m_view, &myTreeView::keyUpDown, this, [this] { itemTreeClicked({}, 0, {}); });
     connect(m_view, &QWidget::customContextMenuRequested, this, &Kiv_bomWindow::showContextMenu);
     connect(static_cast<myHeaderView *>(m_view->header()), &myHeaderView::clicked, this,
             &Kiv_bomWindow::headerTreeClicked);
@@ -190,7 +193,7 @@ void Kiv_bomWindow::updateActions()
         setAvailable(name, !files.isEmpty(), tr("there is no list"));
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));
-    for (const char *name : {"delete", "fillDown"})
+    for (const char *name : {"delete", "fillDown", "copyCells", "pasteCells"})
         setAvailable(name, !m_view->markedCells().isEmpty(), tr("nothing is selected"));
     m_counts->setText(tr("%n list(s)", nullptr, int(files.size())) + QLatin1String(", ")
                       + tr("%n of them built", nullptr, built));

@@ -386,6 +386,12 @@ void moveRows::redo()
     m_model->emitAppendOccured();
 }
 
+placesOnly::placesOnly(const myModel *model, const std::vector<int> &rows)
+{
+    for (int at : rows)
+        m_firstCells.push_back(model->item(at));
+}
+
 refreshHtml::refreshHtml(htmlView *view)
     : m_view(view)
 {

@@ -208,6 +208,20 @@ private:
     std::vector<const xmlData *> m_records; // as they stood, where the tree shows another order
 };
 
+// Changes nothing: a group that it stands in is seen in these top-level rows, wherever they are.
+class placesOnly : public command
+{
+public:
+    placesOnly(const myModel *model, const std::vector<int> &rows);
+    void places(std::vector<QStandardItem *> &cells) const override
+    {
+        cells.insert(cells.end(), m_firstCells.begin(), m_firstCells.end());
+    }
+
+private:
+    std::vector<QStandardItem *> m_firstCells;
+};
+
 // What shows the order as a page.
 class htmlView
 {

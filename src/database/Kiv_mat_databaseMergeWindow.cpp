@@ -193,6 +193,12 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
         else
             selected[first.data(placeRole).toInt()];
     }
+    if (selected.empty()
+        && userPrompts().ask(tr("Nothing is selected. Take over all %n difference(s)?", nullptr,
+                                model()->rowCount()),
+                             false)
+               != prompts::answer::yes)
+        return;
     if (selected.empty())
         for (int row = 0; row < model()->rowCount(); ++row)
             selected[model()->item(row)->data(placeRole).toInt()];

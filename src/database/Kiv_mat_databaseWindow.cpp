@@ -229,6 +229,8 @@ void Kiv_mat_databaseWindow::buildWidgets()
             });
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_mat_databaseWindow::itemTreeClicked);
+    connect(m_view, &myTreeView::keyUpDown, this,
+            [this] { itemTreeClicked({}, 0, m_view->currentIndex()); });
     connect(m_view, &QWidget::customContextMenuRequested, this,
             &Kiv_mat_databaseWindow::showContextMenu);
 }

@@ -266,6 +266,7 @@ void MainWindow::buildWidgets()
     m_path = new QLabel(this);
     m_path->setTextFormat(Qt::PlainText);
     m_sums = new QLabel(this);
+    m_sums->setObjectName(QStringLiteral("sums"));
     constexpr int labelMargin = 8;
     for (QLabel *label : {m_path, m_sums})
         label->setContentsMargins(labelMargin, 0, labelMargin, 0);
@@ -295,6 +296,11 @@ void MainWindow::buildWidgets()
     connect(m_order->linesView(), &QWidget::customContextMenuRequested, this,
             &MainWindow::showContextMenu);
     connect(m_order->linesView(), &myTreeView::keyFill, this, &MainWindow::fillSelected);
+    // Once for a key that is held down.
+    auto *summing = new QTimer(this);
+    summing->setSingleShot(true);
+    connect(summing, &QTimer::timeout, this, &MainWindow::showSums);
+    connect(m_order->linesView(), &myTreeView::markChanged, summing, qOverload<>(&QTimer::start));
     connect(m_order->linesView(), &myTreeView::rowsDragged, this,
             [this](const std::vector<int> &rows, int before) {
                 moveRowsBefore(m_order->linesView(), rows, before);
@@ -399,14 +405,18 @@ void MainWindow::updateActions()
 {
     const bool empty = m_order->lines()->rowCount() == 0;
     const QString noLines = tr("the order has no lines");
-    allowWhenUnlocked(
-        {"pasteCells", "addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"});
+    allowWhenUnlocked({"addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"});
     allowWhenUnlocked({"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS",
-                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "fillDown",
-                       "moveUp", "moveDown", "deleteLines", "deleteAll"},
+                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "deleteAll"},
                       !empty, noLines);
-    for (const char *name : {"zpCopy", "allSum", "find", "findNext", "copyCells"})
+    for (const char *name : {"zpCopy", "allSum", "find", "findNext"})
         setAvailable(name, !empty, noLines);
+    // What acts on selected cells does so where they are seen.
+    const bool areSeen = m_tabs->currentWidget() != m_preview;
+    const QString whyNot = areSeen ? noLines : tr("the lines are not shown");
+    allowWhenUnlocked({"pasteCells"}, areSeen, whyNot);
+    allowWhenUnlocked({"fillDown", "moveUp", "moveDown", "deleteLines"}, areSeen && !empty, whyNot);
+    setAvailable("copyCells", areSeen && !empty, whyNot);
     setAvailable("archiveDD", !m_document.path().isEmpty(), tr("the order was not saved yet"));
 }
 
@@ -428,6 +438,7 @@ void MainWindow::currentTabChanged(int)
 {
     if (isPreviewVisible() && m_previewIsOld)
         refreshPreview();
+    updateActions();
 }
 
 void MainWindow::commandPreviewBeside(bool on)

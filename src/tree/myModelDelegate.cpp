@@ -617,6 +617,14 @@ bool myModelDelegate::eventFilter(QObject *watched, QEvent *event)
     // What the base takes for the end of an edit is everyday life in a dialog.
     if (qobject_cast<QDialog *>(watched))
         return false;
+    if (event->type() == QEvent::KeyPress && qobject_cast<myCalendarWidget *>(watched)) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+            && (key->modifiers() & Qt::ControlModifier)) {
+            emit fillWanted();
+            return true;
+        }
+    }
     if (QStyledItemDelegate::eventFilter(watched, event))
         return true;
     auto *editor = qobject_cast<QWidget *>(watched);

@@ -47,6 +47,8 @@ public:
 signals:
     // The text of an editor cannot be taken, for the reason given.
     void refused(const QString &fault);
+    // On Return with Ctrl in an editor that lies over the window, not in the tree.
+    void fillWanted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -5,14 +5,14 @@
 #include "tree/myModelDelegate.h"
 #include "util/text.h"
 
-#include <QDialog>
 #include <QApplication>
+#include <QDialog>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QTimer>
-#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -36,6 +36,8 @@ myTreeView::myTreeView(QWidget *parent)
     auto *delegate = new myModelDelegate(this);
     setItemDelegate(delegate);
     connect(delegate, &myModelDelegate::refused, this, &myTreeView::refused);
+    connect(delegate, &myModelDelegate::fillWanted, this, &myTreeView::keyFill,
+            Qt::QueuedConnection);
     connect(this, &QTreeView::collapsed, this, &myTreeView::deselectHidden);
     // Escape in an editor ends there and never comes here as a key.
     connect(delegate, &QAbstractItemDelegate::closeEditor, this,
@@ -238,6 +240,33 @@ void myTreeView::currentChanged(const QModelIndex &current, const QModelIndex &p
     emit markChanged();
 }
 
+// The row below takes the place of the current one that goes, not the row above.
+void myTreeView::rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
+{
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.parent() == parent && current.row() >= first
+        && current.row() <= last)
+        for (int row = last + 1; row < model()->rowCount(parent); ++row)
+            if (!isRowHidden(row, parent)) {
+                selectionModel()->setCurrentIndex(current.sibling(row, current.column()),
+                                                  QItemSelectionModel::NoUpdate);
+                break;
+            }
+    QTreeView::rowsAboutToBeRemoved(parent, first, last);
+}
+
+// With Ctrl the cursor would go and leave behind what is selected.
+QItemSelectionModel::SelectionFlags myTreeView::selectionCommand(const QModelIndex &index,
+                                                                 const QEvent *event) const
+{
+    if (event && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<const QKeyEvent *>(event);
+        if (key->modifiers() == Qt::ControlModifier && key->key() != Qt::Key_Space)
+            return QItemSelectionModel::ClearAndSelect;
+    }
+    return QTreeView::selectionCommand(index, event);
+}
+
 void myTreeView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTreeView::selectionChanged(selected, deselected);
@@ -376,7 +405,8 @@ void myTreeView::mouseDoubleClickEvent(QMouseEvent *event)
 void myTreeView::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeView::mouseReleaseEvent(event);
-    endDrag(true);
+    // What is let go elsewhere stays.
+    endDrag(viewport()->rect().contains(event->pos()));
     if (const QModelIndex index = hitItem(event); index.isValid()) {
         emit release(event->pos(), uint(event->buttons()), index);
         emit release(index);

@@ -79,6 +79,9 @@ signals:
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void selectionChanged(const QItemSelection &selected,
                           const QItemSelection &deselected) override;
     // A text that does not fit its cell is told whole, always as plain text.
@@ -115,7 +118,7 @@ private:
 
     QPersistentModelIndex m_highlighted;
     QPersistentModelIndex m_edited; // the cell that an editor was opened on last
-    bool m_unmarked = false; // since Escape, until the user goes on
+    bool m_unmarked = false;        // since Escape, until the user goes on
     bool m_tabGoesDown = false;
     bool m_rowsDragged = false;
     QPoint m_pressed;

@@ -120,6 +120,8 @@ void editWindow::showState()
     const bool modified = isModified();
     setWindowTitle(title() + (modified ? QLatin1String(" *") : QLatin1String()));
     m_changed->setVisible(modified);
+    if (modified && statusBar()->currentMessage() == tr("Saved"))
+        statusBar()->clearMessage();
     if (modified && !m_storing->isActive())
         m_storing->start();
     updateActions();

@@ -118,6 +118,7 @@ void editWindow::moveRowsBefore(myTreeView *view, const std::vector<int> &rows, 
     const int column = qMax(0, view->currentIndex().column());
     const int to = before - int(std::lower_bound(rows.begin(), rows.end(), before) - rows.begin());
     std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<placesOnly>(modelOf(view), rows));
     members.push_back(std::make_unique<moveRows>(modelOf(view), rows, before));
     pushMove(view, std::move(members), int(rows.size()));
     view->goTo(view->model()->index(to, column));
@@ -143,6 +144,7 @@ void editWindow::moveMarkedRows(myTreeView *view, bool up)
     std::vector<std::unique_ptr<command>> members;
     {
         const changeBatch batch(model);
+        members.push_back(std::make_unique<placesOnly>(model, rows));
         for (auto first = rows.begin(); first != rows.end();) {
             auto last = first;
             while (last + 1 != rows.end() && *(last + 1) == *last + 1)
@@ -237,11 +239,11 @@ bool editWindow::isOwnKey(QWidget *field, const QKeyEvent *event) const
     if (pressed == action("redo")->shortcut())
         return inTree || (line ? line->isRedoAvailable() : text->document()->isRedoAvailable());
     for (QKeySequence::StandardKey key :
-         {QKeySequence::Copy, QKeySequence::Cut, QKeySequence::Paste, QKeySequence::SelectAll,
-          QKeySequence::Delete})
+         {QKeySequence::Copy, QKeySequence::Cut, QKeySequence::Paste, QKeySequence::SelectAll})
         if (event->matches(key))
             return true;
-    return false;
+    // Not Ctrl+D, which some desktops have for it, too.
+    return event->key() == Qt::Key_Delete;
 }
 
 bool editWindow::takesShortcut(const QKeyEvent *event) const

@@ -43,6 +43,8 @@ const scenario setActions[] = {
     {"boms@0/1,0", "#addFile '%/far.xml' Return", "boms@0/1/0,2 = %/far.xml", edits},
     {"", "#addFile '%/_files/firms.xml' Return Return", "errors ~ firms.xml</b>; title = Bill of materials"},
     {"boms@1/0/0,0", "#addGroup 'Żuk' Return", "boms@1/2,0 = Żuk", edits},
+    {SETS "boms@0/0/0,1", "#copyCells", "clipboard = 2"},
+    {SETS "boms@0/0/0,1 Ctrl+C boms@1/0/0,1", "#pasteCells", "boms@1/0/0,1 = 2", edits},
     {SETS "boms@0/0/0,1 +boms@1/0/0,1", "#fillDown", "boms@1/0/0,1 = 2", edits},
     {"boms@0/0/0,0 +boms@0/1,0", "#delete", "boms@0/0/0,0 =; boms@0/1,0 =", edits},
     {"boms@0,0", "#delete Return", "boxes = Information: Only empty folders can be deleted"},
