@@ -4010,10 +4010,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Tu potrzebna jest liczba</translation>
     </message>
     <message>
-        <source>%1: dates from %2 to %3</source>
-        <translation>%1: daty od %2 do %3</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not in the list</source>
         <translation>„%1” nie ma na liście</translation>
     </message>
@@ -4024,6 +4020,13 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>This cell takes no text</source>
         <translation>Ta komórka nie przyjmuje tekstu</translation>
+    </message>
+</context>
+<context>
+    <name>myModelDelegate</name>
+    <message>
+        <source>&quot;%1&quot; is not in the list</source>
+        <translation>„%1” nie ma na liście</translation>
     </message>
 </context>
 <context>
@@ -4491,6 +4494,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no date: write 24.12, 24.12.2026 or +14</source>
         <translation>%1 nie jest datą: wpisz 24.12, 24.12.2026 albo +14</translation>
+    </message>
+    <message>
+        <source>%1: dates from %2 to %3</source>
+        <translation>%1: daty od %2 do %3</translation>
     </message>
 </context>
 <context>

@@ -38,7 +38,7 @@ cellTraits traitsOf(const QString &key, const configStruct &config)
     cellTraits traits{key, lineEditKind, true, {}, false, 0, 0};
     if (key == QLatin1String("d_price") || key == QLatin1String("d_averagePrice"))
         traits.kind = moneyKind;
-    if (key == QLatin1String("d_inWarehouse")) {
+    if (key == QLatin1String("d_inWarehouse") || key == QLatin1String("d_quantity")) {
         traits.kind = spinBoxKind;
         traits.maximum = std::numeric_limits<int>::max();
     }

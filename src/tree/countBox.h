@@ -14,7 +14,8 @@ public:
         setFrame(true);
         show(QString::number(initial));
         selectAll();
-        connect(lineEdit(), &QLineEdit::textEdited, this, [this] { refusal::mark(this, {}); });
+        connect(lineEdit(), &QLineEdit::textEdited, this,
+                [this] { refusal::mark(this, {}, lineEdit()); });
     }
 
     // The number; nothing, with the box marked, when the text is none.

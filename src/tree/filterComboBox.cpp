@@ -93,8 +93,8 @@ int filterComboBox::chosen() const
 QString filterComboBox::typedText() const { return lineEdit()->text().trimmed(); }
 
 // Fills the list with the entries that hold the text, and marks the best of them: the same text,
-// else one that begins with it. Where anything may be typed the text itself stands last, and counts
-// when no entry begins with it.
+// else one that begins with it, else the first. Where anything may be typed the text itself stands
+// last, and counts when no entry holds it.
 void filterComboBox::filter(const QString &typed)
 {
     const std::string wanted = text::folded(typed.trimmed());
@@ -119,7 +119,8 @@ void filterComboBox::filter(const QString &typed)
             typed.trimmed().isEmpty() ? tr("(nothing)") : tr("%1 (as typed)").arg(typed.trimmed()),
             m_list);
         item->setData(entryRole, -1);
-        mark(begins && !wanted.empty() ? begins : item);
+        QListWidgetItem *first = begins ? begins : m_list->item(0);
+        mark(wanted.empty() ? item : first);
     } else {
         mark(same ? same : begins ? begins : m_list->item(0));
         // An emptied text chooses nothing.

@@ -104,9 +104,12 @@ void myCalendarWidget::setSelectedDate(const QDate &date)
     m_calendar->setSelectedDate(date.isValid() ? date : QDate::currentDate());
     m_line->setText(date.toString(labels::dateFormat()));
     m_line->selectAll();
+    m_loaded = selectedDate();
     m_chosen = false;
     m_typed = false;
 }
+
+void myCalendarWidget::hideButton() { m_set->hide(); }
 
 void myCalendarWidget::setRange(const QDate &first, const QDate &last)
 {
@@ -133,15 +136,15 @@ void myCalendarWidget::moveTo(const QDate &date)
     m_typed = false;
 }
 
-// The day that the typed text means is marked as soon as it means one.
+// The day that the typed text means is marked, the one from before while it means none.
 void myCalendarWidget::showTyped()
 {
     m_typed = true;
-    const QDate date = typed::readDay(m_line->text(), QDate::currentDate()).date;
-    if (!date.isValid() || date < m_calendar->minimumDate() || date > m_calendar->maximumDate())
-        return;
+    const QDate date = typed::readDay(m_line->text(), QDate::currentDate(),
+                                      m_calendar->minimumDate(), m_calendar->maximumDate())
+                           .date;
     const QSignalBlocker quiet(m_calendar);
-    m_calendar->setSelectedDate(date);
+    m_calendar->setSelectedDate(date.isValid() ? date : m_loaded);
 }
 
 void myCalendarWidget::keyPressEvent(QKeyEvent *event)
@@ -173,7 +176,16 @@ void myCalendarWidget::keyPressEvent(QKeyEvent *event)
     case Qt::Key_End:
         moveTo(QDate(day.year(), day.month(), day.daysInMonth()));
         break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        // Of the tree's delegate, or of a dialog.
+        event->ignore();
+        return;
     default:
+        // Typing replaces the day that is shown.
+        if (!m_typed)
+            m_line->selectAll();
         static_cast<QObject *>(m_line)->event(event);
     }
     event->accept();

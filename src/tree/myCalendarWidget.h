@@ -27,9 +27,8 @@ public:
     QCalendarWidget *calendar() const { return m_calendar; }
     QLineEdit *line() const { return m_line; }
 
-    // The look and language of the program's calendars.
-    static void prepare(QCalendarWidget *calendar);
-
+    // For dialogs, which have a button of their own.
+    void hideButton();
 signals:
     void chosen();
 
@@ -42,12 +41,14 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    static void prepare(QCalendarWidget *calendar);
     void moveTo(const QDate &date);
     void showTyped();
 
     QCalendarWidget *m_calendar;
     QLineEdit *m_line;
     QPushButton *m_set;
+    QDate m_loaded;
     bool m_chosen = false;
     bool m_typed = false;
 };

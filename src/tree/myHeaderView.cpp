@@ -1,6 +1,8 @@
 #include "tree/myHeaderView.h"
 
+#include "tree/myTreeView.h"
 #include <QHelpEvent>
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -113,6 +115,9 @@ void myHeaderView::clickedSection(int section)
 
 void myHeaderView::mousePressEvent(QMouseEvent *event)
 {
+    // Sorting would take away the editor of a refused text.
+    if (auto *view = qobject_cast<myTreeView *>(parentWidget()); view && !view->finishEditing())
+        return;
     m_pressPosition = event->pos();
     m_pressButtons = uint(event->buttons());
     setSectionsClickable(true);

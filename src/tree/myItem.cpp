@@ -474,14 +474,8 @@ reading readDate(const myItemDateEdit &item, const QString &text)
         if (text.compare(word, Qt::CaseInsensitive) == 0
             || text.compare(labels::shown(word), Qt::CaseInsensitive) == 0)
             return {word, {}};
-    const auto [date, fault] = typed::readDay(text, QDate::currentDate());
-    if (!fault.isEmpty())
-        return {{}, fault};
-    if (date < firstDate() || date > lastDate())
-        return {{},
-                QCoreApplication::translate("myItem", "%1: dates from %2 to %3")
-                    .arg(dateText(date), dateText(firstDate()), dateText(lastDate()))};
-    return {date, {}};
+    const auto [date, fault] = typed::readDay(text, QDate::currentDate(), firstDate(), lastDate());
+    return {fault.isEmpty() ? QVariant(date) : QVariant(), fault};
 }
 
 reading readChoice(const myItemComboBox &combo, const QString &text)

@@ -469,6 +469,8 @@ void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
         break;
     case fontComboBoxKind:
         static_cast<QFontComboBox *>(editor)->setCurrentFont(value.value<QFont>());
+        // Also one that is not here.
+        static_cast<QFontComboBox *>(editor)->setEditText(item->text());
         break;
     case pathEditKind:
         loadPath(static_cast<QFileDialog *>(editor), *item);
@@ -526,9 +528,12 @@ reading myModelDelegate::readEditor(QWidget *editor, const myModel &model,
     }
     case fontComboBoxKind: {
         const auto *box = static_cast<QFontComboBox *>(editor);
-        return box->currentText() == editor->property(loadedProperty).toString()
-                   ? reading()
-                   : reading{box->currentFont(), {}};
+        const QString typed = box->currentText();
+        if (typed == editor->property(loadedProperty).toString())
+            return {};
+        if (box->findText(typed, Qt::MatchFixedString) < 0)
+            return {{}, tr("\"%1\" is not in the list").arg(typed)};
+        return {QFont(typed), {}};
     }
     case pathEditKind: {
         auto *dialog = static_cast<QFileDialog *>(editor);

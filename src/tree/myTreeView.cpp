@@ -3,6 +3,7 @@
 #include "tree/myHeaderView.h"
 #include "tree/myModel.h"
 #include "tree/myModelDelegate.h"
+#include "tree/refusal.h"
 #include "util/text.h"
 
 #include <QApplication>
@@ -12,6 +13,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
 
@@ -77,8 +80,8 @@ bool myTreeView::finishEditing()
 {
     // Dialogs, which are windows of their own, end by their own buttons.
     const QPointer<QWidget> editor = m_edited.isValid() ? indexWidget(m_edited) : nullptr;
-    if (!editor || state() != EditingState || !editor->isVisible()
-        || qobject_cast<QDialog *>(editor))
+    // Its page may be behind another one.
+    if (!editor || state() != EditingState || editor->isHidden() || qobject_cast<QDialog *>(editor))
         return true;
     emit itemDelegate()->commitData(editor);
     if (!editor)
@@ -96,7 +99,17 @@ void myTreeView::backToEditor(QWidget *editor)
 {
     if (m_edited.isValid() && currentIndex() != m_edited)
         selectionModel()->setCurrentIndex(m_edited, QItemSelectionModel::ClearAndSelect);
+    showPage();
     editor->setFocus();
+    refusal::tell(editor);
+}
+
+void myTreeView::showPage()
+{
+    for (QWidget *page = this; page; page = page->parentWidget())
+        if (auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget()))
+            if (auto *tabs = qobject_cast<QTabWidget *>(stack->parentWidget()))
+                tabs->setCurrentWidget(page);
 }
 
 void myTreeView::setEditingLocked(bool locked)

@@ -28,6 +28,9 @@ public:
     // editor stays open then, and says why.
     bool finishEditing();
 
+    // Brings the page that the tree is on to the front of its tabs.
+    void showPage();
+
     // While locked no editor opens.
     void setEditingLocked(bool locked);
     bool isEditingLocked() const { return editTriggers() == NoEditTriggers; }

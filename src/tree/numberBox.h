@@ -24,6 +24,8 @@ public:
     {
         this->setRange(minimum, maximum);
         this->setFrame(false);
+        // Else the cell shows through the arrows.
+        this->setAutoFillBackground(true);
         this->setAlignment(Qt::AlignRight);
         QObject::connect(this->lineEdit(), &QLineEdit::textChanged, this,
                          [this](const QString &text) { m_text = text; });

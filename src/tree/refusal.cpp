@@ -37,7 +37,12 @@ void mark(QWidget *editor, const QString &fault, QWidget *line)
     if (fault.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(editor->mapToGlobal(QPoint(0, editor->height())), shown, editor);
+        tell(editor);
+}
+
+void tell(QWidget *editor)
+{
+    QToolTip::showText(editor->mapToGlobal(QPoint(0, editor->height())), editor->toolTip(), editor);
 }
 
 } // namespace refusal

@@ -11,5 +11,7 @@ namespace refusal {
 // that is typed in, the editor itself when null.
 void mark(QWidget *editor, const QString &fault, QWidget *line = nullptr);
 bool isMarked(const QWidget *editor);
+// Shows the reason of a marked editor again.
+void tell(QWidget *editor);
 
 } // namespace refusal

@@ -1,7 +1,11 @@
 #include "util/typed.h"
 
+#include "util/labels.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace typed {
 
@@ -55,7 +59,11 @@ number readNumber(const QString &given, const numberForm &form)
     if (!match.hasMatch())
         return refused(tr("%1 is not a number"));
     const QString unit = match.captured(3);
-    if (!unit.isEmpty() && !form.units.contains(unit, Qt::CaseInsensitive)) {
+    const auto isUnit = [&unit](const QString &known) {
+        return unit.compare(known, Qt::CaseInsensitive) == 0
+               || (unit + QLatin1Char('.')).compare(known, Qt::CaseInsensitive) == 0;
+    };
+    if (!unit.isEmpty() && std::none_of(form.units.begin(), form.units.end(), isUnit)) {
         const QString expected = form.units.value(0);
         return refused(expected.isEmpty() || !unit.front().isLetter()
                            ? tr("%1 is not a number")
@@ -113,6 +121,15 @@ day readDay(const QString &given, const QDate &today)
     if (date.isValid())
         return {date, {}};
     return {{}, tr("%1 is no date: write 24.12, 24.12.2026 or +14").arg(text)};
+}
+
+day readDay(const QString &text, const QDate &today, const QDate &first, const QDate &last)
+{
+    const day read = readDay(text, today);
+    if (!read.fault.isEmpty() || (read.date >= first && read.date <= last))
+        return read;
+    const auto shown = [](const QDate &date) { return date.toString(labels::dateFormat()); };
+    return {{}, tr("%1: dates from %2 to %3").arg(shown(read.date), shown(first), shown(last))};
 }
 
 } // namespace typed

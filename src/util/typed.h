@@ -38,5 +38,7 @@ struct day
 // Reads "24.12.2026", "24.12.26", "2026-12-24", "24.12" (the next one from today on) and "+14"
 // (days from today); point, hyphen, slash or comma between the parts.
 day readDay(const QString &text, const QDate &today);
+// The same, from one day to another only.
+day readDay(const QString &text, const QDate &today, const QDate &first, const QDate &last);
 
 } // namespace typed

@@ -2,12 +2,13 @@
 
 #include "tree/countBox.h"
 #include "tree/myCalendarWidget.h"
+#include "tree/refusal.h"
 #include "util/labels.h"
 #include "util/text.h"
+#include "util/typed.h"
 #include "window/messageWindow.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -17,6 +18,8 @@
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr QSize calendarSize(260, 200);
 
 QString titleOf(const char *text) { return QCoreApplication::translate("prompts", text); }
 
@@ -127,18 +130,29 @@ std::optional<QDate> dialogPrompts::inputDate(const QString &title, const QDate 
 {
     QDialog dialog(QApplication::activeWindow());
     dialog.setWindowTitle(title);
-    auto *calendar = new QCalendarWidget(&dialog);
-    calendar->setDateRange(QDate::currentDate(), QDate::currentDate().addYears(1));
+    auto *calendar = new myCalendarWidget(&dialog);
+    calendar->setObjectName(QStringLiteral("date"));
+    calendar->setRange(QDate::currentDate(), QDate::currentDate().addYears(1));
     calendar->setSelectedDate(initial);
-    myCalendarWidget::prepare(calendar);
     calendar->setAccessibleName(title);
+    calendar->hideButton();
+    calendar->setMinimumSize(calendarSize);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, [&dialog, calendar] {
+        const QString typed = calendar->typedText();
+        const QDate today = QDate::currentDate();
+        const QString fault = typed.isNull()
+                                  ? QString()
+                                  : typed::readDay(typed, today, today, today.addYears(1)).fault;
+        refusal::mark(calendar, fault, calendar->line());
+        if (fault.isEmpty())
+            dialog.accept();
+    });
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    QObject::connect(calendar, &QCalendarWidget::activated, &dialog, &QDialog::accept);
     auto *layout = new QVBoxLayout(&dialog);
     layout->addWidget(calendar);
     layout->addWidget(buttons);
+    calendar->setFocus();
     return dialog.exec() == QDialog::Accepted ? std::optional(calendar->selectedDate())
                                               : std::nullopt;
 }

@@ -12,10 +12,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
-#include <QStackedWidget>
 #include <QStandardItem>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QTimer>
 #include <QUrl>
 
@@ -253,11 +251,7 @@ void editWindow::showMoved()
         }
         if (!first.isValid())
             continue;
-        // It may be on another page.
-        for (QWidget *page = view; page && page != this; page = page->parentWidget())
-            if (auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget()))
-                if (auto *tabs = qobject_cast<QTabWidget *>(stack->parentWidget()))
-                    tabs->setCurrentWidget(page);
+        view->showPage();
         view->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
         view->selectionModel()->select(moved, QItemSelectionModel::ClearAndSelect);
         view->scrollTo(first);
