@@ -2615,6 +2615,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
     </message>
+    <message>
+        <source>too many namespaces</source>
+        <translation>za dużo przestrzeni nazw</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>

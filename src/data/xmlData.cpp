@@ -29,6 +29,23 @@ private:
 
 std::unique_ptr<recentTexts> sharedTexts;
 
+// Every name is looked for among all namespaces declared around it, and unknown elements may nest
+// to any depth. No file of ours declares more than one.
+class namespaceWatch
+{
+public:
+    void unknownElement(QXmlStreamReader *reader)
+    {
+        constexpr int most = 1000;
+        if (m_declaring <= most && !reader->namespaceDeclarations().isEmpty()
+            && ++m_declaring > most)
+            reader->raiseError(QCoreApplication::translate("data", "too many namespaces"));
+    }
+
+private:
+    int m_declaring = 0;
+};
+
 } // namespace
 
 int xmlData::readXml(QXmlStreamReader *) { return 0; }
@@ -39,6 +56,7 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
 {
     const std::vector<QString> &tags = *handlers.tags;
     size_t expected = 0;
+    namespaceWatch watch;
     reader->readNext();
     while (!reader->atEnd()) {
         if (reader->isEndElement() && reader->name() == endTag)
@@ -51,6 +69,8 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
             expected = found + 1;
             handlers.handler->readTag(reader, found);
         } else {
+            if (reader->isStartElement())
+                watch.unknownElement(reader);
             reader->readNext();
         }
     }
@@ -59,12 +79,15 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
 
 bool readToElement(QXmlStreamReader *reader, const QString &name)
 {
+    namespaceWatch watch;
     while (!reader->atEnd()) {
         reader->readNext();
         if (reader->isDTD())
             reader->raiseError(documentTypeRefused());
         else if (reader->isStartElement() && (name.isEmpty() || reader->name() == name))
             return true;
+        else if (reader->isStartElement())
+            watch.unknownElement(reader);
     }
     return false;
 }

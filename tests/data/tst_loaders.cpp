@@ -222,6 +222,7 @@ private slots:
             false, 0);
         row("100,000 levels", order(deepOpen + QByteArray("</a>").repeated(100000)), false, 0);
         row("100,000 levels left open", order(deepOpen), false, -1);
+        row("many namespaces around", order(QByteArray("<a xmlns:b=\"u\">").repeated(100000)), false, -1);
         row(
             "1,000 attributes",
             [] {
