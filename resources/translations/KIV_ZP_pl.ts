@@ -590,6 +590,10 @@
         <source>No material is selected</source>
         <translation>Nie zaznaczono żadnego materiału</translation>
     </message>
+    <message>
+        <source>Saving</source>
+        <translation>Zapisywanie</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -2619,6 +2623,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>too many namespaces</source>
         <translation>za dużo przestrzeni nazw</translation>
     </message>
+    <message>
+        <source>a text has a character that no file can hold</source>
+        <translation>jeden z tekstów ma znak, którego nie można zapisać w pliku</translation>
+    </message>
+    <message>
+        <source>it would not open again: %1</source>
+        <translation>nie dałoby się go ponownie otworzyć: %1</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -4358,6 +4370,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no address of a page, of mail or of a file server</source>
         <translation>%1 nie jest adresem strony, poczty ani serwera plików</translation>
+    </message>
+</context>
+<context>
+    <name>safeFile</name>
+    <message>
+        <source>no file can stand there</source>
+        <translation>nie może tam być pliku</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>nie można utworzyć jego folderu</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>plik jest tylko do odczytu</translation>
     </message>
 </context>
 <context>

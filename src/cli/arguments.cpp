@@ -156,10 +156,12 @@ QCommandLineOption outputOption(const char *description)
             QStringLiteral("OUT")};
 }
 
-int cannotWrite(const QString &path)
+int cannotWrite(const QString &path, const QString &reason)
 {
-    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
+    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written");
+    if (!reason.isEmpty())
+        err() << ": " << reason;
+    err() << '\n' << Qt::flush;
     return notWritten;
 }
 

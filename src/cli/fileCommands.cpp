@@ -150,11 +150,9 @@ int runResave(const QStringList &arguments)
     if (!document)
         return refused;
     const QString target = options.positionalArguments().at(1);
-    if (saveXmlNoEvents(target, document.get()) == 0)
-        return done;
-    err() << target << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
-    return notWritten;
+    QString reason;
+    return saveXmlNoEvents(target, document.get(), &reason) == 0 ? int(done)
+                                                                 : cannotWrite(target, reason);
 }
 
 } // namespace

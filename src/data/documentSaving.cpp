@@ -19,7 +19,8 @@ fileState fileState::of(const QString &path)
     return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
 }
 
-bool saveDocument(const QString &path, const documentStruct &document, configStruct &config)
+bool saveDocument(const QString &path, const documentStruct &document, configStruct &config,
+                  const workShown &shown)
 {
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
@@ -27,11 +28,26 @@ bool saveDocument(const QString &path, const documentStruct &document, configStr
     if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
         userPrompts().log(messages::done(
             QCoreApplication::translate("log", "No backup could be written "), path, backups));
-    if (saveXmlNoEvents(path, &document) < 0) {
+    bool written = false;
+    bool cancelled = false;
+    QString reason;
+    const auto write = [&](const progressFunction &progress) {
+        const auto watched = [&](long long done, long long total) {
+            cancelled = progress && !progress(done, total);
+            return !cancelled;
+        };
+        written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
+    };
+    if (shown)
+        shown(write);
+    else
+        write({});
+    if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
+                                + QLatin1String("<br>") + reason.toHtmlEscaped());
+    if (!written)
         return false;
-    }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
     return true;
 }
