@@ -71,8 +71,8 @@ bool parser::accept(const QStringList &arguments)
 bool validateFile(const QString &path)
 {
     // A file of no known kind is told by the schema with the most kinds.
-    const fileKind *kind = fileKinds::ofFile(path);
-    const QString schema = paths::schema(kind ? kind->schema : QStringLiteral("kiv_mat.xsd"));
+    const QString named = fileKinds::headOf(path).schema;
+    const QString schema = paths::schema(named.isEmpty() ? QStringLiteral("kiv_mat.xsd") : named);
     XmlValidator validator;
     if (validator.validate(path, schema, false))
         return true;

@@ -19,15 +19,26 @@ fileState fileState::of(const QString &path)
     return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
 }
 
-bool saveDocument(const QString &path, const documentStruct &document, configStruct &config,
+bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
                   const workShown &shown)
 {
+    const leftOutContent leftOut = document.leftOut;
+    if (leftOut.count > 0
+        && userPrompts().ask(
+               QCoreApplication::translate("data", "Saving %1 loses what the program does not know:"
+                                                   " %2. Save it all the same?")
+                   .arg(QDir::toNativeSeparators(path).toHtmlEscaped(),
+                        leftOut.text().toHtmlEscaped()),
+               false)
+               != prompts::answer::yes)
+        return false;
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QString backups = config.backupPath();
     if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
         userPrompts().log(messages::done(
             QCoreApplication::translate("log", "No backup could be written "), path, backups));
+    document.leftOut = {};
     bool written = false;
     bool cancelled = false;
     QString reason;
@@ -46,8 +57,10 @@ bool saveDocument(const QString &path, const documentStruct &document, configStr
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
                                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
                                 + QLatin1String("<br>") + reason.toHtmlEscaped());
-    if (!written)
+    if (!written) {
+        document.leftOut = leftOut;
         return false;
+    }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));
     return true;
 }

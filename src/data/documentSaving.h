@@ -25,5 +25,5 @@ using workShown = std::function<void(const std::function<void(const progressFunc
 // Writes a document over the file, whose earlier version goes to the configuration's folder for
 // backups, and says so in the log. False, with the file as it was, when it cannot be written or
 // would not open again, which the user is told with the reason, or when the user cancelled it.
-bool saveDocument(const QString &path, const documentStruct &document, configStruct &config,
+bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
                   const workShown &shown = {});

@@ -9,8 +9,10 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "util/messages.h"
 #include "util/paths.h"
 #include "util/progressFile.h"
+#include "util/prompts.h"
 #include "util/safeFile.h"
 
 #include <QCoreApplication>
@@ -31,6 +33,8 @@ void readRootAttributes(QXmlStreamReader &reader, documentStruct *record)
     };
     take(QStringLiteral("noNamespaceSchemaLocation"), record->schemaLocation);
     take(QStringLiteral("type"), record->xsiType);
+    noteOtherAttributes(&reader,
+                        {QStringLiteral("noNamespaceSchemaLocation"), QStringLiteral("type")});
 }
 
 } // namespace
@@ -52,7 +56,15 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
             *error = file.errorString();
         return -1;
     }
+    const QString fault = beginningFault(file);
+    if (!fault.isEmpty()) {
+        if (error)
+            *error = fault;
+        return -1;
+    }
     const textSharing sharing;
+    record->leftOut = {};
+    const leftOutWatch watch(&record->leftOut);
     QXmlStreamReader reader(&file);
     const QString &root = record->kind().root;
     if (readToElement(&reader, root)) {
@@ -65,10 +77,11 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError() && error)
-        *error = QCoreApplication::translate("data", "line %1, column %2: %3")
-                     .arg(reader.lineNumber())
-                     .arg(reader.columnNumber())
-                     .arg(file.tooManyAttributes() ? tooManyAttributes() : reader.errorString());
+        *error = readerFault(reader, file);
+    if (record->leftOut.count > 0)
+        userPrompts().listError(messages::failed(
+            QCoreApplication::translate("data", "Unknown content, lost when saved: "), filePath,
+            record->leftOut.text()));
     return reader.hasError() ? -1 : 0;
 }
 
@@ -183,6 +196,12 @@ int saveXmlNoEvents(const QString &filePath, const xmlData *record, QString *err
     const auto *document = dynamic_cast<const documentStruct *>(record);
     if (!document || rule == saveRule::whatever)
         return writeFile(filePath, record, error, progress, {});
+    if (document->leftOut.count > 0) {
+        if (error)
+            *error = QCoreApplication::translate("data", "it would lose %1")
+                         .arg(document->leftOut.text());
+        return -1;
+    }
     // Writing and checking take about the same time.
     const auto half = [&progress](int before) {
         if (!progress)

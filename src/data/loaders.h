@@ -24,7 +24,8 @@ struct fileKind;
 // Results: 0 read to the end without a parse error (also when the root element is another kind's:
 // then nothing is read), -1 the file cannot be opened or is no XML (what was read so far stays in
 // the record), 1 (loadConfig only) refused by its schema, nothing read. No loader but loadConfig
-// validates: whoever opens a user's file validates first.
+// validates: whoever opens a user's file validates first. What a file holds and no record takes is
+// noted in documentStruct::leftOut and told in a line of the errors window.
 int loadZp(const QString &filePath, kiv_mat_zpStruct *record);
 int loadDatabase(const QString &filePath, kiv_mat_databaseStruct *record);
 int loadFirm(const QString &filePath, kiv_mat_firmStruct *record);

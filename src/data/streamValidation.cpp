@@ -1,5 +1,6 @@
 #include "data/streamValidation.h"
 
+#include "data/documentStruct.h"
 #include "data/schemaCache.h"
 #include "data/xmlData.h"
 #include "util/progressFile.h"
@@ -250,6 +251,12 @@ validationResult validateStreaming(const QString &xmlPath, const QString &xsdPat
         state.result.messages.append(
             {0, 0, QCoreApplication::translate("data", "the file cannot be read")});
         state.result.messageCount = 1;
+        return state.result;
+    }
+    const QString fault = beginningFault(state.file);
+    if (!fault.isEmpty()) {
+        state.result.refusedOutright = true;
+        state.add(0, 0, fault);
         return state.result;
     }
     // One handler takes the messages of the parser and of the schema, each without its own.
