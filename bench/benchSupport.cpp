@@ -34,13 +34,13 @@ void copyFolder(const QString &from, const QString &to)
     }
 }
 
-QString realDatabase()
+QString realDatabase(const QString &name)
 {
     const QString folder = qEnvironmentVariable("KIVZP_REAL_DATA");
-    const QString packed = folder + QLatin1String("/db_100k.xml.gz");
+    const QString packed = folder + QLatin1Char('/') + name + QLatin1String(".xml.gz");
     if (folder.isEmpty() || !QFile::exists(packed))
         return {};
-    const QString path = QStringLiteral(KIVZP_BENCH_DIR "/db_real_100k.xml");
+    const QString path = QStringLiteral(KIVZP_BENCH_DIR "/real_%1.xml").arg(name);
     if (!QFile::exists(path)) {
         QProcess gzip;
         gzip.setStandardOutputFile(path);

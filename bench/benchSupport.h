@@ -14,8 +14,8 @@ QString generatedDatabase(int materials);
 // Copies a folder with all its files.
 void copyFolder(const QString &from, const QString &to);
 
-// The unpacked real database of 100,000 materials; empty when KIVZP_REAL_DATA does not name one.
-QString realDatabase();
+// An unpacked real database: "db_100k" has 100,000 materials; empty when KIVZP_REAL_DATA has none.
+QString realDatabase(const QString &name = QStringLiteral("db_100k"));
 
 struct processCost
 {

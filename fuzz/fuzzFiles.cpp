@@ -70,6 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
 
     require(loaded == 0, "what is valid is read");
+    require(document->leftOut.count == 0, "what is valid is taken by the records");
     const QString saved = folder.filePath(QStringLiteral("1.xml"));
     const QString again = folder.filePath(QStringLiteral("2.xml"));
     require(saveXml(saved, document.get()) == 0, "what was read is saved");

@@ -54,7 +54,7 @@ private:
     QTemporaryDir m_dir;
 };
 
-// In use while it lives; who asks gets no answer.
+// In use while it lives; who asks gets no file and no value.
 class recordingPrompts : public prompts
 {
 public:
@@ -64,7 +64,11 @@ public:
     void showError(const QString &html) override;
     void showInformation(const QString &) override {}
     void showWarning(const QString &) override {}
-    answer ask(const QString &, bool) override { return answer::no; }
+    answer ask(const QString &html, bool) override
+    {
+        asked = html;
+        return answered;
+    }
     QString openFile(const QString &, const QString &, const QString &) override { return {}; }
     QString saveFile(const QString &, const QString &, const QString &) override { return {}; }
     std::optional<int> decide(const QString &, const QStringList &) override { return {}; }
@@ -77,6 +81,9 @@ public:
 
     // What was shown, as plain text.
     QStringList errors;
+    // The last question, and the answer to all of them.
+    QString asked;
+    answer answered = answer::no;
     // What went to the log and errors windows, as HTML.
     QString logged;
     QString listed;

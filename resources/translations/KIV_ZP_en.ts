@@ -329,6 +329,16 @@
     </message>
 </context>
 <context>
+    <name>data</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>databaseTree</name>
     <message numerus="yes">
         <source>%n material(s)</source>

@@ -634,6 +634,10 @@
         <source>No material is selected</source>
         <translation>Nie zaznaczono żadnego materiału</translation>
     </message>
+    <message>
+        <source>Saving</source>
+        <translation>Zapisywanie</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -2162,14 +2166,6 @@
         <translation>nie jest bazą materiałów</translation>
     </message>
     <message>
-        <source>is no file of this program</source>
-        <translation>nie jest plikiem tego programu</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <translation>nie można odczytać</translation>
-    </message>
-    <message>
         <source>valid</source>
         <translation>poprawny</translation>
     </message>
@@ -2236,10 +2232,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Writes the report of an order as HTML or PDF.</source>
         <translation>Zapisuje raport zamówienia jako HTML lub PDF.</translation>
-    </message>
-    <message>
-        <source>the schema %1 is missing</source>
-        <translation>brakuje schematu %1</translation>
     </message>
     <message>
         <source>A material database to search. May be given several times.</source>
@@ -2537,6 +2529,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Opens the mail composer with an order and its PDF, or with the databases or BOM lists; prints the message&apos;s description file.</source>
         <translation>Otwiera okno nowej wiadomości z zamówieniem i jego plikiem PDF albo z bazami danych lub listami BOM; wypisuje plik opisu wiadomości.</translation>
     </message>
+    <message>
+        <source>Write also when unknown content is lost.</source>
+        <translation>Zapisz także wtedy, gdy nieznana zawartość przepadnie.</translation>
+    </message>
+    <message>
+        <source>not written, since it would lose %1; --force writes all the same</source>
+        <translation>nie zapisano, bo przepadłoby: %1; --force zapisuje mimo to</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -2690,6 +2690,66 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>too many namespaces</source>
+        <translation>za dużo przestrzeni nazw</translation>
+    </message>
+    <message>
+        <source>a text has a character that no file can hold</source>
+        <translation>jeden z tekstów ma znak, którego nie można zapisać w pliku</translation>
+    </message>
+    <message>
+        <source>it would not open again: %1</source>
+        <translation>nie dałoby się go ponownie otworzyć: %1</translation>
+    </message>
+    <message>
+        <source>Saving %1 loses what the program does not know: %2. Save it all the same?</source>
+        <translation>Zapis %1 usunie to, czego program nie zna: %2. Zapisać mimo to?</translation>
+    </message>
+    <message>
+        <source>is no file of this program</source>
+        <translation>nie jest plikiem tego programu</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>plik jest pusty</translation>
+    </message>
+    <message>
+        <source>the file is UTF-16 but says that it is %1</source>
+        <translation>plik jest w UTF-16, a podaje %1</translation>
+    </message>
+    <message>
+        <source>the file says that it is %1 but is not</source>
+        <translation>plik podaje kodowanie %1, a go nie ma</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>kodowanie %1 nie jest znane</translation>
+    </message>
+    <message>
+        <source>Unknown content, lost when saved: </source>
+        <translation>Nieznana zawartość, przepadnie przy zapisie: </translation>
+    </message>
+    <message>
+        <source>it would lose %1</source>
+        <translation>przepadłoby: %1</translation>
+    </message>
+    <message>
+        <source>%1 (line %2)</source>
+        <translation>%1 (wiersz %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>tekst</translation>
     </message>
 </context>
 <context>
@@ -4433,6 +4493,21 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no address of a page, of mail or of a file server</source>
         <translation>%1 nie jest adresem strony, poczty ani serwera plików</translation>
+    </message>
+</context>
+<context>
+    <name>safeFile</name>
+    <message>
+        <source>no file can stand there</source>
+        <translation>nie może tam być pliku</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>nie można utworzyć jego folderu</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>plik jest tylko do odczytu</translation>
     </message>
 </context>
 <context>

@@ -71,8 +71,8 @@ bool parser::accept(const QStringList &arguments)
 bool validateFile(const QString &path)
 {
     // A file of no known kind is told by the schema with the most kinds.
-    const fileKind *kind = fileKinds::ofFile(path);
-    const QString schema = paths::schema(kind ? kind->schema : QStringLiteral("kiv_mat.xsd"));
+    const QString named = fileKinds::headOf(path).schema;
+    const QString schema = paths::schema(named.isEmpty() ? QStringLiteral("kiv_mat.xsd") : named);
     XmlValidator validator;
     if (validator.validate(path, schema, false))
         return true;
@@ -156,10 +156,12 @@ QCommandLineOption outputOption(const char *description)
             QStringLiteral("OUT")};
 }
 
-int cannotWrite(const QString &path)
+int cannotWrite(const QString &path, const QString &reason)
 {
-    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
+    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written");
+    if (!reason.isEmpty())
+        err() << ": " << reason;
+    err() << '\n' << Qt::flush;
     return notWritten;
 }
 

@@ -94,8 +94,8 @@ QCommandLineOption databaseOption(const char *description);
 // The option -o OUT. description: the English source text, context "cli".
 QCommandLineOption outputOption(const char *description);
 
-// Prints that the file cannot be written; returns that exit code.
-int cannotWrite(const QString &path);
+// Prints that the file cannot be written, and why; returns that exit code.
+int cannotWrite(const QString &path, const QString &reason = {});
 
 // Prints lines of HTML to standard error as plain text.
 void printNotes(const QStringList &htmlLines);

@@ -25,8 +25,10 @@ QString fieldName(QString materialStruct::*field)
 // Saves the database when an output file was asked for.
 int saveTo(const QString &target, const kiv_mat_databaseStruct &database)
 {
-    return target.isEmpty() || saveXmlNoEvents(target, &database) == 0 ? int(done)
-                                                                       : cannotWrite(target);
+    QString reason;
+    return target.isEmpty() || saveXmlNoEvents(target, &database, &reason) == 0
+               ? int(done)
+               : cannotWrite(target, reason);
 }
 
 // KTM, field, value before and after, separated by tabs.

@@ -10,6 +10,7 @@
 #include "data/kiv_mat_zpStruct.h"
 #include "data/lineSums.h"
 #include "data/loaders.h"
+#include "data/streamValidation.h"
 #include "report/orderReport.h"
 #include "util/paths.h"
 
@@ -80,23 +81,18 @@ QList<fact> factsOf(const documentStruct &document)
 // Reads a file of whatever kind; prints what is wrong and returns null when it cannot.
 std::unique_ptr<documentStruct> read(const QString &path)
 {
-    const fileKind *kind = fileKinds::ofFile(path);
-    if (!kind) {
-        err() << path << ": "
-              << (QFileInfo(path).isFile()
-                      ? QCoreApplication::translate("cli", "is no file of this program")
-                      : QCoreApplication::translate("cli", "cannot be read"))
-              << '\n'
-              << Qt::flush;
+    const fileKinds::fileHead head = fileKinds::headOf(path);
+    if (!head.kind) {
+        err() << path << ": " << head.fault << '\n' << Qt::flush;
         return nullptr;
     }
-    auto document = newDocument(*kind);
+    auto document = newDocument(*head.kind);
     QString error;
     if (loadDocument(path, document.get(), &error) == 0)
         return document;
-    const QString schema = paths::schema(kind->schema);
-    if (error.isEmpty() && !QFileInfo::exists(schema))
-        error = QCoreApplication::translate("cli", "the schema %1 is missing").arg(schema);
+    const QString schema = paths::schema(head.schema);
+    if (error.isEmpty() && !schemaLoads(schema))
+        error = QCoreApplication::translate("cli", "The schema %1 cannot be loaded").arg(schema);
     // The configuration's schema errors have been shown already.
     if (!error.isEmpty())
         err() << path << ": " << error << '\n' << Qt::flush;
@@ -144,17 +140,30 @@ int runInfo(const QStringList &arguments)
 int runResave(const QStringList &arguments)
 {
     parser options(resaveCommand, QStringLiteral("IN OUT"), 2, 2);
+    const QCommandLineOption force(
+        QStringLiteral("force"),
+        QCoreApplication::translate("cli", "Write also when unknown content is lost."));
+    options.addOption(force);
     if (!options.accept(arguments))
         return options.code();
     const auto document = read(options.positionalArguments().at(0));
     if (!document)
         return refused;
     const QString target = options.positionalArguments().at(1);
-    if (saveXmlNoEvents(target, document.get()) == 0)
-        return done;
-    err() << target << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
-    return notWritten;
+    if (options.isSet(force)) {
+        document->leftOut = {};
+    } else if (document->leftOut.count > 0) {
+        err() << options.positionalArguments().at(0) << ": "
+              << QCoreApplication::translate("cli", "not written, since it would lose %1; --force "
+                                                    "writes all the same")
+                     .arg(document->leftOut.text())
+              << '\n'
+              << Qt::flush;
+        return refused;
+    }
+    QString reason;
+    return saveXmlNoEvents(target, document.get(), &reason) == 0 ? int(done)
+                                                                 : cannotWrite(target, reason);
 }
 
 } // namespace

@@ -58,7 +58,9 @@ int runFirmUses(const QStringList &arguments)
         return done;
     applyNames(changesOf(*database, {step}));
     const QString target = options.value(output);
-    return saveXmlNoEvents(target, database.get()) < 0 ? cannotWrite(target) : done;
+    QString reason;
+    return saveXmlNoEvents(target, database.get(), &reason) < 0 ? cannotWrite(target, reason)
+                                                                : done;
 }
 
 } // namespace

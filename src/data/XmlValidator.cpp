@@ -7,6 +7,7 @@
 #include "util/prompts.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
@@ -106,6 +107,18 @@ bool XmlValidator::validate(const QString &xmlPath, const QString &xsdPath, bool
     }
     showRest();
     return valid;
+}
+
+QString XmlValidator::fault() const
+{
+    if (m_details.messages.isEmpty())
+        return {};
+    const validationMessage &first = m_details.messages.first();
+    return first.line == 0 ? first.text
+                           : QCoreApplication::translate("data", "line %1, column %2: %3")
+                                 .arg(first.line)
+                                 .arg(first.column)
+                                 .arg(first.text);
 }
 
 bool XmlValidator::secondLook(const QString &xmlPath, const QString &xsdPath)

@@ -27,6 +27,8 @@ public:
 
     // What the streaming validator said in the last validate(): plain text, for lists.
     const validationResult &details() const { return m_details; }
+    // The first of it with its line and column, as one text; empty when it said nothing.
+    QString fault() const;
 
 protected:
     void handleMessage(QtMsgType type, const QString &description, const QUrl &identifier,

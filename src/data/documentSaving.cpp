@@ -19,17 +19,46 @@ fileState fileState::of(const QString &path)
     return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
 }
 
-bool saveDocument(const QString &path, const documentStruct &document, configStruct &config)
+bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
+                  const workShown &shown)
 {
+    const leftOutContent leftOut = document.leftOut;
+    if (leftOut.count > 0
+        && userPrompts().ask(
+               QCoreApplication::translate("data", "Saving %1 loses what the program does not know:"
+                                                   " %2. Save it all the same?")
+                   .arg(QDir::toNativeSeparators(path).toHtmlEscaped(),
+                        leftOut.text().toHtmlEscaped()),
+               false)
+               != prompts::answer::yes)
+        return false;
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QString backups = config.backupPath();
     if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
         userPrompts().log(messages::done(
             QCoreApplication::translate("log", "No backup could be written "), path, backups));
-    if (saveXmlNoEvents(path, &document) < 0) {
+    document.leftOut = {};
+    bool written = false;
+    bool cancelled = false;
+    QString reason;
+    const auto write = [&](const progressFunction &progress) {
+        const auto watched = [&](long long done, long long total) {
+            cancelled = progress && !progress(done, total);
+            return !cancelled;
+        };
+        written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
+    };
+    if (shown)
+        shown(write);
+    else
+        write({});
+    if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
+                                + QLatin1String("<br>") + reason.toHtmlEscaped());
+    if (!written) {
+        document.leftOut = leftOut;
         return false;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));

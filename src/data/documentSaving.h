@@ -1,6 +1,8 @@
 // Saving a file for the user, the same from every window.
 #pragma once
 
+#include "util/progress.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -17,7 +19,11 @@ struct fileState
     static fileState of(const QString &path);
 };
 
+// Runs work that reports progress and shows it meanwhile; a window gives one for what takes long.
+using workShown = std::function<void(const std::function<void(const progressFunction &)> &work)>;
+
 // Writes a document over the file, whose earlier version goes to the configuration's folder for
-// backups, and says so in the log. False, told to the user, with the file as it was, when it cannot
-// be written.
-bool saveDocument(const QString &path, const documentStruct &document, configStruct &config);
+// backups, and says so in the log. False, with the file as it was, when it cannot be written or
+// would not open again, which the user is told with the reason, or when the user cancelled it.
+bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
+                  const workShown &shown = {});

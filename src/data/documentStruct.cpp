@@ -2,26 +2,84 @@
 
 #include "util/progressFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextCodec>
 
 namespace fileKinds {
 
-const fileKind *ofFile(const QString &filePath)
+const fileKind *ofFile(const QString &filePath) { return headOf(filePath).kind; }
+
+fileHead headOf(const QString &filePath)
 {
+    fileHead head;
     progressFile file(filePath, {});
     // A pipe or a device would be waited for.
-    if (!QFileInfo(filePath).isFile() || !file.open(QIODevice::ReadOnly))
-        return nullptr;
+    if (!QFileInfo(filePath).isFile() || !file.open(QIODevice::ReadOnly)) {
+        head.fault = QCoreApplication::translate("data", "the file cannot be read");
+        return head;
+    }
+    head.fault = beginningFault(file);
+    if (!head.fault.isEmpty())
+        return head;
     QXmlStreamReader reader(&file);
-    if (!readToElement(&reader))
-        return nullptr;
+    if (!readToElement(&reader)) {
+        head.fault = readerFault(reader, file);
+        return head;
+    }
     for (const fileKind *kind : {&order, &database, &firm, &config, &bom, &boms, &info, &update})
         if (reader.name() == kind->root)
-            return kind;
-    return nullptr;
+            head.kind = kind;
+    if (!head.kind) {
+        head.fault = QCoreApplication::translate("data", "is no file of this program");
+        return head;
+    }
+    const QString named = attributeValue(&reader, QStringLiteral("noNamespaceSchemaLocation"));
+    head.schema = head.kind == &config && !named.isEmpty() ? named : head.kind->schema;
+    return head;
 }
 
 } // namespace fileKinds
+
+QString readerFault(const QXmlStreamReader &reader, const progressFile &file)
+{
+    return QCoreApplication::translate("data", "line %1, column %2: %3")
+        .arg(reader.lineNumber())
+        .arg(reader.columnNumber())
+        .arg(file.tooManyAttributes() ? tooManyAttributes() : reader.errorString());
+}
+
+QString beginningFault(QIODevice &file)
+{
+    constexpr int enough = 512;
+    QByteArray start = file.peek(enough);
+    if (start.isEmpty())
+        return QCoreApplication::translate("data", "the file is empty");
+    const bool wide = start.startsWith("\xff\xfe") || start.startsWith("\xfe\xff")
+                      || start.startsWith(QByteArray("<\0", 2))
+                      || start.startsWith(QByteArray("\0<", 2));
+    start.replace(QByteArray(1, '\0'), QByteArray());
+    const QRegularExpressionMatch declaration =
+        QRegularExpression(QStringLiteral("<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([^\"'>]*)[\"']"))
+            .match(QString::fromLatin1(start));
+    const QString name = declaration.captured(1);
+    if (name.isEmpty())
+        return {};
+    const QString upper = name.toUpper();
+    const bool saysWide = upper.startsWith(QLatin1String("UTF-16"))
+                          || upper.startsWith(QLatin1String("UTF-32"))
+                          || upper.startsWith(QLatin1String("ISO-10646-UCS"));
+    if (wide && !saysWide)
+        return QCoreApplication::translate("data", "the file is UTF-16 but says that it is %1")
+            .arg(name);
+    if (!wide && saysWide)
+        return QCoreApplication::translate("data", "the file says that it is %1 but is not")
+            .arg(name);
+    if (!QTextCodec::codecForName(name.toLatin1()))
+        return QCoreApplication::translate("data", "the encoding %1 is not known").arg(name);
+    return {};
+}
 
 documentStruct::documentStruct(const fileKind &kind)
     : schemaLocation(kind.schema)

@@ -4,6 +4,9 @@
 
 #include "data/xmlData.h"
 
+class QIODevice;
+class progressFile;
+
 // One kind of file.
 struct fileKind
 {
@@ -37,7 +40,23 @@ inline const QString xsiNamespace =
 // The kind whose root element the file has; null when the file cannot be read or parsed that far,
 // or has another root.
 const fileKind *ofFile(const QString &filePath);
+
+// What the beginning of a file tells.
+struct fileHead
+{
+    const fileKind *kind = nullptr; // as ofFile()
+    QString schema;                 // of that kind; a configuration names its own
+    QString fault;                  // why there is no kind
+};
+fileHead headOf(const QString &filePath);
 } // namespace fileKinds
+
+// Why a file cannot be read that is empty, or whose encoding is not the one it declares or none
+// that is known; empty when its beginning says nothing of the kind. Reads nothing.
+QString beginningFault(QIODevice &file);
+
+// What a reader says of the file that it could not read, with line and column.
+QString readerFault(const QXmlStreamReader &reader, const progressFile &file);
 
 class documentStruct : public xmlData
 {
@@ -52,6 +71,10 @@ public:
     // Set by the loader before parsing: the file name, and the path as it was given.
     QString fileName;
     QString filePath;
+
+    // What the loader found in the file and this record has no place for. While there is any,
+    // saving is refused: whoever was told of it empties this.
+    leftOutContent leftOut;
 
     const fileKind &kind() const { return m_kind; }
     virtual tagHandlerList tagHandlers() = 0;

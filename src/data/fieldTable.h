@@ -53,6 +53,7 @@ void writeFields(QXmlStreamWriter *writer, const Record &record, const fieldTabl
         writer->writeTextElement(field.name, record.*field.member);
 }
 
+// Reads the fields from the attributes of the element the reader stands on.
 template <class Record>
 void readAttributes(QXmlStreamReader *reader, Record &record, const fieldTable<Record> &fields)
 {
@@ -119,6 +120,7 @@ public:
     // Takes the whole element, the reader standing on its start.
     void readElement(QXmlStreamReader *reader)
     {
+        noteOtherAttributes(reader);
         readChildren(reader, tagHandlers(), Self::element);
     }
     int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }
@@ -145,6 +147,8 @@ public:
     void readElement(QXmlStreamReader *reader) { readXml(reader); }
     int readXml(QXmlStreamReader *reader) override
     {
+        static const std::vector<QString> names = tagsOf(Self::fields());
+        noteOtherAttributes(reader, names);
         readAttributes(reader, static_cast<Self &>(*this), Self::fields());
         reader->readNext();
         return 1;
@@ -179,6 +183,8 @@ public:
     }
     void readElement(QXmlStreamReader *reader)
     {
+        static const std::vector<QString> names = attributeNames();
+        noteOtherAttributes(reader, names);
         if constexpr (requires { Self::fields(); })
             readAttributes(reader, self(), Self::fields());
         if constexpr (requires { Self::readOnlyFields(); })
@@ -205,6 +211,15 @@ public:
     }
 
 private:
+    static std::vector<QString> attributeNames()
+    {
+        if constexpr (requires { Self::readOnlyFields(); })
+            return tagsOf(Self::fields(), tagsOf(Self::readOnlyFields()));
+        else if constexpr (requires { Self::fields(); })
+            return tagsOf(Self::fields());
+        else
+            return {};
+    }
     Self &self() { return static_cast<Self &>(*this); }
 };
 

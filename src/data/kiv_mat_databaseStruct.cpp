@@ -45,6 +45,7 @@ tagHandlerList materialStruct::tagHandlers()
 
 void materialStruct::readElement(QXmlStreamReader *reader)
 {
+    noteOtherAttributes(reader);
     readChildren(reader, tagHandlers(), element);
 }
 

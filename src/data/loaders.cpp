@@ -9,12 +9,35 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "util/messages.h"
 #include "util/paths.h"
 #include "util/progressFile.h"
+#include "util/prompts.h"
 #include "util/safeFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+namespace {
+
+// What the root is silent about keeps its default: an empty version would not open again.
+void readRootAttributes(QXmlStreamReader &reader, documentStruct *record)
+{
+    const auto take = [attributes = reader.attributes()](const QString &name, QString &value) {
+        for (const QXmlStreamAttribute &attribute : attributes) {
+            if (attribute.name() == name) {
+                value = attribute.value().toString();
+                return;
+            }
+        }
+    };
+    take(QStringLiteral("noNamespaceSchemaLocation"), record->schemaLocation);
+    take(QStringLiteral("type"), record->xsiType);
+    noteOtherAttributes(&reader,
+                        {QStringLiteral("noNamespaceSchemaLocation"), QStringLiteral("type")});
+}
+
+} // namespace
 
 int loadDocument(const QString &filePath, documentStruct *record, QString *error,
                  const progressFunction &progress)
@@ -33,14 +56,19 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
             *error = file.errorString();
         return -1;
     }
+    const QString fault = beginningFault(file);
+    if (!fault.isEmpty()) {
+        if (error)
+            *error = fault;
+        return -1;
+    }
     const textSharing sharing;
+    record->leftOut = {};
+    const leftOutWatch watch(&record->leftOut);
     QXmlStreamReader reader(&file);
     const QString &root = record->kind().root;
     if (readToElement(&reader, root)) {
-        record->schemaLocation =
-            attributeValue(&reader, QStringLiteral("noNamespaceSchemaLocation"));
-        record->xsiNamespace = fileKinds::xsiNamespace;
-        record->xsiType = attributeValue(&reader, QStringLiteral("type"));
+        readRootAttributes(reader, record);
         if (&record->kind() == &fileKinds::config
             && !validateXml(filePath, paths::schema(record->schemaLocation), true))
             return 1;
@@ -49,10 +77,11 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError() && error)
-        *error = QCoreApplication::translate("data", "line %1, column %2: %3")
-                     .arg(reader.lineNumber())
-                     .arg(reader.columnNumber())
-                     .arg(file.tooManyAttributes() ? tooManyAttributes() : reader.errorString());
+        *error = readerFault(reader, file);
+    if (record->leftOut.count > 0)
+        userPrompts().listError(messages::failed(
+            QCoreApplication::translate("data", "Unknown content, lost when saved: "), filePath,
+            record->leftOut.text()));
     return reader.hasError() ? -1 : 0;
 }
 
@@ -115,11 +144,20 @@ std::unique_ptr<documentStruct> newDocument(const fileKind &kind)
     return std::make_unique<kiv_UpdateStruct>();
 }
 
-int saveXmlNoEvents(const QString &filePath, const xmlData *record)
+namespace {
+
+int writeFile(const QString &filePath, const xmlData *record, QString *error,
+              const progressFunction &progress,
+              const std::function<bool(const QString &temporaryPath)> &check)
 {
-    safeFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+    safeFile file(filePath, progress);
+    const auto failed = [&] {
+        if (error && error->isEmpty())
+            *error = file.errorString();
         return -1;
+    };
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return failed();
     QXmlStreamWriter writer(&file);
     writer.setCodec("UTF-8");
     writer.setAutoFormatting(true);
@@ -129,14 +167,64 @@ int saveXmlNoEvents(const QString &filePath, const xmlData *record)
     if (result < 0)
         return result;
     // A character that XML cannot hold silences the writer for the rest of the document.
-    if (writer.hasError() || !file.commit())
-        return -1;
+    if (writer.hasError() && !file.failed() && error)
+        *error =
+            QCoreApplication::translate("data", "a text has a character that no file can hold");
+    if (writer.hasError() || !file.commit(check))
+        return failed();
     return result;
+}
+
+// What keeps a file from opening; nothing when it opens. Without a schema nothing opens, and
+// nothing can be said against the file.
+QString faultOf(const QString &path, const documentStruct &document,
+                const progressFunction &progress)
+{
+    const QString schema = paths::schema(
+        &document.kind() == &fileKinds::config ? document.schemaLocation : document.kind().schema);
+    XmlValidator validator;
+    if (validator.validate(path, schema, false, progress) || !validator.details().schemaLoaded)
+        return {};
+    return validator.fault();
+}
+
+} // namespace
+
+int saveXmlNoEvents(const QString &filePath, const xmlData *record, QString *error,
+                    const progressFunction &progress, saveRule rule)
+{
+    const auto *document = dynamic_cast<const documentStruct *>(record);
+    if (!document || rule == saveRule::whatever)
+        return writeFile(filePath, record, error, progress, {});
+    if (document->leftOut.count > 0) {
+        if (error)
+            *error = QCoreApplication::translate("data", "it would lose %1")
+                         .arg(document->leftOut.text());
+        return -1;
+    }
+    // Writing and checking take about the same time.
+    const auto half = [&progress](int before) {
+        if (!progress)
+            return progressFunction();
+        return progressFunction([&progress, before](long long done, long long total) {
+            return progress(before * total + done, 2 * total);
+        });
+    };
+    return writeFile(filePath, record, error, half(0), [&](const QString &path) {
+        const QString fault = faultOf(path, *document, half(1));
+        const bool good =
+            fault.isEmpty()
+            || (rule == saveRule::notOverGood
+                && (!QFileInfo::exists(filePath) || !faultOf(filePath, *document, {}).isEmpty()));
+        if (!good && error)
+            *error = QCoreApplication::translate("data", "it would not open again: %1").arg(fault);
+        return good;
+    });
 }
 
 int saveXml(const QString &filePath, const xmlData *record, const progressFunction &progress)
 {
-    const int result = saveXmlNoEvents(filePath, record);
+    const int result = saveXmlNoEvents(filePath, record, nullptr, progress);
     if (progress)
         progress(1, 1);
     return result;

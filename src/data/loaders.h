@@ -24,7 +24,8 @@ struct fileKind;
 // Results: 0 read to the end without a parse error (also when the root element is another kind's:
 // then nothing is read), -1 the file cannot be opened or is no XML (what was read so far stays in
 // the record), 1 (loadConfig only) refused by its schema, nothing read. No loader but loadConfig
-// validates: whoever opens a user's file validates first.
+// validates: whoever opens a user's file validates first. What a file holds and no record takes is
+// noted in documentStruct::leftOut and told in a line of the errors window.
 int loadZp(const QString &filePath, kiv_mat_zpStruct *record);
 int loadDatabase(const QString &filePath, kiv_mat_databaseStruct *record);
 int loadFirm(const QString &filePath, kiv_mat_firmStruct *record);
@@ -43,9 +44,20 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
 // An empty record of that kind.
 std::unique_ptr<documentStruct> newDocument(const fileKind &kind);
 
-// Writes a record as a file, creating missing folders. Returns the record's own result; -1 when the
-// file cannot be written whole or a text cannot be stored as XML. After a negative result the old
-// file is as it was. Nothing lets events through but the progress function of saveXml, which is
-// called once, at the end.
+// Which documents are written that their schema refuses, so that they would not open again. It is
+// looked at before the old file is replaced.
+enum class saveRule
+{
+    onlyGood,    // none
+    notOverGood, // such as replace no file, or one that would not open either
+    whatever     // all, without a look
+};
+
+// Writes a record as a file, creating missing folders. Returns the record's own result; -1, with
+// the reason in error, when the file cannot be written whole, a text cannot be stored as XML, or
+// the rule (notOverGood in saveXml) forbids it. After a negative result the old file is as it was.
+// Nothing lets events through but progress, which is told how far writing and looking are; when it
+// cancels, the result is -1.
 int saveXml(const QString &filePath, const xmlData *record, const progressFunction &progress = {});
-int saveXmlNoEvents(const QString &filePath, const xmlData *record);
+int saveXmlNoEvents(const QString &filePath, const xmlData *record, QString *error = nullptr,
+                    const progressFunction &progress = {}, saveRule rule = saveRule::notOverGood);

@@ -40,16 +40,8 @@ bool readChecked(const QString &path, documentStruct *record, QString *error,
     if (!validFiles::contains(path, schema)) {
         XmlValidator validator;
         if (!validator.validate(path, schema, showMessages, progress)) {
-            const QVector<validationMessage> &messages = validator.details().messages;
-            if (messages.isEmpty())
-                return false;
-            const validationMessage &first = messages.first();
-            setError(error, first.line == 0
-                                ? first.text
-                                : QCoreApplication::translate("data", "line %1, column %2: %3")
-                                      .arg(first.line)
-                                      .arg(first.column)
-                                      .arg(first.text));
+            if (!validator.details().messages.isEmpty())
+                setError(error, validator.fault());
             return false;
         }
         validFiles::remember(path, schema);

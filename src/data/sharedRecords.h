@@ -135,6 +135,7 @@ public:
     }
     void readElement(QXmlStreamReader *reader)
     {
+        noteOtherAttributes(reader);
         readChildren(reader, tagHandlers(), Self::element);
     }
     int readXml(QXmlStreamReader *reader) override { return readTag(reader, 0); }

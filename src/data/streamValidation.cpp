@@ -1,5 +1,6 @@
 #include "data/streamValidation.h"
 
+#include "data/documentStruct.h"
 #include "data/schemaCache.h"
 #include "data/xmlData.h"
 #include "util/progressFile.h"
@@ -21,7 +22,9 @@ struct schemaDeleter
 };
 using schemaPointer = std::shared_ptr<xmlSchema>;
 
-// What the callbacks of one validation share.
+// What the callbacks of one validation share. libxml2 hands over text in pieces and its schema
+// layer would copy all of a text for each of them, so a text is joined here and handed on in one
+// piece.
 struct runState
 {
     runState(const QString &path, const progressFunction &progress)
@@ -31,14 +34,46 @@ struct runState
 
     progressFile file;
     xmlParserCtxt *parser = nullptr;
+    xmlSAXHandler *schema = nullptr; // the callbacks of the schema layer, which take validator
+    void *validator = nullptr;
     validationResult result;
     int maxMessages = 0;
+    // A fault behind which nothing can be told: the parser gets no more of the file.
+    bool stopped = false;
 
-    void add(int line, int column, const QString &text)
+    QByteArray text;
+    bool textHasCdata = false;
+    bool tellingText = false; // messages are about the text, which ended earlier
+    int textLine = 0;
+    int textColumn = 0;
+
+    int line() const { return tellingText ? textLine : xmlSAX2GetLineNumber(parser); }
+    int column() const { return tellingText ? textColumn : xmlSAX2GetColumnNumber(parser); }
+
+    void add(int line, int column, const QString &message)
     {
         ++result.messageCount;
         if (result.messages.size() < maxMessages)
-            result.messages.append({line, column, text});
+            result.messages.append({line, column, message});
+    }
+
+    void append(const xmlChar *piece, int length)
+    {
+        text.append(reinterpret_cast<const char *>(piece), length);
+        textLine = xmlSAX2GetLineNumber(parser);
+        textColumn = xmlSAX2GetColumnNumber(parser);
+    }
+
+    void handOnText()
+    {
+        if (text.isEmpty() && !textHasCdata)
+            return;
+        tellingText = true;
+        const auto handOn = textHasCdata ? schema->cdataBlock : schema->characters;
+        handOn(validator, reinterpret_cast<const xmlChar *>(text.constData()), text.size());
+        tellingText = false;
+        textHasCdata = false;
+        text.resize(0); // keeps its room
     }
 };
 
@@ -50,13 +85,17 @@ void ignoreError(void *, xmlError *) {}
 void collectError(void *context, xmlError *error)
 {
     auto *state = static_cast<runState *>(context);
-    if (error->level < XML_ERR_ERROR || state->result.refusedOutright)
+    if (error->level < XML_ERR_ERROR || state->stopped || state->result.refusedOutright)
         return;
     // Schema errors bring no column; the parser knows where it stands.
     const bool fromParser = error->domain == XML_FROM_PARSER || error->domain == XML_FROM_NAMESPACE;
-    const int line = fromParser ? error->line : xmlSAX2GetLineNumber(state->parser);
-    const int column = fromParser ? error->int2 : xmlSAX2GetColumnNumber(state->parser);
-    state->add(line, column, QString::fromUtf8(error->message).trimmed());
+    state->add(fromParser ? error->line : state->line(), fromParser ? error->int2 : state->column(),
+               QString::fromUtf8(error->message).simplified());
+    // What follows an error of form is made of that error, and libxml2 reads on at a speed that
+    // falls with the square of the size. xmlStopParser() would free what it is looking at.
+    if (error->level == XML_ERR_FATAL || error->domain == XML_FROM_IO
+        || (error->domain == XML_FROM_NAMESPACE && error->code >= XML_NS_ERR_XML_NAMESPACE))
+        state->stopped = true;
     // QXmlSchemaValidator would let the type named in an unknown root stand for the root.
     if (error->domain == XML_FROM_SCHEMASV && error->code == XML_SCHEMAV_CVC_ELT_1)
         state->result.refusedOutright = true;
@@ -64,7 +103,8 @@ void collectError(void *context, xmlError *error)
 
 int readBlock(void *context, char *buffer, int length)
 {
-    return int(static_cast<runState *>(context)->file.read(buffer, length));
+    auto *state = static_cast<runState *>(context);
+    return state->stopped ? 0 : int(state->file.read(buffer, length));
 }
 
 int closeNothing(void *) { return 0; }
@@ -72,10 +112,45 @@ int closeNothing(void *) { return 0; }
 void refuseDocumentType(void *context, const xmlChar *, const xmlChar *, const xmlChar *)
 {
     auto *state = static_cast<runState *>(context);
+    if (state->stopped)
+        return;
     state->add(xmlSAX2GetLineNumber(state->parser), xmlSAX2GetColumnNumber(state->parser),
                documentTypeRefused());
     state->result.refusedOutright = true;
     xmlStopParser(state->parser);
+}
+
+void startElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
+                  int namespaceCount, const xmlChar **namespaces, int attributeCount,
+                  int defaultedCount, const xmlChar **attributes)
+{
+    auto *state = static_cast<runState *>(context);
+    if (state->stopped)
+        return;
+    state->handOnText();
+    state->schema->startElementNs(state->validator, name, prefix, uri, namespaceCount, namespaces,
+                                  attributeCount, defaultedCount, attributes);
+}
+
+void endElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri)
+{
+    auto *state = static_cast<runState *>(context);
+    if (state->stopped)
+        return;
+    state->handOnText();
+    state->schema->endElementNs(state->validator, name, prefix, uri);
+}
+
+void takeText(void *context, const xmlChar *text, int length)
+{
+    static_cast<runState *>(context)->append(text, length);
+}
+
+void takeCdata(void *context, const xmlChar *text, int length)
+{
+    auto *state = static_cast<runState *>(context);
+    state->textHasCdata = true;
+    state->append(text, length);
 }
 
 // What libxml2 lets pass but the loaders' parser does not: a NUL byte behind the root, which it
@@ -90,7 +165,7 @@ void refuseTheUnreadable(runState &state)
         state.add(input ? input->line : 0, input ? input->col : 0, tooManyAttributes());
         state.parser->wellFormed = 0;
     }
-    if (!state.parser->wellFormed || !input)
+    if (!state.parser->wellFormed || state.stopped || !input)
         return;
     const QLatin1String version(reinterpret_cast<const char *>(state.parser->version));
     if (input->cur < input->end || !state.file.atEnd())
@@ -134,23 +209,28 @@ void parse(runState &state, xmlSchema *schema)
     xmlSAXHandler sax{};
     sax.initialized = XML_SAX2_MAGIC;
     sax.internalSubset = refuseDocumentType;
+    sax.startElementNs = startElement;
+    sax.endElementNs = endElement;
+    sax.characters = sax.ignorableWhitespace = takeText;
+    sax.cdataBlock = takeCdata;
 
     xmlSchemaValidCtxt *validator = xmlSchemaNewValidCtxt(schema);
+    xmlSchemaSAXPlugStruct *plug =
+        validator ? xmlSchemaSAXPlug(validator, &state.schema, &state.validator) : nullptr;
     state.parser = xmlCreateIOParserCtxt(&sax, &state, readBlock, closeNothing, &state,
                                          XML_CHAR_ENCODING_NONE);
-    if (validator && state.parser) {
+    if (plug && state.parser) {
         xmlCtxtUseOptions(state.parser, XML_PARSE_NONET);
-        xmlSchemaSAXPlugStruct *plug =
-            xmlSchemaSAXPlug(validator, &state.parser->sax, &state.parser->userData);
         xmlSchemaValidateSetFilename(validator, nullptr);
         xmlParseDocument(state.parser);
         refuseTheUnreadable(state);
-        state.result.valid = plug && state.parser->wellFormed && !state.result.refusedOutright
-                             && xmlSchemaIsValid(validator) == 1;
-        xmlSchemaSAXUnplug(plug);
+        state.result.valid = state.parser->wellFormed && !state.stopped
+                             && !state.result.refusedOutright && xmlSchemaIsValid(validator) == 1;
     }
     if (state.parser)
         xmlFreeParserCtxt(state.parser);
+    if (plug)
+        xmlSchemaSAXUnplug(plug);
     xmlSchemaFreeValidCtxt(validator);
 }
 
@@ -171,6 +251,12 @@ validationResult validateStreaming(const QString &xmlPath, const QString &xsdPat
         state.result.messages.append(
             {0, 0, QCoreApplication::translate("data", "the file cannot be read")});
         state.result.messageCount = 1;
+        return state.result;
+    }
+    const QString fault = beginningFault(state.file);
+    if (!fault.isEmpty()) {
+        state.result.refusedOutright = true;
+        state.add(0, 0, fault);
         return state.result;
     }
     // One handler takes the messages of the parser and of the schema, each without its own.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHash>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -29,7 +30,62 @@ private:
 
 std::unique_ptr<recentTexts> sharedTexts;
 
+// Every name is looked for among all namespaces declared around it, and unknown elements may nest
+// to any depth. No file of ours declares more than one.
+class namespaceWatch
+{
+public:
+    void unknownElement(QXmlStreamReader *reader)
+    {
+        constexpr int most = 1000;
+        if (m_declaring <= most && !reader->namespaceDeclarations().isEmpty()
+            && ++m_declaring > most)
+            reader->raiseError(QCoreApplication::translate("data", "too many namespaces"));
+    }
+
+private:
+    int m_declaring = 0;
+};
+
 } // namespace
+
+namespace {
+
+leftOutContent *watched = nullptr;
+
+void noteLeftOut(const QXmlStreamReader *reader, const QString &what)
+{
+    constexpr int most = 5;
+    if (!watched || ++watched->count > most)
+        return;
+    watched->first.append(
+        QCoreApplication::translate("data", "%1 (line %2)").arg(what).arg(reader->lineNumber()));
+}
+
+} // namespace
+
+QString leftOutContent::text() const
+{
+    QString all = first.join(QLatin1String(", "));
+    if (count > first.size())
+        all += QLatin1String(", ")
+               + QCoreApplication::translate("data", "and %n more", nullptr, count - first.size());
+    return all;
+}
+
+leftOutWatch::leftOutWatch(leftOutContent *content) { watched = content; }
+
+leftOutWatch::~leftOutWatch() { watched = nullptr; }
+
+void noteOtherAttributes(QXmlStreamReader *reader, const std::vector<QString> &names)
+{
+    const QXmlStreamAttributes attributes = reader->attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        if (attribute.namespaceUri() != QLatin1String("http://www.w3.org/2001/XMLSchema-instance")
+            && std::none_of(names.begin(), names.end(),
+                            [&](const QString &name) { return attribute.name() == name; }))
+            noteLeftOut(reader, attribute.qualifiedName().toString() + QLatin1Char('='));
+}
 
 int xmlData::readXml(QXmlStreamReader *) { return 0; }
 
@@ -39,6 +95,8 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
 {
     const std::vector<QString> &tags = *handlers.tags;
     size_t expected = 0;
+    namespaceWatch watch;
+    int unknownAround = 0; // what an unknown element holds is not noted beside it
     reader->readNext();
     while (!reader->atEnd()) {
         if (reader->isEndElement() && reader->name() == endTag)
@@ -51,6 +109,15 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
             expected = found + 1;
             handlers.handler->readTag(reader, found);
         } else {
+            if (reader->isStartElement()) {
+                watch.unknownElement(reader);
+                if (unknownAround++ == 0)
+                    noteLeftOut(reader, reader->qualifiedName().toString());
+            } else if (reader->isEndElement()) {
+                unknownAround = std::max(0, unknownAround - 1);
+            } else if (unknownAround == 0 && reader->isCharacters() && !reader->isWhitespace()) {
+                noteLeftOut(reader, QCoreApplication::translate("data", "text"));
+            }
             reader->readNext();
         }
     }
@@ -59,12 +126,15 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
 
 bool readToElement(QXmlStreamReader *reader, const QString &name)
 {
+    namespaceWatch watch;
     while (!reader->atEnd()) {
         reader->readNext();
         if (reader->isDTD())
             reader->raiseError(documentTypeRefused());
         else if (reader->isStartElement() && (name.isEmpty() || reader->name() == name))
             return true;
+        else if (reader->isStartElement())
+            watch.unknownElement(reader);
     }
     return false;
 }
@@ -90,6 +160,7 @@ QString attributeValue(QXmlStreamReader *reader, const QString &localName)
 
 QString readText(QXmlStreamReader *reader)
 {
+    noteOtherAttributes(reader);
     // Nearly every text comes in one piece, and most of them came before: then nothing is copied.
     if (reader->readNext() == QXmlStreamReader::EndElement)
         return {};

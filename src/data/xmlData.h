@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -70,6 +71,30 @@ QString tooManyAttributes();
 
 // The value of the first attribute with that local name, whatever its prefix; empty if none.
 QString attributeValue(QXmlStreamReader *reader, const QString &localName);
+
+// What a file holds that no record takes: saving what was read would lose it.
+struct leftOutContent
+{
+    int count = 0;
+    QStringList first; // the first few, each with its line
+
+    // These, and how many more there are.
+    QString text() const;
+};
+
+// While one lives, what readers leave out is noted in the content. Not nestable.
+class leftOutWatch
+{
+public:
+    explicit leftOutWatch(leftOutContent *content);
+    ~leftOutWatch();
+    leftOutWatch(const leftOutWatch &) = delete;
+    leftOutWatch &operator=(const leftOutWatch &) = delete;
+};
+
+// Note the attributes of the element the reader stands on that have none of the names. Those of XML
+// Schema say nothing about the content.
+void noteOtherAttributes(QXmlStreamReader *reader, const std::vector<QString> &names = {});
 
 // The text of the element the reader stands on, with line ends as LF, shared as below.
 QString readText(QXmlStreamReader *reader);

@@ -328,9 +328,10 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
-    QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool saved = saveDocument(path, database, known().config());
-    QApplication::restoreOverrideCursor();
+    const bool saved = saveDocument(path, database, known().config(), [this](const auto &writing) {
+        workProgress::scope work(progress(), tr("Saving"));
+        writing(work.function());
+    });
     if (!saved)
         database.update = before;
     return saved;

@@ -136,9 +136,11 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
     }
     constexpr int keptVersions = 20;
     fileVersions::keep(path, config.backupPath(), keptVersions);
-    if (saveXmlNoEvents(path, &order) >= 0)
+    QString fault;
+    if (saveXmlNoEvents(path, &order, &fault) >= 0)
         return true;
-    *reason = QCoreApplication::translate("orderOperations", "the file cannot be written");
+    *reason = QCoreApplication::translate("orderOperations", "the file cannot be written")
+              + QLatin1String(": ") + fault;
     return false;
 }
 

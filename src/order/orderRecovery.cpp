@@ -52,7 +52,8 @@ bool orderRecovery::claim(int number)
 
 bool orderRecovery::store(const kiv_mat_zpStruct &order, const QString &path)
 {
-    return m_lock && saveXmlNoEvents(fileOf(m_number, "xml"), &order) == 0
+    return m_lock
+           && saveXmlNoEvents(fileOf(m_number, "xml"), &order, nullptr, {}, saveRule::whatever) == 0
            && files::writeText(fileOf(m_number, "path"), path);
 }
 

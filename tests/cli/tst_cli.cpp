@@ -1,6 +1,8 @@
 // kivzp-cli from outside: exit codes, output and files.
 #include "testSupport.h"
 
+#include <QTextCodec>
+
 using namespace testSupport;
 
 class tst_cli : public folderTest
@@ -12,6 +14,18 @@ private slots:
         folderTest::init();
         QVERIFY(QFile::copy(KIVZP_CLI, m_folder->path("kivzp-cli")));
         copyFolder(source("tests/files/cli"), m_folder->path());
+        const QByteArray root = "<kiv_mat_zp xsi:type=\"KIV_MAT_ZP_1\"/>";
+        const QByteArray head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+        const QByteArray good = head + "<kiv_mat_zp/>";
+        m_folder->write("wrong/empty.xml", "");
+        m_folder->write("wrong/wide.xml", QTextCodec::codecForName("UTF-16")->fromUnicode(QString(good)));
+        m_folder->write("wrong/narrow.xml", QByteArray(good).replace("UTF-8", "UTF-16"));
+        m_folder->write("wrong/encoding.xml", QByteArray(good).replace("UTF-8", "KOI-99"));
+        m_folder->write("wrong/bytes.xml",
+                        QByteArray(good).replace("/>", "><attentions>\xb9</attentions></kiv_mat_zp>"));
+        m_folder->write("wrong/dtd.xml", head + "<!DOCTYPE kiv_mat_zp>" + root);
+        m_folder->write("wrong/prefix.xml", head + root);
+        m_folder->write("wrong/schema.xml", document("kiv_config", "KIV_CONFIG_1", "none.xsd", ""));
         // Of the helpers only one is there, and that cannot be started.
         QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"), QFile::ReadOwner | QFile::ExeOwner);
     }
@@ -30,7 +44,22 @@ private slots:
         row("validate none.xml", 1, "", "none.xml: the file cannot be read");
         row("validate cut.xml", 1, "", "cut.xml:2:");
         row("info good.xml", 0, "kind: kiv_mat_zp\nversion: KIV_MAT_ZP_1\noptions: 6\nlines: 1\nsum: 6.00", "");
-        row("info bad.xml", 0, "lines: 0", "");
+        row("info bad.xml", 0, "lines: 0", "[colour (line 3)]");
+        row("resave bad.xml out.xml", 1, "", "would lose colour (line 3); --force");
+        row("resave --force bad.xml out2.xml", 0, "", "colour");
+        for (const char *command : {"validate", "info"}) {
+            const auto each = [&](const char *file, const QString &reason) {
+                row(qPrintable(QString("%1 wrong/%2.xml").arg(command, file)), 1, "", reason);
+            };
+            each("empty", "the file is empty");
+            each("wide", "is UTF-16 but says that it is UTF-8");
+            each("narrow", "says that it is UTF-16 but is not");
+            each("encoding", "the encoding KOI-99 is not known");
+            each("bytes", "ncod");
+            each("dtd", "document type declarations are not allowed");
+            each("prefix", "refix");
+            each("schema", "none.xsd cannot be loaded");
+        }
         row("info cut.xml", 1, "", "cut.xml:");
         row("info twice.xml", 0, "materials: 2\nktms: 1\nduplicates: 1", "");
         row("info good.xml bad.xml", 2, "", "too many");
@@ -176,8 +205,8 @@ private slots:
     {
         const QString path =
             m_folder->write("za\u017c\u00f3\u0142\u0107 g\u0119\u015bl\u0105/o.xml", order("<colour/>"));
-        const ended polish = run({"--language", "pl", "resave", path, path + "-2"});
-        QCOMPARE(polish.err, QString());
+        const ended polish = run({"--language", "pl", "resave", "--force", path, path + "-2"});
+        QVERIFY2(polish.err.contains("(wiersz 2)"), qPrintable(polish.err));
         QVERIFY(QFile::exists(path + "-2"));
         QVERIFY(call("--language=pl validate good.xml").out.contains("poprawny"));
         QVERIFY(run({"validate", path}).err.startsWith(path));

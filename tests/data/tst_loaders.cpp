@@ -3,6 +3,7 @@
 #include "testSupport.h"
 
 #include "data/XmlValidator.h"
+#include "data/documentSaving.h"
 
 #include <QTextCodec>
 #include <QXmlSchema>
@@ -86,6 +87,53 @@ private slots:
         QCOMPARE(record.update, QString("seen"));
         QCOMPARE(record.groups[0]->items[0]->d_name, QString("n"));
         QCOMPARE(record.groups[0]->items[0]->d_ktm, QString("k"));
+    }
+
+    void unknownContentIsTold_data()
+    {
+        const rows<QByteArray, QString> row;
+        row("element", order("\n<colour><deep a=\"1\"/>x</colour>\n<attentions/>"), "colour (line 3)");
+        row("attributes", order("<options>\n<option colour=\"1\" type=\"a\"/></options><attentions a=\"\"/>"),
+            "colour= (line 3), a= (line 3)");
+        row("attribute of a list", database("<d_group shape=\"\" ktm=\"1\"><material red=\"\"/></d_group>"),
+            "shape= (line 2), red= (line 2)");
+        row("attribute of the root", "<kiv_mat_zp colour=\"1\"/>", "colour= (line 1)");
+        row("text", order("<options>a</options>"), "text (line 2)");
+        row("inside an empty one", order("<options><option><x/></option></options>"), "x (line 2)");
+        row("material outside a group", database("<material><d_name>a</d_name></material>"), "material (line 2)");
+        row("group in a BOM list", bom("<d_group><material/></d_group>"), "d_group (line 2)");
+        row("supplier among manufacturers",
+            database("<d_group><material><manufacturers><supplier><name>a</name></supplier></manufacturers></material>"
+                     "</d_group>"),
+            "supplier (line 2)");
+        row("many", order(QByteArray("<a/>").repeated(7)),
+            "a (line 2), a (line 2), a (line 2), a (line 2), a (line 2), and 2 more");
+        row("what is dropped on purpose",
+            database("<d_group ktm=\"1\"><material><d_designator>R1</d_designator></material></d_group>"), "");
+        row("further fields of a BOM line", bom("<material><d_price>1</d_price><suppliers/></material>"), "");
+    }
+    // It is read, told in one line, and not lost unless the user says so.
+    void unknownContentIsTold()
+    {
+        const auto [content, unknown] = fetch<QByteArray, QString>();
+        const QString path = m_folder->write("f.xml", content);
+        const auto record = newDocument(*fileKinds::ofFile(path));
+        QCOMPARE(loadDocument(path, record.get()), 0);
+        QCOMPARE(record->leftOut.text(), unknown);
+        QCOMPARE(m_shown->listed.count("<br>"), unknown.isEmpty() ? 0 : 1);
+        QVERIFY2(m_shown->listed.contains(unknown), qPrintable(m_shown->listed));
+        configStruct config;
+        QString reason;
+        QCOMPARE(saveXmlNoEvents(path, record.get(), &reason) == 0, unknown.isEmpty());
+        QVERIFY2(reason.contains(unknown), qPrintable(reason));
+        if (unknown.isEmpty())
+            return;
+        QVERIFY(!saveDocument(path, *record, config));
+        QCOMPARE(read(path), content);
+        m_shown->answered = prompts::answer::yes;
+        QVERIFY(saveDocument(path, *record, config));
+        QVERIFY2(m_shown->asked.contains(unknown), qPrintable(m_shown->asked));
+        QVERIFY(saveDocument(path, *record, config));
     }
 
     void attributePrefixesDoNotCount()
@@ -222,6 +270,7 @@ private slots:
             false, 0);
         row("100,000 levels", order(deepOpen + QByteArray("</a>").repeated(100000)), false, 0);
         row("100,000 levels left open", order(deepOpen), false, -1);
+        row("many namespaces around", order(QByteArray("<a xmlns:b=\"u\">").repeated(100000)), false, -1);
         row(
             "1,000 attributes",
             [] {
@@ -248,6 +297,7 @@ private slots:
         QString error;
         QCOMPARE(loadDocument(path, record.get(), &error), loaded);
         QCOMPARE(error.isEmpty(), loaded == 0);
+        QVERIFY2(!valid || record->leftOut.count == 0, qPrintable(record->leftOut.text()));
         QCOMPARE(validateXml(path, schemaPath, true), valid);
         // A refusal says why.
         QCOMPARE(m_shown->errors.isEmpty(), valid);

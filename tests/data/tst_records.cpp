@@ -1,6 +1,9 @@
 // What the records read, default and write, and that saving loses nothing that was on disk.
 #include "testSupport.h"
 
+#include "data/XmlValidator.h"
+#include "data/documentSaving.h"
+
 #include <unistd.h>
 
 using namespace testSupport;
@@ -213,6 +216,47 @@ private slots:
         }
         QCOMPARE(read(path), QByteArray("old"));
         QCOMPARE(QDir(m_folder->path()).entryList({"o*"}, QDir::Files | QDir::Hidden), QStringList({"o.xml"}));
+    }
+
+    void aRootWithoutAttributesIsSavedAsItsKind()
+    {
+        const QString path = m_folder->path("r.xml");
+        for (const fileKind *kind : {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config,
+                                     &fileKinds::bom, &fileKinds::boms, &fileKinds::info, &fileKinds::update}) {
+            m_folder->write("r.xml", '<' + kind->root.toUtf8() + "/>");
+            const auto record = newDocument(*kind);
+            QCOMPARE(loadDocument(path, record.get()), 0);
+            QCOMPARE(saveXml(path, record.get()), 0);
+            QVERIFY(validateXml(path, paths::schema(kind->schema), false));
+            QVERIFY(read(path).contains("xsi:type=\"" + kind->xsiType.toUtf8() + '"'));
+        }
+    }
+
+    void whatWouldNotOpenAgainIsNotSaved()
+    {
+        const QString path = m_folder->path("o.xml");
+        kiv_mat_zpStruct record;
+        configStruct config;
+        QVERIFY(saveDocument(path, record, config));
+        const QByteArray good = read(path);
+        for (const char *version : {"", "KIV_MAT_BOM_1", "later"}) {
+            record.xsiType = version;
+            QVERIFY(!saveDocument(path, record, config));
+            QVERIFY2(m_shown->errors.takeLast().contains("would not open again: line 2"), version);
+            QVERIFY(!saveDocument(m_folder->path("new.xml"), record, config));
+            QCOMPARE(saveXml(path, &record), -1);
+            QCOMPARE(read(path), good);
+        }
+        QCOMPARE(saveXmlNoEvents(path, &record, nullptr, {}, saveRule::whatever), 0);
+        QCOMPARE(saveXml(path, &record), 0);
+        // A cancelled save is a failed one of which nothing is told.
+        m_shown->errors.clear();
+        record.xsiType = record.kind().xsiType;
+        const workShown cancelling = [](const auto &work) { work([](long long, long long) { return false; }); };
+        QVERIFY(!saveDocument(path, record, config, cancelling));
+        QVERIFY(m_shown->errors.isEmpty());
+        QVERIFY(read(path).contains("later"));
+        QCOMPARE(QDir(m_folder->path()).entryList({"o*", "new*"}, QDir::Files | QDir::Hidden), QStringList({"o.xml"}));
     }
 
     void textsComeBackAsTheyWere()

@@ -120,6 +120,36 @@ private slots:
         QCOMPARE(validator.details().messages.size(), 100);
     }
 
+    void oneFaultOneMessage_data()
+    {
+        const rows<QByteArray> row;
+        const QByteArray item = "<order_items><order_item>@</order_item></order_items>";
+        const auto text = [&](const QByteArray &wrong) { return QByteArray(item).replace("@", wrong); };
+        row("tag", text("<name>a</nam>"));
+        row("ampersand", text("<name>R & D</name>"));
+        row("less", text("<name>a < b</name>"));
+        row("entity", text("<name>a&nbsp;b</name>"));
+        row("Windows-1250", text("<name>\xb9</name>"));
+        row("control character", text("<name>\x01</name>"));
+        row("attribute twice", "<options><option type=\"a\" type=\"b\"/></options>");
+        row("undeclared prefix", "<p:attentions/>");
+        row("text in many pieces", text("a&amp;b<!-- -->c<![CDATA[ ]]>"));
+    }
+    // Nothing that follows from it is told, whichever validator tells it.
+    void oneFaultOneMessage()
+    {
+        const auto [fault] = fetch<QByteArray>();
+        const QByteArray rest = "<order_items><order_item><name>a</name></order_item></order_items>\n";
+        for (int repeated : {1, (1 << 20) / rest.size() + 1}) {
+            m_shown->errors.clear();
+            XmlValidator validator;
+            const QString path = m_folder->write("v.xml", order(fault + rest.repeated(repeated)));
+            QVERIFY(!validator.validate(path, paths::schema("kiv_mat.xsd"), true));
+            QVERIFY2(m_shown->errors.size() == 1, qPrintable(m_shown->errors.join('\n')));
+            QCOMPARE(validator.details().messageCount, 1);
+        }
+    }
+
     // One of the two validators alone would take it.
     void unknownRoot() { QVERIFY(!valid(document("kiv_mat_xx", "KIV_MAT_ZP_1", "kiv_mat.xsd", ""))); }
 
