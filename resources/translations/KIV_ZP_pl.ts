@@ -4284,6 +4284,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Warning</source>
         <translation>Ostrzeżenie</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>Plik %1 już istnieje. Zastąpić go?</translation>
+    </message>
 </context>
 <context>
     <name>richtexteditDialog</name>

@@ -60,6 +60,31 @@ private slots:
         QVERIFY(files::temporaryFileName().startsWith(scratch + '/'));
     }
 
+    void suffixes_data()
+    {
+        const QString xml = "Xml File (*.xml)", html = "Html File (*.html)", pdf = "Pdf File (*.pdf)";
+        const QString both = html + ";;" + pdf;
+        // The name typed is the tag.
+        const rows<QString, QString, QString> row;
+        row("/a/print 1", pdf, pdf, "/a/print 1.pdf");
+        row("/a.pdf/p", pdf, pdf, "/a.pdf/p.pdf");
+        row("1.5", xml, xml, "1.5.xml");
+        row("x.PDF", pdf, pdf, "x.PDF");
+        row("no filter", "", "", "no filter");
+        row("x.pdf", both, html, "x.pdf");
+        row("x", both, html, "x.html");
+        row("y", both, pdf, "y.pdf");
+        row("y.html", both, pdf, "y.pdf");
+        row("y.txt", both, pdf, "y.txt.pdf");
+        row("", pdf, pdf, "");
+    }
+
+    void suffixes()
+    {
+        const auto [filters, chosen, written] = fetch<QString, QString, QString>();
+        QCOMPARE(prompts::withSuffix(tag(), chosen, filters), written);
+    }
+
     void fullDiskKeepsTheOldFile_data()
     {
         const rows<int, int> row;
