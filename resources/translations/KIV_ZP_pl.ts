@@ -2677,6 +2677,13 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>desktop</name>
+    <message>
+        <source>This link is not opened. Only web and mail addresses are, and documents in the program&apos;s folders:</source>
+        <translation>Ten odnośnik nie został otwarty. Otwierane są tylko adresy stron i poczty oraz dokumenty w folderach programu:</translation>
+    </message>
+</context>
+<context>
     <name>editWindow</name>
     <message>
         <source>changed, not saved</source>

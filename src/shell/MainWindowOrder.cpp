@@ -13,6 +13,7 @@
 #include "report/pdfPrinter.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/fileVersions.h"
 #include "util/files.h"
 #include "util/messages.h"
@@ -24,7 +25,6 @@
 #include "window/workProgress.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QStatusBar>
@@ -205,7 +205,7 @@ bool MainWindow::saveAs()
     }
     tell(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
     if (known().config().isOn(optionKey::openReportHtml))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(page));
+        desktop::openFile(page);
     return true;
 }
 
