@@ -2615,6 +2615,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
     </message>
+    <message>
+        <source>no earlier version could be kept in %1</source>
+        <translation>żadnej wcześniejszej wersji nie udało się zachować w %1</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -4214,6 +4218,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>the file cannot be written</source>
         <translation>nie można zapisać pliku</translation>
+    </message>
+    <message>
+        <source>it is open elsewhere: %1</source>
+        <translation>jest otwarty gdzie indziej: %1</translation>
     </message>
 </context>
 <context>
