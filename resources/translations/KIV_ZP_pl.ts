@@ -2751,6 +2751,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>text</source>
         <translation>tekst</translation>
     </message>
+    <message>
+        <source>no earlier version could be kept in %1</source>
+        <translation>żadnej wcześniejszej wersji nie udało się zachować w %1</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -2810,6 +2814,13 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>%n materiały</numerusform>
             <numerusform>%n materiałów</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>desktop</name>
+    <message>
+        <source>This link is not opened. Only web and mail addresses are, and documents in the program&apos;s folders:</source>
+        <translation>Ten odnośnik nie został otwarty. Otwierane są tylko adresy stron i poczty oraz dokumenty w folderach programu:</translation>
     </message>
 </context>
 <context>
@@ -4347,6 +4358,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>the file cannot be written</source>
         <translation>nie można zapisać pliku</translation>
     </message>
+    <message>
+        <source>it is open elsewhere: %1</source>
+        <translation>jest otwarty gdzie indziej: %1</translation>
+    </message>
 </context>
 <context>
     <name>orderTree</name>
@@ -4422,6 +4437,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Warning</source>
         <translation>Ostrzeżenie</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>Plik %1 już istnieje. Zastąpić go?</translation>
     </message>
 </context>
 <context>

@@ -8,13 +8,13 @@
 #include "report/myWebView.h"
 #include "report/pdfPrinter.h"
 #include "tools/childRunner.h"
+#include "util/desktop.h"
 #include "util/files.h"
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/workProgress.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -115,7 +115,7 @@ void Kiv_bomWindow::commandFullReport(bool)
     }
     tellWritten(path, written);
     if (written && known().config().isOn(optionKey::openReportHtml))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+        desktop::openFile(path);
 }
 
 void Kiv_bomWindow::commandCsv(bool)
@@ -160,13 +160,13 @@ void Kiv_bomWindow::commandDoc(bool)
         return;
     tellWritten(path, written);
     if (written)
-        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+        desktop::openFile(path);
 }
 
 void Kiv_bomWindow::commandOpen(bool)
 {
     const QString path = currentPath();
-    if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    if (!desktop::openFile(path))
         tell(tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)));
 }
 

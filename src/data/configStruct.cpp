@@ -3,12 +3,15 @@
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "util/labels.h"
+#include "util/paths.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
+
+QString usualBackupPath() { return QDir::tempPath() + QLatin1String("/KivZP_BACKUP"); }
 
 QString icon(const char *name)
 {
@@ -160,8 +163,16 @@ QString configStruct::backupPath()
         option->editable = statusWord::editableYes;
         option->type = optionKey::pathBackup;
     }
-    option->value1 = option->value2 = QDir::tempPath() + QLatin1String("/KivZP_BACKUP");
+    option->value1 = option->value2 = usualBackupPath();
     return option->value1;
+}
+
+QStringList configStruct::backupFolders()
+{
+    QStringList folders{QDir::cleanPath(paths::beside(backupPath()))};
+    if (folders.first() == QDir::cleanPath(usualBackupPath()))
+        folders.append(paths::userDir() + QLatin1String("/KivZP_BACKUP"));
+    return folders;
 }
 
 tagHandlerList configStruct::tagHandlers()

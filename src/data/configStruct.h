@@ -56,6 +56,9 @@ public:
     // The folder for backups. When PATH_BACKUP is missing or empty, it is set to a folder in the
     // system's temporary one.
     QString backupPath();
+    // Where earlier versions go: that folder, a relative one being beside the program, and while it
+    // is the temporary one, which others share and the system empties, one of the user's, too.
+    QStringList backupFolders();
 
     tagHandlerList tagHandlers() override;
     int readXml(QXmlStreamReader *reader) override;

@@ -19,6 +19,37 @@ fileState fileState::of(const QString &path)
     return info.exists() ? fileState{info.size(), info.lastModified()} : fileState{};
 }
 
+namespace {
+
+QString &lastVersionFault()
+{
+    static QString fault;
+    return fault;
+}
+
+} // namespace
+
+QString versionFault() { return lastVersionFault(); }
+
+bool keepVersion(const QString &path, configStruct &config)
+{
+    constexpr int usualCount = 20;
+    const optionStruct *count = config.options.findOption(optionKey::backupCount);
+    const QStringList folders = config.backupFolders();
+    bool kept = false;
+    for (const QString &folder : folders)
+        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount) || kept;
+    lastVersionFault().clear();
+    if (kept)
+        return true;
+    const QString places = folders.join(QLatin1String(", "));
+    userPrompts().log(messages::done(
+        QCoreApplication::translate("log", "No backup could be written "), path, places));
+    lastVersionFault() =
+        QCoreApplication::translate("data", "no earlier version could be kept in %1").arg(places);
+    return false;
+}
+
 bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
                   const workShown &shown)
 {
@@ -32,12 +63,7 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                false)
                != prompts::answer::yes)
         return false;
-    constexpr int usualCount = 20;
-    const optionStruct *count = config.options.findOption(optionKey::backupCount);
-    const QString backups = config.backupPath();
-    if (!fileVersions::keep(path, backups, count ? count->value1.toInt() : usualCount))
-        userPrompts().log(messages::done(
-            QCoreApplication::translate("log", "No backup could be written "), path, backups));
+    keepVersion(path, config);
     document.leftOut = {};
     bool written = false;
     bool cancelled = false;

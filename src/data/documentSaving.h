@@ -22,6 +22,13 @@ struct fileState
 // Runs work that reports progress and shows it meanwhile; a window gives one for what takes long.
 using workShown = std::function<void(const std::function<void(const progressFunction &)> &work)>;
 
+// Keeps the file as it is among its earlier versions, before it is written over. True when there
+// was nothing to keep or it is kept in at least one of the configuration's folders; else the log
+// says so, and versionFault() does until the next file is saved.
+bool keepVersion(const QString &path, configStruct &config);
+// What to tell beside "Saved": that no earlier version was kept, and where; empty when one was.
+QString versionFault();
+
 // Writes a document over the file, whose earlier version goes to the configuration's folder for
 // backups, and says so in the log. False, with the file as it was, when it cannot be written or
 // would not open again, which the user is told with the reason, or when the user cancelled it.

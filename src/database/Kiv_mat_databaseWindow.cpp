@@ -7,6 +7,7 @@
 #include "data/vocabulary.h"
 #include "tree/myModelDelegate.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/labels.h"
 #include "util/prompts.h"
 #include "window/searchLine.h"
@@ -16,7 +17,6 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QDesktopServices>
 #include <QDir>
 #include <QHeaderView>
 #include <QMenu>
@@ -408,7 +408,7 @@ void Kiv_mat_databaseWindow::commandOpenLink(bool)
     const QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
     const materialStruct *material = materialRows::materialOf(item);
     const QString link = material ? databaseTree::linkOf(*material) : QString();
-    if (link.isEmpty() || !QDesktopServices::openUrl(QUrl::fromUserInput(link)))
+    if (link.isEmpty() || !desktop::followLink(QUrl::fromUserInput(link)))
         tell(tr("This material has no link that can be opened"));
 }
 

@@ -13,6 +13,7 @@
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -21,7 +22,6 @@
 #include "util/userState.h"
 #include "window/workProgress.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -150,7 +150,7 @@ void Kiv_mat_databaseWindow::writeReport(databaseReportKind kind)
         writeDatabaseReport(m_rows->database(), &known().firm(), kind, path, work.function());
     tellExport(result);
     if (result.result == exportResult::done && known().config().isOn(optionKey::openReportHtml))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+        desktop::openFile(path);
 }
 
 void Kiv_mat_databaseWindow::commandFullReport(bool) { writeReport(databaseReportKind::full); }
@@ -334,10 +334,10 @@ void Kiv_mat_databaseWindow::commandCPVIndex(bool)
     if (file.isEmpty())
         tell(tr("The dictionary of CPV codes is not there"));
     else
-        QDesktopServices::openUrl(file);
+        desktop::followLink(file);
 }
 
-void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { QDesktopServices::openUrl(cpvIndexPage()); }
+void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { desktop::followLink(cpvIndexPage()); }
 
 void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
                                       bool deleteAbsent, const QString &what)

@@ -5,13 +5,13 @@
 #include "database/materialChecks.h"
 #include "tools/KivScp.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/workProgress.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -81,14 +81,14 @@ QStandardItem *firstOf(const QStandardItemModel *model, const QModelIndex &index
     return model->itemFromIndex(index.sibling(index.row(), 0));
 }
 
-// A link that the desktop may be given: what else a file may hold could start a program.
+// Whether it is a link at all; where it may lead is known when it is followed.
 QUrl openable(const QString &link)
 {
-    const QUrl url(link.trimmed());
-    const QString scheme = url.scheme().toLower();
-    const bool isWeb = scheme == QLatin1String("http") || scheme == QLatin1String("https")
-                       || scheme == QLatin1String("ftp");
-    return isWeb && !url.host().isEmpty() ? url : QUrl();
+    const QString text = link.trimmed();
+    if (QDir::isAbsolutePath(text))
+        return QUrl::fromLocalFile(text);
+    const QUrl url(text);
+    return url.scheme().isEmpty() ? QUrl() : url;
 }
 
 QString logLine(const QString &text) { return text::toHtml(text) + QLatin1String("<br>"); }
@@ -324,7 +324,9 @@ void materialWindow::commandDeleteRows(bool)
 void materialWindow::commandOpen(bool)
 {
     const QUrl url = openable(currentLink());
-    if (url.isValid() && !QDesktopServices::openUrl(url))
+    if (!desktop::mayFollow(url))
+        desktop::followLink(url); // which refuses it
+    else if (!desktop::followLink(url))
         userPrompts().showError(tr("%1 cannot be opened").arg(currentLink().toHtmlEscaped()));
 }
 

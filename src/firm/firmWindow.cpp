@@ -4,12 +4,12 @@
 #include "commands/editCommands.h"
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -297,8 +297,8 @@ void firmWindow::commandHomePage(bool)
     const QUrl url = currentHomePage();
     if (!url.isValid())
         return;
-    tell(QDesktopServices::openUrl(url) ? tr("Opened %1").arg(url.toDisplayString())
-                                        : tr("%1 cannot be opened").arg(url.toDisplayString()));
+    tell(desktop::followLink(url) ? tr("Opened %1").arg(url.toDisplayString())
+                                  : tr("%1 cannot be opened").arg(url.toDisplayString()));
 }
 
 void firmWindow::clicked(const QModelIndex &cell)

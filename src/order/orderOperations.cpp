@@ -1,12 +1,13 @@
 #include "order/orderOperations.h"
 
 #include "data/configStruct.h"
+#include "data/documentSaving.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "util/decimal.h"
-#include "util/fileVersions.h"
+#include "util/fileLock.h"
 #include "util/labels.h"
 #include "util/numbers.h"
 
@@ -122,6 +123,13 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
                   const std::vector<int> &columns, configStruct &config, QString *reason)
 {
+    fileLock lock;
+    lock.claim(path);
+    if (!lock.otherUser().isEmpty()) {
+        *reason = QCoreApplication::translate("orderOperations", "it is open elsewhere: %1")
+                      .arg(lock.otherUser());
+        return false;
+    }
     kiv_mat_zpStruct order;
     if (!readChecked(path, &order, reason))
         return false;
@@ -134,8 +142,7 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
         copy->index = QString::number(order.orderItems.items.size() + 1);
         order.orderItems.append(std::move(copy));
     }
-    constexpr int keptVersions = 20;
-    fileVersions::keep(path, config.backupPath(), keptVersions);
+    keepVersion(path, config);
     QString fault;
     if (saveXmlNoEvents(path, &order, &fault) >= 0)
         return true;

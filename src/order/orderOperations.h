@@ -60,7 +60,8 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
                                          const QDate &wait);
 // Copies lines to the end of another order's file, with the texts of these columns (their numbers
 // in the order of the record). An earlier version goes to the configuration's backup folder. False,
-// with the file as it was and the reason told, when it cannot be read or written.
+// with the file as it was and the reason told, when it cannot be read or written, or is open
+// elsewhere.
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
                   const std::vector<int> &columns, configStruct &config, QString *reason);
 

@@ -1,8 +1,8 @@
 #include "report/myWebView.h"
 
 #include "report/reportPage.h"
+#include "util/desktop.h"
 
-#include <QDesktopServices>
 #include <QWebFrame>
 #include <QWheelEvent>
 
@@ -12,7 +12,7 @@ myWebView::myWebView(QWidget *parent)
 {
     setPage(m_page);
     connect(m_page, &reportPage::linkActivated, this,
-            [](const QUrl &url) { QDesktopServices::openUrl(url); });
+            [](const QUrl &url) { desktop::followLink(url); });
 }
 
 void myWebView::showReport(const QString &html)

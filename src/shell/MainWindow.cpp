@@ -17,6 +17,7 @@
 #include "tree/myHeaderView.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -25,7 +26,6 @@
 #include "window/messageWindow.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -556,7 +556,7 @@ void MainWindow::commandShowErrors(bool) { errorsWindow::instance().showNow(); }
 void MainWindow::commandHelp(bool)
 {
     const QString path = paths::beside(QStringLiteral("_help/KIV_ZP.html"));
-    if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    if (!desktop::openFile(path))
         userPrompts().showError(tr("The manual %1 cannot be opened")
                                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
 }

@@ -230,8 +230,8 @@ void MainWindow::commandZpCopy(bool)
     QString reason;
     if (orderOperations::appendToFile(path, m_order->records(rows), dialog.columns(),
                                       known().config(), &reason))
-        tell(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
-                 .arg(QDir::toNativeSeparators(path)));
+        tellSaved(tr("%n line(s) copied to %1", nullptr, int(rows.size()))
+                      .arg(QDir::toNativeSeparators(path)));
     else
         userPrompts().showError(QDir::toNativeSeparators(path).toHtmlEscaped() + QLatin1String(": ")
                                 + reason.toHtmlEscaped());

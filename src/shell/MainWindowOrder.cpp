@@ -13,6 +13,7 @@
 #include "report/pdfPrinter.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "util/desktop.h"
 #include "util/fileVersions.h"
 #include "util/files.h"
 #include "util/messages.h"
@@ -24,7 +25,6 @@
 #include "window/workProgress.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QStatusBar>
@@ -157,7 +157,7 @@ void MainWindow::offerRecovery()
         return;
     }
     // Turned down, it stays to be found.
-    const QString kept = fileVersions::archive(left.file, known().config().backupPath());
+    const QString kept = fileVersions::archive(left.file, known().config().backupFolders());
     if (kept.isEmpty())
         return;
     userPrompts().log(messages::done(tr("The unsaved order was put aside "), name, kept));
@@ -203,9 +203,9 @@ bool MainWindow::saveAs()
         userPrompts().showError(tr("The file %1 cannot be written").arg(native(page)));
         return true;
     }
-    tell(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
+    tellSaved(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
     if (known().config().isOn(optionKey::openReportHtml))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(page));
+        desktop::openFile(page);
     return true;
 }
 
@@ -292,7 +292,7 @@ bool MainWindow::printTo(const QString &path)
 void MainWindow::commandArchiveDD(bool)
 {
     const QString &path = m_document.path();
-    const QString kept = fileVersions::archive(path, known().config().backupPath());
+    const QString kept = fileVersions::archive(path, known().config().backupFolders());
     if (kept.isEmpty())
         userPrompts().showError(tr("No copy of %1 could be made").arg(native(path)));
     else
@@ -307,7 +307,7 @@ void MainWindow::commandArchiveDatabase(bool)
         const QString &path = known().database(programData::databaseKind(kind)).filePath;
         if (path.isEmpty())
             continue;
-        const QString kept = fileVersions::archive(path, known().config().backupPath());
+        const QString kept = fileVersions::archive(path, known().config().backupFolders());
         if (kept.isEmpty()) {
             userPrompts().showError(tr("No copy of %1 could be made").arg(native(path)));
             continue;

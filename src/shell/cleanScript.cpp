@@ -4,13 +4,13 @@
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "util/desktop.h"
 #include "util/files.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
@@ -103,7 +103,9 @@ namespace cleanScript {
 environment ofProgram()
 {
     return {paths::programDir(), QDir::tempPath(),
-            [](const QString &url) { return QDesktopServices::openUrl(QUrl(url)); },
+            [](const QString &url) {
+                return desktop::mayFollow(QUrl(url)) && desktop::followLink(QUrl(url));
+            },
             [](const QString &path) { return programData::instance().replaceConfiguration(path); }};
 }
 

@@ -18,7 +18,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontMetrics>
-#include <QStandardPaths>
 
 namespace {
 
@@ -57,12 +56,10 @@ void listMissingLetters()
         }
 }
 
-QString userDataDir() { return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation); }
-
 // The configuration that will be read, known before the data folder is settled.
 QString configPath()
 {
-    const QString ofUser = userDataDir() + QLatin1String("/_config/kiv_mat_config.xml");
+    const QString ofUser = paths::userDir() + QLatin1String("/_config/kiv_mat_config.xml");
     return !dataFolder::isWritable(paths::programDir()) && QFileInfo::exists(ofUser)
                ? ofUser
                : paths::config();
@@ -71,7 +68,7 @@ QString configPath()
 // A program that cannot write beside itself works in a folder of the user's.
 void settleDataFolder()
 {
-    const dataFolder::choice choice = dataFolder::choose(paths::programDir(), userDataDir());
+    const dataFolder::choice choice = dataFolder::choose(paths::programDir(), paths::userDir());
     if (!choice.perUser)
         return;
     paths::setDataDir(choice.dir);

@@ -1,6 +1,6 @@
 #include "util/fileVersions.h"
 
-#include "util/safeFile.h"
+#include "util/files.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -42,19 +42,21 @@ QString newName(const QString &folder, const QString &beginning, const QString &
     return folder + QLatin1Char('/') + beginning + time.toString(timeForm) + end;
 }
 
+// With the original's permissions. A full disk is noticed only by what arrived.
 bool copyWhole(const QString &from, const QString &to)
 {
-    QFile source(from);
-    safeFile target(to);
-    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
-        return false;
-    constexpr qint64 blockSize = 1 << 20;
-    while (!source.atEnd()) {
-        const QByteArray block = source.read(blockSize);
-        if (block.isEmpty() || target.write(block) != block.size())
-            return false;
-    }
-    return target.commit();
+    if (QFile::copy(from, to) && files::sameContent(from, to))
+        return true;
+    QFile::remove(to);
+    return false;
+}
+
+// A folder made here is for its owner alone, and so is one where everybody may put things.
+bool prepare(const QString &folder)
+{
+    const bool isShared =
+        QDir::cleanPath(folder).startsWith(QDir::cleanPath(QDir::tempPath()) + QLatin1Char('/'));
+    return (!isShared && QFileInfo(folder).isDir()) || files::makePrivateFolder(folder);
 }
 
 QString endOf(const QString &path) { return QLatin1Char('.') + QFileInfo(path).suffix(); }
@@ -75,19 +77,29 @@ bool keep(const QString &path, const QString &folder, int count)
 {
     if (!QFileInfo(path).isFile() || count <= 0)
         return true;
-    if (!copyWhole(path, newName(folder, beginningOf(path), endOf(path))))
-        return false;
-    const QStringList versions = of(path, folder);
+    QStringList versions = of(path, folder);
+    // Saving often is not to push out what differs.
+    if (versions.isEmpty() || !files::sameContent(path, versions.first())) {
+        const QString made = newName(folder, beginningOf(path), endOf(path));
+        if (!prepare(folder) || !copyWhole(path, made))
+            return false;
+        versions.prepend(made);
+    }
     for (int i = count; i < versions.size(); ++i)
         QFile::remove(versions[i]);
     return true;
 }
 
-QString archive(const QString &path, const QString &folder)
+QString archive(const QString &path, const QStringList &folders)
 {
-    const QString target = newName(
-        folder, QFileInfo(path).completeBaseName() + QStringLiteral(".archive."), endOf(path));
-    return copyWhole(path, target) ? target : QString();
+    QString made;
+    for (const QString &folder : folders) {
+        const QString target = newName(
+            folder, QFileInfo(path).completeBaseName() + QStringLiteral(".archive."), endOf(path));
+        if (prepare(folder) && copyWhole(path, target))
+            made = target;
+    }
+    return made;
 }
 
 } // namespace fileVersions

@@ -67,6 +67,32 @@ bool readLines(const QString &path, QStringList *lines)
     return true;
 }
 
+bool makePrivateFolder(const QString &path)
+{
+    const QFileInfo info(path);
+    QDir().mkpath(info.absolutePath());
+    QDir().mkdir(path);
+    // The system lets nobody but the owner do this.
+    return !info.isSymLink() && info.isDir()
+           && QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+bool sameContent(const QString &a, const QString &b)
+{
+    QFile one(a);
+    QFile other(b);
+    if (!one.open(QIODevice::ReadOnly) || !other.open(QIODevice::ReadOnly)
+        || one.size() != other.size())
+        return false;
+    constexpr qint64 blockSize = 1 << 20;
+    while (!one.atEnd()) {
+        const QByteArray block = one.read(blockSize);
+        if (block.isEmpty() || block != other.read(blockSize))
+            return false;
+    }
+    return true;
+}
+
 qint64 folderSize(const QString &path)
 {
     qint64 sum = 0;

@@ -31,6 +31,13 @@ QString readText(const QString &path);
 // Appends the file's lines (UTF-8) to lines; false when the file cannot be opened.
 bool readLines(const QString &path, QStringList *lines);
 
+// Makes a folder that only its owner can look into, with the missing folders above it; one that is
+// there already becomes so. False when it is a link, somebody else's, or cannot be made.
+bool makePrivateFolder(const QString &path);
+
+// Whether two files hold the same bytes; false when one cannot be read.
+bool sameContent(const QString &a, const QString &b);
+
 // Sum of the sizes in bytes of all files under the folder, hidden ones included, links not
 // followed.
 qint64 folderSize(const QString &path);

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 namespace {
@@ -60,6 +61,8 @@ QString data(const QString &relative)
 {
     return QDir::isAbsolutePath(relative) ? relative : dataDir() + QLatin1Char('/') + relative;
 }
+
+QString userDir() { return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation); }
 
 QString config() { return data(QStringLiteral("_config/kiv_mat_config.xml")); }
 

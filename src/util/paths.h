@@ -27,6 +27,9 @@ void setDataDir(const QString &dir); // empty: the program's folder again
 // A path in that folder: dataDir() + "/" + relative. An absolute path is returned as it is.
 QString data(const QString &relative);
 
+// The folder of this user's own things, the same whatever folder the program works in.
+QString userDir();
+
 // "_config/kiv_mat_config.xml" there, and the small file beside it in which windows remember their
 // places.
 QString config();

@@ -2,6 +2,8 @@
 
 #include "util/text.h"
 
+#include <QRegularExpression>
+
 #include <cstdio>
 #include <utility>
 
@@ -22,6 +24,25 @@ private:
 };
 
 prompts *installed = nullptr;
+
+// With their points: "Xml File (*.xml)" has ".xml".
+QStringList suffixesOf(const QString &filter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\*(\\.\\w+)"));
+    QStringList suffixes;
+    for (auto found = pattern.globalMatch(filter); found.hasNext();)
+        suffixes.append(found.next().captured(1));
+    return suffixes;
+}
+
+// That one of them in which the name ends; empty when it has none.
+QString endOf(const QString &name, const QStringList &suffixes)
+{
+    for (const QString &suffix : suffixes)
+        if (name.endsWith(suffix, Qt::CaseInsensitive))
+            return suffix;
+    return {};
+}
 
 } // namespace
 
@@ -51,6 +72,21 @@ std::optional<int> prompts::choose(const QString &, const QString &, const QStri
 
 QString prompts::openFile(const QString &, const QString &, const QString &) { return {}; }
 QString prompts::saveFile(const QString &, const QString &, const QString &) { return {}; }
+QString prompts::withSuffix(const QString &name, const QString &chosenFilter,
+                            const QString &filters)
+{
+    const QString chosen = chosenFilter.isEmpty() ? filters : chosenFilter;
+    const QStringList wanted = suffixesOf(chosen);
+    if (name.isEmpty() || wanted.isEmpty() || !endOf(name, wanted).isEmpty())
+        return name;
+    const QString other = endOf(name, suffixesOf(filters));
+    if (other.isEmpty())
+        return name + wanted.first();
+    return filters.startsWith(chosen)
+               ? name
+               : QString(name).replace(name.size() - other.size(), other.size(), wanted.first());
+}
+
 void prompts::log(const QString &) {}
 void prompts::listError(const QString &) {}
 void prompts::showErrors() {}

@@ -52,7 +52,14 @@ public:
 
     // A file to read or to write; empty when the user gave none. filter as in "Xml File (*.xml)".
     virtual QString openFile(const QString &title, const QString &directory, const QString &filter);
+    // What is written there replaces a file of that name; the name ends as the filter says.
     virtual QString saveFile(const QString &title, const QString &proposed, const QString &filter);
+
+    // A name to write to as it was typed, with the suffix that is missing: the first one of the
+    // filter chosen. filters are all of them, as saveFile() has them. A suffix of another filter
+    // stands when it was typed, but not when another filter was chosen after it.
+    static QString withSuffix(const QString &name, const QString &chosenFilter,
+                              const QString &filters);
 
     // A line of HTML for the log window, or for the errors window, which showErrors() brings up
     // when lines came since it was brought up last.

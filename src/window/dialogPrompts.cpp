@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -44,6 +45,20 @@ public:
         setIconPixmap(QIcon(QStringLiteral(":/icons/icons/%1.png").arg(name)).pixmap(size, size));
     }
 };
+
+bool mayReplace(const QString &path)
+{
+    box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")),
+                 QCoreApplication::translate("prompts", "The file %1 exists already. Replace it?")
+                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+    question.setIcon(QMessageBox::Warning);
+    const QPushButton *yes = question.addButton(labels::yes(), QMessageBox::YesRole);
+    QPushButton *no = question.addButton(labels::no(), QMessageBox::NoRole);
+    question.setDefaultButton(no);
+    question.setEscapeButton(no);
+    question.exec();
+    return question.clickedButton() == yes;
+}
 
 } // namespace
 
@@ -175,7 +190,20 @@ QString dialogPrompts::openFile(const QString &title, const QString &directory,
 QString dialogPrompts::saveFile(const QString &title, const QString &proposed,
                                 const QString &filter)
 {
-    return QFileDialog::getSaveFileName(QApplication::activeWindow(), title, proposed, filter);
+    const QFileInfo place(proposed);
+    QFileDialog dialog(QApplication::activeWindow(), title, place.absolutePath(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(place.fileName());
+    // The dialog would ask for the name as typed, and only some of them know the suffix by then.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString path =
+            withSuffix(dialog.selectedFiles().value(0), dialog.selectedNameFilter(), filter);
+        if (!QFileInfo::exists(path) || mayReplace(path))
+            return path;
+        dialog.selectFile(QFileInfo(path).fileName());
+    }
+    return {};
 }
 
 void dialogPrompts::log(const QString &html) { logWindow::instance().append(html); }

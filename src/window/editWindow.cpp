@@ -127,6 +127,12 @@ void editWindow::showState()
 
 void editWindow::tell(const QString &text) { statusBar()->showMessage(text); }
 
+void editWindow::tellSaved(const QString &text)
+{
+    const QString fault = versionFault();
+    tell(fault.isEmpty() ? text : text + QLatin1String(", ") + fault);
+}
+
 bool editWindow::finishEditing()
 {
     bool taken = true;
@@ -342,7 +348,7 @@ bool editWindow::saveTo(const QString &path)
     onDisk() = fileState::of(path);
     setClean();
     claimFile();
-    tell(tr("Saved"));
+    tellSaved(tr("Saved"));
     saved();
     showState();
     return true;

@@ -133,6 +133,8 @@ public slots:
     void clearCommands();
     // Tells something in the status bar.
     void tell(const QString &text);
+    // The same of a file that was saved, and whether its earlier version was kept.
+    void tellSaved(const QString &text);
 
 protected:
     editWindow(const QString &name, programData &known, QWidget *parent = nullptr);

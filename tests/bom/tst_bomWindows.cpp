@@ -35,6 +35,8 @@ const scenario setActions[] = {
     {"", "boms@?1/1,0 #setAll '7' Return", "boms@1/0/0,1 = 0; boms@1/1/0,1 = 7", edits},
     {"boms@2/0/0,0", "#report Ctrl+A '%/r.html' Return", "file r.html ~ !!!!!NONE-1; status = Saved as %/r.html"},
     {SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
+    {SETS, "#report Ctrl+A '%/p' !fileTypeCombo Down Return !fileNameEdit Return",
+     "file p.pdf ~ PDF-1; files p.html ="},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
     {"", "#close", "title = closed"},
     {NAME, "#undo", "boms@0,0 = Zasilanie; title = Bill of materials"},

@@ -173,9 +173,9 @@ private slots:
             {"SERVER_NAME", "material@3/0,0 #-datasheets #-declarations", noServer, noServer},
             {"", open.arg("HTTPS://y.com/a") + " #-copyFileToServer", "no link to the file server is selected"},
             // The desktop could start a program.
-            {"", open.arg("file:///bin/sh"), noLink},
-            {"", open.arg("javascript:alert(1)"), noLink},
-            {"", open.arg("/bin/sh"), noLink},
+            {"", open.arg("file:///bin/sh") + " Return", "file:///bin/sh"},
+            {"", open.arg("javascript:alert(1)") + " Return", "javascript:alert(1)"},
+            {"", open.arg("/bin/sh") + " Return", "file:///bin/sh"},
         };
         for (const QStringList &row : rows)
             QTest::addRow("%s", qPrintable(row[1])) << row[0] << row[1] << QStringList(row.mid(2)).join('|');

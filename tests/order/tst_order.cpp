@@ -49,6 +49,8 @@ const scenario scenarios[] = {
     {"copied to another order", "orderLines@1,1 +orderLines@2,1 #zpCopy !file !Copy '%/_zp/one.xml' Return",
      "file _zp/one.xml ~ ABLS-8.000MHZ-B4-T; file _zp/one.xml ~ <index>3<; title = Order"},
     {"not to itself", "#zpCopy !file !Copy '%/_zp/zp_0.xml' Return Return", "boxes ~ This order is open here"},
+    {"not to one in use", "#zpCopy !file !Copy '%/_zp/held.xml' Return Return",
+     "boxes ~ held.xml: it is open elsewhere: gui_tests; file _zp/held.xml !~ STM32"},
     {"not to it", "#zpCopy !file !Copy '%/_zp/bad.xml' Return Return", "boxes ~ bad.xml: ; file _zp/bad.xml = bad"},
 
     // --- Remarks and options ---
@@ -170,13 +172,42 @@ private slots:
         QVERIFY(testSupport::read(copy.file).contains("ONE"));
     }
 
+    void versionsGo_data()
+    {
+        const char *copies = "files %1/zp_0.*.xml ~ zp_0; status = Saved";
+        const testSupport::rows<QString, QString> row;
+        row("beside the program", "rel/here", QString(copies).arg("rel/here"));
+        row("not only to the temporary folder", "%/tmp/KivZP_BACKUP",
+            QString(copies).arg("tmp/KivZP_BACKUP") + "; " + QString(copies).arg("share/gui_tests/KivZP_BACKUP"));
+        row("nowhere", "%/_zp/one.xml", "status = Saved, no earlier version could be kept in %/_zp/one.xml");
+    }
+    void versionsGo()
+    {
+        const auto [option, seen] = testSupport::fetch<QString, QString>();
+        QVERIFY(QDir().mkdir(path("tmp")));
+        qputenv("TMPDIR", QFile::encodeName(path("tmp")));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(path("share")));
+        setOption("PATH_BACKUP", filled(option));
+        restart("");
+        work(EDIT "Ctrl+S");
+        look(seen);
+        qunsetenv("TMPDIR");
+        qunsetenv("XDG_DATA_HOME");
+    }
+
     void versions()
     {
         const QString backup = path("versions");
         for (int i = 0; i < 5; ++i) {
             folder().write("a.xml", QByteArray::number(i));
-            QVERIFY(fileVersions::keep(path("a.xml"), backup, 3));
+            QFile(path("a.xml")).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+            // The second time there is nothing new.
+            for (int times = 0; times < 2; ++times)
+                QVERIFY(fileVersions::keep(path("a.xml"), backup, 3));
         }
+        const auto othersMay = [](const QString &made) { return int(QFile::permissions(made)) & 0x77; };
+        QCOMPARE(othersMay(backup), 0);
+        QCOMPARE(othersMay(fileVersions::of(path("a.xml"), backup)[0]), 0x40);
         folder().write("b/a.xml", "other");
         QVERIFY(fileVersions::keep(path("b/a.xml"), backup, 3));
         QByteArray kept;

@@ -15,6 +15,10 @@ const scenario actions[] = {
     {EDIT, "#save", "status = Saved; title = Order; disk ~ <name>Żuk<; files backup/zp_0.*.xml ~ zp_0", same},
     {EDIT, "#zpSaveAs Ctrl+A '%/o.xml' Return",
      "file o.xml ~ Żuk; file o.html ~ Żuk; disk !~ Żuk; status = Saved as %/o.xml", same},
+    // What the question names is what would be written, and No goes back to the name.
+    {EDIT, "#zpSaveAs Ctrl+A '%/_files/firms' Return !No Ctrl+A '%/o 1.5' Return",
+     "boxes ~ %/_files/firms.xml exists already; file o 1.5.xml ~ Żuk; file _files/firms.xml !~ Żuk", same},
+    {EDIT, "#zpSaveAs Ctrl+A '%/_files/firms' Return Escape Escape", "title = Order *; file _files/firms.xml !~ Żuk"},
     {"", "#zpPrint Ctrl+A '%/p&o' Return", "file p&o.pdf ~ PDF; log ~ <b>p&amp;o.pdf; status ~ Printed to %/p", reads},
     {"", "#zpPrint Ctrl+A '%/_zp/zp_0.xml/p.pdf' Return Return", "boxes ~ cannot be written"},
     {"", "#zpSend", "status ~ the message is %/_e-mail/msg_; title = Order", reads},

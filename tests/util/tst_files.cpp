@@ -1,7 +1,10 @@
 // Files and folders, and what happens to a file when writing it fails.
 #include "testSupport.h"
 
+#include "util/desktop.h"
 #include "util/safeFile.h"
+
+#include <QDesktopServices>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -11,6 +14,9 @@ using namespace testSupport;
 class tst_files : public folderTest
 {
     Q_OBJECT
+public slots:
+    void opened(const QUrl &url) { m_opened.append(url); }
+
 private slots:
     void textsAndLines()
     {
@@ -60,6 +66,61 @@ private slots:
         QVERIFY(files::temporaryFileName().startsWith(scratch + '/'));
     }
 
+    void suffixes_data()
+    {
+        const QString xml = "Xml File (*.xml)", html = "Html File (*.html)", pdf = "Pdf File (*.pdf)";
+        const QString both = html + ";;" + pdf;
+        // The name typed is the tag.
+        const rows<QString, QString, QString> row;
+        row("/a/print 1", pdf, pdf, "/a/print 1.pdf");
+        row("/a.pdf/p", pdf, pdf, "/a.pdf/p.pdf");
+        row("1.5", xml, xml, "1.5.xml");
+        row("x.PDF", pdf, pdf, "x.PDF");
+        row("no filter", "", "", "no filter");
+        row("x.pdf", both, html, "x.pdf");
+        row("x", both, html, "x.html");
+        row("y", both, pdf, "y.pdf");
+        row("y.html", both, pdf, "y.pdf");
+        row("y.txt", both, pdf, "y.txt.pdf");
+        row("", pdf, pdf, "");
+    }
+
+    void suffixes()
+    {
+        const auto [filters, chosen, written] = fetch<QString, QString, QString>();
+        QCOMPARE(prompts::withSuffix(tag(), chosen, filters), written);
+    }
+
+    void links_data()
+    {
+        const rows<bool> row;
+        row.each({"http://a.pl/x.exe", "https://a.pl", "mailto:a@b.pl", "file://%/doc.PDF", "file://%/_files/a b.html"},
+                 true);
+        row.each({"file://%/evil.sh", "file://%/evil.desktop", "file://%/none.pdf", "file://%/linked.pdf",
+                  "file://%/out.pdf", "file:///etc/services.txt", "file://%/_files/../../away.pdf", "file://%",
+                  "file://server/share/a.pdf", "vbscript:x", "javascript:alert(1)", "ftp://a.pl/x", "http:x", "x.pdf",
+                  "mailto:a@b.pl?subject=x&attach=/etc/passwd"},
+                 false);
+    }
+
+    void links()
+    {
+        for (const char *name : {"doc.PDF", "_files/a b.html", "evil.sh", "evil.desktop"})
+            m_folder->write(name, "x");
+        const QTemporaryDir away;
+        QVERIFY(QFile(m_folder->path("evil.sh")).link(m_folder->path("linked.pdf")));
+        QVERIFY(QFile(m_folder->path("doc.PDF")).copy(away.filePath("away.pdf")));
+        QVERIFY(QFile(away.filePath("away.pdf")).link(m_folder->path("out.pdf")));
+        const QUrl link(tag().replace('%', m_folder->path()));
+        for (const char *scheme : {"http", "https", "mailto", "file", "vbscript", "javascript", "ftp"})
+            QDesktopServices::setUrlHandler(scheme, this, "opened");
+        m_opened.clear();
+        const auto [allowed] = fetch<bool>();
+        QCOMPARE(desktop::followLink(link), allowed);
+        QCOMPARE(m_opened, allowed ? QList<QUrl>{link} : QList<QUrl>());
+        QCOMPARE(m_shown->errors.join("").contains(link.toString()), !allowed);
+    }
+
     void fullDiskKeepsTheOldFile_data()
     {
         const rows<int, int> row;
@@ -105,6 +166,9 @@ private slots:
         }
         QVERIFY(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
     }
+
+private:
+    QList<QUrl> m_opened;
 };
 
 KIVZP_TEST(tst_files)
