@@ -7,6 +7,7 @@
 #include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -52,6 +53,7 @@ bool keepVersion(const QString &path, configStruct &config)
 
 bool saveDocument(const QString &path, const documentStruct &document, configStruct &config)
 {
+    scratch::clearLeftSaves(path);
     keepVersion(path, config);
     if (saveXmlNoEvents(path, &document) < 0) {
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")

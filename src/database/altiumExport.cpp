@@ -6,8 +6,8 @@
 #include "database/workbook.h"
 #include "util/files.h"
 #include "util/labels.h"
-#include "util/messages.h"
 #include "util/safeFile.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -215,7 +215,7 @@ QByteArray createTable(const QByteArray &table, const QStringList &columnNames)
 // What the SQLite driver makes of a new file.
 bool newSqliteFile(QByteArray *content)
 {
-    const QTemporaryDir folder;
+    const QTemporaryDir folder(scratch::pattern());
     const QString path = folder.filePath(QStringLiteral("new.sqlite"));
     const QString connection = QStringLiteral("SQLITE");
     bool opened = false;

@@ -1,6 +1,7 @@
 #include "database/workbook.h"
 
 #include "util/safeFile.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,8 @@
 #include <xlsxwriter.h>
 
 workbook::workbook()
-    : m_book(workbook_new(QFile::encodeName(m_scratch.filePath(QStringLiteral("book.xlsx")))))
+    : m_scratch(scratch::pattern())
+    , m_book(workbook_new(QFile::encodeName(m_scratch.filePath(QStringLiteral("book.xlsx")))))
 {
 }
 
