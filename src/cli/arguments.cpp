@@ -3,6 +3,7 @@
 #include "data/XmlValidator.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
+#include "util/messages.h"
 #include "util/paths.h"
 #include "util/text.h"
 
@@ -158,7 +159,9 @@ QCommandLineOption outputOption(const char *description)
 
 int cannotWrite(const QString &path)
 {
-    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
+    err() << path << ": "
+          << messages::because(QCoreApplication::translate("cli", "cannot be written"), path)
+          << '\n'
           << Qt::flush;
     return notWritten;
 }

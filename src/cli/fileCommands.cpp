@@ -150,11 +150,7 @@ int runResave(const QStringList &arguments)
     if (!document)
         return refused;
     const QString target = options.positionalArguments().at(1);
-    if (saveXmlNoEvents(target, document.get()) == 0)
-        return done;
-    err() << target << ": " << QCoreApplication::translate("cli", "cannot be written") << '\n'
-          << Qt::flush;
-    return notWritten;
+    return saveXmlNoEvents(target, document.get()) == 0 ? done : cannotWrite(target);
 }
 
 } // namespace

@@ -56,8 +56,10 @@ bool saveDocument(const QString &path, const documentStruct &document, configStr
     scratch::clearLeftSaves(path);
     keepVersion(path, config);
     if (saveXmlNoEvents(path, &document) < 0) {
-        userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        userPrompts().showError(
+            messages::because(QCoreApplication::translate("data", "The file %1 cannot be written")
+                                  .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+                              path));
         return false;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));

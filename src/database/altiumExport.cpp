@@ -6,6 +6,7 @@
 #include "database/workbook.h"
 #include "util/files.h"
 #include "util/labels.h"
+#include "util/messages.h"
 #include "util/safeFile.h"
 #include "util/scratch.h"
 #include "util/text.h"
@@ -121,7 +122,8 @@ QString cutNote(const QString &caption, const QString &subject)
 
 QString notWritten(const QString &path)
 {
-    return QCoreApplication::translate("altiumExport", "%1 cannot be written").arg(path);
+    return messages::because(
+        QCoreApplication::translate("altiumExport", "%1 cannot be written").arg(path), path);
 }
 
 exportResult &fail(exportResult &result, const QString &error)

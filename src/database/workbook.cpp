@@ -1,5 +1,6 @@
 #include "database/workbook.h"
 
+#include "util/messages.h"
 #include "util/safeFile.h"
 #include "util/scratch.h"
 #include "util/text.h"
@@ -64,6 +65,7 @@ bool workbook::saveAs(const QString &path)
     }
     if (copied && file.commit())
         return true;
-    m_error = QCoreApplication::translate("workbook", "the file cannot be written");
+    m_error = messages::because(
+        QCoreApplication::translate("workbook", "the file cannot be written"), path);
     return false;
 }

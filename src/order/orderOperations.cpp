@@ -9,6 +9,7 @@
 #include "util/decimal.h"
 #include "util/fileLock.h"
 #include "util/labels.h"
+#include "util/messages.h"
 
 #include <QCoreApplication>
 
@@ -138,7 +139,8 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
     keepVersion(path, config);
     if (saveXmlNoEvents(path, &order) >= 0)
         return true;
-    *reason = QCoreApplication::translate("orderOperations", "the file cannot be written");
+    *reason = messages::because(
+        QCoreApplication::translate("orderOperations", "the file cannot be written"), path);
     return false;
 }
 

@@ -228,7 +228,9 @@ void prepareCertificates()
 MainWindow::MainWindow(programData &files)
     : editWindow(QStringLiteral("MainWindow"), files)
     , m_document(files)
-    , m_recovery(std::make_unique<orderRecovery>(paths::data(QStringLiteral("_config/recovery"))))
+    , m_recovery(std::make_unique<orderRecovery>(
+          QStringList{paths::data(QStringLiteral("_config/recovery")),
+                      paths::userDir() + QLatin1String("/recovery")}))
 {
     buildWidgets();
     prepareCertificates();

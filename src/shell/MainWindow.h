@@ -162,7 +162,7 @@ private:
 
     // --- MainWindowOrder.cpp ---
     bool closeDocument();
-    void leaveUnsaved();
+    bool leaveUnsaved();
     void openFile(const QString &path);
     bool printTo(const QString &path);
 
