@@ -4,6 +4,7 @@
 
 #ifdef Q_OS_LINUX
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -17,6 +18,8 @@ std::optional<bool> fileInUse(const QString &path)
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
         return {};
+    // Whoever opens it right now breaks the lease, and the usual signal of that ends the program.
+    ::fcntl(file, F_SETSIG, SIGURG);
     const bool given = ::fcntl(file, F_SETLEASE, F_WRLCK) == 0;
     const bool refused = !given && errno == EAGAIN;
     ::close(file);
