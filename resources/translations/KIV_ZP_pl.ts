@@ -969,6 +969,18 @@
         <source>the lines are not shown</source>
         <translation>pozycje nie są pokazane</translation>
     </message>
+    <message>
+        <source>The order is not saved, and no copy of it could be kept:</source>
+        <translation>Zamówienie nie jest zapisane i żadnej jego kopii nie udało się zachować:</translation>
+    </message>
+    <message>
+        <source>Leave it and lose the changes</source>
+        <translation>Porzuć je i utrać zmiany</translation>
+    </message>
+    <message>
+        <source>No copy of the unsaved order can be kept: %1</source>
+        <translation>Nie można zachować kopii niezapisanego zamówienia: %1</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>

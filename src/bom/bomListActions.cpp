@@ -77,7 +77,8 @@ void Kiv_bomWindow::commandSet(bool)
 void Kiv_bomWindow::tellWritten(const QString &path, bool written)
 {
     if (!written) {
-        userPrompts().showError(tr("The file %1 cannot be written").arg(native(path)));
+        userPrompts().showError(
+            messages::because(tr("The file %1 cannot be written").arg(native(path)), path));
         return;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));

@@ -3,6 +3,7 @@
 #include "data/XmlValidator.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
+#include "util/messages.h"
 #include "util/paths.h"
 #include "util/text.h"
 
@@ -158,10 +159,12 @@ QCommandLineOption outputOption(const char *description)
 
 int cannotWrite(const QString &path, const QString &reason)
 {
-    err() << path << ": " << QCoreApplication::translate("cli", "cannot be written");
-    if (!reason.isEmpty())
-        err() << ": " << reason;
-    err() << '\n' << Qt::flush;
+    const QString fault = QCoreApplication::translate("cli", "cannot be written");
+    err() << path << ": "
+          << (reason.isEmpty() ? messages::because(fault, path)
+                               : fault + QLatin1String(": ") + reason)
+          << '\n'
+          << Qt::flush;
     return notWritten;
 }
 

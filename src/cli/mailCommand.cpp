@@ -8,6 +8,7 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -96,6 +97,7 @@ int runMail(const QStringList &arguments)
                          : orderMessage(orders.first(), options.values(database), config, &code);
     if (description.isEmpty())
         return code;
+    scratch::leave();
     out() << description << '\n' << Qt::flush;
     if (options.isSet(onlyWrite) || mail::start(description, config))
         return done;

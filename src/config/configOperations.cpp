@@ -74,8 +74,8 @@ QString faultOf(const optionStruct &option)
                    ? QString()
                    : tr("is no date");
     case optionKind::folder:
-        return option.value1.isEmpty() || QDir(paths::data(option.value1)).exists()
-                       || QDir().mkpath(paths::data(option.value1))
+        return option.value1.isEmpty() || QDir(paths::beside(option.value1)).exists()
+                       || QDir().mkpath(paths::beside(option.value1))
                    ? QString()
                    : tr("is no folder");
     default:

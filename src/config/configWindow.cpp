@@ -317,8 +317,10 @@ bool configWindow::write(const QString &path)
         userPrompts().showError(text::toHtml(faults.join(QLatin1Char('\n'))));
         return false;
     }
+    m_edited->hidePasswords(path);
     if (!saveDocument(path, *m_edited, known().config()))
         return false;
+    m_edited->hidePasswords(path);
     m_later = configOperations::restartNeeded(known().config(), *m_edited);
     return known().replaceConfiguration(path);
 }

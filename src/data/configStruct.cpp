@@ -117,7 +117,24 @@ bool configStruct::load(const QString &path)
     return fileKinds::ofFile(path) == &fileKinds::config && loadConfig(path, this) == 0;
 }
 
-bool configStruct::save(const QString &path) const { return saveXmlNoEvents(path, this) == 0; }
+bool configStruct::save(const QString &path) const
+{
+    hidePasswords(path);
+    const bool written = saveXmlNoEvents(path, this) == 0;
+    hidePasswords(path);
+    return written;
+}
+
+void configStruct::hidePasswords(const QString &path) const
+{
+    if (options.value(optionKey::archivePassword).isEmpty()
+        && options.value(optionKey::serverUserPassword).isEmpty())
+        return;
+    const QFile::Permissions others = QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    const QFile::Permissions now = QFile::permissions(path);
+    if (now & others)
+        QFile::setPermissions(path, now & ~others);
+}
 
 bool configStruct::isOn(const QString &key) const
 {

@@ -43,6 +43,10 @@ public:
     // Writes the file; true when all of it was written.
     bool save(const QString &path) const;
 
+    // Takes the file from everybody's eyes when a password stands in it; owner and group keep what
+    // they may.
+    void hidePasswords(const QString &path) const;
+
     // Whether an option says yes: TAK or YES in any case. False when it is missing.
     bool isOn(const QString &key) const;
 

@@ -7,6 +7,7 @@
 #include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -63,6 +64,7 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                false)
                != prompts::answer::yes)
         return false;
+    scratch::clearLeftSaves(path);
     keepVersion(path, config);
     document.leftOut = {};
     bool written = false;

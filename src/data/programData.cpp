@@ -92,6 +92,7 @@ void programData::loadConfiguration()
         }
     }
     m_config = std::move(config);
+    m_config->hidePasswords(path);
     // Later runs are to find the folder for backups; a corrupt configuration stays as it is.
     const bool known = !m_config->options.value(optionKey::pathBackup).isEmpty();
     m_config->backupPath();

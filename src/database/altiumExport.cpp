@@ -8,6 +8,7 @@
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/safeFile.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -121,7 +122,8 @@ QString cutNote(const QString &caption, const QString &subject)
 
 QString notWritten(const QString &path)
 {
-    return QCoreApplication::translate("altiumExport", "%1 cannot be written").arg(path);
+    return messages::because(
+        QCoreApplication::translate("altiumExport", "%1 cannot be written").arg(path), path);
 }
 
 exportResult &fail(exportResult &result, const QString &error)
@@ -215,7 +217,7 @@ QByteArray createTable(const QByteArray &table, const QStringList &columnNames)
 // What the SQLite driver makes of a new file.
 bool newSqliteFile(QByteArray *content)
 {
-    const QTemporaryDir folder;
+    const QTemporaryDir folder(scratch::pattern());
     const QString path = folder.filePath(QStringLiteral("new.sqlite"));
     const QString connection = QStringLiteral("SQLITE");
     bool opened = false;

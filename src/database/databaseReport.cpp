@@ -5,6 +5,7 @@
 #include "data/vocabulary.h"
 #include "report/html.h"
 #include "util/labels.h"
+#include "util/messages.h"
 #include "util/numbers.h"
 #include "util/safeFile.h"
 #include "util/text.h"
@@ -248,7 +249,8 @@ exportResult writeDatabaseReport(const kiv_mat_databaseStruct &database,
         return result;
     }
     result.result = exportResult::failed;
-    result.error = QCoreApplication::translate("databaseReport", "%1 cannot be written").arg(path);
+    result.error = messages::because(
+        QCoreApplication::translate("databaseReport", "%1 cannot be written").arg(path), path);
     return result;
 }
 

@@ -1,6 +1,8 @@
 #include "database/workbook.h"
 
+#include "util/messages.h"
 #include "util/safeFile.h"
+#include "util/scratch.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -9,7 +11,8 @@
 #include <xlsxwriter.h>
 
 workbook::workbook()
-    : m_book(workbook_new(QFile::encodeName(m_scratch.filePath(QStringLiteral("book.xlsx")))))
+    : m_scratch(scratch::pattern())
+    , m_book(workbook_new(QFile::encodeName(m_scratch.filePath(QStringLiteral("book.xlsx")))))
 {
 }
 
@@ -62,6 +65,7 @@ bool workbook::saveAs(const QString &path)
     }
     if (copied && file.commit())
         return true;
-    m_error = QCoreApplication::translate("workbook", "the file cannot be written");
+    m_error = messages::because(
+        QCoreApplication::translate("workbook", "the file cannot be written"), path);
     return false;
 }

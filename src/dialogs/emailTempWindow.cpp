@@ -2,6 +2,7 @@
 
 #include "mail/mail.h"
 #include "util/files.h"
+#include "util/messages.h"
 #include "util/prompts.h"
 
 #include <QDir>
@@ -24,8 +25,9 @@ void emailTempWindow::accept()
                              QLatin1String("<!DOCTYPE html>\n<html>\n<head><meta charset=\"UTF-8\">"
                                            "</head>\n<body>\n")
                                  + edited + QLatin1String("\n</body>\n</html>\n"))) {
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        userPrompts().showError(messages::because(
+            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+            path));
         return;
     }
     richtexteditDialog::accept();

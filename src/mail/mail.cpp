@@ -10,6 +10,7 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -195,6 +196,7 @@ QString messageName(const kiv_mat_zpStruct &order)
 
 QString pdfPath(const kiv_mat_zpStruct &order)
 {
+    scratch::folder();
     return paths::temporaryDir() + QLatin1Char('/') + messageName(order) + QLatin1String(".pdf");
 }
 
@@ -252,9 +254,10 @@ QStringList filesToSend(contents what, const configStruct &config)
 QString writeData(contents what, const configStruct &config, const removeLater &later)
 {
     const dataMessage &kind = dataMessages[int(what)];
+    const bool made = !scratch::folder().isEmpty();
     const QString temporary = paths::temporaryDir();
     const QString packed = temporary + QLatin1String("/packed");
-    if (!files::removeFolder(packed) || !QDir().mkpath(packed)) {
+    if (!made || !files::removeFolder(packed) || !QDir().mkpath(packed)) {
         log(messages::failed(messages::temporaryFolderError(), temporary));
         return {};
     }
@@ -267,10 +270,10 @@ QString writeData(contents what, const configStruct &config, const removeLater &
     const QString archive = temporary + QLatin1String(kind.archive)
                             + timeOfName(temporary, QDateTime::currentDateTime())
                             + QLatin1String(".zip");
-    const bool made = stage(sources, packed)
-                      && pack(packed, archive, config.options.value(optionKey::archivePassword));
+    const bool filled = stage(sources, packed)
+                        && pack(packed, archive, config.options.value(optionKey::archivePassword));
     files::removeFolder(packed);
-    if (!made) {
+    if (!filled) {
         logFailure(archive);
         return {};
     }

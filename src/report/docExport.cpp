@@ -4,6 +4,7 @@
 #include "tools/helpers.h"
 #include "util/files.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 
 #include <QFileInfo>
 
@@ -31,6 +32,7 @@ bool convert(const QStringList &arguments, const std::function<void(childRunner 
 bool writeDoc(const QString &html, const QString &path, const QString &templateFile,
               const std::function<void(childRunner *)> &running)
 {
+    scratch::folder();
     const QString page = files::temporaryFileName() + QLatin1String(".html");
     // The converters work in another folder.
     const QString document = helpers::quoted(QFileInfo(path).absoluteFilePath());

@@ -1,6 +1,7 @@
 #include "report/pdfPrinter.h"
 
 #include "util/safeFile.h"
+#include "util/scratch.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -283,7 +284,7 @@ bool printPdf(QWebView *view, const QString &path, const QString &title,
     if (!safeFile(path).open(QIODevice::WriteOnly))
         return false;
     // Printed elsewhere first: a failed or cancelled print leaves the old file.
-    QTemporaryFile temporary(QDir::tempPath() + QLatin1String("/KivZP.XXXXXX.pdf"));
+    QTemporaryFile temporary(scratch::pattern(QStringLiteral(".pdf")));
     if (!temporary.open())
         return false;
 

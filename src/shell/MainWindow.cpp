@@ -228,7 +228,9 @@ void prepareCertificates()
 MainWindow::MainWindow(programData &files)
     : editWindow(QStringLiteral("MainWindow"), files)
     , m_document(files)
-    , m_recovery(std::make_unique<orderRecovery>(paths::data(QStringLiteral("_config/recovery"))))
+    , m_recovery(std::make_unique<orderRecovery>(
+          QStringList{paths::data(QStringLiteral("_config/recovery")),
+                      paths::userDir() + QLatin1String("/recovery")}))
 {
     buildWidgets();
     prepareCertificates();
@@ -578,13 +580,10 @@ void MainWindow::checkUpdate()
                                          info.kivServerLink));
 }
 
-void MainWindow::keyPressEvent(QKeyEvent *event)
+void MainWindow::deletePressed(const myTreeView *view)
 {
-    if (event->key() != Qt::Key_Delete || !m_order->linesView()->hasFocus()) {
-        editWindow::keyPressEvent(event);
-        return;
-    }
-    baseWindow::keyPressEvent(event);
-    if (action("deleteLines")->isEnabled())
+    if (view != m_order->linesView())
+        editWindow::deletePressed(view);
+    else if (action("deleteLines")->isEnabled())
         commandDeleteLines(false);
 }

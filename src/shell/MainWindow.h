@@ -145,7 +145,7 @@ protected:
     void fileDropped(const QString &path) override;
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void deletePressed(const myTreeView *view) override;
 
 private:
     // --- MainWindow.cpp ---
@@ -162,7 +162,7 @@ private:
 
     // --- MainWindowOrder.cpp ---
     bool closeDocument();
-    void leaveUnsaved();
+    bool leaveUnsaved();
     void openFile(const QString &path);
     bool printTo(const QString &path);
 

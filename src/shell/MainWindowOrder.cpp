@@ -64,11 +64,22 @@ myTreeView *MainWindow::currentView() const
 }
 
 // An order that has no file is closed without a question: its copy is offered at the next start.
-void MainWindow::leaveUnsaved()
+// False when none could be made and the user stays.
+bool MainWindow::leaveUnsaved()
 {
     m_order->takeAttentions();
-    if (m_recovery->store(m_document.order(), m_document.path()))
+    if (m_recovery->store(m_document.order(), m_document.path())) {
         m_recovery->leave();
+        return true;
+    }
+    if (!userPrompts().decide(
+            tr("The order is not saved, and no copy of it could be kept:").toHtmlEscaped()
+                + QLatin1String("<br><br>")
+                + text::toHtml(m_recovery->faults().join(QLatin1Char('\n'))),
+            {tr("Leave it and lose the changes")}))
+        return false;
+    m_recovery->discard();
+    return true;
 }
 
 bool MainWindow::closeDocument()
@@ -77,10 +88,8 @@ bool MainWindow::closeDocument()
         return false;
     if (!isModified())
         return true;
-    if (m_document.path().isEmpty()) {
-        leaveUnsaved();
-        return true;
-    }
+    if (m_document.path().isEmpty())
+        return leaveUnsaved();
     return askToLeave(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
                           + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]"),
                       true);
@@ -136,7 +145,9 @@ void MainWindow::storeRecovery()
         return;
     }
     m_order->takeAttentions();
-    m_recovery->store(m_document.order(), m_document.path());
+    if (!m_recovery->store(m_document.order(), m_document.path()))
+        tell(tr("No copy of the unsaved order can be kept: %1")
+                 .arg(m_recovery->faults().join(QLatin1String("; "))));
 }
 
 void MainWindow::offerRecovery()
@@ -200,7 +211,8 @@ bool MainWindow::saveAs()
         return false;
     const QString page = reportPath(chosen);
     if (!files::writeText(page, m_document.report())) {
-        userPrompts().showError(tr("The file %1 cannot be written").arg(native(page)));
+        userPrompts().showError(
+            messages::because(tr("The file %1 cannot be written").arg(native(page)), page));
         return true;
     }
     tellSaved(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
@@ -226,7 +238,8 @@ QString MainWindow::closeQuestion() const
 }
 
 // The other windows ask first, and any of them can keep the program open. After that the window
-// closes in any case: what could not be saved is offered at the next start.
+// closes: what could not be saved is offered at the next start. Only when no copy could be kept,
+// the user may stay.
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (!finishEditing()) {
@@ -234,16 +247,18 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     const std::vector<editWindow *> others = secondaryWindows();
-    if (!std::all_of(others.begin(), others.end(), [](editWindow *w) { return w->mayClose(); })) {
+    const bool stays =
+        !std::all_of(others.begin(), others.end(), [](editWindow *w) { return w->mayClose(); });
+    const bool leaves =
+        !stays && isModified()
+        && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel()));
+    if (stays || (leaves && !leaveUnsaved())) {
         for (editWindow *window : others)
             window->stayOpen();
         event->ignore();
         return;
     }
-    if (isModified()
-        && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel())))
-        leaveUnsaved();
-    else
+    if (!leaves)
         m_recovery->discard();
     for (editWindow *window : others)
         window->closeAtEnd();
@@ -285,7 +300,8 @@ bool MainWindow::printTo(const QString &path)
     else if (work.cancelled())
         tell(tr("Printing was cancelled"));
     else
-        userPrompts().showError(tr("The file %1 cannot be written").arg(native(path)));
+        userPrompts().showError(
+            messages::because(tr("The file %1 cannot be written").arg(native(path)), path));
     return printed;
 }
 

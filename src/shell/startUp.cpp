@@ -6,10 +6,10 @@
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
 #include "util/dataFolder.h"
-#include "util/files.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
+#include "util/scratch.h"
 #include "util/translation.h"
 #include "util/userState.h"
 #include "window/dialogPrompts.h"
@@ -83,6 +83,17 @@ void settleDataFolder()
                                                  file, messages::error()));
 }
 
+// What killed programs left of saving; orders follow when they are opened.
+void clearLeftSaves()
+{
+    programData &data = programData::instance();
+    scratch::clearLeftSaves(paths::config());
+    scratch::clearLeftSaves(data.firm().filePath);
+    scratch::clearLeftSaves(data.boms().filePath);
+    for (const kiv_mat_databaseStruct *database : data.databases())
+        scratch::clearLeftSaves(database->filePath);
+}
+
 } // namespace
 
 int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &whenShown)
@@ -115,10 +126,12 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     splash::show();
     QCoreApplication::processEvents();
     paths::temporaryDir();
+    scratch::clearLeft();
     settleDataFolder();
 
     auto window = std::make_unique<MainWindow>(programData::instance());
     window->show();
+    clearLeftSaves();
     cleanScript::run(cleanScript::ofProgram());
     dialog->finish(window.get());
     splash::hold(nullptr);
@@ -142,7 +155,7 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
 
     state.runningMarker.clear();
     state.save();
-    files::removeFolder(paths::temporaryDir());
+    scratch::remove();
     window.reset();
     installPrompts(nullptr);
     qInstallMessageHandler(earlierHandler);

@@ -2,6 +2,7 @@
 
 #include "tools/childProcess.h"
 #include "tools/helpers.h"
+#include "util/scratch.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -38,6 +39,12 @@ void childRunner::startChild(const QString &command, const QString &folder)
     const QString name = words.isEmpty() ? QString() : words.takeFirst();
     m_process->setWorkingDirectory(folder);
     m_process->setStandardInputFile(QProcess::nullDevice());
+    // A helper that is killed leaves its own scratch files in ours.
+    if (const QString own = scratch::folder(); !own.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TMPDIR"), own);
+        m_process->setProcessEnvironment(environment);
+    }
     m_process->start(helpers::path(name), words);
     // A child that cannot be started never emits finished().
     m_process->waitForStarted();

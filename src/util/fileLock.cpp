@@ -1,5 +1,7 @@
 #include "util/fileLock.h"
 
+#include "util/scratch.h"
+
 #include <QFileInfo>
 #include <QLockFile>
 
@@ -15,6 +17,7 @@ void fileLock::claim(const QString &path)
     m_otherUser.clear();
     if (path.isEmpty())
         return;
+    scratch::clearLeftSaves(path);
     const QFileInfo info(path);
     auto lock = std::make_unique<QLockFile>(info.absolutePath() + QLatin1String("/.")
                                             + info.fileName() + QLatin1String(".lock"));

@@ -11,6 +11,9 @@
 #include <QTemporaryFile>
 #include <QTextStream>
 
+#include <algorithm>
+#include <cerrno>
+
 namespace files {
 
 bool folderExists(const QString &path) { return QDir(path).exists(); }
@@ -91,6 +94,31 @@ bool sameContent(const QString &a, const QString &b)
             return false;
     }
     return true;
+}
+
+QString whyNotWritten(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isDir())
+        return qt_error_string(EISDIR);
+    if (info.exists() && !info.isWritable())
+        return qt_error_string(EACCES);
+    if (!QDir().mkpath(info.absolutePath())) {
+        const int fault = errno;
+        QFileInfo above(info.absolutePath());
+        while (!above.exists() && !above.isRoot())
+            above.setFile(above.path());
+        return qt_error_string(above.isDir() ? fault : ENOTDIR);
+    }
+    QTemporaryFile probe(path + QLatin1String(".XXXXXX"));
+    if (!probe.open())
+        return probe.errorString();
+    // A disk that took the name may have no room for as much as stands there.
+    const QByteArray block(1 << 20, '\0');
+    for (qint64 left = std::max<qint64>(info.size(), block.size()); left > 0; left -= block.size())
+        if (probe.write(block) != block.size() || !probe.flush())
+            return probe.errorString();
+    return {};
 }
 
 qint64 folderSize(const QString &path)

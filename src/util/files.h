@@ -38,6 +38,10 @@ bool makePrivateFolder(const QString &path);
 // Whether two files hold the same bytes; false when one cannot be read.
 bool sameContent(const QString &a, const QString &b);
 
+// Why a file could not be written, in the system's words, tried out beside it; empty when nothing
+// stands in the way now.
+QString whyNotWritten(const QString &path);
+
 // Sum of the sizes in bytes of all files under the folder, hidden ones included, links not
 // followed.
 qint64 folderSize(const QString &path);

@@ -1,5 +1,7 @@
 #include "util/messages.h"
 
+#include "util/files.h"
+
 #include <QCoreApplication>
 
 // The texts stand as they are in lines whose subject follows at once; the catalogues of both
@@ -45,6 +47,12 @@ QString failed(const QString &text, const QString &subject, const QString &reaso
     return text + bold(subject)
            + (reason.isEmpty() ? QString() : QLatin1String("&nbsp;") + bracketed(reason))
            + QLatin1String("<br>");
+}
+
+QString because(const QString &text, const QString &path)
+{
+    const QString reason = files::whyNotWritten(path);
+    return reason.isEmpty() ? text : text + QLatin1String(": ") + reason;
 }
 
 QString consequence(const QString &text, const QString &subject)

@@ -26,6 +26,9 @@ QString done(const QString &text, const QString &subject, const QString &reason)
 // text<b>subject</b>&nbsp;[reason]<br>: a failure; the brackets only when there is a reason.
 QString failed(const QString &text, const QString &subject, const QString &reason = {});
 
+// "text: why the file could not be written"; the text alone when nothing stands in the way now.
+QString because(const QString &text, const QString &path);
+
 // text&nbsp;[subject]<br>: what came of the line before.
 QString consequence(const QString &text, const QString &subject);
 

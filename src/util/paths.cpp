@@ -73,7 +73,7 @@ QString temporaryDir()
     QString &dir = temporaryDirStore();
     if (dir.isEmpty()) {
         // Only the unique name is kept; the folder itself goes with the object.
-        const QTemporaryDir reserved;
+        const QTemporaryDir reserved(QDir::tempPath() + QLatin1String("/KivZP-XXXXXX"));
         dir = text::normalisePath(reserved.path());
     }
     return dir;

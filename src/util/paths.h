@@ -36,7 +36,7 @@ QString config();
 QString windowState();
 
 // The scratch folder of this run: a unique path in the system's temporary folder, chosen at the
-// first call. Whoever writes there creates it.
+// first call. Whoever writes there creates it by scratch::folder().
 QString temporaryDir();
 
 // The same without choosing one: empty until temporaryDir() was called.

@@ -13,11 +13,16 @@ namespace {
 // Documents arrive in millions of small pieces.
 constexpr int blockSize = 1 << 18;
 
+// Small and capital ones in turn, which no ending that a person gives looks like: what a killed
+// save leaves is cleared by it (see scratch::clearLeftSaves).
 QString sixLetters()
 {
+    constexpr int count = 6;
+    constexpr int alphabet = 26;
     QString letters;
-    for (int i = 0; i < 6; ++i)
-        letters += QLatin1Char(char('a' + QRandomGenerator::global()->bounded(26)));
+    for (int i = 0; i < count; ++i)
+        letters += QLatin1Char(
+            char((i % 2 == 0 ? 'a' : 'A') + QRandomGenerator::global()->bounded(alphabet)));
     return letters;
 }
 

@@ -234,6 +234,8 @@ protected:
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    // Del in a tree: empties the selected texts. Where lines can be deleted, those are.
+    virtual void deletePressed(const myTreeView *view);
     bool beforeAction() override { return finishEditing(); }
 
     // The selected cells of a column that take what another one has, without that one.

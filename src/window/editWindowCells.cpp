@@ -207,8 +207,10 @@ void editWindow::keyPressEvent(QKeyEvent *event)
         return;
     for (const myTreeView *view : m_views)
         if (view->hasFocus())
-            clearCells(view);
+            deletePressed(view);
 }
+
+void editWindow::deletePressed(const myTreeView *view) { clearCells(view); }
 
 // The field that is typed into is asked first whether a key is its own.
 void editWindow::followFocus(QWidget *, QWidget *now)

@@ -158,6 +158,23 @@ private slots:
         QCOMPARE(later.options.value("PATH_BACKUP"), standard);
     }
 
+    void configurationWithPasswordIsNotForEverybody_data()
+    {
+        const rows<int> row;
+        row("LANGUAGE", 4);
+        row.each({"SERVER_USER_PASSWORD", "ARCHIVE_PASSWORD"}, 0);
+    }
+    void configurationWithPasswordIsNotForEverybody()
+    {
+        configStruct record;
+        record.setDefaults();
+        record.options.findOption(tag())->value1 = "en";
+        const QString path = m_folder->write("c.xml", "");
+        QFile::setPermissions(path, QFile::Permissions(0x6644));
+        QVERIFY(record.save(path));
+        QCOMPARE(int(QFile::permissions(path)) & 0x77, 0x40 + std::get<0>(fetch<int>()));
+    }
+
     void configurationYesWords()
     {
         configStruct record;

@@ -151,7 +151,7 @@ private slots:
 
     void recovered()
     {
-        const QString place = path("recovery");
+        const QStringList place{path("recovery")};
         kiv_mat_zpStruct order;
         QCOMPARE(loadZp(path("_zp/one.xml"), &order), 0);
         {
@@ -170,6 +170,43 @@ private slots:
         const orderRecovery::copy copy = next.takeOver();
         QCOMPARE(copy.order, QString("x"));
         QVERIFY(testSupport::read(copy.file).contains("ONE"));
+    }
+
+    // Where not even a copy can be kept, the program does not end unasked.
+    void nowhereToKeep_data()
+    {
+        const testSupport::rows<bool, QString> row;
+        row("Ctrl+N #addShipment Ctrl+Q", true, "boxes =; title = closed");
+        row("Ctrl+N #addShipment Ctrl+Q !Cancel", false,
+            "boxes ~ recovery: Not a directory; orderLines = 1; title = Order *");
+        row("Ctrl+N #addShipment Ctrl+N !Cancel", false, "orderLines = 1; title = Order *");
+        row("Ctrl+N #addShipment Ctrl+Q !Leave_it_and_lose_the_changes", false, "title = closed");
+        row(EDIT "Ctrl+Q !Yes !Overwrite_it Return !Cancel", false,
+            "boxes ~ cannot be written: Is a directory; orderLines@0,1 = Żuk; title = Order *");
+    }
+    void nowhereToKeep()
+    {
+        const auto [userDir, seen] = testSupport::fetch<bool, QString>();
+        if (userDir)
+            folder().write("share/x", "");
+        else
+            folder().write("share", "no folder");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(path("share")));
+        restart("");
+        const QString recovery = path("_config/recovery");
+        QVERIFY(QDir(recovery).removeRecursively());
+        folder().write("_config/recovery", "no folder");
+        if (testSupport::tag().contains("Yes")) {
+            QFile::remove(file());
+            QVERIFY(QDir().mkpath(file()));
+        }
+        work(testSupport::tag());
+        look(seen);
+        if (userDir) {
+            restart("!Yes");
+            look("orderLines = 1; title = Order *");
+        }
+        qunsetenv("XDG_DATA_HOME");
     }
 
     void versionsGo_data()

@@ -20,7 +20,7 @@ const scenario actions[] = {
      "boxes ~ %/_files/firms.xml exists already; file o 1.5.xml ~ Żuk; file _files/firms.xml !~ Żuk", same},
     {EDIT, "#zpSaveAs Ctrl+A '%/_files/firms' Return Escape Escape", "title = Order *; file _files/firms.xml !~ Żuk"},
     {"", "#zpPrint Ctrl+A '%/p&o' Return", "file p&o.pdf ~ PDF; log ~ <b>p&amp;o.pdf; status ~ Printed to %/p", reads},
-    {"", "#zpPrint Ctrl+A '%/_zp/zp_0.xml/p.pdf' Return Return", "boxes ~ cannot be written"},
+    {"", "#zpPrint Ctrl+A '%/_zp/zp_0.xml/p.pdf' Return Return", "boxes ~ cannot be written: Not a directory"},
     {"", "#zpSend", "status ~ the message is %/_e-mail/msg_; title = Order", reads},
     {EDIT, "#zpSend !No", "files _e-mail/*.cmd = ; title = Order *"},
     {"", "#archiveDD", "status ~ Archived as; files backup/*.archive.* ~ zp_0", reads},

@@ -3,8 +3,10 @@
 
 #include "util/desktop.h"
 #include "util/safeFile.h"
+#include "util/scratch.h"
 
 #include <QDesktopServices>
+#include <QLockFile>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -64,6 +66,46 @@ private slots:
         QCOMPARE(paths::temporaryDir(), scratch);
         QVERIFY(!QFile::exists(scratch));
         QVERIFY(files::temporaryFileName().startsWith(scratch + '/'));
+    }
+
+    void scratchFolderIsOursAlone()
+    {
+        const QString own = scratch::folder();
+        QCOMPARE(own, paths::temporaryDir());
+        QCOMPARE(int(QFile::permissions(own)) & 0x77, 0);
+        // Another program's start does not take it.
+        scratch::clearLeft();
+        QVERIFY(QFile::exists(own));
+        scratch::remove();
+        QVERIFY(!QFile::exists(own));
+    }
+
+    void killedProgramsLeaveNothing()
+    {
+        qputenv("TMPDIR", QFile::encodeName(m_folder->path()));
+        m_folder->write("KivZP-killed/.lock", "999999999\nKivZP\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        m_folder->write("KivZP-living/order.pdf", "x");
+        m_folder->write("KivZP-mailed/order.pdf", "a composer reads it");
+        QLockFile living(m_folder->path("KivZP-living/.lock"));
+        living.setStaleLockTime(0);
+        QVERIFY(living.tryLock());
+        scratch::clearLeft();
+        qunsetenv("TMPDIR");
+        QCOMPARE(QDir(m_folder->path()).entryList({"KivZP-*"}), QStringList({"KivZP-living", "KivZP-mailed"}));
+    }
+
+    void killedSavesLeaveNothing()
+    {
+        const QStringList kept{"a.xml",        "a.xml.AbCdEfg", "a.xml.BACKUP", "a.xml.Backup", "a.xml.QwErTy",
+                               "a.xml.backup", "b.xml.AbCdEf",  "b.xml.aB",     "xa.xml.AbCdEf"};
+        for (const QString &name : kept + QStringList{"a.xml.AbCdEf", "a.xml.zzzzzA"})
+            m_folder->write(name, "x");
+        QFile living(m_folder->path("a.xml.QwErTy"));
+        QVERIFY(living.open(QIODevice::WriteOnly));
+        scratch::clearLeftSaves(m_folder->path("a.xml"));
+        QStringList left = QDir(m_folder->path()).entryList(QDir::Files);
+        left.sort();
+        QCOMPARE(left, kept);
     }
 
     void suffixes_data()
