@@ -182,7 +182,7 @@ private slots:
         row("Ctrl+N #addShipment Ctrl+N !Cancel", false, "orderLines = 1; title = Order *");
         row("Ctrl+N #addShipment Ctrl+Q !Leave_it_and_lose_the_changes", false, "title = closed");
         row(EDIT "Ctrl+Q !Yes !Overwrite_it Return !Cancel", false,
-            "boxes ~ cannot be written: Is a directory; orderLines@0,1 = Żuk; title = Order *");
+            "boxes ~ no file can stand there; orderLines@0,1 = Żuk; title = Order *");
     }
     void nowhereToKeep()
     {
