@@ -337,6 +337,20 @@
             <numerusform>and %n more</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n byte(s) that are no UTF-8 were read as Windows-1250</source>
+        <translation>
+            <numerusform>%n byte that is no UTF-8 was read as Windows-1250</numerusform>
+            <numerusform>%n bytes that are no UTF-8 were read as Windows-1250</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n character(s) that no file can hold were dropped</source>
+        <translation>
+            <numerusform>%n character that no file can hold was dropped</numerusform>
+            <numerusform>%n characters that no file can hold were dropped</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>databaseTree</name>

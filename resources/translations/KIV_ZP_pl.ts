@@ -2549,6 +2549,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>not written, since it would lose %1; --force writes all the same</source>
         <translation>nie zapisano, bo przepadłoby: %1; --force zapisuje mimo to</translation>
     </message>
+    <message>
+        <source>OUT is IN, which must stay</source>
+        <translation>OUT to IN, który ma pozostać bez zmian</translation>
+    </message>
+    <message>
+        <source>Reads what can be read of a damaged file, writes it in the program&apos;s form, and prints what was mended or dropped.</source>
+        <translation>Odczytuje z uszkodzonego pliku, co się da, zapisuje to w postaci programu i wypisuje, co naprawiono lub pominięto.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -2766,6 +2774,254 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>no earlier version could be kept in %1</source>
         <translation>żadnej wcześniejszej wersji nie udało się zachować w %1</translation>
+    </message>
+    <message>
+        <source>%1 lacks a field</source>
+        <translation>w %1 brakuje pola</translation>
+    </message>
+    <message>
+        <source>%1 does not belong into %2</source>
+        <translation>element %1 nie należy do %2</translation>
+    </message>
+    <message>
+        <source>unknown field %1</source>
+        <translation>nieznane pole %1</translation>
+    </message>
+    <message>
+        <source>text in %1, where none belongs</source>
+        <translation>tekst w %1, gdzie go być nie może</translation>
+    </message>
+    <message>
+        <source>%1 in %2, which holds no elements</source>
+        <translation>%1 w %2, gdzie nie ma miejsca na elementy</translation>
+    </message>
+    <message>
+        <source>unknown attribute %1 of %2</source>
+        <translation>nieznany atrybut %1 elementu %2</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this program</source>
+        <translation>%1 to nie jest plik tego programu</translation>
+    </message>
+    <message>
+        <source>%1 is no version of %2</source>
+        <translation>%1 nie jest wersją pliku %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has not the form of %2</source>
+        <translation>„%1” nie ma postaci %2</translation>
+    </message>
+    <message>
+        <source>%1, which began in line %2, ends as %3</source>
+        <translation>element %1 z wiersza %2 kończy się jako %3</translation>
+    </message>
+    <message>
+        <source>the file ends in %1, which began in line %2</source>
+        <translation>plik kończy się w elemencie %1 z wiersza %2</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; stands alone; it is written &amp;amp;</source>
+        <translation>samotny znak „&amp;”; zapisuje się go &amp;amp;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; stands alone; it is written &amp;lt;</source>
+        <translation>samotny znak „&lt;”; zapisuje się go &amp;lt;</translation>
+    </message>
+    <message>
+        <source>&amp;%1; is not known</source>
+        <translation>&amp;%1; jest nieznane</translation>
+    </message>
+    <message>
+        <source>a byte that is no UTF-8, as in a file of Windows-1250</source>
+        <translation>bajt spoza UTF-8, jak w pliku Windows-1250</translation>
+    </message>
+    <message>
+        <source>a character that no file can hold: code %1</source>
+        <translation>znak, którego nie może być w pliku: kod %1</translation>
+    </message>
+    <message>
+        <source>a byte that is not of the file&apos;s encoding</source>
+        <translation>bajt spoza kodowania pliku</translation>
+    </message>
+    <message>
+        <source>the attribute %1 stands twice</source>
+        <translation>atrybut %1 stoi dwa razy</translation>
+    </message>
+    <message>
+        <source>the prefix %1 is not declared</source>
+        <translation>przedrostek %1 nie jest zadeklarowany</translation>
+    </message>
+    <message>
+        <source>is no XML</source>
+        <translation>to nie jest XML</translation>
+    </message>
+    <message>
+        <source>not in the form of a file: %1</source>
+        <translation>niepoprawna budowa pliku: %1</translation>
+    </message>
+    <message>
+        <source>material %1</source>
+        <translation>materiał %1</translation>
+    </message>
+    <message>
+        <source>material no. %1</source>
+        <translation>materiał nr %1</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>grupa %1</translation>
+    </message>
+    <message>
+        <source>group no. %1</source>
+        <translation>grupa nr %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>pozycja %1</translation>
+    </message>
+    <message>
+        <source>line no. %1</source>
+        <translation>pozycja nr %1</translation>
+    </message>
+    <message>
+        <source>option %1</source>
+        <translation>opcja %1</translation>
+    </message>
+    <message>
+        <source>option no. %1</source>
+        <translation>opcja nr %1</translation>
+    </message>
+    <message>
+        <source>person %1</source>
+        <translation>osoba %1</translation>
+    </message>
+    <message>
+        <source>person no. %1</source>
+        <translation>osoba nr %1</translation>
+    </message>
+    <message>
+        <source>target %1</source>
+        <translation>cel %1</translation>
+    </message>
+    <message>
+        <source>target no. %1</source>
+        <translation>cel nr %1</translation>
+    </message>
+    <message>
+        <source>firm %1</source>
+        <translation>firma %1</translation>
+    </message>
+    <message>
+        <source>firm no. %1</source>
+        <translation>firma nr %1</translation>
+    </message>
+    <message>
+        <source>manufacturer %1</source>
+        <translation>producent %1</translation>
+    </message>
+    <message>
+        <source>manufacturer no. %1</source>
+        <translation>producent nr %1</translation>
+    </message>
+    <message>
+        <source>supplier %1</source>
+        <translation>dostawca %1</translation>
+    </message>
+    <message>
+        <source>supplier no. %1</source>
+        <translation>dostawca nr %1</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>plik %1</translation>
+    </message>
+    <message>
+        <source>file no. %1</source>
+        <translation>plik nr %1</translation>
+    </message>
+    <message>
+        <source>category %1</source>
+        <translation>kategoria %1</translation>
+    </message>
+    <message>
+        <source>category no. %1</source>
+        <translation>kategoria nr %1</translation>
+    </message>
+    <message>
+        <source>command %1</source>
+        <translation>polecenie %1</translation>
+    </message>
+    <message>
+        <source>command no. %1</source>
+        <translation>polecenie nr %1</translation>
+    </message>
+    <message>
+        <source>the file was read as %1</source>
+        <translation>plik odczytano jako %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s) that are no UTF-8 were read as Windows-1250</source>
+        <translation>
+            <numerusform>%n bajt spoza UTF-8 odczytano jako Windows-1250</numerusform>
+            <numerusform>%n bajty spoza UTF-8 odczytano jako Windows-1250</numerusform>
+            <numerusform>%n bajtów spoza UTF-8 odczytano jako Windows-1250</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the file ends in %1</source>
+        <translation>plik kończy się w elemencie %1</translation>
+    </message>
+    <message>
+        <source>&quot;&gt;&quot; was missing behind %1</source>
+        <translation>za %1 brakowało „&gt;”</translation>
+    </message>
+    <message>
+        <source>the end of %1 was missing</source>
+        <translation>brakowało końca elementu %1</translation>
+    </message>
+    <message>
+        <source>%1 ended as %2</source>
+        <translation>element %1 kończył się jako %2</translation>
+    </message>
+    <message>
+        <source>an end of %1 without its beginning was dropped</source>
+        <translation>pominięto koniec elementu %1 bez początku</translation>
+    </message>
+    <message>
+        <source>a broken tag: %1 was dropped</source>
+        <translation>uszkodzony znacznik: pominięto %1</translation>
+    </message>
+    <message>
+        <source>the beginning of %1 was missing</source>
+        <translation>brakowało początku elementu %1</translation>
+    </message>
+    <message>
+        <source>text that belongs to no field was dropped: %1</source>
+        <translation>pominięto tekst spoza pól: %1</translation>
+    </message>
+    <message>
+        <source>&amp;%1; stands for nothing and was dropped</source>
+        <translation>&amp;%1; nic nie znaczy, pominięto</translation>
+    </message>
+    <message>
+        <source>&amp;%1; was read as its character</source>
+        <translation>&amp;%1; odczytano jako znak</translation>
+    </message>
+    <message>
+        <source>holds no record of this program</source>
+        <translation>nie zawiera żadnych danych tego programu</translation>
+    </message>
+    <message>
+        <source>The schema %1 cannot be loaded</source>
+        <translation>Nie można wczytać schematu %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n character(s) that no file can hold were dropped</source>
+        <translation>
+            <numerusform>pominięto %n znak, którego nie może być w pliku</numerusform>
+            <numerusform>pominięto %n znaki, których nie może być w pliku</numerusform>
+            <numerusform>pominięto %n znaków, których nie może być w pliku</numerusform>
+        </translation>
     </message>
 </context>
 <context>

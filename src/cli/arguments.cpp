@@ -69,6 +69,23 @@ bool parser::accept(const QStringList &arguments)
     return false;
 }
 
+void printFaults(const QString &path, const QVector<fileFault> &faults, int count)
+{
+    for (const fileFault &fault : faults) {
+        err() << path << ':';
+        if (fault.line > 0)
+            err() << fault.line << ':';
+        if (fault.column > 0)
+            err() << fault.column << ':';
+        err() << ' ' << fault.sentence() << '\n';
+    }
+    const int rest = count - faults.size();
+    if (rest > 0)
+        err() << path << ": " << QCoreApplication::translate("cli", "and %n more", nullptr, rest)
+              << '\n';
+    err() << Qt::flush;
+}
+
 bool validateFile(const QString &path)
 {
     // A file of no known kind is told by the schema with the most kinds.
@@ -84,17 +101,7 @@ bool validateFile(const QString &path)
               << Qt::flush;
         return false;
     }
-    for (const validationMessage &message : details.messages) {
-        err() << path << ':';
-        if (message.line > 0)
-            err() << message.line << ':' << message.column << ':';
-        err() << ' ' << message.text << '\n';
-    }
-    const int rest = details.messageCount - details.messages.size();
-    if (rest > 0)
-        err() << path << ": " << QCoreApplication::translate("cli", "and %n more", nullptr, rest)
-              << '\n';
-    err() << Qt::flush;
+    printFaults(path, details.messages, details.messageCount);
     return false;
 }
 

@@ -4,6 +4,7 @@
 
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/ktmIndex.h"
+#include "data/recordTrail.h"
 
 #include <QCommandLineParser>
 #include <QStringList>
@@ -54,6 +55,10 @@ private:
 // file:line:column: text. True when it is valid.
 bool validateFile(const QString &path);
 
+// Prints faults of a file to standard error, each as file:line:column: text, and how many more
+// there are.
+void printFaults(const QString &path, const QVector<fileFault> &faults, int count);
+
 // Validates, then reads a material database. Prints what is wrong and returns null when it is
 // refused.
 std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path);
@@ -103,6 +108,7 @@ void printNotes(const QStringList &htmlLines);
 extern const subcommand validateCommand;
 extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
+extern const subcommand repairCommand;
 extern const subcommand reportCommand;
 extern const subcommand findCommand;
 extern const subcommand checkMaterialsCommand;

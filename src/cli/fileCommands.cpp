@@ -10,6 +10,7 @@
 #include "data/kiv_mat_zpStruct.h"
 #include "data/lineSums.h"
 #include "data/loaders.h"
+#include "data/repair.h"
 #include "data/streamValidation.h"
 #include "report/orderReport.h"
 #include "util/paths.h"
@@ -166,6 +167,32 @@ int runResave(const QStringList &arguments)
                                                                  : cannotWrite(target, reason);
 }
 
+int runRepair(const QStringList &arguments)
+{
+    parser options(repairCommand, QStringLiteral("IN OUT"), 2, 2);
+    if (!options.accept(arguments))
+        return options.code();
+    const QString source = options.positionalArguments().at(0);
+    const QString target = options.positionalArguments().at(1);
+    if (QFileInfo::exists(target) && QFileInfo(source) == QFileInfo(target))
+        return refuseCall(repairCommand,
+                          QCoreApplication::translate("cli", "OUT is IN, which must stay"));
+    const repairedFile repaired = repairFile(source);
+    printFaults(source, repaired.changes, repaired.changeCount);
+    if (!repaired.document) {
+        err() << source << ": " << repaired.fault << '\n' << Qt::flush;
+        return refused;
+    }
+    QString reason;
+    if (saveXmlNoEvents(target, repaired.document.get(), &reason) != 0)
+        return cannotWrite(target, reason);
+    out() << "kind: " << repaired.document->kind().root << '\n';
+    for (const fact &f : factsOf(*repaired.document))
+        out() << f.first << ": " << f.second << '\n';
+    out() << "changes: " << repaired.changeCount << '\n' << Qt::flush;
+    return done;
+}
+
 } // namespace
 
 const subcommand validateCommand{
@@ -176,5 +203,10 @@ const subcommand infoCommand{
 const subcommand resaveCommand{
     "resave", QT_TRANSLATE_NOOP("cli", "Reads a file and writes it again in the program's form."),
     runResave};
+const subcommand repairCommand{
+    "repair",
+    QT_TRANSLATE_NOOP("cli", "Reads what can be read of a damaged file, writes it in the program's "
+                             "form, and prints what was mended or dropped."),
+    runRepair};
 
 } // namespace cli

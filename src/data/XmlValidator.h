@@ -3,46 +3,27 @@
 
 #include "data/streamValidation.h"
 
-#include <QAbstractMessageHandler>
+#include <QCoreApplication>
 
-#include <memory>
-
-class QXmlSchemaValidator;
-
-class XmlValidator : public QAbstractMessageHandler
+class XmlValidator
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(XmlValidator)
 public:
-    XmlValidator();
-    ~XmlValidator() override;
-
-    // Whether the schema loads and the document is valid. The streaming validator looks first; when
-    // it refuses a file of up to 1 MB, QXmlSchemaValidator gives the verdict and its messages,
-    // above that size the streaming validator's own stand. With showMessages the first few are
-    // shown to the user, one box each, with line and column; a schema that does not load shows
-    // none.
-    // progress as in validateStreaming().
+    // Whether the schema loads and the document is valid. With showMessages the first few faults
+    // are shown to the user, one box each, with line and column; a schema that does not load shows
+    // none. progress as in validateStreaming().
     bool validate(const QString &xmlPath, const QString &xsdPath, bool showMessages,
                   const progressFunction &progress = {});
 
-    // What the streaming validator said in the last validate(): plain text, for lists.
+    // What the last validate() found: plain text, for lists.
     const validationResult &details() const { return m_details; }
-    // The first of it with its line and column, as one text; empty when it said nothing.
+    // The first of it with its line and column, as one text; empty when there was nothing.
     QString fault() const;
 
-protected:
-    void handleMessage(QtMsgType type, const QString &description, const QUrl &identifier,
-                       const QSourceLocation &sourceLocation) override;
-
 private:
-    bool secondLook(const QString &xmlPath, const QString &xsdPath);
-    void show(const QString &html, qint64 line, qint64 column);
-    void showRest();
+    void handleMessage(const QString &file, const fileFault &message);
 
-    std::unique_ptr<QXmlSchemaValidator> m_validator;
     validationResult m_details;
-    bool m_showMessages = false;
-    int m_messageCount = 0;
 };
 
 // One such validation.

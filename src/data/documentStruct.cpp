@@ -1,5 +1,7 @@
 #include "data/documentStruct.h"
 
+#include "data/streamValidation.h"
+#include "util/paths.h"
 #include "util/progressFile.h"
 
 #include <QCoreApplication>
@@ -42,12 +44,18 @@ fileHead headOf(const QString &filePath)
 
 } // namespace fileKinds
 
-QString readerFault(const QXmlStreamReader &reader, const progressFile &file)
+QString readerFault(const QXmlStreamReader &reader, const progressFile &file, const QString &schema)
 {
-    return QCoreApplication::translate("data", "line %1, column %2: %3")
-        .arg(reader.lineNumber())
-        .arg(reader.columnNumber())
-        .arg(file.tooManyAttributes() ? tooManyAttributes() : reader.errorString());
+    // Not when it was cancelled, and a reader that is stricter is alone with its fault.
+    fileFault fault;
+    if (!file.cancelled())
+        fault = validateStreaming(file.fileName(), paths::schema(schema), 1).formFault;
+    if (fault.text.isEmpty())
+        fault = {int(reader.lineNumber()),
+                 int(reader.columnNumber()),
+                 file.tooManyAttributes() ? tooManyAttributes() : reader.errorString(),
+                 {}};
+    return fault.placed();
 }
 
 QString beginningFault(QIODevice &file)

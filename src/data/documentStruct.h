@@ -55,8 +55,9 @@ fileHead headOf(const QString &filePath);
 // that is known; empty when its beginning says nothing of the kind. Reads nothing.
 QString beginningFault(QIODevice &file);
 
-// What a reader says of the file that it could not read, with line and column.
-QString readerFault(const QXmlStreamReader &reader, const progressFile &file);
+// Why a reader could not read a file, with line and column, in the words of the validation.
+QString readerFault(const QXmlStreamReader &reader, const progressFile &file,
+                    const QString &schema = QStringLiteral("kiv_mat.xsd"));
 
 class documentStruct : public xmlData
 {

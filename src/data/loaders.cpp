@@ -77,7 +77,7 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError() && error)
-        *error = readerFault(reader, file);
+        *error = readerFault(reader, file, record->kind().schema);
     if (record->leftOut.count > 0)
         userPrompts().listError(messages::failed(
             QCoreApplication::translate("data", "Unknown content, lost when saved: "), filePath,

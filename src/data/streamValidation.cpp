@@ -1,6 +1,8 @@
 #include "data/streamValidation.h"
 
 #include "data/documentStruct.h"
+#include "data/faultSentences.h"
+#include "data/recordTrail.h"
 #include "data/schemaCache.h"
 #include "data/xmlData.h"
 #include "util/progressFile.h"
@@ -27,8 +29,9 @@ using schemaPointer = std::shared_ptr<xmlSchema>;
 // piece.
 struct runState
 {
-    runState(const QString &path, const progressFunction &progress)
+    runState(const QString &path, int maxMessages, const progressFunction &progress)
         : file(path, progress)
+        , trail(maxMessages)
     {
     }
 
@@ -37,10 +40,12 @@ struct runState
     xmlSAXHandler *schema = nullptr; // the callbacks of the schema layer, which take validator
     void *validator = nullptr;
     validationResult result;
-    int maxMessages = 0;
     // A fault behind which nothing can be told: the parser gets no more of the file.
     bool stopped = false;
+    bool refused = false; // for what it begins with: what follows is not told
 
+    faultTrail trail;
+    QByteArray withoutEnd; // a field in which elements were found: its end may be missing
     QByteArray text;
     bool textHasCdata = false;
     bool tellingText = false; // messages are about the text, which ended earlier
@@ -50,11 +55,10 @@ struct runState
     int line() const { return tellingText ? textLine : xmlSAX2GetLineNumber(parser); }
     int column() const { return tellingText ? textColumn : xmlSAX2GetColumnNumber(parser); }
 
-    void add(int line, int column, const QString &message)
+    void addFormFault(int line, int column, const QString &message)
     {
-        ++result.messageCount;
-        if (result.messages.size() < maxMessages)
-            result.messages.append({line, column, message});
+        trail.add(line, column, message);
+        result.formFault = {line, column, message, trail.where()};
     }
 
     void append(const xmlChar *piece, int length)
@@ -72,6 +76,10 @@ struct runState
         const auto handOn = textHasCdata ? schema->cdataBlock : schema->characters;
         handOn(validator, reinterpret_cast<const xmlChar *>(text.constData()), text.size());
         tellingText = false;
+    }
+
+    void dropText()
+    {
         textHasCdata = false;
         text.resize(0); // keeps its room
     }
@@ -85,20 +93,30 @@ void ignoreError(void *, xmlError *) {}
 void collectError(void *context, xmlError *error)
 {
     auto *state = static_cast<runState *>(context);
-    if (error->level < XML_ERR_ERROR || state->stopped || state->result.refusedOutright)
+    if (error->level < XML_ERR_ERROR || state->stopped || state->refused)
         return;
-    // Schema errors bring no column; the parser knows where it stands.
-    const bool fromParser = error->domain == XML_FROM_PARSER || error->domain == XML_FROM_NAMESPACE;
-    state->add(fromParser ? error->line : state->line(), fromParser ? error->int2 : state->column(),
-               QString::fromUtf8(error->message).simplified());
     // What follows an error of form is made of that error, and libxml2 reads on at a speed that
     // falls with the square of the size. xmlStopParser() would free what it is looking at.
-    if (error->level == XML_ERR_FATAL || error->domain == XML_FROM_IO
-        || (error->domain == XML_FROM_NAMESPACE && error->code >= XML_NS_ERR_XML_NAMESPACE))
-        state->stopped = true;
-    // QXmlSchemaValidator would let the type named in an unknown root stand for the root.
+    state->stopped =
+        error->level == XML_ERR_FATAL || error->domain == XML_FROM_IO
+        || (error->domain == XML_FROM_NAMESPACE && error->code >= XML_NS_ERR_XML_NAMESPACE);
+    const QString sentence = faultSentence(*error, state->trail);
+    if (error->code == XML_SCHEMAV_CVC_TYPE_3_1_2)
+        state->withoutEnd = QByteArray(state->trail.parent().data());
+    const bool isTold =
+        error->code == XML_ERR_TAG_NAME_MISMATCH && state->withoutEnd == error->str1;
+    // Schema errors bring no column; the parser knows where it stands.
+    if (error->domain != XML_FROM_PARSER && error->domain != XML_FROM_NAMESPACE)
+        state->trail.add(state->line(), state->column(), sentence);
+    else if (isTold)
+        state->result.formFault = {error->line, error->int2, sentence, state->trail.where()};
+    else if (state->stopped)
+        state->addFormFault(error->line, error->int2, sentence);
+    else
+        state->trail.add(error->line, error->int2, sentence);
+    // What stands in an unknown root is unknown, too.
     if (error->domain == XML_FROM_SCHEMASV && error->code == XML_SCHEMAV_CVC_ELT_1)
-        state->result.refusedOutright = true;
+        state->refused = true;
 }
 
 int readBlock(void *context, char *buffer, int length)
@@ -114,11 +132,13 @@ void refuseDocumentType(void *context, const xmlChar *, const xmlChar *, const x
     auto *state = static_cast<runState *>(context);
     if (state->stopped)
         return;
-    state->add(xmlSAX2GetLineNumber(state->parser), xmlSAX2GetColumnNumber(state->parser),
-               documentTypeRefused());
-    state->result.refusedOutright = true;
+    state->addFormFault(xmlSAX2GetLineNumber(state->parser), xmlSAX2GetColumnNumber(state->parser),
+                        documentTypeRefused());
+    state->refused = true;
     xmlStopParser(state->parser);
 }
+
+std::string_view textOf(const xmlChar *text) { return reinterpret_cast<const char *>(text); }
 
 void startElement(void *context, const xmlChar *name, const xmlChar *prefix, const xmlChar *uri,
                   int namespaceCount, const xmlChar **namespaces, int attributeCount,
@@ -128,6 +148,13 @@ void startElement(void *context, const xmlChar *name, const xmlChar *prefix, con
     if (state->stopped)
         return;
     state->handOnText();
+    state->dropText();
+    state->trail.start(textOf(name));
+    for (int i = 0; i < attributeCount; ++i) {
+        const xmlChar **const attribute = attributes + 5 * i; // name, prefix, URI, begin, end
+        state->trail.attribute(textOf(attribute[0]), {reinterpret_cast<const char *>(attribute[3]),
+                                                      size_t(attribute[4] - attribute[3])});
+    }
     state->schema->startElementNs(state->validator, name, prefix, uri, namespaceCount, namespaces,
                                   attributeCount, defaultedCount, attributes);
 }
@@ -139,6 +166,8 @@ void endElement(void *context, const xmlChar *name, const xmlChar *prefix, const
         return;
     state->handOnText();
     state->schema->endElementNs(state->validator, name, prefix, uri);
+    state->trail.end(state->text);
+    state->dropText();
 }
 
 void takeText(void *context, const xmlChar *text, int length)
@@ -159,21 +188,21 @@ void refuseTheUnreadable(runState &state)
 {
     const xmlParserInput *input = state.parser->input;
     if (state.file.cancelled())
-        state.result.refusedOutright = true;
+        state.refused = true;
     if (state.file.tooManyAttributes()) {
-        state.result.refusedOutright = true;
-        state.add(input ? input->line : 0, input ? input->col : 0, tooManyAttributes());
+        state.refused = true;
+        state.addFormFault(input ? input->line : 0, input ? input->col : 0, tooManyAttributes());
         state.parser->wellFormed = 0;
     }
     if (!state.parser->wellFormed || state.stopped || !input)
         return;
     const QLatin1String version(reinterpret_cast<const char *>(state.parser->version));
     if (input->cur < input->end || !state.file.atEnd())
-        state.add(
+        state.addFormFault(
             input->line, input->col,
             QCoreApplication::translate("data", "there is more behind the end of the document"));
     else if (!version.isEmpty() && version != QLatin1String("1.0"))
-        state.add(
+        state.addFormFault(
             1, 1,
             QCoreApplication::translate("data", "XML of version %1 cannot be read").arg(version));
     else
@@ -224,8 +253,8 @@ void parse(runState &state, xmlSchema *schema)
         xmlSchemaValidateSetFilename(validator, nullptr);
         xmlParseDocument(state.parser);
         refuseTheUnreadable(state);
-        state.result.valid = state.parser->wellFormed && !state.stopped
-                             && !state.result.refusedOutright && xmlSchemaIsValid(validator) == 1;
+        state.result.valid = state.parser->wellFormed && !state.stopped && !state.refused
+                             && xmlSchemaIsValid(validator) == 1;
     }
     if (state.parser)
         xmlFreeParserCtxt(state.parser);
@@ -234,37 +263,39 @@ void parse(runState &state, xmlSchema *schema)
     xmlSchemaFreeValidCtxt(validator);
 }
 
-} // namespace
-
-validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath, int maxMessages,
-                                   const progressFunction &progress)
+void readFile(runState &state, xmlSchema *schema)
 {
-    runState state(xmlPath, progress);
-    state.maxMessages = maxMessages;
-    const schemaPointer schema = schemaOf(xsdPath);
-    if (!schema)
-        return state.result;
-    state.result.schemaLoaded = true;
-
-    if (!QFileInfo(xmlPath).isFile() || !state.file.open(QIODevice::ReadOnly)) {
-        state.result.refusedOutright = true;
-        state.result.messages.append(
-            {0, 0, QCoreApplication::translate("data", "the file cannot be read")});
-        state.result.messageCount = 1;
-        return state.result;
+    if (!QFileInfo(state.file).isFile() || !state.file.open(QIODevice::ReadOnly)) {
+        state.addFormFault(0, 0, QCoreApplication::translate("data", "the file cannot be read"));
+        return;
     }
     const QString fault = beginningFault(state.file);
     if (!fault.isEmpty()) {
-        state.result.refusedOutright = true;
-        state.add(0, 0, fault);
-        return state.result;
+        state.addFormFault(0, 0, fault);
+        return;
     }
     // One handler takes the messages of the parser and of the schema, each without its own.
     const xmlStructuredErrorFunc oldHandler = xmlStructuredError;
     void *const oldContext = xmlStructuredErrorContext;
     xmlSetStructuredErrorFunc(&state, collectError);
-    parse(state, schema.get());
+    parse(state, schema);
     xmlSetStructuredErrorFunc(oldContext, oldHandler);
+}
+
+} // namespace
+
+validationResult validateStreaming(const QString &xmlPath, const QString &xsdPath, int maxMessages,
+                                   const progressFunction &progress)
+{
+    runState state(xmlPath, maxMessages, progress);
+    const schemaPointer schema = schemaOf(xsdPath);
+    if (!schema)
+        return state.result;
+    state.result.schemaLoaded = true;
+    readFile(state, schema.get());
+    state.trail.finish();
+    state.result.messages = state.trail.faults();
+    state.result.messageCount = state.trail.count();
     return state.result;
 }
 

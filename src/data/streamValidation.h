@@ -2,26 +2,17 @@
 // with constant memory at any size of file.
 #pragma once
 
+#include "data/recordTrail.h"
 #include "util/progress.h"
-
-#include <QString>
-#include <QVector>
-
-struct validationMessage
-{
-    int line = 0; // from 1; 0 when unknown
-    int column = 0;
-    QString text; // plain text
-};
 
 struct validationResult
 {
     bool schemaLoaded = false;
     bool valid = false;
-    // Unreadable, has a document type declaration or an unknown root: no second look.
-    bool refusedOutright = false;
-    QVector<validationMessage> messages; // the first ones
-    int messageCount = 0;                // all of them
+    QVector<fileFault> messages; // the first ones
+    int messageCount = 0;        // all of them
+    // The one behind which the file cannot be read; without text when it can be read to its end.
+    fileFault formFault;
 };
 
 // Checks a file against a schema file. Messages beyond maxMessages are counted, not kept. Refuses

@@ -55,15 +55,17 @@ private slots:
             each("wide", "is UTF-16 but says that it is UTF-8");
             each("narrow", "says that it is UTF-16 but is not");
             each("encoding", "the encoding KOI-99 is not known");
-            each("bytes", "ncod");
+            each("bytes", "a byte that is no UTF-8");
             each("dtd", "document type declarations are not allowed");
-            each("prefix", "refix");
+            each("prefix", "the prefix xsi is not declared");
             each("schema", "none.xsd cannot be loaded");
         }
         row("info cut.xml", 1, "", "cut.xml:");
         row("info twice.xml", 0, "materials: 2\nktms: 1\nduplicates: 1", "");
         row("info good.xml bad.xml", 2, "", "too many");
         row("resave cut.xml out.xml", 1, "", "cut.xml: line 2");
+        row("repair cut.xml out4.xml", 0, "kind: kiv_mat_zp", "cut.xml:2:");
+        row("repair good.xml good.xml", 2, "", "repair: OUT is IN, which must stay");
         row("report good.xml -d none.xml -o out.html", 1, "", "none.xml");
         row("find ktm:k -d twice.xml", 0, "K\t", "");
         row("find K -n 1 -d twice.xml", 0, "K\t", "1 of 2 materials shown");
