@@ -151,7 +151,8 @@ void startElement(void *context, const xmlChar *name, const xmlChar *prefix, con
     state->dropText();
     state->trail.start(textOf(name));
     for (int i = 0; i < attributeCount; ++i) {
-        const xmlChar **const attribute = attributes + 5 * i; // name, prefix, URI, begin, end
+        const xmlChar **const attribute =
+            attributes + ptrdiff_t(5) * i; // name, prefix, URI, begin, end
         state->trail.attribute(textOf(attribute[0]), {reinterpret_cast<const char *>(attribute[3]),
                                                       size_t(attribute[4] - attribute[3])});
     }
