@@ -1,8 +1,9 @@
-// Any bytes as a file: no loader and no validator crashes or hangs, and what is valid is read,
+// Any bytes as a file: no loader, validator or repair crashes or hangs, and what is valid is read,
 // saved, still valid, and saved the same way again.
 #include "data/XmlValidator.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
+#include "data/repair.h"
 #include "util/cleanHtml.h"
 #include "util/paths.h"
 #include "util/prompts.h"
@@ -64,6 +65,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool valid = validateXml(path, schema, false);
     const auto document = newDocument(*kind);
     const int loaded = loadDocument(path, document.get());
+    const repairedFile repaired = repairFile(path);
+    if (repaired.document)
+        require(saveXmlNoEvents(folder.filePath(QStringLiteral("r.xml")), repaired.document.get(),
+                                nullptr, {}, saveRule::onlyGood)
+                    == 0,
+                "what was repaired can be saved");
     cleanHtml(QString::fromUtf8(reinterpret_cast<const char *>(data), int(size)));
     // A configuration may name another schema and be refused by that.
     if (!valid || loaded == 1)
