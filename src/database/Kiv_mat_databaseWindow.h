@@ -149,6 +149,7 @@ private:
     void tellExport(const exportResult &result);
     void applyTexts(std::vector<materialChange> changes, const QString &what);
     void list(const QString &heading, const QStringList &lines);
+    bool mayDelete(const std::vector<materialDifference> &wanted);
 
     programData::databaseKind m_kind;
     myModel *m_model = nullptr;

@@ -83,7 +83,8 @@ public:
     {
         materialStruct *material;
         d_groupStruct *group;
-        int next = -1; // the next with the same key
+        int next = -1; // the next with the same key that was not met
+        int nextOfAll = -1;
         bool met = false;
     };
 
@@ -99,9 +100,10 @@ public:
             place &p = m_places[size_t(i)];
             int &first =
                 m_first.insert(keyOf(*p.material), m_first.value(keyOf(*p.material), -1)).value();
-            p.next = first;
+            p.next = p.nextOfAll = first;
             first = i;
         }
+        m_head = m_first;
     }
 
     // The first one with that key that was not met and is accepted; null when there is none.
@@ -113,7 +115,7 @@ public:
             return nullptr;
         for (int *link = &*first; *link >= 0;) {
             place &p = m_places[size_t(*link)];
-            if (accept(*p.material)) {
+            if (accept(p)) {
                 p.met = true;
                 *link = p.next;
                 return &p;
@@ -123,11 +125,24 @@ public:
         return nullptr;
     }
 
+    // The one of that key that is accepted, or else the first; null when there is none. Which of
+    // them were met does not count.
+    template <class Accept>
+    const place *any(const QString &key, const Accept &accept) const
+    {
+        const int first = m_head.value(key, -1);
+        for (int i = first; i >= 0; i = m_places[size_t(i)].nextOfAll)
+            if (accept(*m_places[size_t(i)].material))
+                return &m_places[size_t(i)];
+        return first < 0 ? nullptr : &m_places[size_t(first)];
+    }
+
     const std::vector<place> &places() const { return m_places; }
 
 private:
     std::vector<place> m_places;
-    QHash<QString, int> m_first;
+    QHash<QString, int> m_first; // that was not met
+    QHash<QString, int> m_head;
 };
 
 std::vector<int> differingFields(const materialStruct &mine, const materialStruct &other)
@@ -140,16 +155,24 @@ std::vector<int> differingFields(const materialStruct &mine, const materialStruc
     return fields;
 }
 
+// The first group of each name.
+template <class Group, class Database>
+QHash<QString, Group *> groupsOf(const Database &database)
+{
+    QHash<QString, Group *> groups;
+    for (auto group = database.groups.rbegin(); group != database.groups.rend(); ++group)
+        groups.insert((*group)->name, group->get());
+    return groups;
+}
+
 // The groups of a database by name, of several with one name the first; missing ones are made.
 class groupFinder
 {
 public:
     groupFinder(const kiv_mat_databaseStruct &database, databaseTarget &target)
         : m_target(target)
+        , m_groups(groupsOf<d_groupStruct>(database))
     {
-        m_groups.reserve(int(database.groups.size()));
-        for (auto group = database.groups.rbegin(); group != database.groups.rend(); ++group)
-            m_groups.insert((*group)->name, group->get());
     }
 
     d_groupStruct *like(const d_groupStruct &other)
@@ -185,12 +208,14 @@ public:
     {
         group->append(std::move(material));
     }
-    void replace(d_groupStruct *, materialStruct *material,
-                 std::unique_ptr<materialStruct> content) override
+    materialStruct *replace(d_groupStruct *, materialStruct *material,
+                            std::unique_ptr<materialStruct> content) override
     {
         for (const comparedField &field : comparedFields())
             field.take(*material, *content);
+        return material;
     }
+    void setCpv(d_groupStruct *group, const QString &cpv) override { group->cpv = cpv; }
     void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) override
     {
         std::erase_if(group->items, [&materials](const auto &material) {
@@ -201,6 +226,79 @@ public:
 private:
     kiv_mat_databaseStruct *m_database;
 };
+
+materialDifference differenceOf(const materialStruct &material, const d_groupStruct &group,
+                                const materialPool::place *equal, materialPool &pool)
+{
+    const QString key = keyOf(material);
+    const materialPool::place *known =
+        equal ? equal : pool.meet(key, [](const auto &) { return true; });
+    if (known)
+        return {materialDifference::changed,
+                known->material,
+                known->group,
+                &material,
+                &group,
+                differingFields(*known->material, material),
+                known->group->name != group.name};
+    const auto isEqual = [&material](const materialStruct &m) { return m == material; };
+    if (!material.d_ktm.isEmpty() && (known = pool.any(key, isEqual)))
+        return {materialDifference::repeated,
+                known->material,
+                known->group,
+                &material,
+                &group,
+                differingFields(*known->material, material)};
+    return {materialDifference::added, nullptr, nullptr, &material, &group, {}};
+}
+
+void addGroups(const kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
+               std::vector<materialDifference> *differences)
+{
+    const auto theirs = groupsOf<const d_groupStruct>(other);
+    QSet<QString> seen;
+    for (const auto &group : mine.groups) {
+        const d_groupStruct *found = theirs.value(group->name);
+        if (!found || found->cpv == group->cpv || seen.contains(group->name))
+            continue;
+        seen.insert(group->name);
+        differences->push_back(
+            {materialDifference::groupCpv, nullptr, group.get(), nullptr, found, {}});
+    }
+}
+
+// By group, in the order in which they are named.
+class doomedMaterials
+{
+public:
+    void add(d_groupStruct *group, const materialStruct *material)
+    {
+        if (!m_places.contains(group)) {
+            m_places.insert(group, m_groups.size());
+            m_groups.push_back({group, {}});
+        }
+        m_groups[m_places.value(group)].second.insert(material);
+    }
+    void remove(databaseTarget &target) const
+    {
+        for (const auto &[group, materials] : m_groups)
+            target.remove(group, materials);
+    }
+
+private:
+    std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> m_groups;
+    QHash<const d_groupStruct *, size_t> m_places;
+};
+
+// A copy with what a difference gives it.
+std::unique_ptr<materialStruct> taken(const materialStruct &material,
+                                      const materialDifference &difference)
+{
+    auto content = material.copy();
+    for (int field : difference.fields)
+        comparedFields()[size_t(field)].take(*content, *difference.other);
+    return content;
+}
 
 comparison cancelledComparison()
 {
@@ -231,26 +329,29 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
     materialPool pool(mine);
     progressSteps steps(progress, 2 * qint64(other.materialCount()));
     // Equal ones meet first, so that of several with one KTM only those are left that differ.
-    std::vector<std::pair<const materialStruct *, const d_groupStruct *>> left;
+    using met = std::pair<const materialStruct *, const d_groupStruct *>;
+    std::vector<met> left;
     for (const auto &group : other.groups) {
         for (const auto &material : group->items) {
-            const auto equal = [&](const materialStruct &m) { return m == *material; };
+            const auto equal = [&](const materialPool::place &p) {
+                return p.group->name == group->name && *p.material == *material;
+            };
             if (!pool.meet(keyOf(*material), equal))
                 left.push_back({material.get(), group.get()});
             if (!steps.next())
                 return cancelledComparison();
         }
     }
-    for (const auto &[material, group] : left) {
-        const materialPool::place *known =
-            pool.meet(keyOf(*material), [](const materialStruct &) { return true; });
-        if (known)
-            result.differences.push_back({materialDifference::changed, known->material,
-                                          known->group, material, group,
-                                          differingFields(*known->material, *material)});
-        else
-            result.differences.push_back(
-                {materialDifference::added, nullptr, nullptr, material, group, {}});
+    std::vector<const materialPool::place *> equals;
+    for (const auto &[material, group] : left)
+        equals.push_back(pool.meet(keyOf(*material),
+                                   [&of = *material](const auto &p) { return *p.material == of; }));
+    for (size_t i = 0; i < left.size(); ++i) {
+        const auto [material, group] = left[i];
+        result.differences.push_back(differenceOf(*material, *group, equals[i], pool));
+        if (result.differences.back().kind == materialDifference::repeated
+            && result.differences.back().fields.empty())
+            result.differences.pop_back();
         if (!steps.next())
             return cancelledComparison();
     }
@@ -258,6 +359,7 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
         if (!p.met)
             result.differences.push_back(
                 {materialDifference::absent, p.material, p.group, nullptr, nullptr, {}});
+    addGroups(mine, other, &result.differences);
     return result;
 }
 
@@ -270,34 +372,47 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
               const kiv_mat_databaseStruct &mine, databaseTarget &target)
 {
     groupFinder groups(mine, target);
-    // By group, in the order in which the plan names them.
-    std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> doomed;
-    QHash<const d_groupStruct *, size_t> doomedPlaces;
+    doomedMaterials doomed;
+    // Where those are now that a repeated one may belong to.
+    QHash<const materialStruct *, std::pair<d_groupStruct *, materialStruct *>> now;
     for (const materialDifference &difference : plan) {
         switch (difference.kind) {
+        case materialDifference::repeated:
+            if (absent == absentOnes::keep) {
+                const auto [group, material] =
+                    now.value(difference.mine, {difference.myGroup, difference.mine});
+                now[difference.mine] = {
+                    group, target.replace(group, material, taken(*material, difference))};
+                break;
+            }
+            [[fallthrough]];
         case materialDifference::added:
             target.add(groups.like(*difference.otherGroup), difference.other->copy());
             break;
         case materialDifference::changed: {
-            auto content = difference.mine->copy();
-            for (int field : difference.fields)
-                comparedFields()[size_t(field)].take(*content, *difference.other);
-            target.replace(difference.myGroup, difference.mine, std::move(content));
+            auto content = taken(*difference.mine, difference);
+            if (!difference.moved) {
+                now[difference.mine] = {
+                    difference.myGroup,
+                    target.replace(difference.myGroup, difference.mine, std::move(content))};
+                break;
+            }
+            d_groupStruct *group = groups.like(*difference.otherGroup);
+            now[difference.mine] = {group, content.get()};
+            target.add(group, std::move(content));
+            doomed.add(difference.myGroup, difference.mine);
             break;
         }
         case materialDifference::absent:
-            if (absent == absentOnes::keep)
-                break;
-            if (!doomedPlaces.contains(difference.myGroup)) {
-                doomedPlaces.insert(difference.myGroup, doomed.size());
-                doomed.push_back({difference.myGroup, {}});
-            }
-            doomed[doomedPlaces.value(difference.myGroup)].second.insert(difference.mine);
+            if (absent == absentOnes::remove)
+                doomed.add(difference.myGroup, difference.mine);
+            break;
+        case materialDifference::groupCpv:
+            target.setCpv(difference.myGroup, difference.otherGroup->cpv);
             break;
         }
     }
-    for (const auto &[group, materials] : doomed)
-        target.remove(group, materials);
+    doomed.remove(target);
 }
 
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,

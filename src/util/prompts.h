@@ -37,8 +37,10 @@ public:
     virtual answer ask(const QString &html, bool withCancel);
 
     // A question with a button for each answer, which names what it does; the number of the one
-    // pressed, nothing when the box was closed otherwise.
-    virtual std::optional<int> decide(const QString &html, const QStringList &buttons);
+    // pressed, nothing when the box was closed otherwise. Return presses the first one, or Cancel
+    // where none is harmless.
+    virtual std::optional<int> decide(const QString &html, const QStringList &buttons,
+                                      bool noneIsHarmless = false);
 
     // One value in a small dialog; nothing when the user gives none.
     virtual std::optional<QString> inputText(const QString &title, const QString &label,

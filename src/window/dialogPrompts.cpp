@@ -98,14 +98,18 @@ prompts::answer dialogPrompts::ask(const QString &html, bool withCancel)
     return withCancel && question.clickedButton() == cancel ? answer::cancel : answer::no;
 }
 
-std::optional<int> dialogPrompts::decide(const QString &html, const QStringList &buttons)
+std::optional<int> dialogPrompts::decide(const QString &html, const QStringList &buttons,
+                                         bool noneIsHarmless)
 {
     box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")), html);
     question.setIcon(QMessageBox::Question);
     QList<QAbstractButton *> made;
     for (const QString &button : buttons)
         made.append(question.addButton(button, QMessageBox::ActionRole));
-    question.setEscapeButton(question.addButton(labels::cancel(), QMessageBox::RejectRole));
+    QPushButton *cancel = question.addButton(labels::cancel(), QMessageBox::RejectRole);
+    question.setEscapeButton(cancel);
+    if (noneIsHarmless)
+        question.setDefaultButton(cancel);
     question.exec();
     const int pressed = made.indexOf(question.clickedButton());
     return pressed < 0 ? std::nullopt : std::optional(pressed);
