@@ -252,7 +252,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     const bool leaves =
         !stays && isModified()
         && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel()));
-    if (stays || (leaves && !leaveUnsaved())) {
+    const bool noAnswer = leaves && !m_document.path().isEmpty() && isToStay();
+    if (stays || noAnswer || (leaves && !leaveUnsaved())) {
         for (editWindow *window : others)
             window->stayOpen();
         event->ignore();

@@ -32,8 +32,8 @@ public:
     // A refusal under the title "Warning".
     virtual void showWarning(const QString &html);
 
-    // A question under the title "Asking", with Yes and No, and Cancel when wanted. Closing the box
-    // answers cancel, or no where there is no Cancel.
+    // A question under the title "Asking", with Yes and No, and a button Cancel when wanted.
+    // Closing the box answers cancel in any case.
     virtual answer ask(const QString &html, bool withCancel);
 
     // A question with a button for each answer, which names what it does; the number of the one

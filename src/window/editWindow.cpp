@@ -395,7 +395,9 @@ void editWindow::showEvent(QShowEvent *event)
 
 bool editWindow::askToLeave(const QString &question, bool withCancel)
 {
-    switch (userPrompts().ask(question, withCancel)) {
+    const prompts::answer answer = userPrompts().ask(question, withCancel);
+    m_isToStay = answer == prompts::answer::cancel;
+    switch (answer) {
     case prompts::answer::yes:
         save();
         return !isModified();

@@ -233,6 +233,8 @@ protected:
     void dropEvent(QDropEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    // Whether the user gave no answer to it the last time.
+    bool isToStay() const { return m_isToStay; }
     bool eventFilter(QObject *watched, QEvent *event) override;
     // Del in a tree: empties the selected texts. Where lines can be deleted, those are.
     virtual void deletePressed(const myTreeView *view);
@@ -272,3 +274,4 @@ private:
     bool m_givenUp = false;
     bool m_programEnds = false;
 };
+    bool m_isToStay = false;
