@@ -1,6 +1,7 @@
 #include "bom/Kiv_bomViewWindow.h"
 
 #include "bom/bomReport.h"
+#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
@@ -86,8 +87,8 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name :
-         {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp", "moveDown", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp",
+                             "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
     m_view->setFont(files.config().font());
@@ -98,6 +99,14 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     resize(usualSize);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_bomViewWindow::itemTreeClicked);
+}
+
+std::unique_ptr<command> Kiv_bomViewWindow::become(documentStruct &wanted)
+{
+    std::vector<std::unique_ptr<command>> members;
+    becomeList::change(model(), *m_rows, m_bom->materials,
+                       std::move(static_cast<kiv_mat_bomStruct &>(wanted).materials), members);
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
 }
 
 bool Kiv_bomViewWindow::load()
@@ -151,8 +160,7 @@ void Kiv_bomViewWindow::updateActions()
                       !m_view->markedCells().isEmpty(), noLine);
     allowWhenUnlocked({"pasteLines"});
     allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
-                      m_view->markedRows().size() > 1 ? tr("several lines are selected")
-                                                        : noLine);
+                      m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);

@@ -1,5 +1,6 @@
 #include "firm/firmWindow.h"
 
+#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "data/vocabulary.h"
@@ -152,6 +153,17 @@ bool firmWindow::isModified() const
 
 bool firmWindow::load()
 {
+std::unique_ptr<command> firmWindow::become(documentStruct &wanted)
+{
+    auto &firms = static_cast<kiv_mat_firmStruct &>(wanted);
+    std::vector<std::unique_ptr<command>> members;
+    becomeList::change(model(manufacturer), *m_pages[manufacturer].rows, list(manufacturer),
+                       std::move(firms.manufacturers.items), members);
+    becomeList::change(model(supplier), *m_pages[supplier].rows, list(supplier),
+                       std::move(firms.suppliers.items), members);
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
+}
+
     const QString name = known().config().options.value(optionKey::fileFirm);
     m_path = paths::data(name);
     const fileState state = fileState::of(m_path);

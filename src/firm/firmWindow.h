@@ -38,6 +38,8 @@ signals:
 protected:
     QString filePath() const override { return m_path; }
     QString title() const override;
+    documentStruct *record() override { return m_edited.get(); }
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     void saved() override;

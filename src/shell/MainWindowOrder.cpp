@@ -175,6 +175,17 @@ void MainWindow::offerRecovery()
     m_recovery->discard();
 }
 
+documentStruct *MainWindow::record()
+{
+    m_order->takeAttentions();
+    return &m_document.order();
+}
+
+std::unique_ptr<command> MainWindow::become(documentStruct &wanted)
+{
+    return m_order->become(static_cast<kiv_mat_zpStruct &>(wanted));
+}
+
 bool MainWindow::load()
 {
     const bool read = m_document.reload();

@@ -96,7 +96,8 @@ const scenario refused[] = {
     {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
      "status ~ Another material has; title !~ *"},
     {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "status = CPV syntax error; title !~ *"},
-    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "status = Group already exists; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED,
+     "status = Group already exists; title !~ *"},
 };
 
 class tst_databaseWindow : public scenarioFixture
