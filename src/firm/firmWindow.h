@@ -65,6 +65,7 @@ private:
     QUrl currentHomePage();
     void clicked(const QModelIndex &cell);
     std::unique_ptr<command> withRenames(std::unique_ptr<command> change);
+    bool mayWrite(programData::databaseKind kind, const fileState &now) const;
     bool renameInFile(programData::databaseKind kind, const firmOperations::renameList &renames);
 
     std::unique_ptr<kiv_mat_firmStruct> m_edited;
