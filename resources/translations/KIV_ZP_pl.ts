@@ -3623,6 +3623,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Tax number</source>
         <translation>NIP</translation>
     </message>
+    <message>
+        <source>Supplier</source>
+        <translation>Dostawca</translation>
+    </message>
 </context>
 <context>
     <name>lineSums</name>

@@ -1,8 +1,10 @@
 #include "database/databaseMerge.h"
 
+#include "data/documentDiff.h"
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "data/recordMatching.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
@@ -75,60 +77,30 @@ QString keyOf(const materialStruct &material)
     return material.d_ktm.isEmpty() ? QLatin1Char('\n') + material.d_name : material.d_ktm;
 }
 
-// The materials of a database by key. Each is met once, in file order.
-class materialPool
+struct placedMaterial
 {
-public:
-    struct place
-    {
-        materialStruct *material;
-        d_groupStruct *group;
-        int next = -1; // the next with the same key
-        bool met = false;
-    };
-
-    explicit materialPool(kiv_mat_databaseStruct &database)
-    {
-        const int count = database.materialCount();
-        m_places.reserve(size_t(count));
-        for (const auto &group : database.groups)
-            for (const auto &material : group->items)
-                m_places.push_back({material.get(), group.get()});
-        m_first.reserve(count);
-        for (int i = count - 1; i >= 0; --i) {
-            place &p = m_places[size_t(i)];
-            int &first =
-                m_first.insert(keyOf(*p.material), m_first.value(keyOf(*p.material), -1)).value();
-            p.next = first;
-            first = i;
-        }
-    }
-
-    // The first one with that key that was not met and is accepted; null when there is none.
-    template <class Accept>
-    const place *meet(const QString &key, const Accept &accept)
-    {
-        const auto first = m_first.find(key);
-        if (first == m_first.end())
-            return nullptr;
-        for (int *link = &*first; *link >= 0;) {
-            place &p = m_places[size_t(*link)];
-            if (accept(*p.material)) {
-                p.met = true;
-                *link = p.next;
-                return &p;
-            }
-            link = &p.next;
-        }
-        return nullptr;
-    }
-
-    const std::vector<place> &places() const { return m_places; }
-
-private:
-    std::vector<place> m_places;
-    QHash<QString, int> m_first;
+    materialStruct *material;
+    d_groupStruct *group;
 };
+
+std::vector<placedMaterial> placesIn(const kiv_mat_databaseStruct &database)
+{
+    std::vector<placedMaterial> places;
+    places.reserve(size_t(database.materialCount()));
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            places.push_back({material.get(), group.get()});
+    return places;
+}
+
+std::vector<QString> keysOf(const std::vector<placedMaterial> &places)
+{
+    std::vector<QString> keys;
+    keys.reserve(places.size());
+    for (const placedMaterial &place : places)
+        keys.push_back(keyOf(*place.material));
+    return keys;
+}
 
 std::vector<int> differingFields(const materialStruct &mine, const materialStruct &other)
 {
@@ -228,36 +200,34 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
                             const progressFunction &progress)
 {
     comparison result;
-    materialPool pool(mine);
-    progressSteps steps(progress, 2 * qint64(other.materialCount()));
-    // Equal ones meet first, so that of several with one KTM only those are left that differ.
-    std::vector<std::pair<const materialStruct *, const d_groupStruct *>> left;
-    for (const auto &group : other.groups) {
-        for (const auto &material : group->items) {
-            const auto equal = [&](const materialStruct &m) { return m == *material; };
-            if (!pool.meet(keyOf(*material), equal))
-                left.push_back({material.get(), group.get()});
-            if (!steps.next())
-                return cancelledComparison();
-        }
-    }
-    for (const auto &[material, group] : left) {
-        const materialPool::place *known =
-            pool.meet(keyOf(*material), [](const materialStruct &) { return true; });
-        if (known)
-            result.differences.push_back({materialDifference::changed, known->material,
-                                          known->group, material, group,
-                                          differingFields(*known->material, *material)});
-        else
+    const std::vector<placedMaterial> my = placesIn(mine);
+    const std::vector<placedMaterial> their = placesIn(other);
+    const auto content = [&](bool later, int place) {
+        return contentHash(*(later ? their : my)[size_t(place)].material);
+    };
+    const std::vector<int> known = matchRecords(keysOf(my), keysOf(their), {content}).before;
+    std::vector<bool> isMet(my.size());
+    progressSteps steps(progress, qint64(their.size()));
+    for (size_t i = 0; i < their.size(); ++i) {
+        const auto [material, group] = their[i];
+        if (known[i] < 0) {
             result.differences.push_back(
                 {materialDifference::added, nullptr, nullptr, material, group, {}});
+        } else {
+            const placedMaterial &old = my[size_t(known[i])];
+            isMet[size_t(known[i])] = true;
+            if (!(*old.material == *material))
+                result.differences.push_back({materialDifference::changed, old.material, old.group,
+                                              material, group,
+                                              differingFields(*old.material, *material)});
+        }
         if (!steps.next())
             return cancelledComparison();
     }
-    for (const materialPool::place &p : pool.places())
-        if (!p.met)
+    for (size_t i = 0; i < my.size(); ++i)
+        if (!isMet[i])
             result.differences.push_back(
-                {materialDifference::absent, p.material, p.group, nullptr, nullptr, {}});
+                {materialDifference::absent, my[i].material, my[i].group, nullptr, nullptr, {}});
     return result;
 }
 

@@ -54,8 +54,7 @@ struct comparison
 
 // Compares by KTM, texts exactly as they are; materials without a KTM by name. The group does not
 // count. Of several materials with one KTM those that are equal belong together, then the others in
-// file order. progress is told the other's materials,
-// those that differ twice.
+// file order. progress is told the other's materials.
 comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
                             const progressFunction &progress = {});
 
