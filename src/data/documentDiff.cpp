@@ -420,10 +420,14 @@ private:
         row.number = number;
         row.name = numbered(nameOf(*entry.record));
         row.group = (after >= 0 ? lists.after : lists.before)[size_t(entry.parent)];
-        if (before >= 0)
+        if (before >= 0) {
             row.recordBefore = records.before[size_t(before)].record;
-        if (after >= 0)
+            row.placeBefore = records.before[size_t(before)].place + 1;
+        }
+        if (after >= 0) {
             row.recordAfter = records.after[size_t(after)].record;
+            row.placeAfter = records.after[size_t(after)].place + 1;
+        }
         return row;
     }
 
@@ -443,13 +447,15 @@ private:
     {
         const auto &from = records.before[size_t(before)];
         const auto &to = records.after[size_t(after)];
-        const documentDifference row = rowOf<Shape>(records, lists, before, after, nestedIn);
+        documentDifference row = rowOf<Shape>(records, lists, before, after, nestedIn);
+        row.placeBefore = from.place + 1;
+        row.placeAfter = to.place + 1;
         if (from.parent != lists.matches[size_t(to.parent)])
             add(row, documentDifference::moved, {}, {}, lists.before[size_t(from.parent)],
                 lists.after[size_t(to.parent)]);
         else
-            add(row, documentDifference::moved, {}, {}, QString::number(from.place + 1),
-                QString::number(to.place + 1));
+            add(row, documentDifference::moved, {}, {}, QString::number(row.placeBefore),
+                QString::number(row.placeAfter));
     }
 
     // row leads to the field with what it is nested in; without a field it is that itself.

@@ -45,9 +45,13 @@ struct documentDifference
     QString field;
     QString caption;
     // The texts as stored, save passwords, which are "***". Of something added or removed all its
-    // texts, in one line; of something moved its groups, or its places in the list from 1.
+    // texts, in one line; of something moved its groups, or the places below.
     QString before;
     QString after;
+    // The record's places in its lists, from 1; 0 where it is not. Of a nested one that was moved
+    // its own places.
+    int placeBefore = 0;
+    int placeAfter = 0;
     // The record in each of the documents, never a nested one; null where it is not, and for the
     // fields of the document. Valid while the documents live unchanged.
     const xmlData *recordBefore = nullptr;
