@@ -2604,6 +2604,18 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>not written, since it would lose %1; --force writes all the same</source>
         <translation>nie zapisano, bo przepadłoby: %1; --force zapisuje mimo to</translation>
     </message>
+    <message>
+        <source>%1 is of the kind %2, but %3 is of the kind %4</source>
+        <translation>%1 jest rodzaju %2, a %3 rodzaju %4</translation>
+    </message>
+    <message>
+        <source>Lists what two files of one kind differ in. Exit code 1 when they differ, 2 when they cannot be compared.</source>
+        <translation>Wypisuje różnice między dwoma plikami jednego rodzaju. Kod wyjścia 1, gdy się różnią, 2, gdy nie da się ich porównać.</translation>
+    </message>
+    <message>
+        <source>Print one JSON document for other programs.</source>
+        <translation>Wypisz jeden dokument JSON dla innych programów.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -3765,6 +3777,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Tax number</source>
         <translation>NIP</translation>
+    </message>
+    <message>
+        <source>Supplier</source>
+        <translation>Dostawca</translation>
     </message>
 </context>
 <context>

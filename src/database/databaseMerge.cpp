@@ -1,12 +1,16 @@
 #include "database/databaseMerge.h"
 
+#include "data/documentDiff.h"
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "data/recordMatching.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
 #include <QHash>
+
+#include <optional>
 
 namespace {
 
@@ -75,75 +79,30 @@ QString keyOf(const materialStruct &material)
     return material.d_ktm.isEmpty() ? QLatin1Char('\n') + material.d_name : material.d_ktm;
 }
 
-// The materials of a database by key. Each is met once, in file order.
-class materialPool
+struct placedMaterial
 {
-public:
-    struct place
-    {
-        materialStruct *material;
-        d_groupStruct *group;
-        int next = -1; // the next with the same key that was not met
-        int nextOfAll = -1;
-        bool met = false;
-    };
-
-    explicit materialPool(kiv_mat_databaseStruct &database)
-    {
-        const int count = database.materialCount();
-        m_places.reserve(size_t(count));
-        for (const auto &group : database.groups)
-            for (const auto &material : group->items)
-                m_places.push_back({material.get(), group.get()});
-        m_first.reserve(count);
-        for (int i = count - 1; i >= 0; --i) {
-            place &p = m_places[size_t(i)];
-            int &first =
-                m_first.insert(keyOf(*p.material), m_first.value(keyOf(*p.material), -1)).value();
-            p.next = p.nextOfAll = first;
-            first = i;
-        }
-        m_head = m_first;
-    }
-
-    // The first one with that key that was not met and is accepted; null when there is none.
-    template <class Accept>
-    const place *meet(const QString &key, const Accept &accept)
-    {
-        const auto first = m_first.find(key);
-        if (first == m_first.end())
-            return nullptr;
-        for (int *link = &*first; *link >= 0;) {
-            place &p = m_places[size_t(*link)];
-            if (accept(p)) {
-                p.met = true;
-                *link = p.next;
-                return &p;
-            }
-            link = &p.next;
-        }
-        return nullptr;
-    }
-
-    // The one of that key that is accepted, or else the first; null when there is none. Which of
-    // them were met does not count.
-    template <class Accept>
-    const place *any(const QString &key, const Accept &accept) const
-    {
-        const int first = m_head.value(key, -1);
-        for (int i = first; i >= 0; i = m_places[size_t(i)].nextOfAll)
-            if (accept(*m_places[size_t(i)].material))
-                return &m_places[size_t(i)];
-        return first < 0 ? nullptr : &m_places[size_t(first)];
-    }
-
-    const std::vector<place> &places() const { return m_places; }
-
-private:
-    std::vector<place> m_places;
-    QHash<QString, int> m_first; // that was not met
-    QHash<QString, int> m_head;
+    materialStruct *material;
+    d_groupStruct *group;
 };
+
+std::vector<placedMaterial> placesIn(const kiv_mat_databaseStruct &database)
+{
+    std::vector<placedMaterial> places;
+    places.reserve(size_t(database.materialCount()));
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            places.push_back({material.get(), group.get()});
+    return places;
+}
+
+std::vector<QString> keysOf(const std::vector<placedMaterial> &places)
+{
+    std::vector<QString> keys;
+    keys.reserve(places.size());
+    for (const placedMaterial &place : places)
+        keys.push_back(keyOf(*place.material));
+    return keys;
+}
 
 std::vector<int> differingFields(const materialStruct &mine, const materialStruct &other)
 {
@@ -227,31 +186,6 @@ private:
     kiv_mat_databaseStruct *m_database;
 };
 
-materialDifference differenceOf(const materialStruct &material, const d_groupStruct &group,
-                                const materialPool::place *equal, materialPool &pool)
-{
-    const QString key = keyOf(material);
-    const materialPool::place *known =
-        equal ? equal : pool.meet(key, [](const auto &) { return true; });
-    if (known)
-        return {materialDifference::changed,
-                known->material,
-                known->group,
-                &material,
-                &group,
-                differingFields(*known->material, material),
-                known->group->name != group.name};
-    const auto isEqual = [&material](const materialStruct &m) { return m == material; };
-    if (!material.d_ktm.isEmpty() && (known = pool.any(key, isEqual)))
-        return {materialDifference::repeated,
-                known->material,
-                known->group,
-                &material,
-                &group,
-                differingFields(*known->material, material)};
-    return {materialDifference::added, nullptr, nullptr, &material, &group, {}};
-}
-
 void addGroups(const kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
                std::vector<materialDifference> *differences)
 {
@@ -300,6 +234,21 @@ std::unique_ptr<materialStruct> taken(const materialStruct &material,
     return content;
 }
 
+// What is known of a database's materials beside their matches.
+struct knownMaterials
+{
+    QHash<QString, int> firsts; // by KTM
+    QSet<quint64> contents;
+
+    explicit knownMaterials(const std::vector<placedMaterial> &places)
+    {
+        for (size_t i = places.size(); i-- > 0;) {
+            firsts.insert(places[i].material->d_ktm, int(i));
+            contents.insert(contentHash(*places[i].material));
+        }
+    }
+};
+
 comparison cancelledComparison()
 {
     comparison result;
@@ -326,39 +275,50 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
                             const progressFunction &progress)
 {
     comparison result;
-    materialPool pool(mine);
-    progressSteps steps(progress, 2 * qint64(other.materialCount()));
-    // Equal ones meet first, so that of several with one KTM only those are left that differ.
-    using met = std::pair<const materialStruct *, const d_groupStruct *>;
-    std::vector<met> left;
-    for (const auto &group : other.groups) {
-        for (const auto &material : group->items) {
-            const auto equal = [&](const materialPool::place &p) {
-                return p.group->name == group->name && *p.material == *material;
-            };
-            if (!pool.meet(keyOf(*material), equal))
-                left.push_back({material.get(), group.get()});
-            if (!steps.next())
-                return cancelledComparison();
+    const std::vector<placedMaterial> my = placesIn(mine);
+    const std::vector<placedMaterial> their = placesIn(other);
+    const auto content = [&](bool later, int place) {
+        return contentHash(*(later ? their : my)[size_t(place)].material);
+    };
+    const auto contentInGroup = [&](bool later, int place) {
+        return content(later, place) ^ qHash((later ? their : my)[size_t(place)].group->name, 1);
+    };
+    const std::vector<int> known =
+        matchRecords(keysOf(my), keysOf(their), {contentInGroup, content}).before;
+    std::optional<knownMaterials> all; // once one has no match
+    std::vector<bool> isMet(my.size());
+    progressSteps steps(progress, qint64(their.size()));
+    for (size_t i = 0; i < their.size(); ++i) {
+        const auto [material, group] = their[i];
+        if (known[i] >= 0) {
+            const placedMaterial &old = my[size_t(known[i])];
+            isMet[size_t(known[i])] = true;
+            const bool moved = old.group->name != group->name;
+            if (moved || !(*old.material == *material))
+                result.differences.push_back({materialDifference::changed, old.material, old.group,
+                                              material, group,
+                                              differingFields(*old.material, *material), moved});
+        } else {
+            if (!all)
+                all.emplace(my);
+            const int first =
+                material->d_ktm.isEmpty() ? -1 : all->firsts.value(material->d_ktm, -1);
+            if (first < 0)
+                result.differences.push_back(
+                    {materialDifference::added, nullptr, nullptr, material, group, {}});
+            else if (!all->contents.contains(contentHash(*material)))
+                result.differences.push_back(
+                    {materialDifference::repeated, my[size_t(first)].material,
+                     my[size_t(first)].group, material, group,
+                     differingFields(*my[size_t(first)].material, *material)});
         }
-    }
-    std::vector<const materialPool::place *> equals;
-    for (const auto &[material, group] : left)
-        equals.push_back(pool.meet(keyOf(*material),
-                                   [&of = *material](const auto &p) { return *p.material == of; }));
-    for (size_t i = 0; i < left.size(); ++i) {
-        const auto [material, group] = left[i];
-        result.differences.push_back(differenceOf(*material, *group, equals[i], pool));
-        if (result.differences.back().kind == materialDifference::repeated
-            && result.differences.back().fields.empty())
-            result.differences.pop_back();
         if (!steps.next())
             return cancelledComparison();
     }
-    for (const materialPool::place &p : pool.places())
-        if (!p.met)
+    for (size_t i = 0; i < my.size(); ++i)
+        if (!isMet[i])
             result.differences.push_back(
-                {materialDifference::absent, p.material, p.group, nullptr, nullptr, {}});
+                {materialDifference::absent, my[i].material, my[i].group, nullptr, nullptr, {}});
     addGroups(mine, other, &result.differences);
     return result;
 }

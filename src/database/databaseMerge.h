@@ -59,7 +59,7 @@ struct comparison
 // Compares by KTM, texts exactly as they are; materials without a KTM by name. Of several materials
 // with one KTM those that are equal belong together, first in groups of one name, then the others
 // in file order; what is left of the other database's is repeated, and belongs to the first one.
-// progress is told the other's materials, those that differ twice.
+// progress is told the other's materials.
 comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
                             const progressFunction &progress = {});
 
