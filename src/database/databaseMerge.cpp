@@ -333,14 +333,13 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
 {
     groupFinder groups(mine, target);
     doomedMaterials doomed;
-    // Where those are now that a repeated one may belong to.
+    // Where those are now that more than one difference belongs to.
     QHash<const materialStruct *, std::pair<d_groupStruct *, materialStruct *>> now;
     for (const materialDifference &difference : plan) {
+        auto [group, material] = now.value(difference.mine, {difference.myGroup, difference.mine});
         switch (difference.kind) {
         case materialDifference::repeated:
             if (absent == absentOnes::keep) {
-                const auto [group, material] =
-                    now.value(difference.mine, {difference.myGroup, difference.mine});
                 now[difference.mine] = {
                     group, target.replace(group, material, taken(*material, difference))};
                 break;
@@ -350,17 +349,16 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
             target.add(groups.like(*difference.otherGroup), difference.other->copy());
             break;
         case materialDifference::changed: {
-            auto content = taken(*difference.mine, difference);
-            if (!difference.moved) {
-                now[difference.mine] = {
-                    difference.myGroup,
-                    target.replace(difference.myGroup, difference.mine, std::move(content))};
-                break;
+            auto content = taken(*material, difference);
+            if (difference.moved) {
+                doomed.add(group, material);
+                group = groups.like(*difference.otherGroup);
+                material = content.get();
+                target.add(group, std::move(content));
+            } else {
+                material = target.replace(group, material, std::move(content));
             }
-            d_groupStruct *group = groups.like(*difference.otherGroup);
-            now[difference.mine] = {group, content.get()};
-            target.add(group, std::move(content));
-            doomed.add(difference.myGroup, difference.mine);
+            now[difference.mine] = {group, material};
             break;
         }
         case materialDifference::absent:

@@ -55,7 +55,7 @@ const scenario scenarios[] = {
     {"one of it", OPEN "|material@3/0,0 F2 Ctrl+A 'Vishay' Return", "material@!3/0,0 ~ ZIELONY"},
 
     {"a KTM that another one has",
-     OPEN "|material@0/0,1 F2 Ctrl+A '317111-01.01-00002' Return Ctrl+S Escape Ctrl+W !No",
+     OPEN "|material@0/0,1 F2 Ctrl+A 'SRV-000.100' Return Ctrl+S Escape Ctrl+W !No",
      "boxes ~ Error: Another material has this KTM; saved ~ <d_ktm>317111-01.01-00001"},
 
     // --- Closing; what is at fault is gone to, the rest is kept ---
