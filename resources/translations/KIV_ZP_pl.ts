@@ -4237,10 +4237,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>brak</translation>
     </message>
     <message>
-        <source>Changes of two</source>
-        <translation>Zmiany dwóch stron</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Wiersz</translation>
     </message>
@@ -4315,6 +4311,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Pick in each row marked with ? first</source>
         <translation>Najpierw wybierz w każdym wierszu oznaczonym ?</translation>
+    </message>
+    <message>
+        <source>Changes here and by another program</source>
+        <translation>Zmiany tutaj i zmiany innego programu</translation>
     </message>
 </context>
 <context>

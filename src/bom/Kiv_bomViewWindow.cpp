@@ -1,7 +1,6 @@
 #include "bom/Kiv_bomViewWindow.h"
 
 #include "bom/bomReport.h"
-#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
@@ -9,6 +8,7 @@
 #include "order/addMaterialDialog.h"
 #include "tree/myTreeView.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
 #include "window/searchLine.h"
 
 #include <QDir>
@@ -103,9 +103,17 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
 
 std::unique_ptr<command> Kiv_bomViewWindow::become(documentStruct &wanted)
 {
+    // A line is written in its short form.
+    const auto content = [](const materialStruct &line) {
+        QByteArray all;
+        for (const auto &field : materialStruct::shortFields())
+            all += (line.*field.member).toUtf8() + '\0';
+        return all;
+    };
     std::vector<std::unique_ptr<command>> members;
-    becomeList::change(model(), *m_rows, m_bom->materials,
-                       std::move(static_cast<kiv_mat_bomStruct &>(wanted).materials), members);
+    becomeList::change<materialStruct>(
+        model(), *m_rows, m_bom->materials,
+        std::move(static_cast<kiv_mat_bomStruct &>(wanted).materials), members, content);
     return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
 }
 

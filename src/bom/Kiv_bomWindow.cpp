@@ -1,7 +1,6 @@
 #include "bom/Kiv_bomWindow.h"
 
 #include "bom/Kiv_bomViewWindow.h"
-#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
@@ -9,6 +8,7 @@
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
 
 #include <QDir>
 #include <QFileInfo>

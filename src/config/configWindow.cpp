@@ -1,6 +1,5 @@
 #include "config/configWindow.h"
 
-#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "config/configOperations.h"
@@ -12,6 +11,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "window/becomeList.h"
 
 #include <QDir>
 #include <QFileInfo>

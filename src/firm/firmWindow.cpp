@@ -1,6 +1,5 @@
 #include "firm/firmWindow.h"
 
-#include "commands/becomeList.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "data/vocabulary.h"
@@ -10,6 +9,7 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
 #include "window/workProgress.h"
 
 #include <QDir>

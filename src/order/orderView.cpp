@@ -1,6 +1,5 @@
 #include "order/orderView.h"
 
-#include "commands/becomeList.h"
 #include "commands/editCommands.h"
 #include "data/configStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
@@ -12,6 +11,7 @@
 #include "tree/myTreeView.h"
 #include "util/cleanHtml.h"
 #include "util/labels.h"
+#include "window/becomeList.h"
 
 #include <QHeaderView>
 #include <QLabel>

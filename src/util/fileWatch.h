@@ -21,6 +21,7 @@ public:
     // path.
     void watch(const QString &path);
 
+    const QString &path() const { return m_path; }
     // Who else had the file open when it was looked at last.
     QStringList others() const { return m_seen ? m_seen->others : QStringList(); }
 

@@ -19,15 +19,17 @@ inline QByteArray contentOf(const xmlData &record)
 }
 
 // What stands alike at the beginning and the end stays; between, rows are replaced one by one, and
-// what is left over is deleted or added. The tree may show the list in another order.
+// what is left over is deleted or added. The tree may show the list in another order. content gives
+// a record as its file has it.
 template <class Record>
 void change(myModel *model, const listRows<Record> &rows,
             const std::vector<std::unique_ptr<Record>> &mine,
             std::vector<std::unique_ptr<Record>> wanted,
-            std::vector<std::unique_ptr<command>> &members)
+            std::vector<std::unique_ptr<command>> &members,
+            const std::function<QByteArray(const Record &)> &content = contentOf)
 {
     const auto isLike = [&](size_t i, size_t j) {
-        return contentOf(*mine[i]) == contentOf(*wanted[j]);
+        return content(*mine[i]) == content(*wanted[j]);
     };
     size_t head = 0;
     while (head < mine.size() && head < wanted.size() && isLike(head, head))

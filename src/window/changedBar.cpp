@@ -11,11 +11,14 @@ changedBar::changedBar(QWidget *parent)
     setMovable(false);
     // The window shows it when there is something to say.
     toggleViewAction()->setVisible(false);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
     m_text->setObjectName(QStringLiteral("changedText"));
-    m_text->setForegroundRole(QPalette::ToolTipText);
-    m_text->setMargin(4);
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor(0xFF, 0xE0, 0x8A));
+    colours.setColor(QPalette::WindowText, Qt::black);
+    m_text->setPalette(colours);
+    m_text->setAutoFillBackground(true);
+    constexpr int margin = 5;
+    m_text->setMargin(margin);
     m_text->setTextFormat(Qt::PlainText);
     addWidget(m_text);
     m_compare = add(tr("Compare"), "compareVersions", &changedBar::compare);

@@ -107,7 +107,10 @@ bool editWindow::keepOwnVersion()
 
 void editWindow::followFile()
 {
-    m_watch->watch(isVisible() ? filePath() : QString());
+    const QString path = isVisible() ? filePath() : QString();
+    if (path != m_watch->path())
+        m_note.clear();
+    m_watch->watch(path);
     rememberOpened();
     lookAtFile();
 }
@@ -200,25 +203,35 @@ void editWindow::compareVersions()
     showState();
 }
 
-// False when nothing came of it.
+// False when nothing came of it. All are read and written anew first, so that only what they hold
+// differs, not how it is written.
 bool editWindow::mergeWith(const QString &theirs, const fileState &state)
 {
     const documentStruct *own = record();
     const QTemporaryDir folder(scratch::pattern());
-    const QString mine = folder.filePath(QStringLiteral("mine.xml"));
-    const bool knowsOpened = m_opened && m_openedPath == filePath() && m_openedState == onDisk();
-    const QString opened =
-        knowsOpened ? m_opened->filePath(text::fileNameOfPath(filePath())) : QString();
-    std::unique_ptr<documentStruct> other = newDocument(own->kind());
     QString reason;
     std::unique_ptr<documentMerge> merge;
     bool cancelled = false;
     {
         workProgress::scope work(progress(), tr("Comparing"));
         const progressFunction go = work.function();
-        if (saveXmlNoEvents(mine, own, &reason, go, saveRule::whatever) >= 0
-            && readChecked(theirs, other.get(), &reason, go))
-            merge = std::make_unique<documentMerge>(opened, mine, theirs, go);
+        const auto anew = [&](const QString &from, const char *name) {
+            const QString to = folder.filePath(QLatin1String(name));
+            const std::unique_ptr<documentStruct> other = newDocument(own->kind());
+            return readChecked(from, other.get(), &reason, go)
+                           && saveXmlNoEvents(to, other.get(), &reason, go, saveRule::whatever) >= 0
+                       ? to
+                       : QString();
+        };
+        const bool knowsOpened =
+            m_opened && m_openedPath == filePath() && m_openedState == onDisk();
+        const QString opened =
+            knowsOpened ? anew(m_opened->filePath(text::fileNameOfPath(filePath())), "opened.xml")
+                        : QString();
+        const QString other = anew(theirs, "other.xml");
+        const QString mine = folder.filePath(QStringLiteral("mine.xml"));
+        if (!other.isEmpty() && saveXmlNoEvents(mine, own, &reason, go, saveRule::whatever) >= 0)
+            merge = std::make_unique<documentMerge>(opened, mine, other, go);
         cancelled = work.cancelled();
     }
     if (cancelled)

@@ -38,7 +38,7 @@ mergeDialog::mergeDialog(std::vector<mergeRow> &rows, bool mayTake, QWidget *par
     , m_count(new QLabel(this))
     , m_mayTake(mayTake)
 {
-    setWindowTitle(tr("Changes of two"));
+    setWindowTitle(tr("Changes here and by another program"));
     m_view->setObjectName(QStringLiteral("versions"));
     m_view->setAccessibleName(windowTitle());
     m_view->setHeaderLabels(
@@ -115,6 +115,8 @@ void mergeDialog::showChoice(int at)
     item->setFont(mineColumn, row.picked && !row.takeTheirs ? taken : m_view->font());
     item->setFont(theirsColumn, row.picked && row.takeTheirs ? taken : m_view->font());
     item->setFont(takeColumn, row.picked ? m_view->font() : taken);
+    for (int column = 0; column < columnCount; ++column)
+        item->setForeground(column, row.picked ? QBrush() : QBrush(QColor(0xA0, 0x20, 0x20)));
 }
 
 void mergeDialog::showCount()

@@ -211,7 +211,7 @@ private slots:
         testSupport::write(file + ".new", all);
         QFile::remove(file);
         QVERIFY(QFile::rename(file + ".new", file));
-        work("~800");
+        work("~500");
     }
     bool isKept(const char *text)
     {
@@ -264,13 +264,13 @@ private slots:
         const QString file = fileOf(w);
         const QString theirs = w.theirs ? w.theirs : w.other;
         work(QString("%1 F2 Ctrl+A 'Żuk3' Return").arg(w.cell));
-        work(QString("%1 %2 F2 Ctrl+A 'Żuk4' Return ~800").arg(w.save, w.cell));
+        work(QString("%1 %2 F2 Ctrl+A 'Żuk4' Return ~500").arg(w.save, w.cell));
         QVERIFY(!window().findChild<QWidget *>("changedBar"));
         changeElsewhere(file, theirs);
         const auto *bar = window().findChild<QWidget *>("changedBar");
         QVERIFY(bar && bar->isVisible());
         look("changedText ~ changed by another program");
-        work('!' + way + (way == "compareVersions" ? " !mergeVersions" : "") + " ~800");
+        work('!' + way + (way == "compareVersions" ? " !mergeVersions" : "") + " ~500");
         QVERIFY(!bar->isVisible());
         boxes();
         const bool own = way != "reloadVersion";
@@ -306,10 +306,10 @@ private slots:
     void othersComeAndGo()
     {
         const QString lock = folder().write("_zp/.zp_0.xml.2.lock", "4242\nKivZP\nelsewhere\n");
-        work("~800");
+        work("~500");
         look("changedText ~ opened elsewhere, too: KivZP, elsewhere, 4242");
         QFile::remove(lock);
-        work("~800");
+        work("~500");
         look("changedText ~ closed elsewhere: KivZP");
         work("!hideNote");
         QVERIFY(!window().findChild<QWidget *>("changedBar")->isVisible());
@@ -320,7 +320,7 @@ private slots:
     {
         work("orderLines@0,1 F2 Ctrl+A 'Żuk' Return");
         QVERIFY(QDir(path("_zp")).removeRecursively());
-        work("~800");
+        work("~500");
         look("changedText = The file is gone.; orderLines = 21");
         work("Ctrl+S !Save_it_anew");
         look("orderLines = 21; file _zp/zp_0.xml ~ Żuk; title = Order; status = Saved");
