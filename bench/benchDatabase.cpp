@@ -2,6 +2,7 @@
 #include "benchSupport.h"
 
 #include "data/XmlValidator.h"
+#include "data/documentDiff.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/ktmIndex.h"
 #include "data/loaders.h"
@@ -100,8 +101,10 @@ void duplicates(benchmark::State &state, const kiv_mat_databaseStruct &database)
     });
 }
 
-// Comparing with a copy in which every tenth material is changed, and taking that over.
-void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &database)
+// Comparing with a copy in which every tenth material is changed in one field.
+template <class Compare>
+void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &database,
+                     const Compare &compare)
 {
     kiv_mat_databaseStruct mine;
     kiv_mat_databaseStruct other;
@@ -124,8 +127,20 @@ void compareWithCopy(benchmark::State &state, const kiv_mat_databaseStruct &data
         for (const auto &material : group->items)
             for (const auto &field : materialStruct::fields())
                 ((*material).*field.member).detach();
-    againstTime(state, 1.0, [&] {
-        return compareDatabases(mine, other).differences.size() == size_t(number / 10);
+    againstTime(state, 1.0, [&] { return compare(mine, other) == size_t(number / 10); });
+}
+
+void compareInMerge(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    compareWithCopy(state, database, [](kiv_mat_databaseStruct &mine, const auto &other) {
+        return compareDatabases(mine, other).differences.size();
+    });
+}
+
+void compareAll(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    compareWithCopy(state, database, [](const auto &mine, const auto &other) {
+        return compareDocuments(mine, other).rows.size();
     });
 }
 
@@ -180,7 +195,8 @@ int main(int argc, char **argv)
     add("altium/script", script)->Iterations(3);
     add("duplicates", duplicates)->Iterations(5);
     add("codes", codes)->Iterations(3);
-    add("compare", compareWithCopy)->Iterations(3);
+    add("compare", compareInMerge)->Iterations(3);
+    add("diff", compareAll)->Iterations(3);
     add("listing", listing)->Iterations(3);
 
     benchmark::Initialize(&argc, argv);

@@ -71,7 +71,7 @@ public:
     }
     QString openFile(const QString &, const QString &, const QString &) override { return {}; }
     QString saveFile(const QString &, const QString &, const QString &) override { return {}; }
-    std::optional<int> decide(const QString &, const QStringList &) override { return {}; }
+    std::optional<int> decide(const QString &, const QStringList &, bool) override { return {}; }
     std::optional<QString> inputText(const QString &, const QString &, const QString &) override { return {}; }
     std::optional<int> inputNumber(const QString &, const QString &, int, int, int) override { return {}; }
     std::optional<QDate> inputDate(const QString &, const QDate &) override { return {}; }

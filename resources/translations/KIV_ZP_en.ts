@@ -166,6 +166,13 @@
             <numerusform>%n materials deleted</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -559,6 +566,23 @@
         <translation>
             <numerusform>%n supplier</numerusform>
             <numerusform>%n suppliers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>mergeDialog</name>
+    <message numerus="yes">
+        <source>%n difference(s). What only one changed is taken.</source>
+        <translation>
+            <numerusform>%n difference. What only one changed is taken.</numerusform>
+            <numerusform>%n differences. What only one changed is taken.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) changed by both: pick which to take.</source>
+        <translation>
+            <numerusform>%n row changed by both: pick which to take.</numerusform>
+            <numerusform>%n rows changed by both: pick which to take.</numerusform>
         </translation>
     </message>
 </context>

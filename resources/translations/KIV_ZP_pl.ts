@@ -355,6 +355,10 @@
             <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, once more</source>
+        <translation>%1, jeszcze raz</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseWindow</name>
@@ -495,10 +499,6 @@
         <translation>Pola</translation>
     </message>
     <message>
-        <source>The open order uses deleted materials:</source>
-        <translation>Otwarte zamówienie używa usuniętych materiałów:</translation>
-    </message>
-    <message>
         <source>Materials</source>
         <translation>Materiały</translation>
     </message>
@@ -637,6 +637,30 @@
     <message>
         <source>Saving</source>
         <translation>Zapisywanie</translation>
+    </message>
+    <message>
+        <source>The open order or BOM lists use materials that would be deleted:</source>
+        <translation>Otwarte zamówienie lub listy BOM używają materiałów, które zostałyby usunięte:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete them all the same</source>
+        <translation>Usuń je mimo to</translation>
+    </message>
+    <message>
+        <source>The open order or BOM lists use deleted materials:</source>
+        <translation>Otwarte zamówienie lub listy BOM używają usuniętych materiałów:</translation>
+    </message>
+    <message>
+        <source>once more</source>
+        <translation>jeszcze raz</translation>
     </message>
 </context>
 <context>
@@ -2118,6 +2142,37 @@
     </message>
 </context>
 <context>
+    <name>changedBar</name>
+    <message>
+        <source>Change of the file</source>
+        <translation>Zmiana pliku</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Porównaj</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Wczytaj ponownie</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Zachowaj moje</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ukryj</translation>
+    </message>
+    <message>
+        <source>The file was changed by another program.</source>
+        <translation>Plik został zmieniony przez inny program.</translation>
+    </message>
+    <message>
+        <source>The file is gone.</source>
+        <translation>Pliku już nie ma.</translation>
+    </message>
+</context>
+<context>
     <name>changesDialog</name>
     <message>
         <source>Changes</source>
@@ -2556,6 +2611,18 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Reads what can be read of a damaged file, writes it in the program&apos;s form, and prints what was mended or dropped.</source>
         <translation>Odczytuje z uszkodzonego pliku, co się da, zapisuje to w postaci programu i wypisuje, co naprawiono lub pominięto.</translation>
+    </message>
+    <message>
+        <source>%1 is of the kind %2, but %3 is of the kind %4</source>
+        <translation>%1 jest rodzaju %2, a %3 rodzaju %4</translation>
+    </message>
+    <message>
+        <source>Lists what two files of one kind differ in. Exit code 1 when they differ, 2 when they cannot be compared.</source>
+        <translation>Wypisuje różnice między dwoma plikami jednego rodzaju. Kod wyjścia 1, gdy się różnią, 2, gdy nie da się ich porównać.</translation>
+    </message>
+    <message>
+        <source>Print one JSON document for other programs.</source>
+        <translation>Wypisz jeden dokument JSON dla innych programów.</translation>
     </message>
 </context>
 <context>
@@ -3209,6 +3276,70 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Clear</source>
         <translation>Wyczyść</translation>
     </message>
+    <message>
+        <source>Reload it, keep what is here as a version</source>
+        <translation>Wczytaj go, a to, co jest tutaj, zachowaj jako wersję</translation>
+    </message>
+    <message>
+        <source>Save it anew</source>
+        <translation>Zapisz go na nowo</translation>
+    </message>
+    <message>
+        <source>The file %1 is gone.</source>
+        <translation>Pliku %1 już nie ma.</translation>
+    </message>
+    <message>
+        <source>Read again; what was here is kept as a version</source>
+        <translation>Wczytano ponownie; to, co było tutaj, zachowano jako wersję</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Wczytano ponownie</translation>
+    </message>
+    <message>
+        <source>Keeping a version</source>
+        <translation>Zachowywanie wersji</translation>
+    </message>
+    <message>
+        <source>What is here could not be kept as a version of %1.</source>
+        <translation>Nie udało się zachować tego, co jest tutaj, jako wersji pliku %1.</translation>
+    </message>
+    <message>
+        <source>It was opened elsewhere, too: %1.</source>
+        <translation>Otwarto go także gdzie indziej: %1.</translation>
+    </message>
+    <message>
+        <source>It was closed elsewhere: %1.</source>
+        <translation>Zamknięto go gdzie indziej: %1.</translation>
+    </message>
+    <message>
+        <source>Saving will write the file anew</source>
+        <translation>Zapisanie utworzy plik na nowo</translation>
+    </message>
+    <message>
+        <source>Saving will replace what another program wrote</source>
+        <translation>Zapisanie zastąpi to, co zapisał inny program</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Porównywanie</translation>
+    </message>
+    <message>
+        <source>What comes of both cannot be read: %1</source>
+        <translation>Wyniku scalenia nie można odczytać: %1</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Scalanie</translation>
+    </message>
+    <message>
+        <source>Both hold the same</source>
+        <translation>Obie wersje są takie same</translation>
+    </message>
+    <message>
+        <source>Merged; saving writes both changes</source>
+        <translation>Scalono; zapisanie utrwali zmiany obu stron</translation>
+    </message>
 </context>
 <context>
     <name>emailTempWindow</name>
@@ -3339,6 +3470,30 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Save the changed list of firms?</source>
         <translation>Zapisać zmienioną listę firm?</translation>
+    </message>
+    <message>
+        <source>The database %1 is gone. Firms were renamed in it.</source>
+        <translation>Bazy %1 już nie ma. Zmieniono w niej nazwy firm.</translation>
+    </message>
+    <message>
+        <source>The database %1 was changed by another program. Firms were renamed in it.</source>
+        <translation>Bazę %1 zmienił inny program. Zmieniono w niej nazwy firm.</translation>
+    </message>
+    <message>
+        <source>Save it anew</source>
+        <translation>Zapisz go na nowo</translation>
+    </message>
+    <message>
+        <source>Read it again, rename there and save it</source>
+        <translation>Wczytaj ją ponownie, zmień nazwy i zapisz</translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Zmiana nazw</translation>
+    </message>
+    <message>
+        <source>Saved, but firms are not renamed in every database</source>
+        <translation>Zapisano, ale nazw firm nie zmieniono we wszystkich bazach</translation>
     </message>
 </context>
 <context>
@@ -3879,6 +4034,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Tax number</source>
         <translation>NIP</translation>
     </message>
+    <message>
+        <source>Supplier</source>
+        <translation>Dostawca</translation>
+    </message>
 </context>
 <context>
     <name>lineSums</name>
@@ -4321,6 +4480,97 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is on the file server</source>
         <translation>%1 jest na serwerze plików</translation>
+    </message>
+    <message>
+        <source>Another material has this KTM</source>
+        <translation>Ten KTM ma już inny materiał</translation>
+    </message>
+</context>
+<context>
+    <name>mergeDialog</name>
+    <message>
+        <source>not there</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>Changes here and by another program</source>
+        <translation>Zmiany tutaj i zmiany innego programu</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Wiersz</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation>Przy otwarciu</translation>
+    </message>
+    <message>
+        <source>Mine</source>
+        <translation>Moje</translation>
+    </message>
+    <message>
+        <source>Theirs</source>
+        <translation>Tamte</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Wybór</translation>
+    </message>
+    <message>
+        <source>the whole line</source>
+        <translation>cały wiersz</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Scalanie</translation>
+    </message>
+    <message>
+        <source>Take &amp;theirs</source>
+        <translation>Weź &amp;tamte</translation>
+    </message>
+    <message>
+        <source>Take &amp;mine</source>
+        <translation>Weź &amp;moje</translation>
+    </message>
+    <message>
+        <source>In the selected rows</source>
+        <translation>W zaznaczonych wierszach</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>tamte</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>moje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s). What only one changed is taken.</source>
+        <translation>
+            <numerusform>%n różnica. To, co zmieniła tylko jedna strona, zostanie przyjęte.</numerusform>
+            <numerusform>%n różnice. To, co zmieniła tylko jedna strona, zostanie przyjęte.</numerusform>
+            <numerusform>%n różnic. To, co zmieniła tylko jedna strona, zostanie przyjęte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) changed by both: pick which to take.</source>
+        <translation>
+            <numerusform>%n wiersz zmieniły obie strony: wybierz, co przyjąć.</numerusform>
+            <numerusform>%n wiersze zmieniły obie strony: wybierz, co przyjąć.</numerusform>
+            <numerusform>%n wierszy zmieniły obie strony: wybierz, co przyjąć.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Editing is locked</source>
+        <translation>Edycja jest zablokowana</translation>
+    </message>
+    <message>
+        <source>Pick in each row marked with ? first</source>
+        <translation>Najpierw wybierz w każdym wierszu oznaczonym ?</translation>
     </message>
 </context>
 <context>
@@ -4821,6 +5071,25 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1 is no number</source>
         <translation>%1 nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>startUp</name>
+    <message>
+        <source>Changed by you, too</source>
+        <translation>Zmieniony także przez Ciebie</translation>
+    </message>
+    <message>
+        <source>The shared files are newer than your copies</source>
+        <translation>Wspólne pliki są nowsze niż Twoje kopie</translation>
+    </message>
+    <message>
+        <source>Shared file of</source>
+        <translation>Wspólny plik z</translation>
+    </message>
+    <message>
+        <source>Your copy</source>
+        <translation>Twoja kopia</translation>
     </message>
 </context>
 <context>

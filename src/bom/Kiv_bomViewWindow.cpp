@@ -8,6 +8,7 @@
 #include "order/addMaterialDialog.h"
 #include "tree/myTreeView.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
 #include "window/searchLine.h"
 
 #include <QDir>
@@ -86,8 +87,8 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name :
-         {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp", "moveDown", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp",
+                             "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
     m_view->setFont(files.config().font());
@@ -98,6 +99,22 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     resize(usualSize);
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_bomViewWindow::itemTreeClicked);
+}
+
+std::unique_ptr<command> Kiv_bomViewWindow::become(documentStruct &wanted)
+{
+    // A line is written in its short form.
+    const auto content = [](const materialStruct &line) {
+        QByteArray all;
+        for (const auto &field : materialStruct::shortFields())
+            all += (line.*field.member).toUtf8() + '\0';
+        return all;
+    };
+    std::vector<std::unique_ptr<command>> members;
+    becomeList::change<materialStruct>(
+        model(), *m_rows, m_bom->materials,
+        std::move(static_cast<kiv_mat_bomStruct &>(wanted).materials), members, content);
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
 }
 
 bool Kiv_bomViewWindow::load()
@@ -151,8 +168,7 @@ void Kiv_bomViewWindow::updateActions()
                       !m_view->markedCells().isEmpty(), noLine);
     allowWhenUnlocked({"pasteLines"});
     allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
-                      m_view->markedRows().size() > 1 ? tr("several lines are selected")
-                                                        : noLine);
+                      m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);

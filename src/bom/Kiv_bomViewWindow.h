@@ -44,6 +44,8 @@ public slots:
 protected:
     QString filePath() const override { return m_path; }
     QString title() const override;
+    documentStruct *record() override { return m_bom.get(); }
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     QString fault() const override { return m_fault; }

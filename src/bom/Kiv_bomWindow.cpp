@@ -8,6 +8,7 @@
 #include "tree/myTreeView.h"
 #include "util/labels.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -158,6 +159,14 @@ void Kiv_bomWindow::changeEvent(QEvent *event)
 QString Kiv_bomWindow::filePath() const { return known().boms().filePath; }
 
 fileState &Kiv_bomWindow::onDisk() { return known().fileOfBoms(); }
+
+documentStruct *Kiv_bomWindow::record() { return &known().boms(); }
+
+void Kiv_bomWindow::forgetSaved()
+{
+    editWindow::forgetSaved();
+    m_saved.clear();
+}
 
 // A set that could not be read is not written over.
 QString Kiv_bomWindow::fault() const
@@ -412,6 +421,49 @@ void Kiv_bomWindow::commandDelete(bool)
 // ---------------------------------------------------------------------------------------
 
 // What the program works with is what the file holds; the numbers of sets stay.
+// Of the categories that differ; the numbers of sets go with the names of the files.
+std::unique_ptr<command> Kiv_bomWindow::become(documentStruct &wanted)
+{
+    auto &theirs = static_cast<kiv_mat_bomsStruct &>(wanted).categories;
+    QHash<QString, int> sets;
+    for (const QStandardItem *file : bomTree::allFiles(model()))
+        sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
+    const auto &mine = known().boms().categories;
+    const auto isLike = [&](size_t i, size_t j) {
+        return becomeList::contentOf(*mine[i]) == becomeList::contentOf(*theirs[j]);
+    };
+    size_t head = 0;
+    while (head < mine.size() && head < theirs.size() && isLike(head, head))
+        ++head;
+    size_t tail = 0;
+    while (head + tail < mine.size() && head + tail < theirs.size()
+           && isLike(mine.size() - 1 - tail, theirs.size() - 1 - tail))
+        ++tail;
+    std::vector<std::unique_ptr<command>> members;
+    for (size_t row = mine.size() - tail; row-- > head;)
+        members.push_back(std::make_unique<deleteMaterial>(model(), model()->index(int(row), 0)));
+    const auto add = [&](QStandardItem *parent, const myItem::row &row, int at) {
+        members.push_back(std::make_unique<appendItems>(parent, row, at));
+        return row.first();
+    };
+    for (size_t at = head; at + tail < theirs.size(); ++at) {
+        auto groups = std::exchange(theirs[at]->items, {});
+        auto *category =
+            add(model()->invisibleRootItem(), m_rows->makeRow(std::move(theirs[at])), int(at));
+        for (auto &group : groups) {
+            auto files = std::exchange(group->items, {});
+            auto *below = add(category, m_rows->makeRow(std::move(group)), category->rowCount());
+            for (auto &file : files) {
+                const int number = sets.value(file->name);
+                const auto *first = add(below, m_rows->makeRow(std::move(file)), below->rowCount());
+                members.push_back(
+                    std::make_unique<changeValue>(model(), bomTree::setsCell(first), number));
+            }
+        }
+    }
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
+}
+
 bool Kiv_bomWindow::load()
 {
     QHash<QString, int> sets;

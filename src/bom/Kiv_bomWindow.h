@@ -62,6 +62,8 @@ signals:
 protected:
     QString filePath() const override;
     QString title() const override { return tr("Bill of materials"); }
+    documentStruct *record() override;
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     // The numbers of sets outlive the window's closing, and so does their history.
     void begin() override { setUnlocked(true); }
@@ -70,6 +72,7 @@ protected:
     bool write(const QString &path) override;
     void saved() override;
     fileState &onDisk() override;
+    void forgetSaved() override;
     QString fault() const override;
     QString closeQuestion() const override { return tr("Save the changed set of BOM lists?"); }
     void updateActions() override;

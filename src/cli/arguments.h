@@ -67,6 +67,10 @@ std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path);
 // is wrong; false when the file was refused.
 bool readFile(const QString &path, documentStruct *record, const QString &isNot);
 
+// Reads a file of whatever kind, valid or not. Prints what is wrong and returns null when it
+// cannot.
+std::unique_ptr<documentStruct> readAny(const QString &path);
+
 // Prints "command: fault" to standard error and returns the code for a wrong call.
 int refuseCall(const subcommand &command, const QString &fault);
 
@@ -109,6 +113,7 @@ extern const subcommand validateCommand;
 extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
 extern const subcommand repairCommand;
+extern const subcommand diffCommand;
 extern const subcommand reportCommand;
 extern const subcommand findCommand;
 extern const subcommand checkMaterialsCommand;

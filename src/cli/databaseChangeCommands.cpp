@@ -131,10 +131,16 @@ int runMoveCpv(const QStringList &arguments)
     return saveTo(options.value(output), *database);
 }
 
-// new, changed or absent, KTM and name; below a changed one its fields with both values.
+// What differs, KTM and name; below a changed or repeated one its fields with both values, and its
+// groups when it moved. A group stands in its name's place.
 void printDifference(const materialDifference &difference)
 {
-    static const char *const words[] = {"new", "changed", "absent"};
+    static const char *const words[] = {"new", "changed", "absent", "repeated", "group"};
+    if (difference.kind == materialDifference::groupCpv) {
+        out() << words[difference.kind] << "\t\t" << difference.myGroup->name << "\n\tcpv\t"
+              << difference.myGroup->cpv << '\t' << difference.otherGroup->cpv << '\n';
+        return;
+    }
     const materialStruct &shown = difference.other ? *difference.other : *difference.mine;
     out() << words[difference.kind] << '\t' << shown.d_ktm << '\t' << shown.d_name << '\n';
     for (int index : difference.fields) {
@@ -145,6 +151,9 @@ void printDifference(const materialDifference &difference)
         out() << '\t' << field.name << '\t' << oneLine(*difference.mine) << '\t'
               << oneLine(*difference.other) << '\n';
     }
+    if (difference.moved)
+        out() << "\tgroup\t" << difference.myGroup->name << '\t' << difference.otherGroup->name
+              << '\n';
 }
 
 int runMerge(const QStringList &arguments)
@@ -184,6 +193,11 @@ int runMerge(const QStringList &arguments)
     for (const materialDifference &difference : differences)
         printDifference(difference);
     out() << Qt::flush;
+    // Which one of a KTM's materials is meant, nobody can tell.
+    if (!options.isSet(update))
+        std::erase_if(differences, [](const materialDifference &difference) {
+            return difference.kind == materialDifference::repeated;
+        });
     carryOut(differences, options.isSet(update) ? absentOnes::remove : absentOnes::keep,
              mine.get());
     return saveTo(options.value(output), *mine);

@@ -1,6 +1,7 @@
 // duplicates, empty, check-urls and db-report: what a material database holds and lacks; and
 // check-nip for the firm register.
 #include "cli/arguments.h"
+#include "cli/jsonOutput.h"
 
 #include "data/kiv_mat_firmStruct.h"
 #include "data/loaders.h"
@@ -10,6 +11,7 @@
 #include "firm/firmChecks.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
 
 namespace cli {
 
@@ -79,7 +81,8 @@ int runCheckUrls(const QStringList &arguments)
         QStringLiteral("progress"),
         QCoreApplication::translate("cli", "Tell on standard error how many links are checked."));
     options.addOption(output);
-    options.addOption(showProgress);
+    const QCommandLineOption json = jsonOption();
+    options.addOptions({showProgress, json});
     if (!options.accept(arguments))
         return options.code();
     const auto database = readDatabase(options.positionalArguments().at(0));
@@ -88,11 +91,19 @@ int runCheckUrls(const QStringList &arguments)
     const linkCheckResult checked =
         checkUrls(*database, options.isSet(showProgress) ? tellProgress : progressFunction());
     bool allAnswer = true;
+    QJsonArray links;
     for (const checkedLink &link : checked.links) {
-        if (!link.answers)
+        if (options.isSet(json))
+            links.append(QJsonObject{{QStringLiteral("ktm"), link.material->d_ktm},
+                                     {QStringLiteral("name"), link.material->d_name},
+                                     {QStringLiteral("link"), link.link},
+                                     {QStringLiteral("answers"), link.answers}});
+        else if (!link.answers)
             out() << "[Error] " << link.link << '\n';
         allAnswer = allAnswer && link.answers;
     }
+    if (options.isSet(json))
+        printJson({{QStringLiteral("links"), links}});
     out() << Qt::flush;
     if (options.isSet(output)) {
         const exportResult saved = exportLinks(checked, options.value(output));
@@ -119,14 +130,24 @@ bool readFirms(const QString &path, kiv_mat_firmStruct *firms)
 int runCheckNip(const QStringList &arguments)
 {
     parser options(checkNipCommand, QStringLiteral("FIRMS"), 1, 1);
+    const QCommandLineOption json = jsonOption();
+    options.addOption(json);
     if (!options.accept(arguments))
         return options.code();
     kiv_mat_firmStruct firms;
     if (!readFirms(options.positionalArguments().at(0), &firms))
         return refused;
     const std::vector<const firmStruct *> wrong = firmsWithWrongTaxNumber(firms);
-    for (const firmStruct *firm : wrong)
-        out() << firm->name << '\t' << firm->nip << '\n';
+    if (options.isSet(json)) {
+        QJsonArray found;
+        for (const firmStruct *firm : wrong)
+            found.append(QJsonObject{{QStringLiteral("name"), firm->name},
+                                     {QStringLiteral("nip"), firm->nip}});
+        printJson({{QStringLiteral("firms"), found}});
+    } else {
+        for (const firmStruct *firm : wrong)
+            out() << firm->name << '\t' << firm->nip << '\n';
+    }
     out() << Qt::flush;
     return wrong.empty() ? done : refused;
 }

@@ -1,5 +1,6 @@
 // validate, info and resave: what kivzp-cli does with any file of the program.
 #include "cli/arguments.h"
+#include "cli/jsonOutput.h"
 
 #include "data/configStruct.h"
 #include "data/kiv_UpdateStruct.h"
@@ -22,19 +23,28 @@ namespace cli {
 
 namespace {
 
-// One line of what info prints: a name that scripts can rely on, untranslated, and a value.
-using fact = std::pair<const char *, QString>;
+// One line of what info prints: a name that scripts can rely on, untranslated, and a value as text
+// and for JSON.
+struct fact
+{
+    const char *name;
+    QString text;
+    QJsonValue value = text;
+};
 
-QString count(size_t number) { return QString::number(number); }
+fact count(const char *name, size_t number)
+{
+    return {name, QString::number(number), qint64(number)};
+}
 
 QList<fact> factsOf(const documentStruct &document)
 {
     if (const auto *order = dynamic_cast<const kiv_mat_zpStruct *>(&document)) {
         const lineSums sums = sumsOf(*order);
-        QList<fact> facts{{"options", count(order->options.items.size())},
-                          {"lines", count(order->orderItems.items.size())}};
+        QList<fact> facts{count("options", order->options.items.size()),
+                          count("lines", order->orderItems.items.size())};
         const auto add = [&facts](const char *name, const char *leftOutName, const lineSum &sum) {
-            facts.append({name, sum.amount.money()});
+            facts.append({name, sum.amount.money(), numberOrText(sum.amount.money())});
             const QString leftOut = sum.leftOutText();
             if (!leftOut.isEmpty())
                 facts.append({leftOutName, leftOut});
@@ -46,20 +56,20 @@ QList<fact> factsOf(const documentStruct &document)
     if (const auto *database = dynamic_cast<const kiv_mat_databaseStruct *>(&document)) {
         ktmIndex index;
         index.add(const_cast<kiv_mat_databaseStruct *>(database));
-        return {{"groups", count(database->groups.size())},
-                {"materials", count(size_t(database->materialCount()))},
-                {"ktms", count(size_t(index.size()))},
-                {"duplicates", count(size_t(index.duplicateCount()))}};
+        return {count("groups", database->groups.size()),
+                count("materials", size_t(database->materialCount())),
+                count("ktms", size_t(index.size())),
+                count("duplicates", size_t(index.duplicateCount()))};
     }
     if (const auto *firm = dynamic_cast<const kiv_mat_firmStruct *>(&document))
-        return {{"manufacturers", count(firm->manufacturers.items.size())},
-                {"suppliers", count(firm->suppliers.items.size())}};
+        return {count("manufacturers", firm->manufacturers.items.size()),
+                count("suppliers", firm->suppliers.items.size())};
     if (const auto *config = dynamic_cast<const configStruct *>(&document))
-        return {{"options", count(config->options.items.size())},
-                {"persons", count(config->persons.items.size())},
-                {"targets", count(config->targets.items.size())}};
+        return {count("options", config->options.items.size()),
+                count("persons", config->persons.items.size()),
+                count("targets", config->targets.items.size())};
     if (const auto *bom = dynamic_cast<const kiv_mat_bomStruct *>(&document))
-        return {{"lines", count(bom->materials.size())}};
+        return {count("lines", bom->materials.size())};
     if (const auto *boms = dynamic_cast<const kiv_mat_bomsStruct *>(&document)) {
         size_t groups = 0;
         size_t files = 0;
@@ -68,36 +78,14 @@ QList<fact> factsOf(const documentStruct &document)
             for (const auto &group : category->items)
                 files += group->items.size();
         }
-        return {{"categories", count(boms->categories.size())},
-                {"groups", count(groups)},
-                {"files", count(files)}};
+        return {count("categories", boms->categories.size()), count("groups", groups),
+                count("files", files)};
     }
     if (const auto *info = dynamic_cast<const kiv_infoStruct *>(&document))
         return {{"version", info->kivVersion}, {"build", info->kivBuild}};
     if (const auto *update = dynamic_cast<const kiv_UpdateStruct *>(&document))
-        return {{"commands", count(update->commands.size())}};
+        return {count("commands", update->commands.size())};
     return {};
-}
-
-// Reads a file of whatever kind; prints what is wrong and returns null when it cannot.
-std::unique_ptr<documentStruct> read(const QString &path)
-{
-    const fileKinds::fileHead head = fileKinds::headOf(path);
-    if (!head.kind) {
-        err() << path << ": " << head.fault << '\n' << Qt::flush;
-        return nullptr;
-    }
-    auto document = newDocument(*head.kind);
-    QString error;
-    if (loadDocument(path, document.get(), &error) == 0)
-        return document;
-    const QString schema = paths::schema(head.schema);
-    if (error.isEmpty() && !schemaLoads(schema))
-        error = QCoreApplication::translate("cli", "The schema %1 cannot be loaded").arg(schema);
-    // The configuration's schema errors have been shown already.
-    if (!error.isEmpty())
-        err() << path << ": " << error << '\n' << Qt::flush;
-    return nullptr;
 }
 
 int runValidate(const QStringList &arguments)
@@ -122,18 +110,29 @@ int runInfo(const QStringList &arguments)
     const QCommandLineOption validate(
         QStringLiteral("validate"),
         QCoreApplication::translate("cli", "Check the file against its schema first."));
-    options.addOption(validate);
+    const QCommandLineOption json = jsonOption();
+    options.addOptions({validate, json});
     if (!options.accept(arguments))
         return options.code();
     const QString path = options.positionalArguments().at(0);
     if (options.isSet(validate) && !validateFile(path))
         return refused;
-    const auto document = read(path);
+    const auto document = readAny(path);
     if (!document)
         return refused;
+    const QList<fact> facts = factsOf(*document);
+    if (options.isSet(json)) {
+        QJsonObject answer{{QStringLiteral("file"), path},
+                           {QStringLiteral("kind"), document->kind().root},
+                           {QStringLiteral("format"), document->xsiType}};
+        for (const fact &f : facts)
+            answer.insert(QLatin1String(f.name), f.value);
+        printJson(answer);
+        return done;
+    }
     out() << "kind: " << document->kind().root << '\n' << "version: " << document->xsiType << '\n';
-    for (const fact &f : factsOf(*document))
-        out() << f.first << ": " << f.second << '\n';
+    for (const fact &f : facts)
+        out() << f.name << ": " << f.text << '\n';
     out() << Qt::flush;
     return done;
 }
@@ -147,7 +146,7 @@ int runResave(const QStringList &arguments)
     options.addOption(force);
     if (!options.accept(arguments))
         return options.code();
-    const auto document = read(options.positionalArguments().at(0));
+    const auto document = readAny(options.positionalArguments().at(0));
     if (!document)
         return refused;
     const QString target = options.positionalArguments().at(1);
@@ -194,6 +193,26 @@ int runRepair(const QStringList &arguments)
 }
 
 } // namespace
+
+std::unique_ptr<documentStruct> readAny(const QString &path)
+{
+    const fileKinds::fileHead head = fileKinds::headOf(path);
+    if (!head.kind) {
+        err() << path << ": " << head.fault << '\n' << Qt::flush;
+        return nullptr;
+    }
+    auto document = newDocument(*head.kind);
+    QString error;
+    if (loadDocument(path, document.get(), &error) == 0)
+        return document;
+    const QString schema = paths::schema(head.schema);
+    if (error.isEmpty() && !schemaLoads(schema))
+        error = QCoreApplication::translate("cli", "The schema %1 cannot be loaded").arg(schema);
+    // The configuration's schema errors have been shown already.
+    if (!error.isEmpty())
+        err() << path << ": " << error << '\n' << Qt::flush;
+    return nullptr;
+}
 
 const subcommand validateCommand{
     "validate", QT_TRANSLATE_NOOP("cli", "Checks files against their schemas."), runValidate};

@@ -1,15 +1,51 @@
 // find: searches the materials of databases.
 #include "cli/arguments.h"
+#include "cli/jsonOutput.h"
 
 #include "data/materialSearch.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
 
 namespace cli {
 
 namespace {
 
 constexpr int shownAtMost = 200;
+
+void printFound(const materialSearch::result &found)
+{
+    for (const materialSearch::entry &entry : found.entries) {
+        const materialStruct &m = *entry.material;
+        QStringList cells{m.d_ktm,         m.d_name, m.d_description, m.d_value,           m.d_case,
+                          m.d_inWarehouse, m.d_unit, m.d_price,       m.information.status};
+        // Tabs and line ends would break the columns.
+        for (QString &cell : cells)
+            cell = cell.simplified();
+        out() << cells.join(QLatin1Char('\t')) << '\n';
+    }
+    out() << Qt::flush;
+}
+
+void printFoundJson(const materialSearch::result &found)
+{
+    QJsonArray materials;
+    for (const materialSearch::entry &entry : found.entries) {
+        const materialStruct &m = *entry.material;
+        materials.append(
+            QJsonObject{{QStringLiteral("ktm"), m.d_ktm},
+                        {QStringLiteral("name"), m.d_name},
+                        {QStringLiteral("group"), entry.group->name},
+                        {QStringLiteral("description"), m.d_description},
+                        {QStringLiteral("value"), m.d_value},
+                        {QStringLiteral("case"), m.d_case},
+                        {QStringLiteral("in_warehouse"), numberOrText(m.d_inWarehouse)},
+                        {QStringLiteral("unit"), m.d_unit},
+                        {QStringLiteral("price"), numberOrText(m.d_price)},
+                        {QStringLiteral("status"), m.information.status}});
+    }
+    printJson({{QStringLiteral("total"), found.total}, {QStringLiteral("materials"), materials}});
+}
 
 int runFind(const QStringList &arguments)
 {
@@ -24,7 +60,8 @@ int runFind(const QStringList &arguments)
         QCoreApplication::translate("cli", "How many materials to print at most (0: all)."),
         QStringLiteral("N"), QString::number(shownAtMost));
     options.addOption(database);
-    options.addOption(number);
+    const QCommandLineOption json = jsonOption();
+    options.addOptions({number, json});
     if (!options.accept(arguments))
         return options.code();
     const auto refuse = [](const QString &fault) {
@@ -52,16 +89,10 @@ int runFind(const QStringList &arguments)
     for (const auto &loaded : databases.all())
         search.add(loaded.get());
     const materialSearch::result found = search.find(query, limit);
-    for (const materialSearch::entry &entry : found.entries) {
-        const materialStruct &m = *entry.material;
-        QStringList cells{m.d_ktm,         m.d_name, m.d_description, m.d_value,           m.d_case,
-                          m.d_inWarehouse, m.d_unit, m.d_price,       m.information.status};
-        // Tabs and line ends would break the columns.
-        for (QString &cell : cells)
-            cell = cell.simplified();
-        out() << cells.join(QLatin1Char('\t')) << '\n';
-    }
-    out() << Qt::flush;
+    if (options.isSet(json))
+        printFoundJson(found);
+    else
+        printFound(found);
     if (found.total == 0) {
         err() << QCoreApplication::translate("cli", "nothing found") << '\n' << Qt::flush;
         return refused;

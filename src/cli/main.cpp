@@ -10,16 +10,16 @@ namespace {
 const QList<const cli::subcommand *> &commands()
 {
     static const QList<const cli::subcommand *> table{
-        &cli::validateCommand,     &cli::reportCommand,      &cli::findCommand,
-        &cli::infoCommand,         &cli::resaveCommand,      &cli::repairCommand,
-        &cli::altiumCommand,       &cli::groupsCommand,      &cli::duplicatesCommand,
-        &cli::emptyCommand,        &cli::checkUrlsCommand,   &cli::dbReportCommand,
-        &cli::parseListingCommand, &cli::mergeCommand,       &cli::loadCpvCommand,
-        &cli::moveCpvCommand,      &cli::checkNipCommand,    &cli::checkMaterialsCommand,
-        &cli::firmUsesCommand,     &cli::bomCsvCommand,      &cli::bomReportCommand,
-        &cli::bomOrderCommand,     &cli::bomShortageCommand, &cli::mailCommand,
-        &cli::helpersCommand,      &cli::downloadCommand,    &cli::packCommand,
-        &cli::unpackCommand,
+        &cli::validateCommand,       &cli::reportCommand,       &cli::findCommand,
+        &cli::infoCommand,           &cli::resaveCommand,       &cli::repairCommand,
+        &cli::diffCommand,           &cli::altiumCommand,       &cli::groupsCommand,
+        &cli::duplicatesCommand,     &cli::emptyCommand,        &cli::checkUrlsCommand,
+        &cli::dbReportCommand,       &cli::parseListingCommand, &cli::mergeCommand,
+        &cli::loadCpvCommand,        &cli::moveCpvCommand,      &cli::checkNipCommand,
+        &cli::checkMaterialsCommand, &cli::firmUsesCommand,     &cli::bomCsvCommand,
+        &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
+        &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
+        &cli::packCommand,           &cli::unpackCommand,
     };
     return table;
 }

@@ -11,6 +11,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "window/becomeList.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -191,6 +192,18 @@ QString configWindow::forbidden(QLatin1String option) const
         .arg(option)
         .arg(configOperations::lineOf(option, filePath()))
         .arg(QDir::toNativeSeparators(filePath()));
+}
+
+std::unique_ptr<command> configWindow::become(documentStruct &wanted)
+{
+    auto &config = static_cast<configStruct &>(wanted);
+    std::vector<std::unique_ptr<command>> members;
+    becomeList::changeOptions(options(), config.options, members);
+    becomeList::change(modelOf(m_views[personsPage]), *m_personRows, m_edited->persons.items,
+                       std::move(config.persons.items), members);
+    becomeList::change(modelOf(m_views[targetsPage]), *m_targetRows, m_edited->targets.items,
+                       std::move(config.targets.items), members);
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
 }
 
 bool configWindow::load()

@@ -30,6 +30,8 @@ signals:
 protected:
     QString filePath() const override;
     QString title() const override { return tr("Configuration"); }
+    documentStruct *record() override { return m_edited.get(); }
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     void saved() override;

@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 fileState fileState::of(const QString &path)
 {
@@ -32,14 +33,17 @@ QString &lastVersionFault()
 
 QString versionFault() { return lastVersionFault(); }
 
-bool keepVersion(const QString &path, configStruct &config)
+namespace {
+
+bool keepIn(const QString &path, const QString &content, configStruct &config)
 {
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QStringList folders = config.backupFolders();
     bool kept = false;
     for (const QString &folder : folders)
-        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount) || kept;
+        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount, content)
+               || kept;
     lastVersionFault().clear();
     if (kept)
         return true;
@@ -49,6 +53,33 @@ bool keepVersion(const QString &path, configStruct &config)
     lastVersionFault() =
         QCoreApplication::translate("data", "no earlier version could be kept in %1").arg(places);
     return false;
+}
+
+void run(const workShown &shown, const std::function<void(const progressFunction &)> &work)
+{
+    if (shown)
+        shown(work);
+    else
+        work({});
+}
+
+} // namespace
+
+bool keepVersion(const QString &path, configStruct &config) { return keepIn(path, {}, config); }
+
+bool keepDocument(const QString &path, const documentStruct &document, configStruct &config,
+                  const workShown &shown)
+{
+    const QTemporaryDir folder(scratch::pattern());
+    const QString content = folder.filePath(text::fileNameOfPath(path));
+    bool written = false;
+    run(shown, [&](const progressFunction &progress) {
+        written = saveXmlNoEvents(content, &document, nullptr, progress, saveRule::whatever) >= 0;
+    });
+    // As secret as the file is.
+    QFile::setPermissions(content, QFileInfo::exists(path) ? QFile::permissions(path)
+                                                           : QFile::ReadOwner | QFile::WriteOwner);
+    return written && keepIn(path, content, config);
 }
 
 bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
@@ -70,17 +101,13 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
     bool written = false;
     bool cancelled = false;
     QString reason;
-    const auto write = [&](const progressFunction &progress) {
+    run(shown, [&](const progressFunction &progress) {
         const auto watched = [&](long long done, long long total) {
             cancelled = progress && !progress(done, total);
             return !cancelled;
         };
         written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
-    };
-    if (shown)
-        shown(write);
-    else
-        write({});
+    });
     if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
                                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped())

@@ -26,6 +26,10 @@ using workShown = std::function<void(const std::function<void(const progressFunc
 // was nothing to keep or it is kept in at least one of the configuration's folders; else the log
 // says so, and versionFault() does until the next file is saved.
 bool keepVersion(const QString &path, configStruct &config);
+// Keeps a document as it is now, saved or not, among the earlier versions of the file. The same
+// results; false also when it cannot be written or the user cancelled that.
+bool keepDocument(const QString &path, const documentStruct &document, configStruct &config,
+                  const workShown &shown = {});
 // What to tell beside "Saved": that no earlier version was kept, and where; empty when one was.
 QString versionFault();
 

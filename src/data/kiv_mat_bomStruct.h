@@ -7,6 +7,7 @@ class kiv_mat_bomStruct : public documentStruct
 {
 public:
     kiv_mat_bomStruct();
+    static const fieldTable<kiv_mat_bomStruct> &fields();
 
     QString update;
     // One per line; the full reader of materials fills them, only the short form is written.

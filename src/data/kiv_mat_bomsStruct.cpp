@@ -21,6 +21,15 @@ const fieldTable<fileCategory> &fileCategory::fields()
     return table;
 }
 
+const fieldTable<kiv_mat_bomsStruct> &kiv_mat_bomsStruct::fields()
+{
+    static const fieldTable<kiv_mat_bomsStruct> table{
+        {QStringLiteral("update"), &kiv_mat_bomsStruct::update},
+        {QStringLiteral("server_release"), &kiv_mat_bomsStruct::serverRelease},
+    };
+    return table;
+}
+
 kiv_mat_bomsStruct::kiv_mat_bomsStruct()
     : documentStruct(fileKinds::boms)
 {
@@ -28,29 +37,22 @@ kiv_mat_bomsStruct::kiv_mat_bomsStruct()
 
 tagHandlerList kiv_mat_bomsStruct::tagHandlers()
 {
-    static const std::vector<QString> tags{QStringLiteral("update"),
-                                           QStringLiteral("server_release"), fileCategory::element};
+    static const std::vector<QString> tags = tagsOf(fields(), {fileCategory::element});
     return {&tags, this};
 }
 
 int kiv_mat_bomsStruct::readXml(QXmlStreamReader *reader)
 {
-    if (reader->name() == QLatin1String("update")) {
-        update = readText(reader);
-    } else if (reader->name() == QLatin1String("server_release")) {
-        serverRelease = readText(reader);
-    } else if (reader->name() == fileCategory::element) {
+    if (reader->name() == fileCategory::element)
         readAppended(reader, categories);
-    } else {
+    else if (!readField(reader, *this, fields(), 0))
         reader->readNext();
-    }
     return 1;
 }
 
 int kiv_mat_bomsStruct::writeContent(QXmlStreamWriter *writer) const
 {
-    writer->writeTextElement(QStringLiteral("update"), update);
-    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    writeFields(writer, *this, fields());
     writer->writeComment(QStringLiteral(" "));
     return writeAll(writer, categories);
 }

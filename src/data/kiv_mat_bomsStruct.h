@@ -28,6 +28,7 @@ class kiv_mat_bomsStruct : public documentStruct
 {
 public:
     kiv_mat_bomsStruct();
+    static const fieldTable<kiv_mat_bomsStruct> &fields();
 
     QString update;
     QString serverRelease;

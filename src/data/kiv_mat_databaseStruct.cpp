@@ -35,6 +35,18 @@ const fieldTable<materialStruct> &materialStruct::fields()
     return table;
 }
 
+const fieldTable<materialStruct> &materialStruct::shortFields()
+{
+    using material = materialStruct;
+    static const fieldTable<material> table{
+        {QStringLiteral("d_ktm"), &material::d_ktm, labels::ktm},
+        {QStringLiteral("d_name"), &material::d_name, labels::name},
+        {QStringLiteral("d_quantity"), &material::d_quantity, labels::quantity},
+        {QStringLiteral("d_designator"), &material::d_designator, labels::designator},
+    };
+    return table;
+}
+
 tagHandlerList materialStruct::tagHandlers()
 {
     static const std::vector<QString> tags =
@@ -84,10 +96,7 @@ int materialStruct::writeXml(QXmlStreamWriter *writer) const
 int materialStruct::writeShortXml(QXmlStreamWriter *writer) const
 {
     writer->writeStartElement(element);
-    writer->writeTextElement(QStringLiteral("d_ktm"), d_ktm);
-    writer->writeTextElement(QStringLiteral("d_name"), d_name);
-    writer->writeTextElement(QStringLiteral("d_quantity"), d_quantity);
-    writer->writeTextElement(QStringLiteral("d_designator"), d_designator);
+    writeFields(writer, *this, shortFields());
     writer->writeEndElement();
     return 0;
 }
@@ -128,6 +137,15 @@ const fieldTable<d_groupStruct> &d_groupStruct::readOnlyFields()
     return table;
 }
 
+const fieldTable<kiv_mat_databaseStruct> &kiv_mat_databaseStruct::fields()
+{
+    static const fieldTable<kiv_mat_databaseStruct> table{
+        {QStringLiteral("update"), &kiv_mat_databaseStruct::update},
+        {QStringLiteral("server_release"), &kiv_mat_databaseStruct::serverRelease},
+    };
+    return table;
+}
+
 kiv_mat_databaseStruct::kiv_mat_databaseStruct()
     : documentStruct(fileKinds::database)
 {
@@ -143,29 +161,22 @@ int kiv_mat_databaseStruct::materialCount() const
 
 tagHandlerList kiv_mat_databaseStruct::tagHandlers()
 {
-    static const std::vector<QString> tags{
-        QStringLiteral("update"), QStringLiteral("server_release"), d_groupStruct::element};
+    static const std::vector<QString> tags = tagsOf(fields(), {d_groupStruct::element});
     return {&tags, this};
 }
 
 int kiv_mat_databaseStruct::readXml(QXmlStreamReader *reader)
 {
-    if (reader->name() == QLatin1String("update")) {
-        update = readText(reader);
-    } else if (reader->name() == QLatin1String("server_release")) {
-        serverRelease = readText(reader);
-    } else if (reader->name() == d_groupStruct::element) {
+    if (reader->name() == d_groupStruct::element)
         readAppended(reader, groups);
-    } else {
+    else if (!readField(reader, *this, fields(), 0))
         reader->readNext();
-    }
     return 1;
 }
 
 int kiv_mat_databaseStruct::writeContent(QXmlStreamWriter *writer) const
 {
-    writer->writeTextElement(QStringLiteral("update"), update);
-    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    writeFields(writer, *this, fields());
     writer->writeComment(QStringLiteral(" "));
     int result = 0;
     for (const auto &group : groups) {

@@ -10,6 +10,7 @@ class materialStruct : public xmlData
 public:
     static inline const QString element = QStringLiteral("material");
     static const fieldTable<materialStruct> &fields();
+    static const fieldTable<materialStruct> &shortFields(); // of a BOM line
 
     QString d_ktm; // the material's key
     QString d_cpv;
@@ -47,7 +48,7 @@ public:
     int readTag(QXmlStreamReader *reader, size_t place) override;
     int writeXml(QXmlStreamWriter *writer) const override;
 
-    // The form of a BOM line: KTM, name, quantity and designator only.
+    // The form of a BOM line: its short fields only.
     int writeShortXml(QXmlStreamWriter *writer) const;
 
     // A material of its own with the same content.
@@ -73,6 +74,7 @@ class kiv_mat_databaseStruct : public documentStruct
 {
 public:
     kiv_mat_databaseStruct();
+    static const fieldTable<kiv_mat_databaseStruct> &fields();
 
     QString update;        // date of the last change, free text
     QString serverRelease; // release number on the server

@@ -16,6 +16,14 @@ const fieldTable<firmStruct> &firmStruct::fields()
     return table;
 }
 
+const fieldTable<kiv_mat_firmStruct> &kiv_mat_firmStruct::fields()
+{
+    static const fieldTable<kiv_mat_firmStruct> table{
+        {QStringLiteral("server_release"), &kiv_mat_firmStruct::serverRelease},
+    };
+    return table;
+}
+
 kiv_mat_firmStruct::kiv_mat_firmStruct()
     : documentStruct(fileKinds::firm)
 {
@@ -23,9 +31,8 @@ kiv_mat_firmStruct::kiv_mat_firmStruct()
 
 tagHandlerList kiv_mat_firmStruct::tagHandlers()
 {
-    static const std::vector<QString> tags{QStringLiteral("server_release"),
-                                           firmSuppliersStruct::element,
-                                           firmManufacturersStruct::element};
+    static const std::vector<QString> tags =
+        tagsOf(fields(), {firmSuppliersStruct::element, firmManufacturersStruct::element});
     return {&tags, this};
 }
 
@@ -35,16 +42,14 @@ int kiv_mat_firmStruct::readXml(QXmlStreamReader *reader)
         manufacturers.readElement(reader);
     else if (reader->name() == firmSuppliersStruct::element)
         suppliers.readElement(reader);
-    else if (reader->name() == QLatin1String("server_release"))
-        serverRelease = readText(reader);
-    else
+    else if (!readField(reader, *this, fields(), 0))
         reader->readNext();
     return 1;
 }
 
 int kiv_mat_firmStruct::writeContent(QXmlStreamWriter *writer) const
 {
-    writer->writeTextElement(QStringLiteral("server_release"), serverRelease);
+    writeFields(writer, *this, fields());
     const int result = manufacturers.writeXml(writer);
     return result < 0 ? result : suppliers.writeXml(writer);
 }

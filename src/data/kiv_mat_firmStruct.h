@@ -36,6 +36,7 @@ class kiv_mat_firmStruct : public documentStruct
 {
 public:
     kiv_mat_firmStruct();
+    static const fieldTable<kiv_mat_firmStruct> &fields();
 
     firmManufacturersStruct manufacturers;
     firmSuppliersStruct suppliers;

@@ -31,6 +31,14 @@ const fieldTable<orderItemStruct> &orderItemStruct::fields()
     return table;
 }
 
+const fieldTable<kiv_mat_zpStruct> &kiv_mat_zpStruct::fields()
+{
+    static const fieldTable<kiv_mat_zpStruct> table{
+        {QStringLiteral("attentions"), &kiv_mat_zpStruct::attentions, labels::attentions},
+    };
+    return table;
+}
+
 kiv_mat_zpStruct::kiv_mat_zpStruct()
     : documentStruct(fileKinds::order)
 {
@@ -74,8 +82,8 @@ void kiv_mat_zpStruct::initialise(const configStruct &config)
 
 tagHandlerList kiv_mat_zpStruct::tagHandlers()
 {
-    static const std::vector<QString> tags{optionsStruct::element, orderItemsStruct::element,
-                                           QStringLiteral("attentions")};
+    static const std::vector<QString> tags =
+        tagsOf(fields(), {optionsStruct::element, orderItemsStruct::element});
     return {&tags, this};
 }
 
@@ -87,9 +95,7 @@ int kiv_mat_zpStruct::readXml(QXmlStreamReader *reader)
         options.readElement(reader);
     } else if (reader->name() == orderItemsStruct::element) {
         orderItems.readElement(reader);
-    } else if (reader->name() == QLatin1String("attentions")) {
-        attentions = readText(reader);
-    } else {
+    } else if (!readField(reader, *this, fields(), 0)) {
         reader->readNext();
     }
     return 1;
@@ -103,6 +109,6 @@ int kiv_mat_zpStruct::writeContent(QXmlStreamWriter *writer) const
     result = orderItems.writeXml(writer);
     if (result < 0)
         return result;
-    writer->writeTextElement(QStringLiteral("attentions"), attentions);
+    writeFields(writer, *this, fields());
     return result;
 }

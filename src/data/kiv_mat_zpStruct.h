@@ -43,6 +43,7 @@ class kiv_mat_zpStruct : public documentStruct
 public:
     // Holds the six options of an order with placeholders; a file's own options replace them.
     kiv_mat_zpStruct();
+    static const fieldTable<kiv_mat_zpStruct> &fields();
 
     optionsStruct options;
     orderItemsStruct orderItems;

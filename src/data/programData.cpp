@@ -157,30 +157,50 @@ void programData::loadFirm(const progressFunction &progress)
 void programData::loadDatabase(databaseKind kind, const progressFunction &progress)
 {
     const QString name = m_config->options.value(databaseKeys[kind].file);
-    auto database = std::make_unique<kiv_mat_databaseStruct>();
-    if (name.isEmpty() || isSwitchedOff(databaseKeys[kind].load)
-        || !readInto(*database, paths::data(name), progress))
+    readDatabase read{std::make_unique<kiv_mat_databaseStruct>(), {}};
+    if (name.isEmpty() || isSwitchedOff(databaseKeys[kind].load))
         return;
-    putInUse(kind, std::move(database));
+    read.state = fileState::of(paths::data(name));
+    if (!readInto(*read.database, paths::data(name), progress))
+        return;
+    // A missing one was made.
+    if (read.state.size < 0)
+        read.state = fileState::of(paths::data(name));
+    putInUse(kind, std::move(read));
+}
+
+programData::readDatabase programData::readAgain(databaseKind kind,
+                                                 const progressFunction &progress)
+{
+    const QString path = m_databases[kind]->filePath;
+    bool cancelled = false;
+    const auto watched = [&](long long done, long long total) {
+        cancelled = progress && !progress(done, total);
+        return !cancelled;
+    };
+    readDatabase read{std::make_unique<kiv_mat_databaseStruct>(), fileState::of(path)};
+    QString reason;
+    if (!readChecked(path, read.database.get(), &reason, watched)) {
+        read.database.reset();
+        if (!cancelled)
+            userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+    }
+    return read;
 }
 
 bool programData::reloadDatabase(databaseKind kind)
 {
-    const QString path = m_databases[kind]->filePath;
-    auto database = std::make_unique<kiv_mat_databaseStruct>();
-    QString reason;
-    if (!readChecked(path, database.get(), &reason)) {
-        userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
-        return false;
-    }
-    putInUse(kind, std::move(database));
-    return true;
+    readDatabase read = readAgain(kind);
+    const bool isRead = read.database != nullptr;
+    if (isRead)
+        putInUse(kind, std::move(read));
+    return isRead;
 }
 
-void programData::putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database)
+void programData::putInUse(databaseKind kind, readDatabase read)
 {
-    m_files[kind] = fileState::of(database->filePath);
-    const auto before = std::exchange(m_databases[kind], std::move(database));
+    m_files[kind] = read.state;
+    const auto before = std::exchange(m_databases[kind], std::move(read.database));
     const bool nothingBehind =
         std::all_of(m_databases.begin() + kind + 1, m_databases.end(),
                     [](const auto &later) { return later->materialCount() == 0; });

@@ -41,8 +41,16 @@ public:
     // read.
     std::unique_ptr<kiv_mat_bomsStruct> readBoms();
     void putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms);
-    // Reads a loaded database's file again, whatever the options say now. False, with the database
-    // as it is, when it cannot be read.
+    // A loaded database's file as it is now, whatever the options say, to be put in use; without a
+    // database when it cannot be read, which is listed, or when that was cancelled.
+    struct readDatabase
+    {
+        std::unique_ptr<kiv_mat_databaseStruct> database;
+        fileState state; // before it was read
+    };
+    readDatabase readAgain(databaseKind kind, const progressFunction &progress = {});
+    void putInUse(databaseKind kind, readDatabase read);
+    // Both; false, with the database as it is, when it cannot be read.
     bool reloadDatabase(databaseKind kind);
     // The file of a database as it was when it was read or, once it is told, written.
     fileState &fileOf(databaseKind kind) { return m_files[kind]; }
@@ -73,7 +81,6 @@ public:
 private:
     programData() { clear(); }
 
-    void putInUse(databaseKind kind, std::unique_ptr<kiv_mat_databaseStruct> database);
     bool readInto(documentStruct &record, const QString &path, const progressFunction &progress);
 
     std::unique_ptr<configStruct> m_config;

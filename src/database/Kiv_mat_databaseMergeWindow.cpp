@@ -61,6 +61,17 @@ myItem::row rowOf(const QString &name, const QString &mine, const QString &other
     return row;
 }
 
+// Stands behind the fields of a material.
+int groupPlace() { return int(comparedFields().size()); }
+
+// What a difference is found again by: the other file's records stay. Null for an absent material.
+const void *recordOf(const materialDifference &difference)
+{
+    if (difference.kind == materialDifference::groupCpv)
+        return difference.otherGroup;
+    return difference.other;
+}
+
 // A difference is told by the type's weight, and by colour.
 void mark(const myItem::row &row)
 {
@@ -89,6 +100,10 @@ Kiv_mat_databaseMergeWindow::Kiv_mat_databaseMergeWindow(Kiv_mat_databaseWindow 
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_mat_databaseMergeWindow::itemTreeClicked);
     setCentralWidget(m_view);
+    m_again.setSingleShot(true);
+    constexpr int restMs = 300;
+    m_again.setInterval(restMs);
+    connect(&m_again, &QTimer::timeout, this, &Kiv_mat_databaseMergeWindow::compareAgain);
     constexpr QSize usualSize(1000, 680);
     resize(usualSize);
     showState();
@@ -137,34 +152,62 @@ bool Kiv_mat_databaseMergeWindow::open(const QString &path)
     return true;
 }
 
+void Kiv_mat_databaseMergeWindow::addRow(const materialDifference &difference, int place)
+{
+    if (difference.kind == materialDifference::groupCpv) {
+        const myItem::row row = rowOf(labels::group() + QLatin1Char(' ') + difference.myGroup->name,
+                                      difference.myGroup->cpv, difference.otherGroup->cpv, place);
+        mark(row);
+        model()->appendRow(row);
+        return;
+    }
+    const bool isNew = difference.kind == materialDifference::added;
+    const QString mine = isNew ? tr("new") : difference.mine->d_ktm;
+    const bool isRepeated = difference.kind == materialDifference::repeated;
+    const myItem::row row = rowOf(difference.other->d_name, mine,
+                                  isRepeated ? tr("%1, once more").arg(difference.other->d_ktm)
+                                             : difference.other->d_ktm,
+                                  place);
+    const auto below = [&](const QString &caption, const QString &before, const QString &after,
+                           int field, bool differs) {
+        const myItem::row cells = rowOf(caption, before, after, field);
+        if (differs && !isNew)
+            mark(cells);
+        row.first()->appendRow(cells);
+    };
+    int field = -1;
+    for (const comparedField &compared : comparedFields()) {
+        ++field;
+        below(compared.caption(), isNew ? QString() : compared.text(*difference.mine),
+              compared.text(*difference.other), field,
+              std::find(difference.fields.begin(), difference.fields.end(), field)
+                  != difference.fields.end());
+    }
+    below(labels::group(), isNew ? QString() : difference.myGroup->name,
+          difference.otherGroup->name, groupPlace(), difference.moved);
+    model()->appendRow(row);
+}
+
+QSet<const void *> Kiv_mat_databaseMergeWindow::shown() const
+{
+    QSet<const void *> records;
+    for (int row = 0; row < modelOf(m_view)->rowCount(); ++row)
+        records.insert(recordOf(
+            m_comparison.differences[size_t(modelOf(m_view)->item(row)->data(placeRole).toInt())]));
+    return records;
+}
+
 void Kiv_mat_databaseMergeWindow::showDifferences()
 {
     setClean();
+    m_compared = m_database->stack().state();
+    m_again.stop();
     model()->removeRows(0, model()->rowCount());
     int place = -1;
     for (const materialDifference &difference : m_comparison.differences) {
         ++place;
-        if (difference.kind == materialDifference::absent)
-            continue;
-        const bool isNew = difference.kind == materialDifference::added;
-        const myItem::row row =
-            rowOf(difference.other->d_name, isNew ? tr("new") : difference.mine->d_ktm,
-                  difference.other->d_ktm, place);
-        int field = -1;
-        for (const comparedField &compared : comparedFields()) {
-            ++field;
-            const bool differs =
-                isNew
-                || std::find(difference.fields.begin(), difference.fields.end(), field)
-                       != difference.fields.end();
-            const myItem::row below =
-                rowOf(compared.caption(), isNew ? QString() : compared.text(*difference.mine),
-                      compared.text(*difference.other), field);
-            if (differs && !isNew)
-                mark(below);
-            row.first()->appendRow(below);
-        }
-        model()->appendRow(row);
+        if (difference.kind != materialDifference::absent)
+            addRow(difference, place);
     }
     tell(tr("%n material(s) differ", nullptr, model()->rowCount()));
     updateActions();
@@ -178,6 +221,8 @@ void Kiv_mat_databaseMergeWindow::updateActions()
     const bool locked = m_database->isLocked();
     setAvailable("set", !empty && !locked,
                  locked ? tr("editing of the database is locked") : tr("nothing differs"));
+    if (m_other && m_database->stack().state() != m_compared)
+        m_again.start();
 }
 
 void Kiv_mat_databaseMergeWindow::commandSet(bool)
@@ -199,22 +244,30 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
                              false)
                != prompts::answer::yes)
         return;
+    // Which one of a KTM's materials is meant only the user can tell.
     if (selected.empty())
         for (int row = 0; row < model()->rowCount(); ++row)
-            selected[model()->item(row)->data(placeRole).toInt()];
+            if (const int place = model()->item(row)->data(placeRole).toInt();
+                m_comparison.differences[size_t(place)].kind != materialDifference::repeated)
+                selected[place];
     // The database may have other records by now: the differences are found anew, by the materials
     // of the other file, which stay.
-    std::map<const materialStruct *, std::set<int>> chosen;
+    std::map<const void *, std::set<int>> chosen;
     for (const auto &[place, fields] : selected)
-        chosen[m_comparison.differences[size_t(place)].other] = fields;
+        chosen[recordOf(m_comparison.differences[size_t(place)])] = fields;
     std::vector<materialDifference> wanted;
     for (materialDifference &difference :
          compareDatabases(m_database->rows().database(), *m_other).differences) {
-        const auto found = chosen.find(difference.other);
-        if (!difference.other || found == chosen.end())
+        const auto found = chosen.find(recordOf(difference));
+        if (difference.kind == materialDifference::absent || found == chosen.end())
             continue;
-        if (!found->second.empty() && difference.kind == materialDifference::changed)
-            difference.fields.assign(found->second.begin(), found->second.end());
+        std::set<int> &fields = found->second;
+        if (!fields.empty()
+            && (difference.kind == materialDifference::changed
+                || difference.kind == materialDifference::repeated)) {
+            difference.moved = fields.erase(groupPlace()) > 0 && difference.moved;
+            difference.fields.assign(fields.begin(), fields.end());
+        }
         wanted.push_back(std::move(difference));
     }
     const int count = int(wanted.size());
@@ -223,12 +276,47 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
     tell(tr("%n material(s) taken over", nullptr, count));
 }
 
+// What was left out stays so; what is open and selected does, too.
 void Kiv_mat_databaseMergeWindow::compareAgain()
 {
     if (!m_other)
         return;
-    m_comparison = compareDatabases(m_database->rows().database(), *m_other);
+    const QSet<const void *> before = shown();
+    QSet<const void *> leftOut;
+    for (const materialDifference &difference : m_comparison.differences)
+        if (const void *record = recordOf(difference); !before.contains(record))
+            leftOut.insert(record);
+    QSet<const void *> open;
+    const void *current = nullptr;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QModelIndex first = model()->index(row, 0);
+        const void *record =
+            recordOf(m_comparison.differences[size_t(first.data(placeRole).toInt())]);
+        if (m_view->isExpanded(first))
+            open.insert(record);
+        if (m_view->currentIndex().row() == row && !m_view->currentIndex().parent().isValid())
+            current = record;
+    }
+    comparison found;
+    {
+        workProgress::scope work(progress(), tr("Comparing"));
+        found = compareDatabases(m_database->rows().database(), *m_other, work.function());
+    }
+    if (found.cancelled)
+        return;
+    m_comparison = std::move(found);
+    std::erase_if(m_comparison.differences, [&leftOut](const materialDifference &difference) {
+        return leftOut.contains(recordOf(difference));
+    });
     showDifferences();
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QModelIndex first = model()->index(row, 0);
+        const void *record =
+            recordOf(m_comparison.differences[size_t(first.data(placeRole).toInt())]);
+        m_view->setExpanded(first, open.contains(record));
+        if (record == current)
+            m_view->setCurrentIndex(first);
+    }
 }
 
 void Kiv_mat_databaseMergeWindow::commandLeaveOut(bool)
@@ -256,5 +344,8 @@ void Kiv_mat_databaseMergeWindow::itemTreeClicked(QPoint, uint, const QModelInde
         m_comparison.differences[size_t(material.data(placeRole).toInt())];
     tell(difference.kind == materialDifference::added
              ? tr("New in the other file")
-             : tr("%n field(s) differ", nullptr, int(difference.fields.size())));
+             : tr("%n field(s) differ", nullptr,
+                  difference.kind == materialDifference::groupCpv
+                      ? 1
+                      : int(difference.fields.size()) + int(difference.moved)));
 }

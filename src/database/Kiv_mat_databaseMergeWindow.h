@@ -5,6 +5,8 @@
 #include "database/databaseMerge.h"
 #include "window/editWindow.h"
 
+#include <QTimer>
+
 class Kiv_mat_databaseWindow;
 class kiv_mat_databaseStruct;
 
@@ -21,7 +23,7 @@ public:
     // Compares with a file; false, listed in the errors window, when it cannot be read.
     bool open(const QString &path);
 
-    // After the database's lock changed.
+    // After the database's lock or content changed: the latter is compared again once it rests.
     void updateActions() override;
 
     // After the database was read again.
@@ -53,10 +55,15 @@ private slots:
 
 private:
     void showDifferences();
+    void addRow(const materialDifference &difference, int place);
+    // What is shown of the other file's materials and groups, by their records.
+    QSet<const void *> shown() const;
 
     Kiv_mat_databaseWindow *m_database;
     std::unique_ptr<kiv_mat_databaseStruct> m_other;
     QString m_path;
-    comparison m_comparison;
+    comparison m_comparison; // its materials of the database may be gone by now
+    quint64 m_compared = 0;  // the state of the database's history that it was made of
+    QTimer m_again;
     myTreeView *m_view;
 };

@@ -1,6 +1,7 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
 #include "database/Kiv_mat_databaseMergeWindow.h"
+#include "database/databaseRowsTarget.h"
 #include "database/materialWindow.h"
 
 #include "data/XmlValidator.h"
@@ -259,6 +260,8 @@ void Kiv_mat_databaseWindow::showDatabase()
 
 QString Kiv_mat_databaseWindow::filePath() const { return known().database(m_kind).filePath; }
 
+documentStruct *Kiv_mat_databaseWindow::record() { return &m_rows->database(); }
+
 fileState &Kiv_mat_databaseWindow::onDisk() { return known().fileOf(m_kind); }
 
 QLatin1String Kiv_mat_databaseWindow::editOption() const { return optionKey::editDatabase; }
@@ -339,21 +342,68 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
 
 // What the program works with is what the file holds. False when it cannot be read: then what was
 // edited is still there, and still not saved.
+// A group that only the other one has, and most of whose materials stand in one that it lacks, is
+// that one under another name.
+std::unique_ptr<command> Kiv_mat_databaseWindow::become(documentStruct &wanted)
+{
+    const changeBatch batch(m_model);
+    kiv_mat_databaseStruct &mine = m_rows->database();
+    auto &theirs = static_cast<kiv_mat_databaseStruct &>(wanted);
+    QHash<QString, d_groupStruct *> left;  // by name, without those that the other one has
+    QHash<QString, d_groupStruct *> homes; // by KTM
+    for (const auto &group : mine.groups)
+        left.insert(group->name, group.get());
+    for (const auto &group : theirs.groups)
+        left.remove(group->name);
+    for (d_groupStruct *group : qAsConst(left))
+        for (const auto &material : group->items)
+            homes.insert(material->d_ktm, group);
+    std::vector<std::unique_ptr<command>> members;
+    for (const auto &group : theirs.groups) {
+        QHash<d_groupStruct *, int> votes;
+        for (const auto &material : group->items)
+            if (d_groupStruct *home = homes.value(material->d_ktm);
+                left.contains(home ? home->name : QString()))
+                ++votes[home];
+        for (auto vote = votes.begin(); vote != votes.end(); ++vote)
+            if (2 * vote.value() > int(group->items.size())) {
+                left.remove(vote.key()->name);
+                members.push_back(std::make_unique<changeValue>(
+                    m_model, static_cast<myItemStandard *>(m_rows->groupItem(vote.key())),
+                    group->name));
+                break;
+            }
+    }
+    databaseRowsTarget target(m_model, m_rows.get());
+    carryOut(compareDatabases(mine, theirs).differences, absentOnes::remove, mine, target);
+    if (auto step = target.step())
+        members.push_back(std::move(step));
+    for (const d_groupStruct *group : qAsConst(left))
+        if (group->items.empty())
+            members.push_back(
+                std::make_unique<deleteMaterial>(m_model, m_rows->groupItem(group)->index()));
+    return members.empty() ? nullptr
+                           : std::make_unique<appendCommands>(std::move(members), m_model);
+}
+
 bool Kiv_mat_databaseWindow::load()
 {
+    programData::readDatabase read;
+    {
+        workProgress::scope work(progress(), tr("Reading"));
+        read = known().readAgain(m_kind, work.function());
+    }
+    userPrompts().showErrors();
+    if (!read.database)
+        return false;
     setClean();
     m_model->setRecords(nullptr);
     m_model->removeRows(0, m_model->rowCount());
-    QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool read = known().reloadDatabase(m_kind);
-    QApplication::restoreOverrideCursor();
+    known().putInUse(m_kind, std::move(read));
     showDatabase();
     if (m_merge)
         m_merge->compareAgain();
-    if (!read)
-        setChanged();
-    userPrompts().showErrors();
-    return read;
+    return true;
 }
 
 bool Kiv_mat_databaseWindow::mayClose()

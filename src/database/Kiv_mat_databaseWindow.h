@@ -107,6 +107,8 @@ protected:
     QString filePath() const override;
     QString title() const override;
     void begin() override;
+    documentStruct *record() override;
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     bool discard() override { return load(); }
@@ -147,6 +149,7 @@ private:
                   exportResult (*run)(const kiv_mat_databaseStruct &, const QString &,
                                       const progressFunction &));
     void tellExport(const exportResult &result);
+    bool mayDelete(const std::vector<materialDifference> &wanted);
     void applyTexts(std::vector<materialChange> changes, const QString &what);
     void list(const QString &heading, const QStringList &lines);
 

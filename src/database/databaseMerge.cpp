@@ -1,12 +1,16 @@
 #include "database/databaseMerge.h"
 
+#include "data/documentDiff.h"
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "data/recordMatching.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
 #include <QHash>
+
+#include <optional>
 
 namespace {
 
@@ -75,60 +79,30 @@ QString keyOf(const materialStruct &material)
     return material.d_ktm.isEmpty() ? QLatin1Char('\n') + material.d_name : material.d_ktm;
 }
 
-// The materials of a database by key. Each is met once, in file order.
-class materialPool
+struct placedMaterial
 {
-public:
-    struct place
-    {
-        materialStruct *material;
-        d_groupStruct *group;
-        int next = -1; // the next with the same key
-        bool met = false;
-    };
-
-    explicit materialPool(kiv_mat_databaseStruct &database)
-    {
-        const int count = database.materialCount();
-        m_places.reserve(size_t(count));
-        for (const auto &group : database.groups)
-            for (const auto &material : group->items)
-                m_places.push_back({material.get(), group.get()});
-        m_first.reserve(count);
-        for (int i = count - 1; i >= 0; --i) {
-            place &p = m_places[size_t(i)];
-            int &first =
-                m_first.insert(keyOf(*p.material), m_first.value(keyOf(*p.material), -1)).value();
-            p.next = first;
-            first = i;
-        }
-    }
-
-    // The first one with that key that was not met and is accepted; null when there is none.
-    template <class Accept>
-    const place *meet(const QString &key, const Accept &accept)
-    {
-        const auto first = m_first.find(key);
-        if (first == m_first.end())
-            return nullptr;
-        for (int *link = &*first; *link >= 0;) {
-            place &p = m_places[size_t(*link)];
-            if (accept(*p.material)) {
-                p.met = true;
-                *link = p.next;
-                return &p;
-            }
-            link = &p.next;
-        }
-        return nullptr;
-    }
-
-    const std::vector<place> &places() const { return m_places; }
-
-private:
-    std::vector<place> m_places;
-    QHash<QString, int> m_first;
+    materialStruct *material;
+    d_groupStruct *group;
 };
+
+std::vector<placedMaterial> placesIn(const kiv_mat_databaseStruct &database)
+{
+    std::vector<placedMaterial> places;
+    places.reserve(size_t(database.materialCount()));
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            places.push_back({material.get(), group.get()});
+    return places;
+}
+
+std::vector<QString> keysOf(const std::vector<placedMaterial> &places)
+{
+    std::vector<QString> keys;
+    keys.reserve(places.size());
+    for (const placedMaterial &place : places)
+        keys.push_back(keyOf(*place.material));
+    return keys;
+}
 
 std::vector<int> differingFields(const materialStruct &mine, const materialStruct &other)
 {
@@ -140,16 +114,24 @@ std::vector<int> differingFields(const materialStruct &mine, const materialStruc
     return fields;
 }
 
+// The first group of each name.
+template <class Group, class Database>
+QHash<QString, Group *> groupsOf(const Database &database)
+{
+    QHash<QString, Group *> groups;
+    for (auto group = database.groups.rbegin(); group != database.groups.rend(); ++group)
+        groups.insert((*group)->name, group->get());
+    return groups;
+}
+
 // The groups of a database by name, of several with one name the first; missing ones are made.
 class groupFinder
 {
 public:
     groupFinder(const kiv_mat_databaseStruct &database, databaseTarget &target)
         : m_target(target)
+        , m_groups(groupsOf<d_groupStruct>(database))
     {
-        m_groups.reserve(int(database.groups.size()));
-        for (auto group = database.groups.rbegin(); group != database.groups.rend(); ++group)
-            m_groups.insert((*group)->name, group->get());
     }
 
     d_groupStruct *like(const d_groupStruct &other)
@@ -185,12 +167,14 @@ public:
     {
         group->append(std::move(material));
     }
-    void replace(d_groupStruct *, materialStruct *material,
-                 std::unique_ptr<materialStruct> content) override
+    materialStruct *replace(d_groupStruct *, materialStruct *material,
+                            std::unique_ptr<materialStruct> content) override
     {
         for (const comparedField &field : comparedFields())
             field.take(*material, *content);
+        return material;
     }
+    void setCpv(d_groupStruct *group, const QString &cpv) override { group->cpv = cpv; }
     void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) override
     {
         std::erase_if(group->items, [&materials](const auto &material) {
@@ -200,6 +184,69 @@ public:
 
 private:
     kiv_mat_databaseStruct *m_database;
+};
+
+void addGroups(const kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
+               std::vector<materialDifference> *differences)
+{
+    const auto theirs = groupsOf<const d_groupStruct>(other);
+    QSet<QString> seen;
+    for (const auto &group : mine.groups) {
+        const d_groupStruct *found = theirs.value(group->name);
+        if (!found || found->cpv == group->cpv || seen.contains(group->name))
+            continue;
+        seen.insert(group->name);
+        differences->push_back(
+            {materialDifference::groupCpv, nullptr, group.get(), nullptr, found, {}});
+    }
+}
+
+// By group, in the order in which they are named.
+class doomedMaterials
+{
+public:
+    void add(d_groupStruct *group, const materialStruct *material)
+    {
+        if (!m_places.contains(group)) {
+            m_places.insert(group, m_groups.size());
+            m_groups.push_back({group, {}});
+        }
+        m_groups[m_places.value(group)].second.insert(material);
+    }
+    void remove(databaseTarget &target) const
+    {
+        for (const auto &[group, materials] : m_groups)
+            target.remove(group, materials);
+    }
+
+private:
+    std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> m_groups;
+    QHash<const d_groupStruct *, size_t> m_places;
+};
+
+// A copy with what a difference gives it.
+std::unique_ptr<materialStruct> taken(const materialStruct &material,
+                                      const materialDifference &difference)
+{
+    auto content = material.copy();
+    for (int field : difference.fields)
+        comparedFields()[size_t(field)].take(*content, *difference.other);
+    return content;
+}
+
+// What is known of a database's materials beside their matches.
+struct knownMaterials
+{
+    QHash<QString, int> firsts; // by KTM
+    QSet<quint64> contents;
+
+    explicit knownMaterials(const std::vector<placedMaterial> &places)
+    {
+        for (size_t i = places.size(); i-- > 0;) {
+            firsts.insert(places[i].material->d_ktm, int(i));
+            contents.insert(contentHash(*places[i].material));
+        }
+    }
 };
 
 comparison cancelledComparison()
@@ -228,36 +275,51 @@ comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_database
                             const progressFunction &progress)
 {
     comparison result;
-    materialPool pool(mine);
-    progressSteps steps(progress, 2 * qint64(other.materialCount()));
-    // Equal ones meet first, so that of several with one KTM only those are left that differ.
-    std::vector<std::pair<const materialStruct *, const d_groupStruct *>> left;
-    for (const auto &group : other.groups) {
-        for (const auto &material : group->items) {
-            const auto equal = [&](const materialStruct &m) { return m == *material; };
-            if (!pool.meet(keyOf(*material), equal))
-                left.push_back({material.get(), group.get()});
-            if (!steps.next())
-                return cancelledComparison();
+    const std::vector<placedMaterial> my = placesIn(mine);
+    const std::vector<placedMaterial> their = placesIn(other);
+    const auto content = [&](bool later, int place) {
+        return contentHash(*(later ? their : my)[size_t(place)].material);
+    };
+    const auto contentInGroup = [&](bool later, int place) {
+        return content(later, place) ^ qHash((later ? their : my)[size_t(place)].group->name, 1);
+    };
+    const std::vector<int> known =
+        matchRecords(keysOf(my), keysOf(their), {contentInGroup, content}).before;
+    std::optional<knownMaterials> all; // once one has no match
+    std::vector<bool> isMet(my.size());
+    progressSteps steps(progress, qint64(their.size()));
+    for (size_t i = 0; i < their.size(); ++i) {
+        const auto [material, group] = their[i];
+        if (known[i] >= 0) {
+            const placedMaterial &old = my[size_t(known[i])];
+            isMet[size_t(known[i])] = true;
+            const bool moved = old.group->name != group->name;
+            if (moved || !(*old.material == *material))
+                result.differences.push_back({materialDifference::changed, old.material, old.group,
+                                              material, group,
+                                              differingFields(*old.material, *material), moved});
+        } else {
+            if (!all)
+                all.emplace(my);
+            const int first =
+                material->d_ktm.isEmpty() ? -1 : all->firsts.value(material->d_ktm, -1);
+            if (first < 0)
+                result.differences.push_back(
+                    {materialDifference::added, nullptr, nullptr, material, group, {}});
+            else if (!all->contents.contains(contentHash(*material)))
+                result.differences.push_back(
+                    {materialDifference::repeated, my[size_t(first)].material,
+                     my[size_t(first)].group, material, group,
+                     differingFields(*my[size_t(first)].material, *material)});
         }
-    }
-    for (const auto &[material, group] : left) {
-        const materialPool::place *known =
-            pool.meet(keyOf(*material), [](const materialStruct &) { return true; });
-        if (known)
-            result.differences.push_back({materialDifference::changed, known->material,
-                                          known->group, material, group,
-                                          differingFields(*known->material, *material)});
-        else
-            result.differences.push_back(
-                {materialDifference::added, nullptr, nullptr, material, group, {}});
         if (!steps.next())
             return cancelledComparison();
     }
-    for (const materialPool::place &p : pool.places())
-        if (!p.met)
+    for (size_t i = 0; i < my.size(); ++i)
+        if (!isMet[i])
             result.differences.push_back(
-                {materialDifference::absent, p.material, p.group, nullptr, nullptr, {}});
+                {materialDifference::absent, my[i].material, my[i].group, nullptr, nullptr, {}});
+    addGroups(mine, other, &result.differences);
     return result;
 }
 
@@ -270,34 +332,45 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
               const kiv_mat_databaseStruct &mine, databaseTarget &target)
 {
     groupFinder groups(mine, target);
-    // By group, in the order in which the plan names them.
-    std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> doomed;
-    QHash<const d_groupStruct *, size_t> doomedPlaces;
+    doomedMaterials doomed;
+    // Where those are now that more than one difference belongs to.
+    QHash<const materialStruct *, std::pair<d_groupStruct *, materialStruct *>> now;
     for (const materialDifference &difference : plan) {
+        auto [group, material] = now.value(difference.mine, {difference.myGroup, difference.mine});
         switch (difference.kind) {
+        case materialDifference::repeated:
+            if (absent == absentOnes::keep) {
+                now[difference.mine] = {
+                    group, target.replace(group, material, taken(*material, difference))};
+                break;
+            }
+            [[fallthrough]];
         case materialDifference::added:
             target.add(groups.like(*difference.otherGroup), difference.other->copy());
             break;
         case materialDifference::changed: {
-            auto content = difference.mine->copy();
-            for (int field : difference.fields)
-                comparedFields()[size_t(field)].take(*content, *difference.other);
-            target.replace(difference.myGroup, difference.mine, std::move(content));
+            auto content = taken(*material, difference);
+            if (difference.moved) {
+                doomed.add(group, material);
+                group = groups.like(*difference.otherGroup);
+                material = content.get();
+                target.add(group, std::move(content));
+            } else {
+                material = target.replace(group, material, std::move(content));
+            }
+            now[difference.mine] = {group, material};
             break;
         }
         case materialDifference::absent:
-            if (absent == absentOnes::keep)
-                break;
-            if (!doomedPlaces.contains(difference.myGroup)) {
-                doomedPlaces.insert(difference.myGroup, doomed.size());
-                doomed.push_back({difference.myGroup, {}});
-            }
-            doomed[doomedPlaces.value(difference.myGroup)].second.insert(difference.mine);
+            if (absent == absentOnes::remove)
+                doomed.add(difference.myGroup, difference.mine);
+            break;
+        case materialDifference::groupCpv:
+            target.setCpv(difference.myGroup, difference.otherGroup->cpv);
             break;
         }
     }
-    for (const auto &[group, materials] : doomed)
-        target.remove(group, materials);
+    doomed.remove(target);
 }
 
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,

@@ -34,28 +34,32 @@ struct materialDifference
 {
     enum differenceKind
     {
-        added,   // only the other database has it
-        changed, // both have it, and fields differ
-        absent   // the other database lacks it
+        added,    // only the other database has it
+        changed,  // both have it, and fields differ or it stands in another group
+        absent,   // the other database lacks it
+        repeated, // one more of a KTM that both have
+        groupCpv  // both have the group, and its CPV differs; there is no material
     };
     differenceKind kind;
     materialStruct *mine; // null when added
     d_groupStruct *myGroup;
     const materialStruct *other; // null when absent
     const d_groupStruct *otherGroup;
-    std::vector<int> fields; // changed: places in comparedFields() that differ
+    std::vector<int> fields; // changed, repeated: places in comparedFields() that differ
+    bool moved = false;      // changed: it stands in a group of another name
 };
 
 struct comparison
 {
-    std::vector<materialDifference> differences; // in the other's file order, absent ones last
-    bool cancelled = false;                      // by the progress function; then there are none
+    // In the other's file order, behind them the absent ones and then the groups.
+    std::vector<materialDifference> differences;
+    bool cancelled = false; // by the progress function; then there are none
 };
 
-// Compares by KTM, texts exactly as they are; materials without a KTM by name. The group does not
-// count. Of several materials with one KTM those that are equal belong together, then the others in
-// file order. progress is told the other's materials,
-// those that differ twice.
+// Compares by KTM, texts exactly as they are; materials without a KTM by name. Of several materials
+// with one KTM those that are equal belong together, first in groups of one name, then the others
+// in file order; what is left of the other database's is repeated, and belongs to the first one.
+// progress is told the other's materials.
 comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
                             const progressFunction &progress = {});
 
@@ -76,9 +80,10 @@ public:
     virtual d_groupStruct *addGroup(std::unique_ptr<d_groupStruct> group) = 0;
     // Behind the last material of the group.
     virtual void add(d_groupStruct *group, std::unique_ptr<materialStruct> material) = 0;
-    // Gives a material of the group the content of another one.
-    virtual void replace(d_groupStruct *group, materialStruct *material,
-                         std::unique_ptr<materialStruct> content) = 0;
+    // Gives a material of the group the content of another one. Returns it where it is then.
+    virtual materialStruct *replace(d_groupStruct *group, materialStruct *material,
+                                    std::unique_ptr<materialStruct> content) = 0;
+    virtual void setCpv(d_groupStruct *group, const QString &cpv) = 0;
     // Takes materials of the group away. Their records are not looked at any more.
     virtual void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) = 0;
 };
@@ -90,8 +95,9 @@ enum class absentOnes
 };
 
 // Takes over differences, of which a caller leaves out what shall not be. A new material goes to
-// the group of its group's name, which is made with its CPV when it is missing; a changed one gets
-// the listed fields only; the absent ones are removed last, if at all.
+// the group of its group's name, which is made with its CPV when it is missing, and so does one
+// that moved; a changed one gets the listed fields only; the absent ones are removed last, if at
+// all. A repeated one is added where the other database wins, else it is taken as a change.
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
               const kiv_mat_databaseStruct &mine, databaseTarget &target);
 // On the records alone: indexes over mine are the caller's to keep in step, and the pointers to

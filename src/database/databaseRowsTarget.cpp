@@ -23,13 +23,25 @@ void databaseRowsTarget::add(d_groupStruct *group, std::unique_ptr<materialStruc
         std::make_unique<appendItems>(fetched(group), m_rows->makeRow(std::move(material))));
 }
 
-void databaseRowsTarget::replace(d_groupStruct *group, materialStruct *material,
-                                 std::unique_ptr<materialStruct> content)
+materialStruct *databaseRowsTarget::replace(d_groupStruct *group, materialStruct *material,
+                                            std::unique_ptr<materialStruct> content)
 {
     QStandardItem *parent = fetched(group);
-    if (const QStandardItem *first = m_rows->find(material))
-        m_members.push_back(
-            std::make_unique<changeRow>(parent, first->row(), m_rows->makeRow(std::move(content))));
+    const QStandardItem *first = m_rows->find(material);
+    if (!first)
+        return material;
+    materialStruct *replaced = content.get();
+    m_members.push_back(
+        std::make_unique<changeRow>(parent, first->row(), m_rows->makeRow(std::move(content))));
+    return replaced;
+}
+
+void databaseRowsTarget::setCpv(d_groupStruct *group, const QString &cpv)
+{
+    const int row = m_rows->groupItem(group)->row();
+    m_members.push_back(std::make_unique<changeValue>(
+        m_model, static_cast<myItem::myItemStandard *>(m_model->item(row, databaseTree::cpvColumn)),
+        cpv));
 }
 
 void databaseRowsTarget::remove(d_groupStruct *group, const QSet<const materialStruct *> &materials)

@@ -18,8 +18,9 @@ public:
 
     d_groupStruct *addGroup(std::unique_ptr<d_groupStruct> group) override;
     void add(d_groupStruct *group, std::unique_ptr<materialStruct> material) override;
-    void replace(d_groupStruct *group, materialStruct *material,
-                 std::unique_ptr<materialStruct> content) override;
+    materialStruct *replace(d_groupStruct *group, materialStruct *material,
+                            std::unique_ptr<materialStruct> content) override;
+    void setCpv(d_groupStruct *group, const QString &cpv) override;
     void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) override;
 
     // All that was done, which is applied already; null when there was nothing.

@@ -2,6 +2,7 @@
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
 
+#include "data/kiv_mat_bomStruct.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "database/altiumExport.h"
@@ -369,6 +370,53 @@ void Kiv_mat_databaseWindow::commandMerge(bool)
     m_merge->commandOpen(false);
 }
 
+// Names the lines of the open order and of BOM lists that would be left without a material, and
+// asks. Another material, or another database, may have the same KTM.
+bool Kiv_mat_databaseWindow::mayDelete(const std::vector<materialDifference> &wanted)
+{
+    QHash<QString, int> deleted;
+    for (const materialDifference &difference : wanted)
+        if (difference.kind == materialDifference::absent)
+            ++deleted[difference.mine->d_ktm];
+        else if (difference.kind == materialDifference::added
+                 || difference.kind == materialDifference::repeated)
+            --deleted[difference.other->d_ktm];
+    QSet<QString> missing = deletedKtms(wanted);
+    for (const QString &ktm : QSet<QString>(missing))
+        if (int(known().materials().all(ktm).size()) > deleted.value(ktm))
+            missing.remove(ktm);
+    if (missing.isEmpty())
+        return true;
+    QStringList uses;
+    if (openOrder)
+        uses = usesOf(missing, openOrder());
+    {
+        workProgress::scope work(progress(), tr("Reading"));
+        const progressFunction go = work.function();
+        const QStringList paths = filesOf(known().boms(), known().boms().filePath);
+        for (int i = 0; i < paths.size(); ++i) {
+            kiv_mat_bomStruct bom;
+            if (QFileInfo::exists(paths[i])
+                && loadDocument(paths[i], &bom) == 0) // a part of it says something, too
+                uses += usesOf(missing, bom);
+            if (!go(i + 1, paths.size()))
+                return false;
+        }
+    }
+    if (uses.isEmpty())
+        return true;
+    constexpr int mostShown = 10;
+    QString html =
+        tr("The open order or BOM lists use materials that would be deleted:").toHtmlEscaped()
+        + QLatin1String("<br>") + QStringList(uses.mid(0, mostShown)).join(QString());
+    if (uses.size() > mostShown)
+        html += tr("and %n more", nullptr, uses.size() - mostShown).toHtmlEscaped();
+    if (!userPrompts().decide(html, {tr("Delete them all the same")}, true))
+        return false;
+    list(tr("The open order or BOM lists use deleted materials:"), uses);
+    return true;
+}
+
 void Kiv_mat_databaseWindow::commandUpdate(bool)
 {
     const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(), xmlFilter());
@@ -393,14 +441,21 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
     }
     QList<QStringList> shown;
     for (const materialDifference &difference : found.differences) {
+        if (difference.kind == materialDifference::groupCpv) {
+            shown.append({{}, difference.myGroup->name, tr("changed"), labels::cpv()});
+            continue;
+        }
         const materialStruct *material = difference.other ? difference.other : difference.mine;
         QStringList fields;
         for (int field : difference.fields)
             fields.append(comparedFields()[size_t(field)].caption());
+        if (difference.moved)
+            fields.append(labels::group());
         shown.append({material->d_ktm, material->d_name,
-                      difference.kind == materialDifference::added    ? tr("new")
-                      : difference.kind == materialDifference::absent ? tr("deleted")
-                                                                      : tr("changed"),
+                      difference.kind == materialDifference::added      ? tr("new")
+                      : difference.kind == materialDifference::repeated ? tr("once more")
+                      : difference.kind == materialDifference::absent   ? tr("deleted")
+                                                                        : tr("changed"),
                       fields.join(QLatin1String(", "))});
     }
     changesDialog dialog(tr("Update"), {labels::ktm(), labels::name(), tr("Change"), tr("Fields")},
@@ -411,13 +466,8 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
     for (int row : dialog.chosen())
         wanted.push_back(found.differences[size_t(row)]);
     const QStringList lines = deletedLines(wanted);
-    QSet<QString> missing = deletedKtms(wanted);
+    if (!mayDelete(wanted))
+        return;
     takeOver(wanted, true, tr("Update"));
-    // Another material, or another database, may have the same KTM.
-    for (const QString &ktm : QSet<QString>(missing))
-        if (known().materials().find(ktm))
-            missing.remove(ktm);
     list({}, lines);
-    if (openOrder)
-        list(tr("The open order uses deleted materials:"), usesOf(missing, openOrder()));
 }

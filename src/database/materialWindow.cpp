@@ -148,6 +148,7 @@ bool materialWindow::open(const origin &from, std::unique_ptr<materialStruct> ma
     setClean();
     m_sources.clear();
     m_origin = from;
+    m_openedKtm = from.row == newRow ? QString() : material->d_ktm;
     // Its records are looked at until the tree shows the new ones.
     const auto before = std::exchange(m_edited, std::move(material));
     m_rows.show(model(), *m_edited, known().config(), known().firm());
@@ -233,6 +234,11 @@ bool materialWindow::write(const QString &)
         userPrompts().showError(fault->text.toHtmlEscaped());
         const QStandardItem *field = m_rows.valueOf(fault->field);
         goTo(field ? field : m_rows.section(materialTree::manufacturer));
+        return false;
+    }
+    if (material->d_ktm != m_openedKtm && known().materials().find(material->d_ktm)) {
+        userPrompts().showError(tr("Another material has this KTM").toHtmlEscaped());
+        goTo(m_rows.valueOf(QStringLiteral("d_ktm")));
         return false;
     }
     m_checked = std::move(material);

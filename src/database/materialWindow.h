@@ -84,6 +84,7 @@ private:
 
     std::unique_ptr<materialStruct> m_edited = std::make_unique<materialStruct>();
     std::unique_ptr<materialStruct> m_checked; // passed the checks, to be given away
+    QString m_openedKtm;                       // of the material that is in the database already
     origin m_origin;
     materialTree m_rows;
     myTreeView *m_view;

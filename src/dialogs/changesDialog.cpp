@@ -52,6 +52,8 @@ changesDialog::changesDialog(const QString &title, const QStringList &captions,
     resize(usualSize);
 }
 
+void changesDialog::unmark(int row) { m_rows->topLevelItem(row)->setCheckState(0, Qt::Unchecked); }
+
 std::vector<int> changesDialog::chosen() const
 {
     std::vector<int> rows;

@@ -15,6 +15,8 @@ public:
     changesDialog(const QString &title, const QStringList &captions, const QList<QStringList> &rows,
                   QWidget *parent);
 
+    // Rows are marked until this is called.
+    void unmark(int row);
     // The numbers of the rows that are left marked.
     std::vector<int> chosen() const;
 

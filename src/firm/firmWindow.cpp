@@ -9,7 +9,10 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "window/becomeList.h"
+#include "window/workProgress.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -148,6 +151,17 @@ bool firmWindow::isModified() const
     return editWindow::isModified()
            || std::any_of(m_unwritten.begin(), m_unwritten.end(),
                           [](const renameList &renames) { return !renames.empty(); });
+}
+
+std::unique_ptr<command> firmWindow::become(documentStruct &wanted)
+{
+    auto &firms = static_cast<kiv_mat_firmStruct &>(wanted);
+    std::vector<std::unique_ptr<command>> members;
+    becomeList::change(model(manufacturer), *m_pages[manufacturer].rows, list(manufacturer),
+                       std::move(firms.manufacturers.items), members);
+    becomeList::change(model(supplier), *m_pages[supplier].rows, list(supplier),
+                       std::move(firms.suppliers.items), members);
+    return members.empty() ? nullptr : std::make_unique<appendCommands>(std::move(members));
 }
 
 bool firmWindow::load()
@@ -319,18 +333,45 @@ bool firmWindow::write(const QString &path)
     return true;
 }
 
+// What another program did to a database is neither written over nor read unasked.
+bool firmWindow::mayWrite(programData::databaseKind kind, const fileState &now) const
+{
+    const QString native = QDir::toNativeSeparators(known().database(kind).filePath);
+    if (now == known().fileOf(kind))
+        return true;
+    const bool isGone = now == fileState();
+    return userPrompts()
+        .decide((isGone ? tr("The database %1 is gone. Firms were renamed in it.")
+                        : tr("The database %1 was changed by another program. Firms were renamed "
+                             "in it."))
+                    .arg(native.toHtmlEscaped()),
+                {isGone ? tr("Save it anew") : tr("Read it again, rename there and save it")}, true)
+        .has_value();
+}
+
 // A database without a window of its own is read again when another program wrote it meanwhile,
 // renamed, and written. One that cannot be written stays as its file is.
 bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &renames)
 {
     const QString path = known().database(kind).filePath;
-    const bool isOther = QFileInfo::exists(path) && !(fileState::of(path) == known().fileOf(kind));
-    if (isOther && !known().reloadDatabase(kind))
+    const fileState now = fileState::of(path);
+    if (!mayWrite(kind, now))
         return false;
+    const auto shown = [this](const auto &work) {
+        workProgress::scope scope(progress(), tr("Renaming"));
+        work(scope.function());
+    };
+    if (!(now == fileState()) && !(now == known().fileOf(kind))) {
+        programData::readDatabase read;
+        shown([&](const progressFunction &progress) { read = known().readAgain(kind, progress); });
+        if (!read.database)
+            return false;
+        known().putInUse(kind, std::move(read));
+    }
     kiv_mat_databaseStruct &database = known().database(kind);
     const std::vector<nameChange> changes = changesOf(database, renames);
     applyNames(changes);
-    const bool written = saveDocument(path, database, known().config());
+    const bool written = saveDocument(path, database, known().config(), shown);
     if (written)
         // The database's own window would take this for another program's work.
         known().fileOf(kind) = fileState::of(path);
@@ -364,6 +405,8 @@ void firmWindow::saved()
     }
     m_renames.clear();
     userPrompts().showErrors();
+    if (isModified())
+        tell(tr("Saved, but firms are not renamed in every database"));
     if (anyChanged)
         emit materialsChanged();
 }

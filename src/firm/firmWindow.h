@@ -38,6 +38,8 @@ signals:
 protected:
     QString filePath() const override { return m_path; }
     QString title() const override;
+    documentStruct *record() override { return m_edited.get(); }
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     void saved() override;
@@ -63,6 +65,7 @@ private:
     QUrl currentHomePage();
     void clicked(const QModelIndex &cell);
     std::unique_ptr<command> withRenames(std::unique_ptr<command> change);
+    bool mayWrite(programData::databaseKind kind, const fileState &now) const;
     bool renameInFile(programData::databaseKind kind, const firmOperations::renameList &renames);
 
     std::unique_ptr<kiv_mat_firmStruct> m_edited;

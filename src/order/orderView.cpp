@@ -11,6 +11,7 @@
 #include "tree/myTreeView.h"
 #include "util/cleanHtml.h"
 #include "util/labels.h"
+#include "window/becomeList.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -241,6 +242,20 @@ void orderView::replaceAttentions(const QString &html)
     cursor.removeSelectedText();
     cursor.insertHtml(html);
     cursor.endEditBlock();
+}
+
+std::unique_ptr<command> orderView::become(kiv_mat_zpStruct &wanted)
+{
+    takeAttentions();
+    if (m_order->attentions != wanted.attentions)
+        replaceAttentions(cleanHtml(wanted.attentions));
+    std::vector<std::unique_ptr<command>> members;
+    const changeBatch batch(m_lines);
+    becomeList::changeOptions(m_options, wanted.options, members);
+    becomeList::change(m_lines, *m_lineRows, m_order->orderItems.items,
+                       std::move(wanted.orderItems.items), members);
+    return members.empty() ? nullptr
+                           : std::make_unique<appendCommands>(std::move(members), m_lines);
 }
 
 void orderView::renumber()

@@ -41,6 +41,10 @@ public:
     // What the formatted text's dialog gives back, as one step of the editor's history.
     void replaceAttentions(const QString &html);
 
+    // Makes the order like another one, which is used up: options and lines as one step, applied
+    // already; the attentions as one of the editor's history.
+    std::unique_ptr<command> become(kiv_mat_zpStruct &wanted);
+
     // Numbers the lines from 1, in the tree and in their records.
     void renumber();
     // Takes fonts and thresholds from the configuration again.

@@ -127,6 +127,8 @@ protected:
     QString filePath() const override { return m_document.path(); }
     QString title() const override { return tr("Order"); }
     void begin() override {}
+    documentStruct *record() override;
+    std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
     void saved() override;

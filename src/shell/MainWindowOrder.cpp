@@ -175,6 +175,17 @@ void MainWindow::offerRecovery()
     m_recovery->discard();
 }
 
+documentStruct *MainWindow::record()
+{
+    m_order->takeAttentions();
+    return &m_document.order();
+}
+
+std::unique_ptr<command> MainWindow::become(documentStruct &wanted)
+{
+    return m_order->become(static_cast<kiv_mat_zpStruct &>(wanted));
+}
+
 bool MainWindow::load()
 {
     const bool read = m_document.reload();
@@ -252,7 +263,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     const bool leaves =
         !stays && isModified()
         && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel()));
-    if (stays || (leaves && !leaveUnsaved())) {
+    const bool noAnswer = leaves && !m_document.path().isEmpty() && isToStay();
+    if (stays || noAnswer || (leaves && !leaveUnsaved())) {
         for (editWindow *window : others)
             window->stayOpen();
         event->ignore();

@@ -1,11 +1,13 @@
 #include "shell/startUp.h"
 
 #include "data/programData.h"
+#include "dialogs/changesDialog.h"
 #include "shell/MainWindow.h"
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
 #include "util/dataFolder.h"
+#include "util/labels.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -16,6 +18,7 @@
 #include "window/messageWindow.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFontMetrics>
 
@@ -65,6 +68,52 @@ QString configPath()
                : paths::config();
 }
 
+// Offers what an administrator changed since the user's files were copied. Before anything is read;
+// what the user changed is not marked, and is kept as a version when it is replaced all the same.
+void offerNewerFiles(const QString &userDir)
+{
+    const QString programDir = paths::programDir();
+    const std::vector<dataFolder::newerFile> newer = dataFolder::newerFiles(programDir, userDir);
+    if (newer.empty())
+        return;
+    const auto translated = [](const char *text) {
+        return QCoreApplication::translate("startUp", text);
+    };
+    QList<QStringList> rows;
+    for (const dataFolder::newerFile &file : newer)
+        rows.append({QDir::toNativeSeparators(file.name),
+                     file.time.toString(QStringLiteral("dd.MM.yyyy hh:mm")),
+                     file.ownChanged
+                         ? translated(QT_TRANSLATE_NOOP("startUp", "Changed by you, too"))
+                         : QString()});
+    changesDialog dialog(
+        translated(QT_TRANSLATE_NOOP("startUp", "The shared files are newer than your copies")),
+        {labels::file(), translated(QT_TRANSLATE_NOOP("startUp", "Shared file of")),
+         translated(QT_TRANSLATE_NOOP("startUp", "Your copy"))},
+        rows, nullptr);
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint); // over the start-up picture
+    for (size_t i = 0; i < newer.size(); ++i)
+        if (newer[i].ownChanged)
+            dialog.unmark(int(i));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    configStruct config;
+    config.load(paths::config());
+    const std::vector<int> chosen = dialog.chosen();
+    for (size_t i = 0; i < newer.size(); ++i) {
+        const QString &name = newer[i].name;
+        const QString own = userDir + QLatin1Char('/') + name;
+        if (std::find(chosen.begin(), chosen.end(), int(i)) == chosen.end())
+            dataFolder::decline(name, programDir, userDir);
+        else if (!keepVersion(own, config) || !dataFolder::take(name, programDir, userDir))
+            userPrompts().listError(messages::failed(
+                QCoreApplication::translate("log", "Copy file"), own, messages::error()));
+        else
+            userPrompts().log(messages::done(QCoreApplication::translate("log", "Copy file"), own,
+                                             messages::ok()));
+    }
+}
+
 // A program that cannot write beside itself works in a folder of the user's.
 void settleDataFolder()
 {
@@ -81,6 +130,7 @@ void settleDataFolder()
     for (const QString &file : choice.failed)
         userPrompts().listError(messages::failed(QCoreApplication::translate("log", "Copy file"),
                                                  file, messages::error()));
+    offerNewerFiles(choice.dir);
 }
 
 // What killed programs left of saving; orders follow when they are opened.

@@ -2,8 +2,11 @@
 // beside itself; its data folders then live in a folder of the user's.
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 namespace dataFolder {
 
@@ -22,5 +25,20 @@ struct choice
 // "_files", "_zp" and "_e-mail" that it lacks are copied. What the user has there is never
 // overwritten.
 choice choose(const QString &programDir, const QString &userDir);
+
+// A file of the program's folder that is another one than the user's file was copied from, and
+// differs from that.
+struct newerFile
+{
+    QString name; // below both folders
+    QDateTime time;
+    bool ownChanged; // since it was copied, as far as is known
+};
+std::vector<newerFile> newerFiles(const QString &programDir, const QString &userDir);
+
+// Puts the program's file in the user's file's place; false when that cannot be.
+bool take(const QString &name, const QString &programDir, const QString &userDir);
+// Leaves the user's file as it is: the program's one is not newer any more.
+void decline(const QString &name, const QString &programDir, const QString &userDir);
 
 } // namespace dataFolder

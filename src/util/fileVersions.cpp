@@ -73,15 +73,16 @@ QStringList of(const QString &path, const QString &folder)
     return found;
 }
 
-bool keep(const QString &path, const QString &folder, int count)
+bool keep(const QString &path, const QString &folder, int count, const QString &content)
 {
-    if (!QFileInfo(path).isFile() || count <= 0)
+    const QString source = content.isEmpty() ? path : content;
+    if (!QFileInfo(source).isFile() || count <= 0)
         return true;
     QStringList versions = of(path, folder);
     // Saving often is not to push out what differs.
-    if (versions.isEmpty() || !files::sameContent(path, versions.first())) {
+    if (versions.isEmpty() || !files::sameContent(source, versions.first())) {
         const QString made = newName(folder, beginningOf(path), endOf(path));
-        if (!prepare(folder) || !copyWhole(path, made))
+        if (!prepare(folder) || !copyWhole(source, made))
             return false;
         versions.prepend(made);
     }

@@ -8,8 +8,8 @@ namespace fileVersions {
 // Copies the file as it is into the folder, under its name and the time, and removes the oldest of
 // its versions beyond count. A file that equals its newest version is not copied again. Files of
 // one name from different folders are told apart. True when there was nothing to keep or it is
-// kept.
-bool keep(const QString &path, const QString &folder, int count);
+// kept. With content, that file is kept as a version of the other one.
+bool keep(const QString &path, const QString &folder, int count, const QString &content = {});
 
 // The versions of a file, the newest first.
 QStringList of(const QString &path, const QString &folder);

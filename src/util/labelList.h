@@ -64,6 +64,7 @@ LABEL(material, QT_TRANSLATE_NOOP("labels", "Material"))
 LABEL(materialColumn,
       QT_TRANSLATE_NOOP("labels", "Name / Description / KTM / RoHS / Manufacturers / Suppliers"))
 LABEL(suppliersCapital, QT_TRANSLATE_NOOP("labels", "SUPPLIERS"))
+LABEL(supplier, QT_TRANSLATE_NOOP("labels", "Supplier"))
 LABEL(suppliers, QT_TRANSLATE_NOOP("labels", "Suppliers"))
 LABEL(department, QT_TRANSLATE_NOOP("labels", "Department"))
 LABEL(awatar, QT_TRANSLATE_NOOP("labels", "Awatar"))

@@ -51,7 +51,7 @@ void prompts::showInformation(const QString &) {}
 prompts::answer prompts::ask(const QString &, bool) { return answer::no; }
 void prompts::showWarning(const QString &) {}
 
-std::optional<int> prompts::decide(const QString &, const QStringList &) { return {}; }
+std::optional<int> prompts::decide(const QString &, const QStringList &, bool) { return {}; }
 
 std::optional<QString> prompts::inputText(const QString &, const QString &, const QString &)
 {

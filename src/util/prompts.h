@@ -32,13 +32,15 @@ public:
     // A refusal under the title "Warning".
     virtual void showWarning(const QString &html);
 
-    // A question under the title "Asking", with Yes and No, and Cancel when wanted. Closing the box
-    // answers cancel, or no where there is no Cancel.
+    // A question under the title "Asking", with Yes and No, and a button Cancel when wanted.
+    // Closing the box answers cancel in any case.
     virtual answer ask(const QString &html, bool withCancel);
 
     // A question with a button for each answer, which names what it does; the number of the one
-    // pressed, nothing when the box was closed otherwise.
-    virtual std::optional<int> decide(const QString &html, const QStringList &buttons);
+    // pressed, nothing when the box was closed otherwise. Return presses the first one, or Cancel
+    // where none is harmless.
+    virtual std::optional<int> decide(const QString &html, const QStringList &buttons,
+                                      bool noneIsHarmless = false);
 
     // One value in a small dialog; nothing when the user gives none.
     virtual std::optional<QString> inputText(const QString &title, const QString &label,

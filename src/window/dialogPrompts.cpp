@@ -88,24 +88,29 @@ prompts::answer dialogPrompts::ask(const QString &html, bool withCancel)
     box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")), html);
     question.setIcon(QMessageBox::Question);
     const QPushButton *yes = question.addButton(labels::yes(), QMessageBox::YesRole);
-    QPushButton *no = question.addButton(labels::no(), QMessageBox::NoRole);
-    QPushButton *cancel =
-        withCancel ? question.addButton(labels::cancel(), QMessageBox::RejectRole) : nullptr;
-    question.setEscapeButton(withCancel ? cancel : no);
+    const QPushButton *no = question.addButton(labels::no(), QMessageBox::NoRole);
+    // Whoever closes the box without an answer has given none.
+    QPushButton *cancel = question.addButton(labels::cancel(), QMessageBox::RejectRole);
+    cancel->setVisible(withCancel);
+    question.setEscapeButton(cancel);
     question.exec();
     if (question.clickedButton() == yes)
         return answer::yes;
-    return withCancel && question.clickedButton() == cancel ? answer::cancel : answer::no;
+    return question.clickedButton() == no ? answer::no : answer::cancel;
 }
 
-std::optional<int> dialogPrompts::decide(const QString &html, const QStringList &buttons)
+std::optional<int> dialogPrompts::decide(const QString &html, const QStringList &buttons,
+                                         bool noneIsHarmless)
 {
     box question(titleOf(QT_TRANSLATE_NOOP("prompts", "Asking")), html);
     question.setIcon(QMessageBox::Question);
     QList<QAbstractButton *> made;
     for (const QString &button : buttons)
         made.append(question.addButton(button, QMessageBox::ActionRole));
-    question.setEscapeButton(question.addButton(labels::cancel(), QMessageBox::RejectRole));
+    QPushButton *cancel = question.addButton(labels::cancel(), QMessageBox::RejectRole);
+    question.setEscapeButton(cancel);
+    if (noneIsHarmless)
+        question.setDefaultButton(cancel);
     question.exec();
     const int pressed = made.indexOf(question.clickedButton());
     return pressed < 0 ? std::nullopt : std::optional(pressed);

@@ -10,7 +10,8 @@ public:
     void showInformation(const QString &html) override;
     void showWarning(const QString &html) override;
     answer ask(const QString &html, bool withCancel) override;
-    std::optional<int> decide(const QString &html, const QStringList &buttons) override;
+    std::optional<int> decide(const QString &html, const QStringList &buttons,
+                              bool noneIsHarmless) override;
     std::optional<QString> inputText(const QString &title, const QString &label,
                                      const QString &initial) override;
     std::optional<int> inputNumber(const QString &title, const QString &label, int initial,

@@ -3,6 +3,7 @@
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "tree/myTreeView.h"
+#include "util/fileWatch.h"
 #include "util/prompts.h"
 
 #include <QAction>
@@ -12,8 +13,10 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QStandardItem>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
 
@@ -30,6 +33,7 @@ QString native(const QString &path) { return QDir::toNativeSeparators(path).toHt
 editWindow::editWindow(const QString &name, programData &known, QWidget *parent)
     : baseWindow(name, parent)
     , m_known(known)
+    , m_watch(new fileWatch(this))
     , m_changed(new QLabel(tr("changed, not saved"), this))
     , m_storing(new QTimer(this))
 {
@@ -39,6 +43,8 @@ editWindow::editWindow(const QString &name, programData &known, QWidget *parent)
     m_storing->setSingleShot(true);
     m_storing->setInterval(storeEveryMs);
     connect(m_storing, &QTimer::timeout, this, &editWindow::storeRecovery);
+    connect(m_watch, &fileWatch::changed, this, &editWindow::lookAtLocks);
+    connect(m_watch, &fileWatch::changed, this, &editWindow::lookAtFile);
     connect(qApp, &QApplication::focusChanged, this, &editWindow::followFocus);
 }
 
@@ -207,9 +213,11 @@ void editWindow::allowWhenUnlocked(std::initializer_list<const char *> names, bo
 // Who only reads claims nothing, nor does a window that is not shown.
 void editWindow::claimFile()
 {
+    followFile();
     const QString before = m_fileLock.otherUser();
     m_fileLock.claim(m_locked || !isVisible() ? QString() : filePath());
     const QString &other = m_fileLock.otherUser();
+    m_others = filePath().isEmpty() ? QStringList() : fileLock::othersOf(filePath());
     if (other.isEmpty() || other == before)
         return;
     userPrompts().showInformation(
@@ -308,33 +316,6 @@ void editWindow::commandFindNext(bool)
 // --- Saving
 // ---------------------------------------------------------------------------------------
 
-// What another program wrote is neither written over nor read unasked. True: overwrite it.
-bool editWindow::settleOtherVersion()
-{
-    if (filePath().isEmpty() || fileState::of(filePath()) == onDisk())
-        return true;
-    enum
-    {
-        reload,
-        overwrite,
-        otherName
-    };
-    QStringList answers{tr("Reload it and lose the changes here"), tr("Overwrite it")};
-    if (canSaveAs())
-        answers.append(tr("Save as"));
-    const std::optional<int> answer =
-        userPrompts().decide(tr("The file %1 was changed by another program since it was opened.")
-                                 .arg(native(filePath())),
-                             answers);
-    if (answer == reload) {
-        load();
-        userPrompts().showErrors();
-    } else if (answer == otherName) {
-        saveAs();
-    }
-    return answer == overwrite;
-}
-
 bool editWindow::saveTo(const QString &path)
 {
     if (!finishEditing())
@@ -343,9 +324,14 @@ bool editWindow::saveTo(const QString &path)
         tell(fault());
         return false;
     }
-    if ((path == filePath() && !settleOtherVersion()) || !write(path))
+    if (path == filePath() && !settleOtherVersion())
         return false;
-    onDisk() = fileState::of(path);
+    {
+        const QScopedValueRollback saving(m_saving, true);
+        if (!write(path))
+            return false;
+        onDisk() = fileState::of(path);
+    }
     setClean();
     claimFile();
     tellSaved(tr("Saved"));
@@ -395,7 +381,9 @@ void editWindow::showEvent(QShowEvent *event)
 
 bool editWindow::askToLeave(const QString &question, bool withCancel)
 {
-    switch (userPrompts().ask(question, withCancel)) {
+    const prompts::answer answer = userPrompts().ask(question, withCancel);
+    m_isToStay = answer == prompts::answer::cancel;
+    switch (answer) {
     case prompts::answer::yes:
         save();
         return !isModified();
@@ -437,6 +425,9 @@ void editWindow::closeEvent(QCloseEvent *event)
     m_givenUp = false;
     closed();
     m_fileLock.claim({});
+    m_watch->watch({});
+    m_opened.reset();
+    m_openedPath.clear();
     baseWindow::closeEvent(event);
 }
 

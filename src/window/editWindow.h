@@ -16,7 +16,10 @@ namespace myItem {
 class myItemStandard;
 }
 class QLabel;
+class QTemporaryDir;
 class QTimer;
+class changedBar;
+class fileWatch;
 class htmlView;
 class myModel;
 class myTreeView;
@@ -159,10 +162,15 @@ protected:
     // The file; empty when there is none.
     virtual QString filePath() const = 0;
     virtual QString title() const = 0;
+    // The document as it stands in the window, which has no open editor; null when it is no file's.
+    virtual documentStruct *record() { return nullptr; }
+    // Makes the document like another one of its kind, which is used up by that: one step, applied
+    // already; null when nothing changed.
+    virtual std::unique_ptr<command> become(documentStruct &) { return nullptr; }
     // Writes the document; false, told to the user, when that failed.
     virtual bool write(const QString &path) = 0;
-    // Shows the document as the file has it now, with setClean(). False, told to the user, when it
-    // cannot be read.
+    // Shows the document as the file has it now, with setClean(). False, told to the user and with
+    // everything as it was, when it cannot be read.
     virtual bool load() = 0;
     // What a window that was closed shows first.
     virtual void begin() { load(); }
@@ -182,6 +190,8 @@ protected:
     virtual void saved() {}
     // After the window closed with nothing unsaved.
     virtual void closed() { setClean(); }
+    // What the file holds is not what the document was compared with.
+    virtual void forgetSaved() { m_clean.reset(); }
     // The file as it was when it was read or written last.
     virtual fileState &onDisk() { return m_onDisk; }
     // Before a step is undone or done again; and after it was, or a new one was done, before it is
@@ -223,6 +233,8 @@ protected:
     bool saveTo(const QString &path);
     // Asks a question of unsaved changes, as mayClose() does.
     bool askToLeave(const QString &question, bool withCancel);
+    // Whether the user gave no answer to it the last time.
+    bool isToStay() const { return m_isToStay; }
     // Title, marks of change, actions.
     void showState();
     // The program ends: the window closes without a question.
@@ -254,8 +266,21 @@ private:
     void followHistory();
     void tellHistory(const QString &form, const QString &what);
     void showMoved();
-    bool settleOtherVersion();
     void claimFile();
+
+    // --- editWindowDisk.cpp ---
+    bool settleOtherVersion();
+    bool settleMissing();
+    bool reload();
+    bool keepOwnVersion();
+    void followFile();
+    void lookAtLocks();
+    void lookAtFile();
+    void keepMine();
+    void compareVersions();
+    bool mergeWith(const QString &theirs, const fileState &state);
+    void rememberOpened();
+
     bool mayUnlock() const;
     QString lockedText() const;
 
@@ -265,10 +290,19 @@ private:
     std::vector<myTreeView *> m_views;
     fileState m_onDisk;
     fileLock m_fileLock;
+    fileWatch *m_watch;
+    changedBar *m_changedBar = nullptr;      // once there was something to tell
+    QStringList m_others;                    // who else had the file when that was told
+    QString m_note;                          // of them
+    std::unique_ptr<QTemporaryDir> m_opened; // a copy of the file as it is on the disk
+    QString m_openedPath;                    // for what file, in what state
+    fileState m_openedState;
+    bool m_saving = false;
     QLabel *m_changed;
     QTimer *m_storing;
     QString m_wanted; // what is searched
     bool m_locked = false;
     bool m_givenUp = false;
+    bool m_isToStay = false;
     bool m_programEnds = false;
 };

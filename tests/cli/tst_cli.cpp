@@ -1,6 +1,7 @@
 // kivzp-cli from outside: exit codes, output and files.
 #include "testSupport.h"
 
+#include <QJsonDocument>
 #include <QTextCodec>
 
 using namespace testSupport;
@@ -66,6 +67,10 @@ private slots:
         row("resave cut.xml out.xml", 1, "", "cut.xml: line 2");
         row("repair cut.xml out4.xml", 0, "kind: kiv_mat_zp", "cut.xml:2:");
         row("repair good.xml good.xml", 2, "", "repair: OUT is IN, which must stay");
+        row("diff good.xml good.xml", 0, "", "");
+        row("diff one.xml other.xml", 1, "K, Price:  -> 5\n+ G, L: L; NIE", "");
+        row("diff good.xml one.xml", 2, "", "good.xml is of the kind kiv_mat_zp, but one.xml");
+        row("diff good.xml cut.xml", 2, "", "cut.xml: line 2");
         row("report good.xml -d none.xml -o out.html", 1, "", "none.xml");
         row("find ktm:k -d twice.xml", 0, "K\t", "");
         row("find K -n 1 -d twice.xml", 0, "K\t", "1 of 2 materials shown");
@@ -154,6 +159,32 @@ private slots:
             QVERIFY(QDir(m_folder->path()).entryList({"out*"}).isEmpty());
         else if (!target.isEmpty())
             QVERIFY(QFile::exists(m_folder->path(target)));
+    }
+
+    void json_data()
+    {
+        const rows<int, QByteArray> row;
+        row("info good.xml", 0,
+            R"({"average_sum":0,"average_sum_left_out":"pominięto 1 pozycję bez ceny średniej","file":"good.xml","format":"KIV_MAT_ZP_1",
+                "kind":"kiv_mat_zp","lines":1,"options":6,"sum":6})");
+        row("find l -d other.xml", 0,
+            R"({"materials":[{"case":"","description":"","group":"G","in_warehouse":"","ktm":"L","name":"","price":"",
+                "status":"","unit":"","value":""}],"total":1})");
+        row("check-materials one.xml", 1,
+            R"({"faults":[{"fault":"Brak CPV","field":"d_cpv","group":"G","ktm":"K","name":""}]})");
+        row("check-nip firms.xml", 1, R"({"firms":[{"name":"Wrong","nip":"5260250275"}]})");
+        row("diff one.xml one.xml", 0,
+            R"({"after":"one.xml","before":"one.xml","differences":[],"equal":true,"kind":"kiv_mat_database"})");
+    }
+
+    // Names are the same in every language, and numbers are numbers.
+    void json()
+    {
+        const auto [code, expected] = fetch<int, QByteArray>();
+        const ended called = call("--language pl " + tag() + " --json");
+        QCOMPARE(called.code, code);
+        QCOMPARE(QString(QJsonDocument::fromJson(called.out.toUtf8()).toJson()),
+                 QString(QJsonDocument::fromJson(expected).toJson()));
     }
 
     void faultsHaveTheirPlace()

@@ -7,7 +7,7 @@ using namespace testSupport;
 
 namespace {
 
-// One letter a difference: + new, the numbers of fields when changed, - absent.
+// One letter a difference: + new, ~ changed or = once more with the fields, - absent, c the CPV of a group.
 QStringList summary(const comparison &result)
 {
     QStringList lines;
@@ -15,8 +15,14 @@ QStringList summary(const comparison &result)
         QStringList fields;
         for (int field : d.fields)
             fields.append(comparedFields()[size_t(field)].name);
+        if (d.moved)
+            fields.append("group");
         const materialStruct *m = d.other ? d.other : d.mine;
-        lines.append(QString("%1%2 %3").arg("+~-"[d.kind]).arg(m->d_ktm, fields.join(' ')));
+        if (!m) {
+            lines.append('c' + d.myGroup->name);
+            continue;
+        }
+        lines.append(QString("%1%2 %3").arg("+~-=c"[d.kind]).arg(m->d_ktm, fields.join(' ')));
     }
     return lines;
 }
@@ -36,7 +42,7 @@ private slots:
             kiv_mat_databaseStruct mine;
             material(mine, "A", "K", "n");
             kiv_mat_databaseStruct other;
-            materialStruct *o = material(other, "B", "K", "n");
+            materialStruct *o = material(other, "A", "K", "n");
             if (field.name == "d_ktm")
                 continue;
             if (field.name == "manufacturers") {
@@ -72,7 +78,8 @@ private slots:
         material(other, "C", "4");
         material(other, "C", "2")->d_description = "text";
         material(other, "C", "1");
-        QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"+4 ", "~2 d_description", "-3 "}));
+        QCOMPARE(summary(compareDatabases(mine, other)),
+                 QStringList({"+4 ", "~2 d_description group", "~1 group", "-3 "}));
         QCOMPARE(deletedLines(compareDatabases(mine, other).differences),
                  QStringList({"Materials deleted<br>", "<b>3</b> &nbsp;[B]<br>"}));
         QVERIFY(deletedLines(compareDatabases(mine, mine).differences).isEmpty());
@@ -95,7 +102,26 @@ private slots:
         material(other, "A", "", "new");
         other.groups[0]->items[1]->d_name = "changed";
         other.groups[0]->items.erase(other.groups[0]->items.begin() + 2);
-        QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"~1 d_name", "+1 ", "+ ", "- "}));
+        QCOMPARE(summary(compareDatabases(mine, other)), QStringList({"~1 d_name", "=1 d_name", "+ ", "- "}));
+    }
+
+    // What stands elsewhere goes there with its fields, its old place goes, and a group gets its CPV.
+    void groupsCount()
+    {
+        kiv_mat_databaseStruct mine;
+        materialStruct *m = material(mine, "A", "1", "name");
+        material(mine, "A", "2");
+        mine.groups[0]->cpv = "31712114-2";
+        kiv_mat_databaseStruct other;
+        material(other, "B", "1", "new name");
+        material(other, "A", "2");
+        const comparison found = compareDatabases(mine, other);
+        QCOMPARE(summary(found), QStringList({"~1 d_name group", "cA"}));
+        QCOMPARE(found.differences[0].mine, m);
+        carryOut(found.differences, absentOnes::keep, &mine);
+        QCOMPARE(summary(compareDatabases(mine, other)), QStringList());
+        QCOMPARE(mine.materialCount(), 2);
+        QCOMPARE(mine.groups[0]->cpv, QString());
     }
 
     void mergeTakesWhatIsSelected()

@@ -96,7 +96,8 @@ const scenario refused[] = {
     {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
      "status ~ Another material has; title !~ *"},
     {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "status = CPV syntax error; title !~ *"},
-    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "status = Group already exists; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED,
+     "status = Group already exists; title !~ *"},
 };
 
 class tst_databaseWindow : public scenarioFixture
@@ -174,14 +175,20 @@ private slots:
         QCOMPARE(testSupport::read(file()), content);
     }
 
-    // What is unticked stays, and the order's lines that lose their material are listed.
+    // What is unticked stays, and lines that lose their material are named before and listed after.
     void updateDeletesWhatIsTicked()
     {
         openWindow(OPEN);
         work("materials@?0/1,0 #toOrder materials@1,0 Right materials@?1/0,0 #toOrder");
+        const QString bom = path("_files/boms/modul_stm32f103.xml");
+        testSupport::write(bom, testSupport::read(bom).replace("317121-03.01-00001", "317111-01.01-00002"));
         // Changed, new, and the two that are absent.
-        work("#update 'other.xml' Return Down Down Down Space Return");
-        QVERIFY(boxes().contains("Update"));
+        work("#update 'other.xml' Return Down Down Down Space Return Return");
+        const QString asked = boxes().join(' ');
+        QVERIFY2(asked.contains("Update") && asked.contains("modul_stm32f103.xml") && asked.contains("zp_0.xml"),
+                 qPrintable(asked));
+        QVERIFY(!window().windowTitle().endsWith('*'));
+        work("#update 'other.xml' Return Down Down Down Space Return !Delete_them_all_the_same");
         work("Ctrl+S");
         kiv_mat_databaseStruct saved;
         QCOMPARE(loadDatabase(file(), &saved), 0);
@@ -191,9 +198,9 @@ private slots:
         QVERIFY(content.contains("317111-01.02-00099") && content.contains("<d_price>77.00"));
         QVERIFY(saved.update.startsWith(QDate::currentDate().toString("yyyy.MM.dd")));
         // In the list of the deleted ones and in that of their uses.
-        QCOMPARE(seen().listed.count("317111-01.01-00002"), 2);
+        QCOMPARE(seen().listed.count("317111-01.01-00002"), 3);
         QCOMPARE(seen().listed.count("317111-01.02-00001"), 0);
-        QVERIFY(seen().listed.contains("The open order uses deleted materials:"));
+        QVERIFY(seen().listed.contains("The open order or BOM lists use deleted materials:"));
     }
 
     void mergeIsOneStep()
@@ -209,8 +216,11 @@ private slots:
         work("Ctrl+S !Yes");
         QVERIFY(known().find("317111-01.02-00099") && known().find("317111-01.01-00002"));
         turnTo(database);
-        work("#undo");
+        work("#undo ~600");
         QVERIFY(!databaseWindow().isModified());
+        // The list follows.
+        turnTo(merge);
+        look("differences = 2");
     }
 };
 

@@ -24,6 +24,8 @@ std::unique_ptr<kiv_mat_databaseStruct> copyOf(const kiv_mat_databaseStruct &dat
     for (const auto &group : database.groups)
         for (const auto &material : group->items)
             testSupport::group(*copy, group->name)->append(material->copy());
+    for (const auto &group : database.groups)
+        testSupport::group(*copy, group->name)->cpv = group->cpv;
     return copy;
 }
 
@@ -66,6 +68,7 @@ private slots:
                     if (random.bounded(4) != 0) {
                         const QString group = QString::number(random.bounded(5));
                         materialStruct *m = material(*database, group, ktm, "n");
+                        testSupport::group(*database, group)->cpv = QString::number(random.bounded(2));
                         m->d_price = QString::number(random.bounded(2));
                         m->d_unit = QString::number(random.bounded(2));
                     }

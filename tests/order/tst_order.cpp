@@ -72,7 +72,7 @@ const scenario scenarios[] = {
      "orderLines = 22; orderLines@21,5 = 3; orderLines@21,7 = {+14}"},
     {"a window stays, so all stays", EDIT "#config|options@12,1 F2 Ctrl+A 'Żuk' Return|<Ctrl+Q !Cancel",
      "boxes ~ onfiguration; title = Order *; orderLines@0,1 = Żuk; disk !~ Żuk"},
-    {"Escape is No", EDIT "Ctrl+Q Escape", "title = closed; disk !~ Żuk"},
+    {"Escape is no answer", EDIT "Ctrl+Q Escape", "title = Order *; orderLines@0,1 = Żuk; disk !~ Żuk"},
     {"given up twice", EDIT "#config|options@12,1 F2 Ctrl+A 'Żuk' Return|<Ctrl+Q !Cancel Ctrl+Q !No !No",
      "boxes ~ Asking: Save order; title = closed; disk !~ Żuk; file _config/kiv_mat_config.xml !~ Żuk"},
     {"the page follows", "#previewBeside " EDIT "~400", "page ~ Żuk"},

@@ -175,6 +175,38 @@ private slots:
         QCOMPARE(read(m_folder->path("own/_zp/zp_0.xml")), QByteArray("mine"));
     }
 
+    // A shared file that was written since the user's one was copied is offered until it is taken or turned down.
+    void newerSharedFiles_data()
+    {
+        rows<bool, bool>().operator()("taken", false, true);
+        rows<bool, bool>().operator()("turned down", true, false);
+    }
+    void newerSharedFiles()
+    {
+        const auto [ownChanged, taken] = fetch<bool, bool>();
+        const QString own = m_folder->path("own");
+        const QString shared = m_folder->path("shared");
+        m_folder->write("shared/_files/a.xml", "one");
+        m_folder->write("own/_files/a.xml", "one");
+        QVERIFY(dataFolder::newerFiles(shared, own).empty());
+        if (ownChanged)
+            m_folder->write("own/_files/a.xml", "mine");
+        QVERIFY(dataFolder::newerFiles(shared, own).empty());
+        m_folder->write("shared/_files/a.xml", "second");
+        const auto newer = dataFolder::newerFiles(shared, own);
+        QCOMPARE(int(newer.size()), 1);
+        QCOMPARE(newer[0].name, QString("_files/a.xml"));
+        QCOMPARE(newer[0].ownChanged, ownChanged);
+        if (taken)
+            QVERIFY(dataFolder::take(newer[0].name, shared, own));
+        else
+            dataFolder::decline(newer[0].name, shared, own);
+        QCOMPARE(read(m_folder->path("own/_files/a.xml")), QByteArray(taken ? "second" : "mine"));
+        QVERIFY(dataFolder::newerFiles(shared, own).empty());
+        m_folder->write("shared/_files/a.xml", "the third");
+        QCOMPARE(int(dataFolder::newerFiles(shared, own).size()), 1);
+    }
+
 private:
     struct result
     {

@@ -12,6 +12,7 @@ struct editedWindow
     const char *close;  // the key that closes it
     const char *unlock; // what allows editing, if it begins locked
     const char *save = "Ctrl+S";
+    const char *theirs = nullptr; // a cell that somebody else changes, if not the other one
 };
 
 const editedWindow windows[] = {
@@ -19,7 +20,7 @@ const editedWindow windows[] = {
     {"database", "Ctrl+D Return", "materials@0,0", "materials@1,0", "_files/db_warehouse.xml", "Ctrl+W", "Ctrl+E"},
     {"firms", "#firm", "manufacturers@0,1", "manufacturers@1,1", "_files/firms.xml", "Ctrl+W", ""},
     {"configuration", "#config", "options@12,1", "options@32,1", "_config/kiv_mat_config.xml", "Ctrl+W", ""},
-    {"BOM lists", "Ctrl+B", "boms@0,0", "boms@0/0,0", "_files/boms.xml", "Ctrl+W", "", "#save"},
+    {"BOM lists", "Ctrl+B", "boms@0,0", "boms@0/0,0", "_files/boms.xml", "Ctrl+W", "", "#save", "boms@1,0"},
     {"BOM list", "Ctrl+B|boms@0/0/0,0 Return", "lines@0,2", "lines@1,2", "", "Ctrl+W", "Ctrl+E"},
 };
 
@@ -51,7 +52,8 @@ const scenario keys[] = {
      "status ~ whole number; title = Order *; disk !~ Żuk"},
     {"refused behind another page", "orderLines@1,1 F2 'Żuk' Return orderLines@0,5 F2 '-3' !Preview_Do Ctrl+S",
      "title = Order *; disk !~ Żuk; focus = editor"},
-    {"refused before a header", "orderLines@0,5 F2 '-3' orderLines@^1", "title = Order; orderLines@0,1 ~ STM; focus = editor"},
+    {"refused before a header", "orderLines@0,5 F2 '-3' orderLines@^1",
+     "title = Order; orderLines@0,1 ~ STM; focus = editor"},
     {"a typed day for all", "#allDates '+14' Return", "orderLines:7 = {+14}"},
     {"a past day for all", "#allDates '1.1.2020' Return Escape", "title = Order"},
     {"a negative number of sets", "Ctrl+B|boms@0/0/0,1 F2 '-3' Return ~100 Escape Escape #set", "status ~ all numbers"},
@@ -62,15 +64,18 @@ const scenario keys[] = {
      "orderLines = 23; orderLines@22,8 ~ Rezonator; orderLines@22,0 = 23"},
     {"no more lines wanted", "orderLines@0,8 Shift+Down Ctrl+C orderLines@20,8 Ctrl+V Right Return",
      "orderLines = 21; orderLines@20,8 ~ Mikro; errors ~ 1 line past"},
-    {"what does not fit", "orderLines@0,8 Ctrl+C orderLines@0,5 Ctrl+V", "errors ~ row 1: Mikro; errors ~ is not a number"},
+    {"what does not fit", "orderLines@0,8 Ctrl+C orderLines@0,5 Ctrl+V",
+     "errors ~ row 1: Mikro; errors ~ is not a number"},
     {"undo goes there", "orderLines@20,1 F2 'Żuk' Return orderLines@0,1 Ctrl+Z F2 Ctrl+A 'Wół' Return",
      "orderLines@20,1 = Wół"},
     {"nothing unseen is moved", "orderLines@3,1 !Preview_Do Alt+Down Ctrl+Shift+D Ctrl+V", "title = Order"},
     {"undo finds what was moved", "orderLines@1,1 Alt+Down PgDown Ctrl+Z Del",
      "orderLines = 20; orderLines@0,1 ~ STM; orderLines@1,1 ~ ABLS"},
     {"Ctrl+D is no Delete", "!attentions Ctrl+Home Ctrl+D Escape", "attentions ~ Prosz; boxes ~ atabase"},
-    {"dates are filled", "orderLines@0,7 Shift+Down F2 '+20' Ctrl+Return", "orderLines@0,7 = {+20}; orderLines@1,7 = {+20}"},
-    {"Ctrl with an arrow selects", "orderLines@0,1 Ctrl+Down Ctrl+Down Del", "orderLines@0,1 ~ STM; orderLines@2,1 ~ GRM"},
+    {"dates are filled", "orderLines@0,7 Shift+Down F2 '+20' Ctrl+Return",
+     "orderLines@0,7 = {+20}; orderLines@1,7 = {+20}"},
+    {"Ctrl with an arrow selects", "orderLines@0,1 Ctrl+Down Ctrl+Down Del",
+     "orderLines@0,1 ~ STM; orderLines@2,1 ~ GRM"},
     {"the row below comes next", "orderLines@3,1 Del Del", "orderLines@3,1 = RC0603FR-074K7L"},
     {"the sum follows the keys", "orderLines@2,1 Shift+Down Shift+Down Shift+Up ~100", "sums ~ 2 selected"},
     {"a link is edited",
@@ -79,6 +84,8 @@ const scenario keys[] = {
     {"no link", "#editAttentions Ctrl+Home Ctrl+L '/x' Return Return Escape Escape",
      "boxes ~ is no address; title = Order"},
     {"Escape asks", "#editAttentions Ctrl+Home 'Żuk' Escape !Yes", "attentions ~ Żuk"},
+    {"Escape at closing", DATABASE "materials@0,0 F2 Ctrl+A 'Żuk' Return Ctrl+W Escape",
+     "title ~ *; materials@0,0 = Żuk"},
     {"a field is emptied", "#config|options@12,1 Del", "options@12,1 =; status = Clear"},
     {"Tab to the next number", "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '3' Tab Ctrl+A '4' Return",
      "boms@0/0/0,1 = 3; boms@1/0/0,1 = 4"},
@@ -186,24 +193,139 @@ private slots:
         QVERIFY(!testSupport::read(fileOf(w)).contains("Żuk2"));
     }
 
-    // Another program's work is neither written over nor read unasked.
-    void changedOnDisk_data() { addRows({"Escape", "Reload", "Overwrite"}); }
+    void prepare() override
+    {
+        scenarioFixture::prepare();
+        setOption("PATH_BACKUP", path("kept"));
+    }
+    // The file with the text of a cell changed, as another program does it: by a file that takes its place.
+    void changeElsewhere(const QString &file, const QString &cell)
+    {
+        const QByteArray text = seenAt(cell).toHtmlEscaped().toUtf8();
+        QByteArray all = testSupport::read(file);
+        const QByteArray before = all;
+        for (const char *form : {">%1<", "\"%1\""})
+            if (all == before)
+                all.replace(QString(form).arg(text.constData()).toUtf8(), QString(form).arg("Żaba").toUtf8());
+        QVERIFY(all != before);
+        testSupport::write(file + ".new", all);
+        QFile::remove(file);
+        QVERIFY(QFile::rename(file + ".new", file));
+        work("~500");
+    }
+    bool isKept(const char *text)
+    {
+        const QFileInfoList all = QDir(path("kept")).entryInfoList(QDir::Files);
+        return std::any_of(all.begin(), all.end(),
+                           [&](const QFileInfo &f) { return testSupport::read(f.filePath()).contains(text); });
+    }
+
+    // Another program's work is neither written over nor read unasked, and neither is lost.
+    void changedOnDisk_data() { addRows({"Escape", "Return", "Reload", "Damaged", "Overwrite", "Gone", "Anew"}); }
     void changedOnDisk()
     {
         QFETCH(QString, way);
         const editedWindow &w = open();
         const QString file = fileOf(w);
         work(QString("%1 F2 Ctrl+A 'Żuk3' Return").arg(w.cell));
-        QByteArray theirs = testSupport::read(file);
-        theirs.replace("?>", "?><!-- theirs -->");
-        testSupport::write(file, theirs);
-        const QHash<QString, QString> answers{{"Reload", "!Reload_it_and_lose_the_changes_here"},
-                                              {"Overwrite", "!Overwrite_it"}};
-        work(QString("%1 %2").arg(w.save, answers.value(way, way)));
-        QVERIFY(boxes().value(0).contains("was changed by another program"));
-        QCOMPARE(testSupport::read(file).contains("theirs"), way != "Overwrite");
-        QCOMPARE(testSupport::read(file).contains("Żuk3"), way == "Overwrite");
-        QCOMPARE(window().windowTitle().endsWith(" *"), way == "Escape");
+        const QByteArray before = testSupport::read(file);
+        const QByteArray theirs = QByteArray(before).replace("?>", "?><!-- theirs -->");
+        const bool isGone = way == "Gone" || way == "Anew";
+        if (isGone)
+            QFile::remove(file);
+        else
+            testSupport::write(file, way == "Damaged" ? theirs.left(theirs.size() / 2) : theirs);
+        const QHash<QString, QString> answers{{"Reload", "!Reload_it,_keep_what_is_here_as_a_version"},
+                                              {"Damaged", "!Reload_it,_keep_what_is_here_as_a_version"},
+                                              {"Overwrite", "!Overwrite_it"},
+                                              {"Gone", "Return"},
+                                              {"Anew", "!Save_it_anew"}};
+        const bool showsFaults = way == "Damaged" && (w.name == QString("order") || w.name == QString("configuration"));
+        work(QString("%1 %2 %3").arg(w.save, answers.value(way, way), showsFaults ? "Escape" : ""));
+        QVERIFY(boxes().value(0).contains(isGone ? "is gone" : "was changed by another program"));
+        const bool written = way == "Overwrite" || way == "Anew";
+        QCOMPARE(testSupport::read(file).contains("theirs"), !isGone && !written);
+        QCOMPARE(testSupport::read(file).contains("Żuk3"), written);
+        QCOMPARE(isKept("Żuk3"), way == "Reload" || way == "Damaged");
+        QCOMPARE(window().windowTitle().endsWith(" *"), way != "Reload" && !written);
+        if (way == "Damaged") {
+            testSupport::write(file, before);
+            work(QString("Ctrl+Z Ctrl+Y %1 !Overwrite_it").arg(w.save));
+            QVERIFY(testSupport::read(file).contains("Żuk3"));
+        }
+    }
+
+    // The bar over the tree tells of it at once; what it does is done without a question.
+    void toldAtOnce_data() { addRows({"reloadVersion", "keepMine", "compareVersions"}); }
+    void toldAtOnce()
+    {
+        QFETCH(QString, way);
+        const editedWindow &w = open();
+        const QString file = fileOf(w);
+        const QString theirs = w.theirs ? w.theirs : w.other;
+        work(QString("%1 F2 Ctrl+A 'Żuk3' Return").arg(w.cell));
+        work(QString("%1 %2 F2 Ctrl+A 'Żuk4' Return ~500").arg(w.save, w.cell));
+        QVERIFY(!window().findChild<QWidget *>("changedBar"));
+        changeElsewhere(file, theirs);
+        const auto *bar = window().findChild<QWidget *>("changedBar");
+        QVERIFY(bar && bar->isVisible());
+        look("changedText ~ changed by another program");
+        work('!' + way + (way == "compareVersions" ? " !mergeVersions" : "") + " ~500");
+        QVERIFY(!bar->isVisible());
+        boxes();
+        const bool own = way != "reloadVersion";
+        const bool other = way != "keepMine";
+        QVERIFY2((seenAt(w.cell) == "Żuk4") == own, qPrintable(seenAt(w.cell)));
+        QVERIFY2((seenAt(theirs) == "Żaba") == other, qPrintable(seenAt(theirs)));
+        QCOMPARE(window().windowTitle().endsWith(" *"), own);
+        QCOMPARE(isKept("Żuk4"), !own);
+        if (own && other) {
+            work("Ctrl+Z");
+            QVERIFY(seenAt(w.cell) == "Żuk4" && seenAt(theirs) != "Żaba");
+            work("Ctrl+Y");
+        }
+        work(w.save);
+        QCOMPARE(boxes(), QStringList());
+        QCOMPARE(testSupport::read(file).contains("Żuk4"), own);
+        QCOMPARE(testSupport::read(file).contains("Żaba"), other);
+    }
+
+    void bothChanged()
+    {
+        const editedWindow &w = windows[0];
+        work("orderLines@0,1 F2 Ctrl+A 'Żuk4' Return Up");
+        const QString cell = "orderLines@0,1";
+        work("Ctrl+Z");
+        changeElsewhere(path(w.file), cell);
+        work("Ctrl+Y !compareVersions !mergeVersions !takeTheirs !mergeVersions");
+        look("orderLines@0,1 = Żaba; status ~ Merged");
+        work("Ctrl+Z");
+        look("orderLines@0,1 = Żuk4");
+    }
+
+    void othersComeAndGo()
+    {
+        const QString lock = folder().write("_zp/.zp_0.xml.2.lock", "4242\nKivZP\nelsewhere\n");
+        work("~500");
+        look("changedText ~ opened elsewhere, too: KivZP, elsewhere, 4242");
+        QFile::remove(lock);
+        work("~500");
+        look("changedText ~ closed elsewhere: KivZP");
+        work("!hideNote");
+        QVERIFY(!window().findChild<QWidget *>("changedBar")->isVisible());
+    }
+
+    // The folder goes, and comes again with the file.
+    void folderIsGone()
+    {
+        work("orderLines@0,1 F2 Ctrl+A 'Żuk' Return");
+        QVERIFY(QDir(path("_zp")).removeRecursively());
+        work("~500");
+        look("changedText = The file is gone.; orderLines = 21");
+        work("Ctrl+S !Save_it_anew");
+        look("orderLines = 21; file _zp/zp_0.xml ~ Żuk; title = Order; status = Saved");
+        QVERIFY(QFile::exists(path("_zp/.zp_0.xml.lock")));
+        QVERIFY(!window().findChild<QWidget *>("changedBar")->isVisible());
     }
 };
 
