@@ -355,6 +355,10 @@
             <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseWindow</name>
@@ -980,6 +984,10 @@
     <message>
         <source>No copy of the unsaved order can be kept: %1</source>
         <translation>Nie można zachować kopii niezapisanego zamówienia: %1</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
     </message>
 </context>
 <context>
@@ -2548,6 +2556,22 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>not written, since it would lose %1; --force writes all the same</source>
         <translation>nie zapisano, bo przepadłoby: %1; --force zapisuje mimo to</translation>
+    </message>
+    <message>
+        <source>The key of the server (SHA256:...), when none was accepted yet.</source>
+        <translation>Klucz serwera (SHA256:...), jeśli żaden nie został jeszcze przyjęty.</translation>
+    </message>
+    <message>
+        <source>leads to no file of the file server</source>
+        <translation>nie prowadzi do pliku na serwerze plików</translation>
+    </message>
+    <message>
+        <source>The server is not known. When its key is right, give it: --host-key %1</source>
+        <translation>Serwer nie jest znany. Jeśli jego klucz się zgadza, podaj go: --host-key %1</translation>
+    </message>
+    <message>
+        <source>Copies a file to where its link leads on the file server.</source>
+        <translation>Kopiuje plik tam, dokąd prowadzi jego odnośnik na serwerze plików.</translation>
     </message>
 </context>
 <context>

@@ -93,9 +93,10 @@ public slots:
     void commandAddNew(QStandardItem *group, materialStruct *material);
     void commandEditExist(QStandardItem *item, materialStruct *material);
 
-    // Takes over the selected differences as one step.
-    void takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
-                  const QString &what);
+    // Takes over the selected differences as one step, or, when progress cancels, none of them:
+    // then false, told in the status bar.
+    bool takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
+                  const QString &what, const progressFunction &progress = {});
     // Gives manufacturers and suppliers their new names as one step.
     void renameFirms(const firmOperations::renameList &renames);
 

@@ -266,9 +266,14 @@ QString allMaterialsInDatabase()
     return QCoreApplication::translate("databaseMerge", "All materials in database");
 }
 
-void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
-              const kiv_mat_databaseStruct &mine, databaseTarget &target)
+bool carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target,
+              const progressFunction &progress)
 {
+    const auto total = qint64(plan.size());
+    qint64 done = 0;
+    // One of them may open a group, which takes a while: each is told.
+    const auto next = [&] { return !progress || progress(++done, total); };
     groupFinder groups(mine, target);
     // By group, in the order in which the plan names them.
     std::vector<std::pair<d_groupStruct *, QSet<const materialStruct *>>> doomed;
@@ -293,11 +298,18 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
                 doomed.push_back({difference.myGroup, {}});
             }
             doomed[doomedPlaces.value(difference.myGroup)].second.insert(difference.mine);
-            break;
+            continue;
         }
+        if (!next())
+            return false;
     }
-    for (const auto &[group, materials] : doomed)
+    for (const auto &[group, materials] : doomed) {
         target.remove(group, materials);
+        done += materials.size() - 1;
+        if (!next())
+            return false;
+    }
+    return true;
 }
 
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,

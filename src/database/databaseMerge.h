@@ -91,9 +91,11 @@ enum class absentOnes
 
 // Takes over differences, of which a caller leaves out what shall not be. A new material goes to
 // the group of its group's name, which is made with its CPV when it is missing; a changed one gets
-// the listed fields only; the absent ones are removed last, if at all.
-void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
-              const kiv_mat_databaseStruct &mine, databaseTarget &target);
+// the listed fields only; the absent ones are removed last, if at all. progress is told
+// differences; false when it cancelled: what was done until then stays done.
+bool carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target,
+              const progressFunction &progress = {});
 // On the records alone: indexes over mine are the caller's to keep in step, and the pointers to
 // removed materials in the plan are dangling afterwards.
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
