@@ -4090,6 +4090,26 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>%1 is on the file server</source>
         <translation>%1 jest na serwerze plików</translation>
     </message>
+    <message>
+        <source>The file server %1 is not known yet. Its key is</source>
+        <translation>Serwer plików %1 nie jest jeszcze znany. Jego klucz to</translation>
+    </message>
+    <message>
+        <source>Its administrator can tell whether that is so.</source>
+        <translation>Czy tak jest, wie jego administrator.</translation>
+    </message>
+    <message>
+        <source>Accept the key and send</source>
+        <translation>Przyjmij klucz i wyślij</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Nothing was sent</source>
+        <translation>Niczego nie wysłano</translation>
+    </message>
 </context>
 <context>
     <name>myCalendarWidget</name>

@@ -18,7 +18,8 @@ const QList<const cli::subcommand *> &commands()
         &cli::checkNipCommand,    &cli::checkMaterialsCommand, &cli::firmUsesCommand,
         &cli::bomCsvCommand,      &cli::bomReportCommand,      &cli::bomOrderCommand,
         &cli::bomShortageCommand, &cli::mailCommand,           &cli::helpersCommand,
-        &cli::downloadCommand,    &cli::packCommand,           &cli::unpackCommand,
+        &cli::downloadCommand,    &cli::uploadCommand,         &cli::packCommand,
+        &cli::unpackCommand,
     };
     return table;
 }
