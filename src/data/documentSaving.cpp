@@ -4,6 +4,7 @@
 #include "data/documentStruct.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
+#include "util/beside.h"
 #include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
@@ -32,14 +33,18 @@ QString &lastVersionFault()
 
 QString versionFault() { return lastVersionFault(); }
 
-bool keepVersion(const QString &path, configStruct &config)
+bool keepVersion(const QString &path, configStruct &config, const progressFunction &progress)
 {
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QStringList folders = config.backupFolders();
     bool kept = false;
     for (const QString &folder : folders)
-        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount) || kept;
+        kept = runBeside(progress,
+                         [&path, folder, most = count ? count->value1.toInt() : usualCount] {
+                             return fileVersions::keep(path, folder, most);
+                         })
+               || kept;
     lastVersionFault().clear();
     if (kept)
         return true;
@@ -65,17 +70,18 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                != prompts::answer::yes)
         return false;
     scratch::clearLeftSaves(path);
-    keepVersion(path, config);
     document.leftOut = {};
     bool written = false;
     bool cancelled = false;
     QString reason;
     const auto write = [&](const progressFunction &progress) {
         const auto watched = [&](long long done, long long total) {
-            cancelled = progress && !progress(done, total);
+            cancelled = cancelled || (progress && !progress(done, total));
             return !cancelled;
         };
-        written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
+        keepVersion(path, config, progress ? progressFunction(watched) : progressFunction());
+        written = !cancelled
+                  && saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
     };
     if (shown)
         shown(write);

@@ -164,13 +164,19 @@ void programData::loadDatabase(databaseKind kind, const progressFunction &progre
     putInUse(kind, std::move(database));
 }
 
-bool programData::reloadDatabase(databaseKind kind)
+bool programData::reloadDatabase(databaseKind kind, const progressFunction &progress)
 {
     const QString path = m_databases[kind]->filePath;
     auto database = std::make_unique<kiv_mat_databaseStruct>();
     QString reason;
-    if (!readChecked(path, database.get(), &reason)) {
-        userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
+    bool cancelled = false;
+    const progressFunction asked = [&](long long done, long long total) {
+        cancelled = cancelled || (progress && !progress(done, total));
+        return !cancelled;
+    };
+    if (!readChecked(path, database.get(), &reason, asked)) {
+        if (!cancelled)
+            userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
         return false;
     }
     putInUse(kind, std::move(database));

@@ -42,8 +42,8 @@ public:
     std::unique_ptr<kiv_mat_bomsStruct> readBoms();
     void putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms);
     // Reads a loaded database's file again, whatever the options say now. False, with the database
-    // as it is, when it cannot be read.
-    bool reloadDatabase(databaseKind kind);
+    // as it is, when it cannot be read or progress cancels.
+    bool reloadDatabase(databaseKind kind, const progressFunction &progress = {});
     // The file of a database as it was when it was read or, once it is told, written.
     fileState &fileOf(databaseKind kind) { return m_files[kind]; }
     fileState &fileOfBoms() { return m_fileOfBoms; }

@@ -13,11 +13,11 @@
 #include "window/searchLine.h"
 #include "window/workProgress.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDir>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
@@ -344,14 +344,20 @@ bool Kiv_mat_databaseWindow::load()
     setClean();
     m_model->setRecords(nullptr);
     m_model->removeRows(0, m_model->rowCount());
-    QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool read = known().reloadDatabase(m_kind);
-    QApplication::restoreOverrideCursor();
+    bool read = false;
+    bool cancelled = false;
+    {
+        workProgress::scope work(progress(), tr("Reading"));
+        read = known().reloadDatabase(m_kind, work.function());
+        cancelled = !read && work.cancelled();
+    }
     showDatabase();
     if (m_merge)
         m_merge->compareAgain();
     if (!read)
         setChanged();
+    if (cancelled)
+        tell(tr("Cancelled"));
     userPrompts().showErrors();
     return read;
 }
