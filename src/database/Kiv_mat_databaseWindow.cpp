@@ -362,6 +362,10 @@ bool Kiv_mat_databaseWindow::load()
     return read;
 }
 
+// The rows of the groups that were opened go with their window; those of a large database take a
+// gigabyte.
+void Kiv_mat_databaseWindow::closed() { showDatabase(); }
+
 bool Kiv_mat_databaseWindow::mayClose()
 {
     return finishEditing() && (!m_editor || !m_editor->isVisible() || m_editor->close())

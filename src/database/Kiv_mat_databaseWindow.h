@@ -111,6 +111,7 @@ protected:
     bool load() override;
     bool write(const QString &path) override;
     bool discard() override { return load(); }
+    void closed() override;
     fileState &onDisk() override;
     QLatin1String editOption() const override;
     QString closeQuestion() const override { return tr("Save database"); }

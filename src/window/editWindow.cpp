@@ -3,6 +3,7 @@
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "tree/myTreeView.h"
+#include "util/memory.h"
 #include "util/prompts.h"
 
 #include <QAction>
@@ -437,6 +438,7 @@ void editWindow::closeEvent(QCloseEvent *event)
     m_givenUp = false;
     closed();
     m_fileLock.claim({});
+    giveBackMemory();
     baseWindow::closeEvent(event);
 }
 
