@@ -359,6 +359,10 @@
         <source>%1, once more</source>
         <translation>%1, jeszcze raz</translation>
     </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseWindow</name>
@@ -1004,6 +1008,10 @@
     <message>
         <source>No copy of the unsaved order can be kept: %1</source>
         <translation>Nie można zachować kopii niezapisanego zamówienia: %1</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
     </message>
 </context>
 <context>
@@ -2623,6 +2631,22 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Print one JSON document for other programs.</source>
         <translation>Wypisz jeden dokument JSON dla innych programów.</translation>
+    </message>
+    <message>
+        <source>The key of the server (SHA256:...), when none was accepted yet.</source>
+        <translation>Klucz serwera (SHA256:...), jeśli żaden nie został jeszcze przyjęty.</translation>
+    </message>
+    <message>
+        <source>leads to no file of the file server</source>
+        <translation>nie prowadzi do pliku na serwerze plików</translation>
+    </message>
+    <message>
+        <source>The server is not known. When its key is right, give it: --host-key %1</source>
+        <translation>Serwer nie jest znany. Jeśli jego klucz się zgadza, podaj go: --host-key %1</translation>
+    </message>
+    <message>
+        <source>Copies a file to where its link leads on the file server.</source>
+        <translation>Kopiuje plik tam, dokąd prowadzi jego odnośnik na serwerze plików.</translation>
     </message>
 </context>
 <context>
@@ -4484,6 +4508,26 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>Another material has this KTM</source>
         <translation>Ten KTM ma już inny materiał</translation>
+    </message>
+    <message>
+        <source>The file server %1 is not known yet. Its key is</source>
+        <translation>Serwer plików %1 nie jest jeszcze znany. Jego klucz to</translation>
+    </message>
+    <message>
+        <source>Its administrator can tell whether that is so.</source>
+        <translation>Czy tak jest, wie jego administrator.</translation>
+    </message>
+    <message>
+        <source>Accept the key and send</source>
+        <translation>Przyjmij klucz i wyślij</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Nothing was sent</source>
+        <translation>Niczego nie wysłano</translation>
     </message>
 </context>
 <context>

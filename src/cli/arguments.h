@@ -124,6 +124,7 @@ extern const subcommand bomShortageCommand;
 extern const subcommand mailCommand;
 extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;
+extern const subcommand uploadCommand;
 extern const subcommand packCommand;
 extern const subcommand unpackCommand;
 extern const subcommand altiumCommand;

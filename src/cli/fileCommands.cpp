@@ -187,7 +187,7 @@ int runRepair(const QStringList &arguments)
         return cannotWrite(target, reason);
     out() << "kind: " << repaired.document->kind().root << '\n';
     for (const fact &f : factsOf(*repaired.document))
-        out() << f.first << ": " << f.second << '\n';
+        out() << f.name << ": " << f.text << '\n';
     out() << "changes: " << repaired.changeCount << '\n' << Qt::flush;
     return done;
 }

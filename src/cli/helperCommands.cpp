@@ -1,9 +1,15 @@
-// helpers: where the helper programs are. download, pack, unpack: what they do for the program.
+// helpers: where the helper programs are. download, upload, pack, unpack: what they do for the
+// program.
 #include "cli/arguments.h"
 
+#include "data/configStruct.h"
+#include "database/materialFiles.h"
+#include "tools/KivScp.h"
 #include "tools/curl_download.h"
 #include "tools/helpers.h"
+#include "tools/hostKeys.h"
 #include "tools/zip_compress.h"
+#include "util/paths.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -91,6 +97,56 @@ int runUnpack(const QStringList &arguments)
     return result == 0 ? done : refused;
 }
 
+int runUpload(const QStringList &arguments)
+{
+    parser options(uploadCommand, QStringLiteral("FILE LINK"), 2, 2);
+    const QCommandLineOption hostKey(
+        QStringLiteral("host-key"),
+        QCoreApplication::translate(
+            "cli", "The key of the server (SHA256:...), when none was accepted yet."),
+        QStringLiteral("KEY"));
+    options.addOption(hostKey);
+    if (!options.accept(arguments))
+        return options.code();
+    configStruct config;
+    if (!config.load(paths::config())) {
+        err() << paths::config() << ": "
+              << QCoreApplication::translate("cli", "cannot be read or is invalid") << '\n'
+              << Qt::flush;
+        return refused;
+    }
+    const materialFiles::fileServer server = materialFiles::serverOf(config);
+    const QString host = materialFiles::hostOf(server);
+    const QString link = options.positionalArguments().at(1);
+    const QString target = materialFiles::placeOnServer(server, link);
+    if (target.isEmpty()) {
+        err() << link << ": "
+              << QCoreApplication::translate("cli", "leads to no file of the file server") << '\n'
+              << Qt::flush;
+        return refused;
+    }
+    KivScp::scp runner;
+    QObject::connect(&runner, &KivScp::scp::updateLog, &runner, [](const QString &text) {
+        err() << text << '\n' << Qt::flush;
+    });
+    constexpr int timeoutMs = 10 * 60 * 1000;
+    runner.start({server.account, server.password, host, options.positionalArguments().at(0),
+                  target, options.isSet(hostKey) ? options.value(hostKey) : hostKeys::keyOf(host)},
+                 timeoutMs);
+    if (runner.wait() == 0)
+        return done;
+    if (runner.keyChanged())
+        err() << materialFiles::changedKey(host) << '\n' << Qt::flush;
+    else if (!runner.offeredKey().isEmpty())
+        err() << QCoreApplication::translate(
+                     "cli",
+                     "The server is not known. When its key is right, give it: --host-key %1")
+                     .arg(runner.offeredKey())
+              << '\n'
+              << Qt::flush;
+    return refused;
+}
+
 } // namespace
 
 const subcommand helpersCommand{
@@ -107,5 +163,9 @@ const subcommand unpackCommand{
     QT_TRANSLATE_NOOP("cli",
                       "Unpacks a ZIP archive; KIVZP_ARCHIVE_PASSWORD may hold its password."),
     runUnpack};
+
+const subcommand uploadCommand{
+    "upload", QT_TRANSLATE_NOOP("cli", "Copies a file to where its link leads on the file server."),
+    runUpload};
 
 } // namespace cli

@@ -19,7 +19,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::checkMaterialsCommand, &cli::firmUsesCommand,     &cli::bomCsvCommand,
         &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
         &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
-        &cli::packCommand,           &cli::unpackCommand,
+        &cli::uploadCommand,         &cli::packCommand,         &cli::unpackCommand,
     };
     return table;
 }

@@ -4,6 +4,7 @@
 #include "data/documentStruct.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
+#include "util/beside.h"
 #include "util/fileVersions.h"
 #include "util/messages.h"
 #include "util/prompts.h"
@@ -35,15 +36,20 @@ QString versionFault() { return lastVersionFault(); }
 
 namespace {
 
-bool keepIn(const QString &path, const QString &content, configStruct &config)
+bool keepIn(const QString &path, const QString &content, configStruct &config,
+            const progressFunction &progress = {})
 {
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QStringList folders = config.backupFolders();
     bool kept = false;
     for (const QString &folder : folders)
-        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount, content)
-               || kept;
+        kept =
+            runBeside(progress,
+                      [&path, &content, folder, most = count ? count->value1.toInt() : usualCount] {
+                          return fileVersions::keep(path, folder, most, content);
+                      })
+            || kept;
     lastVersionFault().clear();
     if (kept)
         return true;
@@ -65,7 +71,10 @@ void run(const workShown &shown, const std::function<void(const progressFunction
 
 } // namespace
 
-bool keepVersion(const QString &path, configStruct &config) { return keepIn(path, {}, config); }
+bool keepVersion(const QString &path, configStruct &config, const progressFunction &progress)
+{
+    return keepIn(path, {}, config, progress);
+}
 
 bool keepDocument(const QString &path, const documentStruct &document, configStruct &config,
                   const workShown &shown)
@@ -96,17 +105,18 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                != prompts::answer::yes)
         return false;
     scratch::clearLeftSaves(path);
-    keepVersion(path, config);
     document.leftOut = {};
     bool written = false;
     bool cancelled = false;
     QString reason;
     run(shown, [&](const progressFunction &progress) {
         const auto watched = [&](long long done, long long total) {
-            cancelled = progress && !progress(done, total);
+            cancelled = cancelled || (progress && !progress(done, total));
             return !cancelled;
         };
-        written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
+        keepVersion(path, config, progress ? progressFunction(watched) : progressFunction());
+        written = !cancelled
+                  && saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
     });
     if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")

@@ -188,15 +188,6 @@ programData::readDatabase programData::readAgain(databaseKind kind,
     return read;
 }
 
-bool programData::reloadDatabase(databaseKind kind)
-{
-    readDatabase read = readAgain(kind);
-    const bool isRead = read.database != nullptr;
-    if (isRead)
-        putInUse(kind, std::move(read));
-    return isRead;
-}
-
 void programData::putInUse(databaseKind kind, readDatabase read)
 {
     m_files[kind] = read.state;

@@ -50,8 +50,6 @@ public:
     };
     readDatabase readAgain(databaseKind kind, const progressFunction &progress = {});
     void putInUse(databaseKind kind, readDatabase read);
-    // Both; false, with the database as it is, when it cannot be read.
-    bool reloadDatabase(databaseKind kind);
     // The file of a database as it was when it was read or, once it is told, written.
     fileState &fileOf(databaseKind kind) { return m_files[kind]; }
     fileState &fileOfBoms() { return m_fileOfBoms; }

@@ -256,8 +256,9 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
     for (const auto &[place, fields] : selected)
         chosen[recordOf(m_comparison.differences[size_t(place)])] = fields;
     std::vector<materialDifference> wanted;
-    for (materialDifference &difference :
-         compareDatabases(m_database->rows().database(), *m_other).differences) {
+    workProgress::scope work(progress(), tr("Merge"));
+    comparison now = compareDatabases(m_database->rows().database(), *m_other, work.function());
+    for (materialDifference &difference : now.differences) {
         const auto found = chosen.find(recordOf(difference));
         if (difference.kind == materialDifference::absent || found == chosen.end())
             continue;
@@ -271,7 +272,10 @@ void Kiv_mat_databaseMergeWindow::commandSet(bool)
         wanted.push_back(std::move(difference));
     }
     const int count = int(wanted.size());
-    m_database->takeOver(wanted, false, tr("Merge"));
+    if (now.cancelled || !m_database->takeOver(wanted, false, tr("Merge"), work.function())) {
+        tell(tr("Cancelled"));
+        return;
+    }
     compareAgain();
     tell(tr("%n material(s) taken over", nullptr, count));
 }

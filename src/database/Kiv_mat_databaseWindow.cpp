@@ -14,11 +14,11 @@
 #include "window/searchLine.h"
 #include "window/workProgress.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDir>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
@@ -340,8 +340,6 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     return saved;
 }
 
-// What the program works with is what the file holds. False when it cannot be read: then what was
-// edited is still there, and still not saved.
 // A group that only the other one has, and most of whose materials stand in one that it lacks, is
 // that one under another name.
 std::unique_ptr<command> Kiv_mat_databaseWindow::become(documentStruct &wanted)
@@ -386,6 +384,8 @@ std::unique_ptr<command> Kiv_mat_databaseWindow::become(documentStruct &wanted)
                            : std::make_unique<appendCommands>(std::move(members), m_model);
 }
 
+// What the program works with is what the file holds. False when it cannot be read: then what was
+// edited is still there, and still not saved.
 bool Kiv_mat_databaseWindow::load()
 {
     programData::readDatabase read;
@@ -405,6 +405,10 @@ bool Kiv_mat_databaseWindow::load()
         m_merge->compareAgain();
     return true;
 }
+
+// The rows of the groups that were opened go with their window; those of a large database take a
+// gigabyte.
+void Kiv_mat_databaseWindow::closed() { showDatabase(); }
 
 bool Kiv_mat_databaseWindow::mayClose()
 {

@@ -93,9 +93,10 @@ public slots:
     void commandAddNew(QStandardItem *group, materialStruct *material);
     void commandEditExist(QStandardItem *item, materialStruct *material);
 
-    // Takes over the selected differences as one step.
-    void takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
-                  const QString &what);
+    // Takes over the selected differences as one step, or, when progress cancels, none of them:
+    // then false, told in the status bar.
+    bool takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
+                  const QString &what, const progressFunction &progress = {});
     // Gives manufacturers and suppliers their new names as one step.
     void renameFirms(const firmOperations::renameList &renames);
 
@@ -112,6 +113,7 @@ protected:
     bool load() override;
     bool write(const QString &path) override;
     bool discard() override { return load(); }
+    void closed() override;
     fileState &onDisk() override;
     QLatin1String editOption() const override;
     QString closeQuestion() const override { return tr("Save database"); }

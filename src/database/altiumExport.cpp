@@ -181,6 +181,18 @@ private:
     int m_row = 0;
 };
 
+bool save(workbook &book, const QString &path, exportResult &result,
+          const progressFunction &progress)
+{
+    if (book.saveAs(path, progress))
+        return true;
+    if (book.isCancelled())
+        result.result = exportResult::cancelled;
+    else
+        fail(result, path + QLatin1String(": ") + book.error());
+    return false;
+}
+
 QByteArray descriptionOf(libraryDescription::source kind, const QString &path,
                          const QStringList &tables, const QStringList &columnNames)
 {
@@ -330,8 +342,8 @@ exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QStr
     if (!libraryFile.open(QIODevice::WriteOnly)
         || libraryFile.write(description) != description.size())
         return fail(result, notWritten(library));
-    if (!book.saveAs(path))
-        return fail(result, path + QLatin1String(": ") + book.error());
+    if (!save(book, path, result, progress))
+        return result;
     if (!libraryFile.commit())
         return fail(result, notWritten(library));
     result.files = QStringList{path, library};
@@ -412,8 +424,8 @@ exportResult exportGroups(const kiv_mat_databaseStruct &database, const QString 
     }
     if (!good)
         return fail(result, book.error());
-    if (!book.saveAs(path))
-        return fail(result, path + QLatin1String(": ") + book.error());
+    if (!save(book, path, result, progress))
+        return result;
     result.files = QStringList(path);
     return result;
 }

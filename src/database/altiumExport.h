@@ -8,8 +8,8 @@
 class kiv_mat_databaseStruct;
 
 // Each writes the whole database to path, replacing what was there only when all of it has been
-// made. progress is told materials; the last part, the packing of the workbook, cannot be
-// cancelled. Beside the file lies its description for the CAD tool, libraryPath(path).
+// made. progress is told materials, and a total of 0 while the workbook is packed. Beside the file
+// lies its description for the CAD tool, libraryPath(path).
 
 // One sheet a group: the captions in row 1, then one row a material. All cells are texts.
 exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QString &path,

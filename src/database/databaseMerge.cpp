@@ -213,10 +213,15 @@ public:
         }
         m_groups[m_places.value(group)].second.insert(material);
     }
-    void remove(databaseTarget &target) const
+    // next is asked before each that goes; false when it said so.
+    bool remove(databaseTarget &target, const std::function<bool(qint64 more)> &next) const
     {
-        for (const auto &[group, materials] : m_groups)
+        for (const auto &[group, materials] : m_groups) {
             target.remove(group, materials);
+            if (!next(materials.size()))
+                return false;
+        }
+        return true;
     }
 
 private:
@@ -328,9 +333,14 @@ QString allMaterialsInDatabase()
     return QCoreApplication::translate("databaseMerge", "All materials in database");
 }
 
-void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
-              const kiv_mat_databaseStruct &mine, databaseTarget &target)
+bool carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target,
+              const progressFunction &progress)
 {
+    const auto total = qint64(plan.size());
+    qint64 done = 0;
+    // One of them may open a group, which takes a while: each is told.
+    const auto next = [&](qint64 more) { return !progress || progress(done += more, total); };
     groupFinder groups(mine, target);
     doomedMaterials doomed;
     // Where those are now that more than one difference belongs to.
@@ -364,13 +374,15 @@ void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
         case materialDifference::absent:
             if (absent == absentOnes::remove)
                 doomed.add(difference.myGroup, difference.mine);
-            break;
+            continue;
         case materialDifference::groupCpv:
             target.setCpv(difference.myGroup, difference.otherGroup->cpv);
             break;
         }
+        if (!next(1))
+            return false;
     }
-    doomed.remove(target);
+    return doomed.remove(target, next);
 }
 
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,

@@ -98,8 +98,10 @@ enum class absentOnes
 // the group of its group's name, which is made with its CPV when it is missing, and so does one
 // that moved; a changed one gets the listed fields only; the absent ones are removed last, if at
 // all. A repeated one is added where the other database wins, else it is taken as a change.
-void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
-              const kiv_mat_databaseStruct &mine, databaseTarget &target);
+// progress is told differences; false when it cancelled: what was done until then stays done.
+bool carryOut(const std::vector<materialDifference> &plan, absentOnes absent,
+              const kiv_mat_databaseStruct &mine, databaseTarget &target,
+              const progressFunction &progress = {});
 // On the records alone: indexes over mine are the caller's to keep in step, and the pointers to
 // removed materials in the plan are dangling afterwards.
 void carryOut(const std::vector<materialDifference> &plan, absentOnes absent,

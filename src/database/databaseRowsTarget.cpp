@@ -53,6 +53,12 @@ void databaseRowsTarget::remove(d_groupStruct *group, const QSet<const materialS
             m_members.push_back(std::make_unique<deleteFromItem>(parent, parent->child(row)));
 }
 
+void databaseRowsTarget::revert()
+{
+    if (const auto all = step())
+        all->undo();
+}
+
 std::unique_ptr<command> databaseRowsTarget::step()
 {
     if (m_members.empty())

@@ -25,6 +25,8 @@ public:
 
     // All that was done, which is applied already; null when there was nothing.
     std::unique_ptr<command> step();
+    // Takes all of it back.
+    void revert();
 
 private:
     // The group's row, with those of its materials made.

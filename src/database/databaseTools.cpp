@@ -243,8 +243,10 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
         tr("Save to File"),
         QFileInfo(m_rows->database().filePath).absolutePath() + QLatin1String("/links.xlsx"),
         xlsxFilter());
-    if (!path.isEmpty())
-        tellExport(exportLinks(checked, path));
+    if (path.isEmpty())
+        return;
+    workProgress::scope work(progress(), tr("Exporting"));
+    tellExport(exportLinks(checked, path, work.function()));
 }
 
 // --- Taking over
@@ -340,19 +342,25 @@ void Kiv_mat_databaseWindow::commandCPVIndex(bool)
 
 void Kiv_mat_databaseWindow::commandCPVIndexWWW(bool) { desktop::followLink(cpvIndexPage()); }
 
-void Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
-                                      bool deleteAbsent, const QString &what)
+bool Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &selected,
+                                      bool deleteAbsent, const QString &what,
+                                      const progressFunction &progress)
 {
     historyMoves();
     const changeBatch batch(m_model);
     databaseRowsTarget target(m_model, m_rows.get());
-    carryOut(selected, deleteAbsent ? absentOnes::remove : absentOnes::keep, m_rows->database(),
-             target);
+    const bool done = carryOut(selected, deleteAbsent ? absentOnes::remove : absentOnes::keep,
+                               m_rows->database(), target, progress);
+    if (!done)
+        target.revert();
     auto step = target.step();
     if (step)
         push(std::move(step), what);
     else
         historyMoved();
+    if (!done)
+        tell(tr("Cancelled"));
+    return done;
 }
 
 void Kiv_mat_databaseWindow::renameFirms(const firmOperations::renameList &renames)
@@ -468,6 +476,10 @@ void Kiv_mat_databaseWindow::commandUpdate(bool)
     const QStringList lines = deletedLines(wanted);
     if (!mayDelete(wanted))
         return;
-    takeOver(wanted, true, tr("Update"));
+    {
+        workProgress::scope work(progress(), tr("Update"));
+        if (!takeOver(wanted, true, tr("Update"), work.function()))
+            return;
+    }
     list({}, lines);
 }

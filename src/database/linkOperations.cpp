@@ -76,7 +76,8 @@ QStringList linkErrorLines(const linkCheckResult &result)
     return lines;
 }
 
-exportResult exportLinks(const linkCheckResult &checked, const QString &path)
+exportResult exportLinks(const linkCheckResult &checked, const QString &path,
+                         const progressFunction &progress)
 {
     exportResult result;
     workbook book;
@@ -94,11 +95,11 @@ exportResult exportLinks(const linkCheckResult &checked, const QString &path)
         good = good
                && write({link.material->d_ktm, link.material->d_name, link.link,
                          link.answers ? QStringLiteral("Ok") : QStringLiteral("Error")});
-    if (good && book.saveAs(path)) {
+    if (good && book.saveAs(path, progress)) {
         result.files.append(path);
         return result;
     }
-    result.result = exportResult::failed;
+    result.result = book.isCancelled() ? exportResult::cancelled : exportResult::failed;
     result.error = path + QLatin1String(": ") + book.error();
     return result;
 }

@@ -37,5 +37,6 @@ linkCheckResult checkUrls(const kiv_mat_databaseStruct &database,
 // An HTML line for each link that does not answer.
 QStringList linkErrorLines(const linkCheckResult &result);
 
-// All checked links as a workbook: KTM, name, link, result.
-exportResult exportLinks(const linkCheckResult &checked, const QString &path);
+// All checked links as a workbook: KTM, name, link, result. progress is asked while it is packed.
+exportResult exportLinks(const linkCheckResult &checked, const QString &path,
+                         const progressFunction &progress = {});

@@ -2,6 +2,7 @@
 
 #include "data/configStruct.h"
 #include "data/vocabulary.h"
+#include "tools/hostKeys.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -116,6 +117,22 @@ QString sentLine(const QString &file, const QString &target, bool completed)
 {
     return lineOf(tr("Send file"), file, target) + QLatin1String("&nbsp;")
            + (completed ? tr("completed") : tr("error")) + QLatin1String("<br>");
+}
+
+QString changedKey(const QString &host)
+{
+    QString told =
+        tr(QT_TRANSLATE_NOOP("materialFiles",
+                             "The file server %1 has another key than the one that was accepted. "
+                             "Nothing was sent."))
+            .arg(host);
+    if (!hostKeys::keyOf(host).isEmpty())
+        told += QLatin1Char(' ')
+                + tr(QT_TRANSLATE_NOOP("materialFiles",
+                                       "If its administrator has given it a new one, take its line "
+                                       "out of %1."))
+                      .arg(QDir::toNativeSeparators(hostKeys::file()));
+    return told;
 }
 
 QString notSentLine(const QString &file, const QString &target)

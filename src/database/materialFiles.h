@@ -47,6 +47,9 @@ QString placeOnServer(const fileServer &server, const QString &link);
 // The line of the log about a file that was sent to a target, or was not.
 QString sentLine(const QString &file, const QString &target, bool completed);
 
+// What is told of a server that has another key than the accepted one.
+QString changedKey(const QString &host);
+
 // The line about one whose sending could not begin.
 QString notSentLine(const QString &file, const QString &target);
 

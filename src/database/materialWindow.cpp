@@ -3,7 +3,7 @@
 #include "commands/editCommands.h"
 #include "data/programData.h"
 #include "database/materialChecks.h"
-#include "tools/KivScp.h"
+#include "tools/hostKeys.h"
 #include "tree/myTreeView.h"
 #include "util/desktop.h"
 #include "util/messages.h"
@@ -381,19 +381,46 @@ void materialWindow::commandDatasheets(bool) { addServerFile(materialFiles::data
 
 void materialWindow::commandDeclarations(bool) { addServerFile(materialFiles::declaration); }
 
-int materialWindow::send(const QString &source, const QString &target)
+// The result of the helper; nothing where the server's key was not accepted.
+std::optional<int> materialWindow::send(const QString &source, const QString &target)
 {
     const materialFiles::fileServer server = materialFiles::serverOf(known().config());
+    const QString host = materialFiles::hostOf(server);
+    const QString kept = hostKeys::keyOf(host);
     KivScp::scp runner;
+    const int result = run(runner, {server.account, server.password, host, source, target, kept});
+    if (result == 0)
+        return 0;
+    if (runner.keyChanged()) {
+        userPrompts().showError(materialFiles::changedKey(host).toHtmlEscaped());
+        return {};
+    }
+    const QString offered = runner.offeredKey();
+    if (offered.isEmpty())
+        return result;
+    const QString question =
+        tr("The file server %1 is not known yet. Its key is").arg(host.toHtmlEscaped())
+        + QLatin1String("<br><b>") + offered + QLatin1String("</b><br>")
+        + tr("Its administrator can tell whether that is so.");
+    if (!userPrompts().decide(question, {tr("Accept the key and send")}))
+        return {};
+    if (!hostKeys::keep(host, offered))
+        userPrompts().showError(messages::because(
+            tr("The file %1 cannot be written").arg(hostKeys::file().toHtmlEscaped()),
+            hostKeys::file()));
+    KivScp::scp again;
+    return run(again, {server.account, server.password, host, source, target, offered});
+}
+
+int materialWindow::run(KivScp::scp &runner, const KivScp::upload &job)
+{
     connect(&runner, &KivScp::scp::updateLog, this,
             [](const QString &text) { userPrompts().log(logLine(text)); });
     constexpr int timeoutMs = 10 * 60 * 1000;
     constexpr int pauseMs = 10;
     workProgress::scope work(progress(), tr("Send file"));
     const progressFunction goesOn = work.function();
-    runner.start(
-        {server.account, server.password, materialFiles::hostOf(server), source, target, {}},
-        timeoutMs);
+    runner.start(job, timeoutMs);
     while (!runner.isDone()) {
         // How far the helper is nobody tells.
         if (!goesOn(0, 0))
@@ -415,7 +442,11 @@ void materialWindow::commandCopyFileToServer(bool)
     if (source.isEmpty())
         return;
     m_sources.insert(link, source);
-    const int result = send(source, target);
+    const std::optional<int> result = send(source, target);
+    if (!result) {
+        tell(tr("Nothing was sent"));
+        return;
+    }
     const QString shown = materialFiles::hostOf(server) + QLatin1Char(':') + target;
     if (result == 0) {
         userPrompts().log(materialFiles::sentLine(source, shown, true));

@@ -4,6 +4,7 @@
 
 #include "database/materialFiles.h"
 #include "database/materialTree.h"
+#include "tools/KivScp.h"
 #include "window/editWindow.h"
 
 class QMenu;
@@ -80,7 +81,8 @@ private:
     void deleteRows(const QList<QStandardItem *> &firstCells, const QString &what);
     QString chooseFile();
     void addServerFile(materialFiles::linkKind kind);
-    int send(const QString &source, const QString &target);
+    std::optional<int> send(const QString &source, const QString &target);
+    int run(KivScp::scp &runner, const KivScp::upload &job);
 
     std::unique_ptr<materialStruct> m_edited = std::make_unique<materialStruct>();
     std::unique_ptr<materialStruct> m_checked; // passed the checks, to be given away

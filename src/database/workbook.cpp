@@ -7,14 +7,38 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <xlsxwriter.h>
 
+#include <chrono>
+#include <future>
+#include <vector>
+
+namespace {
+
+constexpr std::chrono::milliseconds askEvery(20);
+
+// The library cannot be interrupted: what was given up is packed to its end, in its own folder,
+// which then goes. The program waits for it before it ends.
+void leaveAlone(std::future<int> packing)
+{
+    static std::vector<std::future<int>> left;
+    std::erase_if(left, [](const std::future<int> &one) {
+        return one.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    });
+    left.push_back(std::move(packing));
+}
+
+} // namespace
+
 workbook::workbook()
-    : m_scratch(scratch::pattern())
-    , m_book(workbook_new(QFile::encodeName(m_scratch.filePath(QStringLiteral("book.xlsx")))))
+    : m_scratch(std::make_shared<QTemporaryDir>(scratch::pattern()))
+    , m_book(workbook_new(QFile::encodeName(packed())))
 {
 }
+
+QString workbook::packed() const { return m_scratch->filePath(QStringLiteral("book.xlsx")); }
 
 workbook::~workbook()
 {
@@ -47,25 +71,46 @@ bool workbook::write(int row, int column, const QString &content)
                                        text::firstUnits(content, maximumText).toUtf8(), nullptr));
 }
 
-bool workbook::saveAs(const QString &path)
+bool workbook::pack(const progressFunction &progress)
 {
-    if (!m_book)
-        return false;
-    const bool closed = good(workbook_close(m_book));
-    m_book = nullptr; // closing frees it, also when it fails
+    lxw_workbook *book = std::exchange(m_book, nullptr); // closing frees it, also when it fails
     m_sheet = nullptr;
-    if (!closed)
-        return false;
-    QFile made(m_scratch.filePath(QStringLiteral("book.xlsx")));
+    if (!progress)
+        return good(workbook_close(book));
+    std::future<int> packing = std::async(
+        std::launch::async, [book, folder = m_scratch] { return int(workbook_close(book)); });
+    while (packing.wait_for(askEvery) != std::future_status::ready)
+        if (!progress(0, 0)) {
+            leaveAlone(std::move(packing));
+            m_cancelled = true;
+            return false;
+        }
+    return good(packing.get());
+}
+
+bool workbook::copyTo(const QString &path, const progressFunction &progress)
+{
+    QFile made(packed());
     safeFile file(path);
     bool copied = made.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly);
     while (copied && !made.atEnd()) {
         const QByteArray block = made.read(1 << 18);
         copied = !block.isEmpty() && file.write(block) == block.size();
+        m_cancelled = progress && !progress(0, 0);
+        if (m_cancelled)
+            return false;
     }
-    if (copied && file.commit())
+    return copied && file.commit();
+}
+
+bool workbook::saveAs(const QString &path, const progressFunction &progress)
+{
+    if (!m_book || !pack(progress))
+        return false;
+    if (copyTo(path, progress))
         return true;
-    m_error = messages::because(
-        QCoreApplication::translate("workbook", "the file cannot be written"), path);
+    if (!m_cancelled)
+        m_error = messages::because(
+            QCoreApplication::translate("workbook", "the file cannot be written"), path);
     return false;
 }

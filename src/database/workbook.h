@@ -1,8 +1,13 @@
 // An Excel workbook as it is written, sheet after sheet. The only place that knows the library.
 #pragma once
 
+#include "util/progress.h"
+
 #include <QString>
-#include <QTemporaryDir>
+
+#include <memory>
+
+class QTemporaryDir;
 
 struct lxw_workbook;
 struct lxw_worksheet;
@@ -29,17 +34,24 @@ public:
     bool write(int row, int column, const QString &content);
 
     // Writes the file in one piece in the place of an older one, which stays as it was when that
-    // fails: then false, with error() set. The workbook is finished after that.
-    bool saveAs(const QString &path);
+    // fails: then false, with error() set. progress is asked while the library packs, which says
+    // nothing of how far it is (a total of 0), and may cancel: then false, with isCancelled(). The
+    // workbook is finished after that.
+    bool saveAs(const QString &path, const progressFunction &progress = {});
+    bool isCancelled() const { return m_cancelled; }
 
     // Why the last operation failed, as plain text.
     QString error() const { return m_error; }
 
 private:
     bool good(int libraryError);
+    bool pack(const progressFunction &progress);
+    bool copyTo(const QString &path, const progressFunction &progress);
+    QString packed() const;
 
-    QTemporaryDir m_scratch;
+    std::shared_ptr<QTemporaryDir> m_scratch; // packing that was given up goes on in it
     lxw_workbook *m_book = nullptr;
     lxw_worksheet *m_sheet = nullptr;
     QString m_error;
+    bool m_cancelled = false;
 };

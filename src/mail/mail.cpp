@@ -18,6 +18,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTimer>
 #include <QUrl>
 
 namespace mail {
@@ -86,7 +87,7 @@ QString timeOfName(const QString &folder, const QDateTime &time)
 
 // Copies files into a folder to pack, each under its place in the program's data folder, those from
 // elsewhere under their names. Two never land on one.
-bool stage(const QStringList &sources, const QString &target)
+bool stage(const QStringList &sources, const QString &target, const progressFunction &progress)
 {
     const QDir data(paths::dataDir());
     for (const QString &source : sources) {
@@ -100,17 +101,27 @@ bool stage(const QStringList &sources, const QString &target)
             logFailure(copy);
             return false;
         }
+        if (progress && !progress(0, 0))
+            return false;
     }
     return true;
 }
 
-bool pack(const QString &from, const QString &archive, const QString &password)
+bool pack(const QString &from, const QString &archive, const QString &password,
+          const progressFunction &progress)
 {
     zip_compress zip;
     QObject::connect(&zip, &zip_compress::updateProgress, &zip, [](const QString &text) {
         log(text.toHtmlEscaped() + QLatin1String("<br>"));
     });
+    QTimer asking;
+    QObject::connect(&asking, &QTimer::timeout, &zip, [&] {
+        if (!progress(0, 0))
+            zip.stop();
+    });
     zip.compress(from, archive, password);
+    if (progress)
+        asking.start(20);
     return zip.wait() == 0 && QFileInfo(archive).isFile();
 }
 
@@ -251,7 +262,8 @@ QStringList filesToSend(contents what, const configStruct &config)
     return list;
 }
 
-QString writeData(contents what, const configStruct &config, const removeLater &later)
+QString writeData(contents what, const configStruct &config, const removeLater &later,
+                  const progressFunction &progress)
 {
     const dataMessage &kind = dataMessages[int(what)];
     const bool made = !scratch::folder().isEmpty();
@@ -270,11 +282,14 @@ QString writeData(contents what, const configStruct &config, const removeLater &
     const QString archive = temporary + QLatin1String(kind.archive)
                             + timeOfName(temporary, QDateTime::currentDateTime())
                             + QLatin1String(".zip");
-    const bool filled = stage(sources, packed)
-                        && pack(packed, archive, config.options.value(optionKey::archivePassword));
+    const bool filled =
+        stage(sources, packed, progress)
+        && pack(packed, archive, config.options.value(optionKey::archivePassword), progress);
     files::removeFolder(packed);
     if (!filled) {
-        logFailure(archive);
+        files::removeFile(archive);
+        if (!progress || progress(0, 0))
+            logFailure(archive);
         return {};
     }
 

@@ -3,6 +3,8 @@
 // printing its PDF and showing what came of it.
 #pragma once
 
+#include "util/progress.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -72,8 +74,10 @@ using removeLater = std::function<void(const QString &path)>;
 
 // Packs the files into an archive in the run's temporary folder, with the password of the option
 // ARCHIVE_PASSWORD when it is set, and writes the message to the administrator. Waits for the
-// packing, letting events through; what it says goes to the log. Returns the path of the
-// description; empty, with the reason in the log, when the message could not be made.
-QString writeData(contents what, const configStruct &config, const removeLater &later);
+// packing, letting events through and asking progress; what it says goes to the log. Returns the
+// path of the description; empty when progress cancelled, or, with the reason in the log, when the
+// message could not be made.
+QString writeData(contents what, const configStruct &config, const removeLater &later,
+                  const progressFunction &progress = {});
 
 } // namespace mail

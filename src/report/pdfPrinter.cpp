@@ -1,5 +1,6 @@
 #include "report/pdfPrinter.h"
 
+#include "util/memory.h"
 #include "util/safeFile.h"
 #include "util/scratch.h"
 
@@ -9,6 +10,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
+#include <QScopeGuard>
 #include <QTemporaryFile>
 #include <QWebElement>
 #include <QWebFrame>
@@ -283,6 +285,8 @@ bool printPdf(QWebView *view, const QString &path, const QString &title,
     // A bad place is told before the long work.
     if (!safeFile(path).open(QIODevice::WriteOnly))
         return false;
+    // A report of hundreds of pages takes hundreds of megabytes.
+    const auto afterwards = qScopeGuard(giveBackMemory);
     // Printed elsewhere first: a failed or cancelled print leaves the old file.
     QTemporaryFile temporary(scratch::pattern(QStringLiteral(".pdf")));
     if (!temporary.open())

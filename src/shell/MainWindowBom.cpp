@@ -132,7 +132,11 @@ void MainWindow::sendData(mail::contents what)
     QString description;
     {
         workProgress::scope work(progress(), tr("Packing"));
-        description = mail::writeData(what, known().config(), removeAtTheEnd);
+        description = mail::writeData(what, known().config(), removeAtTheEnd, work.function());
+        if (work.cancelled()) {
+            tell(tr("Cancelled"));
+            return;
+        }
     }
     if (description.isEmpty())
         userPrompts().showError(

@@ -3,6 +3,7 @@
 #include "tools/helpers.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace KivScp {
 
@@ -20,6 +21,27 @@ void scp::start(const upload &job, int timeoutMs)
         }
     keepSecret(job.password);
     startChild(command(job), timeoutMs);
+}
+
+// Lines come without their ends: the key is as long as it is.
+QString scp::offeredKey() const
+{
+    static const QRegularExpression key(QStringLiteral("SHA256:[A-Za-z0-9+/]{43}"));
+    return m_said.contains(QLatin1String("host key is not cached")) ? key.match(m_said).captured()
+                                                                    : QString();
+}
+
+bool scp::keyChanged() const
+{
+    return m_said.contains(QLatin1String("POTENTIAL SECURITY BREACH"))
+           || m_said.contains(QLatin1String("Host key not in manually configured list"));
+}
+
+void scp::log(const QString &text)
+{
+    constexpr int longestMessage = 1 << 16;
+    m_said += text.left(longestMessage - m_said.size());
+    emit updateLog(text);
 }
 
 // -batch: pscp never asks, a server it does not know is refused. The source is absolute, so that

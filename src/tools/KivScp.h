@@ -27,13 +27,22 @@ public:
     // refused. The result is 0 when the file was copied. timeoutMs: more than 0.
     void start(const upload &job, int timeoutMs);
 
+    // After a failed end: the key of a server that was refused because nobody has accepted a key of
+    // it, as upload::hostKey takes it; empty otherwise.
+    QString offeredKey() const;
+    // And whether the server has another key than the accepted one.
+    bool keyChanged() const;
+
     static QString command(const upload &job);
 
 signals:
     void updateLog(const QString &text);
 
 protected:
-    void log(const QString &text) override { emit updateLog(text); }
+    void log(const QString &text) override;
+
+private:
+    QString m_said; // its beginning
 };
 
 } // namespace KivScp

@@ -15,15 +15,26 @@ constexpr quint32 typeBits = 0170000;
 constexpr quint32 linkType = 0120000;
 
 // What is packed here shrinks to a thirtieth; what shrinks to far less was made to fill a disk.
-constexpr quint64 usualSize = quint64(100) << 20;
-constexpr quint64 largestSize = quint64(4) << 30;
-constexpr quint64 largestRatio = 200;
+constexpr quint64 usualSize = quint64(50) << 20;
+constexpr quint64 largestSize = quint64(2) << 30;
+constexpr quint64 largestRatio = 100;
 
 // Reads only: nothing is written back.
 struct archiveCloser
 {
     void operator()(zip_t *archive) const { zip_discard(archive); }
 };
+
+using openArchive = std::unique_ptr<zip_t, archiveCloser>;
+
+// The directory has to agree with what stands before each file.
+openArchive opened(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        return {};
+    return openArchive(
+        zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr));
+}
 
 QString nameOf(const QByteArray &bytes)
 {
@@ -35,11 +46,7 @@ QString nameOf(const QByteArray &bytes)
 
 std::optional<std::vector<zipEntry>> zipEntries(const QString &path)
 {
-    if (!QFileInfo(path).isFile())
-        return {};
-    // The directory has to agree with what stands before each file.
-    const std::unique_ptr<zip_t, archiveCloser> archive(
-        zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY | ZIP_CHECKCONS, nullptr));
+    const openArchive archive = opened(path);
     if (!archive)
         return {};
     std::vector<zipEntry> entries;
@@ -69,6 +76,38 @@ bool isTooLarge(const std::vector<zipEntry> &entries, qint64 archiveSize)
             return true;
     }
     return sum > usualSize && sum / largestRatio > quint64(archiveSize);
+}
+
+bool unpacksAsSaid(const QString &path, const QString &password)
+{
+    const openArchive archive = opened(path);
+    if (!archive)
+        return false;
+    zip_set_default_password(archive.get(), password.toLocal8Bit().constData());
+    std::vector<char> block(1 << 16);
+    const zip_int64_t count = zip_get_num_entries(archive.get(), 0);
+    for (zip_int64_t i = 0; i < count; ++i) {
+        const auto index = zip_uint64_t(i);
+        zip_stat_t state;
+        if (zip_stat_index(archive.get(), index, 0, &state) != 0)
+            return false;
+        zip_file_t *file = zip_fopen_index(archive.get(), index, 0);
+        // With the wrong password nothing is unpacked.
+        if (!file) {
+            const int error = zip_error_code_zip(zip_get_error(archive.get()));
+            if (error == ZIP_ER_WRONGPASSWD || error == ZIP_ER_NOPASSWD)
+                continue;
+            return false;
+        }
+        quint64 sum = 0;
+        zip_int64_t got = 0;
+        while (sum <= state.size && (got = zip_fread(file, block.data(), block.size())) > 0)
+            sum += quint64(got);
+        zip_fclose(file);
+        if (sum > state.size)
+            return false;
+    }
+    return true;
 }
 
 bool landsInside(const zipEntry &entry, const QString &folder)

@@ -21,6 +21,10 @@ std::optional<std::vector<zipEntry>> zipEntries(const QString &path);
 // upwards, follows no link out of the folder, and it is no link itself. Both slashes separate.
 bool landsInside(const zipEntry &entry, const QString &folder);
 
-// Whether the entries are more than an archive of honest data unpacks to: above 4 GB, or above
-// 100 MB and 200 times the archive's size.
+// Whether the entries are more than an archive of honest data unpacks to: above 2 GB, or above
+// 50 MB and 100 times the archive's size.
 bool isTooLarge(const std::vector<zipEntry> &entries, qint64 archiveSize);
+
+// Whether no file of the archive gives more than its entry says. All of it is read, which takes as
+// long as unpacking; what the password does not open counts as good, since it cannot be unpacked.
+bool unpacksAsSaid(const QString &path, const QString &password);

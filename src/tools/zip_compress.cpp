@@ -65,7 +65,7 @@ void zip_compress::decompress(const QString &archive, const QString &folder,
     for (const zipEntry &entry : *entries)
         if (!landsInside(entry, folder))
             return refuse(tr("Archive entry lies outside the folder"), entry.name);
-    if (isTooLarge(*entries, QFileInfo(archive).size()))
+    if (isTooLarge(*entries, QFileInfo(archive).size()) || !unpacksAsSaid(archive, password))
         return refuse(tr("Archive unpacks to more than it may"), archive);
     if (folder.isEmpty() || !QDir().mkpath(folder))
         return refuse(tr("Folder cannot be created"), folder);

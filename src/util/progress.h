@@ -1,5 +1,5 @@
-// How long operations report: done and total are in the same unit (bytes, pages, materials); the
-// answer false cancels the operation.
+// How long operations report: done and total are in the same unit (bytes, pages, materials), a
+// total of 0 where nobody knows it; the answer false cancels the operation.
 #pragma once
 
 #include <functional>

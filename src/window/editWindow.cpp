@@ -4,6 +4,7 @@
 #include "data/programData.h"
 #include "tree/myTreeView.h"
 #include "util/fileWatch.h"
+#include "util/memory.h"
 #include "util/prompts.h"
 
 #include <QAction>
@@ -428,6 +429,7 @@ void editWindow::closeEvent(QCloseEvent *event)
     m_watch->watch({});
     m_opened.reset();
     m_openedPath.clear();
+    giveBackMemory();
     baseWindow::closeEvent(event);
 }
 

@@ -54,6 +54,7 @@ void workProgress::begin(const QString &text)
     if (m_depth++ > 0)
         return;
     m_cancelled = false;
+    m_bar->setRange(0, barRange);
     m_bar->setValue(0);
     m_bar->setFormat(text + QLatin1String(" %p%"));
     m_sinceBegin.start();
@@ -76,6 +77,8 @@ bool workProgress::tell(long long done, long long total)
         return !m_cancelled;
     m_sincePaint.start();
     if (m_sinceBegin.elapsed() >= appearAfterMs) {
+        // A bar without an end says only that the work goes on.
+        m_bar->setRange(0, total > 0 ? barRange : 0);
         m_bar->setValue(total > 0 ? int(double(done) / double(total) * barRange) : 0);
         m_bar->show();
         m_cancel->show();

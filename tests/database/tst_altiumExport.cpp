@@ -207,9 +207,12 @@ private slots:
         for (const char *name : {"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"})
             m_folder->write(name, "old");
         const progressFunction cancel = [](long long done, long long total) { return total != 200 || done < 100; };
+        const progressFunction cancelPacking = [](long long, long long total) { return total > 0; };
         for (const auto function : {exportAltiumXlsx, exportGroups, exportAltiumSqlite}) {
             const QString ending = function == exportAltiumSqlite ? ".sqlite" : ".xlsx";
             QCOMPARE(function(database, m_folder->path("a" + ending), cancel).result, exportResult::cancelled);
+            if (ending == ".xlsx")
+                QCOMPARE(function(database, m_folder->path("a.xlsx"), cancelPacking).result, exportResult::cancelled);
             const exportResult refused = function(database, m_folder->path("a.txt/x" + ending), {});
             QCOMPARE(refused.result, exportResult::failed);
             QVERIFY(refused.error.contains("a.txt"));

@@ -5,6 +5,7 @@
 #include "data/loaders.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
+#include "tools/hostKeys.h"
 
 #define OPEN "Ctrl+D Return|Ctrl+E materials@0,0 Right materials@0/0,0|F4 !Yes"
 #define STEPS OPEN "|Ctrl+M 'Vishay' Return Ins 'http://x/y' Return "
@@ -205,6 +206,38 @@ private slots:
         QTest::newRow("completed") << QByteArray("printf 'pw=%s' \"$4\"")
                                    << "pw=***<br>" + line.arg("%1", "completed") + '|';
         QTest::newRow("refused there") << QByteArray("exit 1") << '|' + line.arg("%1", "error");
+    }
+
+    // A server that nobody has sent to before: its key is shown, asked for, kept, and held to.
+    void hostKey()
+    {
+        const QString key = "SHA256:" + QString(42, 'q') + '0';
+        qputenv("XDG_DATA_HOME", path("home").toLocal8Bit());
+        const auto restore = qScopeGuard([] { qunsetenv("XDG_DATA_HOME"); });
+        QFile script(folder().write(
+            "_bin/pscp.exe", "#!/bin/sh\nprintf '[%s]' \"$@\" >> '" + path("got").toUtf8() + "'\ncase \"$*\" in *"
+                                 + key.toUtf8()
+                                 + "*) exit 0;; *-hostkey*) echo 'Host key not in manually configured list'; exit 1;;"
+                                   " esac\nprintf 'The host key is not cached for this\\n  ssh-ed25519 255 "
+                                 + key.toUtf8() + "\\nConnection abandoned.' >&2; exit 1"));
+        script.setPermissions(script.permissions() | QFile::ExeOwner);
+        open();
+        boxes();
+        work("material@3/0/0,0 #copyFileToServer 'a.pdf' Return ~500 Escape");
+        QVERIFY(boxes().last().contains(key));
+        QCOMPARE(status(), QString("Nothing was sent"));
+        QCOMPARE(hostKeys::keyOf("server"), QString());
+        work("#copyFileToServer ~500 !Accept_the_key_and_send ~500");
+        QCOMPARE(status(), QString("a.pdf is on the file server"));
+        QCOMPARE(hostKeys::keyOf("SERVER"), key);
+        testSupport::write(path("got"), {});
+        work("#copyFileToServer ~500");
+        QVERIFY(testSupport::read(path("got")).contains("[-hostkey][" + key.toLatin1() + ']'));
+        QVERIFY(hostKeys::keep("server", "SHA256:other"));
+        boxes();
+        work("#copyFileToServer ~500 Return");
+        QVERIFY(boxes().last().contains("another key than the one that was accepted"));
+        QCOMPARE(hostKeys::keyOf("server"), QString("SHA256:other"));
     }
     void sends()
     {

@@ -99,6 +99,12 @@ private slots:
                     plan->differences.erase(plan->differences.begin() + qint64(i));
             }
 
+            // Given up at some place, it leaves nothing.
+            databaseRowsTarget givenUp(&model, &rows);
+            int left = random.bounded(20);
+            carryOut(inTree.differences, absent, mine, givenUp, [&left](auto, auto) { return left-- > 0; });
+            givenUp.revert();
+            QCOMPARE(saved(mine), before);
             databaseRowsTarget target(&model, &rows);
             carryOut(inTree.differences, absent, mine, target);
             const auto step = target.step();

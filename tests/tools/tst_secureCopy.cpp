@@ -43,6 +43,20 @@ private slots:
             QVERIFY(!QString::fromUtf8(log.bytes()).contains(password));
     }
 
+    void passwordInAPipe_data() { argumentsAndSecret_data(); }
+
+    // The launcher that ships: the password stands in no argument of the program that sends.
+    void passwordInAPipe()
+    {
+        const auto [password] = fetch<QString>();
+        m_folder->ship({"_bin"});
+        m_folder->script("bin/pscp", "[ \"$1\" = -h ] && exec echo '  -pwfile file'\nprintf '[%s]' \"$@\"; cat \"$4\"");
+        const auto sent = run(m_folder->path("_bin/pscp.exe"),
+                              {"-P", "22", "-pw", password, "-batch", "--", "/a b", "kiv@server:/-pw"},
+                              {"PATH=" + m_folder->path("bin:") + qEnvironmentVariable("PATH")});
+        QCOMPARE(sent.out, "[-P][22][-pwfile][/dev/fd/3][-batch][--][/a b][kiv@server:/-pw]" + password + '\n');
+    }
+
     void secretCutByReads()
     {
         m_folder->script("_bin/pscp.exe", "printf 'pw Sec'; sleep 0.3; printf 'ret!'; sleep 0.3; printf Secr");
@@ -87,8 +101,12 @@ private slots:
                                          + "\nAuthorizedKeysFile " + userKey.toUtf8()
                                          + ".pub\nPidFile none\nUsePAM no\nStrictModes no\n"
                                            "PermitRootLogin yes\nSubsystem sftp internal-sftp\n");
-        m_folder->script("_bin/pscp.exe", "[ \"$1 $2\" = '-P 22' ] || exit 99\nshift 2\nexec pscp -P " + port + " -i '"
-                                              + m_folder->path("user.ppk").toUtf8() + "' \"$@\"");
+        m_folder->ship({"_bin"});
+        QFile::rename(m_folder->path("_bin/pscp.exe"), m_folder->path("_bin/shipped"));
+        m_folder->script("_bin/pscp.exe", "[ \"$1 $2 $3\" = '-P 22 -pw' ] || exit 99\npassword=$4\nshift 4\nexec '"
+                                              + m_folder->path("_bin/shipped").toUtf8() + "' -P " + port
+                                              + " -pw \"$password\" -i '" + m_folder->path("user.ppk").toUtf8()
+                                              + "' \"$@\"");
         // As root it wants this folder, which its service makes elsewhere.
         const bool made = user == "root" && QDir().mkdir("/run/sshd");
         const auto removeMade = qScopeGuard([made] {
@@ -111,12 +129,16 @@ private slots:
         const QByteArray content = QByteArray("\0\r\nbytes", 8).repeated(50000);
         const QString name = QString::fromUtf8("karta katalogowa \xc5\x82\xc3\xb3\xc5\xbc \"1\":2.pdf");
         upload job{user, "Secret", "127.0.0.1", m_folder->write(name, content), m_folder->path("to " + name), finger};
+        QString offered;
+        bool changed = false;
         const auto send = [&](QString *text) {
             scp runner;
             const runnerLog log(&runner, &scp::updateLog);
             runner.start(job, 60000);
             const int result = runner.wait();
             *text = log.text();
+            offered = runner.offeredKey();
+            changed = runner.keyChanged();
             return result;
         };
         QString text;
@@ -128,6 +150,12 @@ private slots:
         job.target += "2";
         job.hostKey = "SHA256:" + QString(43, 'A');
         QVERIFY(send(&text) > 0);
+        QVERIFY(changed && offered.isEmpty());
+        // One that nobody has accepted tells its key.
+        job.hostKey.clear();
+        QVERIFY(send(&text) > 0);
+        QVERIFY(!changed);
+        QCOMPARE(offered, finger);
         QVERIFY(!QFile::exists(job.target));
         job.hostKey = finger;
         job.source += "none";
