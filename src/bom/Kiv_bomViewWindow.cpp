@@ -86,10 +86,11 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name :
-         {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp", "moveDown", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp",
+                             "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
+    keepJournal(fileKinds::bom, [this] { return m_bom.get(); }, {model()});
     m_view->setFont(files.config().font());
     setCaptions(model(), m_rows->columns());
     for (size_t c = 0; c < m_rows->columns().size(); ++c)
@@ -116,6 +117,7 @@ bool Kiv_bomViewWindow::load()
         m_fault = tr("the file cannot be read");
         bom = std::make_unique<kiv_mat_bomStruct>();
     }
+    remake(*bom);
     onDisk() = state;
     setClean();
     model()->setRecords(nullptr);
@@ -151,8 +153,7 @@ void Kiv_bomViewWindow::updateActions()
                       !m_view->markedCells().isEmpty(), noLine);
     allowWhenUnlocked({"pasteLines"});
     allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
-                      m_view->markedRows().size() > 1 ? tr("several lines are selected")
-                                                        : noLine);
+                      m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
@@ -297,7 +298,4 @@ void Kiv_bomViewWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
          + index.sibling(index.row(), model()->columnCount() - 1).data().toString());
 }
 
-bool Kiv_bomViewWindow::write(const QString &path)
-{
-    return saveDocument(path, *m_bom, known().config());
-}
+bool Kiv_bomViewWindow::write(const QString &path) { return writeDocument(path, *m_bom); }

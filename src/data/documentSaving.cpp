@@ -52,7 +52,7 @@ bool keepVersion(const QString &path, configStruct &config)
 }
 
 bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
-                  const workShown &shown)
+                  const workShown &shown, QString *fault)
 {
     const leftOutContent leftOut = document.leftOut;
     if (leftOut.count > 0
@@ -81,7 +81,9 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
         shown(write);
     else
         write({});
-    if (!written && !cancelled)
+    if (!written && !cancelled && fault)
+        *fault = reason;
+    else if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
                                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
                                 + QLatin1String("<br>") + reason.toHtmlEscaped());

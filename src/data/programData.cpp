@@ -164,7 +164,8 @@ void programData::loadDatabase(databaseKind kind, const progressFunction &progre
     putInUse(kind, std::move(database));
 }
 
-bool programData::reloadDatabase(databaseKind kind)
+bool programData::reloadDatabase(databaseKind kind,
+                                 const std::function<void(kiv_mat_databaseStruct &)> &change)
 {
     const QString path = m_databases[kind]->filePath;
     auto database = std::make_unique<kiv_mat_databaseStruct>();
@@ -173,6 +174,8 @@ bool programData::reloadDatabase(databaseKind kind)
         userPrompts().listError(messages::failed(messages::fileCorrupted(), path, reason));
         return false;
     }
+    if (change)
+        change(*database);
     putInUse(kind, std::move(database));
     return true;
 }

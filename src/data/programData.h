@@ -41,9 +41,10 @@ public:
     // read.
     std::unique_ptr<kiv_mat_bomsStruct> readBoms();
     void putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms);
-    // Reads a loaded database's file again, whatever the options say now. False, with the database
-    // as it is, when it cannot be read.
-    bool reloadDatabase(databaseKind kind);
+    // Reads a loaded database's file again, whatever the options say now, and has it changed before
+    // it is put in use. False, with the database as it is, when it cannot be read.
+    bool reloadDatabase(databaseKind kind,
+                        const std::function<void(kiv_mat_databaseStruct &)> &change = {});
     // The file of a database as it was when it was read or, once it is told, written.
     fileState &fileOf(databaseKind kind) { return m_files[kind]; }
     fileState &fileOfBoms() { return m_fileOfBoms; }

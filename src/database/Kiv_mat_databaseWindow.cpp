@@ -212,6 +212,8 @@ void Kiv_mat_databaseWindow::buildWidgets()
         return faultOf(item, value.toString());
     });
 
+    keepJournal(fileKinds::database, [this] { return &m_rows->database(); }, {m_model});
+
     m_words = new searchLine(m_view);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     setCentralWidget(page);
@@ -328,7 +330,7 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
-    const bool saved = saveDocument(path, database, known().config(), [this](const auto &writing) {
+    const bool saved = writeDocument(path, database, [this](const auto &writing) {
         workProgress::scope work(progress(), tr("Saving"));
         writing(work.function());
     });
@@ -345,7 +347,7 @@ bool Kiv_mat_databaseWindow::load()
     m_model->setRecords(nullptr);
     m_model->removeRows(0, m_model->rowCount());
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    const bool read = known().reloadDatabase(m_kind);
+    const bool read = known().reloadDatabase(m_kind, [this](auto &fresh) { remake(fresh); });
     QApplication::restoreOverrideCursor();
     showDatabase();
     if (m_merge)

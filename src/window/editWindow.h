@@ -7,6 +7,7 @@
 #include "data/documentSaving.h"
 #include "util/fileLock.h"
 #include "window/baseWindow.h"
+#include "window/recoveryJournal.h"
 
 #include <QModelIndexList>
 
@@ -111,7 +112,18 @@ public:
     // Whether the window may close: asks about changes, and saves them when the user says so. What
     // the user gives up goes when the window closes, and is kept by stayOpen() when it will not.
     virtual bool mayClose();
-    void stayOpen() { m_givenUp = false; }
+    void stayOpen() { m_givenUp = m_keptAside = false; }
+
+    // Whether the window is the one of that file.
+    bool isOf(const QString &path) const;
+    // Shows the document as its file has it, with the changes that an earlier run left unsaved.
+    // False when they cannot be made; then they stay where they are.
+    bool recover(const recoveryJournal::left &copy);
+    // Writes unsaved work aside; called each minute in which something changed. False, told in the
+    // status bar, when no folder takes it.
+    virtual bool storeRecovery();
+    // The program ends without asking: what is unsaved is left to be found at the next start.
+    virtual void leaveUnsaved();
     // Closes without a question, because the program ends.
     void closeAtEnd();
 
@@ -159,8 +171,13 @@ protected:
     // The file; empty when there is none.
     virtual QString filePath() const = 0;
     virtual QString title() const = 0;
-    // Writes the document; false, told to the user, when that failed.
+    // Writes the document, by writeDocument() where that is a file; false when that failed or the
+    // user thought better of it, told to the user unless it is the file.
     virtual bool write(const QString &path) = 0;
+    // Saves it for write(); the window asks what is to be done when it cannot be written.
+    bool writeDocument(const QString &path, documentStruct &document, const workShown &shown = {});
+    // Why it could not.
+    QString &writeFault() { return m_writeFault; }
     // Shows the document as the file has it now, with setClean(). False, told to the user, when it
     // cannot be read.
     virtual bool load() = 0;
@@ -198,8 +215,17 @@ protected:
     // Files that are dropped, if the window takes any.
     virtual bool takesFiles() const { return false; }
     virtual void fileDropped(const QString &) {}
-    // Writes unsaved work aside; called each minute in which something changed.
-    virtual void storeRecovery() {}
+    // Whether the window can do that.
+    virtual bool canKeep() const { return m_journal != nullptr; }
+    // Has changes of the document written aside with every edit. Each model shows the records of a
+    // level.
+    void keepJournal(const fileKind &kind, std::function<documentStruct *()> document,
+                     std::initializer_list<myModel *> models);
+    // Called by load() with what was read, before it is shown: changes that are to be recovered are
+    // made in it.
+    void remake(documentStruct &document);
+    // Whether the user wants what could not be saved kept aside.
+    bool isKeptAside() const { return m_keptAside; }
 
     // --- What it does with it ---
 
@@ -255,6 +281,7 @@ private:
     void tellHistory(const QString &form, const QString &what);
     void showMoved();
     bool settleOtherVersion();
+    bool writeAsking(const QString &path);
     void claimFile();
     bool mayUnlock() const;
     QString lockedText() const;
@@ -268,7 +295,12 @@ private:
     QLabel *m_changed;
     QTimer *m_storing;
     QString m_wanted; // what is searched
+    QString m_writeFault;
+    std::unique_ptr<recoveryJournal> m_journal;
+    const recoveryJournal::left *m_recovering = nullptr;
+    std::optional<recordChanges::outcome> m_remade;
     bool m_locked = false;
     bool m_givenUp = false;
+    bool m_keptAside = false;
     bool m_programEnds = false;
 };
