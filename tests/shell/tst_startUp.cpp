@@ -147,6 +147,7 @@ private slots:
     {
         const testSupport::rows<int> row;
         row("crash", -1);
+        row("end", 0);
     }
     void endedWhileEditing()
     {
