@@ -128,6 +128,36 @@ void editCell(benchmark::State &state)
                0.05);
 }
 
+// A material's cell and a deleted material, with the journal from which they would be recovered.
+void editMaterial(benchmark::State &state)
+{
+    Kiv_mat_databaseWindow window(programData::instance(), programData::warehouse);
+    window.show();
+    window.commandEdit(true);
+    const int last = window.model()->rowCount() - 1;
+    window.view()->expand(window.model()->index(last, 0));
+    settle();
+    QStandardItem *group = window.model()->item(last);
+    int value = 0;
+    double worst = 0;
+    for (auto _ : state) {
+        const bool isCell = ++value % 2 > 0;
+        const double seconds = secondsOf([&] {
+            if (isCell)
+                window.model()->setValue(static_cast<myItem::myItemStandard *>(
+                                             group->child(0, databaseTree::nameColumn)),
+                                         QString::number(value));
+            else
+                window.stack().push(
+                    std::make_unique<deleteFromItem>(group, group->child(group->rowCount() - 1)));
+            settle();
+        });
+        worst = std::max(worst, seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["ratio"] = worst / 0.02;
+}
+
 // All cells of a column, undone and done again.
 void groupCommand(benchmark::State &state)
 {
@@ -305,6 +335,7 @@ int main(int argc, char **argv)
     };
     add("openOrder/5000", openOrder, 3);
     add("editCell/5000", editCell, 20);
+    add("editMaterial/100k", editMaterial, 40);
     add("groupCommand/5000", groupCommand, 5);
     add("showDatabase/100k", showDatabase, 3);
     add("openGroup/100k", openGroup, 10);

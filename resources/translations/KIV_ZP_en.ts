@@ -253,6 +253,27 @@
             <numerusform>%n materials refused</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>order, %n line(s)</source>
+        <translation>
+            <numerusform>order, %n line</numerusform>
+            <numerusform>order, %n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed record(s)</source>
+        <translation>
+            <numerusform>%n changed record</numerusform>
+            <numerusform>%n changed records</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsaved file(s) kept for the next start</source>
+        <translation>
+            <numerusform>%n unsaved file kept for the next start</numerusform>
+            <numerusform>%n unsaved files kept for the next start</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -390,6 +411,13 @@
         <translation>
             <numerusform>%n line moved</numerusform>
             <numerusform>%n lines moved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored as it was %1, not saved: %n record(s)</source>
+        <translation>
+            <numerusform>Restored as it was %1, not saved: %n record</numerusform>
+            <numerusform>Restored as it was %1, not saved: %n records</numerusform>
         </translation>
     </message>
 </context>

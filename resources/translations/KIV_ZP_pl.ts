@@ -758,14 +758,6 @@
         <translation>nowe zamówienie</translation>
     </message>
     <message>
-        <source>An order was left unsaved: %1, changed %2. Open it as it was then?</source>
-        <translation>Pozostało niezapisane zamówienie: %1, zmienione %2. Otworzyć je w tamtym stanie?</translation>
-    </message>
-    <message>
-        <source>The unsaved order was put aside </source>
-        <translation>Niezapisane zamówienie odłożono </translation>
-    </message>
-    <message>
         <source>Saved as %1</source>
         <translation>Zapisano jako %1</translation>
     </message>
@@ -1012,6 +1004,46 @@
     <message>
         <source>Cancelled</source>
         <translation>Anulowano</translation>
+    </message>
+    <message numerus="yes">
+        <source>order, %n line(s)</source>
+        <translation>
+            <numerusform>zamówienie, %n pozycja</numerusform>
+            <numerusform>zamówienie, %n pozycje</numerusform>
+            <numerusform>zamówienie, %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed record(s)</source>
+        <translation>
+            <numerusform>%n zmieniony rekord</numerusform>
+            <numerusform>%n zmienione rekordy</numerusform>
+            <numerusform>%n zmienionych rekordów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsaved file(s) kept for the next start</source>
+        <translation>
+            <numerusform>%n niezapisany plik zachowany do następnego uruchomienia</numerusform>
+            <numerusform>%n niezapisane pliki zachowane do następnego uruchomienia</numerusform>
+            <numerusform>%n niezapisanych plików zachowanych do następnego uruchomienia</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program has opened what was left of %1 by now.</source>
+        <translation>To, co zostało z %1, otworzył już inny program.</translation>
+    </message>
+    <message>
+        <source>What was left of %1 cannot be read. It stays in %2.</source>
+        <translation>Nie można odczytać tego, co zostało z %1. Pozostaje w %2.</translation>
+    </message>
+    <message>
+        <source>Restored as it was %1, not saved</source>
+        <translation>Przywrócono stan z %1, niezapisany</translation>
+    </message>
+    <message>
+        <source>The file %1 is none of those that the program has open. What was left of it is kept.</source>
+        <translation>Plik %1 nie jest żadnym z plików, z którymi program pracuje. To, co z niego zostało, jest zachowane.</translation>
     </message>
 </context>
 <context>
@@ -3364,6 +3396,50 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Merged; saving writes both changes</source>
         <translation>Scalono; zapisanie utrwali zmiany obu stron</translation>
     </message>
+    <message>
+        <source>Retry</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Zapisz gdzie indziej</translation>
+    </message>
+    <message>
+        <source>Keep in recovery</source>
+        <translation>Zachowaj do odzyskania</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Not saved, but kept for the next start</source>
+        <translation>Niezapisane, ale zachowane do następnego uruchomienia</translation>
+    </message>
+    <message>
+        <source>No copy of the unsaved changes can be kept: %1</source>
+        <translation>Nie można zachować kopii niezapisanych zmian: %1</translation>
+    </message>
+    <message>
+        <source>What was left unsaved cannot be restored now; it is kept</source>
+        <translation>Niezapisanych zmian nie można teraz przywrócić; są zachowane</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored as it was %1, not saved: %n record(s)</source>
+        <translation>
+            <numerusform>Przywrócono stan z %1, niezapisany: %n rekord</numerusform>
+            <numerusform>Przywrócono stan z %1, niezapisany: %n rekordy</numerusform>
+            <numerusform>Przywrócono stan z %1, niezapisany: %n rekordów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file has everything that was changed until %1</source>
+        <translation>Plik zawiera wszystko, co zmieniono do %1</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program meanwhile. These records differ there and were not restored: %2</source>
+        <translation>Plik %1 został tymczasem zmieniony przez inny program. Te rekordy różnią się w nim i nie zostały przywrócone: %2</translation>
+    </message>
 </context>
 <context>
     <name>emailTempWindow</name>
@@ -5003,6 +5079,45 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>The file %1 exists already. Replace it?</source>
         <translation>Plik %1 już istnieje. Zastąpić go?</translation>
+    </message>
+</context>
+<context>
+    <name>recoveryDialog</name>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Niezapisana praca</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Zmieniono</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Zawartość</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Otwórz</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>Zachowaj na później</translation>
+    </message>
+    <message>
+        <source>Delete ...</source>
+        <translation>Usuń ...</translation>
+    </message>
+    <message>
+        <source>This was left unsaved when the program ended. What is not opened now is offered again at the next start.</source>
+        <translation>To pozostało niezapisane, gdy program się zakończył. Co nie zostanie teraz otwarte, będzie zaproponowane przy następnym uruchomieniu.</translation>
+    </message>
+    <message>
+        <source>One order can be open at a time</source>
+        <translation>Otwarte może być tylko jedno zamówienie</translation>
+    </message>
+    <message>
+        <source>Delete this unsaved work for good?</source>
+        <translation>Usunąć tę niezapisaną pracę bezpowrotnie?</translation>
     </message>
 </context>
 <context>

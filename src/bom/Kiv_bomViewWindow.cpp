@@ -91,6 +91,7 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
                              "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
+    keepJournal(fileKinds::bom, [this] { return m_bom.get(); }, {model()});
     m_view->setFont(files.config().font());
     setCaptions(model(), m_rows->columns());
     for (size_t c = 0; c < m_rows->columns().size(); ++c)
@@ -133,6 +134,7 @@ bool Kiv_bomViewWindow::load()
         m_fault = tr("the file cannot be read");
         bom = std::make_unique<kiv_mat_bomStruct>();
     }
+    remake(*bom);
     onDisk() = state;
     setClean();
     model()->setRecords(nullptr);
@@ -313,7 +315,4 @@ void Kiv_bomViewWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
          + index.sibling(index.row(), model()->columnCount() - 1).data().toString());
 }
 
-bool Kiv_bomViewWindow::write(const QString &path)
-{
-    return saveDocument(path, *m_bom, known().config());
-}
+bool Kiv_bomViewWindow::write(const QString &path) { return writeDocument(path, *m_bom); }

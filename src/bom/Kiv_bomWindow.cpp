@@ -129,6 +129,7 @@ Kiv_bomWindow::Kiv_bomWindow(programData &files)
     connect(m_view, &QWidget::customContextMenuRequested, this, &Kiv_bomWindow::showContextMenu);
     connect(static_cast<myHeaderView *>(m_view->header()), &myHeaderView::clicked, this,
             &Kiv_bomWindow::headerTreeClicked);
+    keepJournal(fileKinds::boms, [this] { return &known().boms(); }, {model()});
     showSet({});
     constexpr int widths[] = {420, 90, 320};
     for (int column = 0; column < int(std::size(widths)); ++column)
@@ -474,17 +475,17 @@ bool Kiv_bomWindow::load()
     if (!boms)
         return false;
     setClean();
+    const QByteArray saved = contentOf(*boms);
+    remake(*boms);
     model()->setRecords(nullptr);
     model()->removeRows(0, model()->rowCount());
     known().putInUse(std::move(boms));
     showSet(sets);
+    m_saved = saved;
     return true;
 }
 
-bool Kiv_bomWindow::write(const QString &path)
-{
-    return saveDocument(path, known().boms(), known().config());
-}
+bool Kiv_bomWindow::write(const QString &path) { return writeDocument(path, known().boms()); }
 
 void Kiv_bomWindow::saved() { m_saved = contentOf(known().boms()); }
 

@@ -369,7 +369,7 @@ void moveRows::undo()
     for (size_t i = 0; i < m_rows.size(); ++i)
         putIn(root, m_rows[i], taken[i]);
     if (!m_records.empty())
-        m_model->records()->arrange(m_records);
+        m_model->arrangeRecords(m_records, m_rows);
     m_model->emitAppendOccured();
 }
 

@@ -331,7 +331,7 @@ bool configWindow::write(const QString &path)
         return false;
     }
     m_edited->hidePasswords(path);
-    if (!saveDocument(path, *m_edited, known().config()))
+    if (!writeDocument(path, *m_edited))
         return false;
     m_edited->hidePasswords(path);
     m_later = configOperations::restartNeeded(known().config(), *m_edited);

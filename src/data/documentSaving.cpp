@@ -92,7 +92,7 @@ bool keepDocument(const QString &path, const documentStruct &document, configStr
 }
 
 bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
-                  const workShown &shown)
+                  const workShown &shown, QString *fault)
 {
     const leftOutContent leftOut = document.leftOut;
     if (leftOut.count > 0
@@ -118,7 +118,9 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
         written = !cancelled
                   && saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
     });
-    if (!written && !cancelled)
+    if (!written && !cancelled && fault)
+        *fault = reason;
+    else if (!written && !cancelled)
         userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
                                     .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
                                 + QLatin1String("<br>") + reason.toHtmlEscaped());

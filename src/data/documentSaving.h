@@ -36,6 +36,7 @@ QString versionFault();
 
 // Writes a document over the file, whose earlier version goes to the configuration's folder for
 // backups, and says so in the log. False, with the file as it was, when it cannot be written or
-// would not open again, which the user is told with the reason, or when the user cancelled it.
+// would not open again, or when the user cancelled it or thought better of it. The reason why it
+// cannot be written is told, or put into fault where one is given.
 bool saveDocument(const QString &path, documentStruct &document, configStruct &config,
-                  const workShown &shown = {});
+                  const workShown &shown = {}, QString *fault = nullptr);

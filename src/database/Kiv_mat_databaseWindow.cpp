@@ -213,6 +213,8 @@ void Kiv_mat_databaseWindow::buildWidgets()
         return faultOf(item, value.toString());
     });
 
+    keepJournal(fileKinds::database, [this] { return &m_rows->database(); }, {m_model});
+
     m_words = new searchLine(m_view);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     setCentralWidget(page);
@@ -331,7 +333,7 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     kiv_mat_databaseStruct &database = m_rows->database();
     const QString before = database.update;
     database.update = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
-    const bool saved = saveDocument(path, database, known().config(), [this](const auto &writing) {
+    const bool saved = writeDocument(path, database, [this](const auto &writing) {
         workProgress::scope work(progress(), tr("Saving"));
         writing(work.function());
     });
@@ -399,6 +401,7 @@ bool Kiv_mat_databaseWindow::load()
     setClean();
     m_model->setRecords(nullptr);
     m_model->removeRows(0, m_model->rowCount());
+    remake(*read.database);
     known().putInUse(m_kind, std::move(read));
     showDatabase();
     if (m_merge)

@@ -50,16 +50,23 @@ public:
     }
     void undo() override
     {
+        begin();
         revertChanges(m_changes);
         refresh();
     }
     void redo() override
     {
+        begin();
         applyChanges(m_changes);
         refresh();
     }
 
 private:
+    void begin()
+    {
+        for (const materialChange &change : m_changes)
+            m_rows->willChange(change.record);
+    }
     void refresh()
     {
         for (const materialChange &change : m_changes)
@@ -82,16 +89,23 @@ public:
     }
     void undo() override
     {
+        begin();
         firmOperations::revertNames(m_changes);
         refresh();
     }
     void redo() override
     {
+        begin();
         firmOperations::applyNames(m_changes);
         refresh();
     }
 
 private:
+    void begin()
+    {
+        for (const firmOperations::nameChange &change : m_changes)
+            m_rows->willChange(change.material);
+    }
     void refresh()
     {
         for (const firmOperations::nameChange &change : m_changes)

@@ -292,8 +292,16 @@ myItemStandard *rows::find(const materialStruct *material) const { return m_firs
 
 QStandardItem *rows::groupItem(const d_groupStruct *group) const { return m_first.value(group); }
 
+void rows::willChange(const materialStruct *material) const
+{
+    if (recordWatch *watch = m_model->watch())
+        watch->willChange(material, 1);
+}
+
 void rows::refresh(materialStruct *material)
 {
+    if (recordWatch *watch = m_model->watch())
+        watch->changed(material, 1);
     if (m_search)
         m_search->update(material);
     myItemStandard *first = find(material);

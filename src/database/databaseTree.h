@@ -53,7 +53,9 @@ public:
     myItem::myItemStandard *find(const materialStruct *material) const;
     QStandardItem *groupItem(const d_groupStruct *group) const;
 
-    // Brings a row in step with its record, whose texts but the KTM were changed beside the tree.
+    // Before a record's texts but the KTM are changed beside the tree; then its row is brought in
+    // step.
+    void willChange(const materialStruct *material) const;
     void refresh(materialStruct *material);
 
     void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) override;

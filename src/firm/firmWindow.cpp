@@ -95,6 +95,8 @@ firmWindow::firmWindow(programData &files)
     m_tabs->setAccessibleName(firmWindow::title());
     addPage(manufacturer, labels::manufacturers(), "manufacturers");
     addPage(supplier, labels::suppliers(), "suppliers");
+    keepJournal(fileKinds::firm, [this] { return m_edited.get(); },
+                {model(manufacturer), model(supplier)});
     setCentralWidget(m_tabs);
     m_counts->setObjectName(QStringLiteral("counts"));
     statusBar()->addPermanentWidget(m_counts);
@@ -184,6 +186,7 @@ bool firmWindow::load()
     }
     if (again && !fault.isEmpty())
         return false;
+    remake(*firms);
     m_fault = fault;
     onDisk() = state;
     if (again)
@@ -327,7 +330,7 @@ void firmWindow::clicked(const QModelIndex &cell)
 
 bool firmWindow::write(const QString &path)
 {
-    if (!saveDocument(path, *m_edited, known().config()))
+    if (!writeDocument(path, *m_edited))
         return false;
     known().loadFirm();
     return true;

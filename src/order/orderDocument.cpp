@@ -68,12 +68,14 @@ bool orderDocument::reload()
     return true;
 }
 
-bool orderDocument::recover(const QString &copy, const QString &path)
+bool orderDocument::recover(const QString &copy, const QString &path, const fileState &onDisk)
 {
     auto order = std::make_unique<kiv_mat_zpStruct>();
     if (!readChecked(copy, order.get()))
         return false;
     settle(std::move(order), path);
+    // Saving asks about what others wrote since.
+    m_onDisk = onDisk;
     return true;
 }
 
@@ -84,9 +86,9 @@ void orderDocument::startNew()
     settle(std::move(order), {});
 }
 
-bool orderDocument::save(const QString &path)
+bool orderDocument::save(const QString &path, QString *fault)
 {
-    if (!saveDocument(path, *m_order, m_known.config()))
+    if (!saveDocument(path, *m_order, m_known.config(), {}, fault))
         return false;
     m_path = path;
     m_onDisk = fileState::of(path);

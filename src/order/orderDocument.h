@@ -27,15 +27,17 @@ public:
     // Reads the order's file again; one that cannot be read is listed, and the order stays.
     bool reload();
 
-    // Reads the copy of an order that was never saved, which belongs to path.
-    bool recover(const QString &copy, const QString &path);
+    // Reads the copy of an order that was never saved, which belongs to path, a file that was like
+    // onDisk when it was read.
+    bool recover(const QString &copy, const QString &path, const fileState &onDisk);
 
     // An empty order with the configuration's persons and target, without a path.
     void startNew();
 
     // Writes the order, which then belongs to that path; an earlier version goes to the backup
-    // folder. False, told to the user, with everything as it was, when it cannot be written.
-    bool save(const QString &path);
+    // folder. False, with everything as it was, when it cannot be written; why, is told to the user
+    // or put into fault.
+    bool save(const QString &path, QString *fault = nullptr);
 
     // The file as it was when it was read or written last.
     fileState &onDisk() { return m_onDisk; }

@@ -4,7 +4,6 @@
 #include "data/loaders.h"
 #include "util/files.h"
 #include "util/messages.h"
-#include "util/scratch.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,107 +12,115 @@
 
 namespace {
 
-constexpr int mostPrograms = 50;
+const QString pathEnd = QStringLiteral("path");
+
+// The order's path, then size and time of its file; older copies have the path alone.
+QString origin(const QString &path, const fileState &onDisk)
+{
+    return QStringLiteral("%1\n%2\n%3")
+        .arg(path)
+        .arg(onDisk.size)
+        .arg(onDisk.time.isValid() ? onDisk.time.toMSecsSinceEpoch() : 0);
+}
+
+void readOrigin(const QString &text, orderRecovery::copy &copy)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    if (lines.size() >= 3) {
+        const qint64 time = lines.takeLast().toLongLong();
+        copy.onDisk.size = lines.takeLast().toLongLong();
+        if (copy.onDisk.size >= 0)
+            copy.onDisk.time = QDateTime::fromMSecsSinceEpoch(time);
+    }
+    copy.order = lines.join(QLatin1Char('\n'));
+}
+
+int linesIn(const QString &file)
+{
+    return files::readText(file).count(QLatin1String("<order_item>"));
+}
 
 } // namespace
 
 orderRecovery::orderRecovery(const QStringList &folders)
 {
     for (const QString &folder : folders)
-        m_places.push_back({folder, nullptr});
+        m_places.emplace_back(folder, QStringLiteral("order"), QStringLiteral("xml"));
     // The others are touched only when they are needed.
     m_places.front().claimFree();
 }
 
-orderRecovery::~orderRecovery() { discard(); }
-
-QString orderRecovery::place::file(int of, const char *end) const
-{
-    return QStringLiteral("%1/order-%2.%3").arg(folder).arg(of).arg(QLatin1String(end));
-}
-
-// One that nobody left behind, so that what was left stays to be offered.
-void orderRecovery::place::claimFree()
-{
-    lock.reset();
-    QDir().mkpath(folder);
-    for (int n = 1; n <= mostPrograms && !lock; ++n)
-        if (!QFileInfo::exists(file(n, "xml")))
-            claim(n);
-}
-
-bool orderRecovery::place::claim(int wanted)
-{
-    auto claimed = std::make_unique<QLockFile>(file(wanted, "lock"));
-    // Only a dead owner's lock is void, however old it is.
-    claimed->setStaleLockTime(0);
-    if (!claimed->tryLock())
-        return false;
-    lock = std::move(claimed);
-    number = wanted;
-    scratch::clearLeftSaves(file("xml"));
-    return true;
-}
-
-bool orderRecovery::place::store(const kiv_mat_zpStruct &order, const QString &path)
-{
-    // The folder may have gone since.
-    if (!lock || !QFileInfo(folder).isDir())
-        claimFree();
-    return lock && saveXmlNoEvents(file("xml"), &order, nullptr, {}, saveRule::whatever) == 0
-           && files::writeText(file("path"), path);
-}
-
-void orderRecovery::place::discard() const
-{
-    if (!lock)
-        return;
-    QFile::remove(file("xml"));
-    QFile::remove(file("path"));
-}
-
 void orderRecovery::leave()
 {
-    for (place &one : m_places)
-        if (one.lock)
+    for (recoverySlot &one : m_places)
+        if (one.isClaimed())
             one.claimFree();
 }
 
-bool orderRecovery::store(const kiv_mat_zpStruct &order, const QString &path)
+bool orderRecovery::store(const kiv_mat_zpStruct &order, const QString &path,
+                          const fileState &onDisk)
 {
-    const auto taken = std::find_if(m_places.begin(), m_places.end(),
-                                    [&](place &one) { return one.store(order, path); });
+    const auto taken = std::find_if(m_places.begin(), m_places.end(), [&](recoverySlot &one) {
+        // The folder may have gone since.
+        if (!one.isClaimed() || !QFileInfo(one.folder()).isDir())
+            one.claimFree();
+        return one.isClaimed() && files::writeText(one.file(pathEnd), origin(path, onDisk))
+               && saveXmlNoEvents(one.file(), &order, nullptr, {}, saveRule::whatever) == 0;
+    });
     if (taken == m_places.end())
         return false;
     // Copies that others took before are older.
-    for (const place &one : m_places)
+    for (const recoverySlot &one : m_places)
         if (&one != &*taken)
-            one.discard();
+            discard(one);
     return true;
+}
+
+void orderRecovery::discard(const recoverySlot &place) const
+{
+    if (!place.isClaimed())
+        return;
+    QFile::remove(place.file());
+    QFile::remove(place.file(pathEnd));
 }
 
 QStringList orderRecovery::faults() const
 {
     QStringList lines;
-    for (const place &one : m_places)
-        lines.append(messages::because(QDir::toNativeSeparators(one.folder), one.file("xml")));
+    for (const recoverySlot &one : m_places)
+        lines.append(messages::because(QDir::toNativeSeparators(one.folder()), one.file()));
     return lines;
 }
 
 void orderRecovery::discard()
 {
-    for (const place &one : m_places)
-        one.discard();
+    for (const recoverySlot &one : m_places)
+        discard(one);
 }
 
-orderRecovery::copy orderRecovery::takeOver()
+std::vector<orderRecovery::copy> orderRecovery::left() const
 {
-    for (place &one : m_places)
-        for (int n = 1; n <= mostPrograms; ++n) {
-            const QFileInfo left(one.file(n, "xml"));
-            if ((one.lock && n == one.number) || !left.exists() || !one.claim(n))
-                continue;
-            return {left.filePath(), files::readText(one.file("path")), left.lastModified()};
+    std::vector<copy> found;
+    for (size_t place = 0; place < m_places.size(); ++place)
+        for (int number : m_places[place].left()) {
+            const recoverySlot &in = m_places[place];
+            copy one{place, number, in.file(number, QStringLiteral("xml")), {}, {}, {}, 0};
+            one.time = QFileInfo(one.file).lastModified();
+            one.lines = linesIn(one.file);
+            readOrigin(files::readText(in.file(number, pathEnd)), one);
+            found.push_back(std::move(one));
         }
-    return {};
+    std::stable_sort(found.begin(), found.end(),
+                     [](const copy &a, const copy &b) { return a.time > b.time; });
+    return found;
+}
+
+bool orderRecovery::takeOver(const copy &one) { return m_places[one.place].claim(one.number); }
+
+void orderRecovery::remove(const copy &one)
+{
+    recoverySlot &place = m_places[one.place];
+    recoverySlot other(place.folder(), QStringLiteral("order"), QStringLiteral("xml"));
+    if (other.claim(one.number))
+        discard(other);
 }

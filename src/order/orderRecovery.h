@@ -1,26 +1,21 @@
 // A copy of the unsaved order, written aside while it is edited, so that a crash costs a minute.
 #pragma once
 
-#include <QDateTime>
-#include <QLockFile>
-#include <QStringList>
-
-#include <memory>
-#include <vector>
+#include "data/documentSaving.h"
+#include "util/recoverySlots.h"
 
 class kiv_mat_zpStruct;
 
 class orderRecovery
 {
 public:
-    // Each running program has a copy of its own in the first folder that can be written, claimed
-    // by a lock that is void once its owner is dead.
+    // Each running program has a copy of its own in the first folder that can be written. What it
+    // has when it ends stays to be found.
     explicit orderRecovery(const QStringList &folders);
-    ~orderRecovery();
 
-    // Writes the order aside; path is the file that it belongs to, empty when it has none. False
-    // when no folder takes it.
-    bool store(const kiv_mat_zpStruct &order, const QString &path);
+    // Writes the order aside; path is the file that it belongs to, empty when it has none, and
+    // onDisk what that file was when it was read. False when no folder takes it.
+    bool store(const kiv_mat_zpStruct &order, const QString &path, const fileState &onDisk);
     // Why no folder takes one, a line for each.
     QStringList faults() const;
     // The order was saved or given up: there is nothing to recover.
@@ -30,28 +25,23 @@ public:
 
     struct copy
     {
-        QString file;  // the copy itself
-        QString order; // the file that it belongs to, empty when it had none
+        size_t place;
+        int number;
+        QString file;     // the copy itself
+        QString order;    // the file that it belongs to, empty when it had none
+        fileState onDisk; // as it was then
         QDateTime time;
+        int lines;
     };
-    // Takes over the copy that a dead program left, as this one's own; a default one when there is
-    // none.
-    copy takeOver();
+    // The copies that other programs left, the newest first.
+    std::vector<copy> left() const;
+    // Makes one of them this program's own; false when another program has it by now.
+    bool takeOver(const copy &one);
+    // Removes one of them.
+    void remove(const copy &one);
 
 private:
-    struct place
-    {
-        QString folder;
-        std::unique_ptr<QLockFile> lock;
-        int number = 0;
+    void discard(const recoverySlot &place) const;
 
-        QString file(const char *end) const { return file(number, end); }
-        QString file(int of, const char *end) const;
-        bool claim(int wanted);
-        void claimFree();
-        bool store(const kiv_mat_zpStruct &order, const QString &path);
-        void discard() const;
-    };
-
-    std::vector<place> m_places;
+    std::vector<recoverySlot> m_places;
 };

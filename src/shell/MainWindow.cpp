@@ -228,15 +228,17 @@ void prepareCertificates()
 MainWindow::MainWindow(programData &files)
     : editWindow(QStringLiteral("MainWindow"), files)
     , m_document(files)
-    , m_recovery(std::make_unique<orderRecovery>(
-          QStringList{paths::data(QStringLiteral("_config/recovery")),
-                      paths::userDir() + QLatin1String("/recovery")}))
+    , m_recovery(std::make_unique<orderRecovery>(recoveryFolders()))
 {
     buildWidgets();
     prepareCertificates();
     loadDataFiles();
     QTimer::singleShot(updateCheckDelayMs, this, &MainWindow::checkUpdate);
-    openLastOrder();
+    // What was left of an order may be wanted instead.
+    if (m_recovery->left().empty())
+        openLastOrder();
+    else
+        showDocument();
     m_order->linesView()->setFocus();
     splash::setProgress(stages, stages);
     userPrompts().showErrors();

@@ -1,6 +1,7 @@
 // The main window: the open order and the ways to everything else. Construction and what concerns
 // the program stand in MainWindow.cpp, the order's life in MainWindowOrder.cpp, its lines in
-// MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp.
+// MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp, what was left unsaved in
+// MainWindowRecovery.cpp.
 #pragma once
 
 #include "bom/bomOperations.h"
@@ -43,11 +44,17 @@ public:
     // Has the preview follow the order once the burst of changes is over.
     void refreshHtml() override;
 
-    // Asks whether to open the order that a run before left unsaved, if one did.
+    // Offers what runs before left unsaved, if any did, and then opens the last order unless
+    // another one was chosen.
     void offerRecovery();
+    // Writes all unsaved work aside, for the next start to find if the program ends now.
+    void storeAll();
+    // Does so and ends the program, without a question.
+    void endNow();
 
     bool isModified() const override;
-    void storeRecovery() override;
+    bool storeRecovery() override;
+    void leaveUnsaved() override;
 
     orderDocument &document() { return m_document; }
     orderView &view() { return *m_order; }
@@ -135,6 +142,7 @@ protected:
     fileState &onDisk() override { return m_document.onDisk(); }
     bool saveAs() override;
     bool canSaveAs() const override { return true; }
+    bool canKeep() const override { return true; }
     QLatin1String editOption() const override;
     QString closeQuestion() const override;
     bool closesWithCancel() const override { return false; }
@@ -164,7 +172,10 @@ private:
 
     // --- MainWindowOrder.cpp ---
     bool closeDocument();
-    bool leaveUnsaved();
+    bool leaveOrder();
+    void forgetOrder();
+    bool recoverOrder(const orderRecovery::copy &copy);
+    bool recoverOther(const recoveryJournal::left &copy);
     void openFile(const QString &path);
     bool printTo(const QString &path);
 

@@ -65,10 +65,10 @@ myTreeView *MainWindow::currentView() const
 
 // An order that has no file is closed without a question: its copy is offered at the next start.
 // False when none could be made and the user stays.
-bool MainWindow::leaveUnsaved()
+bool MainWindow::leaveOrder()
 {
     m_order->takeAttentions();
-    if (m_recovery->store(m_document.order(), m_document.path())) {
+    if (m_recovery->store(m_document.order(), m_document.path(), m_document.onDisk())) {
         m_recovery->leave();
         return true;
     }
@@ -89,17 +89,26 @@ bool MainWindow::closeDocument()
     if (!isModified())
         return true;
     if (m_document.path().isEmpty())
-        return leaveUnsaved();
+        return leaveOrder();
     return askToLeave(tr("Save & close order").toHtmlEscaped() + QLatin1String(" [&nbsp;&nbsp;")
                           + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]"),
                       true);
+}
+
+// The order before was saved, given up or kept aside.
+void MainWindow::forgetOrder()
+{
+    if (isKeptAside())
+        m_recovery->leave();
+    else
+        m_recovery->discard();
 }
 
 void MainWindow::commandZpNew(bool)
 {
     if (!closeDocument())
         return;
-    m_recovery->discard();
+    forgetOrder();
     m_document.startNew();
     userState::instance().lastZp.clear();
     showDocument();
@@ -112,12 +121,14 @@ void MainWindow::commandZpOpen(bool)
         return;
     const QString path =
         userPrompts().openFile(tr("Open File"), m_document.folder(), QStringLiteral("(*.xml)"));
-    stayOpen();
-    if (path.isEmpty())
+    if (path.isEmpty()) {
+        stayOpen();
         return;
+    }
     if (!QFileInfo::exists(path)) {
         userPrompts().listError(messages::failed(messages::fileCorrupted(), path, path));
         userPrompts().showErrors();
+        stayOpen();
         return;
     }
     openFile(path);
@@ -131,48 +142,31 @@ void MainWindow::fileDropped(const QString &path)
 
 void MainWindow::openFile(const QString &path)
 {
-    // The order before was saved or given up.
-    m_recovery->discard();
+    forgetOrder();
     userState::instance().lastZp = m_document.load(path, true) ? path : QString();
     showDocument();
     userPrompts().showErrors();
 }
 
-void MainWindow::storeRecovery()
+bool MainWindow::storeRecovery()
 {
     if (!isModified()) {
         m_recovery->discard();
-        return;
+        return true;
     }
     m_order->takeAttentions();
-    if (!m_recovery->store(m_document.order(), m_document.path()))
-        tell(tr("No copy of the unsaved order can be kept: %1")
-                 .arg(m_recovery->faults().join(QLatin1String("; "))));
+    if (m_recovery->store(m_document.order(), m_document.path(), m_document.onDisk()))
+        return true;
+    tell(tr("No copy of the unsaved order can be kept: %1")
+             .arg(m_recovery->faults().join(QLatin1String("; "))));
+    return false;
 }
 
-void MainWindow::offerRecovery()
+void MainWindow::leaveUnsaved()
 {
-    const orderRecovery::copy left = m_recovery->takeOver();
-    if (left.file.isEmpty())
-        return;
-    const QString name = left.order.isEmpty() ? tr("a new order") : left.order;
-    if (userPrompts().ask(
-            tr("An order was left unsaved: %1, changed %2. Open it as it was then?")
-                .arg(native(name), left.time.toString(QStringLiteral("dd.MM.yyyy hh:mm"))),
-            false)
-            == prompts::answer::yes
-        && m_document.recover(left.file, left.order)) {
-        userState::instance().lastZp = left.order;
-        showDocument();
-        setChanged();
-        return;
-    }
-    // Turned down, it stays to be found.
-    const QString kept = fileVersions::archive(left.file, known().config().backupFolders());
-    if (kept.isEmpty())
-        return;
-    userPrompts().log(messages::done(tr("The unsaved order was put aside "), name, kept));
-    m_recovery->discard();
+    finishEditing();
+    if (isModified() && storeRecovery())
+        m_recovery->leave();
 }
 
 documentStruct *MainWindow::record()
@@ -199,7 +193,7 @@ bool MainWindow::load()
 bool MainWindow::write(const QString &path)
 {
     m_order->takeAttentions();
-    return m_document.save(path);
+    return m_document.save(path, &writeFault());
 }
 
 void MainWindow::saved()
@@ -238,9 +232,14 @@ void MainWindow::commandZpSave(bool)
         saveAs();
     else
         save();
+    stayOpen();
 }
 
-void MainWindow::commandZpSaveAs(bool) { saveAs(); }
+void MainWindow::commandZpSaveAs(bool)
+{
+    saveAs();
+    stayOpen();
+}
 
 QString MainWindow::closeQuestion() const
 {
@@ -248,9 +247,8 @@ QString MainWindow::closeQuestion() const
            + native(m_document.path()) + QLatin1String("&nbsp;&nbsp;]");
 }
 
-// The other windows ask first, and any of them can keep the program open. After that the window
-// closes: what could not be saved is offered at the next start. Only when no copy could be kept,
-// the user may stay.
+// The other windows ask first, and any of them can keep the program open. What the user has kept
+// aside, and an order that has no file, is offered at the next start.
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (!finishEditing()) {
@@ -258,13 +256,13 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     const std::vector<editWindow *> others = secondaryWindows();
-    const bool stays =
+    bool stays =
         !std::all_of(others.begin(), others.end(), [](editWindow *w) { return w->mayClose(); });
-    const bool leaves =
-        !stays && isModified()
-        && (m_document.path().isEmpty() || !askToLeave(closeQuestion(), closesWithCancel()));
-    const bool noAnswer = leaves && !m_document.path().isEmpty() && isToStay();
-    if (stays || noAnswer || (leaves && !leaveUnsaved())) {
+    const bool isAsked = !stays && isModified() && !m_document.path().isEmpty();
+    stays = stays || (isAsked && !askToLeave(closeQuestion(), closesWithCancel()));
+    const bool leaves = isModified() && (m_document.path().isEmpty() || isKeptAside());
+    if (stays || (leaves && !leaveOrder())) {
+        stayOpen();
         for (editWindow *window : others)
             window->stayOpen();
         event->ignore();

@@ -7,6 +7,7 @@
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
 #include "util/dataFolder.h"
+#include "util/endSignals.h"
 #include "util/labels.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
@@ -21,6 +22,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontMetrics>
+#include <QSessionManager>
 
 namespace {
 
@@ -197,11 +199,20 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     if (errorsWindow::instance().isVisible())
         errorsWindow::instance().showNow();
     userPrompts().showErrors();
+    bool ends = false;
+    const endSignals ended([&window, &ends] {
+        ends = true;
+        window->endNow();
+    });
+    // The end of a session asks nothing either; it may still be called off.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, window.get(),
+                     [&window] { window->storeAll(); });
     if (whenShown)
         whenShown(*window);
     window->offerRecovery();
 
-    const int code = QApplication::exec();
+    const int code = ends ? 0 : QApplication::exec();
 
     state.runningMarker.clear();
     state.save();

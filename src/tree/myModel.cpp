@@ -1,5 +1,6 @@
 #include "tree/myModel.h"
 
+#include <QSet>
 #include <QSignalBlocker>
 
 using myItem::myItemStandard;
@@ -130,16 +131,23 @@ void myModel::appendRow(const myItem::row &items)
 void myModel::insertWithRecord(QStandardItem *parent, int row, const myItem::row &items)
 {
     parent->insertRow(row, items);
-    if (m_records && !items.isEmpty())
-        if (myItemStandard *first = cell(items.first()->index()))
-            m_records->rowInserted(parent, row, first);
+    myItemStandard *first = m_records && !items.isEmpty() ? cell(items.first()->index()) : nullptr;
+    if (!first)
+        return;
+    m_records->rowInserted(parent, row, first);
+    if (m_watch)
+        m_watch->inserted(recordOf(parent), first->record, depthBelow(parent), row);
 }
 
 myItem::row myModel::takeWithRecord(QStandardItem *parent, int row)
 {
     const myItem::row items = parent->takeRow(row);
-    if (m_records && !items.isEmpty() && items.first()->type() >= myItem::standardKind)
-        m_records->rowTaken(parent, row, static_cast<myItemStandard *>(items.first()));
+    if (!m_records || items.isEmpty() || items.first()->type() < myItem::standardKind)
+        return items;
+    auto *first = static_cast<myItemStandard *>(items.first());
+    if (m_watch)
+        m_watch->willBeTaken(first->record, depthBelow(parent));
+    m_records->rowTaken(parent, row, first);
     return items;
 }
 
@@ -148,8 +156,45 @@ void myModel::writeCell(myItemStandard *item)
     if (!m_records)
         return;
     const QModelIndex index = item->index();
-    if (myItemStandard *first = cell(index.sibling(index.row(), 0)))
-        m_records->cellChanged(item, first);
+    myItemStandard *first = cell(index.sibling(index.row(), 0));
+    if (!first)
+        return;
+    const QStandardItem *parent = first->parent() ? first->parent() : invisibleRootItem();
+    if (m_watch)
+        m_watch->willChange(first->record, depthBelow(parent));
+    m_records->cellChanged(item, first);
+    if (m_watch)
+        m_watch->changed(first->record, depthBelow(parent));
+}
+
+void myModel::arrangeRecords(const std::vector<const xmlData *> &order,
+                             const std::vector<int> &moved)
+{
+    m_records->arrange(order);
+    if (!m_watch)
+        return;
+    QSet<const xmlData *> records;
+    for (int row : moved)
+        records.insert(static_cast<const myItemStandard *>(item(row))->record);
+    for (size_t place = 0; place < order.size(); ++place)
+        if (records.contains(order[place])) {
+            m_watch->willBeTaken(order[place], 0);
+            m_watch->inserted(nullptr, order[place], 0, int(place));
+        }
+}
+
+int myModel::depthBelow(const QStandardItem *parent) const
+{
+    int depth = 0;
+    for (; parent && parent != invisibleRootItem(); parent = parent->parent())
+        ++depth;
+    return depth;
+}
+
+xmlData *myModel::recordOf(const QStandardItem *parent) const
+{
+    return parent == invisibleRootItem() ? nullptr
+                                         : static_cast<const myItemStandard *>(parent)->record;
 }
 
 void myModel::emitAppendOccured()

@@ -42,6 +42,20 @@ public:
     virtual void arrange(const std::vector<const xmlData *> &) {}
 };
 
+// Who is told what becomes of the records behind a model, whatever changes them. depth: how many
+// records one lies below.
+class recordWatch
+{
+public:
+    virtual ~recordWatch() = default;
+    // Before and after its content changes.
+    virtual void willChange(const xmlData *record, int depth) = 0;
+    virtual void changed(const xmlData *record, int depth) = 0;
+    // After it took its place, which may be that of its row.
+    virtual void inserted(xmlData *parent, const xmlData *record, int depth, int row) = 0;
+    virtual void willBeTaken(const xmlData *record, int depth) = 0;
+};
+
 class myModel : public QStandardItemModel
 {
     Q_OBJECT
@@ -56,8 +70,11 @@ public:
     // is.
     void setRecords(modelRecords *records) { m_records = records; }
     // Lets go of both, before they go: an editor may still commit while its window is destroyed.
-    void detach() { m_editHook = nullptr, m_records = nullptr; }
+    void detach() { m_editHook = nullptr, m_records = nullptr, m_watch = nullptr; }
     modelRecords *records() const { return m_records; }
+    // Null for nobody. Who changes records beside the model tells the watch.
+    void setWatch(recordWatch *watch) { m_watch = watch; }
+    recordWatch *watch() const { return m_watch; }
 
     // Numbers and dates sort by value, anything else by its text. Then sorted() is emitted.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
@@ -100,6 +117,8 @@ public:
     myItem::row takeWithRecord(QStandardItem *parent, int row);
     // Takes an item's text to its record.
     void writeCell(myItem::myItemStandard *item);
+    // Puts the records of the top-level rows into an order, in which those of some rows moved.
+    void arrangeRecords(const std::vector<const xmlData *> &order, const std::vector<int> &moved);
 
     // For the commands, after they inserted, removed or changed. Within a changeBatch each signal
     // is emitted once, at its end.
@@ -117,9 +136,12 @@ private:
     friend class changeBatch;
 
     void emitHeldBack();
+    int depthBelow(const QStandardItem *parent) const;
+    xmlData *recordOf(const QStandardItem *parent) const;
 
     editHook m_editHook;
     modelRecords *m_records = nullptr;
+    recordWatch *m_watch = nullptr;
     int m_sortColumn = -1; // rows made later are sorted likewise
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     check m_check;

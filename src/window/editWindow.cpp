@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
@@ -51,6 +52,8 @@ editWindow::editWindow(const QString &name, programData &known, QWidget *parent)
 
 editWindow::~editWindow()
 {
+    // What is unsaved stays to be found.
+    m_journal.reset();
     m_stack->changed = nullptr;
     m_stack->clear();
     // An editor that is still open commits when its view goes, and may be refused.
@@ -101,13 +104,15 @@ bool editWindow::isModified() const { return m_stack->state() != m_clean; }
 void editWindow::setClean()
 {
     m_clean = 0;
-    m_givenUp = false;
+    stayOpen();
     m_stack->clear();
 }
 
 void editWindow::setChanged()
 {
     m_clean.reset();
+    if (m_journal)
+        m_journal->keep();
     m_stack->clear();
 }
 
@@ -129,6 +134,8 @@ void editWindow::showState()
         statusBar()->clearMessage();
     if (modified && !m_storing->isActive())
         m_storing->start();
+    if (m_journal && !modified)
+        m_journal->clear();
     updateActions();
 }
 
@@ -317,8 +324,57 @@ void editWindow::commandFindNext(bool)
 // --- Saving
 // ---------------------------------------------------------------------------------------
 
+bool editWindow::writeDocument(const QString &path, documentStruct &document,
+                               const workShown &shown)
+{
+    return saveDocument(path, document, m_known.config(), shown, &m_writeFault);
+}
+
+// What cannot be written stays in the window, whatever is answered. False, unless it was written to
+// that path.
+bool editWindow::writeAsking(const QString &path)
+{
+    enum
+    {
+        retry,
+        elsewhere,
+        aside
+    };
+    for (;;) {
+        m_writeFault.clear();
+        if (write(path))
+            return true;
+        if (m_writeFault.isEmpty())
+            return false;
+        std::vector<int> offered{retry};
+        QStringList answers{tr("Retry")};
+        if (canSaveAs()) {
+            offered.push_back(elsewhere);
+            answers.append(tr("Save elsewhere"));
+        }
+        if (canKeep()) {
+            offered.push_back(aside);
+            answers.append(tr("Keep in recovery"));
+        }
+        const std::optional<int> pressed =
+            userPrompts().decide(tr("The file %1 cannot be written").arg(native(path))
+                                     + QLatin1String("<br>") + m_writeFault.toHtmlEscaped(),
+                                 answers);
+        const int answer = pressed ? offered[size_t(*pressed)] : -1;
+        if (answer == retry)
+            continue;
+        if (answer == elsewhere)
+            saveAs();
+        m_keptAside = answer == aside && storeRecovery();
+        if (m_keptAside)
+            tell(tr("Not saved, but kept for the next start"));
+        return false;
+    }
+}
+
 bool editWindow::saveTo(const QString &path)
 {
+    m_keptAside = false;
     if (!finishEditing())
         return false;
     if (!fault().isEmpty()) {
@@ -329,7 +385,7 @@ bool editWindow::saveTo(const QString &path)
         return false;
     {
         const QScopedValueRollback saving(m_saving, true);
-        if (!write(path))
+        if (!writeAsking(path))
             return false;
         onDisk() = fileState::of(path);
     }
@@ -341,7 +397,13 @@ bool editWindow::saveTo(const QString &path)
     return true;
 }
 
-bool editWindow::save() { return saveTo(filePath()); }
+bool editWindow::save()
+{
+    const bool isSaved = saveTo(filePath());
+    // Kept aside or not, the window goes on.
+    stayOpen();
+    return isSaved;
+}
 
 void editWindow::commandSave(bool)
 {
@@ -382,12 +444,10 @@ void editWindow::showEvent(QShowEvent *event)
 
 bool editWindow::askToLeave(const QString &question, bool withCancel)
 {
-    const prompts::answer answer = userPrompts().ask(question, withCancel);
-    m_isToStay = answer == prompts::answer::cancel;
-    switch (answer) {
+    switch (userPrompts().ask(question, withCancel)) {
     case prompts::answer::yes:
-        save();
-        return !isModified();
+        saveTo(filePath());
+        return !isModified() || m_keptAside;
     case prompts::answer::no:
         m_givenUp = true;
         return true;
@@ -399,7 +459,8 @@ bool editWindow::askToLeave(const QString &question, bool withCancel)
 bool editWindow::mayClose()
 {
     return finishEditing()
-           && (m_givenUp || !isModified() || askToLeave(closeQuestion(), closesWithCancel()));
+           && (m_givenUp || m_keptAside || !isModified()
+               || askToLeave(closeQuestion(), closesWithCancel()));
 }
 
 bool editWindow::discard()
@@ -418,19 +479,109 @@ void editWindow::commandClose(bool) { close(); }
 
 void editWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_programEnds && (!mayClose() || (m_givenUp && !discard()))) {
+    if (!m_programEnds && !mayClose()) {
         stayOpen();
         event->ignore();
         return;
     }
-    m_givenUp = false;
+    const bool isKept = m_keptAside;
+    if (!m_programEnds && (m_givenUp || isKept) && !discard()) {
+        stayOpen();
+        event->ignore();
+        return;
+    }
+    stayOpen();
     closed();
+    if (m_journal && !(isKept && m_journal->leave()))
+        m_journal->discard();
     m_fileLock.claim({});
     m_watch->watch({});
     m_opened.reset();
     m_openedPath.clear();
     giveBackMemory();
     baseWindow::closeEvent(event);
+}
+
+// --- Recovery
+// -------------------------------------------------------------------------------------
+
+void editWindow::keepJournal(const fileKind &kind, std::function<documentStruct *()> document,
+                             std::initializer_list<myModel *> models)
+{
+    m_journal = std::make_unique<recoveryJournal>(
+        kind,
+        recoveryJournal::source{std::move(document), [this] { return filePath(); },
+                                [this] { return onDisk(); }},
+        this);
+    size_t level = 0;
+    for (myModel *model : models)
+        m_journal->watch(model, level++);
+    connect(m_journal.get(), &recoveryJournal::failed, this, [this] {
+        tell(tr("No copy of the unsaved changes can be kept: %1")
+                 .arg(m_journal->faults().join(QLatin1String("; "))));
+    });
+}
+
+bool editWindow::storeRecovery()
+{
+    if (!m_journal || !isModified() || m_journal->writeThrough())
+        return true;
+    tell(tr("No copy of the unsaved changes can be kept: %1")
+             .arg(m_journal->faults().join(QLatin1String("; "))));
+    return false;
+}
+
+bool editWindow::isOf(const QString &path) const
+{
+    const QString own = filePath();
+    return !own.isEmpty()
+           && QFileInfo(own).absoluteFilePath() == QFileInfo(path).absoluteFilePath();
+}
+
+void editWindow::leaveUnsaved()
+{
+    finishEditing();
+    if (m_journal && isModified())
+        m_journal->leave();
+}
+
+void editWindow::remake(documentStruct &document)
+{
+    if (m_recovering)
+        m_remade = m_journal->takeUp(*m_recovering, document);
+}
+
+bool editWindow::recover(const recoveryJournal::left &copy)
+{
+    m_remade.reset();
+    m_recovering = &copy;
+    const bool read = load() && fault().isEmpty();
+    m_recovering = nullptr;
+    userPrompts().showErrors();
+    if (!read || !m_remade) {
+        tell(tr("What was left unsaved cannot be restored now; it is kept"));
+        return false;
+    }
+    const QString time = copy.time.toString(QStringLiteral("dd.MM.yyyy hh:mm"));
+    const bool isRefused = !m_remade->refused.isEmpty();
+    if (m_remade->made > 0) {
+        setChanged();
+        setUnlocked(true);
+        showState();
+        tell(tr("Restored as it was %1, not saved: %n record(s)", nullptr, m_remade->made)
+                 .arg(time));
+    } else if (isRefused) {
+        m_journal->leave();
+    } else {
+        tell(tr("The file has everything that was changed until %1").arg(time));
+    }
+    if (isRefused)
+        userPrompts().showWarning(
+            tr("The file %1 was changed by another program meanwhile. These records differ there "
+               "and were not restored: %2")
+                .arg(native(filePath()),
+                     m_remade->refused.join(QLatin1String(", ")).toHtmlEscaped()));
+    return true;
 }
 
 // --- Files dropped

@@ -7,6 +7,7 @@
 #include "data/documentSaving.h"
 #include "util/fileLock.h"
 #include "window/baseWindow.h"
+#include "window/recoveryJournal.h"
 
 #include <QModelIndexList>
 
@@ -114,7 +115,18 @@ public:
     // Whether the window may close: asks about changes, and saves them when the user says so. What
     // the user gives up goes when the window closes, and is kept by stayOpen() when it will not.
     virtual bool mayClose();
-    void stayOpen() { m_givenUp = false; }
+    void stayOpen() { m_givenUp = m_keptAside = false; }
+
+    // Whether the window is the one of that file.
+    bool isOf(const QString &path) const;
+    // Shows the document as its file has it, with the changes that an earlier run left unsaved.
+    // False when they cannot be made; then they stay where they are.
+    bool recover(const recoveryJournal::left &copy);
+    // Writes unsaved work aside; called each minute in which something changed. False, told in the
+    // status bar, when no folder takes it.
+    virtual bool storeRecovery();
+    // The program ends without asking: what is unsaved is left to be found at the next start.
+    virtual void leaveUnsaved();
     // Closes without a question, because the program ends.
     void closeAtEnd();
 
@@ -167,8 +179,13 @@ protected:
     // Makes the document like another one of its kind, which is used up by that: one step, applied
     // already; null when nothing changed.
     virtual std::unique_ptr<command> become(documentStruct &) { return nullptr; }
-    // Writes the document; false, told to the user, when that failed.
+    // Writes the document, by writeDocument() where that is a file; false when that failed or the
+    // user thought better of it, told to the user unless it is the file.
     virtual bool write(const QString &path) = 0;
+    // Saves it for write(); the window asks what is to be done when it cannot be written.
+    bool writeDocument(const QString &path, documentStruct &document, const workShown &shown = {});
+    // Why it could not.
+    QString &writeFault() { return m_writeFault; }
     // Shows the document as the file has it now, with setClean(). False, told to the user and with
     // everything as it was, when it cannot be read.
     virtual bool load() = 0;
@@ -208,8 +225,17 @@ protected:
     // Files that are dropped, if the window takes any.
     virtual bool takesFiles() const { return false; }
     virtual void fileDropped(const QString &) {}
-    // Writes unsaved work aside; called each minute in which something changed.
-    virtual void storeRecovery() {}
+    // Whether the window can do that.
+    virtual bool canKeep() const { return m_journal != nullptr; }
+    // Has changes of the document written aside with every edit. Each model shows the records of a
+    // level.
+    void keepJournal(const fileKind &kind, std::function<documentStruct *()> document,
+                     std::initializer_list<myModel *> models);
+    // Called by load() with what was read, before it is shown: changes that are to be recovered are
+    // made in it.
+    void remake(documentStruct &document);
+    // Whether the user wants what could not be saved kept aside.
+    bool isKeptAside() const { return m_keptAside; }
 
     // --- What it does with it ---
 
@@ -233,8 +259,6 @@ protected:
     bool saveTo(const QString &path);
     // Asks a question of unsaved changes, as mayClose() does.
     bool askToLeave(const QString &question, bool withCancel);
-    // Whether the user gave no answer to it the last time.
-    bool isToStay() const { return m_isToStay; }
     // Title, marks of change, actions.
     void showState();
     // The program ends: the window closes without a question.
@@ -266,6 +290,7 @@ private:
     void followHistory();
     void tellHistory(const QString &form, const QString &what);
     void showMoved();
+    bool writeAsking(const QString &path);
     void claimFile();
 
     // --- editWindowDisk.cpp ---
@@ -301,8 +326,12 @@ private:
     QLabel *m_changed;
     QTimer *m_storing;
     QString m_wanted; // what is searched
+    QString m_writeFault;
+    std::unique_ptr<recoveryJournal> m_journal;
+    const recoveryJournal::left *m_recovering = nullptr;
+    std::optional<recordChanges::outcome> m_remade;
     bool m_locked = false;
     bool m_givenUp = false;
-    bool m_isToStay = false;
+    bool m_keptAside = false;
     bool m_programEnds = false;
 };

@@ -26,8 +26,13 @@ const scenario scenarios[] = {
     {"held", "Ctrl+O '%/_zp/held.xml' Return ~100 Return", "boxes ~ is open elsewhere, too; orderLines = 1"},
 
     // --- Saving ---
-    {"saved as what cannot be", EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return Return",
-     "boxes ~ Error: ; title = Order *; disk !~ Żuk"},
+    {"saved as what cannot be", EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return Escape",
+     "boxes ~ a.xml cannot be written; title = Order *; disk !~ Żuk"},
+    {"saved elsewhere then",
+     EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return !Save_elsewhere Ctrl+A '%/b.xml' Return",
+     "file b.xml ~ Żuk; title = Order; disk !~ Żuk"},
+    {"kept, and goes on", EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return !Keep_in_recovery Ctrl+Q Escape",
+     "file _config/recovery/order-1.xml =; boxes ~ Save order"},
     {"its new name", "#zpSaveAs Ctrl+A '%/a.xml' Return " EDIT "Ctrl+S",
      "file a.xml ~ Żuk; disk !~ Żuk; title = Order"},
     {"the same is no change", EDIT "Ctrl+S " EDIT "#-undo", "title = Order"},
@@ -127,16 +132,29 @@ private slots:
         QVERIFY(!errors.isVisible());
     }
 
-    // What has no file is offered again; turned down, it is put aside.
+    // What was not saved is offered until it is saved or deleted, all of it at once.
     void leftUnsaved()
     {
         work("Ctrl+N #addShipment Ctrl+Q");
         look("boxes =");
-        restart("!Yes");
-        look("boxes ~ a new order; orderLines = 1; title = Order *");
+        restart("Return");
+        look("boxes = Unsaved work; orderLines = 1; title = Order *; status ~ Restored as it was");
         work("Ctrl+Q");
-        restart("!No");
-        look("orderLines = 0; log ~ put aside; files backup/*.archive.* ~ archive");
+        userState::instance().lastZp = "_zp/one.xml";
+        restart("Escape");
+        look("orderLines@0,1 = ONE; title = Order; status ~ 1 unsaved file kept");
+        steps("Ctrl+O '%/_zp/one.xml' Return " EDIT);
+        mainWindow().storeAll();
+        testSupport::write(path("_zp/one.xml"), line("317121-03.01-00001", "THEIRS"));
+        userState::instance().lastZp = "_zp/gone.xml";
+        restart("Return");
+        look("boxes = Unsaved work; orderLines@0,1 = Żuk; errors =");
+        work("Ctrl+S Escape");
+        look("boxes ~ one.xml was changed by another program; file _zp/one.xml ~ THEIRS; title = Order *");
+        work("Ctrl+S !Overwrite_it Ctrl+Q");
+        look("file _zp/one.xml ~ Żuk");
+        restart("!Delete_... Escape !Delete_... !Yes");
+        look("boxes ~ for good; orderLines@0,1 = Żuk");
         restart("");
         look("boxes =");
     }
@@ -154,22 +172,23 @@ private slots:
         const QStringList place{path("recovery")};
         kiv_mat_zpStruct order;
         QCOMPARE(loadZp(path("_zp/one.xml"), &order), 0);
+        const fileState onDisk = fileState::of(path("_zp/one.xml"));
         {
             orderRecovery normal(place);
-            QVERIFY(normal.store(order, "x"));
+            QVERIFY(normal.store(order, "x", onDisk));
             // The copy of a running program is not taken from it.
-            QVERIFY(orderRecovery(place).takeOver().file.isEmpty());
-        }
-        QVERIFY(orderRecovery(place).takeOver().file.isEmpty());
-        {
-            orderRecovery left(place);
-            QVERIFY(left.store(order, "x"));
-            left.leave();
+            QVERIFY(orderRecovery(place).left().empty());
+            normal.discard();
+            QVERIFY(normal.store(order, "x\ny", onDisk));
         }
         orderRecovery next(place);
-        const orderRecovery::copy copy = next.takeOver();
-        QCOMPARE(copy.order, QString("x"));
+        QCOMPARE(next.left().size(), size_t(1));
+        const orderRecovery::copy copy = next.left().front();
+        QVERIFY(next.takeOver(copy));
+        QCOMPARE(copy.order, QString("x\ny"));
+        QVERIFY(copy.onDisk == onDisk);
         QVERIFY(testSupport::read(copy.file).contains("ONE"));
+        QVERIFY(next.left().empty());
     }
 
     // Where not even a copy can be kept, the program does not end unasked.
@@ -181,8 +200,11 @@ private slots:
             "boxes ~ recovery: Not a directory; orderLines = 1; title = Order *");
         row("Ctrl+N #addShipment Ctrl+N !Cancel", false, "orderLines = 1; title = Order *");
         row("Ctrl+N #addShipment Ctrl+Q !Leave_it_and_lose_the_changes", false, "title = closed");
-        row(EDIT "Ctrl+Q !Yes !Overwrite_it Return !Cancel", false,
+        row(EDIT "Ctrl+Q !Yes !Overwrite_it Escape", true,
             "boxes ~ no file can stand there; orderLines@0,1 = Żuk; title = Order *");
+        row(EDIT "Ctrl+Q !Yes !Overwrite_it !Keep_in_recovery ~1", true, "title = closed");
+        row(EDIT "Ctrl+Q !Yes !Overwrite_it !Keep_in_recovery", false,
+            "status ~ recovery: Not a directory; orderLines@0,1 = Żuk; title = Order *");
     }
     void nowhereToKeep()
     {
@@ -202,9 +224,9 @@ private slots:
         }
         work(testSupport::tag());
         look(seen);
-        if (userDir) {
-            restart("!Yes");
-            look("orderLines = 1; title = Order *");
+        if (userDir && seen.contains("closed")) {
+            restart("Return");
+            look("title = Order *; boxes = Unsaved work");
         }
         qunsetenv("XDG_DATA_HOME");
     }

@@ -7,10 +7,10 @@
 #include "util/text.h"
 #include "window/messageWindow.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QWebFrame>
 #include <QWebView>
 
@@ -37,18 +37,23 @@ void tell(MainWindow &window)
     print("page", window.findChild<QWebView *>("preview")->page()->mainFrame()->toPlainText());
     std::fflush(stdout);
     const QByteArray task = qgetenv("KIVZP_PROBE_TASK");
-    if (task == "crash") {
-        // A minute of work, and then the power fails.
+    if (task == "crash" || task == "end") {
+        // A minute of work, and then the power fails, or the system goes down.
         orderView &view = window.view();
         view.lines()->setValue(static_cast<myItem::myItemStandard *>(view.lines()->item(0, orderTree::nameColumn)),
                                QString("UNSAVED"));
-        window.storeRecovery();
-        std::raise(SIGKILL);
+        if (task == "crash")
+            window.storeRecovery();
+        std::raise(task == "crash" ? SIGKILL : SIGTERM);
     } else if (task == "recover") {
         QTimer::singleShot(0, &window, [&window] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                print("question", box->text());
-                box->buttons().first()->click();
+            if (const QWidget *dialog = QApplication::activeModalWidget()) {
+                const auto *list = dialog->findChild<QTreeWidget *>();
+                for (int row = 0; row < list->topLevelItemCount(); ++row)
+                    print("question", list->topLevelItem(row)->text(0));
+                for (auto *button : dialog->findChildren<QPushButton *>())
+                    if (button->isDefault())
+                        button->click();
             }
             QTimer::singleShot(0, &window, [&window] {
                 print("firstName", window.view().lines()->item(0, 1)->text());

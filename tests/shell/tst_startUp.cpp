@@ -143,16 +143,24 @@ private slots:
         QVERIFY(!read(m_folder->path("_config/kiv_mat_config.xml")).contains("PATH_BACKUP"));
     }
 
-    void killedWhileEditing()
+    void endedWhileEditing_data()
     {
+        const testSupport::rows<int> row;
+        row("crash", -1);
+        row("end", 0);
+    }
+    void endedWhileEditing()
+    {
+        const auto [code] = fetch<int>();
         // Nothing is offered after a normal end.
         QCOMPARE(start().code, 7);
         QVERIFY(!start("recover").told.contains("question"));
-        QCOMPARE(start("crash").code, -1);
+        QCOMPARE(start(tag().toUtf8()).code, code);
         QVERIFY(!read(m_folder->path("_zp/zp_0.xml")).contains("UNSAVED"));
         const result seen = start("recover");
         QVERIFY2(seen.told["question"].contains("zp_0.xml"), qPrintable(seen.told["question"]));
         QCOMPARE(seen.told["firstName"], QString("UNSAVED"));
+        QCOMPARE(seen.told["errorsVisible"], QString("no"));
     }
 
     void english()

@@ -2,6 +2,31 @@
 // leaves the editor; closing, locking, and files that another program changed.
 #include "scenarioFixture.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
+// No file of this process grows over a size.
+class fileSizeLimit
+{
+public:
+    explicit fileSizeLimit(int bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        set(rlim_t(bytes));
+    }
+    ~fileSizeLimit() { lift(); }
+    void lift() const { set(RLIM_INFINITY); }
+
+private:
+    static void set(rlim_t bytes)
+    {
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+};
+
 struct editedWindow
 {
     const char *name;
@@ -327,6 +352,124 @@ private slots:
         QVERIFY(QFile::exists(path("_zp/.zp_0.xml.lock")));
         QVERIFY(!window().findChild<QWidget *>("changedBar")->isVisible());
     }
+
+    // What was not saved when the program was killed is saved after it as it would have been before.
+    void recovered_data()
+    {
+        const testSupport::rows<int, QString> row;
+        row("group, material, deleted and back", 1,
+            "materials@0,0 F2 Ctrl+A 'Żuk' Return materials@0,0 Right materials@0/2,0 Del Del Ctrl+Z materials@0/4,9 "
+            "F2 'x' Return");
+        row("cut and pasted, sorted", 1,
+            "materials@^6 materials@0,0 Right materials@0/2,0 Shift+Down Ctrl+X materials@3,0 Ctrl+V "
+            "materials@0/1,0 Del Ctrl+Z Ctrl+Y materials@0/3,0 F2 Ctrl+A 'Żuk' Return");
+        row("new group", 1, "#addGroup 'Żuk' Return materials@0,0 Right materials@0/1,0 Ctrl+X End Ctrl+V");
+        row("texts of many", 1, "#moveCpv ~50 Return");
+        row("firms", 2,
+            "manufacturers@0,1 F2 Ctrl+A 'Żuk' Return manufacturers@2,1 Del Ins 'Wół' Return !Suppliers "
+            "suppliers@1,1 F2 Ctrl+A 'Koń' Return Ins 'Bąk' Return Del Ctrl+Z Ctrl+Z");
+        row("BOM lists", 4, "boms@0,0 F2 Ctrl+A 'Żuk' Return boms@0/0/0,0 #delete Ctrl+Z #addGroup 'Wół' Return");
+        row("BOM lines", 5,
+            "lines@0,2 F2 Ctrl+A 'Żuk' Return Alt+Down Alt+Down lines@3,2 Shift+Down Alt+Up lines@5,2 Del Ctrl+Z "
+            "Ctrl+Z Ctrl+Y");
+    }
+    void recovered()
+    {
+        const auto [number, steps] = testSupport::fetch<int, QString>();
+        const editedWindow &w = windows[number];
+        QString saved[2];
+        for (const bool killed : {false, true}) {
+            openWindow(w.opened);
+            const QString file = fileOf(w);
+            const QByteArray before = testSupport::read(file);
+            work(QString("%1 %2").arg(w.unlock, steps));
+            QVERIFY(window().windowTitle().endsWith(" *"));
+            if (killed)
+                recover({});
+            work(w.save);
+            saved[killed] = QString(testSupport::read(file)).remove(QRegularExpression("<update>[^<]*"));
+            QVERIFY(saved[killed] != QString(before).remove(QRegularExpression("<update>[^<]*")));
+            testSupport::write(file, before);
+            restart("");
+            QCOMPARE(boxes(), QStringList());
+        }
+        QCOMPARE(saved[1], saved[0]);
+    }
+    void recover(const QString &answers)
+    {
+        restart("Return " + answers);
+        const QStringList told = boxes();
+        QCOMPARE(told.value(0), QString("Unsaved work"));
+        for (QMainWindow *shown : shownWindows())
+            if (shown != &mainWindow())
+                turnTo(*shown);
+        QVERIFY2(status().startsWith("Restored as it was"), qPrintable(status()));
+        m_told = told.mid(1).join(' ');
+    }
+
+    // Records that another program changed meanwhile stay as it has them, the others are restored.
+    void recoveredOverOthers_data()
+    {
+        const testSupport::rows<QByteArray, QByteArray, QString, QString> row;
+        const QString all = "disk ~ Żuk; disk ~ Wół; disk ~ <name>Koń<";
+        row("another record", "Amphenol Corporation", "Theirs", "", all + "; disk ~ Theirs");
+        row("the same change", "Abracon LLC", "Żuk", "", all);
+        row("the same record", "Abracon LLC", "Theirs", "not restored: Abracon",
+            "disk ~ Theirs; disk !~ Żuk; disk ~ Wół");
+        row("one of that name", "<manufacturers>",
+            "<manufacturers><firm><name>Koń</name><fullname>Theirs</fullname></firm>", "not restored: Koń",
+            "disk ~ Theirs; disk ~ Żuk; disk ~ Wół; manufacturers = 60");
+    }
+    void recoveredOverOthers()
+    {
+        const auto [from, to, told, seen] = testSupport::fetch<QByteArray, QByteArray, QString, QString>();
+        openWindow("#firm|manufacturers@0,1 F2 Ctrl+A 'Żuk' Return manufacturers@1,1 F2 Ctrl+A 'Wół' Return "
+                   "Ins F2 Ctrl+A 'Koń' Return");
+        m_file = path("_files/firms.xml");
+        testSupport::write(m_file, testSupport::read(m_file).replace(from, to));
+        recover(told.isEmpty() ? "" : "Return");
+        QVERIFY2(told.isEmpty() ? m_told.isEmpty() : m_told.contains(told), qPrintable(m_told));
+        work("Ctrl+S");
+        look(seen);
+    }
+
+    // Where a file cannot be written, here as on a full disk, nothing is lost, whatever is answered.
+    void fullDisk_data() { addRows({"~300 !Retry", "Escape", "!Keep_in_recovery"}); }
+    void fullDisk()
+    {
+        QFETCH(QString, way);
+        const editedWindow &w = open();
+        const bool isKept = w.name != QString("order") && w.name != QString("configuration");
+        if (way.contains("Keep") && !isKept)
+            return;
+        const QString file = fileOf(w);
+        const QByteArray before = testSupport::read(file);
+        const fileSizeLimit limit(qMin(before.size() - 1, 1000));
+        if (way.contains("Retry"))
+            QTimer::singleShot(250, qApp, [&limit] { limit.lift(); });
+        work(QString("%1 F2 Ctrl+A 'Żuk' Return %2 !Yes %3").arg(w.cell, w.close, way));
+        limit.lift();
+        QVERIFY(boxes().value(1).contains("cannot be written"));
+        QCOMPARE(window().isVisible(), way == "Escape");
+        QCOMPARE(testSupport::read(file) != before, way.contains("Retry"));
+        QVERIFY(way != "Escape" || window().windowTitle().endsWith('*'));
+        if (way.contains("Keep")) {
+            recover({});
+            work(w.save);
+        }
+        QCOMPARE(testSupport::read(file).contains("Żuk"), way != "Escape");
+    }
+
+private:
+    QString file() override { return m_file.isEmpty() ? scenarioFixture::file() : m_file; }
+    void prepare() override
+    {
+        scenarioFixture::prepare();
+        m_file.clear();
+    }
+
+    QString m_file;
+    QString m_told;
 };
 
 KIVZP_TEST(tst_editWindows)
