@@ -48,7 +48,9 @@ void tell(MainWindow &window)
         QTimer::singleShot(0, &window, [&window] {
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 print("question", box->text());
-                box->buttons().first()->click();
+                for (QAbstractButton *button : box->buttons())
+                    if (box->buttonRole(button) == QMessageBox::YesRole)
+                        button->click();
             }
             QTimer::singleShot(0, &window, [&window] {
                 print("firstName", window.view().lines()->item(0, 1)->text());
