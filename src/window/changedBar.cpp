@@ -16,6 +16,8 @@ changedBar::changedBar(QWidget *parent)
     colours.setColor(QPalette::Window, QColor(0xFF, 0xE0, 0x8A));
     colours.setColor(QPalette::WindowText, Qt::black);
     m_text->setPalette(colours);
+    m_text->setBackgroundRole(QPalette::Window); // not the tool bar's
+    m_text->setForegroundRole(QPalette::WindowText);
     m_text->setAutoFillBackground(true);
     constexpr int margin = 5;
     m_text->setMargin(margin);
