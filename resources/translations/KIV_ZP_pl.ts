@@ -3108,6 +3108,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Save the changed list of firms?</source>
         <translation>Zapisać zmienioną listę firm?</translation>
     </message>
+    <message>
+        <source>Reading</source>
+        <translation>Odczyt</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Zapisywanie</translation>
+    </message>
 </context>
 <context>
     <name>labels</name>

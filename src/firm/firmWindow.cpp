@@ -9,6 +9,7 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "window/workProgress.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -320,17 +321,24 @@ bool firmWindow::write(const QString &path)
 }
 
 // A database without a window of its own is read again when another program wrote it meanwhile,
-// renamed, and written. One that cannot be written stays as its file is.
+// renamed, and written. One that cannot be written, or not be waited for, stays as its file is.
 bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &renames)
 {
     const QString path = known().database(kind).filePath;
     const bool isOther = QFileInfo::exists(path) && !(fileState::of(path) == known().fileOf(kind));
-    if (isOther && !known().reloadDatabase(kind))
-        return false;
+    if (isOther) {
+        workProgress::scope work(progress(), tr("Reading"));
+        if (!known().reloadDatabase(kind, work.function()))
+            return false;
+    }
     kiv_mat_databaseStruct &database = known().database(kind);
     const std::vector<nameChange> changes = changesOf(database, renames);
     applyNames(changes);
-    const bool written = saveDocument(path, database, known().config());
+    const bool written =
+        saveDocument(path, database, known().config(), [this](const auto &writing) {
+            workProgress::scope work(progress(), tr("Saving"));
+            writing(work.function());
+        });
     if (written)
         // The database's own window would take this for another program's work.
         known().fileOf(kind) = fileState::of(path);
