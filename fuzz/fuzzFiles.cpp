@@ -4,26 +4,14 @@
 #include "data/documentStruct.h"
 #include "data/loaders.h"
 #include "data/repair.h"
+#include "fuzzSupport.h"
 #include "util/cleanHtml.h"
-#include "util/paths.h"
-#include "util/prompts.h"
 
-#include <QFile>
 #include <QGuiApplication>
-#include <QTemporaryDir>
-
-#include <cstdint>
-#include <cstdio>
 
 namespace {
 
-void require(bool holds, const char *what)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "does not hold: %s\n", what);
-    std::abort();
-}
+using fuzzSupport::require;
 
 QByteArray read(const QString &path)
 {
@@ -31,32 +19,18 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void silence(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(silence);
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char *argv[] = {name, nullptr};
-    static QGuiApplication application(argc, argv);
-    static prompts nothingShown;
-    installPrompts(&nothingShown);
-    paths::setProgramDir(QStringLiteral(KIVZP_SOURCE_DIR));
+    fuzzSupport::begin<QGuiApplication>();
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("f.xml"));
-    QFile file(path);
-    require(file.open(QIODevice::WriteOnly), "the input can be written");
-    file.write(reinterpret_cast<const char *>(data), qint64(size));
-    file.close();
+    const QString path =
+        fuzzSupport::written("f.xml", QByteArray(reinterpret_cast<const char *>(data), int(size)));
 
     const fileKind *kind = fileKinds::ofFile(path);
     if (!kind)
@@ -78,8 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     require(loaded == 0, "what is valid is read");
     require(document->leftOut.count == 0, "what is valid is taken by the records");
-    const QString saved = folder.filePath(QStringLiteral("1.xml"));
-    const QString again = folder.filePath(QStringLiteral("2.xml"));
+    const QString saved = fuzzSupport::folder() + QLatin1String("/1.xml");
+    const QString again = fuzzSupport::folder() + QLatin1String("/2.xml");
     require(saveXml(saved, document.get()) == 0, "what was read is saved");
     require(validateXml(saved, schema, false), "what was saved is valid");
     const auto second = newDocument(*kind);

@@ -4,6 +4,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/ktmIndex.h"
 #include "data/programData.h"
+#include "util/decimal.h"
 #include "util/messages.h"
 #include "util/numbers.h"
 
@@ -14,6 +15,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <cmath>
+
 namespace {
 
 QString translated(const char *text)
@@ -21,12 +24,36 @@ QString translated(const char *text)
     return QCoreApplication::translate("warehouseListing", text).toHtmlEscaped();
 }
 
-// Nothing for an empty text; false when it holds something that is no finite number.
+// With as many decimals as it has, at most so many and at least the fewest.
+QString written(double number, int most, int fewest)
+{
+    QString text = QString::number(number, 'f', most);
+    int keep = text.size() - most + fewest;
+    int end = text.size();
+    while (end > keep && text.at(end - 1) == QLatin1Char('0'))
+        --end;
+    text.truncate(end);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
+
+QString stockText(double stock) { return written(stock, 3, 0); }
+
+// Parts of a grosz count: a resistor costs less than one.
+QString priceText(double price) { return written(price, 4, 2); }
+
+// Nothing for an empty text; false when it holds something that is no number of at most fifteen
+// digits before the point.
 bool readNumber(const QString &text, std::optional<double> *number)
 {
     if (text.isEmpty())
         return true;
     *number = numbers::finite(text);
+    // Beyond that it would be stored as another number.
+    constexpr double largest = 1e15;
+    if (*number && std::abs(**number) >= largest)
+        number->reset();
     return number->has_value();
 }
 
@@ -77,27 +104,12 @@ listingEntry parseEntry(const QStringList &lines)
     entry.readable = !entry.ktm.isEmpty() && entry.stock && value;
     if (entry.readable && *entry.stock > 0)
         entry.averagePrice = *value / *entry.stock;
+    if (entry.averagePrice && !decimal::read(priceText(*entry.averagePrice))) {
+        entry.readable = false;
+        entry.averagePrice.reset();
+    }
     return entry;
 }
-
-// With as many decimals as it has, at most so many and at least the fewest.
-QString decimal(double number, int most, int fewest)
-{
-    QString text = QString::number(number, 'f', most);
-    int keep = text.size() - most + fewest;
-    int end = text.size();
-    while (end > keep && text.at(end - 1) == QLatin1Char('0'))
-        --end;
-    text.truncate(end);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text;
-}
-
-QString stockText(double stock) { return decimal(stock, 3, 0); }
-
-// Parts of a grosz count: a resistor costs less than one.
-QString priceText(double price) { return decimal(price, 4, 2); }
 
 // The number that a field holds now is left as it is written.
 bool sameNumber(const QString &stored, double number, const QString &written)

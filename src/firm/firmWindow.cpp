@@ -353,7 +353,7 @@ bool firmWindow::mayWrite(programData::databaseKind kind, const fileState &now) 
 }
 
 // A database without a window of its own is read again when another program wrote it meanwhile,
-// renamed, and written. One that cannot be written stays as its file is.
+// renamed, and written. One that cannot be written, or not be waited for, stays as its file is.
 bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &renames)
 {
     const QString path = known().database(kind).filePath;

@@ -61,13 +61,15 @@ protected:
 
     childProcess *process() const { return m_process; }
 
-private:
     // What was held back of a channel because it may be the beginning of the secret.
     struct channel
     {
         QString held;
     };
+    // Logs what came on a channel, with the secret masked; last: no more will come.
     void passOn(channel &from, const QByteArray &bytes, bool last = false);
+
+private:
     void fail(const QString &reason, const QString &subject);
 
     childProcess *m_process;

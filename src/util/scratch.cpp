@@ -68,6 +68,8 @@ QString folder()
     if (own().lock && QFileInfo::exists(lockOf(path)))
         return path;
     own().lock.reset();
+    // The command line has no start of its own at which to do it.
+    clearLeft();
     if (files::makePrivateFolder(path))
         own().lock = claimed(path);
     return own().lock ? path : QString();

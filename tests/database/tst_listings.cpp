@@ -25,6 +25,7 @@ private slots:
         for (const char *unreadable : {"b/d", "", " \u00a0", "-5", "1,234,50", "1.234,50", "5 / 7", "5,"})
             row(unreadable, unreadable, -1);
         row("beyond numbers", QString(400, '9'), -1);
+        row("beyond what is exact", QString(16, '9'), -1);
         row("long", QString(100000, ' ') + "-", -1);
     }
 

@@ -1,7 +1,8 @@
 """A copy of the installed program on a virtual display, with keys and clicks for it.
 
 Needs xvfb, openbox, xdotool and imagemagick, which packages.txt names. The program gets a home and a
-temporary folder of its own, so that nothing of the user's is touched and nothing of its own is missed.
+temporary folder of its own and can write nothing else, so that nothing of the user's is touched and
+nothing of its own is missed.
 """
 
 import ctypes
@@ -13,6 +14,16 @@ import time
 from pathlib import Path
 
 ENGLISH = '<option editable="YES" type="LANGUAGE" value1="en" value2="" unit="" description=""/>'
+
+# Nothing but the folder of the run can be written: a file dialog in which keys are pressed at random
+# renames and deletes files.
+SEALED = """
+others=$(sed 's/^[^ ]* [^ ]* [^ ]* [^ ]* \\([^ ]*\\).*/\\1/' /proc/self/mountinfo)
+mount --bind "$1" "$1" || exit 99
+for mounted in $others; do mount -o remount,ro,bind "$mounted" 2>/dev/null; done
+touch "$1/../.kivzp-sealed" 2>/dev/null && exit 99
+cd "$2" && exec ./KivZP
+"""
 
 
 class Stuck(Exception):
@@ -77,8 +88,10 @@ class Desk:
 
     def start(self, seconds=60):
         self.home.mkdir(exist_ok=True)
-        self.program = subprocess.Popen(["./KivZP"], cwd=self.app, env=self.environment, stdout=self.log,
-                                        stderr=self.log)
+        user = [] if os.geteuid() == 0 else ["--map-root-user"]
+        self.program = subprocess.Popen(["unshare", "--mount", *user, "sh", "-c", SEALED, "sh",
+                                         str(self.folder), str(self.app)],
+                                        env=self.environment, stdout=self.log, stderr=self.log)
         self.until(lambda: self.widest() > 800, seconds, "the main window")
         self.idle()
         # Real data has orders of materials that the database lacks.
