@@ -327,7 +327,7 @@ public:
         bool refused = false; // others changed it: what is wanted is only followed
         xmlData *parent = nullptr;
         xmlData *record = nullptr;
-        QString nameBefore; // as it was read, if it was
+        QString nameBefore; // as the program had read it, if it had
         QByteArray contentBefore;
     };
 
@@ -399,10 +399,10 @@ void repetition::meet(known &one, const QJsonObject &was)
     one.mark = was.value(markKey).toString();
     const place found = find(one.level, was, true);
     one.refused = !found.second;
+    one.nameBefore = one.name;
     if (one.refused)
         return;
     std::tie(one.parent, one.record) = std::pair(found.first, found.second);
-    one.nameBefore = one.name;
     one.contentBefore = m_levels[one.level]->content(one.record);
     m_untouched[one.level].remove(one.name, found);
 }
@@ -520,7 +520,7 @@ QStringList repetition::refused() const
                                    [&](const place &p) { return markAt(one.level, p) == one.mark; })
                      : named.isEmpty();
         if (one.refused && !isAsWanted)
-            names.append(one.name);
+            names.append(one.nameBefore.isEmpty() ? one.name : one.nameBefore);
     }
     names.sort();
     names.removeDuplicates();
