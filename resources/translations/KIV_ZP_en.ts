@@ -329,6 +329,16 @@
     </message>
 </context>
 <context>
+    <name>configWindow</name>
+    <message numerus="yes">
+        <source>%n version(s), %1 MB</source>
+        <translation>
+            <numerusform>%n version, %1 MB</numerusform>
+            <numerusform>%n versions, %1 MB</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>data</name>
     <message numerus="yes">
         <source>and %n more</source>

@@ -2642,6 +2642,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>the file cannot be read</source>
         <translation>nie można odczytać pliku</translation>
     </message>
+    <message numerus="yes">
+        <source>%n version(s), %1 MB</source>
+        <translation>
+            <numerusform>%n wersja, %1 MB</numerusform>
+            <numerusform>%n wersje, %1 MB</numerusform>
+            <numerusform>%n wersji, %1 MB</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>cpvOperations</name>

@@ -32,17 +32,22 @@ QString &lastVersionFault()
 
 QString versionFault() { return lastVersionFault(); }
 
-bool keepVersion(const QString &path, configStruct &config)
+bool keepVersion(const QString &path, configStruct &config, const progressFunction &progress,
+                 const QString &content)
 {
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QStringList folders = config.backupFolders();
-    bool kept = false;
-    for (const QString &folder : folders)
-        kept = fileVersions::keep(path, folder, count ? count->value1.toInt() : usualCount) || kept;
     lastVersionFault().clear();
-    if (kept)
-        return true;
+    bool cancelled = false;
+    const auto watched = [&](long long done, long long total) {
+        cancelled = progress && !progress(done, total);
+        return !cancelled;
+    };
+    const bool kept = fileVersions::keep(path, folders, count ? count->value1.toInt() : usualCount,
+                                         watched, content);
+    if (kept || cancelled)
+        return kept;
     const QString places = folders.join(QLatin1String(", "));
     userPrompts().log(messages::done(
         QCoreApplication::translate("log", "No backup could be written "), path, places));
@@ -65,7 +70,6 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                != prompts::answer::yes)
         return false;
     scratch::clearLeftSaves(path);
-    keepVersion(path, config);
     document.leftOut = {};
     bool written = false;
     bool cancelled = false;
@@ -75,7 +79,9 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
             cancelled = progress && !progress(done, total);
             return !cancelled;
         };
-        written = saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
+        keepVersion(path, config, watched);
+        written = !cancelled
+                  && saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
     };
     if (shown)
         shown(write);

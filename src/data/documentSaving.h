@@ -24,8 +24,10 @@ using workShown = std::function<void(const std::function<void(const progressFunc
 
 // Keeps the file as it is among its earlier versions, before it is written over. True when there
 // was nothing to keep or it is kept in at least one of the configuration's folders; else the log
-// says so, and versionFault() does until the next file is saved.
-bool keepVersion(const QString &path, configStruct &config);
+// says so, and versionFault() does until the next file is saved. progress and content: as in
+// fileVersions::keep().
+bool keepVersion(const QString &path, configStruct &config, const progressFunction &progress = {},
+                 const QString &content = {});
 // What to tell beside "Saved": that no earlier version was kept, and where; empty when one was.
 QString versionFault();
 

@@ -12,7 +12,7 @@ using enum lockRule;
 const scenario actions[] = {
     {EDIT, "#zpNew !No", "orderLines = 0; orderOptions@1,1 = {+0}; title = Order"},
     {"", "#zpOpen '%/_zp/one.xml' Return", "orderLines = 1; orderLines@0,1 = ONE", same},
-    {EDIT, "#save", "status = Saved; title = Order; disk ~ <name>Żuk<; files backup/zp_0.*.xml ~ zp_0", same},
+    {EDIT, "#save", "status = Saved; title = Order; disk ~ <name>Żuk<; files backup/zp_0.*.xml.gz ~ zp_0", same},
     {EDIT, "#zpSaveAs Ctrl+A '%/o.xml' Return",
      "file o.xml ~ Żuk; file o.html ~ Żuk; disk !~ Żuk; status = Saved as %/o.xml", same},
     // What the question names is what would be written, and No goes back to the name.
