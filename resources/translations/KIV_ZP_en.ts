@@ -755,4 +755,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>versionsWindow</name>
+    <message numerus="yes">
+        <source>%n difference(s) from %1</source>
+        <translation>
+            <numerusform>%n difference from %1</numerusform>
+            <numerusform>%n differences from %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

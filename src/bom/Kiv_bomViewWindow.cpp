@@ -22,6 +22,7 @@ namespace {
 const windowAction<Kiv_bomViewWindow> actionTable[] = {
     {usualActions::save, &Kiv_bomViewWindow::commandSave},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &Kiv_bomViewWindow::commandVersions},
     {usualActions::close, &Kiv_bomViewWindow::commandClose},
     {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the list")),
      &Kiv_bomViewWindow::commandEdit},
@@ -86,8 +87,8 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name :
-         {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp", "moveDown", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp",
+                             "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
     m_view->setFont(files.config().font());
@@ -129,6 +130,18 @@ bool Kiv_bomViewWindow::load()
     return m_fault.isEmpty();
 }
 
+std::unique_ptr<command> Kiv_bomViewWindow::replacing(documentStruct &version)
+{
+    auto &other = static_cast<kiv_mat_bomStruct &>(version);
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<swapTexts>(differingTexts(*m_bom, other)));
+    std::vector<myItem::row> rows;
+    for (auto &line : other.materials)
+        rows.push_back(m_rows->makeDetachedRow(std::move(line)));
+    members.push_back(replaceRows(model(), rows));
+    return std::make_unique<appendCommands>(std::move(members), model());
+}
+
 QString Kiv_bomViewWindow::title() const
 {
     const QString title = tr("Bill of materials") + QLatin1String(" [")
@@ -151,8 +164,7 @@ void Kiv_bomViewWindow::updateActions()
                       !m_view->markedCells().isEmpty(), noLine);
     allowWhenUnlocked({"pasteLines"});
     allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
-                      m_view->markedRows().size() > 1 ? tr("several lines are selected")
-                                                        : noLine);
+                      m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("copyText", onLine, noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);

@@ -49,6 +49,8 @@ protected:
     QString fault() const override { return m_fault; }
     QString closeQuestion() const override;
     void updateActions() override;
+    const documentStruct *editedDocument() override { return m_bom.get(); }
+    std::unique_ptr<command> replacing(documentStruct &version) override;
     bool takesFiles() const override;
     void fileDropped(const QString &path) override;
 

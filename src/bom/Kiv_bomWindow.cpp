@@ -59,6 +59,7 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"save", "File", "Save", "action_save", nullptr,
       QT_TRANSLATE_NOOP("actions", "Write the set of BOM lists"), true},
      &Kiv_bomWindow::commandSave},
+    {usualActions::versions, &Kiv_bomWindow::commandVersions},
     {usualActions::close, &Kiv_bomWindow::commandClose},
     {usualActions::undo, &Kiv_bomWindow::commandUndo},
     {usualActions::redo, &Kiv_bomWindow::commandRedo},
@@ -145,6 +146,41 @@ void Kiv_bomWindow::showSet(const QHash<QString, int> &sets)
     m_saved = contentOf(known().boms());
     m_view->expandAll();
     showState();
+}
+
+const documentStruct *Kiv_bomWindow::editedDocument()
+{
+    return filePath().isEmpty() ? nullptr : &known().boms();
+}
+
+// Files that stay keep their numbers of sets.
+std::unique_ptr<command> Kiv_bomWindow::replacing(documentStruct &version)
+{
+    auto &other = static_cast<kiv_mat_bomsStruct &>(version);
+    QHash<QString, int> sets;
+    for (const QStandardItem *file : bomTree::allFiles(model()))
+        sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<swapTexts>(differingTexts(known().boms(), other)));
+    members.push_back(replaceRows(model(), {}));
+    for (auto &category : other.categories) {
+        auto groups = std::exchange(category->items, {});
+        const myItem::row row = m_rows->makeRow(std::move(category));
+        members.push_back(std::make_unique<appendNewMaterial>(model(), row));
+        for (auto &group : groups) {
+            auto files = std::exchange(group->items, {});
+            const myItem::row groupRow = m_rows->makeRow(std::move(group));
+            members.push_back(std::make_unique<appendItems>(row.first(), groupRow));
+            for (auto &file : files)
+                members.push_back(std::make_unique<appendItems>(groupRow.first(),
+                                                                m_rows->makeRow(std::move(file))));
+        }
+    }
+    for (const QStandardItem *file : bomTree::allFiles(model()))
+        myItem::setStoredText(bomTree::setsCell(file),
+                              QString::number(sets.value(bomTree::fileOf(file)->name)));
+    m_view->expandAll();
+    return std::make_unique<appendCommands>(std::move(members), model());
 }
 
 // Files may have come and gone meanwhile.

@@ -73,6 +73,8 @@ protected:
     QString fault() const override;
     QString closeQuestion() const override { return tr("Save the changed set of BOM lists?"); }
     void updateActions() override;
+    const documentStruct *editedDocument() override;
+    std::unique_ptr<command> replacing(documentStruct &version) override;
     void changeEvent(QEvent *event) override;
     static QString nothingBuilt();
 

@@ -19,7 +19,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::firmUsesCommand,     &cli::bomCsvCommand,      &cli::bomReportCommand,
         &cli::bomOrderCommand,     &cli::bomShortageCommand, &cli::mailCommand,
         &cli::helpersCommand,      &cli::downloadCommand,    &cli::packCommand,
-        &cli::unpackCommand,
+        &cli::unpackCommand,       &cli::versionsCommand,
     };
     return table;
 }

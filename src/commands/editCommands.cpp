@@ -284,6 +284,33 @@ void deleteMaterial::places(std::vector<QStandardItem *> &cells) const
     addPlace(cells, m_items, m_model->invisibleRootItem(), m_row);
 }
 
+std::unique_ptr<command> replaceRows(myModel *model, const std::vector<row> &rows)
+{
+    const changeBatch batch(model);
+    std::vector<std::unique_ptr<command>> members;
+    // From the last one on, so that the numbers of the others stay true.
+    for (int at = model->rowCount() - 1; at >= 0; --at)
+        members.push_back(std::make_unique<deleteMaterial>(model, model->index(at, 0)));
+    for (const row &items : rows)
+        members.push_back(std::make_unique<appendNewMaterial>(model, items));
+    return std::make_unique<appendCommands>(std::move(members), model);
+}
+
+swapTexts::swapTexts(std::vector<place> places)
+    : m_places(std::move(places))
+{
+    swap();
+}
+
+void swapTexts::swap()
+{
+    for (place &one : m_places) {
+        std::swap(*one.text, one.other);
+        if (one.cell)
+            myItem::setStoredText(one.cell, *one.text);
+    }
+}
+
 increaseValue::increaseValue(QStandardItem *item, unsigned step)
     : m_item(item)
     , m_old(item->text().toUInt())

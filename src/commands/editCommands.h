@@ -155,6 +155,40 @@ private:
     int m_row;
 };
 
+// One step that puts rows in the place of all top-level rows, with their records; applied already.
+std::unique_ptr<command> replaceRows(myModel *model, const std::vector<myItem::row> &rows);
+
+// Texts of records replaced, with the cells that show them, if any.
+class swapTexts : public command
+{
+public:
+    struct place
+    {
+        QString *text;
+        QString other;
+        myItem::myItemStandard *cell = nullptr;
+    };
+    explicit swapTexts(std::vector<place> places);
+    void undo() override { swap(); }
+    void redo() override { swap(); }
+
+private:
+    void swap();
+
+    std::vector<place> m_places;
+};
+
+// The places of a record's fields that another one of its class has other texts in.
+template <class Record>
+std::vector<swapTexts::place> differingTexts(Record &mine, const Record &other)
+{
+    std::vector<swapTexts::place> places;
+    for (const auto &field : Record::fields())
+        if (mine.*field.member != other.*field.member)
+            places.push_back({&(mine.*field.member), other.*field.member});
+    return places;
+}
+
 // A counter raised by a step; a text that is no number counts as 0.
 class increaseValue : public command
 {

@@ -1,5 +1,6 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
+#include "commands/editCommands.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/materialWindow.h"
 
@@ -45,6 +46,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
      &Kiv_mat_databaseWindow::commandMerge},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &Kiv_mat_databaseWindow::commandVersions},
     {usualActions::close, &Kiv_mat_databaseWindow::commandClose},
 
     {{"fullReport", QT_TRANSLATE_NOOP("actions", "Report"), QT_TRANSLATE_NOOP("actions", "Full"),
@@ -354,6 +356,18 @@ bool Kiv_mat_databaseWindow::load()
         setChanged();
     userPrompts().showErrors();
     return read;
+}
+
+std::unique_ptr<command> Kiv_mat_databaseWindow::replacing(documentStruct &version)
+{
+    auto &other = static_cast<kiv_mat_databaseStruct &>(version);
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<swapTexts>(differingTexts(m_rows->database(), other)));
+    std::vector<myItem::row> rows;
+    for (auto &group : other.groups)
+        rows.push_back(m_rows->makeRow(std::move(group)));
+    members.push_back(replaceRows(m_model, rows));
+    return std::make_unique<appendCommands>(std::move(members), m_model);
 }
 
 bool Kiv_mat_databaseWindow::mayClose()

@@ -116,6 +116,8 @@ protected:
     bool closesWithCancel() const override { return false; }
     void historyMoves() override { m_changing = true; }
     void historyMoved() override;
+    const documentStruct *editedDocument() override { return &m_rows->database(); }
+    std::unique_ptr<command> replacing(documentStruct &version) override;
     void updateActions() override;
     void closeEvent(QCloseEvent *event) override;
 

@@ -34,6 +34,7 @@ constexpr actionRow saveRegister{
 const windowAction<firmWindow> actionTable[] = {
     {saveRegister, &firmWindow::commandSave},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &firmWindow::commandVersions},
     {usualActions::close, &firmWindow::commandClose},
     {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the firms")),
      &firmWindow::commandEdit},
@@ -247,6 +248,20 @@ void firmWindow::historyMoved()
 {
     for (const page &shown : m_pages)
         shown.rows->renamed.clear();
+}
+
+std::unique_ptr<command> firmWindow::replacing(documentStruct &version)
+{
+    auto &other = static_cast<kiv_mat_firmStruct &>(version);
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<swapTexts>(differingTexts(*m_edited, other)));
+    for (firmKind kind : {manufacturer, supplier}) {
+        std::vector<myItem::row> rows;
+        for (auto &firm : kind == manufacturer ? other.manufacturers.items : other.suppliers.items)
+            rows.push_back(m_pages[kind].rows->makeDetachedRow(std::move(firm)));
+        members.push_back(replaceRows(model(kind), rows));
+    }
+    return std::make_unique<appendCommands>(std::move(members));
 }
 
 void firmWindow::commandAdd(bool)

@@ -46,6 +46,8 @@ protected:
     QLatin1String editOption() const override;
     QString closeQuestion() const override;
     void historyMoved() override;
+    const documentStruct *editedDocument() override { return m_edited.get(); }
+    std::unique_ptr<command> replacing(documentStruct &version) override;
     void updateActions() override;
     myTreeView *currentView() const override;
 

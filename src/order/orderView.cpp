@@ -227,6 +227,101 @@ std::vector<const orderItemStruct *> orderView::records(const std::vector<int> &
     return found;
 }
 
+namespace {
+
+// The text's own history begins anew with each.
+class swapAttentions final : public command
+{
+public:
+    swapAttentions(orderView *view, QString before, QString after)
+        : m_view(view)
+        , m_before(std::move(before))
+        , m_after(std::move(after))
+        , m_wasModified(view->attentions()->document()->isModified())
+    {
+        redo();
+    }
+    void undo() override { m_view->setAttentions(m_before, m_wasModified); }
+    void redo() override { m_view->setAttentions(m_after, false); }
+
+private:
+    orderView *m_view;
+    QString m_before;
+    QString m_after;
+    bool m_wasModified;
+};
+
+// Options that the order has not.
+class addOptions final : public command
+{
+public:
+    addOptions(optionsStruct *options, std::vector<std::unique_ptr<optionStruct>> added)
+        : m_options(options)
+        , m_added(std::move(added))
+        , m_count(m_added.size())
+    {
+        redo();
+    }
+    void undo() override
+    {
+        for (auto &items = m_options->items; m_added.size() < m_count; items.pop_back())
+            m_added.insert(m_added.begin(), std::move(items.back()));
+    }
+    void redo() override
+    {
+        for (auto &option : std::exchange(m_added, {}))
+            m_options->append(std::move(option));
+    }
+
+private:
+    optionsStruct *m_options;
+    std::vector<std::unique_ptr<optionStruct>> m_added;
+    size_t m_count;
+};
+
+} // namespace
+
+std::unique_ptr<command> orderView::replacing(kiv_mat_zpStruct &other)
+{
+    takeAttentions();
+    std::vector<swapTexts::place> texts;
+    std::vector<std::unique_ptr<optionStruct>> added;
+    for (auto &option : other.options.items) {
+        optionStruct *mine = m_order->options.findOption(option->type);
+        if (!mine) {
+            added.push_back(std::move(option));
+            continue;
+        }
+        for (swapTexts::place &place : differingTexts(*mine, *option)) {
+            for (int row = 0; row < m_options->rowCount(); ++row)
+                if (place.text == &mine->value1
+                    && static_cast<myItem::myItemStandard *>(m_options->item(row))->record == mine)
+                    place.cell = static_cast<myItem::myItemStandard *>(m_options->item(row, 1));
+            texts.push_back(place);
+        }
+    }
+    std::vector<myItem::row> rows;
+    for (auto &line : other.orderItems.items)
+        rows.push_back(m_lineRows->makeDetachedRow(std::move(line)));
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(std::make_unique<swapTexts>(std::move(texts)));
+    members.push_back(std::make_unique<addOptions>(&m_order->options, std::move(added)));
+    members.push_back(
+        std::make_unique<swapAttentions>(this, m_order->attentions, other.attentions));
+    members.push_back(replaceRows(m_lines, rows));
+    return std::make_unique<appendCommands>(std::move(members), m_lines);
+}
+
+void orderView::setAttentions(const QString &html, bool modified)
+{
+    m_loading = true;
+    m_attentions->setHtml(cleanHtml(html));
+    m_attentions->document()->setModified(modified);
+    m_order->attentions = html;
+    m_attentionsTouched = false;
+    m_loading = false;
+}
+
 void orderView::takeAttentions()
 {
     if (m_order && m_attentionsTouched)

@@ -41,6 +41,11 @@ public:
     // What the formatted text's dialog gives back, as one step of the editor's history.
     void replaceAttentions(const QString &html);
 
+    // A step, applied already, that gives the order the content of another one.
+    std::unique_ptr<command> replacing(kiv_mat_zpStruct &other);
+    // Shows other attentions, which the order has then; modified: whether its file has not.
+    void setAttentions(const QString &html, bool modified);
+
     // Numbers the lines from 1, in the tree and in their records.
     void renumber();
     // Takes fonts and thresholds from the configuration again.

@@ -25,6 +25,9 @@ class configWindow;
 class firmWindow;
 class myWebView;
 class orderView;
+class versionsWindow;
+struct fileKind;
+struct keptCopy;
 
 namespace mail {
 enum class contents;
@@ -54,6 +57,7 @@ public:
     // The window of a database, made when it is first asked for.
     Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
     Kiv_bomWindow &bomWindow();
+    firmWindow &firms();
     // The report brought up to date at once.
     void refreshPreview();
 
@@ -137,6 +141,8 @@ protected:
     QString closeQuestion() const override;
     bool closesWithCancel() const override { return false; }
     void historyMoved() override;
+    const documentStruct *editedDocument() override;
+    std::unique_ptr<command> replacing(documentStruct &version) override;
     void lockChanged() override;
     void updateActions() override;
     myTreeView *currentView() const override;
@@ -166,6 +172,12 @@ private:
     void openFile(const QString &path);
     bool printTo(const QString &path);
 
+    // --- MainWindowVersions.cpp ---
+    void showVersions(const QString &path);
+    void openCopy(const keptCopy &copy);
+    void restoreCopy(const keptCopy &copy);
+    editWindow *windowOf(const QString &path, const fileKind &kind);
+
     // --- MainWindowLines.cpp ---
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
                    const QString &what);
@@ -191,6 +203,7 @@ private:
     std::unique_ptr<configWindow> m_config;
     std::unique_ptr<firmWindow> m_firm;
     std::unique_ptr<Kiv_bomWindow> m_bom;
+    std::unique_ptr<versionsWindow> m_versions;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     bool m_previewIsOld = true;

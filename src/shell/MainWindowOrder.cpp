@@ -6,6 +6,7 @@
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
+#include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
@@ -262,6 +263,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_recovery->discard();
     for (editWindow *window : others)
         window->closeAtEnd();
+    if (m_versions)
+        m_versions->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();

@@ -18,6 +18,7 @@ const scenario databaseActions[] = {
      edits},
     {"", "#merge 'other.xml' Return", "front ~ Merge [", same},
     {"", "#merge 'cpv.txt' Return", "errors ~ cpv.txt</b>", same},
+    {"", "#versions", "front = Versions and unsaved orders", reads},
     {"", "#close", "title = closed; boxes ="},
     {"", "#fullReport !Yes", "boxes ~ Do you want create ?; file _files/db_warehouse_full.html ~ M3", reads},
     {"", "#shortReport !Yes", "status ~ 4 materials written; file _files/db_warehouse_short.html ~ M3", reads},
@@ -96,7 +97,8 @@ const scenario refused[] = {
     {"taken", OPEN "materials@0/0,1 F2 Ctrl+A '317111-01.02-00001' " REFUSED,
      "status ~ Another material has; title !~ *"},
     {"code", OPEN "materials@1,2 F2 Ctrl+A '317' " REFUSED, "status = CPV syntax error; title !~ *"},
-    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED, "status = Group already exists; title !~ *"},
+    {"group", OPEN "materials@1,0 F2 Ctrl+A 'Rezystory SMD 0603' " REFUSED,
+     "status = Group already exists; title !~ *"},
 };
 
 class tst_databaseWindow : public scenarioFixture

@@ -27,6 +27,7 @@ const scenario actions[] = {
     {"", "#archiveDatabase", "status ~ 4 database; files backup/*.archive.* ~ db_mechanics", reads},
     {"", "#sendDatabase", "status ~ the message is", reads},
     {"", "#sendBoms", "status ~ the message is", reads},
+    {"", "#versions", "front = Versions and unsaved orders", reads},
     {"", "#exit", "title = closed; boxes ="},
     {"", "#edit", "status = Editing is locked"},
     {"#edit", "#edit", "status = Editing is allowed"},
