@@ -357,6 +357,16 @@
     </message>
 </context>
 <context>
+    <name>configWindow</name>
+    <message numerus="yes">
+        <source>%n version(s), %1 MB</source>
+        <translation>
+            <numerusform>%n version, %1 MB</numerusform>
+            <numerusform>%n versions, %1 MB</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>data</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -808,6 +818,16 @@
         <translation>
             <numerusform>%1: at most %n decimal</numerusform>
             <numerusform>%1: at most %n decimals</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>versionsWindow</name>
+    <message numerus="yes">
+        <source>%n difference(s) from %1</source>
+        <translation>
+            <numerusform>%n difference from %1</numerusform>
+            <numerusform>%n differences from %1</numerusform>
         </translation>
     </message>
 </context>

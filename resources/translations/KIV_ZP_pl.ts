@@ -1045,6 +1045,26 @@
         <source>The file %1 is none of those that the program has open. What was left of it is kept.</source>
         <translation>Plik %1 nie jest żadnym z plików, z którymi program pracuje. To, co z niego zostało, jest zachowane.</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Nie można odczytać %1: %2</translation>
+    </message>
+    <message>
+        <source>Opened as a new order: %1</source>
+        <translation>Otwarto jako nowe zamówienie: %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć %1</translation>
+    </message>
+    <message>
+        <source>%1 is not edited in any window; open the copy instead.</source>
+        <translation>%1 nie jest edytowany w żadnym oknie; zamiast tego otwórz kopię.</translation>
+    </message>
+    <message>
+        <source>Open repaired copy</source>
+        <translation>Otwórz naprawioną kopię</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -2007,6 +2027,46 @@
         <source>Search the databases for the material of the selected line</source>
         <translation>Szuka w bazach materiału dla zaznaczonej pozycji</translation>
     </message>
+    <message>
+        <source>Open an order as a new one, any other copy to be looked at</source>
+        <translation>Otwórz zamówienie jako nowe, inną kopię do obejrzenia</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Przywróć</translation>
+    </message>
+    <message>
+        <source>Put the content back, as a step that can be undone</source>
+        <translation>Przywróć treść jako krok, który można cofnąć</translation>
+    </message>
+    <message>
+        <source>List again</source>
+        <translation>Odśwież listę</translation>
+    </message>
+    <message>
+        <source>Compare with the version after it</source>
+        <translation>Porównaj z następną wersją</translation>
+    </message>
+    <message>
+        <source>Instead of the file as it is now</source>
+        <translation>Zamiast z plikiem w obecnym stanie</translation>
+    </message>
+    <message>
+        <source>Versions and unsaved orders ...</source>
+        <translation>Wersje i niezapisane zamówienia ...</translation>
+    </message>
+    <message>
+        <source>What is kept of the file: compare, open, restore</source>
+        <translation>Co zachowano z pliku: porównaj, otwórz, przywróć</translation>
+    </message>
+    <message>
+        <source>Open repaired copy ...</source>
+        <translation>Otwórz naprawioną kopię ...</translation>
+    </message>
+    <message>
+        <source>Read what can be read of a damaged file of any kind</source>
+        <translation>Odczytaj, co się da, z uszkodzonego pliku dowolnego rodzaju</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2680,6 +2740,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Copies a file to where its link leads on the file server.</source>
         <translation>Kopiuje plik tam, dokąd prowadzi jego odnośnik na serwerze plików.</translation>
     </message>
+    <message>
+        <source>Lists the earlier versions and unsaved orders that are kept, of one file or of all. Exit code 1 when there are none.</source>
+        <translation>Wypisuje zachowane wcześniejsze wersje i niezapisane zamówienia, jednego pliku lub wszystkich. Kod wyjścia 1, gdy nie ma żadnych.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -2760,6 +2824,14 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>the file cannot be read</source>
         <translation>nie można odczytać pliku</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n version(s), %1 MB</source>
+        <translation>
+            <numerusform>%n wersja, %1 MB</numerusform>
+            <numerusform>%n wersje, %1 MB</numerusform>
+            <numerusform>%n wersji, %1 MB</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3146,6 +3218,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
             <numerusform>pominięto %n znaków, których nie może być w pliku</numerusform>
         </translation>
     </message>
+    <message>
+        <source>New order</source>
+        <translation>Nowe zamówienie</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -3439,6 +3515,18 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>The file %1 was changed by another program meanwhile. These records differ there and were not restored: %2</source>
         <translation>Plik %1 został tymczasem zmieniony przez inny program. Te rekordy różnią się w nim i nie zostały przywrócone: %2</translation>
+    </message>
+    <message>
+        <source>It is of another kind.</source>
+        <translation>To plik innego rodzaju.</translation>
+    </message>
+    <message>
+        <source>Nothing differs from %1</source>
+        <translation>Brak różnic: %1</translation>
+    </message>
+    <message>
+        <source>Restored: %1</source>
+        <translation>Przywrócono: %1</translation>
     </message>
 </context>
 <context>
@@ -5288,6 +5376,133 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>%1: dates from %2 to %3</source>
         <translation>%1: daty od %2 do %3</translation>
+    </message>
+</context>
+<context>
+    <name>versionsWindow</name>
+    <message>
+        <source>added</source>
+        <translation>dodano</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>usunięto</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>przeniesiono</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>zmieniono</translation>
+    </message>
+    <message>
+        <source>Versions and unsaved orders</source>
+        <translation>Wersje i niezapisane zamówienia</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Rodzaj</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Rozmiar</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Różnica</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Wtedy</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+    <message>
+        <source>A part of the file&apos;s name or folder</source>
+        <translation>Część nazwy pliku lub folderu</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Różnice</translation>
+    </message>
+    <message>
+        <source>unsaved order</source>
+        <translation>niezapisane zamówienie</translation>
+    </message>
+    <message>
+        <source>version</source>
+        <translation>wersja</translation>
+    </message>
+    <message>
+        <source>No version is kept</source>
+        <translation>Nie zachowano żadnej wersji</translation>
+    </message>
+    <message>
+        <source>no version selected</source>
+        <translation>nie wybrano wersji</translation>
+    </message>
+    <message>
+        <source>it is not known which file it is of</source>
+        <translation>nie wiadomo, z którego pliku pochodzi</translation>
+    </message>
+    <message>
+        <source>the file now</source>
+        <translation>plik obecny</translation>
+    </message>
+    <message>
+        <source>the version of %1</source>
+        <translation>wersja z %1</translation>
+    </message>
+    <message>
+        <source>There is no file to compare it with</source>
+        <translation>Nie ma pliku do porównania</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Porównywanie</translation>
+    </message>
+    <message>
+        <source>Comparing was cancelled</source>
+        <translation>Porównywanie przerwano</translation>
+    </message>
+    <message>
+        <source>It cannot be compared: %1</source>
+        <translation>Nie można porównać: %1</translation>
+    </message>
+    <message>
+        <source>Nothing differs from %1</source>
+        <translation>Brak różnic: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s) from %1</source>
+        <translation>
+            <numerusform>%n różnica: %1</numerusform>
+            <numerusform>%n różnice: %1</numerusform>
+            <numerusform>%n różnic: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the first %1 are shown</source>
+        <translation>pokazano pierwsze %1</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>uszkodzona</translation>
     </message>
 </context>
 <context>

@@ -23,6 +23,7 @@ namespace {
 const windowAction<Kiv_bomViewWindow> actionTable[] = {
     {usualActions::save, &Kiv_bomViewWindow::commandSave},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &Kiv_bomViewWindow::commandVersions},
     {usualActions::close, &Kiv_bomViewWindow::commandClose},
     {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the list")),
      &Kiv_bomViewWindow::commandEdit},

@@ -60,6 +60,7 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"save", "File", "Save", "action_save", nullptr,
       QT_TRANSLATE_NOOP("actions", "Write the set of BOM lists"), true},
      &Kiv_bomWindow::commandSave},
+    {usualActions::versions, &Kiv_bomWindow::commandVersions},
     {usualActions::close, &Kiv_bomWindow::commandClose},
     {usualActions::undo, &Kiv_bomWindow::commandUndo},
     {usualActions::redo, &Kiv_bomWindow::commandRedo},

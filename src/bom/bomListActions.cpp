@@ -183,6 +183,7 @@ Kiv_bomViewWindow &Kiv_bomWindow::viewWindow(const QString &path)
                     sets += bomTree::setsOf(file);
             return sets;
         };
+        connect(window.get(), &editWindow::versionsWanted, this, &editWindow::versionsWanted);
         window->openList = [this](const QString &file) { openList(file); };
     }
     return *window;

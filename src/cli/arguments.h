@@ -114,6 +114,7 @@ extern const subcommand infoCommand;
 extern const subcommand resaveCommand;
 extern const subcommand repairCommand;
 extern const subcommand diffCommand;
+extern const subcommand versionsCommand;
 extern const subcommand reportCommand;
 extern const subcommand findCommand;
 extern const subcommand checkMaterialsCommand;

@@ -20,6 +20,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
         &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
         &cli::uploadCommand,         &cli::packCommand,         &cli::unpackCommand,
+        &cli::versionsCommand,
     };
     return table;
 }

@@ -165,6 +165,7 @@ configWindow::configWindow(programData &files)
     addPage(targetsPage, tr("Targets"), "targets");
     m_views[optionsPage]->setSortingEnabled(false);
     setCentralWidget(m_tabs);
+    connect(&m_versions, &versionCount::counted, this, &configWindow::showVersions);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] { updateActions(); });
     constexpr QSize usualSize(880, 640);
     resize(usualSize);
@@ -285,6 +286,20 @@ void configWindow::showOptions()
     constexpr int valueWidth = 340;
     m_views[optionsPage]->header()->resizeSection(0, captionWidth);
     m_views[optionsPage]->header()->resizeSection(1, valueWidth);
+    m_versions.start(known().config().backupFolders());
+}
+
+// Beside the number of versions that are kept of a file.
+void configWindow::showVersions(const fileVersions::usage &found)
+{
+    constexpr double megabyte = 1e6;
+    constexpr int unitColumn = 2;
+    for (int row = 0; row < options()->rowCount(); ++row)
+        if (options()->item(row)->toolTip() == optionKey::backupCount)
+            options()
+                ->item(row, unitColumn)
+                ->setText(tr("%n version(s), %1 MB", nullptr, found.count)
+                              .arg(double(found.bytes) / megabyte, 0, 'f', 1));
 }
 
 void configWindow::updateActions()

@@ -2,6 +2,7 @@
 // the configuration's file, which saving puts in use.
 #pragma once
 
+#include "config/versionCount.h"
 #include "data/configStruct.h"
 #include "tree/columnTable.h"
 #include "window/editWindow.h"
@@ -61,6 +62,7 @@ private:
     };
 
     void showOptions();
+    void showVersions(const fileVersions::usage &found);
     void addPage(page at, const QString &title, const char *name);
 
     std::unique_ptr<configStruct> m_edited;
@@ -69,6 +71,7 @@ private:
     optionRows m_optionRows;
     std::unique_ptr<listRows<personStruct>> m_personRows;
     std::unique_ptr<listRows<targetStruct>> m_targetRows;
+    versionCount m_versions;
     QString m_fault;     // why the configuration cannot be edited
     QStringList m_later; // options that the next start reads
 };

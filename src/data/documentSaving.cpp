@@ -42,17 +42,16 @@ bool keepIn(const QString &path, const QString &content, configStruct &config,
     constexpr int usualCount = 20;
     const optionStruct *count = config.options.findOption(optionKey::backupCount);
     const QStringList folders = config.backupFolders();
-    bool kept = false;
-    for (const QString &folder : folders)
-        kept =
-            runBeside(progress,
-                      [&path, &content, folder, most = count ? count->value1.toInt() : usualCount] {
-                          return fileVersions::keep(path, folder, most, content);
-                      })
-            || kept;
     lastVersionFault().clear();
-    if (kept)
-        return true;
+    bool cancelled = false;
+    const auto watched = [&](long long done, long long total) {
+        cancelled = progress && !progress(done, total);
+        return !cancelled;
+    };
+    const bool kept = fileVersions::keep(path, folders, count ? count->value1.toInt() : usualCount,
+                                         watched, content);
+    if (kept || cancelled)
+        return kept;
     const QString places = folders.join(QLatin1String(", "));
     userPrompts().log(messages::done(
         QCoreApplication::translate("log", "No backup could be written "), path, places));
@@ -114,7 +113,7 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
             cancelled = cancelled || (progress && !progress(done, total));
             return !cancelled;
         };
-        keepVersion(path, config, progress ? progressFunction(watched) : progressFunction());
+        keepVersion(path, config, watched);
         written = !cancelled
                   && saveXmlNoEvents(path, &document, &reason, watched, saveRule::onlyGood) >= 0;
     });

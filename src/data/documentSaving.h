@@ -24,8 +24,8 @@ using workShown = std::function<void(const std::function<void(const progressFunc
 
 // Keeps the file as it is among its earlier versions, before it is written over. True when there
 // was nothing to keep or it is kept in at least one of the configuration's folders; else the log
-// says so, and versionFault() does until the next file is saved. progress is asked meanwhile, and
-// what it answers ignored: a copy is kept whole.
+// says so, and versionFault() does until the next file is saved. progress: as in
+// fileVersions::keep().
 bool keepVersion(const QString &path, configStruct &config, const progressFunction &progress = {});
 // Keeps a document as it is now, saved or not, among the earlier versions of the file. The same
 // results; false also when it cannot be written or the user cancelled that.

@@ -1,5 +1,6 @@
 #include "database/Kiv_mat_databaseWindow.h"
 
+#include "commands/editCommands.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/databaseRowsTarget.h"
 #include "database/materialWindow.h"
@@ -46,6 +47,7 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
      &Kiv_mat_databaseWindow::commandMerge},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &Kiv_mat_databaseWindow::commandVersions},
     {usualActions::close, &Kiv_mat_databaseWindow::commandClose},
 
     {{"fullReport", QT_TRANSLATE_NOOP("actions", "Report"), QT_TRANSLATE_NOOP("actions", "Full"),

@@ -37,6 +37,7 @@ constexpr actionRow saveRegister{
 const windowAction<firmWindow> actionTable[] = {
     {saveRegister, &firmWindow::commandSave},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::versions, &firmWindow::commandVersions},
     {usualActions::close, &firmWindow::commandClose},
     {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the firms")),
      &firmWindow::commandEdit},

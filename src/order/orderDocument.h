@@ -31,6 +31,9 @@ public:
     // onDisk when it was read.
     bool recover(const QString &copy, const QString &path, const fileState &onDisk);
 
+    // Takes an order that has no file of its own.
+    void take(std::unique_ptr<kiv_mat_zpStruct> order) { settle(std::move(order), {}); }
+
     // An empty order with the configuration's persons and target, without a path.
     void startNew();
 

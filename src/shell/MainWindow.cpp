@@ -9,6 +9,7 @@
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "dialogs/aboutDialog.h"
+#include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
@@ -70,6 +71,10 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Send the saved order and its PDF by mail"), true},
      &MainWindow::commandZpSend},
     {usualActions::fileSeparator, nullptr},
+    {{"zpRepair", "File", QT_TRANSLATE_NOOP("actions", "Open repaired copy ..."), "action_open",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Read what can be read of a damaged file of any kind")},
+     &MainWindow::commandZpRepair},
+    {usualActions::versions, &MainWindow::commandVersions},
     {{"archiveDD", "File", QT_TRANSLATE_NOOP("actions", "Archive dd"), "action_archive", nullptr,
       QT_TRANSLATE_NOOP("actions", "Put a dated copy of the order into the backup folder")},
      &MainWindow::commandArchiveDD},
@@ -231,6 +236,7 @@ MainWindow::MainWindow(programData &files)
     , m_recovery(std::make_unique<orderRecovery>(recoveryFolders()))
 {
     buildWidgets();
+    connect(this, &editWindow::versionsWanted, this, &MainWindow::showVersions);
     prepareCertificates();
     loadDataFiles();
     QTimer::singleShot(updateCheckDelayMs, this, &MainWindow::checkUpdate);
@@ -464,6 +470,7 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
     auto &window = m_databases[kind];
     if (!window) {
         window = std::make_unique<Kiv_mat_databaseWindow>(known(), kind);
+        connect(window.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         window->openOrder = [this]() -> const kiv_mat_zpStruct & { return m_document.order(); };
         connect(this, &MainWindow::orderAnswered, window.get(), &editWindow::tell);
         connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
@@ -500,10 +507,11 @@ void MainWindow::databaseCommand(bool)
     databaseWindow(kinds[chosen]).showNow();
 }
 
-void MainWindow::commandFirm(bool)
+firmWindow &MainWindow::firms()
 {
     if (!m_firm) {
         m_firm = std::make_unique<firmWindow>(known());
+        connect(m_firm.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         m_firm->renameInWindow = [this](programData::databaseKind kind,
                                         const firmOperations::renameList &renames) {
             const auto &window = m_databases[kind];
@@ -514,8 +522,10 @@ void MainWindow::commandFirm(bool)
         };
         connect(m_firm.get(), &firmWindow::materialsChanged, this, &MainWindow::refreshHtml);
     }
-    m_firm->showNow();
+    return *m_firm;
 }
+
+void MainWindow::commandFirm(bool) { firms().showNow(); }
 
 void MainWindow::configCommand(bool)
 {

@@ -26,6 +26,9 @@ class configWindow;
 class firmWindow;
 class myWebView;
 class orderView;
+class versionsWindow;
+struct fileKind;
+struct keptCopy;
 
 namespace mail {
 enum class contents;
@@ -61,12 +64,14 @@ public:
     // The window of a database, made when it is first asked for.
     Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
     Kiv_bomWindow &bomWindow();
+    firmWindow &firms();
     // The report brought up to date at once.
     void refreshPreview();
 
 public slots:
     void commandZpNew(bool);
     void commandZpOpen(bool);
+    void commandZpRepair(bool);
     void commandZpSave(bool on);
     void commandZpSaveAs(bool);
     void commandZpPrint(bool);
@@ -177,7 +182,14 @@ private:
     bool recoverOrder(const orderRecovery::copy &copy);
     bool recoverOther(const recoveryJournal::left &copy);
     void openFile(const QString &path);
+    void openRepaired(const QString &path, QString *fault = nullptr);
     bool printTo(const QString &path);
+
+    // --- MainWindowVersions.cpp ---
+    void showVersions(const QString &path);
+    void openCopy(const keptCopy &copy);
+    void restoreCopy(const keptCopy &copy);
+    editWindow *windowOf(const QString &path, const fileKind &kind);
 
     // --- MainWindowLines.cpp ---
     bool setColumn(int column, const std::vector<int> &rows, const QVariant &value,
@@ -204,6 +216,7 @@ private:
     std::unique_ptr<configWindow> m_config;
     std::unique_ptr<firmWindow> m_firm;
     std::unique_ptr<Kiv_bomWindow> m_bom;
+    std::unique_ptr<versionsWindow> m_versions;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     bool m_previewIsOld = true;

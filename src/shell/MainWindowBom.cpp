@@ -40,6 +40,7 @@ Kiv_bomWindow &MainWindow::bomWindow()
 {
     if (!m_bom) {
         m_bom = std::make_unique<Kiv_bomWindow>(known());
+        connect(m_bom.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         connect(m_bom.get(), &Kiv_bomWindow::appendToOrder, this, &MainWindow::appendBoms);
     }
     return *m_bom;

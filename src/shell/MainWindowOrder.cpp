@@ -6,6 +6,7 @@
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
+#include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
@@ -22,6 +23,7 @@
 #include "util/text.h"
 #include "util/userState.h"
 #include "window/messageWindow.h"
+#include "window/repairOffer.h"
 #include "window/workProgress.h"
 
 #include <QCloseEvent>
@@ -143,9 +145,56 @@ void MainWindow::fileDropped(const QString &path)
 void MainWindow::openFile(const QString &path)
 {
     forgetOrder();
-    userState::instance().lastZp = m_document.load(path, true) ? path : QString();
+    const bool isRead = m_document.load(path, true);
+    userState::instance().lastZp = isRead ? path : QString();
     showDocument();
     userPrompts().showErrors();
+    if (!isRead && QFileInfo(path).isFile())
+        openRepaired(path);
+}
+
+// What can be read of a damaged file: an order becomes a new one, which has no file; of another
+// file a copy is written. Why there was nothing to be opened, is put into fault.
+void MainWindow::openRepaired(const QString &path, QString *fault)
+{
+    QString ignored;
+    auto repaired = offerRepaired(path, progress(), fault ? fault : &ignored);
+    if (!repaired)
+        return;
+    userPrompts().showErrors();
+    if (auto *order = dynamic_cast<kiv_mat_zpStruct *>(repaired.get())) {
+        // It is asked about before, but not when the file was to be opened anyway.
+        if (fault && !closeDocument())
+            return;
+        forgetOrder();
+        repaired.release();
+        m_document.take(std::unique_ptr<kiv_mat_zpStruct>(order));
+        showDocument();
+        setChanged();
+        tell(tr("Opened as a new order: %1").arg(QDir::toNativeSeparators(path)));
+        return;
+    }
+    const QFileInfo file(path);
+    const QString chosen = userPrompts().saveFile(
+        tr("Save to File"),
+        file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("-2.xml"),
+        xmlFilter());
+    if (!chosen.isEmpty() && saveDocument(chosen, *repaired, known().config()))
+        tell(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
+}
+
+void MainWindow::commandZpRepair(bool)
+{
+    const QString path =
+        userPrompts().openFile(tr("Open repaired copy"), m_document.folder(), xmlFilter());
+    if (path.isEmpty())
+        return;
+    QString fault;
+    openRepaired(path, &fault);
+    if (!fault.isEmpty())
+        userPrompts().showError(QDir::toNativeSeparators(path).toHtmlEscaped() + QLatin1String(": ")
+                                + fault.toHtmlEscaped());
+    stayOpen();
 }
 
 bool MainWindow::storeRecovery()
@@ -272,6 +321,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_recovery->discard();
     for (editWindow *window : others)
         window->closeAtEnd();
+    if (m_versions)
+        m_versions->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();

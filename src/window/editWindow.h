@@ -24,6 +24,7 @@ class fileWatch;
 class htmlView;
 class myModel;
 class myTreeView;
+class documentStruct;
 class programData;
 
 // The actions that windows share, for their tables.
@@ -37,6 +38,13 @@ inline constexpr actionRow save{"save",
                                 true};
 inline constexpr actionRow close{"close",        "File",   QT_TRANSLATE_NOOP("actions", "Close"),
                                  "action_close", "Ctrl+W", nullptr};
+inline constexpr actionRow versions{
+    "versions",
+    "File",
+    QT_TRANSLATE_NOOP("actions", "Versions and unsaved orders ..."),
+    "action_archive",
+    "Ctrl+Shift+H",
+    QT_TRANSLATE_NOOP("actions", "What is kept of the file: compare, open, restore")};
 inline constexpr actionRow undo{"undo",
                                 QT_TRANSLATE_NOOP("actions", "Edit"),
                                 QT_TRANSLATE_NOOP("actions", "Undo"),
@@ -130,6 +138,10 @@ public:
     // Closes without a question, because the program ends.
     void closeAtEnd();
 
+    // Puts the content of a version in the place of the document's, as one step; the present state
+    // is kept as a version first. what names the version. False, told to the user, when it may not.
+    bool restoreVersion(documentStruct &version, const QString &what);
+
     // Locks or unlocks as the configuration and the document allow.
     void setUnlocked(bool wanted);
 
@@ -137,6 +149,7 @@ public slots:
     void commandSave(bool);
     void commandClose(bool);
     void commandEdit(bool on);
+    void commandVersions(bool);
     void commandUndo(bool);
     void commandRedo(bool);
     void commandCopyCells(bool);
@@ -150,6 +163,10 @@ public slots:
     void tell(const QString &text);
     // The same of a file that was saved, and whether its earlier version was kept.
     void tellSaved(const QString &text);
+
+signals:
+    // The versions of the file are to be shown.
+    void versionsWanted(const QString &path);
 
 protected:
     editWindow(const QString &name, programData &known, QWidget *parent = nullptr);

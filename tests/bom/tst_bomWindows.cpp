@@ -38,6 +38,7 @@ const scenario setActions[] = {
     {SETS, "#report Ctrl+A '%/p' !fileTypeCombo Down Return !fileNameEdit Return",
      "file p.pdf ~ PDF-1; files p.html ="},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
+    {"", "#versions", "front = Versions and unsaved orders"},
     {"", "#close", "title = closed"},
     {NAME, "#undo", "boms@0,0 = Zasilanie; title = Bill of materials"},
     {NAME "Ctrl+Z", "#redo", "boms@0,0 = Żuk; title = Bill of materials *"},
@@ -62,6 +63,7 @@ const scenario setActions[] = {
 
 const scenario listActions[] = {
     {CELL, "#save", "file " LIST " ~ Żuk; status = Saved", same},
+    {"", "#versions", "front = Versions and unsaved orders"},
     {"", "#close", "title = closed"},
     {"Ctrl+E", "#edit", "status = Editing is allowed; title = Bill of materials [%/" LIST "]"},
     {CELL, "#undo", "lines@0,2 = R1", guards},
@@ -73,7 +75,8 @@ const scenario listActions[] = {
     {"lines@0,2", "#moveDown", "lines@0,2 = R1; status = 1 line moved", edits},
     {"lines@1,2", "#moveUp", "lines@0,2 = R1; status = 1 line moved", edits},
     {"lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
-    {"lines@0,2", "#pickMaterial Ctrl+A 'ams1117' Return", "lines@0,1 = AMS1117-3.3; lines@0,2 = R1; lines@0,3 = 0,75", edits},
+    {"lines@0,2", "#pickMaterial Ctrl+A 'ams1117' Return", "lines@0,1 = AMS1117-3.3; lines@0,2 = R1; lines@0,3 = 0,75",
+     edits},
     {"", "#find 'R9' ~100", "counts = 2 lines, 0 of them unknown, 0 found", reads},
     {"", "#sum Return", "boxes ~ Information: ", reads},
 };

@@ -84,6 +84,7 @@ private slots:
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
         row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
         row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
+        row("versions", 1, "", "kiv_mat_config.xml: cannot be read");
         row("mail", 2, "", "give one of");
         row("mail good.xml --boms", 2, "", "give one of");
         row("mail good.xml", 1, "", "_config/kiv_mat_config.xml: cannot be read");

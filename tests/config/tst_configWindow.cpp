@@ -11,7 +11,7 @@ const scenario actions[] = {
     {NAME, "#save", "status ~ Saved; saved ~ <option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"ZP/7\"", same},
     {"", "#default", "saved ~ <option editable=\"YES\" type=\"ORDER_NUMBER\" value1=\"\"", edits},
     {"", "#close", "title = closed; boxes ="},
-    {"", "#edit", "status = Editing is locked"},
+    {"~100", "#edit", "status = Editing is locked; options:2 ~ 0 versions, 0.0 MB"},
     {NAME, "#undo", "status ~ Undone: ; at = ZP/13/2026", guards},
     {NAME " Ctrl+Z", "#redo", "status ~ Done again: ; saved ~ value1=\"ZP/7\"", guards},
     {"!Persons persons@0,1 Shift+Down", "#fillDown", "status = Fill down", edits},

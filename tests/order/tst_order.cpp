@@ -4,6 +4,7 @@
 #include "data/loaders.h"
 #include "order/orderRecovery.h"
 #include "util/fileVersions.h"
+#include "util/gzipFile.h"
 #include "window/messageWindow.h"
 
 #include <QLabel>
@@ -233,7 +234,7 @@ private slots:
 
     void versionsGo_data()
     {
-        const char *copies = "files %1/zp_0.*.xml ~ zp_0; status = Saved";
+        const char *copies = "files %1/zp_0.*.xml.gz ~ zp_0; status = Saved";
         const testSupport::rows<QString, QString> row;
         row("beside the program", "rel/here", QString(copies).arg("rel/here"));
         row("not only to the temporary folder", "%/tmp/KivZP_BACKUP",
@@ -262,18 +263,28 @@ private slots:
             QFile(path("a.xml")).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
             // The second time there is nothing new.
             for (int times = 0; times < 2; ++times)
-                QVERIFY(fileVersions::keep(path("a.xml"), backup, 3));
+                QVERIFY(fileVersions::keep(path("a.xml"), {backup}, 3));
         }
         const auto othersMay = [](const QString &made) { return int(QFile::permissions(made)) & 0x77; };
         QCOMPARE(othersMay(backup), 0);
         QCOMPARE(othersMay(fileVersions::of(path("a.xml"), backup)[0]), 0x40);
         folder().write("b/a.xml", "other");
-        QVERIFY(fileVersions::keep(path("b/a.xml"), backup, 3));
+        QVERIFY(fileVersions::keep(path("b/a.xml"), {backup}, 3));
         QByteArray kept;
         for (const QString &version : fileVersions::of(path("a.xml"), backup))
-            kept += testSupport::read(version);
+            kept += testSupport::read(fileVersions::unpacked(version));
         QCOMPARE(kept, QByteArray("432"));
-        QVERIFY(!fileVersions::keep(path("a.xml"), path("a.xml"), 3));
+        // Known by their path, those of older programs, which are not packed, by the files that there are.
+        const QString newest = fileVersions::of(path("a.xml"), backup)[0];
+        QCOMPARE(testSupport::run("zcat", {newest}).out, QString("4"));
+        QVERIFY(!gzipFile::unpack(newest, path("out"), 0) && gzipFile::unpack(newest, path("out"), 1));
+        folder().write("versions/" + QFileInfo(newest).fileName().left(11) + "20200101-000000-000.xml", "old");
+        folder().write("versions/a.0000000x.20200101-000000-000.xml", "none");
+        const auto all = fileVersions::all({backup, backup}, {path("a.xml")});
+        QCOMPARE(int(all.size()), 5);
+        QVERIFY(all[0].path == path("b/a.xml") && all[1].file == newest && all[1].path == path("a.xml"));
+        QCOMPARE(all[4].path + testSupport::read(fileVersions::unpacked(all[4].file)), path("a.xml") + "old");
+        QVERIFY(!fileVersions::keep(path("a.xml"), {path("a.xml")}, 3));
     }
 };
 

@@ -12,7 +12,7 @@ using enum lockRule;
 const scenario actions[] = {
     {EDIT, "#zpNew !No", "orderLines = 0; orderOptions@1,1 = {+0}; title = Order"},
     {"", "#zpOpen '%/_zp/one.xml' Return", "orderLines = 1; orderLines@0,1 = ONE", same},
-    {EDIT, "#save", "status = Saved; title = Order; disk ~ <name>Żuk<; files backup/zp_0.*.xml ~ zp_0", same},
+    {EDIT, "#save", "status = Saved; title = Order; disk ~ <name>Żuk<; files backup/zp_0.*.xml.gz ~ zp_0", same},
     {EDIT, "#zpSaveAs Ctrl+A '%/o.xml' Return",
      "file o.xml ~ Żuk; file o.html ~ Żuk; disk !~ Żuk; status = Saved as %/o.xml", same},
     // What the question names is what would be written, and No goes back to the name.
@@ -27,6 +27,14 @@ const scenario actions[] = {
     {"", "#archiveDatabase", "status ~ 4 database; files backup/*.archive.* ~ db_mechanics", reads},
     {"", "#sendDatabase", "status ~ the message is", reads},
     {"", "#sendBoms", "status ~ the message is", reads},
+    {"", "#zpOpen '%/_zp/bad.xml' Return Return Return !Open_repaired_copy",
+     "orderLines = 2; orderLines@1,1 = R & D; title = Order *; errors ~ stands alone"},
+    {"", "#zpOpen '%/_zp/bad.xml' Return Return Return Escape", "orderLines = 0; title = Order", same},
+    {"", "#zpRepair '%/_zp/bad.xml' Return !Open_repaired_copy", "orderLines = 2; title = Order *"},
+    {"", "#zpRepair '%/_files/cut.xml' Return !Open_repaired_copy Ctrl+A '%/_files/whole.xml' Return",
+     "file _files/whole.xml ~ <name>F</name>; file _files/cut.xml !~ /firm; orderLines = 21", same},
+    {"", "#zpRepair '%/_zp/one.xml' Return", "boxes ~ nothing to mend; orderLines = 21", same},
+    {"", "#versions", "front = Versions and unsaved orders", reads},
     {"", "#exit", "title = closed; boxes ="},
     {"", "#edit", "status = Editing is locked"},
     {"#edit", "#edit", "status = Editing is allowed"},
@@ -95,6 +103,11 @@ class tst_mainWindow : public scenarioFixture
         folder().write("_e-mail/msg_template.htm", "<p>Order <b>{Do_no}</b></p>");
         folder().write("_zp/one.xml", testSupport::order("<order_items><order_item><name>ONE</name>"
                                                          "</order_item></order_items>"));
+        folder().write("_zp/bad.xml", testSupport::order("<order_items><order_item><name>ONE</name></order_item>"
+                                                         "<order_item><name>R & D</name></order_item></order_items>"));
+        folder().write("_files/cut.xml", testSupport::document("kiv_mat_firm", "KIV_MAT_FIRM_1", "kiv_mat.xsd",
+                                                               "<suppliers><firm><name>F")
+                                             .chopped(15));
     }
     std::vector<scenarioTable> tables() override { return {{"", true, actions}}; }
 

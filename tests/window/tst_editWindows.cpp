@@ -222,6 +222,7 @@ private slots:
     {
         scenarioFixture::prepare();
         setOption("PATH_BACKUP", path("kept"));
+        m_file.clear();
     }
     // The file with the text of a cell changed, as another program does it: by a file that takes its place.
     void changeElsewhere(const QString &file, const QString &cell)
@@ -462,12 +463,6 @@ private slots:
 
 private:
     QString file() override { return m_file.isEmpty() ? scenarioFixture::file() : m_file; }
-    void prepare() override
-    {
-        scenarioFixture::prepare();
-        m_file.clear();
-    }
-
     QString m_file;
     QString m_told;
 };

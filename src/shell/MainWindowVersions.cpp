@@ -1,0 +1,132 @@
+// The window of versions and unsaved orders, and what becomes of a copy that is opened or restored.
+#include "shell/MainWindow.h"
+
+#include "bom/Kiv_bomViewWindow.h"
+#include "bom/Kiv_bomWindow.h"
+#include "data/programData.h"
+#include "data/vocabulary.h"
+#include "database/Kiv_mat_databaseWindow.h"
+#include "dialogs/versionsWindow.h"
+#include "firm/firmWindow.h"
+#include "order/orderView.h"
+#include "util/desktop.h"
+#include "util/fileVersions.h"
+#include "util/paths.h"
+#include "util/prompts.h"
+#include "util/scratch.h"
+#include "util/userState.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+QString called(const keptCopy &copy)
+{
+    return copy.name + QLatin1Char(' ') + copy.time.toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
+}
+
+void showFault(const keptCopy &copy, const QString &fault)
+{
+    userPrompts().showError(
+        MainWindow::tr("%1 cannot be read: %2").arg(called(copy), fault).toHtmlEscaped());
+}
+
+bool sameFile(const QString &a, const QString &b)
+{
+    return !a.isEmpty() && QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath();
+}
+
+} // namespace
+
+void MainWindow::showVersions(const QString &path)
+{
+    if (!m_versions) {
+        m_versions = std::make_unique<versionsWindow>(known());
+        m_versions->setWindowIcon(windowIcon());
+        m_versions->openCopy = [this](const keptCopy &copy) { openCopy(copy); };
+        m_versions->restoreCopy = [this](const keptCopy &copy) { restoreCopy(copy); };
+    }
+    m_versions->showNow(path);
+}
+
+// An order becomes a new one, which has no file; other copies are shown as they are.
+void MainWindow::openCopy(const keptCopy &copy)
+{
+    const QString file = fileVersions::unpacked(copy.file);
+    const fileKinds::fileHead head = fileKinds::headOf(file);
+    if (head.kind == &fileKinds::order) {
+        showNow();
+        if (closeDocument() && m_document.recover(file, {}, {})) {
+            m_recovery->discard();
+            userState::instance().lastZp.clear();
+            showDocument();
+            setChanged();
+            tell(tr("Opened as a new order: %1").arg(called(copy)));
+        }
+        if (file != copy.file)
+            QFile::remove(file);
+        return;
+    }
+    if (!head.kind) {
+        showFault(copy, head.fault);
+        return;
+    }
+    // It stays for the program that shows it, as long as this one runs.
+    const QString shown =
+        scratch::folder() + QLatin1Char('/') + QFileInfo(copy.file).completeBaseName();
+    QFile::remove(shown);
+    if (!QFile::copy(file, shown) || !QFile::setPermissions(shown, QFile::ReadOwner)
+        || !desktop::openFile(shown))
+        userPrompts().showError(
+            tr("%1 cannot be opened").arg(QDir::toNativeSeparators(shown)).toHtmlEscaped());
+    if (file != copy.file)
+        QFile::remove(file);
+}
+
+// The window in which a file is edited, opened where it was not; null when none edits it.
+editWindow *MainWindow::windowOf(const QString &path, const fileKind &kind)
+{
+    if (&kind == &fileKinds::order) {
+        if (!sameFile(path, m_document.path())) {
+            if (!closeDocument())
+                return nullptr;
+            openFile(path);
+        }
+        return sameFile(path, m_document.path()) ? this : nullptr;
+    }
+    if (&kind == &fileKinds::database)
+        for (int i = 0; i < programData::databaseCount; ++i)
+            if (sameFile(path, known().database(programData::databaseKind(i)).filePath))
+                return &databaseWindow(programData::databaseKind(i));
+    if (&kind == &fileKinds::firm
+        && sameFile(path, paths::data(known().config().options.value(optionKey::fileFirm))))
+        return &firms();
+    if (&kind == &fileKinds::boms && sameFile(path, known().boms().filePath))
+        return &bomWindow();
+    return &kind == &fileKinds::bom && QFileInfo::exists(path) ? &bomWindow().viewWindow(path)
+                                                               : nullptr;
+}
+
+void MainWindow::restoreCopy(const keptCopy &copy)
+{
+    QString fault;
+    const auto version = readKept(copy.file, &fault);
+    if (!version) {
+        showFault(copy, fault);
+        return;
+    }
+    // A file that is gone comes back as an order that is not saved.
+    if (&version->kind() == &fileKinds::order && !QFileInfo::exists(copy.path)) {
+        openCopy(copy);
+        return;
+    }
+    editWindow *window = windowOf(copy.path, version->kind());
+    if (window)
+        window->restoreVersion(*version, called(copy));
+    else
+        userPrompts().showError(tr("%1 is not edited in any window; open the copy instead.")
+                                    .arg(QDir::toNativeSeparators(copy.path))
+                                    .toHtmlEscaped());
+}
