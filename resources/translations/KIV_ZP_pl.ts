@@ -3222,6 +3222,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>New order</source>
         <translation>Nowe zamówienie</translation>
     </message>
+    <message>
+        <source>a tag has no end</source>
+        <translation>znacznik nie ma końca</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>

@@ -67,6 +67,8 @@ QString formSentence(const xmlError &error)
         return text(QT_TRANSLATE_NOOP("data", "the file ends in %1, which began in line %2"))
             .arg(value)
             .arg(error.int1);
+    case XML_ERR_GT_REQUIRED:
+        return text(QT_TRANSLATE_NOOP("data", "a tag has no end"));
     case XML_ERR_NAME_REQUIRED:
         return says(error, "EntityRef")
                    ? text(QT_TRANSLATE_NOOP("data", "\"&\" stands alone; it is written &amp;"))

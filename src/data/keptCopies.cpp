@@ -67,8 +67,10 @@ std::vector<keptCopy> keptCopies(const QStringList &versionFolders,
     for (const QString &folder : recoveryFolders)
         for (const QFileInfo &copy :
              QDir(folder).entryInfoList({QStringLiteral("order-*.xml")}, QDir::Files)) {
+            // Below the path stands what the file was like.
             const QString path = files::readText(folder + QLatin1Char('/') + copy.completeBaseName()
-                                                 + QLatin1String(".path"));
+                                                 + QLatin1String(".path"))
+                                     .section(QLatin1Char('\n'), 0, 0);
             copies.push_back({copy.filePath(), path,
                               path.isEmpty() ? QCoreApplication::translate("data", "New order")
                                              : QFileInfo(path).fileName(),

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -169,6 +170,14 @@ void faultTrail::add(int line, int column, const QString &text)
     m_faults.append({line, column, text, {}});
     if (const size_t depth = recordDepth())
         m_unnamed.emplace_back(m_faults.size() - 1, depth);
+}
+
+void faultTrail::forgetAfter(int count)
+{
+    m_count = std::min(m_count, count);
+    m_faults.resize(std::min<int>(m_faults.size(), count));
+    while (!m_unnamed.empty() && m_unnamed.back().first >= m_faults.size())
+        m_unnamed.pop_back();
 }
 
 void faultTrail::nameFaults()

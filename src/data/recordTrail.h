@@ -80,6 +80,8 @@ public:
 
     void add(int line, int column, const QString &text);
     void end(const QByteArray &text);
+    // Only the first faults count.
+    void forgetAfter(int count);
     // The file ended, perhaps within records.
     void finish();
 

@@ -45,6 +45,7 @@ struct runState
     bool refused = false; // for what it begins with: what follows is not told
 
     faultTrail trail;
+    int faultsBefore = 0;  // the element that began last
     QByteArray withoutEnd; // a field in which elements were found: its end may be missing
     QByteArray text;
     bool textHasCdata = false;
@@ -103,6 +104,9 @@ void collectError(void *context, xmlError *error)
     const QString sentence = faultSentence(*error, state->trail);
     if (error->code == XML_SCHEMAV_CVC_TYPE_3_1_2)
         state->withoutEnd = QByteArray(state->trail.parent().data());
+    // A tag that is cut off was taken for a whole one.
+    if (error->code == XML_ERR_GT_REQUIRED)
+        state->trail.forgetAfter(state->faultsBefore);
     const bool isTold =
         error->code == XML_ERR_TAG_NAME_MISMATCH && state->withoutEnd == error->str1;
     // Schema errors bring no column; the parser knows where it stands.
@@ -149,6 +153,7 @@ void startElement(void *context, const xmlChar *name, const xmlChar *prefix, con
         return;
     state->handOnText();
     state->dropText();
+    state->faultsBefore = state->trail.count();
     state->trail.start(textOf(name));
     for (int i = 0; i < attributeCount; ++i) {
         const xmlChar **const attribute =

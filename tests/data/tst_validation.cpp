@@ -124,6 +124,7 @@ private slots:
         const QString less = "\"<\" stands alone; it is written &lt;";
         inLine("tag", "<unit>a</uni>", "unit, which began in line 2, ends as uni");
         inLine("no end", "<unit>a<wait>b</wait>", "wait in unit, which holds no elements");
+        inLine("tag without end", "<zz/ >", "a tag has no end");
         inLine("ampersand", "<unit>R & D</unit>", ampersand);
         inLine("ampersand in front of a word", "<unit>R &D</unit>", ampersand);
         inLine("less", "<unit>a < b</unit>", less);

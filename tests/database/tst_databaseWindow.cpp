@@ -18,7 +18,7 @@ const scenario databaseActions[] = {
      edits},
     {"", "#merge 'other.xml' Return", "front ~ Merge [", same},
     {"", "#merge 'cpv.txt' Return", "errors ~ cpv.txt</b>", same},
-    {"", "#versions", "front = Versions and unsaved orders", reads},
+    {"", "#versions", "front = Versions and unsaved orders", same},
     {"", "#close", "title = closed; boxes ="},
     {"", "#fullReport !Yes", "boxes ~ Do you want create ?; file _files/db_warehouse_full.html ~ M3", reads},
     {"", "#shortReport !Yes", "status ~ 4 materials written; file _files/db_warehouse_short.html ~ M3", reads},

@@ -12,7 +12,7 @@ using enum lockRule;
 
 const scenario actions[] = {
     {NAME, "#save", "log ~ Save file <b>firms.xml</b> [; saved ~ <fullname>Nowa; saved !~ <fullname>Abracon LLC", same},
-    {"", "#versions", "front = Versions and unsaved orders", reads},
+    {"", "#versions", "front = Versions and unsaved orders", same},
     {"", "#close", "title = closed; boxes ="},
     {"", "#edit", "status = Editing is locked"},
     {"manufacturers@0,1 Shift+Down", "#fillDown", "manufacturers@1,1 = Abracon LLC", edits},

@@ -32,7 +32,7 @@ const scenario scenarios[] = {
     {"saved elsewhere then",
      EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return !Save_elsewhere Ctrl+A '%/b.xml' Return",
      "file b.xml ~ Żuk; title = Order; disk !~ Żuk"},
-    {"kept, and goes on", EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return !Keep_in_recovery Ctrl+Q Escape",
+    {"kept, and goes on", EDIT "#zpSaveAs Ctrl+A '%/_zp/zp_0.xml/a.xml' Return !Keep_in_recovery Ctrl+Q !No",
      "file _config/recovery/order-1.xml =; boxes ~ Save order"},
     {"its new name", "#zpSaveAs Ctrl+A '%/a.xml' Return " EDIT "Ctrl+S",
      "file a.xml ~ Żuk; disk !~ Żuk; title = Order"},

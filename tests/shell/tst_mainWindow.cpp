@@ -27,14 +27,14 @@ const scenario actions[] = {
     {"", "#archiveDatabase", "status ~ 4 database; files backup/*.archive.* ~ db_mechanics", reads},
     {"", "#sendDatabase", "status ~ the message is", reads},
     {"", "#sendBoms", "status ~ the message is", reads},
-    {"", "#zpOpen '%/_zp/bad.xml' Return Return Return !Open_repaired_copy",
+    {"", "#zpOpen '%/_zp/bad.xml' Return Return !Open_repaired_copy",
      "orderLines = 2; orderLines@1,1 = R & D; title = Order *; errors ~ stands alone"},
-    {"", "#zpOpen '%/_zp/bad.xml' Return Return Return Escape", "orderLines = 0; title = Order", same},
+    {"", "#zpOpen '%/_zp/bad.xml' Return Return Escape", "orderLines = 0; title = Order", same},
     {"", "#zpRepair '%/_zp/bad.xml' Return !Open_repaired_copy", "orderLines = 2; title = Order *"},
     {"", "#zpRepair '%/_files/cut.xml' Return !Open_repaired_copy Ctrl+A '%/_files/whole.xml' Return",
      "file _files/whole.xml ~ <name>F</name>; file _files/cut.xml !~ /firm; orderLines = 21", same},
-    {"", "#zpRepair '%/_zp/one.xml' Return", "boxes ~ nothing to mend; orderLines = 21", same},
-    {"", "#versions", "front = Versions and unsaved orders", reads},
+    {"", "#zpRepair '%/_zp/one.xml' Return Return", "boxes ~ nothing to mend; orderLines = 21", same},
+    {"", "#versions", "front = Versions and unsaved orders", same},
     {"", "#exit", "title = closed; boxes ="},
     {"", "#edit", "status = Editing is locked"},
     {"#edit", "#edit", "status = Editing is allowed"},
@@ -107,7 +107,7 @@ class tst_mainWindow : public scenarioFixture
                                                          "<order_item><name>R & D</name></order_item></order_items>"));
         folder().write("_files/cut.xml", testSupport::document("kiv_mat_firm", "KIV_MAT_FIRM_1", "kiv_mat.xsd",
                                                                "<suppliers><firm><name>F")
-                                             .chopped(15));
+                                             .chopped(16));
     }
     std::vector<scenarioTable> tables() override { return {{"", true, actions}}; }
 

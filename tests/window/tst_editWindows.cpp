@@ -2,6 +2,8 @@
 // leaves the editor; closing, locking, and files that another program changed.
 #include "scenarioFixture.h"
 
+#include "util/fileVersions.h"
+
 #include <csignal>
 #include <sys/resource.h>
 
@@ -242,8 +244,9 @@ private slots:
     bool isKept(const char *text)
     {
         const QFileInfoList all = QDir(path("kept")).entryInfoList(QDir::Files);
-        return std::any_of(all.begin(), all.end(),
-                           [&](const QFileInfo &f) { return testSupport::read(f.filePath()).contains(text); });
+        return std::any_of(all.begin(), all.end(), [&](const QFileInfo &f) {
+            return testSupport::read(fileVersions::unpacked(f.filePath())).contains(text);
+        });
     }
 
     // Another program's work is neither written over nor read unasked, and neither is lost.
