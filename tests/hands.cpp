@@ -2,6 +2,7 @@
 
 #include "testSupport.h"
 #include "util/text.h"
+#include "window/workProgress.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -166,6 +167,11 @@ void hands::next()
     noteBox();
     if (m_steps.isEmpty()) {
         m_running = false;
+        return;
+    }
+    // Work swallows what a person would do after it. Escape ends it.
+    if (workProgress::isWorking() && !QApplication::activeModalWidget() && m_steps.first() != "Escape") {
+        QTimer::singleShot(pauseMs, &m_context, [this] { next(); });
         return;
     }
     // Here no window manager brings the window below to the front when a box goes; and a box that

@@ -3226,6 +3226,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>a tag has no end</source>
         <translation>znacznik nie ma końca</translation>
     </message>
+    <message>
+        <source>an attribute is broken</source>
+        <translation>uszkodzony atrybut</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>

@@ -77,6 +77,11 @@ QString formSentence(const xmlError &error)
         return text(QT_TRANSLATE_NOOP("data", "\"&\" stands alone; it is written &amp;"));
     case XML_ERR_LT_IN_ATTRIBUTE:
         return text(QT_TRANSLATE_NOOP("data", "\"<\" stands alone; it is written &lt;"));
+    case XML_ERR_SPACE_REQUIRED:
+    case XML_ERR_ATTRIBUTE_WITHOUT_VALUE:
+    case XML_ERR_ATTRIBUTE_NOT_STARTED:
+    case XML_ERR_ATTRIBUTE_NOT_FINISHED:
+        return text(QT_TRANSLATE_NOOP("data", "an attribute is broken"));
     case XML_ERR_UNDECLARED_ENTITY:
     case XML_WAR_UNDECLARED_ENTITY:
         return text(QT_TRANSLATE_NOOP("data", "&%1; is not known")).arg(value);

@@ -13,6 +13,8 @@ constexpr int appearAfterMs = 300;
 constexpr int paintEveryMs = 40;
 constexpr int barRange = 1000;
 
+int windowsAtWork = 0;
+
 } // namespace
 
 workProgress::workProgress(QStatusBar *bar)
@@ -34,6 +36,8 @@ workProgress::workProgress(QStatusBar *bar)
     m_cancel->hide();
 }
 
+bool workProgress::isWorking() { return windowsAtWork > 0; }
+
 workProgress::scope::scope(workProgress &progress, const QString &text)
     : m_progress(progress)
 {
@@ -53,6 +57,7 @@ void workProgress::begin(const QString &text)
 {
     if (m_depth++ > 0)
         return;
+    ++windowsAtWork;
     m_cancelled = false;
     m_bar->setRange(0, barRange);
     m_bar->setValue(0);
@@ -66,6 +71,7 @@ void workProgress::end()
 {
     if (--m_depth > 0)
         return;
+    --windowsAtWork;
     qApp->removeEventFilter(this);
     m_bar->hide();
     m_cancel->hide();

@@ -17,6 +17,9 @@ class workProgress : public QObject
 public:
     explicit workProgress(QStatusBar *bar);
 
+    // Whether some window is at work, which swallows keys and clicks.
+    static bool isWorking();
+
     // Work that lasts as long as the object. Its function shows how far it is, lets the window be
     // painted, and answers false once the user has pressed Cancel or Escape. Until the work ends
     // every other key, click and close is swallowed, so that it is not begun a second time. The bar

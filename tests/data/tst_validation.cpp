@@ -124,7 +124,7 @@ private slots:
         const QString less = "\"<\" stands alone; it is written &lt;";
         inLine("tag", "<unit>a</uni>", "unit, which began in line 2, ends as uni");
         inLine("no end", "<unit>a<wait>b</wait>", "wait in unit, which holds no elements");
-        inLine("tag without end", "<zz/ >", "a tag has no end");
+
         inLine("ampersand", "<unit>R & D</unit>", ampersand);
         inLine("ampersand in front of a word", "<unit>R &D</unit>", ampersand);
         inLine("less", "<unit>a < b</unit>", less);
@@ -134,6 +134,7 @@ private slots:
         inLine("unknown field", "<colour>red</colour>", "unknown field colour");
         inLine("text in many pieces", "a&amp;b<!-- -->c<![CDATA[ ]]>", "text in order_item, where none belongs");
         row("attribute twice", "<options><option type=\"a\" type=\"b\"/></options>", "the attribute type stands twice");
+        row("attributes without a gap", "<options><option type=\"a\"unit=\"b\"/></options>", "an attribute is broken");
         row("less in an attribute", "<options><option type=\"<\"/></options>", less);
         row("unknown attribute", "<options><option colour=\"\" type=\"a\"/></options>",
             "option a: unknown attribute colour of option");
