@@ -41,8 +41,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const int loaded = loadDocument(path, document.get());
     const repairedFile repaired = repairFile(path);
     if (repaired.document)
-        require(saveXmlNoEvents(folder.filePath(QStringLiteral("r.xml")), repaired.document.get(),
-                                nullptr, {}, saveRule::onlyGood)
+        require(saveXmlNoEvents(fuzzSupport::folder() + QLatin1String("/r.xml"),
+                                repaired.document.get(), nullptr, {}, saveRule::onlyGood)
                     == 0,
                 "what was repaired can be saved");
     cleanHtml(QString::fromUtf8(reinterpret_cast<const char *>(data), int(size)));

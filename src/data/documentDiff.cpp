@@ -322,7 +322,7 @@ public:
                 add(row, documentDifference::changed, field.name,
                     field.label ? field.label() : field.name, shownText(before, field),
                     shownText(after, field));
-        eachNested<Shape>(before, after, [this, &row](const auto &a, const auto &b) {
+        eachNested<Shape>(before, after, [&](const auto &a, const auto &b) {
             using partType = std::decay_t<decltype(a)>;
             if (a == b)
                 return;

@@ -249,9 +249,9 @@ QString mergeCaption(const QString &field)
 
 struct documentMerge::state
 {
-    std::optional<node> opened;
-    node mine;
-    node theirs;
+    std::optional<node> asOpened;
+    node ownRoot;
+    node otherRoot;
 
     // One way through all three, which makes the rows, and later does what they say.
     struct run
@@ -356,8 +356,8 @@ struct documentMerge::state
 
     node merge(run &of) const
     {
-        of.knowsOpened = opened.has_value();
-        return mergeChildren(of, opened ? &*opened : nullptr, mine, theirs, {}, 0);
+        of.knowsOpened = asOpened.has_value();
+        return mergeChildren(of, asOpened ? &*asOpened : nullptr, ownRoot, otherRoot, {}, 0);
     }
 };
 
@@ -371,9 +371,9 @@ documentMerge::documentMerge(const QString &opened, const QString &mine, const Q
     m_readable = own && other && own->name == other->name;
     if (!m_readable)
         return;
-    m_state->opened = reader.read(opened);
-    m_state->mine = std::move(*own);
-    m_state->theirs = std::move(*other);
+    m_state->asOpened = reader.read(opened);
+    m_state->ownRoot = std::move(*own);
+    m_state->otherRoot = std::move(*other);
     state::run making;
     making.made = &rows;
     m_state->merge(making);
