@@ -812,6 +812,16 @@
     </message>
 </context>
 <context>
+    <name>repairOffer</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>typed</name>
     <message numerus="yes">
         <source>%1: at most %n decimal(s)</source>

@@ -5217,6 +5217,37 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     </message>
 </context>
 <context>
+    <name>repairOffer</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repairing</source>
+        <translation>Naprawianie</translation>
+    </message>
+    <message>
+        <source>there is nothing to mend</source>
+        <translation>nie ma czego naprawiać</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged. This would make it readable; the file itself stays as it is:</source>
+        <translation>Plik %1 jest uszkodzony. To uczyni go czytelnym, sam plik pozostanie bez zmian:</translation>
+    </message>
+    <message>
+        <source>Open repaired copy</source>
+        <translation>Otwórz naprawioną kopię</translation>
+    </message>
+    <message>
+        <source>Mended or dropped in the repaired copy: </source>
+        <translation>Naprawione lub pominięte w kopii: </translation>
+    </message>
+</context>
+<context>
     <name>richtexteditDialog</name>
     <message>
         <source>Edit text</source>
