@@ -1065,6 +1065,10 @@
         <source>Open repaired copy</source>
         <translation>Otwórz naprawioną kopię</translation>
     </message>
+    <message>
+        <source>%1 is no order.</source>
+        <translation>%1 nie jest zamówieniem.</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -5542,6 +5546,10 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
     <message>
         <source>damaged</source>
         <translation>uszkodzona</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
     </message>
 </context>
 <context>

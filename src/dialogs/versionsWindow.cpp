@@ -114,7 +114,7 @@ versionsWindow::versionsWindow(programData &known, QWidget *parent)
     addActions(actionTable);
     setWindowTitle(tr("Versions and unsaved orders"));
     m_copyRows->setHorizontalHeaderLabels(
-        {labels::date(), labels::file(), tr("Kind"), tr("Lines"), tr("Size"), tr("Folder")});
+        {tr("Time"), labels::file(), tr("Kind"), tr("Lines"), tr("Size"), tr("Folder")});
     m_differences->setHorizontalHeaderLabels(
         {tr("Difference"), labels::group(), labels::name(), tr("Field"), tr("Then"), tr("Now")});
     m_filter->setObjectName(QStringLiteral("fileFilter"));

@@ -49,7 +49,7 @@ public:
 
     // Offers what runs before left unsaved, if any did, and then opens the last order unless
     // another one was chosen.
-    void offerRecovery();
+    void offerRecovery() { offerLeft(true); }
     // Writes all unsaved work aside, for the next start to find if the program ends now.
     void storeAll();
     // Does so and ends the program, without a question.
@@ -183,6 +183,7 @@ private:
     bool recoverOther(const recoveryJournal::left &copy);
     void openFile(const QString &path);
     void openRepaired(const QString &path, QString *fault = nullptr);
+    void offerLeft(bool atStart);
     bool printTo(const QString &path);
 
     // --- MainWindowVersions.cpp ---

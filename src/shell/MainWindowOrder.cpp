@@ -138,19 +138,34 @@ void MainWindow::commandZpOpen(bool)
 
 void MainWindow::fileDropped(const QString &path)
 {
-    if (closeDocument())
+    const fileKinds::fileHead head = fileKinds::headOf(path);
+    if (head.kind != &fileKinds::order)
+        userPrompts().showError(tr("%1 is no order.").arg(native(path))
+                                + (head.fault.isEmpty() ? QString() : QLatin1String("<br>"))
+                                + head.fault.toHtmlEscaped());
+    else if (closeDocument())
         openFile(path);
 }
 
+// What was given up for the file is forgotten when the file has been read.
 void MainWindow::openFile(const QString &path)
 {
-    forgetOrder();
+    const bool isGivenUp = isModified() && storeRecovery();
     const bool isRead = m_document.load(path, true);
     userState::instance().lastZp = isRead ? path : QString();
+    if (isRead || !isGivenUp)
+        forgetOrder();
+    else
+        m_recovery->leave();
+    stayOpen();
     showDocument();
     userPrompts().showErrors();
-    if (!isRead && QFileInfo(path).isFile())
+    if (isRead)
+        return;
+    if (QFileInfo(path).isFile())
         openRepaired(path);
+    if (isGivenUp && !isModified())
+        offerLeft(false);
 }
 
 // What can be read of a damaged file: an order becomes a new one, which has no file; of another

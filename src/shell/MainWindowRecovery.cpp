@@ -30,7 +30,7 @@ void MainWindow::endNow()
     QCoreApplication::exit(0);
 }
 
-void MainWindow::offerRecovery()
+void MainWindow::offerLeft(bool atStart)
 {
     const std::vector<orderRecovery::copy> orders = m_recovery->left();
     const std::vector<recoveryJournal::left> others = recoveryJournal::allLeft();
@@ -62,7 +62,7 @@ void MainWindow::offerRecovery()
         opened += isOpen;
         hasOrder = hasOrder || (isOpen && all[place].isOrder);
     }
-    if (!hasOrder && !orders.empty()) {
+    if (atStart && !hasOrder && !orders.empty()) {
         openLastOrder();
         userPrompts().showErrors();
     }

@@ -30,6 +30,13 @@ const scenario actions[] = {
     {"", "#zpOpen '%/_zp/bad.xml' Return Return !Open_repaired_copy",
      "orderLines = 2; orderLines@1,1 = R & D; title = Order *; errors ~ stands alone"},
     {"", "#zpOpen '%/_zp/bad.xml' Return Return Escape", "orderLines = 0; title = Order", same},
+    // What was given up for it comes back.
+    {EDIT, "#zpOpen !No Escape Ctrl+S", "disk ~ <name>Żuk<"},
+    {EDIT, "#zpOpen !No '%/_help/KIV_ZP.html' Return Return Return ~200",
+     "orderLines@0,1 = Żuk; title = Order *; boxes ~ Unsaved; file _config/recovery/order-1.xml ~ Żuk"},
+    {EDIT, "#zpOpen !No '%/_help/KIV_ZP.html' Return Return Escape ~200",
+     "orderLines = 0; title = Order; file _config/recovery/order-1.xml ~ Żuk"},
+    {EDIT, "#zpOpen !No '%/_zp/one.xml' Return", "orderLines@0,1 = ONE; files _config/recovery/*.xml =", same},
     {"", "#zpRepair '%/_zp/bad.xml' Return !Open_repaired_copy", "orderLines = 2; title = Order *"},
     {"", "#zpRepair '%/_files/cut.xml' Return !Open_repaired_copy Ctrl+A '%/_files/whole.xml' Return",
      "file _files/whole.xml ~ <name>F</name>; file _files/cut.xml !~ /firm; orderLines = 21", same},
