@@ -2748,6 +2748,30 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <source>Lists the earlier versions and unsaved orders that are kept, of one file or of all. Exit code 1 when there are none.</source>
         <translation>Wypisuje zachowane wcześniejsze wersje i niezapisane zamówienia, jednego pliku lub wszystkich. Kod wyjścia 1, gdy nie ma żadnych.</translation>
     </message>
+    <message>
+        <source>Conditions are parted by blanks, and all of them must hold:
+  rezystor 0603        both words, in any field, also inside a word
+  &quot;rezystor smd&quot;       these words in this order
+  case:0603            that text in one field; case:=0603 the whole of it, case:&quot;&quot; none
+  value:4k7            an equal number: 4700, 4,7 kOhm; a power may be a fraction: 1/4W
+  price:&gt;10            more; also &gt;=, &lt;, &lt;= and =
+  value:1k..10k        from the first to the last; value:1k.. value:..10k
+  value:4k7+-5%        within so much of the number
+  case:0603|0805       one of them
+  !status:grey         without it
+Fields: %1</source>
+        <translation>Warunki oddziela się odstępami, wszystkie muszą być spełnione:
+  rezystor 0603        oba słowa, w dowolnym polu, także wewnątrz słowa
+  "rezystor smd"       te słowa w tej kolejności
+  case:0603            ten tekst w jednym polu; case:=0603 jako całość, case:"" puste
+  value:4k7            równa liczba: 4700, 4,7 kOhm; moc może być ułamkiem: 1/4W
+  price:&gt;10            więcej; także &gt;=, &lt;, &lt;= i =
+  value:1k..10k        od pierwszej do ostatniej; value:1k.. value:..10k
+  value:4k7+-5%        w tych granicach od liczby
+  case:0603|0805       jedno z nich
+  !status:szary        bez tego
+Pola: %1</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>

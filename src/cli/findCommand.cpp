@@ -47,9 +47,37 @@ void printFoundJson(const materialSearch::result &found)
     printJson({{QStringLiteral("total"), found.total}, {QStringLiteral("materials"), materials}});
 }
 
+QString grammar()
+{
+    return QCoreApplication::translate(
+        "cli",
+        "Conditions are parted by blanks, and all of them must hold:\n"
+        "  rezystor 0603        both words, in any field, also inside a word\n"
+        "  \"rezystor smd\"       these words in this order\n"
+        "  case:0603            that text in one field; case:=0603 the whole of it, case:\"\" "
+        "none\n"
+        "  value:4k7            an equal number: 4700, 4,7 kOhm; a power may be a fraction: 1/4W\n"
+        "  price:>10            more; also >=, <, <= and =\n"
+        "  value:1k..10k        from the first to the last; value:1k.. value:..10k\n"
+        "  value:4k7+-5%        within so much of the number\n"
+        "  case:0603|0805       one of them\n"
+        "  !status:grey         without it\n"
+        "Fields: %1");
+}
+
+QString fieldNames()
+{
+    QStringList names;
+    for (const searchField &field : searchField::all())
+        names.append(QLatin1String(field.names.front()));
+    return names.join(QLatin1Char(' '));
+}
+
 int runFind(const QStringList &arguments)
 {
     parser options(findCommand, QStringLiteral("WORDS..."), 1, -1);
+    options.setApplicationDescription(options.applicationDescription() + QLatin1String("\n\n")
+                                      + grammar().arg(fieldNames()));
     const QCommandLineOption database(
         {QStringLiteral("d"), QStringLiteral("database")},
         QCoreApplication::translate("cli",

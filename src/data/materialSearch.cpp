@@ -30,6 +30,8 @@ bool holds(const searchTerm &term, const quantity &number)
         return order > 0;
     case searchTerm::greaterOrEqual:
         return order >= 0;
+    case searchTerm::between:
+        return order >= 0 && number.fits(*term.last) && number.compare(*term.last) <= 0;
     default:
         return order == 0;
     }
@@ -107,7 +109,7 @@ void materialSearch::readTexts(place &at)
         texts.clear();
         field.collect(*at.owner.material, at.owner.group, texts);
         if (field.numeric()) {
-            at.numbers[number] = numberOf(*texts.front());
+            at.numbers[number] = numberOf(field.numberText(*texts.front()));
             // Compared as a number only.
             if (field.kind == searchField::number && m_numbers[at.numbers[number]])
                 texts.clear();
@@ -284,14 +286,17 @@ void materialSearch::search(const searchQuery &query)
             continue;
         quint32 sum = 0;
         bool all = true;
-        for (knownTerm &known : m_terms) {
-            rankKind &rank = known.ranks[i];
-            if (rank == unknown)
-                rank = rankOfTerm(at, known);
-            all = rank != absent;
-            if (!all)
-                break;
-            sum += rank;
+        for (size_t t = 0; t < m_terms.size() && all;) {
+            const searchTerm &first = m_terms[t].term;
+            rankKind best = absent;
+            for (; t < m_terms.size() && m_terms[t].term.group == first.group; ++t) {
+                rankKind &rank = m_terms[t].ranks[i];
+                if (rank == unknown)
+                    rank = rankOfTerm(at, m_terms[t]);
+                best = std::min(best, rank);
+            }
+            all = (best != absent) != first.negated;
+            sum += first.negated ? 0 : best;
         }
         if (!all)
             continue;

@@ -3,6 +3,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -96,6 +97,18 @@ const std::vector<searchField> &searchField::all()
         {{"added", "dodany"}, plainText, information<&info::added>},
     };
     return table;
+}
+
+QString searchField::numberText(const QString &stored) const
+{
+    const int slash =
+        names.front() == std::string_view("power") ? stored.indexOf(QLatin1Char('/')) : -1;
+    const auto isDigitAt = [&stored](int at) {
+        return at >= 0 && at < stored.size() && stored.at(at).isDigit();
+    };
+    return isDigitAt(slash - 1) && isDigitAt(slash + 1) && isDigitAt(stored.size() - 1)
+               ? stored + QLatin1Char('W')
+               : stored;
 }
 
 const searchField *searchField::find(const std::string &foldedName)

@@ -34,6 +34,9 @@ struct searchField
     void (*collect)(const materialStruct &material, const d_groupStruct *group, textList &texts);
 
     bool numeric() const { return kind == measure || kind == number; }
+    // A text of the field as one to read a number from: a power is a fraction also without its
+    // unit.
+    QString numberText(const QString &stored) const;
     bool byAnyWord() const
     {
         return kind == key || kind == text || kind == measure || kind == colour;

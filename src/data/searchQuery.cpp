@@ -4,6 +4,9 @@
 
 #include <QCoreApplication>
 
+#include <cmath>
+#include <utility>
+
 namespace {
 
 // A piece of the query between blanks: a field's name (empty when there is none) and a value.
@@ -12,6 +15,8 @@ struct token
     QString name;
     QString value;
     bool quoted = false;
+    bool negated = false;
+    bool isAlternative = false; // to the one before
 };
 
 bool isName(const QString &text)
@@ -20,20 +25,30 @@ bool isName(const QString &text)
            && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
-// Cuts at blanks outside double quotes. Only letters before a colon make a field's name: "1:10"
-// and "http://x" are words.
+// Cuts at blanks and bars outside double quotes. Only letters before a colon make a field's name:
+// "1:10" and "http://x" are words. What follows a bar is of the field before it.
 std::vector<token> tokensOf(const QString &typed)
 {
     std::vector<token> result;
     int at = 0;
+    bool isAlternative = false;
     while (at < typed.size()) {
-        if (typed.at(at).isSpace()) {
+        if (typed.at(at).isSpace() || typed.at(at) == QLatin1Char('|')) {
+            isAlternative = isAlternative || typed.at(at) == QLatin1Char('|');
             ++at;
             continue;
         }
         token next;
+        next.isAlternative = std::exchange(isAlternative, false) && !result.empty();
+        if (next.isAlternative)
+            next.negated = result.back().negated;
+        else if (typed.at(at) == QLatin1Char('!')) {
+            next.negated = true;
+            ++at;
+        }
         QString piece;
-        for (; at < typed.size() && !typed.at(at).isSpace(); ++at) {
+        for (; at < typed.size() && !typed.at(at).isSpace() && typed.at(at) != QLatin1Char('|');
+             ++at) {
             const QChar c = typed.at(at);
             if (c == QLatin1Char('"')) {
                 // A missing second quote is still to be typed.
@@ -50,7 +65,11 @@ std::vector<token> tokensOf(const QString &typed)
             }
         }
         next.value = piece;
-        result.push_back(next);
+        if (next.isAlternative && next.name.isEmpty())
+            next.name = result.back().name;
+        // A condition of which only the "!" is typed waits for the rest.
+        if (!next.value.isEmpty() || !next.name.isEmpty() || next.quoted)
+            result.push_back(next);
     }
     return result;
 }
@@ -75,7 +94,8 @@ searchTerm::relationKind takeRelation(QString &value)
 // Whether the second of two pieces is a unit of the first, as in "4.7 kΩ" and "voltage:>10 V".
 bool isNumberWithUnit(const token &first, const token &second)
 {
-    if (first.quoted || second.quoted || !second.name.isEmpty() || second.value.at(0).isDigit())
+    if (first.quoted || second.quoted || second.isAlternative || second.negated
+        || !second.name.isEmpty() || second.value.isEmpty() || second.value.at(0).isDigit())
         return false;
     QString value = first.value;
     if (!first.name.isEmpty())
@@ -93,7 +113,7 @@ token takeToken(const std::vector<token> &tokens, size_t &at, QString &apart)
     QString value = result.value;
     if (at < tokens.size() && !result.name.isEmpty() && !result.quoted
         && takeRelation(value) != searchTerm::contains && value.isEmpty()
-        && tokens[at].name.isEmpty() && !tokens[at].quoted)
+        && tokens[at].name.isEmpty() && !tokens[at].quoted && !tokens[at].isAlternative)
         result.value += tokens[at++].value;
     if (at < tokens.size() && isNumberWithUnit(result, tokens[at])) {
         apart = result.value + QLatin1Char(' ') + tokens[at].value;
@@ -102,19 +122,53 @@ token takeToken(const std::vector<token> &tokens, size_t &at, QString &apart)
     return result;
 }
 
+// "1k..10k", "1k..", "..10k" and "4k7±5%" as the first and last number that fit; false when the
+// value is nothing of the kind.
+bool takeRange(const QString &value, searchTerm &term, bool &isFaulty)
+{
+    const int dots = value.indexOf(QLatin1String(".."));
+    if (dots >= 0) {
+        const QString first = value.left(dots).trimmed();
+        const QString last = value.mid(dots + 2).trimmed();
+        term.number = quantity::parse(first.isEmpty() ? last : first);
+        term.last = quantity::parse(last);
+        term.relation = first.isEmpty()  ? searchTerm::lessOrEqual
+                        : last.isEmpty() ? searchTerm::greaterOrEqual
+                                         : searchTerm::between;
+        isFaulty = !term.number || (!last.isEmpty() && !term.last);
+        return true;
+    }
+    static const QString signs[] = {QStringLiteral("\u00b1"), QStringLiteral("+/-"),
+                                    QStringLiteral("+-")};
+    for (const QString &sign : signs) {
+        const int at = value.indexOf(sign);
+        const auto middle = at <= 0 ? std::nullopt : quantity::parse(value.left(at));
+        const auto percent = at <= 0 ? std::nullopt : quantity::parse(value.mid(at + sign.size()));
+        if (!middle || !percent || percent->unit != quantity::percent)
+            continue;
+        constexpr double whole = 100;
+        const double part = std::abs(middle->value) * std::abs(percent->value) / whole;
+        term.number = term.last = middle;
+        term.number->value -= part;
+        term.last->value += part;
+        term.relation = searchTerm::between;
+        return true;
+    }
+    return false;
+}
+
 // Without the blanks around it, which the index does not keep apart from others.
 std::string foldedValue(const QString &value) { return text::folded(value.trimmed()); }
 
 } // namespace
 
-void searchQuery::addField(const QString &name, QString value, bool quoted)
+void searchQuery::addField(const QString &name, QString value, bool quoted, searchTerm term)
 {
     const searchField *field = searchField::find(text::folded(name));
     if (!field) {
         m_errors << QCoreApplication::translate("searchQuery", "There is no field %1").arg(name);
         return;
     }
-    searchTerm term;
     term.field = field;
     term.relation = quoted ? searchTerm::contains : takeRelation(value);
     if (value.isEmpty() && !quoted)
@@ -123,8 +177,11 @@ void searchQuery::addField(const QString &name, QString value, bool quoted)
     // A field that shall be empty.
     if (term.text.empty())
         term.relation = searchTerm::equal;
-    if (field->numeric())
-        term.number = quantity::parse(value);
+    bool isFaulty = false;
+    const bool isRange = field->numeric() && !quoted && term.relation == searchTerm::contains
+                         && takeRange(value, term, isFaulty);
+    if (field->numeric() && !isRange)
+        term.number = quantity::parse(field->numberText(value));
     else if (field->kind == searchField::yesNo || field->kind == searchField::colour)
         term.altText = storedWord(term.text);
     if (term.relation > searchTerm::equal && !field->numeric()) {
@@ -133,7 +190,7 @@ void searchQuery::addField(const QString &name, QString value, bool quoted)
                         .arg(name);
         return;
     }
-    if (term.relation > searchTerm::equal && !term.number) {
+    if (isFaulty || (term.relation > searchTerm::equal && !term.number)) {
         m_errors << QCoreApplication::translate("searchQuery", "%1 is no number").arg(value);
         return;
     }
@@ -145,15 +202,18 @@ searchQuery searchQuery::parse(const QString &typed)
     searchQuery query;
     const std::vector<token> tokens = tokensOf(typed);
     bool wordsOnly = true;
+    int group = 0;
     for (size_t i = 0; i < tokens.size();) {
         QString apart;
         const token next = takeToken(tokens, i, apart);
+        searchTerm term;
+        term.group = next.isAlternative ? group : ++group;
+        term.negated = next.negated;
+        wordsOnly = wordsOnly && next.name.isEmpty() && !next.negated && !next.isAlternative;
         if (!next.name.isEmpty()) {
-            wordsOnly = false;
-            query.addField(next.name, next.value, next.quoted);
+            query.addField(next.name, next.value, next.quoted, term);
             continue;
         }
-        searchTerm term;
         term.text = foldedValue(next.value);
         term.altText = foldedValue(apart);
         if (!next.quoted)

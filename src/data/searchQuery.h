@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-// One condition; a material has to meet all of a query.
+// One condition. Those of one group stand beside each other and are alternatives; a material has to
+// meet one of each group.
 struct searchTerm
 {
     enum relationKind
@@ -20,7 +21,8 @@ struct searchTerm
         less,
         lessOrEqual,
         greater,
-        greaterOrEqual
+        greaterOrEqual,
+        between // number and last, both counted in
     };
 
     const searchField *field = nullptr; // null: any of those searched by any word
@@ -28,6 +30,9 @@ struct searchTerm
     std::string text;    // folded
     std::string altText; // another way to write it, empty when there is none
     std::optional<quantity> number;
+    std::optional<quantity> last;
+    int group = 0;
+    bool negated = false; // the same for all of a group: none of them may be met
 
     bool operator==(const searchTerm &) const = default;
 };
@@ -52,7 +57,7 @@ public:
     }
 
 private:
-    void addField(const QString &name, QString value, bool quoted);
+    void addField(const QString &name, QString value, bool quoted, searchTerm term);
 
     std::vector<searchTerm> m_terms;
     QStringList m_errors;

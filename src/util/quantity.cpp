@@ -109,6 +109,24 @@ private:
     int m_at = 0;
 };
 
+// The rest of a fraction, as in "1/4W"; only power is given so: "10/16V" are two numbers. Zero,
+// with nothing taken, when there is none.
+double takeDenominator(scanner &text)
+{
+    const int before = text.position();
+    if (text.take(QLatin1Char('/'))) {
+        const double denominator = text.digits().toDouble();
+        const int end = text.position();
+        text.skipBlanks();
+        if (denominator > 0 && text.take(QLatin1String("W")) && !text.atWord()) {
+            text.moveTo(end);
+            return denominator;
+        }
+    }
+    text.moveTo(before);
+    return 0;
+}
+
 // The letter in the place of a decimal point: a prefix, or R, V or A. False, with nothing taken,
 // when no digit follows.
 bool takePointLetter(scanner &text, double &factor, quantity::unitKind &unit)
@@ -193,15 +211,18 @@ std::optional<quantity> scan(scanner &text)
     }
     if (whole.isEmpty())
         return std::nullopt;
+    const double denominator = point ? 0 : takeDenominator(text);
     const int digitsEnd = text.position();
     takeUnit(text, factor, result.unit);
-    result.bare = !point && text.position() == digitsEnd;
+    result.bare = !point && denominator == 0 && text.position() == digitsEnd;
     if (result.bare && whole.size() > 1 && whole.startsWith(QLatin1Char('0')))
         return std::nullopt;
     if (text.position() == start)
         return std::nullopt;
     bool ok = false;
     result.value = (whole + QLatin1Char('.') + decimals + QLatin1Char('0')).toDouble(&ok) * factor;
+    if (denominator > 0)
+        result.value /= denominator;
     if (negative)
         result.value = -result.value;
     if (!ok || !std::isfinite(result.value))

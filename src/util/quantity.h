@@ -32,8 +32,8 @@ struct quantity
     // optional unit (Ω, ohm, R, F, H, V, VDC, VAC, A, W, Hz, Ah, %, PLN, zł; capitals do not
     // count), blanks allowed between them; or a prefix, R, V or A in the place of the point (4k7,
     // 0R1, R47, 3V3). "±" may stand before it. Small m is milli and capital M mega, but for Hz both
-    // are mega. Nothing when the text is anything else, or digits that begin with a zero (0603
-    // names a case).
+    // are mega. A power may be a fraction (1/4W). Nothing when the text is anything else, or digits
+    // that begin with a zero (0603 names a case).
     static std::optional<quantity> parse(const QString &text);
 
     // The same from the start of a text that may go on after a blank or one of / , ; ( ± as in

@@ -75,6 +75,7 @@ private slots:
         row("find ktm:k -d twice.xml", 0, "K\t", "");
         row("find K -n 1 -d twice.xml", 0, "K\t", "1 of 2 materials shown");
         row("find K -n 0 -d twice.xml -d twice.xml", 0, "K\t", "");
+        row("find --help", 0, "value:1k..10k", "");
         row("find none -d twice.xml", 1, "", "nothing found");
         row("find colour:red -d twice.xml", 2, "", "There is no field colour");
         row("find K -n x -d twice.xml", 2, "", "x is no number");

@@ -40,7 +40,13 @@ private slots:
         row.each({"value:M3", "value:=M3"}, "S1");
         row.each({"case:\"\"", "stock:\"\""}, "D1 S1");
         row.each({"part:\"\""}, "R2 D1 S1");
-        row.each({"price:>10", "price:> 10"}, "C1 D1");
+        row.each({"price:>10", "price:> 10", "C1|D1", "price:12..2000"}, "C1 D1");
+        row.each({"value:4k..5k", "value:4k7\u00b11%", "value:4.6k+-5%", "value:1k..", "4k7|0R1", "!C1|D1|S1"},
+                 "R1 R2");
+        row.each({"case:0603|0805", "case:0603|ktm:C1 !szary", "price:0.01..12.5", "rezystor|kondensator !drutowy"},
+                 "R1 C1");
+        row.each({"power:1/4", "power:1/4W", "power:250mW", "power:>=0.2", "1/4 W", "power:0.2..1/3W", "power:..1W"}, "R2");
+        row.each({"!opis:x", "! !opis:x", "!opis:x|"}, "R1 R2 S1");
     }
 
     void queries()
@@ -50,7 +56,9 @@ private slots:
         m->d_active = "TAK";
         manufacturer(m, "Yageo", "RC0603FR-074K7L");
         supplier(m, "TME", "RC0603FR-074K7L");
-        fill(append("R2", "Rezystor", "drutowy 16 A"), "4k7 1%", "1206", "500", "SZARY");
+        m = append("R2", "Rezystor", "drutowy 16 A");
+        fill(m, "4k7 1%", "1206", "500", "SZARY");
+        m->d_power = "1/4";
         m = append("C1", "Kondensator", "ceramiczny X7R");
         fill(m, "100 nF", "0805", "0", "ZIELONY", "12.50", "±10%");
         supplier(m, "TME", "TME-77");
@@ -137,6 +145,8 @@ private slots:
         row("colour:red x", "colour");
         row("kolor:\"a b\" x", "kolor");
         row("price:>abc x", "abc");
+        row("price:1..b x", "1..b");
+        row("price:.. x", "..");
         row("name:>5 x", "name");
         row("obudowa:<=0603 x", "obudowa");
     }
