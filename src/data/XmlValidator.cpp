@@ -4,6 +4,7 @@
 #include "data/documentStruct.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "util/scratch.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -87,7 +88,7 @@ bool validateXml(const QString &xmlPath, const QString &xsdPath, bool showMessag
 
 bool checkByFile(const QString &element, const QString &value)
 {
-    const QTemporaryDir folder;
+    const QTemporaryDir folder(scratch::pattern());
     QFile file(folder.path() + QLatin1String("/1.xml"));
     if (!folder.isValid() || !file.open(QIODevice::WriteOnly))
         return false;

@@ -177,13 +177,13 @@ void MainWindow::openRepaired(const QString &path, QString *fault)
     if (!repaired)
         return;
     userPrompts().showErrors();
-    if (auto *order = dynamic_cast<kiv_mat_zpStruct *>(repaired.get())) {
+    if (&repaired->kind() == &fileKinds::order) {
         // It is asked about before, but not when the file was to be opened anyway.
         if (fault && !closeDocument())
             return;
         forgetOrder();
-        repaired.release();
-        m_document.take(std::unique_ptr<kiv_mat_zpStruct>(order));
+        m_document.take(
+            std::unique_ptr<kiv_mat_zpStruct>(static_cast<kiv_mat_zpStruct *>(repaired.release())));
         showDocument();
         setChanged();
         tell(tr("Opened as a new order: %1").arg(QDir::toNativeSeparators(path)));

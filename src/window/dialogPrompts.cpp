@@ -189,7 +189,9 @@ std::optional<int> dialogPrompts::choose(const QString &title, const QString &la
 QString dialogPrompts::openFile(const QString &title, const QString &directory,
                                 const QString &filter)
 {
-    return QFileDialog::getOpenFileName(QApplication::activeWindow(), title, directory, filter);
+    // Del would offer to delete the file that is marked.
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), title, directory, filter,
+                                        nullptr, QFileDialog::ReadOnly);
 }
 
 QString dialogPrompts::saveFile(const QString &title, const QString &proposed,
