@@ -2762,8 +2762,8 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
 Fields: %1</source>
         <translation>Warunki oddziela się odstępami, wszystkie muszą być spełnione:
   rezystor 0603        oba słowa, w dowolnym polu, także wewnątrz słowa
-  "rezystor smd"       te słowa w tej kolejności
-  case:0603            ten tekst w jednym polu; case:=0603 jako całość, case:"" puste
+  &quot;rezystor smd&quot;       te słowa w tej kolejności
+  case:0603            ten tekst w jednym polu; case:=0603 jako całość, case:&quot;&quot; puste
   value:4k7            równa liczba: 4700, 4,7 kOhm; moc może być ułamkiem: 1/4W
   price:&gt;10            więcej; także &gt;=, &lt;, &lt;= i =
   value:1k..10k        od pierwszej do ostatniej; value:1k.. value:..10k
@@ -3223,10 +3223,6 @@ Pola: %1</translation>
         <translation>pominięto tekst spoza pól: %1</translation>
     </message>
     <message>
-        <source>&amp;%1; stands for nothing and was dropped</source>
-        <translation>&amp;%1; nic nie znaczy, pominięto</translation>
-    </message>
-    <message>
         <source>&amp;%1; was read as its character</source>
         <translation>&amp;%1; odczytano jako znak</translation>
     </message>
@@ -3257,6 +3253,30 @@ Pola: %1</translation>
     <message>
         <source>an attribute is broken</source>
         <translation>uszkodzony atrybut</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>komentarz nie ma końca</translation>
+    </message>
+    <message>
+        <source>a CDATA section has no end</source>
+        <translation>sekcja CDATA nie ma końca</translation>
+    </message>
+    <message>
+        <source>the file begins a second time</source>
+        <translation>plik zaczyna się po raz drugi</translation>
+    </message>
+    <message>
+        <source>%1 begins a second time</source>
+        <translation>%1 zaczyna się po raz drugi</translation>
+    </message>
+    <message>
+        <source>%1 stands twice; the last one was taken</source>
+        <translation>%1 stoi dwa razy; wzięto ostatnie</translation>
+    </message>
+    <message>
+        <source>&amp;%1; stands for nothing and became a blank</source>
+        <translation>&amp;%1; nic nie znaczy, wstawiono odstęp</translation>
     </message>
 </context>
 <context>

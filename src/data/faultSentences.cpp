@@ -97,6 +97,12 @@ QString formSentence(const xmlError &error)
         return text(QT_TRANSLATE_NOOP("data", "the attribute %1 stands twice")).arg(value);
     case XML_NS_ERR_UNDEFINED_NAMESPACE:
         return text(QT_TRANSLATE_NOOP("data", "the prefix %1 is not declared")).arg(value);
+    case XML_ERR_COMMENT_NOT_FINISHED:
+        return text(QT_TRANSLATE_NOOP("data", "a comment has no end"));
+    case XML_ERR_CDATA_NOT_FINISHED:
+        return text(QT_TRANSLATE_NOOP("data", "a CDATA section has no end"));
+    case XML_ERR_RESERVED_XML_NAME:
+        return text(QT_TRANSLATE_NOOP("data", "the file begins a second time"));
     case XML_ERR_DOCUMENT_EMPTY:
         return text(QT_TRANSLATE_NOOP("data", "is no XML"));
     case XML_ERR_DOCUMENT_END:

@@ -13,7 +13,9 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -25,7 +27,7 @@ QString text(const char *source) { return QCoreApplication::translate("data", so
 QByteArray shortened(const QByteArray &value)
 {
     constexpr int longest = 60;
-    return value.size() <= longest ? value : value.left(longest) + "...";
+    return (value.size() <= longest ? value : value.left(longest) + "...").simplified();
 }
 
 bool isBlank(const QByteArray &value)
@@ -165,6 +167,7 @@ private:
     {
         QByteArray name;
         const schemaElements::type *type;
+        QSet<QByteArray> texts{}; // the elements that it has had
     };
 
     void change(const QString &what)
@@ -188,6 +191,7 @@ private:
     bool takeEnd();
     bool takeStart();
     QByteArray nameAt(int at) const;
+    int endOfValue(int quote) const;
     bool knownMarkupFollows(int at) const;
     QList<QPair<QByteArray, QByteArray>> takeAttributes(int *at, bool *isEmpty, bool *broken);
     QByteArray unescaped(const QByteArray &escaped);
@@ -205,6 +209,8 @@ private:
     QXmlStreamWriter m_writer;
     std::vector<level> m_open;
     QByteArray m_text;
+    std::array<bool, 4> m_hasNoEnd{}; // of the special markup
+    bool m_hasRoot = false;
     int m_at = 0;
     int m_markup = 0; // where what is being looked at begins
     int m_countedTo = 0;
@@ -216,7 +222,7 @@ bool mender::run()
 {
     m_writer.writeStartDocument();
     m_writer.writeStartElement(m_kind.root);
-    m_open.push_back({m_kind.root.toUtf8(), m_schema.root(m_kind.root.toUtf8())});
+    m_open.push_back({m_kind.root.toUtf8(), m_schema.root(m_kind.root.toUtf8()), {}});
     m_changes.start("");
     int told = 0;
     while (m_at < m_xml.size()) {
@@ -268,9 +274,12 @@ bool mender::takeSpecial()
         const int length = int(std::strlen(one.start));
         if (m_xml.mid(m_at, length) != one.start)
             continue;
-        const int end = m_xml.indexOf(one.end, m_at + length);
-        if (end < 0)
+        bool &hasNoEnd = m_hasNoEnd[size_t(&one - all)];
+        const int end = hasNoEnd ? -1 : m_xml.indexOf(one.end, m_at + length);
+        if (end < 0) {
+            hasNoEnd = true; // nor has any that follows
             return false;
+        }
         if (one.start[2] == '[')
             m_text += m_xml.mid(m_at + length, end - m_at - length);
         else if (one.start[1] == '!' && one.start[2] != '-')
@@ -347,6 +356,19 @@ bool mender::takeEnd()
     return true;
 }
 
+// Where the quote that stands there has its other one; -1 when the next tag comes before.
+int mender::endOfValue(int quote) const
+{
+    for (int at = quote + 1; at < m_xml.size(); ++at) {
+        if (m_xml.at(at) == m_xml.at(quote))
+            return at;
+        if (m_xml.at(at) == '<' && at + 1 < m_xml.size()
+            && (m_xml.at(at + 1) == '/' || isNameByte(m_xml.at(at + 1))))
+            return -1;
+    }
+    return -1;
+}
+
 // at stands behind the element's name; ends behind the tag. A broken tag ends before the next one.
 QList<QPair<QByteArray, QByteArray>> mender::takeAttributes(int *at, bool *isEmpty, bool *broken)
 {
@@ -368,11 +390,9 @@ QList<QPair<QByteArray, QByteArray>> mender::takeAttributes(int *at, bool *isEmp
         while (value < m_xml.size() && std::strchr(" \t\r\n=", m_xml.at(value)))
             ++value;
         const char quote = value < m_xml.size() ? m_xml.at(value) : 0;
-        const int end = quote == '"' || quote == '\'' ? m_xml.indexOf(quote, value + 1) : -1;
-        // A quote that is missing would take in the elements that follow.
-        const int nextTag = m_xml.indexOf("\n", value);
-        if (name.isEmpty() || end < 0
-            || (nextTag >= 0 && end > nextTag && m_xml.mid(value, end - value).contains('>')))
+        const int end = quote == '"' || quote == '\'' ? endOfValue(value) : -1;
+        constexpr int most = 100;
+        if (name.isEmpty() || end < 0 || found.size() >= most)
             break;
         const bool twice = std::any_of(found.begin(), found.end(),
                                        [&](const auto &one) { return one.first == name; });
@@ -405,13 +425,17 @@ bool mender::takeStart()
     bool broken = false;
     const auto attributes = takeAttributes(&end, &isEmpty, &broken);
     if (name == m_open.front().name) {
-        // A second root, or the first.
         flushText();
+        if (std::exchange(m_hasRoot, true))
+            change(QT_TRANSLATE_NOOP("data", "%1 begins a second time"), name);
     } else if (!known || !makeRoomFor(name)) {
         flushText();
         change(QT_TRANSLATE_NOOP("data", "unknown field %1"), name);
     } else {
         const schemaElements::type *type = m_open.back().type->children.value(name);
+        if (type->isText && m_open.back().texts.contains(name))
+            change(QT_TRANSLATE_NOOP("data", "%1 stands twice; the last one was taken"), name);
+        m_open.back().texts.insert(name);
         open(name, type);
         for (const auto &[attribute, value] : attributes) {
             if (type->attributes.contains(attribute)) {
@@ -468,7 +492,7 @@ bool mender::makeRoomFor(const QByteArray &name)
 void mender::open(const QByteArray &name, const schemaElements::type *type)
 {
     flushText();
-    m_open.push_back({name, type});
+    m_open.push_back({name, type, {}});
     m_writer.writeStartElement(QString::fromUtf8(name));
     m_changes.start({m_open.back().name.constData(), size_t(name.size())});
 }
@@ -502,9 +526,9 @@ QByteArray mender::unescaped(const QByteArray &escaped)
     int done = 0;
     for (; at >= 0; at = escaped.indexOf('&', at + 1)) {
         constexpr int longest = 10;
-        const int end = escaped.indexOf(';', at);
-        const QByteArray name =
-            end < 0 || end - at > longest ? QByteArray() : escaped.mid(at + 1, end - at - 1);
+        const int inside = escaped.mid(at, longest + 1).indexOf(';');
+        const int end = inside < 0 ? -1 : at + inside;
+        const QByteArray name = end < 0 ? QByteArray() : escaped.mid(at + 1, end - at - 1);
         QByteArray value;
         constexpr struct
         {
@@ -526,7 +550,8 @@ QByteArray mender::unescaped(const QByteArray &escaped)
                                 && code != 0xfffe && code != 0xffff;
             value = stands ? QString::fromUcs4(&code, 1).toUtf8() : QByteArray(" ");
             if (!stands)
-                change(QT_TRANSLATE_NOOP("data", "&%1; stands for nothing and was dropped"), name);
+                change(QT_TRANSLATE_NOOP("data", "&%1; stands for nothing and became a blank"),
+                       name);
         }
         result += escaped.mid(done, at - done);
         if (value.isEmpty()) {

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QMap>
 #include <QSet>
 #include <QString>
 
@@ -12,7 +13,7 @@ class schemaElements
 public:
     struct type
     {
-        QHash<QByteArray, const type *> children;
+        QMap<QByteArray, const type *> children; // in one order, always
         QSet<QByteArray> attributes;
         bool isText = false; // holds nothing else
     };
@@ -29,6 +30,6 @@ public:
 private:
     QHash<QString, type> m_types;
     type m_text;
-    QHash<QByteArray, const type *> m_roots;
+    QMap<QByteArray, const type *> m_roots;
     QSet<QByteArray> m_names;
 };

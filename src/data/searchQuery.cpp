@@ -42,7 +42,9 @@ std::vector<token> tokensOf(const QString &typed)
         next.isAlternative = std::exchange(isAlternative, false) && !result.empty();
         if (next.isAlternative)
             next.negated = result.back().negated;
-        else if (typed.at(at) == QLatin1Char('!')) {
+        // "!!!!!" marks what is unknown.
+        else if (typed.at(at) == QLatin1Char('!')
+                 && typed.midRef(at + 1, 1) != QLatin1String("!")) {
             next.negated = true;
             ++at;
         }

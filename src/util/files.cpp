@@ -110,7 +110,7 @@ QString whyNotWritten(const QString &path)
             above.setFile(above.path());
         return qt_error_string(above.isDir() ? fault : ENOTDIR);
     }
-    QTemporaryFile probe(path + QLatin1String(".XXXXXX"));
+    QTemporaryFile probe(path + QLatin1String(".kivzp-XXXXXX"));
     if (!probe.open())
         return probe.errorString();
     // A disk that took the name may have no room for as much as stands there.

@@ -13,8 +13,7 @@ namespace {
 // Documents arrive in millions of small pieces.
 constexpr int blockSize = 1 << 18;
 
-// Small and capital ones in turn, which no ending that a person gives looks like: what a killed
-// save leaves is cleared by it (see scratch::clearLeftSaves).
+// What a killed save leaves is cleared by its name (see scratch::clearLeftSaves).
 QString sixLetters()
 {
     constexpr int count = 6;
@@ -76,7 +75,7 @@ bool safeFile::makeTemporary()
 {
     constexpr int attempts = 20;
     for (int i = 0; i < attempts; ++i) {
-        m_file.setFileName(m_path + QLatin1Char('.') + sixLetters());
+        m_file.setFileName(m_path + QLatin1String(".kivzp-") + sixLetters());
         // Line ends are translated once, by this device.
         if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
             return true;

@@ -41,13 +41,12 @@ ownFolder &own()
     return one;
 }
 
-// Six letters at random, as QSaveFile puts them behind a name. What could be a word was put there
-// by a person.
-bool isRandom(const QString &end)
+// The name that safeFile gives a temporary file beside the one that it saves. Anything else was put
+// there by somebody else, however it looks.
+bool isOwn(const QString &end)
 {
-    static const QRegularExpression letters(QStringLiteral("^[A-Za-z]{6}$"));
-    static const QRegularExpression word(QStringLiteral("^([A-Za-z][a-z]+|[A-Z]+)$"));
-    return letters.match(end).hasMatch() && !word.match(end).hasMatch();
+    static const QRegularExpression form(QStringLiteral("^kivzp-[A-Za-z]{6}$"));
+    return form.match(end).hasMatch();
 }
 
 // Where that cannot be told, what was not written to for a day is nobody's.
@@ -115,7 +114,7 @@ void clearLeftSaves(const QString &path)
     const QFileInfoList all =
         saved.absoluteDir().entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo &file : all)
-        if (file.fileName().startsWith(beginning) && isRandom(file.fileName().mid(beginning.size()))
+        if (file.fileName().startsWith(beginning) && isOwn(file.fileName().mid(beginning.size()))
             && isAbandoned(file))
             QFile::remove(file.filePath());
 }

@@ -55,7 +55,7 @@ private slots:
              "5 line a < b <c> </d>: \"<\" stands alone; it is written &lt;|"
              "5 line a < b <c> </d>: \"<\" stands alone; it is written &lt;");
         line("entities", "<order_item><name>a&nbsp;b&#1;</name></order_item>", "a\u00a0b ",
-             "5 line a b: &nbsp; was read as its character|5 line a b: &#1; stands for nothing and was dropped");
+             "5 line a b: &nbsp; was read as its character|5 line a b: &#1; stands for nothing and became a blank");
         line("control characters", "<order_item><name>2\x01\x02</name></order_item>", "2",
              "5 2 characters that no file can hold were dropped");
         line("Windows-1250", "<order_item><name>za\xbf\xf3\xb3\xe6</name></order_item>", "zażółć",

@@ -98,11 +98,20 @@ private slots:
 
     void killedSavesLeaveNothing()
     {
-        const QStringList kept{"a.xml",        "a.xml.AbCdEfg", "a.xml.BACKUP", "a.xml.Backup", "a.xml.QwErTy",
-                               "a.xml.backup", "b.xml.AbCdEf",  "b.xml.aB",     "xa.xml.AbCdEf"};
-        for (const QString &name : kept + QStringList{"a.xml.AbCdEf", "a.xml.zzzzzA"})
+        QStringList kept{"a.xml",
+                         "a.xml.AbCdEf",
+                         "a.xml.BACKUP",
+                         "a.xml.bakOLD",
+                         "a.xml.backup",
+                         "a.xml.kivzp-AbCdEfg",
+                         "a.xml.kivzp-QwErTy",
+                         "a.xml.mojKop",
+                         "b.xml.kivzp-AbCdEf",
+                         "xa.xml.kivzp-AbCdEf"};
+        std::sort(kept.begin(), kept.end());
+        for (const QString &name : kept + QStringList{"a.xml.kivzp-AbCdEf", "a.xml.kivzp-zzzzzA"})
             m_folder->write(name, "x");
-        QFile living(m_folder->path("a.xml.QwErTy"));
+        QFile living(m_folder->path("a.xml.kivzp-QwErTy"));
         QVERIFY(living.open(QIODevice::WriteOnly));
         scratch::clearLeftSaves(m_folder->path("a.xml"));
         QStringList left = QDir(m_folder->path()).entryList(QDir::Files);
