@@ -44,13 +44,14 @@ QDateTime timeIn(const QString &name, const QString &beginning)
 // Names differ in their time first, so their order is that of time.
 QStringList namesIn(const QString &folder, const QString &beginning, const QString &end)
 {
-    QStringList names = QDir(folder).entryList(
-        {beginning + QLatin1Char('*') + end, beginning + QLatin1Char('*') + end + packedEnd},
-        QDir::Files, QDir::Name);
-    names.erase(
-        std::remove_if(names.begin(), names.end(),
-                       [&](const QString &name) { return !timeIn(name, beginning).isValid(); }),
-        names.end());
+    // Not by a pattern: a name may have a "[".
+    QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+    const auto isOther = [&](const QString &name) {
+        return !name.startsWith(beginning)
+               || !(name.endsWith(end) || name.endsWith(end + packedEnd))
+               || !timeIn(name, beginning).isValid();
+    };
+    names.erase(std::remove_if(names.begin(), names.end(), isOther), names.end());
     return names;
 }
 
