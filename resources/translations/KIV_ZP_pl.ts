@@ -1069,6 +1069,10 @@
         <source>%1 is no order.</source>
         <translation>%1 nie jest zamówieniem.</translation>
     </message>
+    <message>
+        <source>The file %1 has changes that are not saved. What was left of it is kept for the next start.</source>
+        <translation>Plik %1 ma niezapisane zmiany. To, co po nim zostało, jest zachowane do następnego uruchomienia.</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>

@@ -78,7 +78,7 @@ bool MainWindow::leaveOrder()
             tr("The order is not saved, and no copy of it could be kept:").toHtmlEscaped()
                 + QLatin1String("<br><br>")
                 + text::toHtml(m_recovery->faults().join(QLatin1Char('\n'))),
-            {tr("Leave it and lose the changes")}))
+            {tr("Leave it and lose the changes")}, true))
         return false;
     m_recovery->discard();
     return true;

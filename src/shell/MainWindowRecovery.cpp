@@ -111,6 +111,14 @@ bool MainWindow::recoverOther(const recoveryJournal::left &copy)
             editWindow &candidate = databaseWindow(programData::databaseKind(kind));
             window = candidate.isOf(copy.path) ? &candidate : nullptr;
         }
+    // Also what was restored a moment ago from another copy of the same file.
+    if (window && window->isOf(copy.path) && window->isModified()) {
+        userPrompts().showError(
+            tr("The file %1 has changes that are not saved. What was left of it is kept for the "
+               "next start.")
+                .arg(QDir::toNativeSeparators(copy.path).toHtmlEscaped()));
+        return false;
+    }
     if (window)
         window->showNow();
     if (!window || !window->isOf(copy.path)) {

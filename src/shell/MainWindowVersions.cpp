@@ -59,7 +59,8 @@ void MainWindow::openCopy(const keptCopy &copy)
     if (head.kind == &fileKinds::order) {
         showNow();
         if (closeDocument() && m_document.recover(file, {}, {})) {
-            m_recovery->discard();
+            forgetOrder();
+            stayOpen();
             userState::instance().lastZp.clear();
             showDocument();
             setChanged();
