@@ -3421,10 +3421,6 @@ Pola: %1</translation>
         <translation>Żadna pozycja nie zawiera %1</translation>
     </message>
     <message>
-        <source>Reload it and lose the changes here</source>
-        <translation>Wczytaj ponownie i porzuć zmiany</translation>
-    </message>
-    <message>
         <source>Overwrite it</source>
         <translation>Nadpisz</translation>
     </message>
@@ -3587,6 +3583,10 @@ Pola: %1</translation>
     <message>
         <source>Restored: %1</source>
         <translation>Przywrócono: %1</translation>
+    </message>
+    <message>
+        <source>Lose it</source>
+        <translation>Utrać to</translation>
     </message>
 </context>
 <context>
@@ -4794,7 +4794,7 @@ Pola: %1</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Scalanie</translation>
+        <translation>Scal</translation>
     </message>
     <message>
         <source>Take &amp;theirs</source>
@@ -5553,11 +5553,11 @@ Pola: %1</translation>
     </message>
     <message>
         <source>the file now</source>
-        <translation>plik obecny</translation>
+        <translation>obecnego pliku</translation>
     </message>
     <message>
         <source>the version of %1</source>
-        <translation>wersja z %1</translation>
+        <translation>wersji z %1</translation>
     </message>
     <message>
         <source>There is no file to compare it with</source>
@@ -5577,14 +5577,14 @@ Pola: %1</translation>
     </message>
     <message>
         <source>Nothing differs from %1</source>
-        <translation>Brak różnic: %1</translation>
+        <translation>Brak różnic względem %1</translation>
     </message>
     <message numerus="yes">
         <source>%n difference(s) from %1</source>
         <translation>
-            <numerusform>%n różnica: %1</numerusform>
-            <numerusform>%n różnice: %1</numerusform>
-            <numerusform>%n różnic: %1</numerusform>
+            <numerusform>%n różnica względem %1</numerusform>
+            <numerusform>%n różnice względem %1</numerusform>
+            <numerusform>%n różnic względem %1</numerusform>
         </translation>
     </message>
     <message>

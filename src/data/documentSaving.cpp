@@ -103,7 +103,6 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
                false)
                != prompts::answer::yes)
         return false;
-    scratch::clearLeftSaves(path);
     document.leftOut = {};
     bool written = false;
     bool cancelled = false;

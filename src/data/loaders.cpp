@@ -14,6 +14,7 @@
 #include "util/progressFile.h"
 #include "util/prompts.h"
 #include "util/safeFile.h"
+#include "util/scratch.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -150,6 +151,7 @@ int writeFile(const QString &filePath, const xmlData *record, QString *error,
               const progressFunction &progress,
               const std::function<bool(const QString &temporaryPath)> &check)
 {
+    scratch::clearLeftSaves(filePath);
     safeFile file(filePath, progress);
     const auto failed = [&] {
         if (error && error->isEmpty())

@@ -331,10 +331,10 @@ public:
         QByteArray contentBefore;
     };
 
-    repetition(const levels &all, documentStruct &document, bool asItWas)
+    repetition(const levels &all, documentStruct &document, recordChanges::documentKind kind)
         : m_levels(all)
         , m_document(&document)
-        , m_asItWas(asItWas)
+        , m_kind(kind)
         , m_untouched(all.size())
     {
         for (size_t level = 0; level < all.size(); ++level)
@@ -366,7 +366,7 @@ private:
 
     const levels &m_levels;
     documentStruct *m_document;
-    bool m_asItWas;
+    recordChanges::documentKind m_kind;
     std::vector<QMultiHash<QString, place>> m_untouched; // by level and name
     QHash<int, known> m_known;                           // by number
 };
@@ -397,7 +397,7 @@ void repetition::meet(known &one, const QJsonObject &was)
 {
     one.name = was.value(nameKey).toString();
     one.mark = was.value(markKey).toString();
-    const place found = find(one.level, was, true);
+    const place found = find(one.level, was, m_kind != recordChanges::settled);
     one.refused = !found.second;
     one.nameBefore = one.name;
     if (one.refused)
@@ -413,6 +413,13 @@ void repetition::set(known &one, const QByteArray &content)
     auto to = of.read(content);
     one.name = of.name(to.get());
     one.mark = markOf(content);
+    // Others gave it the name that the user took from them.
+    if (const place theirs = m_untouched[one.level].value(one.name);
+        one.refused && m_kind == recordChanges::settled && theirs.second) {
+        std::tie(one.parent, one.record) = std::pair(theirs.first, theirs.second);
+        m_untouched[one.level].remove(one.name, theirs);
+        one.refused = false;
+    }
     if (!one.refused && one.record)
         one.record = of.change(one.parent, of.placeOf(one.parent, one.record), std::move(to));
 }
@@ -465,7 +472,7 @@ void repetition::put(known &one, const QJsonObject &line)
         return;
     // A folder that others made, too, is the same.
     if (const place theirs = m_untouched[one.level].value(one.name);
-        of.isFolder() && of.oneOfAName && !m_asItWas && theirs.second) {
+        of.isFolder() && of.oneOfAName && m_kind != recordChanges::asItWas && theirs.second) {
         std::tie(one.parent, one.record) = std::pair(theirs.first, theirs.second);
         m_untouched[one.level].remove(one.name, theirs);
         return;
@@ -497,7 +504,7 @@ void repetition::settleNames()
 {
     for (known &one : m_known) {
         const recordLevel &of = *m_levels[one.level];
-        if (m_asItWas || !of.oneOfAName || !one.record || one.name.isEmpty()
+        if (m_kind == recordChanges::asItWas || !of.oneOfAName || !one.record || one.name.isEmpty()
             || one.name == one.nameBefore || !m_untouched[one.level].contains(one.name))
             continue;
         const int at = of.placeOf(one.parent, one.record);
@@ -530,9 +537,9 @@ QStringList repetition::refused() const
 } // namespace
 
 recordChanges::outcome recordChanges::repeat(const QByteArray &lines, documentStruct &document,
-                                             bool asItWas)
+                                             documentKind kind)
 {
-    repetition again(m_levels, document, asItWas);
+    repetition again(m_levels, document, kind);
     for (const QJsonObject &line : objectsIn(lines))
         again.make(line);
     again.settleNames();

@@ -73,9 +73,14 @@ public:
         int made = 0;        // records that are now as they were noted
         QStringList refused; // the names of those that others changed
     };
-    // Makes noted changes again. asItWas: the document is what they were made in; else a record
-    // that others changed, too, stays as it is. Further changes can be noted then.
-    outcome repeat(const QByteArray &lines, documentStruct &document, bool asItWas);
+    enum documentKind
+    {
+        asItWas,         // what they were made in
+        settled,         // others changed it, and the user wants what was noted all the same
+        changedByOthers, // a record that others changed, too, stays as it is
+    };
+    // Makes noted changes again. Further changes can be noted then.
+    outcome repeat(const QByteArray &lines, documentStruct &document, documentKind kind);
     // How many records such lines are about.
     static int countIn(const QByteArray &lines);
 

@@ -185,7 +185,7 @@ void versionsWindow::list()
         const QString folder =
             copy.path.isEmpty() ? QString() : QDir::toNativeSeparators(QFileInfo(copy.path).path());
         const QList<QStandardItem *> row =
-            rowOf({copy.time.toString(QStringLiteral("yyyy.MM.dd hh:mm:ss")),
+            rowOf({copy.time.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss")),
                    copy.name,
                    copy.isUnsaved ? tr("unsaved order") : tr("version"),
                    {},
@@ -250,7 +250,7 @@ QString versionsWindow::otherOf(const keptCopy &copy, QString *name) const
         if (one.path == copy.path && !one.isUnsaved) {
             other = one.file;
             *name = tr("the version of %1")
-                        .arg(one.time.toString(QStringLiteral("yyyy.MM.dd hh:mm:ss")));
+                        .arg(one.time.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss")));
         }
     }
     return other;

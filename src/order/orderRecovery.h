@@ -1,4 +1,5 @@
-// A copy of the unsaved order, written aside while it is edited, so that a crash costs a minute.
+// A copy of the unsaved order, written aside while it is edited, so that a crash costs a few
+// seconds.
 #pragma once
 
 #include "data/documentSaving.h"

@@ -33,7 +33,9 @@ void MainWindow::endNow()
 void MainWindow::offerLeft(bool atStart)
 {
     const std::vector<orderRecovery::copy> orders = m_recovery->left();
-    const std::vector<recoveryJournal::left> others = recoveryJournal::allLeft();
+    // Later on their windows may be open.
+    const std::vector<recoveryJournal::left> others =
+        atStart ? recoveryJournal::allLeft() : std::vector<recoveryJournal::left>();
     if (orders.empty() && others.empty())
         return;
     std::vector<leftWork> all;

@@ -24,7 +24,7 @@ namespace {
 
 QString called(const keptCopy &copy)
 {
-    return copy.name + QLatin1Char(' ') + copy.time.toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
+    return copy.name + QLatin1Char(' ') + copy.time.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss"));
 }
 
 void showFault(const keptCopy &copy, const QString &fault)
@@ -86,17 +86,11 @@ void MainWindow::openCopy(const keptCopy &copy)
         QFile::remove(file);
 }
 
-// The window in which a file is edited, opened where it was not; null when none edits it.
+// The window in which a file is edited; null when there is none.
 editWindow *MainWindow::windowOf(const QString &path, const fileKind &kind)
 {
-    if (&kind == &fileKinds::order) {
-        if (!sameFile(path, m_document.path())) {
-            if (!closeDocument())
-                return nullptr;
-            openFile(path);
-        }
+    if (&kind == &fileKinds::order)
         return sameFile(path, m_document.path()) ? this : nullptr;
-    }
     if (&kind == &fileKinds::database)
         for (int i = 0; i < programData::databaseCount; ++i)
             if (sameFile(path, known().database(programData::databaseKind(i)).filePath))
@@ -122,6 +116,14 @@ void MainWindow::restoreCopy(const keptCopy &copy)
     if (&version->kind() == &fileKinds::order && !QFileInfo::exists(copy.path)) {
         openCopy(copy);
         return;
+    }
+    if (&version->kind() == &fileKinds::order && !sameFile(copy.path, m_document.path())) {
+        if (!closeDocument())
+            return;
+        openFile(copy.path);
+        // It was told that it cannot be read.
+        if (!sameFile(copy.path, m_document.path()))
+            return;
     }
     editWindow *window = windowOf(copy.path, version->kind());
     if (window)

@@ -26,7 +26,7 @@
 
 namespace {
 
-constexpr int storeEveryMs = 60000;
+constexpr int storeEveryMs = 10000;
 
 QString native(const QString &path) { return QDir::toNativeSeparators(path).toHtmlEscaped(); }
 
@@ -492,7 +492,10 @@ void editWindow::closeEvent(QCloseEvent *event)
     }
     stayOpen();
     closed();
-    if (m_journal && !(isKept && m_journal->leave()))
+    // What could not be written last stays noted as it was before.
+    if (m_journal && isKept)
+        m_journal->leave();
+    else if (m_journal)
         m_journal->discard();
     m_fileLock.claim({});
     m_watch->watch({});

@@ -130,7 +130,7 @@ public:
     // Shows the document as its file has it, with the changes that an earlier run left unsaved.
     // False when they cannot be made; then they stay where they are.
     bool recover(const recoveryJournal::left &copy);
-    // Writes unsaved work aside; called each minute in which something changed. False, told in the
+    // Writes unsaved work aside; called some seconds after a change. False, told in the
     // status bar, when no folder takes it.
     virtual bool storeRecovery();
     // The program ends without asking: what is unsaved is left to be found at the next start.

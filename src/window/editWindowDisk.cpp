@@ -13,6 +13,7 @@
 #include "util/text.h"
 #include "window/changedBar.h"
 #include "window/mergeDialog.h"
+#include "window/recoveryJournal.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -74,6 +75,7 @@ bool editWindow::settleMissing()
 // The file is read first, and takes the document's place only when that succeeds.
 bool editWindow::reload()
 {
+    lookAtFile();
     if (!finishEditing() || (isModified() && !keepOwnVersion()))
         return false;
     const bool wasModified = isModified();
@@ -98,7 +100,7 @@ bool editWindow::keepOwnVersion()
         return true;
     return userPrompts()
         .decide(tr("What is here could not be kept as a version of %1.").arg(native(filePath())),
-                {tr("Reload it and lose the changes here")}, true)
+                {tr("Lose it")}, true)
         .has_value();
 }
 
@@ -164,6 +166,8 @@ void editWindow::keepMine()
 {
     onDisk() = fileState::of(filePath());
     forgetSaved();
+    if (m_journal)
+        m_journal->settle();
     followFile();
     showState();
     tell(onDisk() == fileState() ? tr("Saving will write the file anew")
@@ -191,7 +195,9 @@ void editWindow::rememberOpened()
 
 void editWindow::compareVersions()
 {
-    if (!finishEditing())
+    // The bar may not know yet that it is gone.
+    lookAtFile();
+    if (!finishEditing() || fileState::of(filePath()) == fileState())
         return;
     // It may change once more meanwhile.
     const QTemporaryDir folder(scratch::pattern());
@@ -256,6 +262,8 @@ bool editWindow::mergeWith(const QString &theirs, const fileState &state)
     }
     onDisk() = state;
     forgetSaved();
+    if (m_journal)
+        m_journal->settle();
     historyMoves();
     if (auto step = become(*wanted))
         push(std::move(step), tr("Merge"));

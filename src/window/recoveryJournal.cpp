@@ -2,6 +2,7 @@
 
 #include "data/documentStruct.h"
 #include "util/diskSync.h"
+#include "util/files.h"
 #include "util/messages.h"
 
 #include <QDir>
@@ -17,6 +18,47 @@ const QLatin1String kindKey("kind");
 const QLatin1String pathKey("file");
 const QLatin1String sizeKey("size");
 const QLatin1String timeKey("time");
+const QLatin1String settledKey("settled");
+
+QJsonObject withState(QJsonObject line, const fileState &state)
+{
+    line.insert(sizeKey, double(state.size));
+    line.insert(timeKey, double(state.time.isValid() ? state.time.toMSecsSinceEpoch() : 0));
+    return line;
+}
+
+fileState stateIn(const QJsonObject &line)
+{
+    fileState state;
+    state.size = qint64(line.value(sizeKey).toDouble(-1));
+    if (state.size >= 0)
+        state.time = QDateTime::fromMSecsSinceEpoch(qint64(line.value(timeKey).toDouble()));
+    return state;
+}
+
+QByteArray written(const QJsonObject &line)
+{
+    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray headOf(const QString &kind, const QString &path, const fileState &onDisk)
+{
+    return written(withState({{kindKey, kind}, {pathKey, path}}, onDisk));
+}
+
+// The last one of the lines that settle.
+fileState settledIn(const QByteArray &lines)
+{
+    fileState settled;
+    for (const QByteArray &line : lines.split('\n')) {
+        if (!line.contains(settledKey.data()))
+            continue;
+        const QJsonObject object = QJsonDocument::fromJson(line).object();
+        if (object.contains(settledKey))
+            settled = stateIn(object.value(settledKey).toObject());
+    }
+    return settled;
+}
 
 recoverySlot slotIn(const QString &folder)
 {
@@ -121,13 +163,7 @@ void recoveryJournal::discard()
 
 QByteArray recoveryJournal::head() const
 {
-    const fileState onDisk = m_source.onDisk();
-    const QJsonObject line{
-        {kindKey, m_kind.root},
-        {pathKey, QFileInfo(m_source.path()).absoluteFilePath()},
-        {sizeKey, double(onDisk.size)},
-        {timeKey, double(onDisk.time.isValid() ? onDisk.time.toMSecsSinceEpoch() : 0)}};
-    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    return headOf(m_kind.root, QFileInfo(m_source.path()).absoluteFilePath(), m_source.onDisk());
 }
 
 // A line that is cut short would spoil the next one.
@@ -206,6 +242,17 @@ bool recoveryJournal::leave()
     return true;
 }
 
+void recoveryJournal::settle()
+{
+    write();
+    if (m_lines.isEmpty())
+        return; // its head will name that file
+    const QByteArray line = written({{settledKey, withState({}, m_source.onDisk())}});
+    m_lines += line;
+    if (m_file.isOpen())
+        append(line);
+}
+
 std::vector<recoveryJournal::left> recoveryJournal::allLeft()
 {
     std::vector<left> all;
@@ -222,13 +269,11 @@ std::vector<recoveryJournal::left> recoveryJournal::allLeft()
             one.number = number;
             one.kind = head.value(kindKey).toString();
             one.path = head.value(pathKey).toString();
-            one.onDisk.size = qint64(head.value(sizeKey).toDouble());
-            if (one.onDisk.size >= 0)
-                one.onDisk.time =
-                    QDateTime::fromMSecsSinceEpoch(qint64(head.value(timeKey).toDouble()));
+            one.onDisk = stateIn(head);
             one.time = QFileInfo(file).lastModified();
             one.lines = file.readAll();
             one.records = recordChanges::countIn(one.lines);
+            one.settled = settledIn(one.lines);
             all.push_back(std::move(one));
         }
     }
@@ -257,5 +302,22 @@ std::optional<recordChanges::outcome> recoveryJournal::takeUp(const left &one,
         m_lines += '\n';
         append("\n");
     }
-    return m_changes.repeat(one.lines, document, fileState::of(one.path) == one.onDisk);
+    const fileState now = fileState::of(one.path);
+    const auto outcome = m_changes.repeat(one.lines, document,
+                                          now == one.onDisk    ? recordChanges::asItWas
+                                          : now == one.settled ? recordChanges::settled
+                                                               : recordChanges::changedByOthers);
+    // They are not in the document, with which this journal goes.
+    if (outcome.made > 0 && !outcome.refused.isEmpty())
+        setAside(one);
+    return outcome;
+}
+
+// Once more, to be offered at the next start, until the user deletes it.
+void recoveryJournal::setAside(const left &one) const
+{
+    recoverySlot place = slotIn(recoveryFolders().value(int(one.place)));
+    if (place.claimFree())
+        files::writeText(place.file(),
+                         QString::fromUtf8(headOf(one.kind, one.path, one.onDisk) + one.lines));
 }

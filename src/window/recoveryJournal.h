@@ -45,6 +45,9 @@ public:
     QStringList faults() const;
     // Leaves it to be found at the next start; false when it cannot be written.
     bool leave();
+    // What the file holds now is known to the user, who wants what is in the document: what is
+    // noted before and after is to be made in that file.
+    void settle();
 
     struct left
     {
@@ -53,6 +56,7 @@ public:
         QString kind; // root element of the document
         QString path; // of the document
         fileState onDisk;
+        fileState settled; // the file that the user knew last of all
         QDateTime time;
         int records = 0;
         QByteArray lines;
@@ -76,6 +80,7 @@ private:
     bool append(const QByteArray &lines);
     bool begin(recoverySlot &place);
     QByteArray head() const;
+    void setAside(const left &one) const;
 
     const fileKind &m_kind;
     source m_source;

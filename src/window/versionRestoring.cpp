@@ -30,7 +30,8 @@ bool editWindow::restoreVersion(documentStruct &version, const QString &what)
         return true;
     }
     // Also what was not saved.
-    keepDocument(filePath(), *mine, known().config());
+    if (!keepOwnVersion())
+        return false;
     push(become(version), tr("Restored: %1").arg(what));
     return true;
 }

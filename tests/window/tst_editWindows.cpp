@@ -227,9 +227,10 @@ private slots:
         m_file.clear();
     }
     // The file with the text of a cell changed, as another program does it: by a file that takes its place.
-    void changeElsewhere(const QString &file, const QString &cell)
+    void changeElsewhere(const QString &file, const QString &cell) { changeText(file, seenAt(cell)); }
+    void changeText(const QString &file, const QString &seen)
     {
-        const QByteArray text = seenAt(cell).toHtmlEscaped().toUtf8();
+        const QByteArray text = seen.toHtmlEscaped().toUtf8();
         QByteArray all = testSupport::read(file);
         const QByteArray before = all;
         for (const char *form : {">%1<", "\"%1\""})
@@ -438,6 +439,40 @@ private slots:
     }
 
     // Where a file cannot be written, here as on a full disk, nothing is lost, whatever is answered.
+    // What the user settled with another program's version is restored in that version.
+    void recoveredAfterSettling_data()
+    {
+        const testSupport::rows<int, bool> row;
+        row("database, merged", 1, true);
+        row("firms, merged", 2, true);
+        row("firms, kept", 2, false);
+        row("BOM lists, merged", 4, true);
+        row("BOM list, merged", 5, true);
+        row("BOM list, kept", 5, false);
+    }
+    void recoveredAfterSettling()
+    {
+        const auto [number, merged] = testSupport::fetch<int, bool>();
+        const editedWindow &w = windows[number];
+        openWindow(w.opened);
+        const QString file = fileOf(w);
+        const QString theirs = !merged ? w.cell : w.theirs ? w.theirs : w.other;
+        const QString text = seenAt(theirs);
+        work(QString("%1 %2 F2 Ctrl+A 'Żuk4' Return ~300").arg(w.unlock, w.cell));
+        changeText(file, text);
+        work(merged ? "!compareVersions !mergeVersions ~300" : "!keepMine ~300");
+        if (merged)
+            work(QString("%1 F2 Ctrl+A 'Wół5' Return ~300").arg(theirs));
+        boxes();
+        recover({});
+        QCOMPARE(m_told, QString());
+        work(w.save);
+        const QByteArray saved = testSupport::read(file);
+        QVERIFY(saved.contains("Żuk4"));
+        QCOMPARE(saved.contains("Wół5"), merged);
+        QVERIFY(!saved.contains("Żaba"));
+    }
+
     void fullDisk_data() { addRows({"~300 !Retry", "Escape", "!Keep_in_recovery"}); }
     void fullDisk()
     {
