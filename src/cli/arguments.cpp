@@ -1,6 +1,7 @@
 #include "cli/arguments.h"
 
 #include "data/XmlValidator.h"
+#include "data/configStruct.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
 #include "util/messages.h"
@@ -102,6 +103,16 @@ bool validateFile(const QString &path)
         return false;
     }
     printFaults(path, details.messages, details.messageCount);
+    return false;
+}
+
+bool loadConfiguration(configStruct *config)
+{
+    if (config->load(paths::config()))
+        return true;
+    err() << paths::config() << ": "
+          << QCoreApplication::translate("cli", "cannot be read or is invalid") << '\n'
+          << Qt::flush;
     return false;
 }
 

@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTextStream>
 
+class configStruct;
+
 namespace cli {
 
 enum exitCode
@@ -70,6 +72,9 @@ bool readFile(const QString &path, documentStruct *record, const QString &isNot)
 // Reads a file of whatever kind, valid or not. Prints what is wrong and returns null when it
 // cannot.
 std::unique_ptr<documentStruct> readAny(const QString &path);
+
+// Reads the program's configuration. Prints that it is none; false when it was refused.
+bool loadConfiguration(configStruct *config);
 
 // Prints "command: fault" to standard error and returns the code for a wrong call.
 int refuseCall(const subcommand &command, const QString &fault);

@@ -109,12 +109,8 @@ int runUpload(const QStringList &arguments)
     if (!options.accept(arguments))
         return options.code();
     configStruct config;
-    if (!config.load(paths::config())) {
-        err() << paths::config() << ": "
-              << QCoreApplication::translate("cli", "cannot be read or is invalid") << '\n'
-              << Qt::flush;
+    if (!loadConfiguration(&config))
         return refused;
-    }
     const materialFiles::fileServer server = materialFiles::serverOf(config);
     const QString host = materialFiles::hostOf(server);
     const QString link = options.positionalArguments().at(1);

@@ -82,12 +82,8 @@ int runMail(const QStringList &arguments)
 
     const logToError logged;
     configStruct config;
-    if (!config.load(paths::config())) {
-        err() << paths::config() << ": "
-              << QCoreApplication::translate("cli", "cannot be read or is invalid") << '\n'
-              << Qt::flush;
+    if (!loadConfiguration(&config))
         return refused;
-    }
     int code = refused;
     // The files stay: the composer reads them when the message is sent.
     const QString description =

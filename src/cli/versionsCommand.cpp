@@ -47,12 +47,8 @@ int runVersions(const QStringList &arguments)
     if (!options.accept(arguments))
         return options.code();
     configStruct config;
-    if (!config.load(paths::config())) {
-        err() << paths::config() << ": "
-              << QCoreApplication::translate("cli", "cannot be read or is invalid") << '\n'
-              << Qt::flush;
+    if (!loadConfiguration(&config))
         return refused;
-    }
     const QString wanted = options.positionalArguments().value(0);
     const QString path = wanted.isEmpty() ? QString() : QFileInfo(wanted).absoluteFilePath();
     std::vector<keptCopy> copies =
