@@ -298,7 +298,8 @@ private slots:
         QVERIFY(!window().findChild<QWidget *>("changedBar"));
         changeElsewhere(file, theirs);
         const auto *bar = window().findChild<QWidget *>("changedBar");
-        QVERIFY(bar && bar->isVisible());
+        QVERIFY(bar);
+        QVERIFY(bar->isVisible());
         look("changedText ~ changed by another program");
         work('!' + way + (way == "compareVersions" ? " !mergeVersions" : "") + " ~500");
         QVERIFY(!bar->isVisible());
