@@ -77,6 +77,17 @@ protected:
         work("~50 " + steps);
     }
 
+    // The program is ended by the system, and begins anew.
+    void endAndStart()
+    {
+        m_main->endNow();
+        // It has told the event loop to end, which there is none of here.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
+        end();
+        start();
+    }
+
     // Called before the main window is made: other files, other options.
     virtual void prepare() {}
     void setOption(const char *key, const QString &value)

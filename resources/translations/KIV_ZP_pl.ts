@@ -1073,6 +1073,10 @@
         <source>The file %1 has changes that are not saved. What was left of it is kept for the next start.</source>
         <translation>Plik %1 ma niezapisane zmiany. To, co po nim zostało, jest zachowane do następnego uruchomienia.</translation>
     </message>
+    <message>
+        <source>the file has changed since</source>
+        <translation>plik się od tego czasu zmienił</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -2776,6 +2780,10 @@ Fields: %1</source>
   !status:szary        bez tego
 Pola: %1</translation>
     </message>
+    <message>
+        <source>is open in %1, which will be told</source>
+        <translation>jest otwarty w %1, który to zauważy</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -3281,6 +3289,18 @@ Pola: %1</translation>
     <message>
         <source>&amp;%1; stands for nothing and became a blank</source>
         <translation>&amp;%1; nic nie znaczy, wstawiono odstęp</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>nie ma takiego pliku</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>to jest folder</translation>
+    </message>
+    <message>
+        <source>%1 a second time</source>
+        <translation>%1 po raz drugi</translation>
     </message>
 </context>
 <context>
@@ -5598,6 +5618,10 @@ Pola: %1</translation>
     <message>
         <source>Time</source>
         <translation>Czas</translation>
+    </message>
+    <message>
+        <source>unsaved changes</source>
+        <translation>niezapisane zmiany</translation>
     </message>
 </context>
 <context>

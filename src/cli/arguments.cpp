@@ -2,13 +2,16 @@
 
 #include "data/XmlValidator.h"
 #include "data/configStruct.h"
+#include "data/documentSaving.h"
 #include "data/documentStruct.h"
 #include "data/loaders.h"
+#include "util/fileLock.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -104,6 +107,26 @@ bool validateFile(const QString &path)
     }
     printFaults(path, details.messages, details.messageCount);
     return false;
+}
+
+int writeDocument(const QString &path, const documentStruct &document)
+{
+    if (QFileInfo::exists(path)) {
+        for (const QString &other : fileLock::othersOf(path))
+            err() << path << ": "
+                  << QCoreApplication::translate("cli", "is open in %1, which will be told")
+                         .arg(other)
+                  << '\n';
+        // Without one the usual folders take it.
+        configStruct config;
+        loadDocument(paths::config(), &config);
+        keepVersion(path, config);
+        if (!versionFault().isEmpty())
+            err() << path << ": " << versionFault() << '\n';
+        err() << Qt::flush;
+    }
+    QString reason;
+    return saveXmlNoEvents(path, &document, &reason) >= 0 ? int(done) : cannotWrite(path, reason);
 }
 
 bool loadConfiguration(configStruct *config)

@@ -73,6 +73,10 @@ bool readFile(const QString &path, documentStruct *record, const QString &isNot)
 // cannot.
 std::unique_ptr<documentStruct> readAny(const QString &path);
 
+// Writes a document. A file that it replaces goes to the earlier versions, as when a window saves,
+// and who has it open is named. Prints why it cannot be written; returns the exit code.
+int writeDocument(const QString &path, const documentStruct &document);
+
 // Reads the program's configuration. Prints that it is none; false when it was refused.
 bool loadConfiguration(configStruct *config);
 

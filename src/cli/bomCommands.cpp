@@ -220,9 +220,9 @@ int runOrder(const QStringList &arguments)
              one->ktm + QLatin1Char(' ') + one->name);
     const int skipped = plan.skipped;
     const int changed = apply(std::move(plan), &order);
-    QString reason;
-    if (saveXmlNoEvents(target, &order, &reason) < 0)
-        return cannotWrite(target, reason);
+    const int written = writeDocument(target, order);
+    if (written != done)
+        return written;
     err() << QCoreApplication::translate("cli", "%n line(s) added or raised", nullptr, changed)
           << QLatin1String(", ")
           << QCoreApplication::translate("cli", "%n material(s) skipped", nullptr, skipped) << '\n'

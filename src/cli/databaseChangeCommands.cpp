@@ -25,10 +25,7 @@ QString fieldName(QString materialStruct::*field)
 // Saves the database when an output file was asked for.
 int saveTo(const QString &target, const kiv_mat_databaseStruct &database)
 {
-    QString reason;
-    return target.isEmpty() || saveXmlNoEvents(target, &database, &reason) == 0
-               ? int(done)
-               : cannotWrite(target, reason);
+    return target.isEmpty() ? int(done) : writeDocument(target, database);
 }
 
 // KTM, field, value before and after, separated by tabs.

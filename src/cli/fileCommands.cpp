@@ -161,9 +161,7 @@ int runResave(const QStringList &arguments)
               << Qt::flush;
         return refused;
     }
-    QString reason;
-    return saveXmlNoEvents(target, document.get(), &reason) == 0 ? int(done)
-                                                                 : cannotWrite(target, reason);
+    return writeDocument(target, *document);
 }
 
 int runRepair(const QStringList &arguments)
@@ -182,9 +180,9 @@ int runRepair(const QStringList &arguments)
         err() << source << ": " << repaired.fault << '\n' << Qt::flush;
         return refused;
     }
-    QString reason;
-    if (saveXmlNoEvents(target, repaired.document.get(), &reason) != 0)
-        return cannotWrite(target, reason);
+    const int written = writeDocument(target, *repaired.document);
+    if (written != done)
+        return written;
     out() << "kind: " << repaired.document->kind().root << '\n';
     for (const fact &f : factsOf(*repaired.document))
         out() << f.name << ": " << f.text << '\n';
@@ -203,7 +201,9 @@ std::unique_ptr<documentStruct> readAny(const QString &path)
     }
     auto document = newDocument(*head.kind);
     QString error;
-    if (loadDocument(path, document.get(), &error) == 0)
+    if (!head.otherForm.isEmpty())
+        error = head.otherForm;
+    else if (loadDocument(path, document.get(), &error) == 0)
         return document;
     const QString schema = paths::schema(head.schema);
     if (error.isEmpty() && !schemaLoads(schema))

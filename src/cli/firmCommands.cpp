@@ -57,10 +57,7 @@ int runFirmUses(const QStringList &arguments)
     if (!options.isSet(output))
         return done;
     applyNames(changesOf(*database, {step}));
-    const QString target = options.value(output);
-    QString reason;
-    return saveXmlNoEvents(target, database.get(), &reason) < 0 ? cannotWrite(target, reason)
-                                                                : done;
+    return writeDocument(options.value(output), *database);
 }
 
 } // namespace

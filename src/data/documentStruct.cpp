@@ -19,7 +19,7 @@ fileHead headOf(const QString &filePath)
     progressFile file(filePath, {});
     // A pipe or a device would be waited for.
     if (!QFileInfo(filePath).isFile() || !file.open(QIODevice::ReadOnly)) {
-        head.fault = QCoreApplication::translate("data", "the file cannot be read");
+        head.fault = openingFault(file);
         return head;
     }
     head.fault = beginningFault(file);
@@ -39,6 +39,13 @@ fileHead headOf(const QString &filePath)
     }
     const QString named = attributeValue(&reader, QStringLiteral("noNamespaceSchemaLocation"));
     head.schema = head.kind == &config && !named.isEmpty() ? named : head.kind->schema;
+    const QString type = attributeValue(&reader, QStringLiteral("type"));
+    if (!reader.namespaceUri().isEmpty())
+        head.otherForm = QCoreApplication::translate("data", "%1 is no file of this program")
+                             .arg(head.kind->root);
+    else if (!type.isEmpty() && type.section(QLatin1Char(':'), -1) != head.kind->xsiType)
+        head.otherForm = QCoreApplication::translate("data", "%1 is no version of %2")
+                             .arg(type, head.kind->root);
     return head;
 }
 
@@ -56,6 +63,20 @@ QString readerFault(const QXmlStreamReader &reader, const progressFile &file, co
                  file.tooManyAttributes() ? tooManyAttributes() : reader.errorString(),
                  {}};
     return fault.placed();
+}
+
+QString openingFault(const QFile &file)
+{
+    const QFileInfo info(file);
+    if (!info.exists())
+        return QCoreApplication::translate("data", "there is no such file");
+    if (info.isDir())
+        return QCoreApplication::translate("data", "is a folder");
+    if (!info.isFile())
+        return QCoreApplication::translate("data", "is no file");
+    const QString fault = QCoreApplication::translate("data", "the file cannot be read");
+    return file.error() == QFileDevice::NoError ? fault
+                                                : fault + QLatin1String(": ") + file.errorString();
 }
 
 QString beginningFault(QIODevice &file)

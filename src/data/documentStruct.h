@@ -4,6 +4,7 @@
 
 #include "data/xmlData.h"
 
+class QFile;
 class QIODevice;
 class progressFile;
 
@@ -47,9 +48,14 @@ struct fileHead
     const fileKind *kind = nullptr; // as ofFile()
     QString schema;                 // of that kind; a configuration names its own
     QString fault;                  // why there is no kind
+    // Why it is of that kind by name only: of a foreign namespace, or an unknown version.
+    QString otherForm;
 };
 fileHead headOf(const QString &filePath);
 } // namespace fileKinds
+
+// Why a file cannot be opened at all.
+QString openingFault(const QFile &file);
 
 // Why a file cannot be read that is empty, or whose encoding is not the one it declares or none
 // that is known; empty when its beginning says nothing of the kind. Reads nothing.

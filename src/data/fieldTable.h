@@ -42,7 +42,8 @@ bool readField(QXmlStreamReader *reader, Record &record, const fieldTable<Record
         findFrom(place, fields.size(), [&](size_t i) { return reader->name() == fields[i].name; });
     if (found == fields.size())
         return false;
-    record.*fields[found].member = readText(reader);
+    static const Record fresh;
+    readTextInto(reader, record.*fields[found].member, fresh.*fields[found].member);
     return true;
 }
 

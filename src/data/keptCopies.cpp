@@ -2,6 +2,7 @@
 
 #include "data/documentDiff.h"
 #include "data/documentStruct.h"
+#include "data/leftChanges.h"
 #include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
@@ -89,12 +90,31 @@ std::vector<keptCopy> keptCopies(programData &data)
     known += filesOf(data.boms(), data.boms().filePath);
     known.append(paths::data(data.config().options.value(optionKey::fileFirm)));
     known.removeAll({});
-    return keptCopies(data.config().backupFolders(), recoveryFolders(), known);
+    std::vector<keptCopy> copies =
+        keptCopies(data.config().backupFolders(), recoveryFolders(), known);
+    for (const leftChanges &one : leftChanges::all()) {
+        const QFileInfo journal(one.journal());
+        const auto place = std::find_if(copies.begin(), copies.end(),
+                                        [&](const keptCopy &copy) { return copy.time < one.time; });
+        copies.insert(place, {journal.filePath(), one.path, QFileInfo(one.path).fileName(),
+                              one.time, journal.size(), true, true});
+    }
+    return copies;
 }
 
 std::unique_ptr<documentStruct> readKept(const QString &file, QString *reason,
                                          const progressFunction &progress)
 {
+    if (leftChanges::isJournal(file)) {
+        leftChanges journal = leftChanges::ofFile(file);
+        auto changed = readKept(journal.path, reason, progress);
+        if (changed) {
+            journal.settled = fileState::of(journal.path);
+            recordChanges changes(changed->kind());
+            journal.repeatIn(*changed, changes);
+        }
+        return changed;
+    }
     const openedCopy opened(file);
     const fileKinds::fileHead head = fileKinds::headOf(opened.path());
     if (!head.kind) {
@@ -111,6 +131,8 @@ std::unique_ptr<documentStruct> readKept(const QString &file, QString *reason,
 
 int linesOfKept(const QString &file, const std::function<bool()> &keepGoing)
 {
+    if (leftChanges::isJournal(file))
+        return leftChanges::ofFile(file).records;
     const openedCopy opened(file);
     const fileKinds::fileHead head = fileKinds::headOf(opened.path());
     QFile content(opened.path());

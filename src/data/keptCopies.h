@@ -1,5 +1,5 @@
 // What is kept of files beside the files themselves: their earlier versions, and the copies of
-// orders that were not saved.
+// orders and the changes of other files that were not saved.
 #pragma once
 
 #include "util/progress.h"
@@ -21,6 +21,7 @@ struct keptCopy
     QDateTime time;
     qint64 size = 0; // in bytes, as it lies there
     bool isUnsaved = false;
+    bool isJournal = false; // of changes: the copy is the file with these made
 };
 
 // All copies in the folders, the newest first. known: files that there are, by which the versions
@@ -30,11 +31,12 @@ std::vector<keptCopy> keptCopies(const QStringList &versionFolders,
 // Those of a program's own folders.
 std::vector<keptCopy> keptCopies(programData &data);
 
-// The document of a copy or of any other file, valid or not. Null, with the reason, when it cannot
+// The document of a copy or of any other file, valid or not; of a journal the file as it is now
+// with all the changes, also where others changed the same. Null, with the reason, when it cannot
 // be read or progress cancels.
 std::unique_ptr<documentStruct> readKept(const QString &file, QString *reason,
                                          const progressFunction &progress = {});
 
-// Number of lines of a copy, as lineCount() has it; -1 when it cannot be read or keepGoing says no.
-// Reads the whole file, in any thread.
+// Number of lines of a copy, as lineCount() has it, or of records that a journal changes; -1 when
+// it cannot be read or keepGoing says no. Reads the whole file, in any thread.
 int linesOfKept(const QString &file, const std::function<bool()> &keepGoing);

@@ -47,14 +47,10 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
     record->filePath = filePath;
     // Not in text mode: that would drop bytes of UTF-16 files, and XML settles line ends itself.
     progressFile file(filePath, progress);
-    if (QFileInfo::exists(filePath) && !QFileInfo(filePath).isFile()) {
+    if ((QFileInfo::exists(filePath) && !QFileInfo(filePath).isFile())
+        || !file.open(QIODevice::ReadOnly)) {
         if (error)
-            *error = QCoreApplication::translate("data", "is no file");
-        return -1;
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
+            *error = openingFault(file);
         return -1;
     }
     const QString fault = beginningFault(file);

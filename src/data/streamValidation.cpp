@@ -46,7 +46,7 @@ struct runState
 
     faultTrail trail;
     int faultsBefore = 0;  // the element that began last
-    QByteArray withoutEnd; // a field in which elements were found: its end may be missing
+    QByteArray withoutEnd; // what holds an element that belongs behind it: its end may be missing
     QByteArray text;
     bool textHasCdata = false;
     bool tellingText = false; // messages are about the text, which ended earlier
@@ -102,7 +102,9 @@ void collectError(void *context, xmlError *error)
         error->level == XML_ERR_FATAL || error->domain == XML_FROM_IO
         || (error->domain == XML_FROM_NAMESPACE && error->code >= XML_NS_ERR_XML_NAMESPACE);
     const QString sentence = faultSentence(*error, state->trail);
-    if (error->code == XML_SCHEMAV_CVC_TYPE_3_1_2)
+    if (error->code == XML_SCHEMAV_CVC_TYPE_3_1_2
+        || (error->code == XML_SCHEMAV_ELEMENT_CONTENT
+            && state->trail.element() == state->trail.parent()))
         state->withoutEnd = QByteArray(state->trail.parent().data());
     // A tag that is cut off was taken for a whole one.
     if (error->code == XML_ERR_GT_REQUIRED)
@@ -200,7 +202,7 @@ void refuseTheUnreadable(runState &state)
         state.addFormFault(input ? input->line : 0, input ? input->col : 0, tooManyAttributes());
         state.parser->wellFormed = 0;
     }
-    if (!state.parser->wellFormed || state.stopped || !input)
+    if (!state.parser->wellFormed || state.stopped || state.refused || !input)
         return;
     const QLatin1String version(reinterpret_cast<const char *>(state.parser->version));
     if (input->cur < input->end || !state.file.atEnd())
@@ -272,7 +274,7 @@ void parse(runState &state, xmlSchema *schema)
 void readFile(runState &state, xmlSchema *schema)
 {
     if (!QFileInfo(state.file).isFile() || !state.file.open(QIODevice::ReadOnly)) {
-        state.addFormFault(0, 0, QCoreApplication::translate("data", "the file cannot be read"));
+        state.addFormFault(0, 0, openingFault(state.file));
         return;
     }
     const QString fault = beginningFault(state.file);

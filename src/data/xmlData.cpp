@@ -53,13 +53,12 @@ namespace {
 
 leftOutContent *watched = nullptr;
 
-void noteLeftOut(const QXmlStreamReader *reader, const QString &what)
+void noteLeftOut(qint64 line, const QString &what)
 {
     constexpr int most = 5;
     if (!watched || ++watched->count > most)
         return;
-    watched->first.append(
-        QCoreApplication::translate("data", "%1 (line %2)").arg(what).arg(reader->lineNumber()));
+    watched->first.append(QCoreApplication::translate("data", "%1 (line %2)").arg(what).arg(line));
 }
 
 } // namespace
@@ -84,7 +83,8 @@ void noteOtherAttributes(QXmlStreamReader *reader, const std::vector<QString> &n
         if (attribute.namespaceUri() != QLatin1String("http://www.w3.org/2001/XMLSchema-instance")
             && std::none_of(names.begin(), names.end(),
                             [&](const QString &name) { return attribute.name() == name; }))
-            noteLeftOut(reader, attribute.qualifiedName().toString() + QLatin1Char('='));
+            noteLeftOut(reader->lineNumber(),
+                        attribute.qualifiedName().toString() + QLatin1Char('='));
 }
 
 int xmlData::readXml(QXmlStreamReader *) { return 0; }
@@ -112,11 +112,11 @@ int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const
             if (reader->isStartElement()) {
                 watch.unknownElement(reader);
                 if (unknownAround++ == 0)
-                    noteLeftOut(reader, reader->qualifiedName().toString());
+                    noteLeftOut(reader->lineNumber(), reader->qualifiedName().toString());
             } else if (reader->isEndElement()) {
                 unknownAround = std::max(0, unknownAround - 1);
             } else if (unknownAround == 0 && reader->isCharacters() && !reader->isWhitespace()) {
-                noteLeftOut(reader, QCoreApplication::translate("data", "text"));
+                noteLeftOut(reader->lineNumber(), QCoreApplication::translate("data", "text"));
             }
             reader->readNext();
         }
@@ -181,6 +181,19 @@ QString readText(QXmlStreamReader *reader)
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
     return text;
+}
+
+void readTextInto(QXmlStreamReader *reader, QString &field, const QString &fresh)
+{
+    if (field.isEmpty() || field == fresh) {
+        field = readText(reader);
+        return;
+    }
+    const QString name = reader->name().toString();
+    const qint64 line = reader->lineNumber();
+    const QString before = std::exchange(field, readText(reader));
+    if (field != before)
+        noteLeftOut(line, QCoreApplication::translate("data", "%1 a second time").arg(name));
 }
 
 QString sharedText(const QStringRef &text)

@@ -99,6 +99,10 @@ void noteOtherAttributes(QXmlStreamReader *reader, const std::vector<QString> &n
 // The text of the element the reader stands on, with line ends as LF, shared as below.
 QString readText(QXmlStreamReader *reader);
 
+// The same into a field. Of several such elements the last one counts; what another one of them
+// gave the field, which has a text of its own to begin with, is noted as left out.
+void readTextInto(QXmlStreamReader *reader, QString &field, const QString &fresh = {});
+
 // The text, as a copy that is shared with earlier equal texts while a textSharing lives.
 QString sharedText(const QStringRef &text);
 

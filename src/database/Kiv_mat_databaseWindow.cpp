@@ -653,6 +653,13 @@ materialWindow &Kiv_mat_databaseWindow::editor()
     return *m_editor;
 }
 
+void Kiv_mat_databaseWindow::leaveUnsaved()
+{
+    if (m_editor)
+        m_editor->giveUnfinished();
+    editWindow::leaveUnsaved();
+}
+
 void Kiv_mat_databaseWindow::commandAddMaterial(bool)
 {
     if (QStandardItem *group = currentGroup())

@@ -112,6 +112,7 @@ protected:
     std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;
     bool write(const QString &path) override;
+    void leaveUnsaved() override;
     bool discard() override { return load(); }
     void closed() override;
     fileState &onDisk() override;

@@ -106,6 +106,11 @@ materialWindow::materialWindow(programData &files, QWidget *parent)
         addView(tr("Fields, manufacturers, suppliers and files of the material"), "material", this);
     m_view->setSortingEnabled(false);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    model()->setCheck([this](const myItem::myItemStandard &item, const QVariant &value) {
+        return &item == m_rows.valueOf(QStringLiteral("d_ktm")) && isTaken(value.toString())
+                   ? tr("Another material has this KTM")
+                   : QString();
+    });
     setCentralWidget(m_view);
     m_menu->setObjectName(QStringLiteral("contextMenu"));
     for (const char *name : menuActions)
@@ -226,6 +231,23 @@ void materialWindow::updateActions()
 
 void materialWindow::commandSet(bool) { save(); }
 
+bool materialWindow::isTaken(const QString &ktm) const
+{
+    return ktm != m_openedKtm && known().materials().find(ktm);
+}
+
+void materialWindow::giveUnfinished()
+{
+    if (!isVisible() || isLocked() || !finishEditing() || !isModified())
+        return;
+    auto material = m_edited->copy();
+    materialChecks::tidy(material.get());
+    if (materialChecks::firstFault(*material) || isTaken(material->d_ktm))
+        return;
+    m_checked = std::move(material);
+    saved();
+}
+
 bool materialWindow::write(const QString &)
 {
     auto material = m_edited->copy();
@@ -236,7 +258,7 @@ bool materialWindow::write(const QString &)
         goTo(field ? field : m_rows.section(materialTree::manufacturer));
         return false;
     }
-    if (material->d_ktm != m_openedKtm && known().materials().find(material->d_ktm)) {
+    if (isTaken(material->d_ktm)) {
         userPrompts().showError(tr("Another material has this KTM").toHtmlEscaped());
         goTo(m_rows.valueOf(QStringLiteral("d_ktm")));
         return false;

@@ -24,6 +24,9 @@ public:
     bool openExisting(QStandardItem *group, int row, const materialStruct &material);
     bool openExisting(QStandardItem *item, const materialStruct &material);
 
+    // The program ends: what passes the checks is given to the database as if it had been set.
+    void giveUnfinished();
+
     const materialStruct &edited() const { return *m_edited; }
     const materialTree &rows() const { return m_rows; }
     myModel *model() const { return modelOf(m_view); }
@@ -73,6 +76,8 @@ private:
     };
 
     bool open(const origin &from, std::unique_ptr<materialStruct> material);
+    // Whether another material of the databases has the KTM.
+    bool isTaken(const QString &ktm) const;
     void goTo(const QStandardItem *item);
     QStandardItem *currentRow() const;
     QStandardItem *currentFirm() const;

@@ -187,7 +187,9 @@ void versionsWindow::list()
         const QList<QStandardItem *> row =
             rowOf({copy.time.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss")),
                    copy.name,
-                   copy.isUnsaved ? tr("unsaved order") : tr("version"),
+                   copy.isJournal   ? tr("unsaved changes")
+                   : copy.isUnsaved ? tr("unsaved order")
+                                    : tr("version"),
                    {},
                    kilobytes(copy.size),
                    folder});
@@ -348,5 +350,11 @@ void versionsWindow::commandRestore(bool)
 }
 
 void versionsWindow::commandAgain(bool) { list(); }
+
+void versionsWindow::listAgain()
+{
+    if (isVisible())
+        list();
+}
 
 void versionsWindow::commandNextVersion(bool) { compare(); }

@@ -24,6 +24,9 @@ public:
     // Lists what there is now, of one file only when a path is given, and comes to the front.
     void showNow(const QString &path);
 
+    // Lists what there is now, if it is shown.
+    void listAgain();
+
     // Opens a copy, puts the content of one in the place of the file's; both tell the user.
     std::function<void(const keptCopy &copy)> openCopy;
     std::function<void(const keptCopy &copy)> restoreCopy;

@@ -180,7 +180,7 @@ private:
     bool leaveOrder();
     void forgetOrder();
     bool recoverOrder(const orderRecovery::copy &copy);
-    bool recoverOther(const recoveryJournal::left &copy);
+    bool recoverOther(const leftChanges &copy);
     void openFile(const QString &path);
     void openRepaired(const QString &path, QString *fault = nullptr);
     void offerLeft(bool atStart);

@@ -34,23 +34,30 @@ void MainWindow::offerLeft(bool atStart)
 {
     const std::vector<orderRecovery::copy> orders = m_recovery->left();
     // Later on their windows may be open.
-    const std::vector<recoveryJournal::left> others =
-        atStart ? recoveryJournal::allLeft() : std::vector<recoveryJournal::left>();
+    const std::vector<leftChanges> others =
+        atStart ? leftChanges::all() : std::vector<leftChanges>();
     if (orders.empty() && others.empty())
         return;
+    const auto withChange = [](const QString &content, const QString &path, const fileState &was) {
+        return path.isEmpty() || fileState::of(path) == was
+                   ? content
+                   : content + QLatin1String("; ") + tr("the file has changed since");
+    };
     std::vector<leftWork> all;
     std::vector<std::function<bool()>> open;
     for (const orderRecovery::copy &copy : orders) {
         all.push_back(
             {copy.order.isEmpty() ? tr("a new order") : QDir::toNativeSeparators(copy.order),
-             copy.time, tr("order, %n line(s)", nullptr, copy.lines), true,
-             [this, copy] { m_recovery->remove(copy); }});
+             copy.time,
+             withChange(tr("order, %n line(s)", nullptr, copy.lines), copy.order, copy.onDisk),
+             true, [this, copy] { m_recovery->remove(copy); }});
         open.emplace_back([this, copy] { return recoverOrder(copy); });
     }
-    for (const recoveryJournal::left &copy : others) {
+    for (const leftChanges &copy : others) {
         all.push_back({QDir::toNativeSeparators(copy.path), copy.time,
-                       tr("%n changed record(s)", nullptr, copy.records), false,
-                       [copy] { recoveryJournal::remove(copy); }});
+                       withChange(tr("%n changed record(s)", nullptr, copy.records), copy.path,
+                                  copy.settled.size >= 0 ? copy.settled : copy.onDisk),
+                       false, [copy] { copy.remove(); }});
         open.emplace_back([this, copy] { return recoverOther(copy); });
     }
     recoveryDialog dialog(all, this);
@@ -97,7 +104,7 @@ bool MainWindow::recoverOrder(const orderRecovery::copy &copy)
     return true;
 }
 
-bool MainWindow::recoverOther(const recoveryJournal::left &copy)
+bool MainWindow::recoverOther(const leftChanges &copy)
 {
     editWindow *window = nullptr;
     if (copy.kind == fileKinds::firm.root) {

@@ -3,6 +3,8 @@
 
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "data/leftChanges.h"
+#include "data/loaders.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
@@ -33,6 +35,14 @@ void showFault(const keptCopy &copy, const QString &fault)
         MainWindow::tr("%1 cannot be read: %2").arg(called(copy), fault).toHtmlEscaped());
 }
 
+void showReadOnly(const QString &file)
+{
+    if (!QFile::setPermissions(file, QFile::ReadOwner) || !desktop::openFile(file))
+        userPrompts().showError(MainWindow::tr("%1 cannot be opened")
+                                    .arg(QDir::toNativeSeparators(file))
+                                    .toHtmlEscaped());
+}
+
 bool sameFile(const QString &a, const QString &b)
 {
     return !a.isEmpty() && QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath();
@@ -54,6 +64,17 @@ void MainWindow::showVersions(const QString &path)
 // An order becomes a new one, which has no file; other copies are shown as they are.
 void MainWindow::openCopy(const keptCopy &copy)
 {
+    if (copy.isJournal) {
+        QString fault;
+        const auto changed = readKept(copy.file, &fault);
+        const QString written = scratch::folder() + QLatin1Char('/') + copy.name;
+        QFile::remove(written);
+        if (!changed || saveXmlNoEvents(written, changed.get(), &fault, {}, saveRule::whatever) < 0)
+            showFault(copy, fault);
+        else
+            showReadOnly(written);
+        return;
+    }
     const QString file = fileVersions::unpacked(copy.file);
     const fileKinds::fileHead head = fileKinds::headOf(file);
     if (head.kind == &fileKinds::order) {
@@ -78,10 +99,8 @@ void MainWindow::openCopy(const keptCopy &copy)
     const QString shown =
         scratch::folder() + QLatin1Char('/') + QFileInfo(copy.file).completeBaseName();
     QFile::remove(shown);
-    if (!QFile::copy(file, shown) || !QFile::setPermissions(shown, QFile::ReadOwner)
-        || !desktop::openFile(shown))
-        userPrompts().showError(
-            tr("%1 cannot be opened").arg(QDir::toNativeSeparators(shown)).toHtmlEscaped());
+    QFile::copy(file, shown);
+    showReadOnly(shown);
     if (file != copy.file)
         QFile::remove(file);
 }
@@ -126,10 +145,16 @@ void MainWindow::restoreCopy(const keptCopy &copy)
             return;
     }
     editWindow *window = windowOf(copy.path, version->kind());
-    if (window)
-        window->restoreVersion(*version, called(copy));
-    else
+    if (window) {
+        // The window's own journal has these changes from here on.
+        if (window->restoreVersion(*version, called(copy)) && copy.isJournal)
+            for (const leftChanges &one : leftChanges::all())
+                if (one.journal() == copy.file)
+                    one.remove();
+        m_versions->listAgain();
+    } else {
         userPrompts().showError(tr("%1 is not edited in any window; open the copy instead.")
                                     .arg(QDir::toNativeSeparators(copy.path))
                                     .toHtmlEscaped());
+    }
 }

@@ -554,7 +554,7 @@ void editWindow::remake(documentStruct &document)
         m_remade = m_journal->takeUp(*m_recovering, document);
 }
 
-bool editWindow::recover(const recoveryJournal::left &copy)
+bool editWindow::recover(const leftChanges &copy)
 {
     m_remade.reset();
     m_recovering = &copy;

@@ -129,7 +129,7 @@ public:
     bool isOf(const QString &path) const;
     // Shows the document as its file has it, with the changes that an earlier run left unsaved.
     // False when they cannot be made; then they stay where they are.
-    bool recover(const recoveryJournal::left &copy);
+    bool recover(const leftChanges &copy);
     // Writes unsaved work aside; called some seconds after a change. False, told in the
     // status bar, when no folder takes it.
     virtual bool storeRecovery();
@@ -345,7 +345,7 @@ private:
     QString m_wanted; // what is searched
     QString m_writeFault;
     std::unique_ptr<recoveryJournal> m_journal;
-    const recoveryJournal::left *m_recovering = nullptr;
+    const leftChanges *m_recovering = nullptr;
     std::optional<recordChanges::outcome> m_remade;
     bool m_locked = false;
     bool m_givenUp = false;

@@ -2,70 +2,11 @@
 
 #include "data/documentStruct.h"
 #include "util/diskSync.h"
-#include "util/files.h"
 #include "util/messages.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTimer>
-
-namespace {
-
-const QString endOfName = QStringLiteral("journal");
-const QLatin1String kindKey("kind");
-const QLatin1String pathKey("file");
-const QLatin1String sizeKey("size");
-const QLatin1String timeKey("time");
-const QLatin1String settledKey("settled");
-
-QJsonObject withState(QJsonObject line, const fileState &state)
-{
-    line.insert(sizeKey, double(state.size));
-    line.insert(timeKey, double(state.time.isValid() ? state.time.toMSecsSinceEpoch() : 0));
-    return line;
-}
-
-fileState stateIn(const QJsonObject &line)
-{
-    fileState state;
-    state.size = qint64(line.value(sizeKey).toDouble(-1));
-    if (state.size >= 0)
-        state.time = QDateTime::fromMSecsSinceEpoch(qint64(line.value(timeKey).toDouble()));
-    return state;
-}
-
-QByteArray written(const QJsonObject &line)
-{
-    return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
-}
-
-QByteArray headOf(const QString &kind, const QString &path, const fileState &onDisk)
-{
-    return written(withState({{kindKey, kind}, {pathKey, path}}, onDisk));
-}
-
-// The last one of the lines that settle.
-fileState settledIn(const QByteArray &lines)
-{
-    fileState settled;
-    for (const QByteArray &line : lines.split('\n')) {
-        if (!line.contains(settledKey.data()))
-            continue;
-        const QJsonObject object = QJsonDocument::fromJson(line).object();
-        if (object.contains(settledKey))
-            settled = stateIn(object.value(settledKey).toObject());
-    }
-    return settled;
-}
-
-recoverySlot slotIn(const QString &folder)
-{
-    return {folder, QStringLiteral("changes"), endOfName};
-}
-
-} // namespace
 
 // Tells the levels of records that a model shows.
 class recoveryJournal::levelWatch final : public recordWatch
@@ -107,7 +48,7 @@ recoveryJournal::recoveryJournal(const fileKind &kind, source of, QObject *paren
     , m_soon(new QTimer(this))
 {
     for (const QString &folder : recoveryFolders())
-        m_places.push_back(slotIn(folder));
+        m_places.push_back(leftChanges::slotIn(folder));
     m_soon->setSingleShot(true);
     m_soon->setInterval(0);
     connect(m_soon, &QTimer::timeout, this, [this] {
@@ -163,7 +104,8 @@ void recoveryJournal::discard()
 
 QByteArray recoveryJournal::head() const
 {
-    return headOf(m_kind.root, QFileInfo(m_source.path()).absoluteFilePath(), m_source.onDisk());
+    return leftChanges::head(m_kind.root, QFileInfo(m_source.path()).absoluteFilePath(),
+                             m_source.onDisk());
 }
 
 // A line that is cut short would spoil the next one.
@@ -225,7 +167,7 @@ QStringList recoveryJournal::faults() const
     QStringList lines;
     for (const recoverySlot &place : m_places)
         lines.append(messages::because(QDir::toNativeSeparators(place.folder()),
-                                       place.folder() + QLatin1String("/x.") + endOfName));
+                                       place.folder() + QLatin1String("/x")));
     return lines;
 }
 
@@ -247,51 +189,17 @@ void recoveryJournal::settle()
     write();
     if (m_lines.isEmpty())
         return; // its head will name that file
-    const QByteArray line = written({{settledKey, withState({}, m_source.onDisk())}});
+    const QByteArray line = leftChanges::settledLine(m_source.onDisk());
     m_lines += line;
     if (m_file.isOpen())
         append(line);
 }
 
-std::vector<recoveryJournal::left> recoveryJournal::allLeft()
-{
-    std::vector<left> all;
-    const QStringList folders = recoveryFolders();
-    for (int at = 0; at < folders.size(); ++at) {
-        const recoverySlot place = slotIn(folders[at]);
-        for (int number : place.left()) {
-            QFile file(place.file(number, endOfName));
-            if (!file.open(QIODevice::ReadOnly))
-                continue;
-            const QJsonObject head = QJsonDocument::fromJson(file.readLine()).object();
-            left one;
-            one.place = size_t(at);
-            one.number = number;
-            one.kind = head.value(kindKey).toString();
-            one.path = head.value(pathKey).toString();
-            one.onDisk = stateIn(head);
-            one.time = QFileInfo(file).lastModified();
-            one.lines = file.readAll();
-            one.records = recordChanges::countIn(one.lines);
-            one.settled = settledIn(one.lines);
-            all.push_back(std::move(one));
-        }
-    }
-    return all;
-}
-
-void recoveryJournal::remove(const left &one)
-{
-    recoverySlot place = slotIn(recoveryFolders().value(int(one.place)));
-    if (place.claim(one.number))
-        QFile::remove(place.file());
-}
-
-std::optional<recordChanges::outcome> recoveryJournal::takeUp(const left &one,
+std::optional<recordChanges::outcome> recoveryJournal::takeUp(const leftChanges &one,
                                                               documentStruct &document)
 {
     discard();
-    recoverySlot &place = m_places[one.place];
+    recoverySlot &place = m_places[size_t(one.place)];
     if (!place.claim(one.number))
         return {};
     m_file.setFileName(place.file());
@@ -302,22 +210,9 @@ std::optional<recordChanges::outcome> recoveryJournal::takeUp(const left &one,
         m_lines += '\n';
         append("\n");
     }
-    const fileState now = fileState::of(one.path);
-    const auto outcome = m_changes.repeat(one.lines, document,
-                                          now == one.onDisk    ? recordChanges::asItWas
-                                          : now == one.settled ? recordChanges::settled
-                                                               : recordChanges::changedByOthers);
+    const auto outcome = one.repeatIn(document, m_changes);
     // They are not in the document, with which this journal goes.
     if (outcome.made > 0 && !outcome.refused.isEmpty())
-        setAside(one);
+        one.setAside();
     return outcome;
-}
-
-// Once more, to be offered at the next start, until the user deletes it.
-void recoveryJournal::setAside(const left &one) const
-{
-    recoverySlot place = slotIn(recoveryFolders().value(int(one.place)));
-    if (place.claimFree())
-        files::writeText(place.file(),
-                         QString::fromUtf8(headOf(one.kind, one.path, one.onDisk) + one.lines));
 }

@@ -2,8 +2,7 @@
 // written aside with every edit, from which the next start makes the changes again.
 #pragma once
 
-#include "data/documentSaving.h"
-#include "data/recordChanges.h"
+#include "data/leftChanges.h"
 #include "tree/myModel.h"
 #include "util/recoverySlots.h"
 
@@ -49,25 +48,9 @@ public:
     // noted before and after is to be made in that file.
     void settle();
 
-    struct left
-    {
-        size_t place = 0;
-        int number = 0;
-        QString kind; // root element of the document
-        QString path; // of the document
-        fileState onDisk;
-        fileState settled; // the file that the user knew last of all
-        QDateTime time;
-        int records = 0;
-        QByteArray lines;
-    };
-    // What other programs left.
-    static std::vector<left> allLeft();
-    static void remove(const left &one);
-
     // Makes those changes in a document that was read just now, and goes on with that journal.
     // Nothing when another program has it by now.
-    std::optional<recordChanges::outcome> takeUp(const left &one, documentStruct &document);
+    std::optional<recordChanges::outcome> takeUp(const leftChanges &one, documentStruct &document);
 
 signals:
     // No folder takes it.
@@ -80,7 +63,6 @@ private:
     bool append(const QByteArray &lines);
     bool begin(recoverySlot &place);
     QByteArray head() const;
-    void setAside(const left &one) const;
 
     const fileKind &m_kind;
     source m_source;

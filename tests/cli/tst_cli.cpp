@@ -26,6 +26,8 @@ private slots:
                         QByteArray(good).replace("/>", "><attentions>\xb9</attentions></kiv_mat_zp>"));
         m_folder->write("wrong/dtd.xml", head + "<!DOCTYPE kiv_mat_zp>" + root);
         m_folder->write("wrong/prefix.xml", head + root);
+        m_folder->write("wrong/version.xml", QByteArray(order("")).replace("KIV_MAT_ZP_1", "KIV_MAT_ZP_9"));
+        m_folder->write("wrong/namespace.xml", QByteArray(order("")).replace("<kiv_mat_zp", "<kiv_mat_zp xmlns=\"u\""));
         m_folder->write("wrong/schema.xml", document("kiv_config", "KIV_CONFIG_1", "none.xsd", ""));
         // Of the helpers only one is there, and that cannot be started.
         QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"), QFile::ReadOwner | QFile::ExeOwner);
@@ -42,7 +44,7 @@ private slots:
         row("validate --colour good.xml", 2, "", "colour");
         row("validate good.xml", 0, "good.xml: valid", "");
         row("validate good.xml bad.xml", 1, "good.xml: valid", "bad.xml:3:");
-        row("validate none.xml", 1, "", "none.xml: the file cannot be read");
+        row("validate none.xml", 1, "", "none.xml: there is no such file");
         row("validate cut.xml", 1, "", "cut.xml:2:");
         row("info good.xml", 0, "kind: kiv_mat_zp\nversion: KIV_MAT_ZP_1\noptions: 6\nlines: 1\nsum: 6.00", "");
         row("info bad.xml", 0, "lines: 0", "[colour (line 3)]");
@@ -59,6 +61,8 @@ private slots:
             each("bytes", "a byte that is no UTF-8");
             each("dtd", "document type declarations are not allowed");
             each("prefix", "the prefix xsi is not declared");
+            each("version", "KIV_MAT_ZP_9 is no version of kiv_mat_zp");
+            each("namespace", "kiv_mat_zp is no file of this program");
             each("schema", "none.xsd cannot be loaded");
         }
         row("info cut.xml", 1, "", "cut.xml:");
@@ -135,7 +139,8 @@ private slots:
                   "altium twice.xml -o good.xml/out.sqlite", "check-urls one.xml -o _validator",
                   "db-report one.xml --short -o _validator"},
                  3, "", "cannot be written");
-        row.each({"validate .", "info none.xml"}, 1, "", "cannot be read");
+        row("validate .", 1, "", "is a folder");
+        row("info none.xml", 1, "", "there is no such file");
         row.each({"report twice.xml -o out.html", "bom-order bom.xml=1 --from bom.xml -o out.xml"}, 1, "",
                  "is no order");
         row.each({"db-report one.xml -f good.xml -o out.html", "check-nip one.xml"}, 1, "", "is no firm register");
@@ -234,6 +239,11 @@ private slots:
         QCOMPARE(call("firm-uses sources.xml A --rename B -o f.xml").code, 0);
         QCOMPARE(call("firm-uses f.xml A").code, 1);
         QCOMPARE(call("firm-uses f.xml B").out, call("firm-uses sources.xml A").out);
+        // What is written over stays among the versions.
+        copyFolder(source("_config"), m_folder->path("_config"));
+        QCOMPARE(call("versions m.xml").code, 1);
+        QCOMPARE(call("resave one.xml m.xml").err, QString());
+        QCOMPARE(call("versions m.xml").out.count('\n'), 1);
     }
 
     void polishPathsAndLanguage()

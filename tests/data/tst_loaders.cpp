@@ -98,6 +98,11 @@ private slots:
             database("<d_group><material><manufacturers><supplier><name>a</name></supplier></manufacturers></material>"
                      "</d_group>"),
             "supplier (line 2)");
+        row("field twice", item("<name>a</name>\n<name>b</name>\n<unit/><unit>m</unit>"),
+            "name a second time (line 3)");
+        row("remarks twice", order("<attentions>a</attentions><attentions>b</attentions>"),
+            "attentions a second time (line 2)");
+        row("the same twice", item("<name>a</name><name>a</name><unit>m</unit>"), "");
         row("many", order(QByteArray("<a/>").repeated(7)),
             "a (line 2), a (line 2), a (line 2), a (line 2), a (line 2), and 2 more");
         row("what is dropped on purpose",
