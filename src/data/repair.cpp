@@ -642,6 +642,8 @@ repairedFile repairFile(const QString &path, const progressFunction &progress)
     auto document = newDocument(*kind);
     if (loadDocument(mended.fileName(), document.get(), &result.fault) != 0)
         return result;
+    // Only what stands twice is left out of the mended text, and the changes tell it.
+    document->leftOut = {};
     document->fileName = QFileInfo(path).fileName();
     document->filePath = path;
     result.document = std::move(document);
