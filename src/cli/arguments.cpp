@@ -119,7 +119,7 @@ int writeDocument(const QString &path, const documentStruct &document)
                   << '\n';
         // Without one the usual folders take it.
         configStruct config;
-        loadDocument(paths::config(), &config);
+        config.load(paths::config());
         keepVersion(path, config);
         if (!versionFault().isEmpty())
             err() << path << ": " << versionFault() << '\n';

@@ -40,8 +40,8 @@ void readRootAttributes(QXmlStreamReader &reader, documentStruct *record)
 
 } // namespace
 
-int loadDocument(const QString &filePath, documentStruct *record, QString *error,
-                 const progressFunction &progress)
+int loadQuietly(const QString &filePath, documentStruct *record, QString *error,
+                const progressFunction &progress)
 {
     record->fileName = QFileInfo(filePath).fileName();
     record->filePath = filePath;
@@ -75,11 +75,19 @@ int loadDocument(const QString &filePath, documentStruct *record, QString *error
         reader.readNext();
     if (reader.hasError() && error)
         *error = readerFault(reader, file, record->kind().schema);
+    return reader.hasError() ? -1 : 0;
+}
+
+int loadDocument(const QString &filePath, documentStruct *record, QString *error,
+                 const progressFunction &progress)
+{
+    record->leftOut = {};
+    const int result = loadQuietly(filePath, record, error, progress);
     if (record->leftOut.count > 0)
         userPrompts().listError(messages::failed(
             QCoreApplication::translate("data", "Unknown content, lost when saved: "), filePath,
             record->leftOut.text()));
-    return reader.hasError() ? -1 : 0;
+    return result;
 }
 
 int loadZp(const QString &filePath, kiv_mat_zpStruct *record)

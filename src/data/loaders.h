@@ -41,6 +41,10 @@ int loadUpdate(const QString &filePath, kiv_UpdateStruct *record);
 int loadDocument(const QString &filePath, documentStruct *record, QString *error = nullptr,
                  const progressFunction &progress = {});
 
+// The same, without a line in the errors window: for what the caller tells of by itself.
+int loadQuietly(const QString &filePath, documentStruct *record, QString *error = nullptr,
+                const progressFunction &progress = {});
+
 // An empty record of that kind.
 std::unique_ptr<documentStruct> newDocument(const fileKind &kind);
 

@@ -606,7 +606,7 @@ repairedFile repairFile(const QString &path, const progressFunction &progress)
     repairedFile result;
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        result.fault = text(QT_TRANSLATE_NOOP("data", "the file cannot be read"));
+        result.fault = openingFault(file);
         return result;
     }
     const decoded xml = decode(file.readAll());
@@ -640,7 +640,7 @@ repairedFile repairFile(const QString &path, const progressFunction &progress)
         return result;
     }
     auto document = newDocument(*kind);
-    if (loadDocument(mended.fileName(), document.get(), &result.fault) != 0)
+    if (loadQuietly(mended.fileName(), document.get(), &result.fault) != 0)
         return result;
     // Only what stands twice is left out of the mended text, and the changes tell it.
     document->leftOut = {};

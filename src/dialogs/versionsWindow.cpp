@@ -124,7 +124,7 @@ versionsWindow::versionsWindow(programData &known, QWidget *parent)
     splitter->setObjectName(QStringLiteral("versionsSplitter"));
     splitter->setChildrenCollapsible(false);
     m_list = newView("versions", tr("Versions and unsaved orders"), m_copyRows,
-                     {160, 220, 130, 80, 100}, splitter);
+                     {160, 220, 155, 80, 100}, splitter);
     m_rows = newView("differences", tr("Differences"), m_differences, {90, 140, 300, 150, 220},
                      splitter);
     splitter->addWidget(m_list);

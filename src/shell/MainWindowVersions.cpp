@@ -146,8 +146,9 @@ void MainWindow::restoreCopy(const keptCopy &copy)
     }
     editWindow *window = windowOf(copy.path, version->kind());
     if (window) {
-        // The window's own journal has these changes from here on.
-        if (window->restoreVersion(*version, called(copy)) && copy.isJournal)
+        // They are given up when the window's own journal has them.
+        if (window->restoreVersion(*version, called(copy)) && copy.isJournal
+            && window->storeRecovery())
             for (const leftChanges &one : leftChanges::all())
                 if (one.journal() == copy.file)
                     one.remove();
