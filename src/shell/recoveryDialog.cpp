@@ -39,6 +39,7 @@ recoveryDialog::recoveryDialog(const std::vector<leftWork> &left, QWidget *paren
             {one.file, one.time.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss")), one.content});
         item->setData(0, placeRole, uint(place));
         item->setToolTip(0, text::toolTip(one.file));
+        item->setToolTip(2, text::toolTip(one.content));
     }
     constexpr int widths[] = {360, 150};
     for (int column = 0; column < int(std::size(widths)); ++column)
@@ -64,7 +65,7 @@ recoveryDialog::recoveryDialog(const std::vector<leftWork> &left, QWidget *paren
     layout->addWidget(heading);
     layout->addWidget(m_list);
     layout->addWidget(buttons);
-    constexpr QSize usualSize(760, 320);
+    constexpr QSize usualSize(900, 320);
     resize(usualSize);
     m_list->setCurrentItem(m_list->topLevelItem(0));
     m_list->setFocus();
