@@ -8,7 +8,9 @@
 #include "data/loaders.h"
 #include "database/altiumExport.h"
 #include "database/databaseChecks.h"
+#include "database/databaseFindings.h"
 #include "database/databaseMerge.h"
+#include "database/materialPage.h"
 #include "database/warehouseListing.h"
 #include "util/localeSetup.h"
 #include "util/paths.h"
@@ -18,6 +20,7 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 #include <benchmark/benchmark.h>
 
@@ -98,6 +101,52 @@ void duplicates(benchmark::State &state, const kiv_mat_databaseStruct &database)
     againstTime(state, 0.2, [&database] {
         benchmark::DoNotOptimize(duplicatePartNumbers(database).size());
         return duplicateKtms(database).empty();
+    });
+}
+
+// Everything that is checked, of a database in which each material lacks something.
+void checkAll(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    againstTime(state, 2.0, [&database] { return !databaseFindings().check(database)->empty(); });
+}
+
+// One material of them changed; the slowest.
+void checkChange(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    databaseFindings checks;
+    const auto found = checks.check(database);
+    size_t at = 0;
+    double worst = 0;
+    for (auto _ : state) {
+        const auto &group = database.groups[at++ % database.groups.size()];
+        QElapsedTimer timer;
+        timer.start();
+        checks.willChange(group->items[at % group->items.size()].get());
+        const bool good = checks.takeChanges(100).records.size() == 1;
+        worst = std::max(worst, since(timer));
+        state.SetIterationTime(since(timer));
+        if (!good)
+            state.SkipWithError("a wrong result");
+    }
+    state.counters["ratio"] = worst / 0.001;
+}
+
+// The pages of 1000 materials, each laid out as the pane beside the tree does, within 10 ms.
+void details(benchmark::State &state, const kiv_mat_databaseStruct &database)
+{
+    constexpr size_t count = 1000;
+    againstTime(state, 10, [&database] {
+        QTextDocument pane;
+        constexpr int width = 340;
+        pane.setTextWidth(width);
+        size_t made = 0;
+        for (const auto &group : database.groups)
+            for (size_t i = 0; i < group->items.size() && made < count; ++i, ++made) {
+                pane.setHtml(materialPage::page(
+                    {group->items[i].get(), group.get(), &database, nullptr}, {}));
+                benchmark::DoNotOptimize(pane.size());
+            }
+        return made == count;
     });
 }
 
@@ -195,9 +244,12 @@ int main(int argc, char **argv)
     add("altium/script", script)->Iterations(3);
     add("duplicates", duplicates)->Iterations(5);
     add("codes", codes)->Iterations(3);
+    add("check", checkAll)->Iterations(3);
+    add("checkChange", checkChange)->Iterations(200);
     add("compare", compareInMerge)->Iterations(3);
     add("diff", compareAll)->Iterations(3);
     add("listing", listing)->Iterations(3);
+    add("details", details)->Iterations(3);
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -3,7 +3,7 @@
 
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/loaders.h"
-#include "data/materialSearch.h"
+#include "data/searchCompletion.h"
 #include "util/localeSetup.h"
 
 #include <QCoreApplication>
@@ -19,6 +19,8 @@ constexpr double allowedKey = 0.030;
 constexpr double allowedIndex = 1.0;
 constexpr double allowedFilter = 0.050;
 constexpr double allowedMemory = 60;
+constexpr double allowedCompletion = 0.005;
+constexpr double allowedCollecting = 0.300;
 
 double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
 
@@ -129,6 +131,38 @@ void change(benchmark::State &state, materialSearch &search, kiv_mat_databaseStr
     state.counters["ratio"] = seconds / double(changes) / allowedKey;
 }
 
+// A text typed letter by letter, each letter a list of completions; the values are collected at the
+// first of them. ratio: the slowest key after the first that collects over the allowed 5 ms;
+// collect: that one over the allowed 300 ms; offered: for the whole text.
+void complete(benchmark::State &state, materialSearch &search, kiv_mat_databaseStruct &database,
+              const QString &text)
+{
+    const int name = text.indexOf(QLatin1Char(':')) + 1;
+    std::vector<std::vector<double>> keys(size_t(text.size()) + 1);
+    size_t offered = 0;
+    for (auto _ : state) {
+        // A change, so that the values are collected anew.
+        search.update(database.groups.front()->items.front().get());
+        double sum = 0;
+        for (int length = 1; length <= text.size(); ++length) {
+            QElapsedTimer timer;
+            timer.start();
+            offered =
+                searchCompletion::at(text.left(length), length, search, &database).items.size();
+            keys[size_t(length)].push_back(since(timer));
+            sum += keys[size_t(length)].back();
+        }
+        state.SetIterationTime(sum);
+    }
+    double slowest = 0;
+    for (int length = 1; length <= text.size(); ++length)
+        if (length != name)
+            slowest = qMax(slowest, median(keys[size_t(length)]));
+    state.counters["ratio"] = slowest / allowedCompletion;
+    state.counters["collect"] = median(keys[size_t(name)]) / allowedCollecting;
+    state.counters["offered"] = double(offered);
+}
+
 // The benchmarks over one database, which they share with its index.
 struct subject
 {
@@ -152,6 +186,11 @@ void addAll(subject &with)
           "price:>10 stock:0 status:zielony", "opis:złącze aktywny:tak", "4k7", "0 1 2 3 4 5"})
         add(QLatin1String("type/") + QString::fromUtf8(text),
             [&with, text](auto &s) { type(s, with.search, QString::fromUtf8(text)); });
+    for (const char *text :
+         {"case:0603", "manufacturer:texas", "name:stm32f103", "part:zzyzx", "value:4k7"})
+        add(QLatin1String("complete/") + QString::fromUtf8(text), [&with, text](auto &s) {
+            complete(s, with.search, with.database, QString::fromUtf8(text));
+        });
     add("filter", [&](auto &s) { filter(s, with.search, with.database); });
     add("change", [&](auto &s) { change(s, with.search, with.database); });
 }

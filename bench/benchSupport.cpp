@@ -6,6 +6,7 @@
 #include <QProcess>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -49,6 +50,15 @@ QString realDatabase(const QString &name)
             qFatal("cannot unpack %s", qPrintable(packed));
     }
     return path;
+}
+
+qint64 residentBytes()
+{
+    malloc_trim(0);
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
 processCost measure(const QStringList &command)

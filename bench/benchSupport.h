@@ -17,6 +17,9 @@ void copyFolder(const QString &from, const QString &to);
 // An unpacked real database: "db_100k" has 100,000 materials; empty when KIVZP_REAL_DATA has none.
 QString realDatabase(const QString &name = QStringLiteral("db_100k"));
 
+// Of this process, as it is now; what it freed is given back before.
+qint64 residentBytes();
+
 struct processCost
 {
     double seconds = 0;

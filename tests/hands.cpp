@@ -15,11 +15,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
+#include <QUrl>
 #include <QWindow>
 
 namespace {
@@ -54,6 +56,9 @@ QWindow *keyWindow()
 
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
+    // A menu that goes leaves a moment in which no window has the keys.
+    if (!QTest::qWaitFor(keyWindow))
+        qFatal("no window takes keys");
     const QPointer<QWindow> window = keyWindow();
     QTest::keyPress(window.data(), Qt::Key(key), modifiers);
     if (window)
@@ -321,30 +326,57 @@ QString hands::choose(const QString &name, bool mayBeDisabled)
     return {};
 }
 
+// What the window system makes of it: the events go to the nearest widget around that takes drops.
+QString hands::dropOn(QWidget *target, const QPoint &place, const QStringList &paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    data.setUrls(urls);
+    QPoint at = place;
+    while (target && !target->acceptDrops()) {
+        at = target->mapToParent(at);
+        target = target->parentWidget();
+    }
+    if (!target)
+        return "nothing takes it";
+    QDragEnterEvent entered(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(target, &entered);
+    if (!entered.isAccepted())
+        return "it is not taken";
+    QDragMoveEvent moved(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(target, &moved);
+    m_boxes.append("dragging: " + status());
+    QDropEvent dropped(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(target, &dropped);
+    return {};
+}
+
 QString hands::clickCell(const QString &step)
 {
-    static const QRegularExpression form("^(\\+?)(\\w+)(@@|@\\?|@\\^|@)(?:([\\d/]+),)?(\\d+)$");
+    static const QRegularExpression form("^(?:<(.*)>)?(\\+?)(\\w+)(@@|@\\?|@\\^|@)(?:([\\d/]+),)?(\\d+)$");
     const auto match = form.match(step);
     if (!match.hasMatch())
         return "no such step";
-    QTreeView *view = front()->findChild<QTreeView *>(match.captured(2));
+    QTreeView *view = front()->findChild<QTreeView *>(match.captured(3));
     if (!view || !view->isVisible())
         return notThere + QString(" tree in front");
-    if (match.captured(3) == "@^") {
+    if (match.captured(4) == "@^") {
         const QHeaderView *header = view->header();
-        const int left = header->sectionViewportPosition(match.captured(5).toInt());
+        const int left = header->sectionViewportPosition(match.captured(6).toInt());
         constexpr int inside = 8;
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {left + inside, header->height() / 2});
         return {};
     }
     QModelIndex index;
-    const QStringList rows = match.captured(4).split('/');
+    const QStringList rows = match.captured(5).split('/');
     for (const QString &row : rows) {
         if (view->model()->canFetchMore(index))
             return "its parent is not open";
         index = view->model()->index(row.toInt(), 0, index);
     }
-    index = index.siblingAtColumn(match.captured(5).toInt());
+    index = index.siblingAtColumn(match.captured(6).toInt());
     if (!index.isValid())
         return "there is no such cell";
     view->scrollTo(index);
@@ -352,9 +384,11 @@ QString hands::clickCell(const QString &step)
     const QRect seen = rect.intersected(view->viewport()->rect());
     if (seen.isEmpty())
         return "the cell is not seen";
-    const auto modifiers = match.captured(1).isEmpty() ? Qt::NoModifier : Qt::ControlModifier;
+    const auto modifiers = match.captured(2).isEmpty() ? Qt::NoModifier : Qt::ControlModifier;
     const QPoint place = seen.center();
-    const QString kind = match.captured(3);
+    if (step.startsWith('<'))
+        return dropOn(view->viewport(), place, match.captured(1).split(','));
+    const QString kind = match.captured(4);
     if (kind == "@?") {
         QTest::mouseClick(view->viewport(), Qt::RightButton, modifiers, place);
         // What the window system adds to a right click.

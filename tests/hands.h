@@ -43,6 +43,8 @@ public:
     //   lines@?3,5              the same with the right button
     //   +lines@3,5              a click with Ctrl
     //   lines@^5                a click on the header of a column
+    //   <a.pdf,b.pdf>lines@3,5  files dragged from another program over a cell, where what is told in the status bar is
+    //                           noted as a box, and let go there
     //   #name                   chooses the action of that object name from its menu, or from the
     //                           context menu that is open
     //   #-name                  the same, where it may be disabled: what its tool tip says is noted
@@ -63,6 +65,7 @@ private:
     QString perform(const QString &step);
     QString choose(const QString &name, bool mayBeDisabled);
     QString clickCell(const QString &step);
+    QString dropOn(QWidget *target, const QPoint &place, const QStringList &paths);
     void noteBox();
 
     QWidget &m_window;

@@ -336,6 +336,11 @@ def bin_of(top):
                  paint(f"M5.2 {num(top)}h13.6V18.8H5.2z"))
 
 
+def two_boxes(ticks):
+    boxes = [area(rect(3, y, 8.4, 8.4, 1.2), WHITE, width=1.5) for y in (2.8, 12.8)]
+    return [layer(*boxes, *([ink(ticks, BLUE, 1.9)] if ticks else []), line("M15 7h6M15 17h6", SLATE, 2))]
+
+
 def truck(body=TINT, cab=BLUE, stroke=SLATE, glass=WHITE):
     return layer(area(rect(1.8, 6, 12.2, 11.5), body, stroke),
                  area("M14 9.5h4.1a1 1 0 0 1 .8.4l3 3.9a1 1 0 0 1 .2.6v2.1a1 1 0 0 1-1 1H14z",
@@ -611,6 +616,11 @@ def action_icons():
         "action_set": [
             layer(area(rect(2.5, 4, 17.5, 17.5, 1.6), WHITE)),
             layer(line("M7 11.6l4.4 4.6L21.2 4.4", BLUE, 3))],
+        "action_mark": [
+            layer(area(rect(4, 4, 16, 16, 1.6), WHITE), ink("M8 12l3 3.2 5.4-6.6", BLUE, 2.6))],
+        "action_mark_all": two_boxes("M5.6 6.6l1.5 1.6 2.8-3.4M5.6 16.6l1.5 1.6 2.8-3.4"),
+        "action_mark_none": two_boxes(""),
+        "action_equal": [layer(line("M4 8.5h16M4 15.5h16", SLATE, BOLD))],
         "action_default": [layer(area(star(12, 12.6, 10.2, 4.5), AMBER, SLATE, 1.7))],
         "action_filter": [
             layer(area("M2.8 4h18.4L14 12.4v6.8l-4 2.2v-9z", TINT),
@@ -674,6 +684,9 @@ def action_icons():
         "action_cpv": [sheet(), band("CPV", SLATE)],
         "action_link": [chain()],
         "action_links": [chain(), badge(ROWS, BLUE, width=1.4)],
+        "action_examine": [chain(), badge(QUERY, BLUE)],
+        "action_fetch": [sheet(text_rows()), badge(DOWN, GREEN)],
+        "action_local_copy": [sheet(text_rows()), badge(OUT, BLUE)],
         "action_groups": [
             layer(line("M12 8.4v7M5.8 16v-3.6h12.4V16", SLATE),
                   area(rect(8, 2.5, 8, 6), BLUE),
@@ -705,6 +718,10 @@ def action_icons():
         "action_list": [
             layer(line("M9.5 5h11.5M9.5 12h11.5M9.5 19h11.5", SLATE, 2),
                   solid(circle(4.4, 5, 2) + circle(4.4, 12, 2) + circle(4.4, 19, 2), BLUE))],
+        "action_checks": [
+            layer(line("M10.5 5h10.5M10.5 12h10.5M10.5 19h4", SLATE, 2)),
+            layer(line("M2.6 4.8l2 2 3.4-4", GREEN, 2), line("M2.8 10.2l4 4M6.8 10.2l-4 4", RED, 2),
+                  line("M2.6 18.8l2 2 3.4-4", GREEN, 2))],
         "action_list_numbered": [
             layer(line("M10.5 5h10.5M10.5 12h10.5M10.5 19h10.5", SLATE, 2)),
             layer(*[letter for digit, y in zip("123", (2.4, 9.4, 16.4))

@@ -94,17 +94,31 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n field(s) differ</source>
+        <source>%1 of %n difference(s) marked</source>
         <translation>
-            <numerusform>%n field differs</numerusform>
-            <numerusform>%n fields differ</numerusform>
+            <numerusform>%1 of %n difference marked</numerusform>
+            <numerusform>%1 of %n differences marked</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing is selected. Take over all %n difference(s)?</source>
+        <source>%n shown</source>
         <translation>
-            <numerusform>Nothing is selected. Take over the %n difference?</numerusform>
-            <numerusform>Nothing is selected. Take over all %n differences?</numerusform>
+            <numerusform>%n shown</numerusform>
+            <numerusform>%n shown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marked but not shown</source>
+        <translation>
+            <numerusform>%n marked but not shown</numerusform>
+            <numerusform>%n marked but not shown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The filter hides marks of %n difference(s). What is to be taken over?</source>
+        <translation>
+            <numerusform>The filter hides marks of %n difference. What is to be taken over?</numerusform>
+            <numerusform>The filter hides marks of %n differences. What is to be taken over?</numerusform>
         </translation>
     </message>
 </context>
@@ -171,6 +185,27 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) changed</source>
+        <translation>
+            <numerusform>%n material changed</numerusform>
+            <numerusform>%n materials changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) attached to %1</source>
+        <translation>
+            <numerusform>%n file attached to %1</numerusform>
+            <numerusform>%n files attached to %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) taken over</source>
+        <translation>
+            <numerusform>%n link taken over</numerusform>
+            <numerusform>%n links taken over</numerusform>
         </translation>
     </message>
 </context>
@@ -296,12 +331,91 @@
     </message>
 </context>
 <context>
+    <name>bomImportWindow</name>
+    <message numerus="yes">
+        <source>%1, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %n row</numerusform>
+            <numerusform>%1, %n rows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %2, %n row</numerusform>
+            <numerusform>%1, %2, %n rows</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>bomReport</name>
     <message numerus="yes">
         <source>%n set(s)</source>
         <translation>
             <numerusform>%n set</numerusform>
             <numerusform>%n sets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>bulkEdit</name>
+    <message numerus="yes">
+        <source>The pattern has %n bracket(s), so that there is no %1</source>
+        <translation>
+            <numerusform>The pattern has %n bracket, so that there is no %1</numerusform>
+            <numerusform>The pattern has %n brackets, so that there is no %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n KTM(s) of the lines are none of these materials&apos;</source>
+        <translation>
+            <numerusform>%n KTM of the lines is none of these materials&apos;</numerusform>
+            <numerusform>%n KTMs of the lines are none of these materials&apos;</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) for</source>
+        <translation>
+            <numerusform>%n line for</numerusform>
+            <numerusform>%n lines for</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>bulkEditDialog</name>
+    <message numerus="yes">
+        <source>%n will change</source>
+        <translation>
+            <numerusform>%n will change</numerusform>
+            <numerusform>%n will change</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay(s) as they are</source>
+        <translation>
+            <numerusform>%n stays as it is</numerusform>
+            <numerusform>%n stay as they are</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n refused</numerusform>
+            <numerusform>%n refused</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Without the rows left out %n more cannot be changed</source>
+        <translation>
+            <numerusform>Without the rows left out %n more cannot be changed</numerusform>
+            <numerusform>Without the rows left out %n more cannot be changed</numerusform>
         </translation>
     </message>
 </context>
@@ -355,6 +469,13 @@
             <numerusform>%n materials skipped</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>configWindow</name>
@@ -391,12 +512,32 @@
     </message>
 </context>
 <context>
+    <name>databaseFindings</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>databaseTree</name>
     <message numerus="yes">
         <source>%n material(s)</source>
         <translation>
             <numerusform>%n material</numerusform>
             <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>droppedFiles</name>
+    <message numerus="yes">
+        <source>Attach %n file(s) to %1</source>
+        <translation>
+            <numerusform>Attach %n file to %1</numerusform>
+            <numerusform>Attach %n files to %1</numerusform>
         </translation>
     </message>
 </context>
@@ -428,6 +569,82 @@
         <translation>
             <numerusform>Restored as it was %1, not saved: %n record</numerusform>
             <numerusform>Restored as it was %1, not saved: %n records</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>exportChanges</name>
+    <message numerus="yes">
+        <source>%n table(s) added</source>
+        <translation>
+            <numerusform>%n table added</numerusform>
+            <numerusform>%n tables added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) removed</source>
+        <translation>
+            <numerusform>%n table removed</numerusform>
+            <numerusform>%n tables removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) renamed</source>
+        <translation>
+            <numerusform>%n table renamed</numerusform>
+            <numerusform>%n tables renamed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) added</source>
+        <translation>
+            <numerusform>%n material added</numerusform>
+            <numerusform>%n materials added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) removed</source>
+        <translation>
+            <numerusform>%n material removed</numerusform>
+            <numerusform>%n materials removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) changed</source>
+        <translation>
+            <numerusform>%n material changed</numerusform>
+            <numerusform>%n materials changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) moved</source>
+        <translation>
+            <numerusform>%n material moved</numerusform>
+            <numerusform>%n materials moved</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>findingsWindow</name>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n finding</numerusform>
+            <numerusform>%n findings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n finding(s) shown</source>
+        <translation>
+            <numerusform>%1 of %n finding shown</numerusform>
+            <numerusform>%1 of %n findings shown</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
         </translation>
     </message>
 </context>
@@ -468,6 +685,13 @@
             <numerusform>%n firms deleted</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n firm(s) merged into %1</source>
+        <translation>
+            <numerusform>%n firm merged into %1</numerusform>
+            <numerusform>%n firms merged into %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>lineSums</name>
@@ -504,6 +728,58 @@
         <translation>
             <numerusform>%n line whose price is no number is left out</numerusform>
             <numerusform>%n lines whose price is no number are left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>linksWindow</name>
+    <message numerus="yes">
+        <source>%n link(s)</source>
+        <translation>
+            <numerusform>%n link</numerusform>
+            <numerusform>%n links</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All links were examined in the last %n day(s)</source>
+        <translation>
+            <numerusform>All links were examined in the last %n day</numerusform>
+            <numerusform>All links were examined in the last %n days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) fetched</source>
+        <translation>
+            <numerusform>%n document fetched</numerusform>
+            <numerusform>%n documents fetched</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) examined</source>
+        <translation>
+            <numerusform>%n link examined</numerusform>
+            <numerusform>%n links examined</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not</source>
+        <translation>
+            <numerusform>%n not</numerusform>
+            <numerusform>%n not</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) changed in the database</source>
+        <translation>
+            <numerusform>%n link changed in the database</numerusform>
+            <numerusform>%n links changed in the database</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
         </translation>
     </message>
 </context>
@@ -621,6 +897,26 @@
         <translation>
             <numerusform>%n row changed by both: pick which to take.</numerusform>
             <numerusform>%n rows changed by both: pick which to take.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>mergeFirmsDialog</name>
+    <message numerus="yes">
+        <source>%n material(s) get the name %1 when the list is saved.</source>
+        <translation>
+            <numerusform>%n material gets the name %1 when the list is saved.</numerusform>
+            <numerusform>%n materials get the name %1 when the list is saved.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>mergeTree</name>
+    <message numerus="yes">
+        <source>%n field(s) differ</source>
+        <translation>
+            <numerusform>%n field differs</numerusform>
+            <numerusform>%n fields differ</numerusform>
         </translation>
     </message>
 </context>
@@ -818,6 +1114,16 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>stagedLinesModel</name>
+    <message numerus="yes">
+        <source>choose of %n</source>
+        <translation>
+            <numerusform>choose of %n</numerusform>
+            <numerusform>choose of %n</numerusform>
         </translation>
     </message>
 </context>

@@ -272,6 +272,18 @@
             <numerusform>%n zaznaczonych list</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Open list of parts</source>
+        <translation>Otwórz listę elementów</translation>
+    </message>
+    <message>
+        <source>Lists of parts</source>
+        <translation>Listy elementów</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Wszystkie pliki</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -303,10 +315,6 @@
         <source>Comparing</source>
         <translation>Porównywanie</translation>
     </message>
-    <message>
-        <source>new</source>
-        <translation>nowy</translation>
-    </message>
     <message numerus="yes">
         <source>%n material(s) differ</source>
         <translation>
@@ -336,32 +344,68 @@
         <translation>Pomiń</translation>
     </message>
     <message>
-        <source>New in the other file</source>
-        <translation>Nowy w drugim pliku</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n field(s) differ</source>
-        <translation>
-            <numerusform>Różni się %n pole</numerusform>
-            <numerusform>Różnią się %n pola</numerusform>
-            <numerusform>Różni się %n pól</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Nothing is selected. Take over all %n difference(s)?</source>
-        <translation>
-            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
-            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
-            <numerusform>Nic nie jest zaznaczone. Przejąć wszystkie różnice (%n)?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1, once more</source>
-        <translation>%1, jeszcze raz</translation>
-    </message>
-    <message>
         <source>Cancelled</source>
         <translation>Anulowano</translation>
+    </message>
+    <message>
+        <source>Words to filter by</source>
+        <translation>Słowa filtra</translation>
+    </message>
+    <message>
+        <source>Filter: name, KTM, group, field, value</source>
+        <translation>Filtr: nazwa, KTM, grupa, pole, wartość</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n difference(s) marked</source>
+        <translation>
+            <numerusform>zaznaczono %1 z %n różnicy</numerusform>
+            <numerusform>zaznaczono %1 z %n różnic</numerusform>
+            <numerusform>zaznaczono %1 z %n różnic</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shown</source>
+        <translation>
+            <numerusform>widoczna %n</numerusform>
+            <numerusform>widoczne %n</numerusform>
+            <numerusform>widocznych %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marked but not shown</source>
+        <translation>
+            <numerusform>zaznaczona, a niewidoczna %n</numerusform>
+            <numerusform>zaznaczone, a niewidoczne %n</numerusform>
+            <numerusform>zaznaczonych, a niewidocznych %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing is shown</source>
+        <translation>nic nie jest widoczne</translation>
+    </message>
+    <message>
+        <source>nothing is marked</source>
+        <translation>nic nie jest zaznaczone</translation>
+    </message>
+    <message numerus="yes">
+        <source>The filter hides marks of %n difference(s). What is to be taken over?</source>
+        <translation>
+            <numerusform>Filtr zasłania zaznaczenia %n różnicy. Co przejąć?</numerusform>
+            <numerusform>Filtr zasłania zaznaczenia %n różnic. Co przejąć?</numerusform>
+            <numerusform>Filtr zasłania zaznaczenia %n różnic. Co przejąć?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only what is shown</source>
+        <translation>Tylko to, co widać</translation>
+    </message>
+    <message>
+        <source>All that is marked</source>
+        <translation>Wszystko, co zaznaczone</translation>
+    </message>
+    <message>
+        <source>Opening materials</source>
+        <translation>Otwieranie materiałów</translation>
     </message>
 </context>
 <context>
@@ -397,18 +441,6 @@
     <message>
         <source>Save to File</source>
         <translation>Zapisz do pliku</translation>
-    </message>
-    <message>
-        <source>The same KTM:</source>
-        <translation>Ten sam KTM:</translation>
-    </message>
-    <message>
-        <source>The same part number of a manufacturer:</source>
-        <translation>Ten sam numer producenta:</translation>
-    </message>
-    <message>
-        <source>Materials with empty fields:</source>
-        <translation>Materiały z pustymi polami:</translation>
     </message>
     <message>
         <source>No material has empty fields</source>
@@ -539,10 +571,6 @@
         </translation>
     </message>
     <message>
-        <source>Opening groups</source>
-        <translation>Rozwijanie grup</translation>
-    </message>
-    <message>
         <source>This material has no link that can be opened</source>
         <translation>Ten materiał nie ma odnośnika do otwarcia</translation>
     </message>
@@ -665,6 +693,50 @@
     <message>
         <source>once more</source>
         <translation>jeszcze raz</translation>
+    </message>
+    <message>
+        <source>Changing materials</source>
+        <translation>Zmiana materiałów</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) changed</source>
+        <translation>
+            <numerusform>%n materiał zmieniony</numerusform>
+            <numerusform>%n materiały zmienione</numerusform>
+            <numerusform>%n materiałów zmienionych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Attach a file</source>
+        <translation>Dołącz plik</translation>
+    </message>
+    <message>
+        <source>Manufacturer or supplier it belongs to</source>
+        <translation>Producent lub dostawca, do którego należy</translation>
+    </message>
+    <message>
+        <source>The file is attached to this material already</source>
+        <translation>Ten plik jest już dołączony do tego materiału</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) attached to %1</source>
+        <translation>
+            <numerusform>Do %1 dołączono %n plik</numerusform>
+            <numerusform>Do %1 dołączono %n pliki</numerusform>
+            <numerusform>Do %1 dołączono %n plików</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>its document was not fetched</source>
+        <translation>nie pobrano jego dokumentu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) taken over</source>
+        <translation>
+            <numerusform>Przejęto %n odnośnik</numerusform>
+            <numerusform>Przejęto %n odnośniki</numerusform>
+            <numerusform>Przejęto %n odnośników</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1077,6 +1149,18 @@
         <source>the file has changed since</source>
         <translation>plik się od tego czasu zmienił</translation>
     </message>
+    <message>
+        <source>The list has no line of %1</source>
+        <translation>Lista nie ma pozycji %1</translation>
+    </message>
+    <message>
+        <source>Open the order %1 in place of this one?</source>
+        <translation>Otworzyć zamówienie %1 w miejsce bieżącego?</translation>
+    </message>
+    <message>
+        <source>The order has no line of %1</source>
+        <translation>Zamówienie nie ma pozycji %1</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -1461,10 +1545,6 @@
     <message>
         <source>Set</source>
         <translation>Ustaw</translation>
-    </message>
-    <message>
-        <source>Take over the selected materials or fields, or all</source>
-        <translation>Przejmij zaznaczone materiały lub pola albo wszystko</translation>
     </message>
     <message>
         <source>Leave out</source>
@@ -2079,6 +2159,286 @@
         <source>Read what can be read of a damaged file of any kind</source>
         <translation>Odczytaj, co się da, z uszkodzonego pliku dowolnego rodzaju</translation>
     </message>
+    <message>
+        <source>Open list of parts ...</source>
+        <translation>Otwórz listę elementów ...</translation>
+    </message>
+    <message>
+        <source>Read another CSV, XLSX, ODS, XLS or KiCad XML file</source>
+        <translation>Wczytaj inny plik CSV, XLSX, ODS, XLS albo XML programu KiCad</translation>
+    </message>
+    <message>
+        <source>Write the BOM list and add it to the set</source>
+        <translation>Zapisz listę BOM i dodaj ją do zestawu</translation>
+    </message>
+    <message>
+        <source>Save the table of all lines with what they were found by</source>
+        <translation>Zapisz tabelę wszystkich pozycji wraz z tym, po czym je znaleziono</translation>
+    </message>
+    <message>
+        <source>Decisions</source>
+        <translation>Decyzje</translation>
+    </message>
+    <message>
+        <source>Open the file of what was decided before</source>
+        <translation>Otwórz plik z wcześniejszymi decyzjami</translation>
+    </message>
+    <message>
+        <source>Take the material</source>
+        <translation>Przyjmij materiał</translation>
+    </message>
+    <message>
+        <source>Match the line with the material that is marked below it</source>
+        <translation>Przypisz pozycji materiał zaznaczony pod nią</translation>
+    </message>
+    <message>
+        <source>Unmatch</source>
+        <translation>Cofnij przypisanie</translation>
+    </message>
+    <message>
+        <source>The line becomes an unknown one</source>
+        <translation>Pozycja staje się nieznana</translation>
+    </message>
+    <message>
+        <source>Leave out or take in</source>
+        <translation>Pomiń albo przywróć</translation>
+    </message>
+    <message>
+        <source>A line that is left out is not written</source>
+        <translation>Pominięta pozycja nie zostanie zapisana</translation>
+    </message>
+    <message>
+        <source>New material from this line ...</source>
+        <translation>Nowy materiał z tej pozycji ...</translation>
+    </message>
+    <message>
+        <source>Open the material editor filled in from the line</source>
+        <translation>Otwórz edytor materiału wypełniony danymi pozycji</translation>
+    </message>
+    <message>
+        <source>Next open line</source>
+        <translation>Następna nierozstrzygnięta pozycja</translation>
+    </message>
+    <message>
+        <source>Go to the next line without a material</source>
+        <translation>Przejdź do następnej pozycji bez materiału</translation>
+    </message>
+    <message>
+        <source>Match again</source>
+        <translation>Dopasuj ponownie</translation>
+    </message>
+    <message>
+        <source>Look for materials anew; what you chose stays decided</source>
+        <translation>Poszukaj materiałów od nowa; to, co wybrano, pozostaje rozstrzygnięte</translation>
+    </message>
+    <message>
+        <source>Import list of parts ...</source>
+        <translation>Importuj listę elementów ...</translation>
+    </message>
+    <message>
+        <source>Make a BOM list of a list of parts of a CAD tool: CSV, XLSX, ODS, KiCad</source>
+        <translation>Utwórz listę BOM z listy elementów programu CAD: CSV, XLSX, ODS, KiCad</translation>
+    </message>
+    <message>
+        <source>Export ...</source>
+        <translation>Eksportuj ...</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown as a workbook or CSV file</source>
+        <translation>Zapisz pokazane wiersze jako skoroszyt albo plik CSV</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Sprawdź ponownie</translation>
+    </message>
+    <message>
+        <source>Check the whole database, also whether files are there</source>
+        <translation>Sprawdź całą bazę, także to, czy pliki istnieją</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows as text</source>
+        <translation>Kopiuj wybrane wiersze jako tekst</translation>
+    </message>
+    <message>
+        <source>Go to the cell</source>
+        <translation>Przejdź do komórki</translation>
+    </message>
+    <message>
+        <source>Go to the cell in the database (Return)</source>
+        <translation>Przejdź do komórki w bazie (Enter)</translation>
+    </message>
+    <message>
+        <source>Take over what is marked</source>
+        <translation>Przejmij to, co zaznaczone</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Zaznacz</translation>
+    </message>
+    <message>
+        <source>Mark the selected materials and fields, or unmark them</source>
+        <translation>Zaznacz wybrane materiały i pola albo usuń ich zaznaczenie</translation>
+    </message>
+    <message>
+        <source>Mark all</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Mark all that is shown, but no material once more</source>
+        <translation>Zaznacz wszystko, co widać, oprócz materiałów „jeszcze raz”</translation>
+    </message>
+    <message>
+        <source>Mark none</source>
+        <translation>Odznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Unmark all that is shown</source>
+        <translation>Usuń zaznaczenie wszystkiego, co widać</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtr</translation>
+    </message>
+    <message>
+        <source>Go to the filter field</source>
+        <translation>Przejdź do pola filtra</translation>
+    </message>
+    <message>
+        <source>Equal fields</source>
+        <translation>Pola jednakowe</translation>
+    </message>
+    <message>
+        <source>Show the fields, too, that are the same in both</source>
+        <translation>Pokaż także pola, które w obu bazach są jednakowe</translation>
+    </message>
+    <message>
+        <source>Change selected materials ...</source>
+        <translation>Zmień zaznaczone materiały ...</translation>
+    </message>
+    <message>
+        <source>Set, replace or compose a field of many materials, move them or give them a firm</source>
+        <translation>Ustaw, zamień lub złóż pole wielu materiałów, przenieś je lub dodaj im firmę</translation>
+    </message>
+    <message>
+        <source>Open the copy</source>
+        <translation>Otwórz kopię</translation>
+    </message>
+    <message>
+        <source>Open the copy of the link&apos;s document</source>
+        <translation>Otwórz kopię dokumentu, do którego prowadzi odnośnik</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
+    <message>
+        <source>Show all of the current material beside the tree</source>
+        <translation>Pokaż obok drzewa wszystko o bieżącym materiale</translation>
+    </message>
+    <message>
+        <source>To the details</source>
+        <translation>Do szczegółów</translation>
+    </message>
+    <message>
+        <source>Have the keys go to the details; Escape goes back</source>
+        <translation>Przejdź klawiaturą do szczegółów; Escape wraca</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Kontrole</translation>
+    </message>
+    <message>
+        <source>Table of what is wrong with the materials, and where</source>
+        <translation>Tabela błędów w materiałach, z przejściem do komórki</translation>
+    </message>
+    <message>
+        <source>Examine links</source>
+        <translation>Zbadaj odnośniki</translation>
+    </message>
+    <message>
+        <source>Find out what came of every link: moved, gone, ...</source>
+        <translation>Zbadaj, co stało się z każdym odnośnikiem: przeniesiony, usunięty...</translation>
+    </message>
+    <message>
+        <source>Take over new addresses</source>
+        <translation>Przejmij nowe adresy</translation>
+    </message>
+    <message>
+        <source>Give the marked links their new addresses, as one step that can be undone in the database&apos;s window</source>
+        <translation>Nadaj zaznaczonym odnośnikom nowe adresy, jako jeden krok, który można cofnąć w oknie bazy</translation>
+    </message>
+    <message>
+        <source>Copy rows</source>
+        <translation>Kopiuj wiersze</translation>
+    </message>
+    <message>
+        <source>Mark the selected rows that have a new address, or take their marks away</source>
+        <translation>Zaznacz wybrane wiersze z nowym adresem albo odznacz je</translation>
+    </message>
+    <message>
+        <source>Mark all rows shown that have a new address</source>
+        <translation>Zaznacz wszystkie widoczne wiersze z nowym adresem</translation>
+    </message>
+    <message>
+        <source>Examine</source>
+        <translation>Zbadaj</translation>
+    </message>
+    <message>
+        <source>Examine the links that were not examined lately</source>
+        <translation>Zbadaj odnośniki, których ostatnio nie badano</translation>
+    </message>
+    <message>
+        <source>Examine again</source>
+        <translation>Zbadaj ponownie</translation>
+    </message>
+    <message>
+        <source>Examine the selected links, or all, whenever that was done last</source>
+        <translation>Zbadaj wybrane odnośniki albo wszystkie, bez względu na to, kiedy badano je ostatnio</translation>
+    </message>
+    <message>
+        <source>Fetch copies</source>
+        <translation>Pobierz kopie</translation>
+    </message>
+    <message>
+        <source>Fetch the documents of the selected links, or all datasheets that answer, to be read without a network</source>
+        <translation>Pobierz dokumenty wybranych odnośników albo wszystkie dostępne karty katalogowe, aby czytać je bez sieci</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zatrzymaj</translation>
+    </message>
+    <message>
+        <source>Examine no further links; what came of the others stays</source>
+        <translation>Nie badaj dalszych odnośników; dotychczasowe wyniki zostają</translation>
+    </message>
+    <message>
+        <source>Open the link of this row</source>
+        <translation>Otwórz odnośnik z tego wiersza</translation>
+    </message>
+    <message>
+        <source>Go to the material</source>
+        <translation>Przejdź do materiału</translation>
+    </message>
+    <message>
+        <source>Select the material in the database&apos;s window</source>
+        <translation>Wskaż materiał w oknie bazy</translation>
+    </message>
+    <message>
+        <source>Only findings</source>
+        <translation>Tylko uwagi</translation>
+    </message>
+    <message>
+        <source>Hide links that answer where they are, and those not examined</source>
+        <translation>Ukryj odnośniki, które odpowiadają pod swoim adresem, oraz niezbadane</translation>
+    </message>
+    <message>
+        <source>Merge firms</source>
+        <translation>Połącz firmy</translation>
+    </message>
+    <message>
+        <source>Make one firm of the selected ones, in the materials, too</source>
+        <translation>Robi z zaznaczonych firm jedną, także w materiałach</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2089,14 +2449,6 @@
     <message>
         <source>Add material</source>
         <translation>Dodawanie materiału</translation>
-    </message>
-    <message>
-        <source>Words to search for</source>
-        <translation>Szukane słowa</translation>
-    </message>
-    <message>
-        <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
-        <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
     </message>
     <message>
         <source>Materials found</source>
@@ -2153,6 +2505,14 @@
         <source>Left out of the library description</source>
         <translation>Pominięto w opisie biblioteki</translation>
     </message>
+    <message>
+        <source>No longer updated; install instead</source>
+        <translation>Nie jest już aktualizowany; zamiast niego należy zainstalować</translation>
+    </message>
+    <message>
+        <source>The next export will have nothing to compare with</source>
+        <translation>Następny eksport nie będzie miał z czym się porównać</translation>
+    </message>
 </context>
 <context>
     <name>baseWindow</name>
@@ -2166,6 +2526,219 @@
     <message>
         <source>does not exist</source>
         <translation>nie istnieje</translation>
+    </message>
+</context>
+<context>
+    <name>bomDiff</name>
+    <message>
+        <source>added</source>
+        <translation>dodano</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>usunięto</translation>
+    </message>
+    <message>
+        <source>another part</source>
+        <translation>inny element</translation>
+    </message>
+    <message>
+        <source>quantity</source>
+        <translation>ilość</translation>
+    </message>
+</context>
+<context>
+    <name>bomImport</name>
+    <message>
+        <source>matched</source>
+        <translation>dopasowane</translation>
+    </message>
+    <message>
+        <source>to be chosen</source>
+        <translation>do wyboru</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznane</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>pominięte</translation>
+    </message>
+</context>
+<context>
+    <name>bomImportWindow</name>
+    <message>
+        <source>Import list of parts</source>
+        <translation>Import listy elementów</translation>
+    </message>
+    <message>
+        <source>Search the databases for this line</source>
+        <translation>Szukaj w bazach materiału dla tej pozycji</translation>
+    </message>
+    <message>
+        <source>Materials for the line</source>
+        <translation>Materiały dla pozycji</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Dlaczego</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>przecinek</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>średnik</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulator</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>kreska pionowa</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Arkusz</translation>
+    </message>
+    <message>
+        <source>First rows of the file</source>
+        <translation>Pierwsze wiersze pliku</translation>
+    </message>
+    <message>
+        <source>Lines of which state</source>
+        <translation>Pozycje o stanie</translation>
+    </message>
+    <message>
+        <source>All lines</source>
+        <translation>Wszystkie pozycje</translation>
+    </message>
+    <message>
+        <source>Filter the lines</source>
+        <translation>Filtruj pozycje</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %n wiersz</numerusform>
+            <numerusform>%1, %n wiersze</numerusform>
+            <numerusform>%1, %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %2, %n wiersz</numerusform>
+            <numerusform>%1, %2, %n wiersze</numerusform>
+            <numerusform>%1, %2, %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What column %1 holds</source>
+        <translation>Co zawiera kolumna %1</translation>
+    </message>
+    <message>
+        <source>Matching</source>
+        <translation>Dopasowywanie</translation>
+    </message>
+    <message>
+        <source>no line is selected</source>
+        <translation>nie wybrano pozycji</translation>
+    </message>
+    <message>
+        <source>no list of parts is open</source>
+        <translation>nie otwarto listy elementów</translation>
+    </message>
+    <message>
+        <source>no material is marked</source>
+        <translation>nie zaznaczono materiału</translation>
+    </message>
+    <message>
+        <source>the line has no material</source>
+        <translation>pozycja nie ma materiału</translation>
+    </message>
+    <message>
+        <source>Open list of parts</source>
+        <translation>Otwórz listę elementów</translation>
+    </message>
+    <message>
+        <source>Lists of parts</source>
+        <translation>Listy elementów</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Wszystkie pliki</translation>
+    </message>
+    <message>
+        <source>%1 taken</source>
+        <translation>Przyjęto %1</translation>
+    </message>
+    <message>
+        <source>Unmatched</source>
+        <translation>Cofnięto przypisanie</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Pominięto</translation>
+    </message>
+    <message>
+        <source>Taken in</source>
+        <translation>Przywrócono</translation>
+    </message>
+    <message>
+        <source>No line is open</source>
+        <translation>Wszystkie pozycje są rozstrzygnięte</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Zapisano jako %1</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Nie podjęto jeszcze żadnych decyzji</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>Nie można otworzyć %1</translation>
+    </message>
+    <message>
+        <source>Save the BOM list</source>
+        <translation>Zapisz listę BOM</translation>
+    </message>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
+    </message>
+    <message>
+        <source>What you decided could not be kept: %1</source>
+        <translation>Nie udało się zachować decyzji: %1</translation>
+    </message>
+    <message>
+        <source>What you settled in this list is not written yet. Close all the same?</source>
+        <translation>To, co rozstrzygnięto na tej liście, nie jest jeszcze zapisane. Zamknąć mimo to?</translation>
     </message>
 </context>
 <context>
@@ -2208,6 +2781,312 @@
     <message>
         <source>The file is missing: %1</source>
         <translation>Brak pliku: %1</translation>
+    </message>
+</context>
+<context>
+    <name>bulkEdit</name>
+    <message>
+        <source>&quot;%1&quot; is not in the list</source>
+        <translation>„%1” nie ma na liście</translation>
+    </message>
+    <message>
+        <source>The text would be too long</source>
+        <translation>Tekst byłby za długi</translation>
+    </message>
+    <message>
+        <source>Ktm syntax error</source>
+        <translation>Błąd składni KTM</translation>
+    </message>
+    <message>
+        <source>CPV syntax error</source>
+        <translation>Błąd składni CPV</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pattern has %n bracket(s), so that there is no %1</source>
+        <translation>
+            <numerusform>Wzorzec ma %n nawias, więc nie ma %1</numerusform>
+            <numerusform>Wzorzec ma %n nawiasy, więc nie ma %1</numerusform>
+            <numerusform>Wzorzec ma %n nawiasów, więc nie ma %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n KTM(s) of the lines are none of these materials&apos;</source>
+        <translation>
+            <numerusform>%n KTM z wierszy nie należy do żadnego z tych materiałów</numerusform>
+            <numerusform>%n KTM z wierszy nie należą do żadnego z tych materiałów</numerusform>
+            <numerusform>%n KTM z wierszy nie należy do żadnego z tych materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) for</source>
+        <translation>
+            <numerusform>%n wiersz na</numerusform>
+            <numerusform>%n wiersze na</numerusform>
+            <numerusform>%n wierszy na</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pattern takes too long on this text</source>
+        <translation>Wzorzec działa za długo na tym tekście</translation>
+    </message>
+    <message>
+        <source>The fields of the template are empty</source>
+        <translation>Pola szablonu są puste</translation>
+    </message>
+    <message>
+        <source>A &quot;}&quot; has no &quot;{&quot; before it</source>
+        <translation>Przed „}” brakuje „{”</translation>
+    </message>
+    <message>
+        <source>A &quot;{&quot; has no &quot;}&quot; behind it</source>
+        <translation>Za „{” brakuje „}”</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;</source>
+        <translation>Nie ma pola „%1”</translation>
+    </message>
+    <message>
+        <source>Type what is to be replaced</source>
+        <translation>Wpisz, co ma zostać zamienione</translation>
+    </message>
+    <message>
+        <source>Character %1: %2</source>
+        <translation>Znak %1: %2</translation>
+    </message>
+    <message>
+        <source>Type a template, such as %1</source>
+        <translation>Wpisz szablon, na przykład %1</translation>
+    </message>
+    <message>
+        <source>There is no group of this name</source>
+        <translation>Nie ma grupy o tej nazwie</translation>
+    </message>
+    <message>
+        <source>Choose a firm</source>
+        <translation>Wybierz firmę</translation>
+    </message>
+    <message>
+        <source>Another selected material gets this KTM</source>
+        <translation>Ten KTM dostaje inny z tych materiałów</translation>
+    </message>
+    <message>
+        <source>Another material has this KTM</source>
+        <translation>Inny materiał ma już ten KTM</translation>
+    </message>
+    <message>
+        <source>The pattern takes too long: make it simpler</source>
+        <translation>Wzorzec działa za długo: uprość go</translation>
+    </message>
+</context>
+<context>
+    <name>bulkEditDialog</name>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>Refused because</source>
+        <translation>Odrzucono, ponieważ</translation>
+    </message>
+    <message>
+        <source>Set a field</source>
+        <translation>Ustaw pole</translation>
+    </message>
+    <message>
+        <source>Replace text in a field</source>
+        <translation>Zamień tekst w polu</translation>
+    </message>
+    <message>
+        <source>Paste a column into a field</source>
+        <translation>Wklej kolumnę do pola</translation>
+    </message>
+    <message>
+        <source>Compose a field from others</source>
+        <translation>Złóż pole z innych pól</translation>
+    </message>
+    <message>
+        <source>Mark the status</source>
+        <translation>Oznacz status</translation>
+    </message>
+    <message>
+        <source>Move to another group</source>
+        <translation>Przenieś do innej grupy</translation>
+    </message>
+    <message>
+        <source>Add a manufacturer</source>
+        <translation>Dodaj producenta</translation>
+    </message>
+    <message>
+        <source>Add a supplier</source>
+        <translation>Dodaj dostawcę</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern (regular expression)</source>
+        <translation>&amp;Wzorzec (wyrażenie regularne)</translation>
+    </message>
+    <message>
+        <source>&amp;Match case</source>
+        <translation>Rozróżniaj wielkość &amp;liter</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Zmień</translation>
+    </message>
+    <message>
+        <source>Mark &amp;all</source>
+        <translation>&amp;Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Mark &amp;none</source>
+        <translation>&amp;Odznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Change selected materials</source>
+        <translation>Zmiana zaznaczonych materiałów</translation>
+    </message>
+    <message>
+        <source>S&amp;elected (%1)</source>
+        <translation>Zaznaczo&amp;ne (%1)</translation>
+    </message>
+    <message>
+        <source>All that the search s&amp;hows (%1)</source>
+        <translation>Wszystkie &amp;pokazane przez wyszukiwanie (%1)</translation>
+    </message>
+    <message>
+        <source>A&amp;ll (%1)</source>
+        <translation>W&amp;szystkie (%1)</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Szablon</translation>
+    </message>
+    <message>
+        <source>Materials:</source>
+        <translation>Materiały:</translation>
+    </message>
+    <message>
+        <source>Wha&amp;t to do:</source>
+        <translation>&amp;Co zrobić:</translation>
+    </message>
+    <message>
+        <source>&amp;Field:</source>
+        <translation>Pol&amp;e:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>Wa&amp;rtość:</translation>
+    </message>
+    <message>
+        <source>&amp;Replace:</source>
+        <translation>Za&amp;mień:</translation>
+    </message>
+    <message>
+        <source>&amp;With:</source>
+        <translation>N&amp;a:</translation>
+    </message>
+    <message>
+        <source>[0-9]+ finds digits, (...) keeps what it found; in the new text $1 is what the first bracket found</source>
+        <translation>[0-9]+ znajduje cyfry, (...) zapamiętuje, co znalazło; w nowym tekście $1 to wynik pierwszego nawiasu</translation>
+    </message>
+    <message>
+        <source>A line for each material, or lines of KTM, tab and text; Ctrl+V pastes them</source>
+        <translation>Wiersz dla każdego materiału albo wiersze: KTM, tabulator i tekst; Ctrl+V wkleja je</translation>
+    </message>
+    <message>
+        <source>L&amp;ines:</source>
+        <translation>W&amp;iersze:</translation>
+    </message>
+    <message>
+        <source>Tem&amp;plate:</source>
+        <translation>Sza&amp;blon:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Grupa:</translation>
+    </message>
+    <message>
+        <source>&amp;Firm:</source>
+        <translation>&amp;Firma:</translation>
+    </message>
+    <message>
+        <source>empty, or a template such as %1</source>
+        <translation>puste albo szablon, na przykład %1</translation>
+    </message>
+    <message>
+        <source>&amp;Part no:</source>
+        <translation>N&amp;umer części:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>F&amp;orget template</source>
+        <translation>Usuń szablon z &amp;listy</translation>
+    </message>
+    <message>
+        <source>&amp;Keep template</source>
+        <translation>Zac&amp;howaj szablon</translation>
+    </message>
+    <message>
+        <source>The firm register has no such firm</source>
+        <translation>W rejestrze firm nie ma takiej firmy</translation>
+    </message>
+    <message>
+        <source>Choose or type a value</source>
+        <translation>Wybierz lub wpisz wartość</translation>
+    </message>
+    <message>
+        <source>Paste the lines</source>
+        <translation>Wklej wiersze</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n will change</source>
+        <translation>
+            <numerusform>%n się zmieni</numerusform>
+            <numerusform>%n się zmienią</numerusform>
+            <numerusform>%n się zmieni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay(s) as they are</source>
+        <translation>
+            <numerusform>%n zostaje bez zmian</numerusform>
+            <numerusform>%n zostają bez zmian</numerusform>
+            <numerusform>%n zostaje bez zmian</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n odrzucony</numerusform>
+            <numerusform>%n odrzucone</numerusform>
+            <numerusform>%n odrzuconych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no material would change</source>
+        <translation>żaden materiał się nie zmieni</translation>
+    </message>
+    <message numerus="yes">
+        <source>Without the rows left out %n more cannot be changed</source>
+        <translation>
+            <numerusform>Bez pominiętych wierszy nie da się zmienić jeszcze %n</numerusform>
+            <numerusform>Bez pominiętych wierszy nie da się zmienić jeszcze %n</numerusform>
+            <numerusform>Bez pominiętych wierszy nie da się zmienić jeszcze %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2294,10 +3173,6 @@
         <source>Take over</source>
         <translation>Przejmij</translation>
     </message>
-    <message>
-        <source>Mark none</source>
-        <translation>Odznacz wszystko</translation>
-    </message>
     <message numerus="yes">
         <source>%n change(s). What stays marked is taken over.</source>
         <translation>
@@ -2305,6 +3180,14 @@
             <numerusform>%n zmiany. Przejęte zostanie to, co pozostanie zaznaczone.</numerusform>
             <numerusform>%n zmian. Przejęte zostanie to, co pozostanie zaznaczone.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Mark &amp;all</source>
+        <translation>&amp;Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Mark &amp;none</source>
+        <translation>&amp;Odznacz wszystko</translation>
     </message>
 </context>
 <context>
@@ -2569,10 +3452,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>podaj plik wyjściowy o rozszerzeniu %1</translation>
     </message>
     <message>
-        <source>Writes a material database as a component library for Altium: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and the description OUT.DbLib.</source>
-        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programu Altium: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt oraz opis OUT.DbLib.</translation>
-    </message>
-    <message>
         <source>Writes the groups of a material database as a workbook.</source>
         <translation>Zapisuje grupy bazy materiałów jako skoroszyt.</translation>
     </message>
@@ -2757,10 +3636,119 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Wypisuje zachowane wcześniejsze wersje i niezapisane zamówienia, jednego pliku lub wszystkich. Kod wyjścia 1, gdy nie ma żadnych.</translation>
     </message>
     <message>
+        <source>is open in %1, which will be told</source>
+        <translation>jest otwarty w %1, który to zauważy</translation>
+    </message>
+    <message>
+        <source>%1 is no field; there are: %2</source>
+        <translation>%1 nie jest polem; pola to: %2</translation>
+    </message>
+    <message>
+        <source>no column has the caption %1</source>
+        <translation>żadna kolumna nie ma nagłówka %1</translation>
+    </message>
+    <message>
+        <source>column %1: %2</source>
+        <translation>kolumna %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A material database that the parts are looked for in. May be given several times.</source>
+        <translation>Baza materiałów, w której szukane są elementy. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>Where the BOM list goes.</source>
+        <translation>Dokąd zapisać listę BOM.</translation>
+    </message>
+    <message>
+        <source>What a column holds, by its caption or number. May be given several times.</source>
+        <translation>Co zawiera kolumna o danym nagłówku lub numerze. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>Where the table of all lines goes, as CSV.</source>
+        <translation>Dokąd zapisać tabelę wszystkich pozycji, jako CSV.</translation>
+    </message>
+    <message>
+        <source>What parts the fields of a text.</source>
+        <translation>Co rozdziela pola tekstu.</translation>
+    </message>
+    <message>
+        <source>The encoding of a text.</source>
+        <translation>Kodowanie tekstu.</translation>
+    </message>
+    <message>
+        <source>The sheet of a workbook, from 1.</source>
+        <translation>Arkusz skoroszytu, od 1.</translation>
+    </message>
+    <message>
+        <source>give the BOM list to write with -o</source>
+        <translation>podaj zapisywaną listę BOM po -o</translation>
+    </message>
+    <message>
+        <source>holds no parts; name its columns with --map</source>
+        <translation>nie zawiera elementów; wskaż kolumny opcją --map</translation>
+    </message>
+    <message>
+        <source>Lists what two BOM lists of one board differ in, by designator. Exit code 1 when they differ, 2 when they cannot be compared.</source>
+        <translation>Wypisuje, czym różnią się dwie listy BOM jednej płytki, według oznaczeń. Kod wyjścia 1, gdy się różnią, 2, gdy nie można ich porównać.</translation>
+    </message>
+    <message>
+        <source>Makes a BOM list of a list of parts: CSV, XLSX, ODS, XLS or KiCad XML. Exit code 1 when parts were not found; the list is written all the same, with these as unknown lines.</source>
+        <translation>Tworzy listę BOM z listy elementów: CSV, XLSX, ODS, XLS albo XML programu KiCad. Kod wyjścia 1, gdy części elementów nie znaleziono; lista i tak jest zapisywana, a one stają się nieznanymi pozycjami.</translation>
+    </message>
+    <message>
+        <source>The firm register, in which manufacturers and suppliers are to stand.</source>
+        <translation>Rejestr firm, w którym mają być producenci i dostawcy.</translation>
+    </message>
+    <message>
+        <source>Only findings of this kind; may be given several times: %1.</source>
+        <translation>Tylko uwagi tego rodzaju; opcję można podać kilka razy: %1.</translation>
+    </message>
+    <message>
+        <source>A workbook (.xlsx) or CSV file (.csv) for the findings.</source>
+        <translation>Skoroszyt (.xlsx) albo plik CSV (.csv) na uwagi.</translation>
+    </message>
+    <message>
+        <source>the kinds of findings are: %1</source>
+        <translation>rodzaje uwag to: %1</translation>
+    </message>
+    <message>
+        <source>Lists what is wrong with the materials of databases: duplicates, empty fields, codes, links, files and firms. Exit code 1 when there is something.</source>
+        <translation>Wypisuje, co jest nie tak z materiałami baz: duplikaty, puste pola, kody, odnośniki, pliki i firmy. Kod wyjścia 1, gdy coś znaleziono.</translation>
+    </message>
+    <message>
+        <source>%1 is no field of a material; these are: %2</source>
+        <translation>%1 nie jest polem materiału; pola to: %2</translation>
+    </message>
+    <message>
+        <source>Only these fields of materials that both have, by their names as in files, and group for the place; no new materials: d_price,d_description,group.</source>
+        <translation>Tylko te pola materiałów obecnych w obu bazach, pod nazwami jak w plikach, oraz group dla miejsca; bez nowych materiałów: d_price,d_description,group.</translation>
+    </message>
+    <message>
+        <source>--update takes over all fields</source>
+        <translation>--update przejmuje wszystkie pola</translation>
+    </message>
+    <message>
+        <source>These fields are the same in both</source>
+        <translation>Te pola są w obu bazach jednakowe</translation>
+    </message>
+    <message>
+        <source>Writes a material database as a component library for CAD tools: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and a description of each for Altium (.DbLib), of the SQLite file for KiCad, too (.kicad_dbl). Lists the files, then what has changed since the last export.</source>
+        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programów CAD: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt, do każdego opis dla programu Altium (.DbLib), a do pliku SQLite także dla programu KiCad (.kicad_dbl). Wypisuje pliki, a potem zmiany od ostatniego eksportu.</translation>
+    </message>
+    <message>
         <source>Conditions are parted by blanks, and all of them must hold:
   rezystor 0603        both words, in any field, also inside a word
   &quot;rezystor smd&quot;       these words in this order
   case:0603            that text in one field; case:=0603 the whole of it, case:&quot;&quot; none
+  group:=&quot;Dioda TVS&quot;   quotes hold a text with blanks together, also behind a sign
   value:4k7            an equal number: 4700, 4,7 kOhm; a power may be a fraction: 1/4W
   price:&gt;10            more; also &gt;=, &lt;, &lt;= and =
   value:1k..10k        from the first to the last; value:1k.. value:..10k
@@ -2772,6 +3760,7 @@ Fields: %1</source>
   rezystor 0603        oba słowa, w dowolnym polu, także wewnątrz słowa
   &quot;rezystor smd&quot;       te słowa w tej kolejności
   case:0603            ten tekst w jednym polu; case:=0603 jako całość, case:&quot;&quot; puste
+  group:=&quot;Dioda TVS&quot;   cudzysłów trzyma razem tekst z odstępami, także po znaku
   value:4k7            równa liczba: 4700, 4,7 kOhm; moc może być ułamkiem: 1/4W
   price:&gt;10            więcej; także &gt;=, &lt;, &lt;= i =
   value:1k..10k        od pierwszej do ostatniej; value:1k.. value:..10k
@@ -2781,8 +3770,144 @@ Fields: %1</source>
 Pola: %1</translation>
     </message>
     <message>
-        <source>is open in %1, which will be told</source>
-        <translation>jest otwarty w %1, który to zauważy</translation>
+        <source>no search is kept</source>
+        <translation>nie ma zachowanych wyszukiwań</translation>
+    </message>
+    <message>
+        <source>A search kept in the program under that name; WORDS narrow it.</source>
+        <translation>Wyszukiwanie zachowane w programie pod tą nazwą; SŁOWA je zawężają.</translation>
+    </message>
+    <message>
+        <source>Prints the kept searches and searches nothing.</source>
+        <translation>Wypisuje zachowane wyszukiwania i niczego nie szuka.</translation>
+    </message>
+    <message>
+        <source>no search %1 is kept; see --list-kept</source>
+        <translation>nie ma zachowanego wyszukiwania %1; zobacz --list-kept</translation>
+    </message>
+    <message>
+        <source>A material database that names the firms.</source>
+        <translation>Baza materiałów, w której są te firmy.</translation>
+    </message>
+    <message>
+        <source>The firms are suppliers, not manufacturers.</source>
+        <translation>Firmy są dostawcami, a nie producentami.</translation>
+    </message>
+    <message>
+        <source>The folder for the changed register and databases; without it nothing is written.</source>
+        <translation>Folder na zmienioną listę firm i bazy; bez niego nic nie jest zapisywane.</translation>
+    </message>
+    <message>
+        <source>the list has no firm %1</source>
+        <translation>na liście nie ma firmy %1</translation>
+    </message>
+    <message>
+        <source>Lists what making one firm of two changes in the register and in the materials, and writes it into a folder when asked to.</source>
+        <translation>Wypisuje, co na liście firm i w materiałach zmieni zrobienie jednej firmy z dwóch, a na żądanie zapisuje to w folderze.</translation>
+    </message>
+    <message>
+        <source>Fetch copies of the datasheets that answer, too.</source>
+        <translation>Pobierz też kopie dostępnych kart katalogowych.</translation>
+    </message>
+    <message>
+        <source>How many days a kept result counts; 0: examine all again.</source>
+        <translation>Ile dni liczy się zachowany wynik; 0: zbadaj wszystkie ponownie.</translation>
+    </message>
+    <message>
+        <source>Tell on standard error how many links are examined.</source>
+        <translation>Podawaj na standardowym wyjściu błędów, ile odnośników zbadano.</translation>
+    </message>
+    <message>
+        <source>--days takes a number of days</source>
+        <translation>--days przyjmuje liczbę dni</translation>
+    </message>
+    <message>
+        <source>Examines the links of material databases over HTTP and HTTPS, and lists those that moved or do not answer. Exit code 1 when some do not.</source>
+        <translation>Bada odnośniki z baz materiałów przez HTTP i HTTPS i wypisuje te, które przeniesiono lub które nie odpowiadają. Kod wyjścia 1, gdy któreś nie odpowiadają.</translation>
+    </message>
+    <message>
+        <source>In the order</source>
+        <translation>W zamówieniu</translation>
+    </message>
+    <message>
+        <source>In the BOM list</source>
+        <translation>Na liście BOM</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, pozycja %2: %3</translation>
+    </message>
+    <message>
+        <source>is no set of BOM lists</source>
+        <translation>nie jest zestawem list BOM</translation>
+    </message>
+    <message>
+        <source>A material database. May be given several times.</source>
+        <translation>Baza materiałów. Można podać wiele razy.</translation>
+    </message>
+    <message>
+        <source>A BOM list, a set of BOM lists or an order in which to look for the material. May be given several times.</source>
+        <translation>Lista BOM, zestaw list BOM lub zamówienie, w którym szukać materiału. Można podać wiele razy.</translation>
+    </message>
+    <message>
+        <source>no material has the KTM %1</source>
+        <translation>żaden materiał nie ma KTM %1</translation>
+    </message>
+    <message>
+        <source>Tells all of the materials with a KTM, and where they are used.</source>
+        <translation>Podaje wszystko o materiałach o danym KTM i gdzie są użyte.</translation>
+    </message>
+    <message>
+        <source>Which materials, as &quot;find&quot; searches them.</source>
+        <translation>Które materiały, tak jak szuka ich „find”.</translation>
+    </message>
+    <message>
+        <source>The field: its name in a search or in the file.</source>
+        <translation>Pole: jego nazwa w wyszukiwaniu lub w pliku.</translation>
+    </message>
+    <message>
+        <source>Give it this text.</source>
+        <translation>Nadaj mu ten tekst.</translation>
+    </message>
+    <message>
+        <source>Replace this part of its text; wants --with.</source>
+        <translation>Zamień tę część tekstu; wymaga --with.</translation>
+    </message>
+    <message>
+        <source>What stands in its place then.</source>
+        <translation>Co ma stać w jej miejscu.</translation>
+    </message>
+    <message>
+        <source>A is a regular expression; $1 in B is what its first bracket found.</source>
+        <translation>A jest wyrażeniem regularnym; $1 w B to wynik jego pierwszego nawiasu.</translation>
+    </message>
+    <message>
+        <source>Compose it from other fields: &quot;{value} {case}&quot;.</source>
+        <translation>Złóż je z innych pól: „{value} {case}”.</translation>
+    </message>
+    <message>
+        <source>Only print what would change; nothing is written.</source>
+        <translation>Tylko wypisz, co by się zmieniło; nic nie jest zapisywane.</translation>
+    </message>
+    <message>
+        <source>give --find, --field, and one of --set, --replace and --template</source>
+        <translation>podaj --find, --field i jedno z --set, --replace i --template</translation>
+    </message>
+    <message>
+        <source>--replace and --with belong together, and --pattern to them</source>
+        <translation>--replace i --with idą w parze, a --pattern tylko z nimi</translation>
+    </message>
+    <message>
+        <source>there is no field %1; the fields: %2</source>
+        <translation>nie ma pola %1; pola: %2</translation>
+    </message>
+    <message>
+        <source>found %1, to change %2, unchanged %3, refused %4</source>
+        <translation>znaleziono %1, do zmiany %2, bez zmian %3, odrzucono %4</translation>
+    </message>
+    <message>
+        <source>Changes a field of all materials that a search finds, and writes the database; the file as it was is kept among its versions. Nothing is written when one of them is refused.</source>
+        <translation>Zmienia pole wszystkich materiałów, które znajdzie wyszukiwanie, i zapisuje bazę; dotychczasowy plik zostaje wśród jego wersji. Gdy choć jeden materiał zostanie odrzucony, nic nie jest zapisywane.</translation>
     </message>
 </context>
 <context>
@@ -2794,6 +3919,13 @@ Pola: %1</translation>
     <message>
         <source>%1, %2: %3 → %4</source>
         <translation>%1, %2: %3 → %4</translation>
+    </message>
+</context>
+<context>
+    <name>completionList</name>
+    <message>
+        <source>Completions</source>
+        <translation>Podpowiedzi</translation>
     </message>
 </context>
 <context>
@@ -3327,6 +4459,117 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>databaseFindings</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplikat</translation>
+    </message>
+    <message>
+        <source>Empty field</source>
+        <translation>Puste pole</translation>
+    </message>
+    <message>
+        <source>KTM</source>
+        <translation>KTM</translation>
+    </message>
+    <message>
+        <source>CPV</source>
+        <translation>CPV</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Odnośnik</translation>
+    </message>
+    <message>
+        <source>Missing file</source>
+        <translation>Brak pliku</translation>
+    </message>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>the same KTM has: %1</source>
+        <translation>ten sam KTM ma: %1</translation>
+    </message>
+    <message>
+        <source>the same part number has: %1</source>
+        <translation>ten sam numer katalogowy ma: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>puste</translation>
+    </message>
+    <message>
+        <source>neither a manufacturer nor a supplier</source>
+        <translation>brak producenta i dostawcy</translation>
+    </message>
+    <message>
+        <source>a manufacturer without a name</source>
+        <translation>producent bez nazwy</translation>
+    </message>
+    <message>
+        <source>a supplier without a name</source>
+        <translation>dostawca bez nazwy</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has not the form XXXXXX-XX.XX-XXXXXX</source>
+        <translation>„%1” nie ma postaci XXXXXX-XX.XX-XXXXXX</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has not the form of a CPV code</source>
+        <translation>„%1” nie ma postaci kodu CPV</translation>
+    </message>
+    <message>
+        <source>an attached file without an address</source>
+        <translation>załączony plik bez adresu</translation>
+    </message>
+    <message>
+        <source>no proper address: %1</source>
+        <translation>niepoprawny adres: %1</translation>
+    </message>
+    <message>
+        <source>does not answer: %1</source>
+        <translation>nie odpowiada: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>nie ma pliku %1</translation>
+    </message>
+    <message>
+        <source>no manufacturer of the register: %1</source>
+        <translation>producenta nie ma w rejestrze firm: %1</translation>
+    </message>
+    <message>
+        <source>no supplier of the register: %1</source>
+        <translation>dostawcy nie ma w rejestrze firm: %1</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Rodzaj</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Powód</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (it has %2)</source>
+        <translation>%1 (jest w nim %2)</translation>
+    </message>
+</context>
+<context>
     <name>databaseMerge</name>
     <message>
         <source>All materials in database</source>
@@ -3362,12 +4605,95 @@ Pola: %1</translation>
             <numerusform>%n materiałów</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
 </context>
 <context>
     <name>desktop</name>
     <message>
         <source>This link is not opened. Only web and mail addresses are, and documents in the program&apos;s folders:</source>
         <translation>Ten odnośnik nie został otwarty. Otwierane są tylko adresy stron i poczty oraz dokumenty w folderach programu:</translation>
+    </message>
+</context>
+<context>
+    <name>droppedFiles</name>
+    <message>
+        <source>it does not hold what its name says</source>
+        <translation>zawartość nie odpowiada nazwie pliku</translation>
+    </message>
+    <message>
+        <source>files of its kind are not known</source>
+        <translation>nieznany rodzaj pliku</translation>
+    </message>
+    <message>
+        <source>it is neither a listing of the warehouse nor a table of groups and their CPV codes</source>
+        <translation>nie jest to ani zestawienie z magazynu, ani tabela grup z kodami CPV</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>to jest folder</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>nie można go odczytać</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>jest pusty</translation>
+    </message>
+    <message>
+        <source>it is a file of this program, but no material database</source>
+        <translation>to plik tego programu, ale nie baza materiałów</translation>
+    </message>
+    <message>
+        <source>There is no file</source>
+        <translation>Nie ma pliku</translation>
+    </message>
+    <message>
+        <source>%1 is no material database, listing of the warehouse, CPV table or datasheet: %2</source>
+        <translation>%1 nie jest bazą materiałów, zestawieniem z magazynu, tabelą CPV ani kartą katalogową: %2</translation>
+    </message>
+    <message>
+        <source>Only datasheets can be dropped several at once</source>
+        <translation>Kilka plików naraz można upuścić tylko wtedy, gdy wszystkie są kartami katalogowymi</translation>
+    </message>
+    <message>
+        <source>Compare with %1 and take over changes</source>
+        <translation>Porównaj z %1 i przejmij zmiany</translation>
+    </message>
+    <message>
+        <source>Editing of the database is locked</source>
+        <translation>Edycja bazy jest zablokowana</translation>
+    </message>
+    <message>
+        <source>Take stock and prices from %1</source>
+        <translation>Przejmij stany i ceny z %1</translation>
+    </message>
+    <message>
+        <source>Take the groups&apos; CPV codes from %1</source>
+        <translation>Przejmij kody CPV grup z %1</translation>
+    </message>
+    <message>
+        <source>A datasheet is dropped on the material that it belongs to</source>
+        <translation>Kartę katalogową upuszcza się na materiał, do którego należy</translation>
+    </message>
+    <message>
+        <source>%1 has no manufacturer or supplier that the file could belong to</source>
+        <translation>%1 nie ma producenta ani dostawcy, do którego plik mógłby należeć</translation>
+    </message>
+    <message>
+        <source>Attach %1 to %2</source>
+        <translation>Dołącz %1 do %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Attach %n file(s) to %1</source>
+        <translation>
+            <numerusform>Dołącz %n plik do %1</numerusform>
+            <numerusform>Dołącz %n pliki do %1</numerusform>
+            <numerusform>Dołącz %n plików do %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3628,6 +4954,148 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>exportChanges</name>
+    <message>
+        <source>Table added</source>
+        <translation>Dodana tabela</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) added</source>
+        <translation>
+            <numerusform>%n tabela dodana</numerusform>
+            <numerusform>%n tabele dodane</numerusform>
+            <numerusform>%n tabel dodanych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Table removed</source>
+        <translation>Usunięta tabela</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) removed</source>
+        <translation>
+            <numerusform>%n tabela usunięta</numerusform>
+            <numerusform>%n tabele usunięte</numerusform>
+            <numerusform>%n tabel usuniętych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Table renamed</source>
+        <translation>Tabela o nowej nazwie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) renamed</source>
+        <translation>
+            <numerusform>%n tabela o nowej nazwie</numerusform>
+            <numerusform>%n tabele o nowych nazwach</numerusform>
+            <numerusform>%n tabel o nowych nazwach</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Material added</source>
+        <translation>Dodany materiał</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) added</source>
+        <translation>
+            <numerusform>%n materiał dodany</numerusform>
+            <numerusform>%n materiały dodane</numerusform>
+            <numerusform>%n materiałów dodanych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Material removed</source>
+        <translation>Usunięty materiał</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) removed</source>
+        <translation>
+            <numerusform>%n materiał usunięty</numerusform>
+            <numerusform>%n materiały usunięte</numerusform>
+            <numerusform>%n materiałów usuniętych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Material changed</source>
+        <translation>Zmieniony materiał</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) changed</source>
+        <translation>
+            <numerusform>%n materiał zmieniony</numerusform>
+            <numerusform>%n materiały zmienione</numerusform>
+            <numerusform>%n materiałów zmienionych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Material moved</source>
+        <translation>Przeniesiony materiał</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) moved</source>
+        <translation>
+            <numerusform>%n materiał przeniesiony</numerusform>
+            <numerusform>%n materiały przeniesione</numerusform>
+            <numerusform>%n materiałów przeniesionych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Zmiana</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabela</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+    <message>
+        <source>No earlier export to compare with</source>
+        <translation>Brak wcześniejszego eksportu do porównania</translation>
+    </message>
+    <message>
+        <source>Nothing changed since the export of %1</source>
+        <translation>Bez zmian od eksportu z %1</translation>
+    </message>
+    <message>
+        <source>Since the export of %1: %2</source>
+        <translation>Od eksportu z %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>exportChangesDialog</name>
+    <message>
+        <source>Changes of the export</source>
+        <translation>Zmiany w eksporcie</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtr</translation>
+    </message>
+    <message>
+        <source>Show only what holds this text</source>
+        <translation>Pokaż tylko wiersze zawierające ten tekst</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all that are shown</source>
+        <translation>Kopiuje zaznaczone wiersze, a gdy żaden nie jest zaznaczony, wszystkie pokazane</translation>
+    </message>
+</context>
+<context>
     <name>filterComboBox</name>
     <message>
         <source>Choices</source>
@@ -3643,10 +5111,136 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>findingsWindow</name>
+    <message>
+        <source>Words to search for</source>
+        <translation>Szukane słowa</translation>
+    </message>
+    <message>
+        <source>Words of the KTM, material, group, field or reason</source>
+        <translation>Słowa z KTM, materiału, grupy, pola lub powodu</translation>
+    </message>
+    <message>
+        <source>Kind of finding</source>
+        <translation>Rodzaj uwagi</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Kontrole</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Sprawdzanie</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Wszystkie rodzaje</translation>
+    </message>
+    <message>
+        <source>Nothing was checked</source>
+        <translation>Nic nie sprawdzono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n uwaga</numerusform>
+            <numerusform>%n uwagi</numerusform>
+            <numerusform>%n uwag</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n finding(s) shown</source>
+        <translation>
+            <numerusform>Pokazano %1 z %n uwagi</numerusform>
+            <numerusform>Pokazano %1 z %n uwag</numerusform>
+            <numerusform>Pokazano %1 z %n uwag</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the register of firms is empty: they were not checked</source>
+        <translation>rejestr firm jest pusty: firm nie sprawdzono</translation>
+    </message>
+    <message>
+        <source>Check the database with F5</source>
+        <translation>Sprawdź bazę klawiszem F5</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong that is checked here</source>
+        <translation>Kontrole nie wykazały żadnych błędów</translation>
+    </message>
+    <message>
+        <source>No finding matches</source>
+        <translation>Żadna uwaga nie pasuje</translation>
+    </message>
+    <message>
+        <source>there are no findings</source>
+        <translation>nie ma uwag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Xlsx File</source>
+        <translation>Plik XLSX</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Exporting</source>
+        <translation>Eksport</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>Zapisano %1</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
+</context>
+<context>
     <name>firmChecks</name>
     <message>
         <source>The tax number %1 is not correct</source>
         <translation>Numer NIP %1 jest niepoprawny</translation>
+    </message>
+</context>
+<context>
+    <name>firmMerge</name>
+    <message>
+        <source>Where</source>
+        <translation>Gdzie</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>goes</source>
+        <translation>znika</translation>
     </message>
 </context>
 <context>
@@ -3762,6 +5356,85 @@ Pola: %1</translation>
     <message>
         <source>Saved, but firms are not renamed in every database</source>
         <translation>Zapisano, ale nazw firm nie zmieniono we wszystkich bazach</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation>Zamówienia</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Ostatnio użyta</translation>
+    </message>
+    <message>
+        <source>select the firms that are one</source>
+        <translation>należy zaznaczyć firmy, które są jedną</translation>
+    </message>
+    <message>
+        <source>Reading orders</source>
+        <translation>Odczyt zamówień</translation>
+    </message>
+    <message>
+        <source>the list has a firm %1 already</source>
+        <translation>na liście jest już firma %1</translation>
+    </message>
+    <message>
+        <source>Nothing is pasted: the list would have two firms of a name:</source>
+        <translation>Nic nie wklejono: na liście byłyby dwie firmy o tej samej nazwie:</translation>
+    </message>
+    <message>
+        <source>Nothing is pasted</source>
+        <translation>Nic nie wklejono</translation>
+    </message>
+    <message>
+        <source>The name was not changed</source>
+        <translation>Nazwa nie została zmieniona</translation>
+    </message>
+    <message>
+        <source>The list has a new firm %1 already. Give it its name first.</source>
+        <translation>Na liście jest już nowa firma %1. Najpierw trzeba nadać jej nazwę.</translation>
+    </message>
+    <message>
+        <source>The firm register is locked</source>
+        <translation>Rejestr firm jest zablokowany</translation>
+    </message>
+    <message>
+        <source>The firm register: %1</source>
+        <translation>Rejestr firm: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n firm(s) merged into %1</source>
+        <translation>
+            <numerusform>%n firma włączona do %1</numerusform>
+            <numerusform>%n firmy włączone do %1</numerusform>
+            <numerusform>%n firm włączonych do %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>keptSearchesDialog</name>
+    <message>
+        <source>Kept searches</source>
+        <translation>Zachowane wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Wyszukiwanie</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
+    <message>
+        <source>A search needs a name</source>
+        <translation>Wyszukiwanie musi mieć nazwę</translation>
+    </message>
+    <message>
+        <source>There is another search %1</source>
+        <translation>Jest już inne wyszukiwanie %1</translation>
     </message>
 </context>
 <context>
@@ -4306,6 +5979,30 @@ Pola: %1</translation>
         <source>Supplier</source>
         <translation>Dostawca</translation>
     </message>
+    <message>
+        <source>GRAY</source>
+        <translation>SZARY</translation>
+    </message>
+    <message>
+        <source>BLUE</source>
+        <translation>NIEBIESKI</translation>
+    </message>
+    <message>
+        <source>GREEN</source>
+        <translation>ZIELONY</translation>
+    </message>
+    <message>
+        <source>VIOLET</source>
+        <translation>FIOLETOWY</translation>
+    </message>
+    <message>
+        <source>LOW</source>
+        <translation>NISKIE</translation>
+    </message>
+    <message>
+        <source>HIGH</source>
+        <translation>WYSOKIE</translation>
+    </message>
 </context>
 <context>
     <name>lineSums</name>
@@ -4399,6 +6096,270 @@ Pola: %1</translation>
     <message>
         <source>Copy to</source>
         <translation>Kopiuj do</translation>
+    </message>
+</context>
+<context>
+    <name>linkExamination</name>
+    <message>
+        <source>answers</source>
+        <translation>odpowiada</translation>
+    </message>
+    <message>
+        <source>moved for good</source>
+        <translation>przeniesiony na stałe</translation>
+    </message>
+    <message>
+        <source>moved for now</source>
+        <translation>przeniesiony tymczasowo</translation>
+    </message>
+    <message>
+        <source>is gone</source>
+        <translation>już nie istnieje</translation>
+    </message>
+    <message>
+        <source>is refused</source>
+        <translation>odmowa dostępu</translation>
+    </message>
+    <message>
+        <source>the server fails</source>
+        <translation>błąd serwera</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>brak odpowiedzi w wyznaczonym czasie</translation>
+    </message>
+    <message>
+        <source>cannot be reached</source>
+        <translation>nieosiągalny</translation>
+    </message>
+    <message>
+        <source>the certificate is not trusted</source>
+        <translation>certyfikat nie jest zaufany</translation>
+    </message>
+    <message>
+        <source>is redirected in a circle</source>
+        <translation>przekierowania w kółko</translation>
+    </message>
+    <message>
+        <source>no web address</source>
+        <translation>to nie adres WWW</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation>za duży</translation>
+    </message>
+    <message>
+        <source>is no PDF or picture</source>
+        <translation>to nie PDF ani obraz</translation>
+    </message>
+    <message>
+        <source>cannot be saved</source>
+        <translation>nie można zapisać</translation>
+    </message>
+</context>
+<context>
+    <name>linkReasons</name>
+    <message>
+        <source>it leads to no web address</source>
+        <translation>nie prowadzi do adresu WWW</translation>
+    </message>
+    <message>
+        <source>nobody knows the host</source>
+        <translation>nieznany serwer</translation>
+    </message>
+    <message>
+        <source>no web server is there</source>
+        <translation>nie ma tam serwera WWW</translation>
+    </message>
+    <message>
+        <source>the server cut the connection</source>
+        <translation>serwer zerwał połączenie</translation>
+    </message>
+</context>
+<context>
+    <name>linkRows</name>
+    <message>
+        <source>not examined yet</source>
+        <translation>jeszcze niezbadany</translation>
+    </message>
+    <message>
+        <source>perhaps to something else</source>
+        <translation>być może do czegoś innego</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Odnośnik</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Examined</source>
+        <translation>Zbadano</translation>
+    </message>
+    <message>
+        <source>New address</source>
+        <translation>Nowy adres</translation>
+    </message>
+    <message>
+        <source>Local copy</source>
+        <translation>Kopia lokalna</translation>
+    </message>
+</context>
+<context>
+    <name>linksWindow</name>
+    <message>
+        <source>A part of the material, link or state</source>
+        <translation>Część materiału, odnośnika lub stanu</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Odnośniki</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>Links of materials</source>
+        <translation>Odnośniki materiałów</translation>
+    </message>
+    <message>
+        <source>%1 of %2 links shown</source>
+        <translation>Widać %1 z %2 odnośników</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s)</source>
+        <translation>
+            <numerusform>%n odnośnik</numerusform>
+            <numerusform>%n odnośniki</numerusform>
+            <numerusform>%n odnośników</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>: %1 answer, %2 moved, of these %3 marked; %4 do not answer</source>
+        <translation>; odpowiada: %1, przeniesionych: %2, z tego zaznaczonych: %3; nie odpowiada: %4</translation>
+    </message>
+    <message>
+        <source>links are being examined</source>
+        <translation>trwa badanie odnośników</translation>
+    </message>
+    <message>
+        <source>no link is selected</source>
+        <translation>nie wybrano odnośnika</translation>
+    </message>
+    <message>
+        <source>the database has no links</source>
+        <translation>baza nie ma odnośników</translation>
+    </message>
+    <message>
+        <source>no links are being examined</source>
+        <translation>nie trwa badanie odnośników</translation>
+    </message>
+    <message>
+        <source>editing of the database is locked</source>
+        <translation>edycja bazy jest zablokowana</translation>
+    </message>
+    <message>
+        <source>no new address is marked</source>
+        <translation>nie zaznaczono nowego adresu</translation>
+    </message>
+    <message>
+        <source>no link has a new address</source>
+        <translation>żaden odnośnik nie ma nowego adresu</translation>
+    </message>
+    <message>
+        <source>this link has no copy</source>
+        <translation>ten odnośnik nie ma kopii</translation>
+    </message>
+    <message>
+        <source>Fetching</source>
+        <translation>Pobieranie</translation>
+    </message>
+    <message>
+        <source>Examining</source>
+        <translation>Badanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>All links were examined in the last %n day(s)</source>
+        <translation>
+            <numerusform>Wszystkie odnośniki zbadano w ciągu ostatniego %n dnia</numerusform>
+            <numerusform>Wszystkie odnośniki zbadano w ciągu ostatnich %n dni</numerusform>
+            <numerusform>Wszystkie odnośniki zbadano w ciągu ostatnich %n dni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Examine the link of this row, or all?</source>
+        <translation>Zbadać odnośnik z tego wiersza czy wszystkie?</translation>
+    </message>
+    <message>
+        <source>This one</source>
+        <translation>Tylko ten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Wszystkie</translation>
+    </message>
+    <message>
+        <source>Fetch the document of this row, or those of all datasheets that answer and have no copy (%1)?</source>
+        <translation>Pobrać dokument z tego wiersza czy wszystkie dostępne karty katalogowe, które nie mają kopii (%1)?</translation>
+    </message>
+    <message>
+        <source>There is nothing to fetch</source>
+        <translation>Nie ma czego pobrać</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) fetched</source>
+        <translation>
+            <numerusform>Pobrano %n dokument</numerusform>
+            <numerusform>Pobrano %n dokumenty</numerusform>
+            <numerusform>Pobrano %n dokumentów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) examined</source>
+        <translation>
+            <numerusform>Zbadano %n odnośnik</numerusform>
+            <numerusform>Zbadano %n odnośniki</numerusform>
+            <numerusform>Zbadano %n odnośników</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not</source>
+        <translation>
+            <numerusform>nie pobrano %n</numerusform>
+            <numerusform>nie pobrano %n</numerusform>
+            <numerusform>nie pobrano %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>then stopped</source>
+        <translation>potem zatrzymano</translation>
+    </message>
+    <message>
+        <source>The results cannot be kept in %1</source>
+        <translation>Nie można zachować wyników w %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) changed in the database</source>
+        <translation>
+            <numerusform>Zmieniono w bazie %n odnośnik</numerusform>
+            <numerusform>Zmieniono w bazie %n odnośniki</numerusform>
+            <numerusform>Zmieniono w bazie %n odnośników</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The material is not there any more</source>
+        <translation>Materiału już nie ma</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4605,6 +6566,45 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>materialPage</name>
+    <message>
+        <source>Open order</source>
+        <translation>Otwarte zamówienie</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, pozycja %2</translation>
+    </message>
+    <message>
+        <source>In BOM lists</source>
+        <translation>Na listach BOM</translation>
+    </message>
+    <message>
+        <source>In orders</source>
+        <translation>W zamówieniach</translation>
+    </message>
+    <message>
+        <source>In no BOM list and no order</source>
+        <translation>Na żadnej liście BOM i w żadnym zamówieniu</translation>
+    </message>
+    <message>
+        <source>BOM lists and orders are still being read</source>
+        <translation>Listy BOM i zamówienia są jeszcze wczytywane</translation>
+    </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Nie wczytano: %1</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>Select a material</source>
+        <translation>Zaznacz materiał</translation>
+    </message>
+</context>
+<context>
     <name>materialTree</name>
     <message>
         <source>%1, status %2</source>
@@ -4773,6 +6773,22 @@ Pola: %1</translation>
         <source>Nothing was sent</source>
         <translation>Niczego nie wysłano</translation>
     </message>
+    <message>
+        <source>The firm register has no manufacturer %1.</source>
+        <translation>W rejestrze firm nie ma producenta %1.</translation>
+    </message>
+    <message>
+        <source>The firm register has no supplier %1.</source>
+        <translation>W rejestrze firm nie ma dostawcy %1.</translation>
+    </message>
+    <message>
+        <source>Add to the register</source>
+        <translation>Dodaj do rejestru</translation>
+    </message>
+    <message>
+        <source>Only in this material</source>
+        <translation>Tylko w tym materiale</translation>
+    </message>
 </context>
 <context>
     <name>mergeDialog</name>
@@ -4859,6 +6875,56 @@ Pola: %1</translation>
     <message>
         <source>Pick in each row marked with ? first</source>
         <translation>Najpierw wybierz w każdym wierszu oznaczonym ?</translation>
+    </message>
+</context>
+<context>
+    <name>mergeFirmsDialog</name>
+    <message>
+        <source>Merge firms</source>
+        <translation>Połącz firmy</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Zmiany</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Połącz</translation>
+    </message>
+    <message>
+        <source>The firm that stays</source>
+        <translation>Firma, która zostaje</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) get the name %1 when the list is saved.</source>
+        <translation>
+            <numerusform>%n materiał dostanie nazwę %1 przy zapisie listy.</numerusform>
+            <numerusform>%n materiały dostaną nazwę %1 przy zapisie listy.</numerusform>
+            <numerusform>%n materiałów dostanie nazwę %1 przy zapisie listy.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>mergeTree</name>
+    <message>
+        <source>once more: %1</source>
+        <translation>jeszcze raz: %1</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nowy</translation>
+    </message>
+    <message>
+        <source>New in the other file</source>
+        <translation>Nowy w drugim pliku</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) differ</source>
+        <translation>
+            <numerusform>różni się %n pole</numerusform>
+            <numerusform>różnią się %n pola</numerusform>
+            <numerusform>różni się %n pól</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4982,6 +7048,17 @@ Pola: %1</translation>
     <message>
         <source>is not a number</source>
         <translation>nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>officeConverter</name>
+    <message>
+        <source>LibreOffice reads %1 and is not installed: install it, or save the file as CSV or XLSX</source>
+        <translation>Plik %1 czyta LibreOffice, który nie jest zainstalowany: zainstaluj go albo zapisz plik jako CSV lub XLSX</translation>
+    </message>
+    <message>
+        <source>LibreOffice cannot read %1</source>
+        <translation>LibreOffice nie może odczytać %1</translation>
     </message>
 </context>
 <context>
@@ -5220,6 +7297,190 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>partsColumns</name>
+    <message>
+        <source>(not used)</source>
+        <translation>(nieużywana)</translation>
+    </message>
+    <message>
+        <source>Designators</source>
+        <translation>Oznaczenia</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Ilość</translation>
+    </message>
+    <message>
+        <source>KTM</source>
+        <translation>KTM</translation>
+    </message>
+    <message>
+        <source>Part number</source>
+        <translation>Numer części</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Producent</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wartość</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Obudowa</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Opis</translation>
+    </message>
+    <message>
+        <source>Supplier</source>
+        <translation>Dostawca</translation>
+    </message>
+    <message>
+        <source>Supplier&apos;s number</source>
+        <translation>Numer dostawcy</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Tolerancja</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Napięcie</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Moc</translation>
+    </message>
+    <message>
+        <source>Not fitted</source>
+        <translation>Niemontowany</translation>
+    </message>
+    <message>
+        <source>Fitted</source>
+        <translation>Montowany</translation>
+    </message>
+</context>
+<context>
+    <name>partsLines</name>
+    <message>
+        <source>no quantity, taken as 1</source>
+        <translation>brak ilości, przyjęto 1</translation>
+    </message>
+    <message>
+        <source>the quantity &quot;%1&quot; is no number, taken as 1</source>
+        <translation>ilość „%1” nie jest liczbą, przyjęto 1</translation>
+    </message>
+    <message>
+        <source>the file says %1, the designators are %2</source>
+        <translation>w pliku jest %1, oznaczeń jest %2</translation>
+    </message>
+    <message>
+        <source>line %1 names no part: %2</source>
+        <translation>wiersz %1 nie nazywa elementu: %2</translation>
+    </message>
+    <message>
+        <source>designators stand twice</source>
+        <translation>oznaczenia się powtarzają</translation>
+    </message>
+</context>
+<context>
+    <name>partsMatching</name>
+    <message>
+        <source>decided before</source>
+        <translation>wcześniejsza decyzja</translation>
+    </message>
+    <message>
+        <source>KTM</source>
+        <translation>KTM</translation>
+    </message>
+    <message>
+        <source>manufacturer and part number</source>
+        <translation>producent i numer części</translation>
+    </message>
+    <message>
+        <source>part number</source>
+        <translation>numer części</translation>
+    </message>
+    <message>
+        <source>part number without packaging</source>
+        <translation>numer części bez opakowania</translation>
+    </message>
+    <message>
+        <source>supplier&apos;s number</source>
+        <translation>numer dostawcy</translation>
+    </message>
+    <message>
+        <source>value and case</source>
+        <translation>wartość i obudowa</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>słowa</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>wybrany</translation>
+    </message>
+    <message>
+        <source>%1 %2, not %3</source>
+        <translation>%1 %2, nie %3</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznane</translation>
+    </message>
+    <message>
+        <source>tolerance</source>
+        <translation>tolerancja</translation>
+    </message>
+    <message>
+        <source>voltage</source>
+        <translation>napięcie</translation>
+    </message>
+    <message>
+        <source>power</source>
+        <translation>moc</translation>
+    </message>
+    <message>
+        <source>dielectric %1, not %2</source>
+        <translation>dielektryk %1, nie %2</translation>
+    </message>
+    <message>
+        <source>the case is not compared</source>
+        <translation>obudowy nie porównano</translation>
+    </message>
+</context>
+<context>
+    <name>partsTable</name>
+    <message>
+        <source>has only %1 sheets</source>
+        <translation>ma tylko %1 arkuszy</translation>
+    </message>
+    <message>
+        <source>is larger than 64 MB</source>
+        <translation>jest większy niż 64 MB</translation>
+    </message>
+    <message>
+        <source>is an archive without a table</source>
+        <translation>jest archiwum bez tabeli</translation>
+    </message>
+    <message>
+        <source>is XML, but no list of parts of KiCad</source>
+        <translation>jest plikiem XML, ale nie listą elementów programu KiCad</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>nie jest tekstem</translation>
+    </message>
+    <message>
+        <source>holds no table</source>
+        <translation>nie zawiera tabeli</translation>
+    </message>
+</context>
+<context>
     <name>pdfPrinter</name>
     <message>
         <source>Page no:</source>
@@ -5415,6 +7676,58 @@ Pola: %1</translation>
         <source>Name, KTM, value, part number: 100n 0603, case:SOT23, price:&lt;2</source>
         <translation>Nazwa, KTM, wartość, numer: 100n 0603, obudowa:SOT23, cena:&lt;2</translation>
     </message>
+    <message>
+        <source>Kept and last searches</source>
+        <translation>Zachowane i ostatnie wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Kept and last searches (Alt+Down)</source>
+        <translation>Zachowane i ostatnie wyszukiwania (Alt+strzałka w dół)</translation>
+    </message>
+    <message>
+        <source>Keep this search ...</source>
+        <translation>Zachowaj to wyszukiwanie ...</translation>
+    </message>
+    <message>
+        <source>nothing is searched for</source>
+        <translation>pole wyszukiwania jest puste</translation>
+    </message>
+    <message>
+        <source>Kept searches</source>
+        <translation>Zachowane wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Change kept searches ...</source>
+        <translation>Zmień zachowane wyszukiwania ...</translation>
+    </message>
+    <message>
+        <source>Last searches</source>
+        <translation>Ostatnie wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Forget the last searches</source>
+        <translation>Zapomnij ostatnie wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Keep this search</source>
+        <translation>Zachowaj to wyszukiwanie</translation>
+    </message>
+    <message>
+        <source>Name of the search %1</source>
+        <translation>Nazwa wyszukiwania %1</translation>
+    </message>
+    <message>
+        <source>There is a kept search %1: %2</source>
+        <translation>Jest już zachowane wyszukiwanie %1: %2</translation>
+    </message>
+    <message>
+        <source>Replace it</source>
+        <translation>Zastąp</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
 </context>
 <context>
     <name>searchQuery</name>
@@ -5429,6 +7742,41 @@ Pola: %1</translation>
     <message>
         <source>%1 is no number</source>
         <translation>%1 nie jest liczbą</translation>
+    </message>
+    <message>
+        <source>%1 is no number; a text goes in quotes</source>
+        <translation>%1 nie jest liczbą; tekst wpisz w cudzysłowie</translation>
+    </message>
+    <message>
+        <source>%1 is neither yes nor no</source>
+        <translation>%1 to ani tak, ani nie</translation>
+    </message>
+</context>
+<context>
+    <name>stagedLinesModel</name>
+    <message numerus="yes">
+        <source>choose of %n</source>
+        <translation>
+            <numerusform>do wyboru: %n</numerusform>
+            <numerusform>do wyboru: %n</numerusform>
+            <numerusform>do wyboru: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Part in the file</source>
+        <translation>Element w pliku</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Materiał</translation>
+    </message>
+    <message>
+        <source>Found by</source>
+        <translation>Znaleziono po</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Uwagi</translation>
     </message>
 </context>
 <context>
@@ -5655,6 +8003,21 @@ Pola: %1</translation>
     <message>
         <source>the file cannot be written</source>
         <translation>nie można zapisać pliku</translation>
+    </message>
+</context>
+<context>
+    <name>workbookReader</name>
+    <message>
+        <source>is no workbook, or a damaged one</source>
+        <translation>nie jest skoroszytem albo jest uszkodzony</translation>
+    </message>
+    <message>
+        <source>the sheet %1 is damaged, or too large</source>
+        <translation>arkusz %1 jest uszkodzony albo za duży</translation>
+    </message>
+    <message>
+        <source>holds no sheet</source>
+        <translation>nie zawiera arkusza</translation>
     </message>
 </context>
 <context>

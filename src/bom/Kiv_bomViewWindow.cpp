@@ -78,6 +78,7 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
     auto *page = new QWidget(this);
     m_view = addView(tr("Lines of the BOM list"), "lines", page);
     m_words = new searchLine(m_view);
+    m_words->completeFrom(m_search);
     connect(m_words, &searchLine::wanted, this, &Kiv_bomViewWindow::applyFilter);
     m_counts = new QLabel(this);
     m_counts->setObjectName(QStringLiteral("counts"));
@@ -200,22 +201,21 @@ void Kiv_bomViewWindow::commandFind(bool) { m_words->begin(); }
 void Kiv_bomViewWindow::applyFilter()
 {
     const searchQuery query = m_words->query();
-    std::vector<std::unique_ptr<materialStruct>> shown;
-    materialSearch search;
+    m_search.clear();
+    m_searched.clear();
     for (int row = 0; row < model()->rowCount(); ++row) {
         const auto *first = static_cast<const myItem::myItemStandard *>(model()->item(row));
         const bomLine of = matched(*bomTree::lineRows::recordOf(first), known().materials());
-        shown.push_back(of.material->copy());
-        shown.back()->d_ktm = of.shownKtm();
-        shown.back()->d_description += QLatin1Char(' ') + of.line->d_designator;
-        search.insert({shown.back().get()});
+        materialStruct &shown = *m_searched.emplace_back(of.material->copy());
+        shown.d_ktm = of.shownKtm();
+        shown.d_description += QLatin1Char(' ') + of.line->d_designator;
+        m_search.insert({&shown});
     }
     for (int row = 0; row < model()->rowCount(); ++row)
         m_words->setRowShown(model()->index(row, 0),
                              query.terms().empty()
-                                 || search.matches(shown[size_t(row)].get(), query));
+                                 || m_search.matches(m_searched[size_t(row)].get(), query));
     m_view->deselectHidden();
-    tell(query.errors().join(QLatin1String(", ")));
     updateActions();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "bom/bomTree.h"
+#include "data/materialSearch.h"
 #include "window/editWindow.h"
 
 class QLabel;
@@ -68,6 +69,9 @@ private:
     QString m_fault; // why the list cannot be edited
     std::unique_ptr<kiv_mat_bomStruct> m_bom;
     std::unique_ptr<bomTree::lineRows> m_rows;
+    // The lines as they are searched, and their index, of the last search.
+    std::vector<std::unique_ptr<materialStruct>> m_searched;
+    materialSearch m_search;
     myTreeView *m_view;
     searchLine *m_words = nullptr;
     QLabel *m_counts = nullptr;

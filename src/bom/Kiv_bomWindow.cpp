@@ -1,6 +1,7 @@
 #include "bom/Kiv_bomWindow.h"
 
 #include "bom/Kiv_bomViewWindow.h"
+#include "bom/bomImportWindow.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
@@ -71,6 +72,9 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"addFile", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new file"), "data_new_element2_128",
       "Ins", QT_TRANSLATE_NOOP("actions", "Add a BOM list to this folder")},
      &Kiv_bomWindow::commandAddFile},
+    {{"import", "File", QT_TRANSLATE_NOOP("actions", "Import list of parts ..."), "action_open", "Ctrl+I",
+      QT_TRANSLATE_NOOP("actions", "Make a BOM list of a list of parts of a CAD tool: CSV, XLSX, ODS, KiCad"), true},
+     &Kiv_bomWindow::commandImport},
     {{"addGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new group"), "zp_open_group_128",
       nullptr, nullptr},
      &Kiv_bomWindow::commandAddGroup},
@@ -356,6 +360,13 @@ void Kiv_bomWindow::commandAddFile(bool)
         userPrompts().showErrors();
         return;
     }
+    addToSet(path);
+}
+
+// Below the current folder.
+void Kiv_bomWindow::addToSet(const QString &path)
+{
+    const QDir folder = QFileInfo(known().boms().filePath).absoluteDir();
     auto file = std::make_unique<fileStruct>();
     file->type = QStringLiteral("FILE_XML");
     // A list beside the set moves with it.
@@ -367,6 +378,37 @@ void Kiv_bomWindow::commandAddFile(bool)
     push(std::make_unique<appendCommands>(std::move(members), model()), tr("List added"));
     m_view->expandItem(group);
     selectItem(m_view, group->child(group->rowCount() - 1, bomTree::setsColumn));
+}
+
+// A list that the set has already is written anew, and stays where it is.
+void Kiv_bomWindow::commandImport(bool)
+{
+    const QDir folder = QFileInfo(known().boms().filePath).absoluteDir();
+    if (!m_import) {
+        m_import = std::make_unique<bomImportWindow>(known(), folder.path());
+        m_import->writeList = [this](const QString &path, kiv_mat_bomStruct &bom) {
+            if (!saveDocument(path, bom, known().config()))
+                return false;
+            QStringList paths;
+            for (const QStandardItem *file : bomTree::allFiles(model()))
+                paths.append(pathOf(file));
+            if (!paths.contains(QFileInfo(path).absoluteFilePath()) && !paths.contains(path))
+                addToSet(path);
+            tell(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+            return true;
+        };
+    }
+    const QString path = userPrompts().openFile(
+        tr("Open list of parts"), folder.path(),
+        tr("Lists of parts") + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;") + tr("All files")
+            + QLatin1String(" (*)"));
+    if (path.isEmpty())
+        return;
+    m_import->show();
+    m_import->raise();
+    m_import->activateWindow();
+    if (!m_import->openList(path))
+        m_import->close();
 }
 
 // Below the current category; without one a category of its own.

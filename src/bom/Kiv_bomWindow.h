@@ -10,6 +10,7 @@
 #include <map>
 
 class Kiv_bomViewWindow;
+class bomImportWindow;
 class QTreeView;
 class childRunner;
 
@@ -45,6 +46,7 @@ public slots:
 
     // Of the context menu, on the current row.
     void commandAddFile(bool);
+    void commandImport(bool);
     void commandAddGroup(bool);
     void commandDelete(bool);
     void commandOpen(bool);
@@ -102,6 +104,7 @@ private:
     void setSets(const QList<QStandardItem *> &files, int sets, const QString &what);
     QStandardItem *groupForNewFile(std::vector<std::unique_ptr<command>> &members);
     readLists read(const QList<QStandardItem *> &files);
+    void addToSet(const QString &path);
     // Opens the file that was dropped on a list's window in one of its own.
     void openList(const QString &path);
     void tellWritten(const QString &path, bool written);
@@ -111,5 +114,6 @@ private:
     class QLabel *m_counts;
     QByteArray m_saved; // the set as its file has it
     std::map<QString, std::unique_ptr<Kiv_bomViewWindow>> m_views;
+    std::unique_ptr<bomImportWindow> m_import;
     QString m_lastView; // path of the list whose window was used last
 };

@@ -3,12 +3,15 @@
 #include "cli/arguments.h"
 
 #include "data/loaders.h"
+#include "data/vocabulary.h"
 #include "database/cpvOperations.h"
 #include "database/databaseMerge.h"
 #include "database/warehouseListing.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <set>
 
 namespace cli {
 
@@ -153,6 +156,29 @@ void printDifference(const materialDifference &difference)
               << '\n';
 }
 
+constexpr QLatin1String groupWord = word("group");
+
+// The places of fields by their names; an unknown one is printed, then there are none.
+std::set<int> placesOf(const QString &names)
+{
+    std::set<int> places;
+    for (const QString &name : names.split(QLatin1Char(','))) {
+        const auto place = name.trimmed() == groupWord ? groupPlace() : placeOf(name.trimmed());
+        if (!place) {
+            QStringList known;
+            for (const comparedField &field : comparedFields())
+                known.append(field.name);
+            known.append(groupWord);
+            refuseCall(mergeCommand, QCoreApplication::translate(
+                                         "cli", "%1 is no field of a material; these are: %2")
+                                         .arg(name, known.join(QLatin1String(", "))));
+            return {};
+        }
+        places.insert(*place);
+    }
+    return places;
+}
+
 int runMerge(const QStringList &arguments)
 {
     parser options(mergeCommand, QStringLiteral("DB OTHER"), 2, 2);
@@ -163,13 +189,27 @@ int runMerge(const QStringList &arguments)
         QStringLiteral("update"),
         QCoreApplication::translate(
             "cli", "The other database wins: list, and with --apply delete, what it lacks."));
+    const QCommandLineOption fields(
+        QStringLiteral("fields"),
+        QCoreApplication::translate(
+            "cli", "Only these fields of materials that both have, by their names as in files, and "
+                   "group for the place; no new materials: d_price,d_description,group."),
+        QStringLiteral("LIST"));
     const QCommandLineOption output =
         outputOption(QT_TRANSLATE_NOOP("cli", "Where the merged database goes."));
     options.addOption(apply);
     options.addOption(update);
+    options.addOption(fields);
     options.addOption(output);
     if (!options.accept(arguments))
         return options.code();
+    if (options.isSet(update) && options.isSet(fields))
+        return refuseCall(mergeCommand,
+                          QCoreApplication::translate("cli", "--update takes over all fields"));
+    const std::set<int> places =
+        options.isSet(fields) ? placesOf(options.value(fields)) : std::set<int>();
+    if (options.isSet(fields) && places.empty())
+        return wrongCall;
     if (options.isSet(apply) != options.isSet(output)) {
         err() << "merge: " << QCoreApplication::translate("cli", "--apply and -o belong together")
               << '\n'
@@ -185,8 +225,17 @@ int runMerge(const QStringList &arguments)
         std::erase_if(differences, [](const materialDifference &difference) {
             return difference.kind == materialDifference::absent;
         });
+    if (options.isSet(fields))
+        std::erase_if(differences, [&places](materialDifference &difference) {
+            return (difference.kind != materialDifference::changed
+                    && difference.kind != materialDifference::repeated)
+                   || !narrow(difference, [&places](int place) { return places.count(place) > 0; });
+        });
     if (differences.empty())
-        out() << allMaterialsInDatabase() << '\n';
+        out() << (options.isSet(fields)
+                      ? QCoreApplication::translate("cli", "These fields are the same in both")
+                      : allMaterialsInDatabase())
+              << '\n';
     for (const materialDifference &difference : differences)
         printDifference(difference);
     out() << Qt::flush;

@@ -12,9 +12,10 @@ namespace {
 using exportFunction = exportResult (*)(const kiv_mat_databaseStruct &, const QString &,
                                         const progressFunction &);
 
-// endings: those of the output file, each with the export that writes it.
+// endings: those of the output file, each with the export that writes it. tellsChanges: whether it
+// compares with the last export.
 int runExport(const subcommand &command, const QStringList &arguments,
-              const QList<QPair<QString, exportFunction>> &endings)
+              const QList<QPair<QString, exportFunction>> &endings, bool tellsChanges)
 {
     parser options(command, QStringLiteral("DB"), 1, 1);
     const QCommandLineOption output =
@@ -49,6 +50,11 @@ int runExport(const subcommand &command, const QStringList &arguments,
     }
     for (const QString &path : result.files)
         out() << path << '\n';
+    if (tellsChanges) {
+        out() << summaryOf(result.changes) << '\n';
+        for (const exportChange &change : result.changes.rows)
+            out() << lineOf(change) << '\n';
+    }
     out() << Qt::flush;
     return done;
 }
@@ -57,12 +63,14 @@ int runAltium(const QStringList &arguments)
 {
     return runExport(altiumCommand, arguments,
                      {{QStringLiteral(".xlsx"), exportAltiumXlsx},
-                      {QStringLiteral(".sqlite"), exportAltiumSqlite}});
+                      {QStringLiteral(".sqlite"), exportAltiumSqlite}},
+                     true);
 }
 
 int runGroups(const QStringList &arguments)
 {
-    return runExport(groupsCommand, arguments, {{QStringLiteral(".xlsx"), exportGroups}});
+    return runExport(groupsCommand, arguments, {{QStringLiteral(".xlsx"), exportGroups}},
+                     false);
 }
 
 } // namespace
@@ -70,8 +78,10 @@ int runGroups(const QStringList &arguments)
 const subcommand altiumCommand{
     "altium",
     QT_TRANSLATE_NOOP("cli",
-                      "Writes a material database as a component library for Altium: OUT.xlsx, "
-                      "or OUT.sqlite with its script OUT.txt, and the description OUT.DbLib."),
+                      "Writes a material database as a component library for CAD tools: OUT.xlsx, "
+                      "or OUT.sqlite with its script OUT.txt, and a description of each for Altium "
+                      "(.DbLib), of the SQLite file for KiCad, too (.kicad_dbl). Lists the files, "
+                      "then what has changed since the last export."),
     runAltium};
 const subcommand groupsCommand{
     "groups", QT_TRANSLATE_NOOP("cli", "Writes the groups of a material database as a workbook."),

@@ -2,6 +2,7 @@
 #include "cli/arguments.h"
 #include "cli/jsonOutput.h"
 
+#include "data/keptSearches.h"
 #include "data/materialSearch.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,7 @@ QString grammar()
         "  \"rezystor smd\"       these words in this order\n"
         "  case:0603            that text in one field; case:=0603 the whole of it, case:\"\" "
         "none\n"
+        "  group:=\"Dioda TVS\"   quotes hold a text with blanks together, also behind a sign\n"
         "  value:4k7            an equal number: 4700, 4,7 kOhm; a power may be a fraction: 1/4W\n"
         "  price:>10            more; also >=, <, <= and =\n"
         "  value:1k..10k        from the first to the last; value:1k.. value:..10k\n"
@@ -73,9 +75,28 @@ QString fieldNames()
     return names.join(QLatin1Char(' '));
 }
 
+// The searches that the program keeps; refused when there are none.
+int listKept(bool asJson)
+{
+    QJsonArray list;
+    for (const keptSearch &kept : keptSearches::all()) {
+        list.append(QJsonObject{{QStringLiteral("name"), kept.name},
+                                {QStringLiteral("words"), kept.words}});
+        if (!asJson)
+            out() << kept.name << '\t' << kept.words << '\n';
+    }
+    if (asJson)
+        printJson({{QStringLiteral("kept"), list}});
+    out() << Qt::flush;
+    if (!list.isEmpty())
+        return done;
+    err() << QCoreApplication::translate("cli", "no search is kept") << '\n' << Qt::flush;
+    return refused;
+}
+
 int runFind(const QStringList &arguments)
 {
-    parser options(findCommand, QStringLiteral("WORDS..."), 1, -1);
+    parser options(findCommand, QStringLiteral("WORDS..."), 0, -1);
     options.setApplicationDescription(options.applicationDescription() + QLatin1String("\n\n")
                                       + grammar().arg(fieldNames()));
     const QCommandLineOption database(
@@ -87,15 +108,21 @@ int runFind(const QStringList &arguments)
         {QStringLiteral("n"), QStringLiteral("number")},
         QCoreApplication::translate("cli", "How many materials to print at most (0: all)."),
         QStringLiteral("N"), QString::number(shownAtMost));
-    options.addOption(database);
+    const QCommandLineOption kept(
+        QStringLiteral("kept"),
+        QCoreApplication::translate(
+            "cli", "A search kept in the program under that name; WORDS narrow it."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption list(
+        QStringLiteral("list-kept"),
+        QCoreApplication::translate("cli", "Prints the kept searches and searches nothing."));
     const QCommandLineOption json = jsonOption();
-    options.addOptions({number, json});
+    options.addOptions({database, number, kept, list, json});
     if (!options.accept(arguments))
         return options.code();
-    const auto refuse = [](const QString &fault) {
-        err() << "find: " << fault << '\n' << Qt::flush;
-        return wrongCall;
-    };
+    const auto refuse = [](const QString &fault) { return refuseCall(findCommand, fault); };
+    if (options.isSet(list))
+        return listKept(options.isSet(json));
     bool isNumber = false;
     int limit = options.value(number).toInt(&isNumber);
     if (!isNumber || limit < 0)
@@ -103,10 +130,20 @@ int runFind(const QStringList &arguments)
                           .arg(options.value(number)));
     if (limit == 0)
         limit = std::numeric_limits<int>::max();
+    QStringList words = options.positionalArguments();
+    if (options.isSet(kept)) {
+        const std::optional<keptSearch> search = keptSearches::find(options.value(kept));
+        if (!search)
+            return refuse(
+                QCoreApplication::translate("cli", "no search %1 is kept; see --list-kept")
+                    .arg(options.value(kept)));
+        words.prepend(search->words);
+    }
+    if (words.isEmpty())
+        return refuse(QCoreApplication::translate("cli", "an argument is missing"));
     if (!options.isSet(database))
         return refuse(QCoreApplication::translate("cli", "give a database with -d"));
-    const searchQuery query =
-        searchQuery::parse(options.positionalArguments().join(QLatin1Char(' ')));
+    const searchQuery query = searchQuery::parse(words.join(QLatin1Char(' ')));
     if (!query.errors().isEmpty())
         return refuse(query.errors().join(QLatin1String("; ")));
 

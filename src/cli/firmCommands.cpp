@@ -1,10 +1,12 @@
-// firm-uses: the materials that name a firm, and another name for it in all of them.
+// firm-uses: the materials that name a firm, and another name for it in all of them. firm-merge: two
+// firms made one.
 #include "cli/arguments.h"
 
 #include "data/loaders.h"
-#include "firm/firmOperations.h"
+#include "firm/firmMerge.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace cli {
 
@@ -60,7 +62,95 @@ int runFirmUses(const QStringList &arguments)
     return writeDocument(options.value(output), *database);
 }
 
+// Writes a changed file under its name into a folder.
+int writeInto(const QString &folder, const QString &path, const documentStruct &document)
+{
+    const QString target = folder + QLatin1Char('/') + QFileInfo(path).fileName();
+    QString reason;
+    if (saveXmlNoEvents(target, &document, &reason) < 0)
+        return cannotWrite(target, reason);
+    out() << target << '\n';
+    return done;
+}
+
+int runFirmMerge(const QStringList &arguments)
+{
+    parser options(firmMergeCommand, QStringLiteral("FIRMS GOES STAYS"), 3, 3);
+    const QCommandLineOption databases =
+        databaseOption(QT_TRANSLATE_NOOP("cli", "A material database that names the firms."));
+    const QCommandLineOption suppliers(
+        QStringLiteral("suppliers"),
+        QCoreApplication::translate("cli", "The firms are suppliers, not manufacturers."));
+    const QCommandLineOption output = outputOption(QT_TRANSLATE_NOOP(
+        "cli", "The folder for the changed register and databases; without it nothing is written."));
+    options.addOption(databases);
+    options.addOption(suppliers);
+    options.addOption(output);
+    if (!options.accept(arguments))
+        return options.code();
+    const QStringList given = options.positionalArguments();
+    kiv_mat_firmStruct firms;
+    if (!readFile(given.at(0), &firms,
+                  QCoreApplication::translate("cli", "is no firm register")))
+        return refused;
+    std::vector<std::unique_ptr<kiv_mat_databaseStruct>> read;
+    std::vector<const kiv_mat_databaseStruct *> all;
+    for (const QString &path : options.values(databases)) {
+        read.push_back(readDatabase(path));
+        if (!read.back())
+            return refused;
+        all.push_back(read.back().get());
+    }
+    const firmKind kind = options.isSet(suppliers) ? supplier : manufacturer;
+    std::array<std::optional<size_t>, 2> places;
+    for (int i = 0; i < 2; ++i)
+        places[size_t(i)] = placeOf(listOf(firms, kind), given.at(1 + i));
+    // The second firm of a name is meant when both names are one.
+    if (places[0] && places[0] == places[1]) {
+        const firmList &list = listOf(firms, kind);
+        places[0].reset();
+        for (size_t place = *places[1] + 1; place < list.size() && !places[0]; ++place)
+            if (isSameFirm(list[place]->name, given.at(1)))
+                places[0] = place;
+    }
+    for (int i = 0; i < 2; ++i)
+        if (!places[size_t(i)]) {
+            err() << QCoreApplication::translate("cli", "the list has no firm %1").arg(given.at(1 + i))
+                  << '\n'
+                  << Qt::flush;
+            return refused;
+        }
+    const mergePlan plan = planMerge(firms, kind, *places[1], {*places[0]}, all);
+    for (const QStringList &row : mergeRows(plan)) {
+        QStringList cells;
+        for (const QString &cell : row)
+            cells.append(cell.simplified());
+        out() << cells.join(QLatin1Char('\t')) << '\n';
+    }
+    out() << Qt::flush;
+    if (!options.isSet(output))
+        return done;
+    mergeFirms(firms, plan);
+    const QString folder = options.value(output);
+    int code = writeInto(folder, given.at(0), firms);
+    for (size_t i = 0; i < read.size() && code == done; ++i) {
+        const std::vector<nameChange> changes = changesOf(*read[i], {plan.names});
+        applyNames(changes);
+        if (!changes.empty())
+            code = writeInto(folder, options.values(databases).at(int(i)), *read[i]);
+    }
+    out() << Qt::flush;
+    return code;
+}
+
 } // namespace
+
+const subcommand firmMergeCommand{
+    "firm-merge",
+    QT_TRANSLATE_NOOP("cli",
+                      "Lists what making one firm of two changes in the register and in the "
+                      "materials, and writes it into a folder when asked to."),
+    runFirmMerge};
 
 const subcommand firmUsesCommand{
     "firm-uses",

@@ -18,9 +18,11 @@ const QList<const cli::subcommand *> &commands()
         &cli::loadCpvCommand,        &cli::moveCpvCommand,      &cli::checkNipCommand,
         &cli::checkMaterialsCommand, &cli::firmUsesCommand,     &cli::bomCsvCommand,
         &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
+        &cli::bomImportCommand,      &cli::bomDiffCommand,
         &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
         &cli::uploadCommand,         &cli::packCommand,         &cli::unpackCommand,
-        &cli::versionsCommand,
+        &cli::versionsCommand,       &cli::checkCommand,        &cli::setFieldCommand,
+        &cli::materialCommand,       &cli::examineLinksCommand, &cli::firmMergeCommand,
     };
     return table;
 }
@@ -71,6 +73,9 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(onlyCritical);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    // What is kept of a user is the same as in the program with windows.
+    QCoreApplication::setApplicationName(QStringLiteral("KivZP"));
+    QCoreApplication::setOrganizationName(QStringLiteral("VELT"));
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString language = takeLanguage(arguments);
     if (!translation::languages().contains(language)) {

@@ -40,9 +40,8 @@ QString copied(const QModelIndexList &cells)
             text += QLatin1Char(
                 before.sibling(before.row(), 0) == cell.sibling(cell.row(), 0) ? '\t' : '\n');
         const auto *model = qobject_cast<const myModel *>(cell.model());
-        const myItemStandard *item = model ? model->cell(cell) : nullptr;
-        if (!item || item->type() != myItem::passwordEditKind)
-            text += oneLine(cell.data().toString());
+        const myItemStandard *item = model ? model->look(cell) : nullptr;
+        text += oneLine(item ? myItem::copiedText(*item) : cell.data().toString());
         before = cell;
     }
     return text;

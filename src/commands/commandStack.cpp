@@ -34,15 +34,22 @@ commandStack::~commandStack()
     discard(m_undone);
 }
 
-void commandStack::push(std::unique_ptr<command> applied, const QString &what)
+bool commandStack::push(std::unique_ptr<command> applied, const QString &what)
 {
     m_moved = nullptr;
-    m_done.push_back(
-        {completed ? completed(std::move(applied)) : std::move(applied), what, ++m_lastNumber});
+    const bool wasMade = applied != nullptr;
+    if (completed)
+        applied = completed(std::move(applied));
+    if (wasMade && !applied) {
+        tell();
+        return false;
+    }
+    m_done.push_back({std::move(applied), what, ++m_lastNumber});
     clearRedo();
     enable(m_redoAction, false);
     enable(m_undoAction, true);
     tell();
+    return true;
 }
 
 QString commandStack::undo()

@@ -24,8 +24,8 @@ public:
 
     // Takes a command that is already applied, and discards what could be redone. what names the
     // change to the user. A null command stands for one that could not be made: it takes its step
-    // and does nothing.
-    void push(std::unique_ptr<command> applied, const QString &what = {});
+    // and does nothing. False when completed() has taken the command back: then there is no step.
+    bool push(std::unique_ptr<command> applied, const QString &what = {});
 
     // Take back the last change, do the last one taken back again. Return its name; nothing happens
     // when there is none.
@@ -40,8 +40,8 @@ public:
     void clear();
     void clearRedo();
 
-    // Called with each command before it is taken; gives back the step that it becomes. A window
-    // adds to a change what belongs to it, and may ask the user.
+    // Called with each command before it is taken; gives back the step that it becomes, or null
+    // when it has undone it. A window adds to a change what belongs to it, and may ask the user.
     std::function<std::unique_ptr<command>(std::unique_ptr<command>)> completed;
 
     // Called after each push, undo, redo and clear.

@@ -39,6 +39,30 @@ row takeOut(QStandardItem *parent, int at)
     return model ? model->takeWithRecord(parent, at) : parent->takeRow(at);
 }
 
+// The first cell of a row, by which a step finds it again: a filter may have moved the row
+// meanwhile or have taken it out of the tree.
+myItemStandard *firstOf(QStandardItem *parent, int at)
+{
+    const myModel *model = modelOf(parent);
+    const QModelIndex above = parent->index();
+    return model && above.isValid() ? model->cell(model->index(at, 0, above))
+                                    : dynamic_cast<myItemStandard *>(parent->child(at));
+}
+
+myItemStandard *firstOf(const row &items)
+{
+    return items.isEmpty() ? nullptr : dynamic_cast<myItemStandard *>(items.first());
+}
+
+// Where the row is now, in the tree again; otherwise when it has no such cell.
+int rowNow(QStandardItem *parent, myItemStandard *first, int otherwise)
+{
+    myModel *model = modelOf(parent);
+    if (!first || !model || !model->bringBack(first) || first->model() != model)
+        return otherwise;
+    return first->row();
+}
+
 void writeCell(QStandardItem *item)
 {
     myModel *model = modelOf(item);
@@ -49,24 +73,17 @@ void writeCell(QStandardItem *item)
 // A row that stands in for another one takes its place in the list of records.
 void takePlaceOf(const row &other, const row &fresh)
 {
-    const auto first = [](const row &of) {
-        return of.isEmpty() || of.first()->type() < myItem::standardKind
-                   ? nullptr
-                   : static_cast<myItemStandard *>(of.first());
-    };
-    const myItemStandard *before = first(other);
-    const myItemStandard *after = first(fresh);
+    const myItemStandard *before = firstOf(other);
+    const myItemStandard *after = firstOf(fresh);
     if (!before || !after || !before->owned || !after->owned)
         return;
     after->owned->row = before->owned->row;
     after->owned->place = before->owned->place;
 }
 
-void addPlace(std::vector<QStandardItem *> &cells, const heldRow &items, QStandardItem *parent,
-              int at)
+void addPlace(std::vector<QStandardItem *> &cells, const heldRow &items, QStandardItem *first)
 {
-    QStandardItem *first = items.isHolding() || !parent ? nullptr : parent->child(at);
-    if (first)
+    if (first && !items.isHolding())
         cells.push_back(first);
 }
 
@@ -139,6 +156,7 @@ void appendCommands::places(std::vector<QStandardItem *> &cells) const
 appendItems::appendItems(QStandardItem *parent, const row &items, std::optional<int> at)
     : m_items(items)
     , m_parent(parent)
+    , m_first(firstOf(items))
     , m_row(0)
 {
     if (m_parent) {
@@ -151,7 +169,7 @@ appendItems::appendItems(QStandardItem *parent, const row &items, std::optional<
 void appendItems::undo()
 {
     if (m_parent)
-        m_items.hold(takeOut(m_parent, m_row));
+        m_items.hold(takeOut(m_parent, rowNow(m_parent, m_first, m_row)));
 }
 
 void appendItems::redo()
@@ -162,7 +180,7 @@ void appendItems::redo()
 
 void appendItems::places(std::vector<QStandardItem *> &cells) const
 {
-    addPlace(cells, m_items, m_parent, m_row);
+    addPlace(cells, m_items, m_first);
 }
 
 appendNewMaterial::appendNewMaterial(myModel *model, const row &items)
@@ -187,12 +205,13 @@ void appendNewMaterial::redo()
 
 void appendNewMaterial::places(std::vector<QStandardItem *> &cells) const
 {
-    addPlace(cells, m_items, m_model->invisibleRootItem(), m_row);
+    addPlace(cells, m_items, m_items.isHolding() ? nullptr : m_model->item(m_row));
 }
 
 changeRow::changeRow(QStandardItem *parent, int at, const row &items)
     : m_parent(parent)
     , m_new(items)
+    , m_first(firstOf(parent, at))
     , m_row(at)
 {
     changeRow::redo();
@@ -204,21 +223,25 @@ void changeRow::redo() { exchange(m_old, m_new); }
 
 void changeRow::exchange(heldRow &out, heldRow &in)
 {
+    m_row = rowNow(m_parent, m_first, m_row);
     const row taken = takeOut(m_parent, m_row);
     out.hold(taken);
     const row items = in.release();
     takePlaceOf(taken, items);
+    m_first = firstOf(items);
     putIn(m_parent, m_row, items);
 }
 
 void changeRow::places(std::vector<QStandardItem *> &cells) const
 {
-    cells.push_back(m_parent->child(m_row));
+    if (QStandardItem *first = m_first ? m_first : m_parent->child(m_row))
+        cells.push_back(first);
 }
 
 changeValue::changeValue(myModel *model, myItemStandard *item, const QVariant &value)
     : m_model(model)
     , m_item(item)
+    , m_first(model->cell(item->index().siblingAtColumn(0)))
     , m_new(value)
 {
     changeValue::redo();
@@ -226,12 +249,14 @@ changeValue::changeValue(myModel *model, myItemStandard *item, const QVariant &v
 
 void changeValue::undo()
 {
+    m_model->bringBack(m_first);
     myItem::restore(m_item, m_old, m_oldText);
     written();
 }
 
 void changeValue::redo()
 {
+    m_model->bringBack(m_first);
     m_old = myItem::valueOf(*m_item);
     m_oldText = m_item->text();
     myItem::setValue(m_item, m_new);
@@ -246,18 +271,23 @@ void changeValue::written()
 
 deleteFromItem::deleteFromItem(QStandardItem *parent, QStandardItem *item)
     : m_parent(parent)
+    , m_first(firstOf(parent, item->row()))
     , m_row(item->row())
 {
     deleteFromItem::redo();
 }
 
-void deleteFromItem::undo() { putIn(m_parent, m_row, m_items.release()); }
+void deleteFromItem::undo() { m_row = putIn(m_parent, m_row, m_items.release()); }
 
-void deleteFromItem::redo() { m_items.hold(takeOut(m_parent, m_row)); }
+void deleteFromItem::redo()
+{
+    m_row = rowNow(m_parent, m_first, m_row);
+    m_items.hold(takeOut(m_parent, m_row));
+}
 
 void deleteFromItem::places(std::vector<QStandardItem *> &cells) const
 {
-    addPlace(cells, m_items, m_parent, m_row);
+    addPlace(cells, m_items, m_first);
 }
 
 deleteMaterial::deleteMaterial(myModel *model, const QModelIndex &index)
@@ -281,7 +311,7 @@ void deleteMaterial::redo()
 
 void deleteMaterial::places(std::vector<QStandardItem *> &cells) const
 {
-    addPlace(cells, m_items, m_model->invisibleRootItem(), m_row);
+    addPlace(cells, m_items, m_items.isHolding() ? nullptr : m_model->item(m_row));
 }
 
 increaseValue::increaseValue(QStandardItem *item, unsigned step)

@@ -69,6 +69,7 @@ public:
 private:
     heldRow m_items;
     QStandardItem *m_parent;
+    myItem::myItemStandard *m_first;
     int m_row;
 };
 
@@ -102,6 +103,7 @@ private:
     QStandardItem *m_parent;
     heldRow m_new;
     heldRow m_old;
+    myItem::myItemStandard *m_first; // of the one in the tree
     int m_row;
 };
 
@@ -120,6 +122,7 @@ private:
 
     myModel *m_model;
     myItem::myItemStandard *m_item;
+    myItem::myItemStandard *m_first; // of its row
     QVariant m_new;
     QVariant m_old;
     QString m_oldText;
@@ -137,6 +140,7 @@ public:
 private:
     QStandardItem *m_parent;
     heldRow m_items;
+    myItem::myItemStandard *m_first;
     int m_row;
 };
 

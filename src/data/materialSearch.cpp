@@ -4,10 +4,12 @@
 #include "util/foldedText.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
 constexpr size_t sliceSize = 1000;
+constexpr int longestValue = 60;
 
 // Control characters never stand in a folded text: they part the texts and name the fields.
 constexpr char endMark = 1;
@@ -51,7 +53,7 @@ void materialSearch::add(kiv_mat_databaseStruct *database)
 
 void materialSearch::insert(const entry &added)
 {
-    m_current = false;
+    changed();
     const auto known = m_places.constFind(added.material);
     if (known != m_places.constEnd()) {
         m_all[*known].owner = added;
@@ -67,7 +69,7 @@ void materialSearch::remove(const materialStruct *material)
     const auto known = m_places.constFind(material);
     if (known == m_places.constEnd())
         return;
-    m_current = false;
+    changed();
     // An assignment would keep the text's memory.
     place gone;
     std::swap(m_all[*known], gone);
@@ -80,9 +82,15 @@ void materialSearch::update(const materialStruct *material)
     const auto known = m_places.constFind(material);
     if (known == m_places.constEnd())
         return;
-    m_current = false;
+    changed();
     if (*known < m_read)
         readTexts(m_all[*known]);
+}
+
+void materialSearch::changed()
+{
+    m_current = false;
+    m_values.clear();
 }
 
 void materialSearch::clear() { *this = materialSearch(); }
@@ -332,6 +340,46 @@ bool materialSearch::matches(const materialStruct *material, const searchQuery &
     return known != m_places.constEnd() && m_matched[*known];
 }
 
+const std::vector<materialSearch::fieldValue> &materialSearch::values(
+    const searchField &field, const kiv_mat_databaseStruct *database)
+{
+    const auto [known, isNew] = m_values.try_emplace({&field, database});
+    std::vector<fieldValue> &list = known->second;
+    if (!isNew)
+        return list;
+    QHash<QString, int> counts;
+    searchField::textList texts;
+    for (const place &at : m_all) {
+        if (!at.owner.material || (database && at.owner.database != database))
+            continue;
+        texts.clear();
+        (field.propose ? field.propose : field.collect)(*at.owner.material, at.owner.group, texts);
+        for (const QString *text : texts)
+            if (!text->isEmpty() && text->size() <= longestValue)
+                ++counts[*text];
+    }
+    list.reserve(size_t(counts.size()));
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (const QString text = it.key().trimmed(); !text.isEmpty())
+            list.push_back({text, text::folded(text), it.value()});
+    // The most frequent spelling of each stands for all of them.
+    std::sort(list.begin(), list.end(), [](const fieldValue &a, const fieldValue &b) {
+        const int order = a.folded.compare(b.folded);
+        return order != 0 ? order < 0 : std::tie(b.count, a.text) < std::tie(a.count, b.text);
+    });
+    size_t used = 0;
+    for (fieldValue &value : list) {
+        if (used > 0 && list[used - 1].folded == value.folded)
+            list[used - 1].count += value.count;
+        else if (&list[used++] != &value)
+            list[used - 1] = std::move(value);
+    }
+    list.resize(used);
+    std::stable_sort(list.begin(), list.end(),
+                     [](const fieldValue &a, const fieldValue &b) { return a.count > b.count; });
+    return list;
+}
+
 size_t materialSearch::memory() const
 {
     size_t bytes = m_all.capacity() * sizeof(place)
@@ -340,6 +388,9 @@ size_t materialSearch::memory() const
                    + m_numbers.capacity() * sizeof(m_numbers[0]) + m_hits.capacity() * sizeof(hit);
     for (const place &at : m_all)
         bytes += at.text.capacity() + 2 * sizeof(void *);
+    for (const auto &[of, list] : m_values)
+        for (const fieldValue &value : list)
+            bytes += sizeof value + value.folded.capacity() + size_t(value.text.capacity()) * 2;
     for (const knownTerm &known : m_terms)
         bytes += known.fits.capacity() + known.ranks.capacity();
     return bytes;

@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include <array>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,6 +53,19 @@ public:
     // another query or a change searches everything, the following ones look up its answer.
     bool matches(const materialStruct *material, const searchQuery &query);
 
+    // A text that stands in a field, spelt as most often, and the number of times it stands there.
+    struct fieldValue
+    {
+        QString text;
+        std::string folded;
+        int count = 0;
+    };
+    // The different texts of a field, the most frequent first; of one database, when it is given.
+    // They are collected when they are first asked for, and again after a change. Long ones are
+    // left out: nobody types them.
+    const std::vector<fieldValue> &values(const searchField &field,
+                                          const kiv_mat_databaseStruct *database = nullptr);
+
     // Bytes in use, about.
     size_t memory() const;
 
@@ -93,6 +107,7 @@ private:
         std::vector<rankKind> ranks; // of each place
     };
 
+    void changed();
     void readTexts(place &at);
     void appendText(const searchField &field, const QString &text);
     quint32 numberOf(const QString &text);
@@ -112,6 +127,10 @@ private:
     // The different texts of numeric fields are few.
     std::vector<std::optional<quantity>> m_numbers;
     QHash<QString, quint32> m_numberOfText;
+
+    std::map<std::pair<const searchField *, const kiv_mat_databaseStruct *>,
+             std::vector<fieldValue>>
+        m_values;
 
     // The last search.
     bool m_current = false; // nothing changed since

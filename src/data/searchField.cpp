@@ -47,6 +47,16 @@ void suppliers(const material &m, const d_groupStruct *, texts &list)
     sources(m.suppliers, &supplierStruct::description, list);
 }
 
+void makerNames(const material &m, const d_groupStruct *, texts &list)
+{
+    sources(m.manufacturers, &manufacturerStruct::name, list);
+}
+
+void supplierNames(const material &m, const d_groupStruct *, texts &list)
+{
+    sources(m.suppliers, &supplierStruct::name, list);
+}
+
 void footprints(const material &m, const d_groupStruct *, texts &list)
 {
     for (const QString *text : {&m.d_footprintRef, &m.d_footprintRef2, &m.d_footprintRef3,
@@ -77,8 +87,8 @@ const std::vector<searchField> &searchField::all()
         {{"current", "prad"}, measure, own<&material::d_current>},
         {{"tolerance", "tolerancja"}, measure, own<&material::d_tolerance>},
         {{"other", "inne"}, text, own<&material::d_otherParameters>},
-        {{"manufacturer", "maker", "producent"}, text, makers},
-        {{"supplier", "dostawca"}, text, suppliers},
+        {{"manufacturer", "maker", "producent"}, text, makers, makerNames},
+        {{"supplier", "dostawca"}, text, suppliers, supplierNames},
         {{"group", "grupa"}, text, groupName},
         {{"cpv"}, text, own<&material::d_cpv>},
         {{"comment", "komentarz"}, text, information<&info::comment>},
@@ -88,7 +98,7 @@ const std::vector<searchField> &searchField::all()
         {{"price", "cena"}, number, own<&material::d_price>},
         {{"average", "srednia"}, number, own<&material::d_averagePrice>},
         {{"stock", "warehouse", "stan", "magazyn"}, number, own<&material::d_inWarehouse>},
-        {{"unit", "jednostka"}, plainText, own<&material::d_unit>},
+        {{"unit", "jednostka"}, unit, own<&material::d_unit>},
         {{"active", "aktywny"}, yesNo, own<&material::d_active>},
         {{"rohs"}, yesNo, information<&info::rohsRequired>},
         {{"checked", "sprawdzony"}, yesNo, information<&info::checked>},
@@ -139,13 +149,27 @@ size_t searchField::numericPlace() const
     return size_t(std::find(fields.begin(), fields.end(), this) - fields.begin());
 }
 
+namespace {
+
+// The first English word for a stored one is the one that is proposed.
+constexpr std::pair<std::string_view, const char *> words[] = {
+    {"yes", "tak"},    {"no", "nie"},         {"green", "zielony"},    {"grey", "szary"},
+    {"gray", "szary"}, {"blue", "niebieski"}, {"violet", "fioletowy"}, {"purple", "fioletowy"}};
+
+} // namespace
+
 std::string storedWord(const std::string &foldedWord)
 {
-    static constexpr std::pair<const char *, const char *> words[] = {
-        {"yes", "tak"},    {"no", "nie"},         {"green", "zielony"},    {"grey", "szary"},
-        {"gray", "szary"}, {"blue", "niebieski"}, {"violet", "fioletowy"}, {"purple", "fioletowy"}};
     for (const auto &[typed, stored] : words)
         if (foldedWord == typed)
             return stored;
     return {};
+}
+
+const char *englishWord(const std::string &foldedStored)
+{
+    for (const auto &[typed, stored] : words)
+        if (foldedStored == stored)
+            return typed.data();
+    return nullptr;
 }

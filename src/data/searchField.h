@@ -8,6 +8,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class d_groupStruct;
@@ -23,6 +24,7 @@ struct searchField
         number,   // a number, searched by its name only
         yesNo,    // TAK or NIE, searched by its name only
         colour,   // a status word, searched by any word
+        unit,     // a stored unit or the one shown for it, searched by its name only
         plainText // a text searched by its name only
     };
     using textList = std::vector<const QString *>;
@@ -32,8 +34,14 @@ struct searchField
     fieldKind kind;
     // Appends the field's texts of a material in a group (null: in none).
     void (*collect)(const materialStruct &material, const d_groupStruct *group, textList &texts);
+    // The same of what is proposed while the field's value is typed; null when it is all of that.
+    void (*propose)(const materialStruct &material, const d_groupStruct *group,
+                    textList &texts) = nullptr;
 
     bool numeric() const { return kind == measure || kind == number; }
+    // Whether anything but a number is a fault in it, unless it stands in quotes. Among values
+    // there are texts, such as the thread of a screw.
+    bool numbersOnly() const { return numeric() && names.front() != std::string_view("value"); }
     // A text of the field as one to read a number from: a power is a fraction also without its
     // unit.
     QString numberText(const QString &stored) const;
@@ -55,3 +63,5 @@ struct searchField
 // Texts stand in files in Polish; what a user may type for one instead, folded: "green" for
 // "zielony", "yes" for "tak". Empty when there is none.
 std::string storedWord(const std::string &foldedWord);
+// The other way round: the English word for a stored one, folded; null when there is none.
+const char *englishWord(const std::string &foldedStored);

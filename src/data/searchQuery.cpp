@@ -1,6 +1,7 @@
 #include "data/searchQuery.h"
 
 #include "util/foldedText.h"
+#include "util/labels.h"
 
 #include <QCoreApplication>
 
@@ -9,99 +10,21 @@
 
 namespace {
 
-// A piece of the query between blanks: a field's name (empty when there is none) and a value.
-struct token
-{
-    QString name;
-    QString value;
-    bool quoted = false;
-    bool negated = false;
-    bool isAlternative = false; // to the one before
-};
-
 bool isName(const QString &text)
 {
     return !text.isEmpty()
            && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
-// Cuts at blanks and bars outside double quotes. Only letters before a colon make a field's name:
-// "1:10" and "http://x" are words. What follows a bar is of the field before it.
-std::vector<token> tokensOf(const QString &typed)
-{
-    std::vector<token> result;
-    int at = 0;
-    bool isAlternative = false;
-    while (at < typed.size()) {
-        if (typed.at(at).isSpace() || typed.at(at) == QLatin1Char('|')) {
-            isAlternative = isAlternative || typed.at(at) == QLatin1Char('|');
-            ++at;
-            continue;
-        }
-        token next;
-        next.isAlternative = std::exchange(isAlternative, false) && !result.empty();
-        if (next.isAlternative)
-            next.negated = result.back().negated;
-        // "!!!!!" marks what is unknown.
-        else if (typed.at(at) == QLatin1Char('!')
-                 && typed.midRef(at + 1, 1) != QLatin1String("!")) {
-            next.negated = true;
-            ++at;
-        }
-        QString piece;
-        for (; at < typed.size() && !typed.at(at).isSpace() && typed.at(at) != QLatin1Char('|');
-             ++at) {
-            const QChar c = typed.at(at);
-            if (c == QLatin1Char('"')) {
-                // A missing second quote is still to be typed.
-                const int end = typed.indexOf(QLatin1Char('"'), at + 1);
-                piece += typed.mid(at + 1, end < 0 ? -1 : end - at - 1);
-                next.quoted = true;
-                at = end < 0 ? typed.size() - 1 : end;
-            } else if (c == QLatin1Char(':') && next.name.isEmpty() && !next.quoted && isName(piece)
-                       && typed.midRef(at, 3) != QLatin1String("://")) {
-                next.name = piece;
-                piece.clear();
-            } else {
-                piece += c;
-            }
-        }
-        next.value = piece;
-        if (next.isAlternative && next.name.isEmpty())
-            next.name = result.back().name;
-        // A condition of which only the "!" is typed waits for the rest.
-        if (!next.value.isEmpty() || !next.name.isEmpty() || next.quoted)
-            result.push_back(next);
-    }
-    return result;
-}
-
-searchTerm::relationKind takeRelation(QString &value)
-{
-    static const std::pair<QLatin1String, searchTerm::relationKind> relations[] = {
-        {QLatin1String(">="), searchTerm::greaterOrEqual},
-        {QLatin1String("<="), searchTerm::lessOrEqual},
-        {QLatin1String(">"), searchTerm::greater},
-        {QLatin1String("<"), searchTerm::less},
-        {QLatin1String("="), searchTerm::equal}};
-    for (const auto &[sign, relation] : relations) {
-        if (value.startsWith(sign)) {
-            value.remove(0, sign.size());
-            return relation;
-        }
-    }
-    return searchTerm::contains;
-}
-
 // Whether the second of two pieces is a unit of the first, as in "4.7 kΩ" and "voltage:>10 V".
-bool isNumberWithUnit(const token &first, const token &second)
+bool isNumberWithUnit(const searchToken &first, const searchToken &second)
 {
     if (first.quoted || second.quoted || second.isAlternative || second.negated
         || !second.name.isEmpty() || second.value.isEmpty() || second.value.at(0).isDigit())
         return false;
     QString value = first.value;
     if (!first.name.isEmpty())
-        takeRelation(value);
+        searchQuery::takeRelation(value);
     const std::optional<quantity> number = quantity::parse(value);
     const std::optional<quantity> whole = quantity::parse(value + second.value);
     return number && number->unit == quantity::none && whole && whole->unit != quantity::none;
@@ -109,16 +32,19 @@ bool isNumberWithUnit(const token &first, const token &second)
 
 // Puts together what blanks part that belongs together: "price:> 10" and "4.7 kΩ". The latter may
 // stand either way in a text.
-token takeToken(const std::vector<token> &tokens, size_t &at, QString &apart)
+searchToken takeToken(const std::vector<searchToken> &tokens, size_t &at, QString &apart)
 {
-    token result = tokens[at++];
+    searchToken result = tokens[at++];
     QString value = result.value;
     if (at < tokens.size() && !result.name.isEmpty() && !result.quoted
-        && takeRelation(value) != searchTerm::contains && value.isEmpty()
-        && tokens[at].name.isEmpty() && !tokens[at].quoted && !tokens[at].isAlternative)
+        && searchQuery::takeRelation(value) != searchTerm::contains && value.isEmpty()
+        && tokens[at].name.isEmpty() && !tokens[at].quoted && !tokens[at].isAlternative) {
+        result.end = tokens[at].end;
         result.value += tokens[at++].value;
+    }
     if (at < tokens.size() && isNumberWithUnit(result, tokens[at])) {
         apart = result.value + QLatin1Char(' ') + tokens[at].value;
+        result.end = tokens[at].end;
         result.value += tokens[at++].value;
     }
     return result;
@@ -162,58 +88,178 @@ bool takeRange(const QString &value, searchTerm &term, bool &isFaulty)
 // Without the blanks around it, which the index does not keep apart from others.
 std::string foldedValue(const QString &value) { return text::folded(value.trimmed()); }
 
+// Whether a text is meant as the first and last of something: "0603..0805", but not "and so on...".
+bool looksLikeRange(const QString &value)
+{
+    return value.contains(QLatin1String("..")) && !value.contains(QLatin1String("..."));
+}
+
+// The stored form of "yes", "no", "tak" and "nie", also while they are typed; else empty.
+std::string yesOrNo(const std::string &typed)
+{
+    for (const char *word : {"tak", "nie", "yes", "no"})
+        if (std::string_view(word).starts_with(typed))
+            return storedWord(word).empty() ? word : storedWord(word);
+    return {};
+}
+
 } // namespace
 
-void searchQuery::addField(const QString &name, QString value, bool quoted, searchTerm term)
+// Cuts at blanks and bars outside double quotes. Only letters before a colon make a field's name:
+// "1:10" and "http://x" are words. What follows a bar is of the field before it.
+std::vector<searchToken> searchToken::all(const QString &typed)
 {
-    const searchField *field = searchField::find(text::folded(name));
+    std::vector<searchToken> result;
+    int at = 0;
+    bool isAlternative = false;
+    while (at < typed.size()) {
+        if (typed.at(at).isSpace() || typed.at(at) == QLatin1Char('|')) {
+            isAlternative = isAlternative || typed.at(at) == QLatin1Char('|');
+            ++at;
+            continue;
+        }
+        searchToken next;
+        next.isAlternative = std::exchange(isAlternative, false) && !result.empty();
+        if (next.isAlternative)
+            next.negated = result.back().negated;
+        // "!!!!!" marks what is unknown.
+        else if (typed.at(at) == QLatin1Char('!')
+                 && typed.midRef(at + 1, 1) != QLatin1String("!")) {
+            next.negated = true;
+            ++at;
+        }
+        next.begin = next.valueBegin = at;
+        QString piece;
+        for (; at < typed.size() && !typed.at(at).isSpace() && typed.at(at) != QLatin1Char('|');
+             ++at) {
+            const QChar c = typed.at(at);
+            next.closed = false;
+            if (c == QLatin1Char('"')) {
+                // A missing second quote is still to be typed.
+                const int end = typed.indexOf(QLatin1Char('"'), at + 1);
+                if (!next.quoted)
+                    next.plainLength = piece.size();
+                piece += typed.mid(at + 1, end < 0 ? -1 : end - at - 1);
+                next.quoted = true;
+                next.closed = end >= 0;
+                at = end < 0 ? typed.size() - 1 : end;
+            } else if (c == QLatin1Char(':') && next.name.isEmpty() && !next.quoted && isName(piece)
+                       && typed.midRef(at, 3) != QLatin1String("://")) {
+                next.name = piece;
+                next.valueBegin = at + 1;
+                piece.clear();
+            } else {
+                piece += c;
+            }
+        }
+        next.value = piece;
+        next.end = at;
+        if (next.isAlternative && next.name.isEmpty())
+            next.name = result.back().name;
+        // A condition of which only the "!" is typed waits for the rest.
+        if (!next.value.isEmpty() || !next.name.isEmpty() || next.quoted)
+            result.push_back(next);
+    }
+    return result;
+}
+
+searchTerm::relationKind searchQuery::takeRelation(QString &value)
+{
+    static const std::pair<QLatin1String, searchTerm::relationKind> relations[] = {
+        {QLatin1String(">="), searchTerm::greaterOrEqual},
+        {QLatin1String("<="), searchTerm::lessOrEqual},
+        {QLatin1String(">"), searchTerm::greater},
+        {QLatin1String("<"), searchTerm::less},
+        {QLatin1String("="), searchTerm::equal}};
+    for (const auto &[sign, relation] : relations) {
+        if (value.startsWith(sign)) {
+            value.remove(0, sign.size());
+            return relation;
+        }
+    }
+    return searchTerm::contains;
+}
+
+QStringList searchQuery::errors() const
+{
+    QStringList texts;
+    for (const searchFault &fault : m_faults)
+        texts << fault.text;
+    return texts;
+}
+
+void searchQuery::addField(const searchToken &token, searchTerm term)
+{
+    QString value = token.value;
+    const auto fault = [&](const QString &text, const QString &part) {
+        m_faults.push_back(
+            {text.arg(part), token.valueBegin, qMax(token.end - token.valueBegin, 1)});
+    };
+    const searchField *field = searchField::find(text::folded(token.name));
     if (!field) {
-        m_errors << QCoreApplication::translate("searchQuery", "There is no field %1").arg(name);
+        // An alternative of that field is left out with it, and told once.
+        if (token.valueBegin > token.begin)
+            m_faults.push_back(
+                {QCoreApplication::translate("searchQuery", "There is no field %1").arg(token.name),
+                 token.begin, token.name.size()});
         return;
     }
     term.field = field;
-    term.relation = quoted ? searchTerm::contains : takeRelation(value);
-    if (value.isEmpty() && !quoted)
+    // A sign stands before the quotes: what is within them is a text.
+    QString sign = token.quoted ? value.left(token.plainLength) : value;
+    const int length = sign.size();
+    term.relation = takeRelation(sign);
+    if (token.quoted && !sign.isEmpty())
+        term.relation = searchTerm::contains;
+    else
+        value.remove(0, length - sign.size());
+    if (value.isEmpty() && !token.quoted)
         return;
     term.text = foldedValue(value);
     // A field that shall be empty.
     if (term.text.empty())
         term.relation = searchTerm::equal;
     bool isFaulty = false;
-    const bool isRange = field->numeric() && !quoted && term.relation == searchTerm::contains
+    const bool isRange = field->numeric() && !token.quoted && term.relation == searchTerm::contains
                          && takeRange(value, term, isFaulty);
     if (field->numeric() && !isRange)
         term.number = quantity::parse(field->numberText(value));
-    else if (field->kind == searchField::yesNo || field->kind == searchField::colour)
+    else if (field->kind == searchField::colour)
         term.altText = storedWord(term.text);
-    if (term.relation > searchTerm::equal && !field->numeric()) {
-        m_errors << QCoreApplication::translate("searchQuery",
-                                                "The field %1 is no number to compare with")
-                        .arg(name);
-        return;
-    }
-    if (isFaulty || (term.relation > searchTerm::equal && !term.number)) {
-        m_errors << QCoreApplication::translate("searchQuery", "%1 is no number").arg(value);
-        return;
-    }
-    m_terms.push_back(std::move(term));
+    else if (field->kind == searchField::unit)
+        term.altText = text::folded(labels::storedOf(value.trimmed()));
+    if (!field->numeric() && !token.quoted
+        && (term.relation > searchTerm::equal || looksLikeRange(value)))
+        fault(
+            QCoreApplication::translate("searchQuery", "The field %1 is no number to compare with"),
+            token.name);
+    else if (isFaulty || (term.relation > searchTerm::equal && !term.number))
+        fault(QCoreApplication::translate("searchQuery", "%1 is no number"), value);
+    else if (field->numbersOnly() && !token.quoted && !term.number)
+        fault(QCoreApplication::translate("searchQuery", "%1 is no number; a text goes in quotes"),
+              value);
+    else if (field->kind == searchField::yesNo && !token.quoted
+             && (term.altText = yesOrNo(term.text)).empty())
+        fault(QCoreApplication::translate("searchQuery", "%1 is neither yes nor no"), value);
+    else
+        m_terms.push_back(std::move(term));
 }
 
 searchQuery searchQuery::parse(const QString &typed)
 {
     searchQuery query;
-    const std::vector<token> tokens = tokensOf(typed);
+    const std::vector<searchToken> tokens = searchToken::all(typed);
     bool wordsOnly = true;
     int group = 0;
     for (size_t i = 0; i < tokens.size();) {
         QString apart;
-        const token next = takeToken(tokens, i, apart);
+        const searchToken next = takeToken(tokens, i, apart);
         searchTerm term;
         term.group = next.isAlternative ? group : ++group;
         term.negated = next.negated;
         wordsOnly = wordsOnly && next.name.isEmpty() && !next.negated && !next.isAlternative;
         if (!next.name.isEmpty()) {
-            query.addField(next.name, next.value, next.quoted, term);
+            query.addField(next, term);
             continue;
         }
         term.text = foldedValue(next.value);

@@ -37,16 +37,47 @@ struct searchTerm
     bool operator==(const searchTerm &) const = default;
 };
 
+// A piece of a query between blanks: a field's name (empty when there is none) and a value, and
+// where they stand in what was typed.
+struct searchToken
+{
+    QString name;
+    QString value; // without its quotes
+    bool quoted = false;
+    bool closed = false; // the last quote is there
+    bool negated = false;
+    bool isAlternative = false; // to the one before, whose name it has unless it gives its own
+    int begin = 0;              // behind the "!"
+    int valueBegin = 0;
+    int end = 0;
+    int plainLength = 0; // of the value, before its first quote
+
+    static std::vector<searchToken> all(const QString &typed);
+};
+
+// What cannot be made a condition of: one sentence, plain text in the user's language, and the
+// faulty part of what was typed.
+struct searchFault
+{
+    QString text;
+    int begin = 0;
+    int length = 0;
+};
+
 class searchQuery
 {
 public:
-    // Never fails: a faulty condition is left out and told in errors(). One whose value is still to
+    // Never fails: a faulty condition is left out and told in faults(). One whose value is still to
     // be typed ("case:") is left out too.
     static searchQuery parse(const QString &typed);
 
+    // Takes the sign of a comparison off the start of a value.
+    static searchTerm::relationKind takeRelation(QString &value);
+
     const std::vector<searchTerm> &terms() const { return m_terms; }
-    // One sentence for each fault, plain text in the user's language.
-    const QStringList &errors() const { return m_errors; }
+    const std::vector<searchFault> &faults() const { return m_faults; }
+    // The sentences of the faults.
+    QStringList errors() const;
 
     // The query as one folded text when it is words only: a name that equals it comes first.
     const std::string &phrase() const { return m_phrase; }
@@ -57,9 +88,9 @@ public:
     }
 
 private:
-    void addField(const QString &name, QString value, bool quoted, searchTerm term);
+    void addField(const searchToken &token, searchTerm term);
 
     std::vector<searchTerm> m_terms;
-    QStringList m_errors;
+    std::vector<searchFault> m_faults;
     std::string m_phrase;
 };

@@ -2,7 +2,11 @@
 
 #include "commands/editCommands.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
+#include "database/databaseDrop.h"
 #include "database/databaseRowsTarget.h"
+#include "database/detailsPane.h"
+#include "database/findingsWindow.h"
+#include "database/linksWindow.h"
 #include "database/materialWindow.h"
 
 #include "data/XmlValidator.h"
@@ -77,6 +81,11 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
                                    "text into the cells from the current one on")},
      &Kiv_mat_databaseWindow::commandPasteMaterials},
     {usualActions::fillDown, &Kiv_mat_databaseWindow::commandFillDown},
+    {{"changeMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Change selected materials ..."),
+      "action_fill_down", "Ctrl+H",
+      QT_TRANSLATE_NOOP("actions", "Set, replace or compose a field of many materials, move them "
+                                   "or give them a firm")},
+     &Kiv_mat_databaseWindow::commandChangeMaterials},
     {{"deleteMaterials", "Edit", QT_TRANSLATE_NOOP("actions", "Delete materials"), "action_delete",
       "Del", QT_TRANSLATE_NOOP("actions", "Delete the selected materials, or empty groups")},
      &Kiv_mat_databaseWindow::commandDeleteMaterials},
@@ -113,6 +122,9 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"openLink", "Edit", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
      &Kiv_mat_databaseWindow::commandOpenLink},
+    {{"openCopy", "Edit", QT_TRANSLATE_NOOP("actions", "Open the copy"), "action_local_copy",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Open the copy of the link's document")},
+     &Kiv_mat_databaseWindow::commandOpenCopy},
     {{nullptr, "Edit", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
@@ -130,6 +142,12 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"columns", "Tools", QT_TRANSLATE_NOOP("actions", "Columns"), "action_list", nullptr,
       QT_TRANSLATE_NOOP("actions", "Choose the columns shown")},
      &Kiv_mat_databaseWindow::commandColumns},
+    {{"details", "Tools", QT_TRANSLATE_NOOP("actions", "Details"), "action_preview", "Alt+Return",
+      QT_TRANSLATE_NOOP("actions", "Show all of the current material beside the tree"), true, true},
+     &Kiv_mat_databaseWindow::commandDetails},
+    {{"goToDetails", "Tools", QT_TRANSLATE_NOOP("actions", "To the details"), "action_information",
+      "F6", QT_TRANSLATE_NOOP("actions", "Have the keys go to the details; Escape goes back")},
+     &Kiv_mat_databaseWindow::commandGoToDetails},
     {toolsSeparator, nullptr},
     {{"gray", "Tools", QT_TRANSLATE_NOOP("actions", "Gray"), "led_gray", nullptr,
       QT_TRANSLATE_NOOP("actions", "Show only materials with this status"), true, true},
@@ -147,6 +165,9 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Show only materials marked as edited"), true, true},
      &Kiv_mat_databaseWindow::commandEdited},
     {toolsSeparator, nullptr},
+    {{"checks", "Tools", QT_TRANSLATE_NOOP("actions", "Checks"), "action_checks", "Ctrl+Shift+K",
+      QT_TRANSLATE_NOOP("actions", "Table of what is wrong with the materials, and where"), true},
+     &Kiv_mat_databaseWindow::commandChecks},
     {{"findDuplicate", "Tools", QT_TRANSLATE_NOOP("actions", "Find Duplicate"), "action_duplicate",
       nullptr, QT_TRANSLATE_NOOP("actions", "List materials that share a KTM or a part number")},
      &Kiv_mat_databaseWindow::commandFindDuplicate},
@@ -156,6 +177,9 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"checkUrls", "Tools", QT_TRANSLATE_NOOP("actions", "Check urls"), "action_links", nullptr,
       QT_TRANSLATE_NOOP("actions", "Test every link of the materials")},
      &Kiv_mat_databaseWindow::commandCheck_urls},
+    {{"examineLinks", "Tools", QT_TRANSLATE_NOOP("actions", "Examine links"), "action_examine",
+      nullptr, QT_TRANSLATE_NOOP("actions", "Find out what came of every link: moved, gone, ...")},
+     &Kiv_mat_databaseWindow::commandExamineLinks},
     {{"parse", "Tools", QT_TRANSLATE_NOOP("actions", "Parse"), "action_parse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Take stock and prices from a listing")},
      &Kiv_mat_databaseWindow::commandParse},
@@ -218,20 +242,15 @@ void Kiv_mat_databaseWindow::buildWidgets()
     keepJournal(fileKinds::database, [this] { return &m_rows->database(); }, {m_model});
 
     m_words = new searchLine(m_view);
+    m_words->completeFrom(known().search(), [this] { return &m_rows->database(); });
+    new databaseDrop(this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    setCentralWidget(page);
+    buildDetails(page);
     constexpr QSize usualSize(1280, 800);
     resize(usualSize);
 
     connect(m_words, &searchLine::wanted, this, &Kiv_mat_databaseWindow::applyFilter);
     connect(m_words, &QLineEdit::returnPressed, this, &Kiv_mat_databaseWindow::goToFound);
-    // A row hidden before it was made is not hidden: what comes later is filtered when it comes.
-    connect(m_model, &QAbstractItemModel::rowsInserted, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (QStandardItem *group = m_changing ? nullptr : m_model->itemFromIndex(parent))
-                    for (int row = first; row <= last; ++row)
-                        filterRow(group, row);
-            });
     connect(m_view, qOverload<QPoint, uint, QModelIndex>(&myTreeView::clicked), this,
             &Kiv_mat_databaseWindow::itemTreeClicked);
     connect(m_view, &myTreeView::keyUpDown, this,
@@ -260,6 +279,8 @@ void Kiv_mat_databaseWindow::showDatabase()
     m_view->setFont(known().config().font());
     setUnlocked(false);
     applyFilter();
+    if (m_findings)
+        m_findings->databaseReplaced();
 }
 
 QString Kiv_mat_databaseWindow::filePath() const { return known().database(m_kind).filePath; }
@@ -287,23 +308,26 @@ void Kiv_mat_databaseWindow::begin()
 
 void Kiv_mat_databaseWindow::updateActions()
 {
-    allowWhenUnlocked({"update", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
+    allowWhenUnlocked({"update", "changeMaterials", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
                        "editParameters", "editCpv", "fillDown", "parse", "loadCpv", "moveCpv"});
-    const bool onMaterial = materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell()));
+    const bool onMaterial = m_rows->materialAt(m_view->markedCell());
     setAvailable("openLink", onMaterial, tr("no material is selected"));
     for (const char *name : {"insertToBom", "toOrder", "toOrderN"})
         setAvailable(name, onMaterial || m_view->selectionModel()->hasSelection(),
                      tr("no material is selected"));
     allowWhenUnlocked({"pasteMaterials"});
+    m_details->follow();
     if (m_merge)
         m_merge->updateActions();
+    updateLinkActions();
 }
 
 void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
     for (const char *name :
-         {"copyText", "openLink", "editParameters", "copyMaterials", "cutMaterials",
+         {"copyText", "openLink", "openCopy", "editParameters", "changeMaterials", "copyMaterials",
+          "cutMaterials",
           "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup", "collapsGroup",
           "insertToBom", "", "toOrder", "toOrderN"})
         if (*name)
@@ -315,8 +339,7 @@ void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
 
 void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &index)
 {
-    const QStandardItem *item = m_model->itemFromIndex(index);
-    if (const materialStruct *material = materialRows::materialOf(item))
+    if (const materialStruct *material = m_rows->materialAt(index))
         tell(material->d_ktm + QLatin1String("  ") + material->d_name + QLatin1String("  ")
              + material->d_description);
 }
@@ -326,8 +349,8 @@ void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &in
 
 void Kiv_mat_databaseWindow::historyMoved()
 {
-    m_changing = false;
-    applyFilter();
+    m_rows->follow();
+    showGroups();
 }
 
 bool Kiv_mat_databaseWindow::write(const QString &path)
@@ -427,6 +450,10 @@ void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
     // It compares with what was shown here.
     if (event->isAccepted() && m_merge)
         m_merge->close();
+    if (event->isAccepted() && m_findings)
+        m_findings->close();
+    if (event->isAccepted() && m_links)
+        m_links->close();
 }
 
 // --- Materials and groups
@@ -435,10 +462,9 @@ void Kiv_mat_databaseWindow::closeEvent(QCloseEvent *event)
 std::vector<materialStruct *> Kiv_mat_databaseWindow::selectedMaterials() const
 {
     std::vector<materialStruct *> found;
-    // Rows are hidden little by little.
     for (const QModelIndex &cell : m_view->markedCells())
-        if (materialStruct *material = materialRows::materialOf(m_model->itemFromIndex(cell)))
-            if ((found.empty() || found.back() != material) && isShown(*material))
+        if (materialStruct *material = m_rows->materialAt(cell))
+            if (found.empty() || found.back() != material)
                 found.push_back(material);
     return found;
 }
@@ -460,15 +486,6 @@ QStandardItem *Kiv_mat_databaseWindow::currentGroup() const
     if (index.parent().isValid())
         index = index.parent();
     return m_model->item(index.isValid() ? index.row() : 0);
-}
-
-void Kiv_mat_databaseWindow::commandOpenLink(bool)
-{
-    const QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
-    const materialStruct *material = materialRows::materialOf(item);
-    const QString link = material ? databaseTree::linkOf(*material) : QString();
-    if (link.isEmpty() || !desktop::followLink(QUrl::fromUserInput(link)))
-        tell(tr("This material has no link that can be opened"));
 }
 
 void Kiv_mat_databaseWindow::commandCopyMaterials(bool)
@@ -646,6 +663,7 @@ materialWindow &Kiv_mat_databaseWindow::editor()
 {
     if (!m_editor) {
         m_editor = new materialWindow(known(), this);
+        m_editor->addFirm = addFirm;
         connect(m_editor, &materialWindow::addNew, this, &Kiv_mat_databaseWindow::commandAddNew);
         connect(m_editor, qOverload<QStandardItem *, materialStruct *>(&materialWindow::editExist),
                 this, &Kiv_mat_databaseWindow::commandEditExist);
@@ -668,13 +686,12 @@ void Kiv_mat_databaseWindow::commandAddMaterial(bool)
 
 void Kiv_mat_databaseWindow::commandEditParameters(bool)
 {
-    QStandardItem *item = m_model->itemFromIndex(m_view->markedCell());
-    const materialStruct *material = materialRows::materialOf(item);
-    if (!material || !isShown(*material)
+    const materialStruct *material = m_rows->materialAt(m_view->markedCell());
+    if (!material
         || userPrompts().ask(tr("Do you want to edit material ?").toHtmlEscaped(), false)
                != prompts::answer::yes)
         return;
-    editor().openExisting(item, *material);
+    editor().openExisting(m_rows->find(material), *material);
 }
 
 void Kiv_mat_databaseWindow::commandAddNew(QStandardItem *group, materialStruct *material)
@@ -687,6 +704,8 @@ void Kiv_mat_databaseWindow::commandAddNew(QStandardItem *group, materialStruct 
 
 void Kiv_mat_databaseWindow::commandEditExist(QStandardItem *item, materialStruct *material)
 {
+    // A search may have hidden the row meanwhile.
+    m_model->bringBack(static_cast<myItemStandard *>(item));
     push(std::make_unique<changeRow>(item->parent(), item->row(),
                                      m_rows->makeRow(std::unique_ptr<materialStruct>(material))),
          tr("Edit parameters"));

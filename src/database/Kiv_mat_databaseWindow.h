@@ -1,23 +1,35 @@
 // The window of one material database: browse, search, filter, edit, check, report, export.
 // Construction and editing stand in Kiv_mat_databaseWindow.cpp, searching and filtering in
-// databaseFilter.cpp, the tools over the whole database in databaseTools.cpp.
+// databaseFilter.cpp, the page beside the tree in databaseDetails.cpp, the tools over the whole
+// database in databaseTools.cpp, what files dropped on it do in databaseDrop.cpp.
 #pragma once
 
 #include "commands/editCommands.h"
+#include "data/materialUses.h"
 #include "data/programData.h"
 #include "database/databaseMerge.h"
 #include "database/databaseTree.h"
+#include "database/droppedFiles.h"
 #include "database/exportResult.h"
+#include "database/linkExamination.h"
 #include "database/materialChange.h"
 #include "firm/firmOperations.h"
 #include "window/editWindow.h"
 
 class Kiv_mat_databaseMergeWindow;
+class findingsWindow;
+class detailsPane;
 class QTreeView;
+class linksWindow;
 class kiv_mat_zpStruct;
+namespace bulkEdit {
+struct plan;
+}
 class materialWindow;
 class searchLine;
 enum class databaseReportKind;
+enum class findingKind;
+struct linkCheckResult;
 
 using materialKtm = QString;
 
@@ -41,9 +53,17 @@ public:
 
     // How many materials the search field and the filters let be seen.
     int shownCount() const { return m_shownCount; }
+    // Adds a firm of that name to the register, where the window may; set before a material is
+    // edited. False, told to the user, when it could not.
+    std::function<bool(firmOperations::firmKind, const QString &name)> addFirm;
+
     // Fetches, expands and selects a material's row.
-    void selectMaterial(materialStruct *material);
+    void selectMaterial(const materialStruct *material);
     void selectItem(QTreeView *view, QStandardItem *item);
+    // Makes a cell current, of a material, or of a group without one; what hides it gives way.
+    void goToCell(const materialStruct *material, const d_groupStruct *group, QLatin1String field);
+    // Comes to the front with it.
+    void showCell();
 
 public slots:
     void commandFullReport(bool);
@@ -56,6 +76,8 @@ public slots:
     void commandAltiumSQLite(bool);
     void commandUpdate(bool);
     void commandCheck_urls(bool);
+    void commandChecks(bool);
+    void commandExamineLinks(bool);
     void commandFindDuplicate(bool);
     void commandFindEmpty(bool);
     void commandParse(bool);
@@ -72,14 +94,18 @@ public slots:
     void commandEdited(bool on);
     void commandFind(bool);
     void commandColumns(bool);
+    void commandDetails(bool on);
+    void commandGoToDetails(bool);
 
     // Of the context menu, on the current cell or the selected materials.
     void commandOpenLink(bool);
+    void commandOpenCopy(bool);
     void commandEditParameters(bool);
     void commandCopyMaterials(bool);
     void commandCutMaterials(bool);
     void commandPasteMaterials(bool);
     void commandDeleteMaterials(bool);
+    void commandChangeMaterials(bool);
     void commandAddMaterial(bool);
     void commandEditCpv(bool);
     void commandAddGroup(bool);
@@ -97,12 +123,26 @@ public slots:
     // then false, told in the status bar.
     bool takeOver(const std::vector<materialDifference> &selected, bool deleteAbsent,
                   const QString &what, const progressFunction &progress = {});
+    // Carries out those changes of a plan as one step, or none of them, as above.
+    bool changeMaterials(const bulkEdit::plan &plan, const std::vector<int> &chosen);
     // Gives manufacturers and suppliers their new names as one step.
     void renameFirms(const firmOperations::renameList &renames);
+    // Does with dropped files what they are for; material is what they were dropped on, or null.
+    void takeFiles(const std::vector<droppedFiles::file> &files, materialStruct *material);
+    // What that is, for the user.
+    droppedFiles::plan planFor(const std::vector<droppedFiles::file> &files,
+                               const materialStruct *material) const;
+    // Gives links other addresses as one step; how many were changed.
+    int replaceLinks(const std::vector<linkExamination::replacement> &replacements);
+
+    // Shows the material that has the link, in front; false when there is none.
+    bool goToMaterial(const QString &ktm, const QString &link);
 
 signals:
     void appendToOrder(const QStringList &ktms, uint quantity);
     void insertToBom(const materialKtm &ktm);
+    // The line of a BOM list or an order is to be shown.
+    void useWanted(const materialUses::use &use);
 
 protected:
     QString filePath() const override;
@@ -119,7 +159,6 @@ protected:
     QLatin1String editOption() const override;
     QString closeQuestion() const override { return tr("Save database"); }
     bool closesWithCancel() const override { return false; }
-    void historyMoves() override { m_changing = true; }
     void historyMoved() override;
     void updateActions() override;
     void closeEvent(QCloseEvent *event) override;
@@ -139,35 +178,60 @@ private:
     QStandardItem *currentGroup() const;
     materialWindow &editor();
 
+    // --- databaseDetails.cpp ---
+    void buildDetails(QWidget *page);
+
     // --- databaseFilter.cpp ---
     void setFilter(const char *name, const QString &word, bool on);
     void applyFilter();
-    void filterSlice();
-    void filterRow(QStandardItem *group, int row);
-    bool isShown(const materialStruct &material) const;
+    void showGroups();
+    void deselectUnmatched();
+    bool matches(const materialStruct &material) const;
+    void showAll();
+
+    // --- databaseShowFindings.cpp ---
+    findingsWindow &findings();
+    void noteLinks(const linkCheckResult &checked);
+
+    // --- databaseBulk.cpp ---
+    std::vector<ktmIndex::entry> placesToChange(bool selectedOnly);
+    QModelIndex rowThatStays(const std::vector<ktmIndex::entry> &leaving) const;
+
+    // --- databaseLinks.cpp ---
+    QString currentLink() const;
+    void updateLinkActions();
 
     // --- databaseTools.cpp ---
+    void pushNames(std::vector<firmOperations::nameChange> changes, const QString &what);
     void writeReport(databaseReportKind kind);
     void exportTo(const QString &path,
                   exportResult (*run)(const kiv_mat_databaseStruct &, const QString &,
                                       const progressFunction &));
     void tellExport(const exportResult &result);
+    void tellLibrary(const exportResult &result);
     bool mayDelete(const std::vector<materialDifference> &wanted);
     void applyTexts(std::vector<materialChange> changes, const QString &what);
     void list(const QString &heading, const QStringList &lines);
+    void takeListing(const QString &path);
+    void loadCpv(const QString &path);
+    void mergeWith(const QString &path);
+
+    // --- databaseDrop.cpp ---
+    void attach(const std::vector<droppedFiles::file> &files, materialStruct *material);
 
     programData::databaseKind m_kind;
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
     searchLine *m_words = nullptr;
+    detailsPane *m_details = nullptr;
     std::unique_ptr<databaseTree::rows> m_rows;
     std::vector<std::unique_ptr<materialStruct>> m_copied;
     std::unique_ptr<Kiv_mat_databaseMergeWindow> m_merge;
+    std::unique_ptr<findingsWindow> m_findings;
+    std::unique_ptr<linksWindow> m_links;
     materialWindow *m_editor = nullptr;
     searchQuery m_query;
     QString m_statusFilter;
     bool m_editedFilter = false;
-    bool m_changing = false; // a step puts rows in: the filter looks at them once it is done
     int m_shownCount = 0;
-    int m_filterGroup = -1; // the group from which a filter in slices goes on
 };

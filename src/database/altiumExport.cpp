@@ -2,6 +2,7 @@
 
 #include "data/kiv_mat_databaseStruct.h"
 #include "database/exportNames.h"
+#include "database/kicadLibrary.h"
 #include "database/libraryDescription.h"
 #include "database/workbook.h"
 #include "util/files.h"
@@ -27,35 +28,36 @@ struct exportColumn
 {
     QString (*caption)();
     QString material::*field;
-    const char *reserved = nullptr; // the CAD tool's name for it, when it has one
+    kicadLibrary::columnUse use = kicadLibrary::parameter;
+    const char *reserved = nullptr; // Altium's own name for it, when it has one
 };
 
 const std::vector<exportColumn> &exportColumns()
 {
     static const std::vector<exportColumn> table{
-        {labels::ktm, &material::d_ktm},
+        {labels::ktm, &material::d_ktm, kicadLibrary::key},
         {labels::group, nullptr},
-        {labels::value, &material::d_value},
-        {labels::power, &material::d_power},
-        {labels::voltage, &material::d_voltage},
-        {labels::current, &material::d_current},
-        {labels::tolerance, &material::d_tolerance},
+        {labels::value, &material::d_value, kicadLibrary::value},
+        {labels::power, &material::d_power, kicadLibrary::shown},
+        {labels::voltage, &material::d_voltage, kicadLibrary::shown},
+        {labels::current, &material::d_current, kicadLibrary::shown},
+        {labels::tolerance, &material::d_tolerance, kicadLibrary::shown},
         {labels::otherParameters, &material::d_otherParameters},
-        {labels::description, &material::d_description, "[Description]"},
-        {labels::name, &material::d_name},
-        {labels::case_, &material::d_case},
+        {labels::description, &material::d_description, kicadLibrary::description, "[Description]"},
+        {labels::name, &material::d_name, kicadLibrary::shown},
+        {labels::case_, &material::d_case, kicadLibrary::shown},
         {labels::quantity, &material::d_quantity},
         {labels::price, &material::d_price},
         {labels::averagePrice, &material::d_averagePrice},
         {labels::active, &material::d_active},
-        {nullptr, nullptr},
-        {labels::libraryRef, &material::d_libraryRef, "[Library Ref]"},
-        {labels::footprintRef, &material::d_footprintRef, "[Footprint Ref]"},
-        {labels::footprintRef2, &material::d_footprintRef2, "[Footprint Ref 2]"},
-        {labels::footprintRef3, &material::d_footprintRef3, "[Footprint Ref 3]"},
-        {labels::footprintRef4, &material::d_footprintRef4, "[Footprint Ref 4]"},
-        {labels::footprintRef5, &material::d_footprintRef5, "[Footprint Ref 5]"},
-        {labels::footprintRef6, &material::d_footprintRef6, "[Footprint Ref 6]"},
+        {nullptr, nullptr, kicadLibrary::unused},
+        {labels::libraryRef, &material::d_libraryRef, kicadLibrary::symbol, "[Library Ref]"},
+        {labels::footprintRef, &material::d_footprintRef, kicadLibrary::footprint, "[Footprint Ref]"},
+        {labels::footprintRef2, &material::d_footprintRef2, kicadLibrary::parameter, "[Footprint Ref 2]"},
+        {labels::footprintRef3, &material::d_footprintRef3, kicadLibrary::parameter, "[Footprint Ref 3]"},
+        {labels::footprintRef4, &material::d_footprintRef4, kicadLibrary::parameter, "[Footprint Ref 4]"},
+        {labels::footprintRef5, &material::d_footprintRef5, kicadLibrary::parameter, "[Footprint Ref 5]"},
+        {labels::footprintRef6, &material::d_footprintRef6, kicadLibrary::parameter, "[Footprint Ref 6]"},
     };
     return table;
 }
@@ -84,6 +86,14 @@ QStringList groupNames(const kiv_mat_databaseStruct &database)
     return names;
 }
 
+QString withEnding(const QString &path, const QStringList &endings, const QString &replacement)
+{
+    for (const QString &ending : endings)
+        if (path.endsWith(ending, Qt::CaseInsensitive))
+            return path.left(path.size() - ending.size()) + replacement;
+    return path + replacement;
+}
+
 // A line for the errors window. text: English source, context "altiumExport".
 QString note(const char *text, const QString &subject, const QString &reason = {})
 {
@@ -103,15 +113,28 @@ QStringList renameNotes(const QStringList &wanted, const QStringList &given)
     return notes;
 }
 
-// Tells which tables the CAD tool will not see.
-QStringList undescribedNotes(const QStringList &tables)
+// Tells which tables a CAD tool will not see by its description.
+QStringList undescribedNotes(const QStringList &tables, bool (*canDescribe)(const QString &),
+                             const QString &description)
 {
     QStringList notes;
     for (const QString &table : tables)
-        if (!libraryDescription::canDescribe(table))
-            notes.append(note(
-                QT_TRANSLATE_NOOP("altiumExport", "Left out of the library description"), table));
+        if (!canDescribe(table))
+            notes.append(
+                note(QT_TRANSLATE_NOOP("altiumExport", "Left out of the library description"),
+                     table, text::fileNameOfPath(description)));
     return notes;
+}
+
+// The description had the name of both kinds of export once, which a tool may still have installed.
+QStringList oldDescriptionNotes(const QString &path)
+{
+    const QString old = withEnding(path, {QStringLiteral(".sqlite"), QStringLiteral(".xlsx")},
+                                   QStringLiteral(".DbLib"));
+    if (!QFile::exists(old))
+        return {};
+    return {note(QT_TRANSLATE_NOOP("altiumExport", "No longer updated; install instead"),
+                 text::fileNameOfPath(old), text::fileNameOfPath(libraryPath(path)))};
 }
 
 QString cutNote(const QString &caption, const QString &subject)
@@ -131,14 +154,6 @@ exportResult &fail(exportResult &result, const QString &error)
     result.result = exportResult::failed;
     result.error = error;
     return result;
-}
-
-QString withEnding(const QString &path, const QStringList &endings, const QString &replacement)
-{
-    for (const QString &ending : endings)
-        if (path.endsWith(ending, Qt::CaseInsensitive))
-            return path.left(path.size() - ending.size()) + replacement;
-    return path + replacement;
 }
 
 // A sheet being filled row by row, with a note for every text that was cut.
@@ -203,6 +218,29 @@ QByteArray descriptionOf(libraryDescription::source kind, const QString &path,
                                                ? QString::fromLatin1(table[size_t(i)].reserved)
                                                : columnNames.at(i)});
     return libraryDescription::text(kind, QFileInfo(path).fileName(), tables, columns, 0);
+}
+
+QByteArray kicadDescriptionOf(const QString &path, const QStringList &tables,
+                              const QStringList &columnNames)
+{
+    QList<kicadLibrary::column> columns;
+    for (int i = 0; i < columnNames.size(); ++i)
+        columns.append({columnNames.at(i), exportColumns()[size_t(i)].use});
+    return kicadLibrary::text(QFileInfo(path).fileName(), tables, columns);
+}
+
+// Tells what has changed since the last export, once the files are written.
+void follow(exportMemory &memory, const kiv_mat_databaseStruct &database, const QStringList &tables,
+            const QString &path, exportResult &result, const progressFunction &progress)
+{
+    std::vector<exportMemory::column> columns;
+    for (const exportColumn &column : exportColumns())
+        if (column.field)
+            columns.push_back({column.caption(), column.field});
+    if (!memory.follow(database, tables, columns, result.changes, progress))
+        result.notes.append(note(
+            QT_TRANSLATE_NOOP("altiumExport", "The next export will have nothing to compare with"),
+            notWritten(exportMemory::pathOf(path))));
 }
 
 // Texts in UTF-8, for the script.
@@ -291,10 +329,11 @@ QString scriptPath(const QString &path)
     return withEnding(path, {QStringLiteral(".sqlite")}, QStringLiteral(".txt"));
 }
 
-QString libraryPath(const QString &path)
+QString libraryPath(const QString &path) { return path + QLatin1String(".DbLib"); }
+
+QString kicadPath(const QString &path)
 {
-    return withEnding(path, {QStringLiteral(".sqlite"), QStringLiteral(".xlsx")},
-                      QStringLiteral(".DbLib"));
+    return withEnding(path, {QStringLiteral(".sqlite")}, QStringLiteral(".kicad_dbl"));
 }
 
 QString proposedExportPath(const QString &databasePath, const QString &folder,
@@ -310,9 +349,13 @@ exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QStr
                               const progressFunction &progress)
 {
     exportResult result;
+    exportMemory memory(path);
     const QStringList wanted = groupNames(database);
-    const QStringList sheets = exportNames::sheetNames(wanted);
-    result.notes = renameNotes(wanted, sheets) + undescribedNotes(sheets);
+    const QStringList sheets = exportNames::sheetNames(wanted, {}, memory.tableNames());
+    const QString library = libraryPath(path);
+    result.notes = renameNotes(wanted, sheets)
+                   + undescribedNotes(sheets, libraryDescription::canDescribe, library)
+                   + oldDescriptionNotes(path);
     const QStringList columnNames = captions();
     const std::vector<exportColumn> &columns = exportColumns();
     workbook book;
@@ -335,7 +378,6 @@ exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QStr
             }
         }
     }
-    const QString library = libraryPath(path);
     const QByteArray description =
         descriptionOf(libraryDescription::workbookFile, path, sheets, columnNames);
     safeFile libraryFile(library);
@@ -347,6 +389,7 @@ exportResult exportAltiumXlsx(const kiv_mat_databaseStruct &database, const QStr
     if (!libraryFile.commit())
         return fail(result, notWritten(library));
     result.files = QStringList{path, library};
+    follow(memory, database, sheets, path, result, progress);
     return result;
 }
 
@@ -354,9 +397,16 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
                                 const progressFunction &progress)
 {
     exportResult result;
+    exportMemory memory(path);
     const QStringList wanted = groupNames(database);
-    const QStringList tables = exportNames::sqlNames(wanted);
-    result.notes = renameNotes(wanted, tables) + undescribedNotes(tables);
+    const QStringList tables = exportNames::sqlNames(wanted, {}, memory.tableNames());
+    // The file that a program may hold open comes first: when it cannot be replaced, none is.
+    const QStringList paths{path, scriptPath(path), libraryPath(path), kicadPath(path)};
+    result.notes =
+        renameNotes(wanted, tables)
+        + undescribedNotes(tables, libraryDescription::canDescribe, paths.at(2))
+        + undescribedNotes(tables, kicadLibrary::canDescribe, paths.at(3))
+        + oldDescriptionNotes(path);
     // The first column, "id", numbers the rows.
     const QStringList columnNames = exportNames::sqlNames(captions(), {QStringLiteral("id")});
 
@@ -366,11 +416,11 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
                                                         "The SQLite driver cannot be used"));
     const QByteArray description =
         descriptionOf(libraryDescription::sqliteFile, path, tables, columnNames);
-    // The file that a program may hold open comes first: when it cannot be replaced, none is.
-    const QStringList paths{path, scriptPath(path), libraryPath(path)};
+    const QByteArray kicad = kicadDescriptionOf(path, tables, columnNames);
     safeFile data(paths.at(0));
     safeFile script(paths.at(1));
     safeFile library(paths.at(2));
+    safeFile kicadFile(paths.at(3));
     if (!script.open(QIODevice::WriteOnly)
         || !writeScript(database, tables, columnNames, script, result, progress))
         return result.result == exportResult::cancelled ? result
@@ -379,7 +429,9 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
         return fail(result, notWritten(path));
     if (!library.open(QIODevice::WriteOnly) || library.write(description) != description.size())
         return fail(result, notWritten(paths.at(2)));
-    const QList<safeFile *> written{&data, &script, &library};
+    if (!kicadFile.open(QIODevice::WriteOnly) || kicadFile.write(kicad) != kicad.size())
+        return fail(result, notWritten(paths.at(3)));
+    const QList<safeFile *> written{&data, &script, &library, &kicadFile};
     for (int i = 0; i < written.size(); ++i)
         if (!written.at(i)->commit())
             return fail(result, notWritten(paths.at(i)));
@@ -387,6 +439,7 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
     for (const char *ending : {"-journal", "-wal", "-shm"})
         files::removeFile(path + QLatin1String(ending));
     result.files = paths;
+    follow(memory, database, tables, path, result, progress);
     return result;
 }
 

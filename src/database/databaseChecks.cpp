@@ -1,7 +1,7 @@
 #include "database/databaseChecks.h"
 
 #include "data/kiv_mat_databaseStruct.h"
-#include "util/labels.h"
+#include "database/databaseFindings.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -133,33 +133,15 @@ QString allKtmsAreUnique()
 
 std::vector<incompleteMaterial> incompleteMaterials(const kiv_mat_databaseStruct &database)
 {
-    using material = materialStruct;
-    const struct
-    {
-        QString material::*field;
-        QString caption;
-    } wanted[] = {
-        {&material::d_ktm, labels::ktm()},     {&material::d_cpv, labels::cpv()},
-        {&material::d_name, labels::name()},   {&material::d_description, labels::description()},
-        {&material::d_price, labels::price()}, {&material::d_unit, labels::unit()}};
-    const QString status = labels::status();
-    const QString sources = labels::manufacturers() + QLatin1String(" / ") + labels::suppliers();
-
     std::vector<incompleteMaterial> result;
-    for (const auto &group : database.groups) {
+    for (const auto &group : database.groups)
         for (const auto &item : group->items) {
             QStringList missing;
-            for (const auto &w : wanted)
-                if (isBlank((*item).*w.field))
-                    missing.append(w.caption);
-            if (isBlank(item->information.status))
-                missing.append(status);
-            if (item->manufacturers.items.empty() && item->suppliers.items.empty())
-                missing.append(sources);
+            for (const QLatin1String field : emptyFieldsOf(*item))
+                missing.append(findingText::emptyField(field));
             if (!missing.isEmpty())
                 result.push_back({item.get(), missing});
         }
-    }
     return result;
 }
 

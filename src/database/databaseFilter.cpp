@@ -4,21 +4,17 @@
 #include "data/vocabulary.h"
 #include "tree/myTreeView.h"
 #include "window/searchLine.h"
-#include "window/workProgress.h"
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QMenu>
 #include <QStatusBar>
-#include <QTimer>
 
 using materialRows = databaseTree::rows;
 using myItem::myItemStandard;
 
 namespace {
 
-constexpr int sliceMs = 25;
 // Groups with matches open by themselves while no more materials than these are found.
 constexpr int openedMatches = 300;
 
@@ -58,7 +54,7 @@ void Kiv_mat_databaseWindow::commandEdited(bool on)
     applyFilter();
 }
 
-bool Kiv_mat_databaseWindow::isShown(const materialStruct &material) const
+bool Kiv_mat_databaseWindow::matches(const materialStruct &material) const
 {
     if (!m_statusFilter.isEmpty() && !material.information.status.contains(m_statusFilter))
         return false;
@@ -68,78 +64,87 @@ bool Kiv_mat_databaseWindow::isShown(const materialStruct &material) const
     return m_query.terms().empty() || known().search().matches(&material, m_query);
 }
 
-void Kiv_mat_databaseWindow::filterRow(QStandardItem *group, int row)
+// Takes back the search and the filters.
+void Kiv_mat_databaseWindow::showAll()
 {
-    const auto *first = static_cast<const myItemStandard *>(group->child(row));
-    const auto *material = first ? static_cast<materialStruct *>(first->record) : nullptr;
-    if (!material)
-        return;
-    m_words->setRowShown(first->index(), isShown(*material));
+    m_words->clear();
+    for (const auto &[name, word] : statusFilters)
+        action(name)->setChecked(false);
+    action("edited")->setChecked(false);
+    applyFilter();
+}
+
+// Rows that do not match go, so nothing of them is selected or current.
+void Kiv_mat_databaseWindow::deselectUnmatched()
+{
+    const auto isGone = [this](const QModelIndex &row) {
+        const materialStruct *material = m_rows->materialAt(row);
+        return material && !matches(*material);
+    };
+    QItemSelection gone;
+    for (const QItemSelectionRange &range : m_view->selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            if (const QModelIndex first = QModelIndex(range.topLeft()).siblingAtRow(row);
+                isGone(first))
+                gone.select(first, first.siblingAtColumn(range.right()));
+    if (!gone.isEmpty())
+        m_view->selectionModel()->select(gone, QItemSelectionModel::Deselect);
+    if (const QModelIndex current = m_view->currentIndex(); isGone(current))
+        m_view->selectionModel()->setCurrentIndex(current.parent(), QItemSelectionModel::NoUpdate);
 }
 
 void Kiv_mat_databaseWindow::applyFilter()
 {
     m_query = m_words->query();
     const bool searching = !m_query.terms().empty();
-    m_shownCount = 0;
-    int all = 0;
-    std::vector<QStandardItem *> matching;
-    for (const auto &group : m_rows->database().groups) {
-        int matches = 0;
-        for (const auto &material : group->items)
-            matches += isShown(*material);
-        all += int(group->items.size());
-        m_shownCount += matches;
-        QStandardItem *item = m_rows->groupItem(group.get());
-        if (!item)
-            continue;
-        m_words->setRowShown(item->index(), !searching || matches > 0);
-        if (matches > 0)
-            matching.push_back(item);
+    if (searching || m_editedFilter || !m_statusFilter.isEmpty()) {
+        deselectUnmatched();
+        m_rows->setFilter([this](const materialStruct &material) { return matches(material); });
+    } else {
+        m_rows->setFilter({});
     }
-    m_filterGroup = 0;
-    filterSlice();
-    if (searching && m_shownCount <= openedMatches)
-        for (QStandardItem *item : matching)
-            m_view->expand(item->index());
+    showGroups();
+    if (searching && m_shownCount <= openedMatches) {
+        std::vector<QStandardItem *> matching;
+        for (const auto &group : m_rows->database().groups)
+            if (QStandardItem *item = m_rows->groupItem(group.get());
+                item && m_rows->shownIn(group.get()) > 0)
+                matching.push_back(item);
+        m_view->expandRows(matching);
+    }
     QString told = m_query.errors().join(QLatin1String(", "));
-    if (told.isEmpty())
+    if (told.isEmpty()) {
+        const int all = m_rows->database().materialCount();
         told = m_shownCount == all
                    ? tr("%n material(s)", nullptr, all)
                    : tr("%1 of %n material(s) shown", nullptr, all).arg(m_shownCount);
+    }
     tell(told);
+}
+
+// While searching, groups without materials that can be seen are hidden.
+void Kiv_mat_databaseWindow::showGroups()
+{
+    m_shownCount = 0;
+    for (const auto &group : m_rows->database().groups) {
+        const int shown = m_rows->shownIn(group.get());
+        m_shownCount += shown;
+        if (const QStandardItem *item = m_rows->groupItem(group.get()))
+            m_words->setRowShown(item->index(), m_query.terms().empty() || shown > 0);
+    }
+    m_view->deselectHidden();
 }
 
 // The first material that the search shows, unless one of them is current.
 void Kiv_mat_databaseWindow::goToFound()
 {
-    if (m_query.terms().empty()
-        || materialRows::materialOf(m_model->itemFromIndex(m_view->markedCell())))
+    if (m_query.terms().empty() || m_rows->materialAt(m_view->markedCell()))
         return;
     for (QModelIndex row = m_view->indexAt({0, 0}); row.isValid(); row = m_view->indexBelow(row))
-        if (const materialStruct *found = materialRows::materialOf(m_model->itemFromIndex(row));
-            found && isShown(*found)) {
+        if (m_rows->materialAt(row)) {
             m_view->goTo(row);
             return;
         }
-}
-
-// Rows that are made already, some at a time, so that the next key need not wait.
-void Kiv_mat_databaseWindow::filterSlice()
-{
-    QElapsedTimer time;
-    time.start();
-    while (m_filterGroup >= 0 && m_filterGroup < m_model->rowCount()) {
-        QStandardItem *group = m_model->item(m_filterGroup++);
-        for (int row = 0; row < group->rowCount(); ++row)
-            filterRow(group, row);
-        if (time.elapsed() > sliceMs) {
-            QTimer::singleShot(0, this, &Kiv_mat_databaseWindow::filterSlice);
-            return;
-        }
-    }
-    m_filterGroup = -1;
-    m_view->deselectHidden();
 }
 
 void Kiv_mat_databaseWindow::selectItem(QTreeView *view, QStandardItem *item)
@@ -147,26 +152,24 @@ void Kiv_mat_databaseWindow::selectItem(QTreeView *view, QStandardItem *item)
     static_cast<myTreeView *>(view)->goTo(item->index());
 }
 
-void Kiv_mat_databaseWindow::selectMaterial(materialStruct *material)
+void Kiv_mat_databaseWindow::selectMaterial(const materialStruct *material)
 {
-    if (!m_rows->find(material))
-        for (const auto &group : m_rows->database().groups)
-            for (const auto &candidate : group->items)
-                if (candidate.get() == material)
-                    m_model->fetch(m_rows->groupItem(group.get()));
+    if (!m_rows->find(material) && m_rows->bring(material)) {
+        m_rows->follow();
+        showGroups();
+    }
     if (myItemStandard *first = m_rows->find(material))
         selectItem(m_view, first);
 }
 
 void Kiv_mat_databaseWindow::commandExpand(bool)
 {
-    workProgress::scope work(progress(), tr("Opening groups"));
-    const auto step = work.function();
+    std::vector<QStandardItem *> groups;
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        m_view->expandItem(m_model->item(row));
-        if (!step(row + 1, m_model->rowCount()))
-            return;
+        m_model->fetch(m_model->item(row));
+        groups.push_back(m_model->item(row));
     }
+    m_view->expandRows(groups);
 }
 
 void Kiv_mat_databaseWindow::commandExpand2(bool on) { commandExpand(on); }

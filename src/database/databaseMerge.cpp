@@ -5,12 +5,11 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/recordMatching.h"
+#include "database/materialFiles.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
 #include <QHash>
-
-#include <optional>
 
 namespace {
 
@@ -19,11 +18,14 @@ QString sourcesText(const List &list)
 {
     QStringList lines;
     for (const auto &source : list.items) {
-        QStringList parts{source->name, source->partNo, source->description};
+        QStringList parts{source->name, source->partNo};
         parts.removeAll(QString());
+        if (!source->description.isEmpty())
+            parts.append(QLatin1Char('(') + source->description + QLatin1Char(')'));
         lines.append(parts.join(QLatin1Char(' ')));
         for (const auto &file : source->files.items)
-            lines.append(file->name);
+            lines.append(file->name + QLatin1String(" [") + labels::shown(file->type)
+                         + QLatin1Char(']'));
     }
     return lines.join(QLatin1Char('\n'));
 }
@@ -274,6 +276,27 @@ const std::vector<comparedField> &comparedFields()
 {
     static const std::vector<comparedField> fields = makeFields();
     return fields;
+}
+
+int groupPlace() { return int(comparedFields().size()); }
+
+std::optional<int> placeOf(const QString &fieldName)
+{
+    const std::vector<comparedField> &table = comparedFields();
+    for (size_t i = 0; i < table.size(); ++i)
+        if (table[i].name == fieldName)
+            return int(i);
+    return {};
+}
+
+bool narrow(materialDifference &difference, const std::function<bool(int place)> &wanted)
+{
+    if (difference.kind != materialDifference::changed
+        && difference.kind != materialDifference::repeated)
+        return true;
+    std::erase_if(difference.fields, [&wanted](int place) { return !wanted(place); });
+    difference.moved = difference.moved && wanted(groupPlace());
+    return difference.moved || !difference.fields.empty();
 }
 
 comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,

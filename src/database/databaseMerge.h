@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class d_groupStruct;
@@ -62,6 +63,14 @@ struct comparison
 // progress is told the other's materials.
 comparison compareDatabases(kiv_mat_databaseStruct &mine, const kiv_mat_databaseStruct &other,
                             const progressFunction &progress = {});
+
+// Stands behind the places in comparedFields(): the group that a material stands in.
+int groupPlace();
+// The place of a field by its name as in files; nothing when there is none.
+std::optional<int> placeOf(const QString &fieldName);
+// Leaves of what changed or is repeated only the places that are wanted; false when nothing of it
+// is left. Whatever else differs is left as it is.
+bool narrow(materialDifference &difference, const std::function<bool(int place)> &wanted);
 
 // What the user is told when nothing is new or changed.
 QString allMaterialsInDatabase();

@@ -39,23 +39,6 @@ constexpr statusMark marks[] = {{statusWord::grey, "#8A949E"},
                                 {statusWord::green, "#2E9E4F"},
                                 {statusWord::violet, "#7B3FB0"}};
 
-// A coloured dot for a status word; nothing for any other text.
-QString dot(const QString &status)
-{
-    for (const statusMark &mark : marks)
-        if (status == mark.word)
-            return QLatin1String("<span style=\"color:") + QLatin1String(mark.colour)
-                   + QLatin1String("\">&#9679;</span>&nbsp;");
-    return {};
-}
-
-QString price(const QString &stored)
-{
-    return stored.isEmpty()
-               ? QString()
-               : text::toHtml(numbers::grouped(numbers::price(stored))) + QLatin1String(" [ PLN ]");
-}
-
 // A web address as a link; any other file name as text.
 QString fileText(const QString &name)
 {
@@ -87,8 +70,8 @@ QString sourceText(const List &sources, const statusByName &statuses)
     for (const auto &source : sources.items) {
         if (!result.isEmpty())
             result += QLatin1String("<br>");
-        result += dot(statuses.value(source->name)) + text::toHtml(source->name) + QLatin1Char(' ')
-                  + text::toHtml(source->partNo);
+        result += statusDot(statuses.value(source->name)) + text::toHtml(source->name)
+                  + QLatin1Char(' ') + text::toHtml(source->partNo);
         if (!source->description.isEmpty())
             result += QLatin1String(", ") + text::toHtml(source->description);
         for (const auto &file : source->files.items)
@@ -146,10 +129,10 @@ QString reportWriter::start(const kiv_mat_databaseStruct &database) const
                   QString::number(database.materialCount()));
     page.closeTable();
     if (m_kind == databaseReportKind::full)
-        page.append(QLatin1String("<p>Status firmy:<br>") + dot(statusWord::grey)
-                    + QLatin1String(" - firma w trybie edycji i oceny<br>") + dot(statusWord::blue)
-                    + QLatin1String(" - firma nie stosuje RoHS <br>") + dot(statusWord::green)
-                    + QLatin1String(" - firma stosuje RoHS</p>\n"));
+        page.append(QLatin1String("<p>Status firmy:<br>") + statusDot(statusWord::grey)
+                    + QLatin1String(" - firma w trybie edycji i oceny<br>")
+                    + statusDot(statusWord::blue) + QLatin1String(" - firma nie stosuje RoHS <br>")
+                    + statusDot(statusWord::green) + QLatin1String(" - firma stosuje RoHS</p>\n"));
     return page.text();
 }
 
@@ -183,11 +166,11 @@ void reportWriter::writeRow(html::htmlTable &page, const materialStruct &materia
     const QString number = QStringLiteral("class=\"number\"");
     page.openRow();
     page.cell(number, QString::number(++m_ordinal));
-    page.cell({}, dot(material.information.status) + text::toHtml(material.d_ktm));
+    page.cell({}, statusDot(material.information.status) + text::toHtml(material.d_ktm));
     for (const QString &content :
          {material.d_name, material.d_description, material.d_value, material.d_case})
         page.cell({}, text::toHtml(content));
-    page.cell(number, price(material.d_price));
+    page.cell(number, priceHtml(material.d_price));
     page.cell(number, text::toHtml(material.d_inWarehouse) + QLatin1Char(' ')
                           + text::toHtml(labels::shown(material.d_unit)));
     page.closeRow();
@@ -205,21 +188,37 @@ void reportWriter::writeAll(html::htmlTable &page, const materialStruct &materia
     for (const auto &field : materialStruct::fields()) {
         const QString &stored = material.*field.member;
         if (field.member == &materialStruct::d_ktm)
-            row(dot(material.information.status) + text::toHtml(stored));
+            row(statusDot(material.information.status) + text::toHtml(stored));
         else if (field.member == &materialStruct::d_price
                  || field.member == &materialStruct::d_averagePrice)
-            row(price(stored));
+            row(priceHtml(stored));
         else
-            row(text::toHtml(labels::shown(stored)));
+            row(text::toHtml(labels::shownIn(field.name, stored)));
     }
     for (const auto &field : informationsStruct::fields())
-        row(text::toHtml(labels::shown(material.information.*field.member)));
+        row(text::toHtml(labels::shownIn(field.name, material.information.*field.member)));
     row(sourceText(material.manufacturers, m_manufacturers));
     row(sourceText(material.suppliers, m_suppliers));
     page.closeTable();
 }
 
 } // namespace
+
+QString statusDot(const QString &status)
+{
+    for (const statusMark &mark : marks)
+        if (status == mark.word)
+            return QLatin1String("<span style=\"color:") + QLatin1String(mark.colour)
+                   + QLatin1String("\">&#9679;</span>&nbsp;");
+    return {};
+}
+
+QString priceHtml(const QString &stored)
+{
+    return stored.isEmpty()
+               ? QString()
+               : text::toHtml(numbers::grouped(numbers::price(stored))) + QLatin1String(" [ PLN ]");
+}
 
 exportResult writeDatabaseReport(const kiv_mat_databaseStruct &database,
                                  const kiv_mat_firmStruct *firms, databaseReportKind kind,

@@ -13,6 +13,11 @@ enum class databaseReportKind
     full   // all fields, manufacturers, suppliers and files of every material
 };
 
+// A coloured dot for a status word, as HTML; nothing for any other text.
+QString statusDot(const QString &status);
+// A stored price as HTML, grouped and with its currency; nothing for none.
+QString priceHtml(const QString &stored);
+
 // Writes the report to path, group after group: memory does not grow with the database. firms, the
 // firm register or null, gives the status marks before the names of firms. progress is told
 // materials.

@@ -26,13 +26,12 @@ void databaseRowsTarget::add(d_groupStruct *group, std::unique_ptr<materialStruc
 materialStruct *databaseRowsTarget::replace(d_groupStruct *group, materialStruct *material,
                                             std::unique_ptr<materialStruct> content)
 {
-    QStandardItem *parent = fetched(group);
-    const QStandardItem *first = m_rows->find(material);
+    const QStandardItem *first = m_rows->bring(material);
     if (!first)
         return material;
     materialStruct *replaced = content.get();
-    m_members.push_back(
-        std::make_unique<changeRow>(parent, first->row(), m_rows->makeRow(std::move(content))));
+    m_members.push_back(std::make_unique<changeRow>(m_rows->groupItem(group), first->row(),
+                                                    m_rows->makeRow(std::move(content))));
     return replaced;
 }
 
@@ -46,11 +45,14 @@ void databaseRowsTarget::setCpv(d_groupStruct *group, const QString &cpv)
 
 void databaseRowsTarget::remove(d_groupStruct *group, const QSet<const materialStruct *> &materials)
 {
-    QStandardItem *parent = fetched(group);
+    std::vector<const materialStruct *> doomed;
+    for (const auto &material : group->items)
+        if (materials.contains(material.get()))
+            doomed.push_back(material.get());
     // From the last one on, where taking one moves none of the others.
-    for (int row = parent->rowCount() - 1; row >= 0; --row)
-        if (materials.contains(databaseTree::rows::materialOf(parent->child(row))))
-            m_members.push_back(std::make_unique<deleteFromItem>(parent, parent->child(row)));
+    for (auto material = doomed.rbegin(); material != doomed.rend(); ++material)
+        if (QStandardItem *first = m_rows->bring(*material))
+            m_members.push_back(std::make_unique<deleteFromItem>(m_rows->groupItem(group), first));
 }
 
 void databaseRowsTarget::revert()

@@ -6,10 +6,12 @@
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "database/altiumExport.h"
+#include "database/exportChangesDialog.h"
 #include "database/cpvOperations.h"
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
 #include "database/databaseRowsTarget.h"
+#include "database/findingsWindow.h"
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
@@ -77,7 +79,7 @@ private:
     std::vector<materialChange> m_changes;
 };
 
-// Manufacturers' and suppliers' names of many materials as one step; rows that are made follow.
+// Names in manufacturers and suppliers, or of their files, of many materials as one step; rows that are made follow.
 class changeNames : public command
 {
 public:
@@ -149,6 +151,17 @@ void Kiv_mat_databaseWindow::tellExport(const exportResult &result)
     tell(form.arg(QDir::toNativeSeparators(result.files.value(0))));
 }
 
+// What an export of the library changed is shown beside the window's work.
+void Kiv_mat_databaseWindow::tellLibrary(const exportResult &result)
+{
+    tellExport(result);
+    if (result.result != exportResult::done)
+        return;
+    if (!result.changes.rows.empty())
+        (new exportChangesDialog(result.changes, result.files.value(0), this))->show();
+    tell(statusBar()->currentMessage() + QLatin1String(". ") + summaryOf(result.changes));
+}
+
 // --- Reports and exports
 // --------------------------------------------------------------------------
 
@@ -179,8 +192,15 @@ void Kiv_mat_databaseWindow::exportTo(const QString &path,
     if (path.isEmpty())
         return;
     userState::instance().altiumDir = QFileInfo(path).absolutePath();
-    workProgress::scope work(progress(), tr("Exporting"));
-    tellExport(run(m_rows->database(), path, work.function()));
+    exportResult result;
+    {
+        workProgress::scope work(progress(), tr("Exporting"));
+        result = run(m_rows->database(), path, work.function());
+    }
+    if (run == exportGroups)
+        tellExport(result);
+    else
+        tellLibrary(result);
 }
 
 void Kiv_mat_databaseWindow::commandAltiumXlsx(bool)
@@ -215,26 +235,24 @@ void Kiv_mat_databaseWindow::commandGroups(bool)
 // --- Checks
 // ---------------------------------------------------------------------------------------
 
+// The KTMs are listed in the errors window, too, which stays where it is.
 void Kiv_mat_databaseWindow::commandFindDuplicate(bool)
 {
     const QStringList ktms = duplicateLines(duplicateKtms(m_rows->database()));
-    const QStringList parts = duplicateLines(duplicatePartNumbers(m_rows->database()));
-    list(tr("The same KTM:"), ktms);
-    list(tr("The same part number of a manufacturer:"), parts);
     if (ktms.isEmpty())
         userPrompts().showInformation(allKtmsAreUnique().toHtmlEscaped());
+    else
+        userPrompts().listError(ktms.join(QString()));
+    if (!ktms.isEmpty() || !duplicatePartNumbers(m_rows->database()).empty())
+        findings().showNow(findingKind::duplicate);
 }
 
 void Kiv_mat_databaseWindow::commandFindEmpty(bool)
 {
-    QStringList lines;
-    for (const incompleteMaterial &found : incompleteMaterials(m_rows->database()))
-        lines.append(
-            messages::failed({}, found.material->d_ktm + QLatin1Char(' ') + found.material->d_name,
-                             found.missing.join(QLatin1String(", "))));
-    list(tr("Materials with empty fields:"), lines);
-    if (lines.isEmpty())
+    if (incompleteMaterials(m_rows->database()).empty())
         userPrompts().showInformation(tr("No material has empty fields"));
+    else
+        findings().showNow(findingKind::empty);
 }
 
 void Kiv_mat_databaseWindow::commandInformation(bool)
@@ -250,6 +268,7 @@ void Kiv_mat_databaseWindow::commandCheck_urls(bool)
         checked = checkUrls(m_rows->database(), work.function());
     }
     list({}, linkErrorLines(checked));
+    noteLinks(checked);
     tell(tr("%n link(s) checked", nullptr, int(checked.links.size())));
     if (checked.links.empty())
         return;
@@ -296,8 +315,12 @@ void Kiv_mat_databaseWindow::commandParse(bool)
 {
     const QString path = userPrompts().openFile(
         tr("Open File"), paths::programDir(), tr("Xml/Txt File") + QLatin1String(" (*.txt *.xml)"));
-    if (path.isEmpty())
-        return;
+    if (!path.isEmpty())
+        takeListing(path);
+}
+
+void Kiv_mat_databaseWindow::takeListing(const QString &path)
+{
     QString error;
     const auto entries = readListing(path, &error);
     if (!entries) {
@@ -320,8 +343,12 @@ void Kiv_mat_databaseWindow::commandLoadCPVForGroups(bool)
 {
     const QString path =
         userPrompts().openFile(tr("Open File"), paths::programDir(), QStringLiteral("(*.txt)"));
-    if (path.isEmpty())
-        return;
+    if (!path.isEmpty())
+        loadCpv(path);
+}
+
+void Kiv_mat_databaseWindow::loadCpv(const QString &path)
+{
     workProgress::scope work(progress(), tr("Reading"));
     auto result = loadCpvForGroups(path, m_rows->database(), work.function());
     list(tr("CPV syntax error"), result.problems);
@@ -380,16 +407,28 @@ bool Kiv_mat_databaseWindow::takeOver(const std::vector<materialDifference> &sel
 void Kiv_mat_databaseWindow::renameFirms(const firmOperations::renameList &renames)
 {
     finishEditing();
-    auto changes = firmOperations::changesOf(m_rows->database(), renames);
+    pushNames(firmOperations::changesOf(m_rows->database(), renames), tr("Firms renamed"));
+}
+
+void Kiv_mat_databaseWindow::pushNames(std::vector<firmOperations::nameChange> changes,
+                                       const QString &what)
+{
     if (!changes.empty())
-        push(std::make_unique<changeNames>(m_rows.get(), std::move(changes)), tr("Firms renamed"));
+        push(std::make_unique<changeNames>(m_rows.get(), std::move(changes)), what);
 }
 
 void Kiv_mat_databaseWindow::commandMerge(bool)
 {
-    m_merge = std::make_unique<Kiv_mat_databaseMergeWindow>(this);
-    m_merge->show();
-    m_merge->commandOpen(false);
+    const QString path = userPrompts().openFile(tr("Open File"), paths::programDir(), xmlFilter());
+    if (!path.isEmpty())
+        mergeWith(path);
+}
+
+void Kiv_mat_databaseWindow::mergeWith(const QString &path)
+{
+    auto merge = std::make_unique<Kiv_mat_databaseMergeWindow>(this);
+    if (merge->open(path))
+        m_merge = std::move(merge);
 }
 
 // Names the lines of the open order and of BOM lists that would be left without a material, and

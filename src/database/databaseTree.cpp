@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <limits>
 
 using namespace myItem;
@@ -195,14 +196,21 @@ void rows::show(myModel *model)
 {
     m_model = model;
     model->setRecords(nullptr);
-    m_first.clear();
+    m_groups.clear();
+    m_homes.clear();
+    m_homes.reserve(m_database->materialCount());
+    m_kept.clear();
+    m_putIn.clear();
     model->removeRows(0, model->rowCount());
     setCaptions(model, m_columns);
-    for (const auto &group : m_database->groups)
+    for (const auto &group : m_database->groups) {
         model->appendRow(groupRow(group.get()));
-    for (int row = 0; row < model->rowCount(); ++row)
-        note(model->item(row));
+        m_groups.insert(group.get(),
+                        static_cast<myItemStandard *>(model->item(model->rowCount() - 1)));
+        noteHomes(group.get());
+    }
     model->setRecords(this);
+    follow();
 }
 
 myItem::row rows::groupRow(d_groupStruct *group) const
@@ -214,45 +222,36 @@ myItem::row rows::groupRow(d_groupStruct *group) const
     auto *cpv = new myItemLineEdit(m_columns[cpvColumn].key, group->cpv, true);
     name->record = group;
     name->childrenPending = !group->items.empty();
-    count->setText(QCoreApplication::translate("databaseTree", "%n material(s)", nullptr,
-                                               int(group->items.size())));
+    if (group->items.empty())
+        name->below = std::make_unique<std::vector<lazyRow>>();
+    name->setColumnCount(int(m_columns.size()));
     return {name, count, cpv};
 }
 
-// Rows that are in the tree are found by their records.
-void rows::note(QStandardItem *first)
+void rows::noteHomes(d_groupStruct *group)
 {
-    auto *cell = static_cast<myItemStandard *>(first);
-    m_first.insert(cell->record, cell);
-    for (int row = 0; row < first->rowCount(); ++row)
-        note(first->child(row));
+    for (const auto &material : group->items)
+        m_homes.insert(material.get(), group);
 }
 
-void rows::unnote(QStandardItem *first)
+void rows::showCount(const d_groupStruct *group)
 {
-    m_first.remove(static_cast<myItemStandard *>(first)->record);
-    for (int row = 0; row < first->rowCount(); ++row)
-        unnote(first->child(row));
-}
-
-void rows::showCount(QStandardItem *groupItem) const
-{
-    if (QStandardItem *count = m_model->itemFromIndex(m_model->index(
-            groupItem->row(), ktmColumn, m_model->indexFromItem(groupItem->parent()))))
-        count->setText(QCoreApplication::translate("databaseTree", "%n material(s)", nullptr,
-                                                   int(groupOf(groupItem)->items.size())));
-}
-
-myItem::row rows::materialRow(materialStruct *material) const
-{
-    return ::makeRow(m_columns, material);
+    const QStandardItem *item = groupItem(group);
+    QStandardItem *count = item ? m_model->item(item->row(), ktmColumn) : nullptr;
+    if (!count)
+        return;
+    const int all = int(group->items.size());
+    count->setText(
+        isFiltered()
+            ? QCoreApplication::translate("databaseTree", "%1 of %2").arg(shownIn(group)).arg(all)
+            : QCoreApplication::translate("databaseTree", "%n material(s)", nullptr, all));
 }
 
 myItem::row rows::makeRow(std::unique_ptr<materialStruct> material) const
 {
-    const myItem::row items = materialRow(material.get());
-    static_cast<myItemStandard *>(items.first())->own(std::move(material));
-    return items;
+    auto *first = newCell(material.get(), nameColumn).release();
+    first->own(std::move(material));
+    return {first};
 }
 
 myItem::row rows::makeRow(std::unique_ptr<d_groupStruct> group) const
@@ -278,8 +277,8 @@ const myItemStandard *firstOf(const QStandardItem *item)
 
 materialStruct *rows::materialOf(const QStandardItem *item)
 {
-    const myItemStandard *first = item && item->parent() ? firstOf(item) : nullptr;
-    return first ? static_cast<materialStruct *>(first->record) : nullptr;
+    const auto *model = item && item->parent() ? qobject_cast<myModel *>(item->model()) : nullptr;
+    return model ? static_cast<materialStruct *>(model->recordAt(item->index())) : nullptr;
 }
 
 d_groupStruct *rows::groupOf(const QStandardItem *item)
@@ -288,9 +287,76 @@ d_groupStruct *rows::groupOf(const QStandardItem *item)
     return first ? static_cast<d_groupStruct *>(first->record) : nullptr;
 }
 
-myItemStandard *rows::find(const materialStruct *material) const { return m_first.value(material); }
+materialStruct *rows::materialAt(const QModelIndex &index) const
+{
+    return index.parent().isValid() ? static_cast<materialStruct *>(m_model->recordAt(index))
+                                    : nullptr;
+}
 
-QStandardItem *rows::groupItem(const d_groupStruct *group) const { return m_first.value(group); }
+myItemStandard *rows::find(const materialStruct *material) const
+{
+    const QStandardItem *group = groupItem(homeOf(material));
+    const int row = group ? myModel::rowOfRecord(group, material) : -1;
+    return row < 0 ? nullptr : m_model->cell(m_model->index(row, 0, group->index()));
+}
+
+myItemStandard *rows::bring(const materialStruct *material)
+{
+    d_groupStruct *home = homeOf(material);
+    QStandardItem *group = groupItem(home);
+    if (!group)
+        return nullptr;
+    m_model->fetch(group);
+    if (myItemStandard *first = find(material))
+        return first;
+    m_kept.insert(material);
+    const auto place = recordPlaces::placeOf(home->items, material, 0);
+    return m_model->showRecord(group, rowBefore(group, *home, size_t(place - home->items.begin())),
+                               place->get());
+}
+
+QStandardItem *rows::groupItem(const d_groupStruct *group) const { return m_groups.value(group); }
+
+// --- The filter
+// -----------------------------------------------------------------------------------
+
+bool rows::isShown(const materialStruct &material) const
+{
+    return !m_matches || m_kept.contains(&material) || m_matches(material);
+}
+
+void rows::setFilter(filter matches)
+{
+    m_matches = std::move(matches);
+    m_kept.clear();
+    m_putIn.clear();
+    follow();
+}
+
+void rows::follow()
+{
+    constexpr int mostByHand = 100;
+    if (m_putIn.size() <= mostByHand)
+        m_kept.unite(m_putIn);
+    m_putIn.clear();
+    std::vector<myModel::shownRecords> wanted;
+    for (const auto &group : m_database->groups) {
+        auto *item = static_cast<myItemStandard *>(groupItem(group.get()));
+        std::vector<xmlData *> records;
+        int shown = 0;
+        for (const auto &material : group->items)
+            if (isShown(*material)) {
+                ++shown;
+                if (item && item->below)
+                    records.push_back(material.get());
+            }
+        m_shown.insert(group.get(), shown);
+        if (item && item->below)
+            wanted.emplace_back(item, std::move(records));
+        showCount(group.get());
+    }
+    m_model->showRecords(std::move(wanted));
+}
 
 void rows::willChange(const materialStruct *material) const
 {
@@ -304,15 +370,19 @@ void rows::refresh(materialStruct *material)
         watch->changed(material, 1);
     if (m_search)
         m_search->update(material);
-    myItemStandard *first = find(material);
-    if (!first)
+    const QStandardItem *group = groupItem(homeOf(material));
+    const int row = group ? myModel::rowOfRecord(group, material) : -1;
+    if (row < 0)
         return;
-    for (size_t c = 0; c < m_columns.size(); ++c) {
-        auto *cell = static_cast<myItemStandard *>(first->parent()->child(first->row(), int(c)));
-        setStoredText(cell, m_columns[c].read(*material));
-        if (m_columns[c].look)
-            m_columns[c].look(*material, cell);
-    }
+    if (isFiltered())
+        m_kept.insert(material);
+    m_model->lookAgain();
+    for (size_t c = 0; c < m_columns.size(); ++c)
+        if (auto *cell = static_cast<myItemStandard *>(group->child(row, int(c)))) {
+            setStoredText(cell, m_columns[c].read(*material));
+            if (m_columns[c].look)
+                m_columns[c].look(*material, cell);
+        }
 }
 
 void rows::index(materialStruct *material, d_groupStruct *group)
@@ -346,6 +416,8 @@ void rows::cellChanged(myItemStandard *item, myItemStandard *first)
     const treeColumn<materialStruct> &column = m_columns[size_t(item->column())];
     if (!column.write)
         return;
+    if (isFiltered())
+        m_kept.insert(material);
     const bool isKey = item->column() == ktmColumn;
     if (isKey && m_materials)
         m_materials->remove(material);
@@ -360,33 +432,58 @@ void rows::cellChanged(myItemStandard *item, myItemStandard *first)
 
 void rows::rowInserted(QStandardItem *parent, int row, myItemStandard *first)
 {
-    note(first);
     if (parent == m_model->invisibleRootItem()) {
         auto *group = static_cast<d_groupStruct *>(first->record);
+        m_groups.insert(group, first);
+        noteHomes(group);
         recordPlaces::putInto(m_database->groups, parent, row, first);
         for (const auto &material : group->items)
             index(material.get(), group);
+        m_shown.insert(group, int(group->items.size()));
+        showCount(group);
         return;
     }
     d_groupStruct *group = groupOf(parent);
-    recordPlaces::putInto(group->items, parent, row, first);
-    index(static_cast<materialStruct *>(first->record), group);
-    showCount(parent);
+    auto *material = static_cast<materialStruct *>(first->record);
+    auto &list = group->items;
+    // What was there before has its place, wherever the row stands among those that are shown.
+    auto place = list.end();
+    if (first->owned->place >= 0 && size_t(first->owned->place) <= list.size())
+        place = list.begin() + first->owned->place;
+    else if (row + 1 < parent->rowCount())
+        place = recordPlaces::placeOf(
+            list, m_model->recordAt(m_model->index(row + 1, 0, parent->index())), row);
+    recordPlaces::putAt(list, place, first);
+    m_homes.insert(material, group);
+    if (isFiltered())
+        m_putIn.insert(material);
+    index(material, group);
+    ++m_shown[group];
+    showCount(group);
 }
 
 void rows::rowTaken(QStandardItem *parent, int row, myItemStandard *first)
 {
-    unnote(first);
     if (parent == m_model->invisibleRootItem()) {
         const auto *group = static_cast<d_groupStruct *>(first->record);
-        for (const auto &material : group->items)
+        m_groups.remove(group);
+        m_shown.remove(group);
+        for (const auto &material : group->items) {
+            m_homes.remove(material.get());
             forget(material.get());
+        }
         recordPlaces::takeFrom(m_database->groups, row, first);
         return;
     }
-    forget(static_cast<materialStruct *>(first->record));
-    recordPlaces::takeFrom(groupOf(parent)->items, row, first);
-    showCount(parent);
+    const auto *material = static_cast<materialStruct *>(first->record);
+    d_groupStruct *group = groupOf(parent);
+    m_homes.remove(material);
+    m_kept.remove(material);
+    m_putIn.remove(material);
+    forget(material);
+    recordPlaces::takeFrom(group->items, row, first);
+    --m_shown[group];
+    showCount(group);
 }
 
 std::optional<QString> rows::unitOf(const myItemStandard &item, const myItemStandard *first) const
@@ -396,14 +493,49 @@ std::optional<QString> rows::unitOf(const myItemStandard &item, const myItemStan
     return unit && material ? std::optional(unit(*material)) : std::nullopt;
 }
 
-std::vector<myItem::row> rows::childRows(myItemStandard *first)
+std::vector<xmlData *> rows::childRecords(const myItemStandard *first)
 {
-    std::vector<myItem::row> made;
+    std::vector<xmlData *> records;
     for (const auto &material : static_cast<d_groupStruct *>(first->record)->items)
-        made.push_back(materialRow(material.get()));
-    for (const myItem::row &row : made)
-        note(row.first());
-    return made;
+        if (isShown(*material))
+            records.push_back(material.get());
+    return records;
+}
+
+std::unique_ptr<myItemStandard> rows::newCell(xmlData *record, int column) const
+{
+    std::unique_ptr<myItemStandard> cell(
+        makeCell(m_columns[size_t(column)], *static_cast<materialStruct *>(record)));
+    if (column == nameColumn)
+        cell->record = record;
+    return cell;
+}
+
+bool rows::isEditable(int column) const { return m_columns[size_t(column)].editable; }
+
+// Before the first row of a material that stands behind that place of the group.
+int rows::rowBefore(const QStandardItem *groupItem, const d_groupStruct &group, size_t place) const
+{
+    const auto &below = static_cast<const myItemStandard *>(groupItem)->below;
+    size_t row = 0;
+    for (size_t at = 0; below && at < place && at < group.items.size() && row < below->size(); ++at)
+        row += (*below)[row].record == group.items[at].get();
+    return int(row);
+}
+
+// As the file has them, unless the tree is sorted.
+int rows::rowFor(const QStandardItem *parent, int row, const myItemStandard *first) const
+{
+    const d_groupStruct *group = groupOf(parent);
+    if (!group || !first->record || m_model->isSorted())
+        return row;
+    if (first->owned)
+        return first->owned->place < 0 ? row
+                                       : rowBefore(parent, *group, size_t(first->owned->place));
+    const auto place =
+        std::find_if(group->items.begin(), group->items.end(),
+                     [first](const auto &material) { return material.get() == first->record; });
+    return rowBefore(parent, *group, size_t(place - group->items.begin()));
 }
 
 } // namespace databaseTree

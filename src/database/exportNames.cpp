@@ -3,6 +3,7 @@
 #include "database/workbook.h"
 #include "util/text.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QHash>
 #include <QSet>
@@ -40,40 +41,106 @@ QHash<QChar, QChar> readReplacements()
     return table;
 }
 
-// Makes names unique by a number at their end, within the longest length (0: any).
-class uniqueNames
+// The last so many UTF-16 units of a text, one less where that would halve a character.
+QString lastUnits(const QString &text, int units)
+{
+    const QString end = text.right(units);
+    return !end.isEmpty() && end.at(0).isLowSurrogate() ? end.mid(1) : end;
+}
+
+// Of a name that is too long its beginning and its end are kept: names of one family differ at the
+// end. What the name becomes depends on nothing else.
+QString shortened(const QString &name, int longest)
+{
+    if (name.size() <= longest)
+        return name;
+    const QLatin1Char joint('~');
+    QString end = lastUnits(name, longest * 2 / 3);
+    // From the beginning of a word on, when that leaves something telling.
+    const int word = end.indexOf(QLatin1Char(' ')) + 1;
+    if (name.at(name.size() - end.size() - 1) != QLatin1Char(' ')
+        && end.size() - word >= longest / 4)
+        end.remove(0, word);
+    return text::firstUnits(name, longest - 1 - end.size()).trimmed() + joint + end.trimmed();
+}
+
+// A name that tells apart two that would be equal: with four digits that follow from the full
+// name alone.
+QString marked(const QString &base, const QString &wanted, QChar separator, int longest)
+{
+    constexpr int digits = 4;
+    const QByteArray sum =
+        QCryptographicHash::hash(wanted.toUtf8(), QCryptographicHash::Md5).toHex().left(digits);
+    return (longest > 0 ? shortened(base, longest - digits - 1) : base) + separator
+           + QString::fromLatin1(sum);
+}
+
+// What is used up, in any case of letters.
+class takenNames
 {
 public:
-    uniqueNames(const QStringList &reserved, QChar separator, int longest)
-        : m_separator(separator)
-        , m_longest(longest)
+    explicit takenNames(const QStringList &reserved)
     {
         for (const QString &name : reserved)
-            m_taken.insert(name.toCaseFolded());
+            take(name);
     }
 
-    QString take(const QString &name)
+    bool take(const QString &name)
     {
-        QString result = m_longest > 0 ? text::firstUnits(name, m_longest) : name;
+        const QString folded = name.toCaseFolded();
+        if (m_taken.contains(folded))
+            return false;
+        m_taken.insert(folded);
+        return true;
+    }
+
+    // The name with the next number that is free.
+    QString takeNumbered(const QString &name, QChar separator, int longest)
+    {
         // Counting goes on where the last equal name stopped: a thousand of them cost no more.
-        int &number = m_numbers[result.toCaseFolded()];
-        const QString start = result;
-        while (m_taken.contains(result.toCaseFolded())) {
+        int &number = m_numbers[name.toCaseFolded()];
+        QString result;
+        do {
             number = qMax(number + 1, 2);
-            const QString ending = m_separator + QString::number(number);
-            result = (m_longest > 0 ? text::firstUnits(start, m_longest - ending.size()) : start)
-                     + ending;
-        }
-        m_taken.insert(result.toCaseFolded());
+            const QString ending = separator + QString::number(number);
+            result =
+                (longest > 0 ? text::firstUnits(name, longest - ending.size()) : name) + ending;
+        } while (!take(result));
         return result;
     }
 
 private:
     QSet<QString> m_taken;
     QHash<QString, int> m_numbers;
-    QChar m_separator;
-    int m_longest;
 };
+
+// One name for each wanted one, made of its base. Who had one of its names before keeps it, so that
+// who comes new takes nobody's; then the first one has its base, and the others are marked.
+QStringList unique(const QStringList &wanted, const QStringList &bases, const QStringList &reserved,
+                   const QHash<QString, QString> &before, QChar separator, int longest)
+{
+    takenNames taken(reserved);
+    QStringList result = QVector<QString>(wanted.size()).toList();
+    const auto markedName = [&](int i) {
+        return marked(bases.at(i), wanted.at(i), separator, longest);
+    };
+    for (int i = 0; i < wanted.size(); ++i) {
+        const QString kept = before.value(wanted.at(i));
+        if (!kept.isEmpty() && (kept == bases.at(i) || kept == markedName(i)) && taken.take(kept))
+            result[i] = kept;
+    }
+    for (int i = 0; i < wanted.size(); ++i) {
+        if (!result.at(i).isNull())
+            continue;
+        if (const QString base = bases.at(i); taken.take(base))
+            result[i] = base;
+        else if (const QString name = markedName(i); taken.take(name))
+            result[i] = name;
+        else
+            result[i] = taken.takeNumbered(name, separator, longest);
+    }
+    return result;
+}
 
 QString sheetName(const QString &wanted)
 {
@@ -81,8 +148,7 @@ QString sheetName(const QString &wanted)
     for (QChar &c : name)
         if (c < QLatin1Char(' ') || QLatin1String("[]:*?/\\").contains(c))
             c = QLatin1Char('_');
-    if (name.size() > workbook::maximumName)
-        name = text::firstUnits(name, workbook::maximumName).trimmed();
+    name = shortened(name, workbook::maximumName);
     while (name.startsWith(QLatin1Char('\'')))
         name.remove(0, 1);
     while (name.endsWith(QLatin1Char('\'')))
@@ -111,24 +177,24 @@ QString replaceCharacters(const QString &text)
     return result;
 }
 
-QStringList sheetNames(const QStringList &wanted, const QStringList &reserved)
+QStringList sheetNames(const QStringList &wanted, const QStringList &reserved,
+                       const QHash<QString, QString> &before)
 {
-    // Excel keeps this name for itself.
-    uniqueNames names(reserved + QStringList(QStringLiteral("History")), QLatin1Char(' '),
-                      workbook::maximumName);
-    QStringList result;
+    QStringList bases;
     for (const QString &name : wanted)
-        result.append(names.take(sheetName(name)));
-    return result;
+        bases.append(sheetName(name));
+    // Excel keeps this name for itself.
+    return unique(wanted, bases, reserved + QStringList(QStringLiteral("History")), before,
+                  QLatin1Char('~'), workbook::maximumName);
 }
 
-QStringList sqlNames(const QStringList &wanted, const QStringList &reserved)
+QStringList sqlNames(const QStringList &wanted, const QStringList &reserved,
+                     const QHash<QString, QString> &before)
 {
-    uniqueNames names(reserved, QLatin1Char('_'), 0);
-    QStringList result;
+    QStringList bases;
     for (const QString &name : wanted)
-        result.append(names.take(sqlName(name)));
-    return result;
+        bases.append(sqlName(name));
+    return unique(wanted, bases, reserved, before, QLatin1Char('_'), 0);
 }
 
 QString quoted(const QString &sqlName)

@@ -1,6 +1,8 @@
 // How an operation that writes files of its own went.
 #pragma once
 
+#include "database/exportChanges.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -17,4 +19,5 @@ struct exportResult
     QStringList notes; // HTML lines for the errors window: names changed, texts cut
     QStringList files; // paths written
     int materials = 0;
+    exportChanges changes; // of the exports that compare with the last one
 };

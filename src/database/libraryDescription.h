@@ -1,4 +1,4 @@
-// The description of an exported library with which the CAD tool opens it (.DbLib).
+// The description of an exported library with which Altium opens it (.DbLib).
 #pragma once
 
 #include <QByteArray>

@@ -3,6 +3,9 @@
 #include "data/configStruct.h"
 #include "data/vocabulary.h"
 #include "tools/hostKeys.h"
+#include "util/files.h"
+#include "util/messages.h"
+#include "util/paths.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -25,28 +28,11 @@ struct linkFolder
 constexpr linkFolder linkFolders[] = {{"/redfiles/DATASHEET/", "FILE_DATASHEET"},
                                       {"/redfiles/RoHS/", "FILE_MD"}};
 
-struct kindCaption
-{
-    QLatin1String fileKind;
-    const char *text;
-};
-constexpr kindCaption captions[] = {
-    {word("FILE_TR"), QT_TRANSLATE_NOOP("materialFiles", "Test report (TR)")},
-    {word("FILE_MD"), QT_TRANSLATE_NOOP("materialFiles", "Material declaration (MD)")},
-    {word("FILE_SD"), QT_TRANSLATE_NOOP("materialFiles", "Supplier's declaration (SD)")},
-    {word("FILE_REACH"), QT_TRANSLATE_NOOP("materialFiles", "REACH declaration")},
-    {word("FILE_DATASHEET"), QT_TRANSLATE_NOOP("materialFiles", "Datasheet")},
-    {word("FILE_CATALOG"), QT_TRANSLATE_NOOP("materialFiles", "Catalogue")},
-    {word("FILE_PDF"), QT_TRANSLATE_NOOP("materialFiles", "PDF file")},
-    {word("FILE_HTML"), QT_TRANSLATE_NOOP("materialFiles", "Web page")},
-    {word("FILE_XML"), QT_TRANSLATE_NOOP("materialFiles", "XML file")},
-    {word("FILE_XLS"), QT_TRANSLATE_NOOP("materialFiles", "Spreadsheet")},
-    {word("FILE_CSV"), QT_TRANSLATE_NOOP("materialFiles", "CSV file")},
-};
-
 QString tr(const char *text) { return QCoreApplication::translate("materialFiles", text); }
 
-QUrl addressOf(const fileServer &server)
+const QLatin1String keptFolder("_files/datasheets");
+
+QUrl serverAddress(const fileServer &server)
 {
     QUrl address = QUrl::fromUserInput(server.name);
     address.setScheme(QStringLiteral("http"));
@@ -63,12 +49,41 @@ QString lineOf(const QString &text, const QString &file, const QString &target)
 
 QString fileKindOf(linkKind kind) { return QLatin1String(linkFolders[kind].fileKind); }
 
-QString caption(const QString &fileKind)
+QUrl addressOf(const QString &link)
 {
-    for (const kindCaption &one : captions)
-        if (one.fileKind == fileKind)
-            return tr(one.text);
-    return fileKind;
+    return QUrl::fromUserInput(link.trimmed(), paths::dataDir());
+}
+
+QString keepCopy(const QString &path, QString *error, QString *made)
+{
+    const QFileInfo file(path);
+    const QString data = QFileInfo(paths::dataDir()).canonicalFilePath() + QLatin1Char('/');
+    if (file.canonicalFilePath().startsWith(data))
+        return file.canonicalFilePath().mid(data.size());
+    const QString name = QLatin1Char('/') + file.completeBaseName();
+    const QString suffix = file.suffix().isEmpty() ? QString() : QLatin1Char('.') + file.suffix();
+    for (int number = 1;; ++number) {
+        const QString link = keptFolder + name
+                             + (number == 1 ? QString() : QStringLiteral(" (%1)").arg(number))
+                             + suffix;
+        const QString copy = paths::data(link);
+        if (QFileInfo::exists(copy)) {
+            if (files::sameContent(path, copy))
+                return link;
+            continue;
+        }
+        if (QDir().mkpath(paths::data(keptFolder)) && files::copyFile(path, copy)) {
+            if (made)
+                *made = copy;
+            return link;
+        }
+        files::removeFile(copy);
+        *error = messages::because(
+            tr(QT_TRANSLATE_NOOP("materialFiles", "%1 cannot be copied to %2"))
+                .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)),
+            copy);
+        return {};
+    }
 }
 
 fileServer serverOf(const configStruct &config)
@@ -79,7 +94,7 @@ fileServer serverOf(const configStruct &config)
             config.options.value(optionKey::serverUserPassword)};
 }
 
-QString hostOf(const fileServer &server) { return addressOf(server).host(); }
+QString hostOf(const fileServer &server) { return serverAddress(server).host(); }
 
 QString proposedPath(const QString &localFile)
 {
@@ -98,7 +113,7 @@ QString linkTo(const fileServer &server, linkKind kind, const QString &path)
     const QString place = QDir::cleanPath(folder + QDir::fromNativeSeparators(path.trimmed()));
     if (server.name.isEmpty() || !place.startsWith(folder))
         return {};
-    QUrl link = addressOf(server);
+    QUrl link = serverAddress(server);
     link.setPath(place);
     return link.toString(QUrl::FullyEncoded);
 }

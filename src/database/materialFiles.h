@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 class configStruct;
 
@@ -17,8 +18,15 @@ enum linkKind
 // The kind of attached file that such a link is.
 QString fileKindOf(linkKind kind);
 
-// What a user sees for the kind of an attached file ("FILE_DATASHEET"); an unknown one unchanged.
-QString caption(const QString &fileKind);
+// Where the link of an attached file leads: a web address, also one without "http://", or a file;
+// one without a folder of its own lies in the data folder.
+QUrl addressOf(const QString &link);
+
+// Copies a file into the folder of attached files, unless it lies in the data folder already, and
+// returns the link to it, relative to the data folder. A file there that holds the same is used
+// again, one that holds something else stays: the copy gets a number. Empty, with the reason in
+// error, when it cannot be copied; made is set to the copy's path when there was none before.
+QString keepCopy(const QString &path, QString *error, QString *made = nullptr);
 
 struct fileServer
 {

@@ -2,7 +2,6 @@
 
 #include "data/kiv_mat_firmStruct.h"
 #include "data/vocabulary.h"
-#include "database/materialFiles.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
@@ -96,7 +95,7 @@ comboEntries entriesOf(const std::vector<std::unique_ptr<firmStruct>> &firms,
         const QIcon icon(picture);
         entries.append({firm->name, {}, icon, {}});
         known->insert(firm->name, {QCoreApplication::translate("materialTree", "%1, status %2")
-                                       .arg(firm->fullname, firm->status)
+                                       .arg(firm->fullname, labels::shown(firm->status))
                                        .toHtmlEscaped(),
                                    icon});
     }
@@ -272,12 +271,32 @@ void materialTree::addFirms(QStandardItem *parent, const Sources &sources) const
     }
 }
 
-void materialTree::show(myModel *model, materialStruct &material, const configStruct &config,
-                        const kiv_mat_firmStruct &firms)
+void materialTree::takeFirms(const configStruct &config, const kiv_mat_firmStruct &firms)
 {
     m_manufacturerColumns =
         firmColumns<manufacturerStruct>(firms.manufacturers.items, config.manufacturerStatuses);
     m_supplierColumns = firmColumns<supplierStruct>(firms.suppliers.items, config.supplierStatuses);
+}
+
+void materialTree::refreshFirms(const configStruct &config, const kiv_mat_firmStruct &firms)
+{
+    takeFirms(config, firms);
+    const auto look = [](const QStandardItem *section, const auto &columns, auto *null) {
+        using source = std::remove_pointer_t<decltype(null)>;
+        for (int row = 0; row < section->rowCount(); ++row) {
+            auto *cell = static_cast<myItemStandard *>(section->child(row, nameColumn));
+            columns[nameColumn].look(*static_cast<source *>(cell->record), cell);
+        }
+    };
+    look(m_manufacturers, m_manufacturerColumns, static_cast<manufacturerStruct *>(nullptr));
+    look(m_suppliers, m_supplierColumns, static_cast<supplierStruct *>(nullptr));
+}
+
+void materialTree::show(myModel *model, materialStruct &material, const configStruct &config,
+                        const kiv_mat_firmStruct &firms)
+{
+    takeFirms(config, firms);
+    unlisted.clear();
     m_fileColumns.clear();
     for (const textField<fileStruct> &one : fileStruct::fields())
         m_fileColumns.push_back(
@@ -287,8 +306,7 @@ void materialTree::show(myModel *model, materialStruct &material, const configSt
         cell->setToolTip(one.name);
     };
     m_fileColumns[nameColumn].kind = comboBoxKind;
-    for (const QString &kind : config.fileTypes)
-        m_fileColumns[nameColumn].entries.append({kind, {}, {}, materialFiles::caption(kind)});
+    m_fileColumns[nameColumn].entries = myItem::entriesOf(config.fileTypes);
 
     m_sectionFont = config.font();
     m_sectionFont.setBold(true);
@@ -361,9 +379,23 @@ void materialTree::cellChanged(myItemStandard *item, myItemStandard *first)
     }
     const bool isName = item->column() == nameColumn;
     if (write<manufacturerStruct>(record, *item) && isName)
-        m_manufacturerColumns[nameColumn].look(*static_cast<manufacturerStruct *>(record), item);
+        nameChanged(m_manufacturerColumns, record, item, manufacturer);
     else if (write<supplierStruct>(record, *item) && isName)
-        m_supplierColumns[nameColumn].look(*static_cast<supplierStruct *>(record), item);
+        nameChanged(m_supplierColumns, record, item, supplier);
+}
+
+template <class Source>
+void materialTree::nameChanged(const treeColumns<Source> &columns, xmlData *record,
+                               myItemStandard *cell, rowKind kind)
+{
+    const auto &source = *static_cast<const Source *>(record);
+    const treeColumn<Source> &name = columns[nameColumn];
+    name.look(source, cell);
+    const bool isListed =
+        std::any_of(name.entries.begin(), name.entries.end(),
+                    [&source](const comboEntry &entry) { return entry.value == source.name; });
+    if (!isListed && !source.name.isEmpty())
+        unlisted.push_back({kind, source.name});
 }
 
 void materialTree::rowInserted(QStandardItem *parent, int row, myItemStandard *first)

@@ -45,6 +45,17 @@ public:
     // The value of a field of the material; null when there is none.
     myItem::myItemStandard *valueOf(const QString &key) const { return m_values.value(key); }
 
+    // Takes the choices of firms from the register anew.
+    void refreshFirms(const configStruct &config, const kiv_mat_firmStruct &firms);
+
+    // The names that rows got since this was emptied, and that the register does not have.
+    struct firmName
+    {
+        rowKind kind;
+        QString name;
+    };
+    std::vector<firmName> unlisted;
+
     // Rows to be put in, which own their records.
     myItem::row newFirm(rowKind kind) const;
     myItem::row newFile(const QString &kind, const QString &name) const;
@@ -56,6 +67,7 @@ public:
                                   const myItem::myItemStandard *first) const override;
 
 private:
+    void takeFirms(const configStruct &config, const kiv_mat_firmStruct &firms);
     myItem::myItemStandard *addSection(myModel *model, const QString &text, xmlData *record);
     template <class Record>
     void addFields(QStandardItem *parent, Record &record, const configStruct &config,
@@ -65,6 +77,9 @@ private:
     myItem::row fileRow(fileStruct *record) const;
     template <class Sources>
     void addFirms(QStandardItem *parent, const Sources &sources) const;
+    template <class Source>
+    void nameChanged(const treeColumns<Source> &columns, xmlData *record,
+                     myItem::myItemStandard *cell, rowKind kind);
 
     QStandardItem *m_manufacturers = nullptr;
     QStandardItem *m_suppliers = nullptr;

@@ -2,11 +2,14 @@
 
 #include "commands/editCommands.h"
 #include "data/programData.h"
+#include "data/vocabulary.h"
+#include "database/datasheetCopies.h"
 #include "database/materialChecks.h"
 #include "tools/hostKeys.h"
 #include "tree/myTreeView.h"
 #include "util/desktop.h"
 #include "util/messages.h"
+#include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/workProgress.h"
@@ -19,6 +22,7 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QThread>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -87,6 +91,8 @@ QUrl openable(const QString &link)
     const QString text = link.trimmed();
     if (QDir::isAbsolutePath(text))
         return QUrl::fromLocalFile(text);
+    if (!text.isEmpty() && QFileInfo(paths::data(text)).isFile())
+        return materialFiles::addressOf(text);
     const QUrl url(text);
     return url.scheme().isEmpty() ? QUrl() : url;
 }
@@ -102,6 +108,10 @@ materialWindow::materialWindow(programData &files, QWidget *parent)
 {
     setWindowModality(Qt::ApplicationModal);
     addActions(actionTable);
+    stack().completed = [this](std::unique_ptr<command> change) {
+        askAboutFirms();
+        return change;
+    };
     m_view =
         addView(tr("Fields, manufacturers, suppliers and files of the material"), "material", this);
     m_view->setSortingEnabled(false);
@@ -238,6 +248,7 @@ bool materialWindow::isTaken(const QString &ktm) const
 
 void materialWindow::giveUnfinished()
 {
+    addFirm = {}; // nobody is there to be asked
     if (!isVisible() || isLocked() || !finishEditing() || !isModified())
         return;
     auto material = m_edited->copy();
@@ -248,8 +259,51 @@ void materialWindow::giveUnfinished()
     saved();
 }
 
+// A name that the register does not have may be a slip, or a firm that it is to have.
+void materialWindow::askAboutFirms()
+{
+    const std::vector<materialTree::firmName> names = std::exchange(m_rows.unlisted, {});
+    if (!addFirm || known().isSwitchedOff(optionKey::editFirm))
+        return;
+    QStringList asked;
+    for (const auto &[kind, name] : names) {
+        const bool isMaker = kind == materialTree::manufacturer;
+        const QString question = isMaker ? tr("The firm register has no manufacturer %1.")
+                                         : tr("The firm register has no supplier %1.");
+        const QString html =
+            question.arg(QLatin1String("<b>") + name.toHtmlEscaped() + QLatin1String("</b>"));
+        if (asked.contains(html))
+            continue;
+        asked.append(html);
+        const std::optional<int> answer =
+            userPrompts().decide(html, {tr("Add to the register"), tr("Only in this material")});
+        if (!answer) {
+            m_isUnwanted = true;
+            QTimer::singleShot(0, this, [this] { takeBackUnwanted(); });
+            return;
+        }
+        if (*answer == 0
+            && addFirm(isMaker ? firmOperations::manufacturer : firmOperations::supplier, name))
+            m_rows.refreshFirms(known().config(), known().firm());
+    }
+}
+
+// The step is in the history only after the question.
+bool materialWindow::takeBackUnwanted()
+{
+    if (!std::exchange(m_isUnwanted, false))
+        return false;
+    commandUndo(false);
+    return true;
+}
+
+// Names that go back or forth with a step were asked about already.
+void materialWindow::historyMoved() { m_rows.unlisted.clear(); }
+
 bool materialWindow::write(const QString &)
 {
+    if (takeBackUnwanted())
+        return false;
     auto material = m_edited->copy();
     materialChecks::tidy(material.get());
     if (const auto fault = materialChecks::firstFault(*material)) {
@@ -351,7 +405,7 @@ void materialWindow::commandDeleteRows(bool)
 
 void materialWindow::commandOpen(bool)
 {
-    const QUrl url = openable(currentLink());
+    const QUrl url = datasheetCopies::toOpen(openable(currentLink()), datasheetCopies::isOnline());
     if (!desktop::mayFollow(url))
         desktop::followLink(url); // which refuses it
     else if (!desktop::followLink(url))

@@ -4,6 +4,7 @@
 
 #include "database/materialFiles.h"
 #include "database/materialTree.h"
+#include "firm/firmOperations.h"
 #include "tools/KivScp.h"
 #include "window/editWindow.h"
 
@@ -26,6 +27,8 @@ public:
 
     // The program ends: what passes the checks is given to the database as if it had been set.
     void giveUnfinished();
+    // Adds a firm to the register, false when it could not; none when the register is not at hand.
+    std::function<bool(firmOperations::firmKind, const QString &name)> addFirm;
 
     const materialStruct &edited() const { return *m_edited; }
     const materialTree &rows() const { return m_rows; }
@@ -61,6 +64,7 @@ protected:
     bool write(const QString &) override;
     void saved() override;
     QString closeQuestion() const override { return tr("Set the changed material?"); }
+    void historyMoved() override;
     void updateActions() override;
 
 private:
@@ -75,6 +79,8 @@ private:
         ownRow = -2
     };
 
+    void askAboutFirms();
+    bool takeBackUnwanted();
     bool open(const origin &from, std::unique_ptr<materialStruct> material);
     // Whether another material of the databases has the KTM.
     bool isTaken(const QString &ktm) const;
@@ -97,5 +103,6 @@ private:
     myTreeView *m_view;
     QMenu *m_menu;
     QLabel *m_counts;
+    bool m_isUnwanted = false;         // the last step, whose firm the user thought better of
     QHash<QString, QString> m_sources; // by link: the local file it was made from
 };

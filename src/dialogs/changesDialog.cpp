@@ -36,11 +36,18 @@ changesDialog::changesDialog(const QString &title, const QStringList &captions,
     auto *buttons = new QDialogButtonBox(this);
     buttons->addButton(tr("Take over"), QDialogButtonBox::AcceptRole);
     buttons->addButton(QDialogButtonBox::Cancel);
-    QPushButton *none = buttons->addButton(tr("Mark none"), QDialogButtonBox::ActionRole);
-    connect(none, &QPushButton::clicked, this, [this] {
-        for (int row = 0; row < m_rows->topLevelItemCount(); ++row)
-            m_rows->topLevelItem(row)->setCheckState(0, Qt::Unchecked);
-    });
+    for (const Qt::CheckState state : {Qt::Checked, Qt::Unchecked}) {
+        QPushButton *button =
+            buttons->addButton(state == Qt::Checked ? tr("Mark &all") : tr("Mark &none"),
+                               QDialogButtonBox::ActionRole);
+        button->setObjectName(state == Qt::Checked ? QStringLiteral("markAll")
+                                                   : QStringLiteral("markNone"));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, state] {
+            for (int row = 0; row < m_rows->topLevelItemCount(); ++row)
+                m_rows->topLevelItem(row)->setCheckState(0, state);
+        });
+    }
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *layout = new QVBoxLayout(this);

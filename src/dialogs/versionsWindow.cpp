@@ -293,7 +293,8 @@ void versionsWindow::compare()
     for (int i = 0; i < std::min(count, shownAtMost); ++i) {
         const documentDifference &row = diff.rows[size_t(i)];
         m_differences->appendRow(
-            rowOf({signOf(row), row.group, row.name, row.caption, row.before, row.after}));
+            rowOf({signOf(row), row.group, row.name, row.caption,
+                   labels::shownIn(row.field, row.before), labels::shownIn(row.field, row.after)}));
     }
     QString told = count == 0 ? tr("Nothing differs from %1").arg(name)
                               : tr("%n difference(s) from %1", nullptr, count).arg(name);

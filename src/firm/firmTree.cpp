@@ -8,7 +8,8 @@ using myItem::myItemStandard;
 
 namespace firmTree {
 
-treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses)
+treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses,
+                                const figuresFunction &figures)
 {
     struct place
     {
@@ -33,7 +34,8 @@ treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses)
         if (column.kind == myItem::spinBoxKind)
             column.maximum = lastAwatar;
     }
-    table.back().look = [](const firmStruct &firm, myItemStandard *cell) {
+    treeColumn<firmStruct> &taxNumber = table.back();
+    taxNumber.look = [](const firmStruct &firm, myItemStandard *cell) {
         const QString warning = taxNumberWarning(firm.nip);
         cell->setIcon(warning.isEmpty()
                           ? QIcon()
@@ -46,6 +48,30 @@ treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses)
                 ? QCoreApplication::translate("firmWindow", "A click with Ctrl opens the page")
                 : QString());
     };
+    const auto addFigure = [&](const char *key, const QString &label, int width, myItem::kind kind,
+                               QString (*text)(const firmOperations::firmFigures &)) {
+        treeColumn<firmStruct> column;
+        column.key = QLatin1String(key);
+        column.label = label;
+        column.width = width;
+        column.kind = kind;
+        column.read = [figures, text](const firmStruct &firm) {
+            const auto known = figures(firm.name);
+            return known ? text(*known) : QString();
+        };
+        column.editable = false;
+        constexpr int many = 100000000;
+        column.maximum = many;
+        table.push_back(column);
+    };
+    addFigure("materials", QCoreApplication::translate("firmWindow", "Materials"), 90,
+              myItem::spinBoxKind, [](const auto &its) { return QString::number(its.materials); });
+    addFigure("orders", QCoreApplication::translate("firmWindow", "Orders"), 90,
+              myItem::spinBoxKind, [](const auto &its) { return QString::number(its.orders); });
+    addFigure("lastUsed", QCoreApplication::translate("firmWindow", "Last used"), 110,
+              myItem::dateEditKind, [](const auto &its) {
+                  return its.lastUsed.toString(QStringLiteral("dd.MM.yyyy"));
+              });
     return table;
 }
 
@@ -54,10 +80,29 @@ void firmRows::cellChanged(myItemStandard *item, myItemStandard *first)
     const firmStruct &firm = *recordOf(first);
     const QString before = firm.name;
     listRows<firmStruct>::cellChanged(item, first);
-    if (firm.name != before)
+    if (firm.name != before) {
         renamed.insert(before, firm.name);
+        showFigures(static_cast<const myModel *>(item->model()), item->row());
+    }
     if (const auto &look = columns().at(size_t(item->column())).look)
         look(firm, item);
+}
+
+void firmRows::showFigures(const myModel *model)
+{
+    for (int row = 0; row < model->rowCount(); ++row)
+        showFigures(model, row);
+}
+
+void firmRows::showFigures(const myModel *model, int row)
+{
+    const firmStruct &firm = *recordOf(static_cast<myItemStandard *>(model->item(row)));
+    for (size_t i = 0; i < columns().size(); ++i)
+        if (!columns()[i].editable) {
+            auto *cell = static_cast<myItemStandard *>(model->item(row, int(i)));
+            if (const QString text = columns()[i].read(firm); cell->text() != text)
+                myItem::setStoredText(cell, text);
+        }
 }
 
 } // namespace firmTree

@@ -4,8 +4,11 @@
 
 #include "commands/command.h"
 #include "data/kiv_mat_firmStruct.h"
-#include "firm/firmOperations.h"
+#include "firm/firmUsage.h"
 #include "tree/columnTable.h"
+
+#include <functional>
+#include <optional>
 
 namespace firmTree {
 
@@ -16,7 +19,11 @@ enum column
     homePageColumn = 4
 };
 
-treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses);
+// figures: those of the firm of a name; nothing while they are not known.
+using figuresFunction = std::function<std::optional<firmOperations::firmFigures>(const QString &)>;
+
+treeColumns<firmStruct> columns(const std::vector<comboBoxStruct> &statuses,
+                                const figuresFunction &figures);
 
 // Keeps a list's records, notes their new names and marks doubtful tax numbers.
 class firmRows : public listRows<firmStruct>
@@ -24,6 +31,10 @@ class firmRows : public listRows<firmStruct>
 public:
     using listRows<firmStruct>::listRows;
     void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) override;
+
+    // Shows the figures as they are now, which are no part of the records: in all rows, in one.
+    void showFigures(const myModel *model);
+    void showFigures(const myModel *model, int row);
 
     // The new names since this was emptied, by the old ones.
     QHash<QString, QString> renamed;

@@ -2,7 +2,10 @@
 
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
+#include "data/kiv_mat_zpStruct.h"
 #include "data/vocabulary.h"
+#include "firm/firmMerge.h"
+#include "firm/mergeFirmsDialog.h"
 #include "tree/myTreeView.h"
 #include "util/desktop.h"
 #include "util/labels.h"
@@ -17,8 +20,10 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 
 #include <set>
 
@@ -59,6 +64,11 @@ const windowAction<firmWindow> actionTable[] = {
     {{"delete", "Firm", QT_TRANSLATE_NOOP("actions", "Delete firms"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected firms that no material uses"), true},
      &firmWindow::commandDelete},
+    {{"mergeFirms", "Firm", QT_TRANSLATE_NOOP("actions", "Merge firms"), "action_merge",
+      "Ctrl+M",
+      QT_TRANSLATE_NOOP("actions", "Make one firm of the selected ones, in the materials, too"),
+      true},
+     &firmWindow::commandMergeFirms},
     {{"homePage", "Firm", QT_TRANSLATE_NOOP("actions", "Open home page"), "action_link", "Ctrl+H",
       QT_TRANSLATE_NOOP("actions", "Open the firm's home page in the browser"), true},
      &firmWindow::commandHomePage},
@@ -90,12 +100,21 @@ firmWindow::firmWindow(programData &files)
 {
     addActions(actionTable);
     stack().completed = [this](std::unique_ptr<command> change) {
-        return withRenames(std::move(change));
+        return completed(std::move(change));
     };
     m_tabs->setObjectName(QStringLiteral("pages"));
     m_tabs->setAccessibleName(firmWindow::title());
     addPage(manufacturer, labels::manufacturers(), "manufacturers");
     addPage(supplier, labels::suppliers(), "suppliers");
+    for (firmKind kind : {manufacturer, supplier})
+        model(kind)->setCheck([this, kind](const myItemStandard &item, const QVariant &value) {
+            if (m_pasting || item.column() != firmTree::nameColumn)
+                return QString();
+            const auto *first =
+                static_cast<const myItemStandard *>(model(kind)->item(item.row(), 0));
+            return nameFault(kind, value.toString(),
+                             static_cast<const firmStruct *>(first->record));
+        });
     keepJournal(fileKinds::firm, [this] { return m_edited.get(); },
                 {model(manufacturer), model(supplier)});
     setCentralWidget(m_tabs);
@@ -124,7 +143,10 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
 
     const configStruct &config = known().config();
     auto rows = std::make_unique<firmRows>(firmTree::columns(
-        kind == manufacturer ? config.manufacturerStatuses : config.supplierStatuses));
+        kind == manufacturer ? config.manufacturerStatuses : config.supplierStatuses,
+        [this, kind](const QString &firm) {
+            return m_figures ? std::optional(m_figures->at(kind).value(firm)) : std::nullopt;
+        }));
     rows->makeRecord = std::make_unique<firmStruct>;
     setCaptions(modelOf(view), rows->columns());
     for (size_t i = 0; i < rows->columns().size(); ++i)
@@ -136,7 +158,7 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
 
 std::vector<std::unique_ptr<firmStruct>> &firmWindow::list(firmKind kind)
 {
-    return kind == manufacturer ? m_edited->manufacturers.items : m_edited->suppliers.items;
+    return listOf(*m_edited, kind);
 }
 
 firmWindow::page &firmWindow::current() { return m_pages[size_t(m_tabs->currentIndex())]; }
@@ -203,6 +225,8 @@ bool firmWindow::load()
         model(kind)->setRecords(m_pages[kind].rows.get());
     }
     setUnlocked(known().config().isOn(optionKey::editFirm));
+    // Reading orders takes its time, and shows it, once the window is there.
+    QTimer::singleShot(0, this, &firmWindow::findFigures);
     return m_fault.isEmpty();
 }
 
@@ -212,6 +236,8 @@ void firmWindow::updateActions()
     allowWhenUnlocked({"add"});
     allowWhenUnlocked({"pasteCells"}, currentView()->currentIndex().isValid(),
                       tr("no firm selected"));
+    allowWhenUnlocked({"mergeFirms"}, currentView()->markedRows().size() > 1,
+                      tr("select the firms that are one"));
     allowWhenUnlocked({"delete", "fillDown"}, !currentView()->markedCells().isEmpty(),
                       tr("no firm selected"));
     setAvailable("homePage", currentHomePage().isValid(), tr("no firm with a home page selected"));
@@ -222,8 +248,97 @@ void firmWindow::updateActions()
                       + tr("%n supplier(s)", nullptr, model(supplier)->rowCount()));
 }
 
+// --- How much the firms are used
+// ------------------------------------------------------------------------------------
+
+void firmWindow::findFigures()
+{
+    if (!isVisible())
+        return;
+    {
+        workProgress::scope work(progress(), tr("Reading orders"));
+        m_orders.update(paths::data(QStringLiteral("_zp")), work.function());
+    }
+    countFigures();
+}
+
+void firmWindow::countFigures()
+{
+    std::vector<orderedMaterials> orders = m_orders.orders();
+    if (openOrder) {
+        // As it is in its window, not as its file is.
+        orderedMaterials open = orderedIn(openOrder());
+        std::erase_if(orders, [&open](const orderedMaterials &order) {
+            return QFileInfo(order.path) == QFileInfo(open.path);
+        });
+        orders.push_back(std::move(open));
+    }
+    m_figures = figuresOf(known().databases(), m_renames, orders);
+    m_countedRenames = m_renames.size();
+    for (const page &each : m_pages)
+        each.rows->showFigures(modelOf(each.view));
+}
+
 // --- Editing
 // --------------------------------------------------------------------------------------
+
+// Why a firm cannot have that name; empty when it can.
+QString firmWindow::nameFault(firmKind kind, const QString &name, const firmStruct *itself) const
+{
+    if (itself && itself->name == name)
+        return {};
+    for (const auto &firm : listOf(*m_edited, kind))
+        if (firm.get() != itself && isSameFirm(firm->name, name))
+            return tr("the list has a firm %1 already").arg(firm->name);
+    return {};
+}
+
+// The names that more than one firm of a list has, as often as there is one too many.
+QStringList firmWindow::repeatedNames() const
+{
+    QStringList repeated;
+    for (firmKind kind : {manufacturer, supplier}) {
+        QSet<QString> names;
+        for (const auto &firm : listOf(*m_edited, kind)) {
+            const QString name = firm->name.simplified().toCaseFolded();
+            if (!name.isEmpty() && names.contains(name))
+                repeated.append(firm->name);
+            names.insert(name);
+        }
+    }
+    return repeated;
+}
+
+std::unique_ptr<command> firmWindow::takenBack(std::unique_ptr<command> change, const QString &why)
+{
+    change->undo();
+    for (const page &shown : m_pages)
+        shown.rows->renamed.clear();
+    m_takenBack = why;
+    tell(why);
+    return nullptr;
+}
+
+std::unique_ptr<command> firmWindow::completed(std::unique_ptr<command> change)
+{
+    // Pasted names are looked at together: two firms may change their names with each other.
+    if (QStringList repeated = m_pasting ? repeatedNames() : QStringList(); !repeated.isEmpty()) {
+        change->undo();
+        for (const QString &name : repeatedNames())
+            repeated.removeOne(name);
+        change->redo();
+        if (!repeated.isEmpty()) {
+            repeated.removeDuplicates();
+            for (QString &name : repeated)
+                name = QLatin1String("<b>") + name.toHtmlEscaped() + QLatin1String("</b>");
+            userPrompts().showError(
+                tr("Nothing is pasted: the list would have two firms of a name:").toHtmlEscaped()
+                + QLatin1String("<br>") + shortList(repeated));
+            return takenBack(std::move(change), tr("Nothing is pasted"));
+        }
+    }
+    return withRenames(std::move(change));
+}
 
 // A firm that materials name gets its new name in them, too, when the user wants it.
 std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change)
@@ -252,7 +367,9 @@ std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change
         tr("Materials use the old name. Saving can write the new one into their databases, too.")
             + QLatin1String("<br>") + shortList(lines),
         {tr("Rename in %n place(s)", nullptr, uses), tr("Rename in this list only")});
-    if (!answer || *answer != 0)
+    if (!answer)
+        return takenBack(std::move(change), tr("The name was not changed"));
+    if (*answer != 0)
         return change;
     std::vector<std::unique_ptr<command>> members;
     members.push_back(std::move(change));
@@ -265,17 +382,59 @@ void firmWindow::historyMoved()
 {
     for (const page &shown : m_pages)
         shown.rows->renamed.clear();
+    if (m_figures && m_countedRenames != m_renames.size())
+        countFigures();
 }
 
 void firmWindow::commandAdd(bool)
 {
     myTreeView *view = currentView();
     myModel *firms = modelOf(view);
+    const QString usual = firmStruct().name;
+    for (int row = 0; row < firms->rowCount(); ++row) {
+        const QModelIndex name = firms->index(row, firmTree::nameColumn);
+        if (!isSameFirm(name.data().toString(), usual))
+            continue;
+        view->goTo(name);
+        view->setFocus();
+        userPrompts().showError(
+            tr("The list has a new firm %1 already. Give it its name first.")
+                .arg(name.data().toString())
+                .toHtmlEscaped());
+        return;
+    }
     push(std::make_unique<appendNewMaterial>(firms, current().rows->newRow()),
          labels::addNewFirm());
     const QModelIndex added = firms->index(firms->rowCount() - 1, firmTree::nameColumn);
     view->goTo(added);
     view->setFocus();
+}
+
+bool firmWindow::addFirm(firmKind kind, const QString &name)
+{
+    const bool wasOpen = isVisible();
+    if (!wasOpen) {
+        begin();
+        setUnlocked(true);
+    }
+    const bool hasOthers = wasOpen && isModified();
+    if (!m_fault.isEmpty() || isLocked()) {
+        userPrompts().showError((m_fault.isEmpty() ? tr("The firm register is locked")
+                                                   : tr("The firm register: %1").arg(m_fault))
+                                    .toHtmlEscaped());
+        return false;
+    }
+    auto firm = std::make_unique<firmStruct>();
+    firm->name = firm->fullname = name;
+    push(std::make_unique<appendNewMaterial>(model(kind),
+                                             m_pages[kind].rows->makeDetachedRow(std::move(firm))),
+         labels::addNewFirm());
+    if (hasOthers || save())
+        return true;
+    // Nobody sees the window, which would be left with it.
+    if (!wasOpen)
+        load();
+    return false;
 }
 
 void firmWindow::commandDelete(bool)
@@ -302,6 +461,65 @@ void firmWindow::commandDelete(bool)
     }
     push(cellBlock::deleteRows(model(kind), rows),
          tr("%n firm(s) deleted", nullptr, int(rows.size())));
+}
+
+void firmWindow::commandPasteCells(bool on)
+{
+    const QScopedValueRollback pasting(m_pasting, true);
+    m_takenBack.clear();
+    editWindow::commandPasteCells(on);
+    if (!m_takenBack.isEmpty())
+        tell(m_takenBack);
+}
+
+void firmWindow::commandMergeFirms(bool)
+{
+    const firmKind kind = firmKind(m_tabs->currentIndex());
+    const firmList &firms = list(kind);
+    // The tree may show the list in another order.
+    std::set<const xmlData *> selected;
+    for (const int row : currentView()->markedRows())
+        selected.insert(static_cast<myItemStandard *>(model(kind)->item(row))->record);
+    std::vector<size_t> places;
+    QStringList names;
+    for (size_t place = 0; place < firms.size(); ++place)
+        if (selected.count(firms[place].get()) > 0) {
+            places.push_back(place);
+            names.append(firms[place]->name);
+        }
+    if (places.size() < 2 || refuseWhileLocked())
+        return;
+    // The one that most materials name stays, unless the user wants another one.
+    const auto materialsOf = [&](const QString &name) {
+        return m_figures ? m_figures->at(kind).value(name).materials : 0;
+    };
+    const auto most = std::max_element(names.begin(), names.end(), [&](const auto &a, const auto &b) {
+        return materialsOf(a) < materialsOf(b);
+    });
+    mergeFirmsDialog dialog(
+        names, int(most - names.begin()),
+        [&](int stays) {
+            std::vector<size_t> going = places;
+            going.erase(going.begin() + stays);
+            return planMerge(*m_edited, kind, places[size_t(stays)], going, known().databases(),
+                             m_renames);
+        },
+        this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const mergePlan &plan = dialog.plan();
+    const auto merged = copyOf(*m_edited);
+    mergeFirms(*merged, plan);
+    std::vector<std::unique_ptr<command>> members;
+    members.push_back(become(*merged));
+    if (!plan.uses.empty())
+        members.push_back(std::make_unique<firmTree::planRenames>(&m_renames, plan.names));
+    push(std::make_unique<appendCommands>(std::move(members)),
+         tr("%n firm(s) merged into %1", nullptr, int(places.size()) - 1).arg(plan.stays));
+    for (int row = 0; row < model(kind)->rowCount(); ++row)
+        if (const QModelIndex name = model(kind)->index(row, firmTree::nameColumn);
+            name.data().toString() == plan.stays)
+            view(kind)->goTo(name);
 }
 
 QUrl firmWindow::currentHomePage()
@@ -409,6 +627,8 @@ void firmWindow::saved()
     }
     m_renames.clear();
     userPrompts().showErrors();
+    if (m_figures)
+        countFigures();
     if (isModified())
         tell(tr("Saved, but firms are not renamed in every database"));
     if (anyChanged)

@@ -6,6 +6,7 @@
 
 #include "data/programData.h"
 #include "firm/firmTree.h"
+#include "firm/firmUsage.h"
 #include "window/editWindow.h"
 
 class QTabWidget;
@@ -25,10 +26,19 @@ public:
     // is not: then its file is written here.
     std::function<bool(programData::databaseKind, const firmOperations::renameList &)>
         renameInWindow;
+    // The order that is open, if the window is told of one.
+    std::function<const kiv_mat_zpStruct &()> openOrder;
+
+    // Adds a firm of that name to the list of its kind, and writes the register unless the window
+    // is open with other changes; then it is one of them. False, told to the user, when the
+    // register is not to be edited or cannot be written.
+    bool addFirm(firmOperations::firmKind kind, const QString &name);
 
 public slots:
     void commandAdd(bool);
     void commandDelete(bool);
+    void commandMergeFirms(bool);
+    void commandPasteCells(bool);
     void commandHomePage(bool);
 
 signals:
@@ -64,7 +74,14 @@ private:
     page &current();
     QUrl currentHomePage();
     void clicked(const QModelIndex &cell);
+    std::unique_ptr<command> completed(std::unique_ptr<command> change);
     std::unique_ptr<command> withRenames(std::unique_ptr<command> change);
+    std::unique_ptr<command> takenBack(std::unique_ptr<command> change, const QString &why);
+    QString nameFault(firmOperations::firmKind kind, const QString &name,
+                      const firmStruct *itself) const;
+    QStringList repeatedNames() const;
+    void findFigures();
+    void countFigures();
     bool mayWrite(programData::databaseKind kind, const fileState &now) const;
     bool renameInFile(programData::databaseKind kind, const firmOperations::renameList &renames);
 
@@ -74,6 +91,12 @@ private:
     QLabel *m_counts;
     QString m_path;
     QString m_fault; // why the register cannot be edited
+    bool m_pasting = false;
+    QString m_takenBack; // why nothing was pasted
+    // How much the firms are used, once that is known, with so many of the new names below.
+    std::optional<firmOperations::figuresByName> m_figures;
+    size_t m_countedRenames = 0;
+    firmOperations::orderScan m_orders;
     // What saving is to do with the materials, and what it could not do with a database, which the
     // next saving tries again.
     firmOperations::renameList m_renames;

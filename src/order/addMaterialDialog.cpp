@@ -7,14 +7,12 @@
 #include "util/labels.h"
 #include "util/numbers.h"
 #include "util/text.h"
+#include "window/searchLine.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTreeView>
@@ -57,7 +55,8 @@ QList<QStandardItem *> rowOf(const configStruct &config, const materialStruct &m
 {
     QList<QStandardItem *> row;
     for (const foundColumn &column : columns) {
-        const QString &stored = column.text ? material.*column.text : material.information.status;
+        const QString stored =
+            column.text ? material.*column.text : labels::shown(material.information.status);
         auto *item = new QStandardItem(
             column.text == &materialStruct::d_price ? numbers::price(stored) : stored);
         item->setEditable(false);
@@ -78,20 +77,15 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent, purpos
     : QDialog(parent)
     , m_known(known)
     , m_purpose(what)
-    , m_words(new QLineEdit(this))
     , m_view(new QTreeView(this))
+    , m_words(new searchLine(m_view, this))
     , m_found(new QStandardItemModel(this))
     , m_quantity(new countBox(this, 1, orderTree::quantityMaximum, 1))
     , m_add(new QPushButton(what == picksOne ? tr("Pick") : tr("Add to the order"), this))
     , m_count(new QLabel(this))
 {
     setWindowTitle(what == picksOne ? tr("Pick material") : tr("Add material"));
-    m_words->setObjectName(QStringLiteral("words"));
-    m_words->setAccessibleName(tr("Words to search for"));
-    m_words->setPlaceholderText(
-        tr("Name, KTM, value, part number: 100n 0603, case:SOT23, price:<2"));
-    m_words->setClearButtonEnabled(true);
-    m_words->installEventFilter(this);
+    m_words->completeFrom(known.search());
     m_view->setObjectName(QStringLiteral("found"));
     m_view->setAccessibleName(tr("Materials found"));
     m_view->setModel(m_found);
@@ -127,6 +121,8 @@ addMaterialDialog::addMaterialDialog(programData &known, QWidget *parent, purpos
     layout->addWidget(m_words);
     layout->addWidget(m_view);
     layout->addLayout(bottom);
+    setTabOrder(m_words, m_view);
+    setTabOrder(m_view, m_quantity);
     constexpr QSize usualSize(1100, 560);
     resize(usualSize);
 
@@ -160,8 +156,7 @@ void addMaterialDialog::showNow()
 void addMaterialDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    m_words->setFocus();
-    m_words->selectAll();
+    m_words->begin();
     search();
 }
 
@@ -180,8 +175,6 @@ void addMaterialDialog::search()
     QString told = tr("%n material(s)", nullptr, result.total);
     if (result.total > shownMaterials)
         told += QLatin1String(", ") + tr("the first %1 are shown").arg(shownMaterials);
-    if (!query.errors().isEmpty())
-        told = query.errors().join(QLatin1String(", "));
     m_count->setText(told);
 }
 
@@ -202,24 +195,7 @@ void addMaterialDialog::add()
         return;
     }
     emit wanted(ktms, uint(*quantity));
-    m_words->setFocus();
-    m_words->selectAll();
+    m_words->begin();
 }
 
 void addMaterialDialog::showAnswer(const QString &text) { m_count->setText(text); }
-
-bool addMaterialDialog::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_words && event->type() == QEvent::KeyPress)
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            QApplication::sendEvent(m_view, event);
-            return true;
-        default:
-            break;
-        }
-    return QDialog::eventFilter(watched, event);
-}

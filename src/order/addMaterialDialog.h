@@ -6,12 +6,12 @@
 #include <QStringList>
 
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class countBox;
 class QStandardItemModel;
 class QTreeView;
 class programData;
+class searchLine;
 
 class addMaterialDialog : public QDialog
 {
@@ -42,8 +42,6 @@ signals:
     void wanted(const QStringList &ktms, uint quantity);
 
 protected:
-    // From the search field, the arrow keys move through what was found.
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -52,8 +50,8 @@ private:
     programData &m_known;
     purpose m_purpose;
     QString m_picked; // KTM
-    QLineEdit *m_words;
     QTreeView *m_view;
+    searchLine *m_words;
     QStandardItemModel *m_found;
     countBox *m_quantity;
     QPushButton *m_add;

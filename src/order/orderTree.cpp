@@ -44,9 +44,9 @@ void showStatus(const orderItemStruct &line, myItemStandard *cell, const ktmInde
     for (const comboBoxStruct &status : statuses)
         if (status.value == state.status)
             picture = status.icon.section(QLatin1Char('/'), -1).section(QLatin1Char('.'), 0, 0);
-    set(cell, state.status, picture,
+    set(cell, labels::shown(state.status), picture,
         orderOperations::isOrderable(state.status)
-            ? tr("Known material, status %1").arg(state.status)
+            ? tr("Known material, status %1").arg(labels::shown(state.status))
             : tr("The status of this material does not allow to order it"));
 }
 

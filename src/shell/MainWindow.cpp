@@ -472,6 +472,10 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
         window = std::make_unique<Kiv_mat_databaseWindow>(known(), kind);
         connect(window.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         window->openOrder = [this]() -> const kiv_mat_zpStruct & { return m_document.order(); };
+        window->addFirm = [this](firmOperations::firmKind firm, const QString &name) {
+            return firms().addFirm(firm, name);
+        };
+        connect(window.get(), &Kiv_mat_databaseWindow::useWanted, this, &MainWindow::showUse);
         connect(this, &MainWindow::orderAnswered, window.get(), &editWindow::tell);
         connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
                 &MainWindow::appendToOrder);
@@ -520,6 +524,7 @@ firmWindow &MainWindow::firms()
                 window->renameFirms(renames);
             return isOpen;
         };
+        m_firm->openOrder = [this]() -> const kiv_mat_zpStruct & { return m_document.order(); };
         connect(m_firm.get(), &firmWindow::materialsChanged, this, &MainWindow::refreshHtml);
     }
     return *m_firm;

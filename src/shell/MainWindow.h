@@ -6,6 +6,7 @@
 
 #include "bom/bomOperations.h"
 #include "commands/editCommands.h"
+#include "data/materialUses.h"
 #include "data/programData.h"
 #include "order/orderDocument.h"
 #include "order/orderOperations.h"
@@ -121,6 +122,9 @@ public slots:
     // Appends a line for each material; those of shipment and service that the order holds already
     // are refused. orderAnswered() says what became of them.
     void appendToOrder(const materialKtms_list &ktms, uint quantity);
+    // Shows a line of a BOM list or an order. Another order than the open one takes its place once
+    // the user says so.
+    void showUse(const materialUses::use &use);
     // Shows what the lists need, and adds it as one step when the user says so.
     void appendBoms(const std::vector<bomOperations::bomSets> &lists);
     void reOrdinalRows();

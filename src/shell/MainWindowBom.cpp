@@ -3,6 +3,7 @@
 
 #include "dialogs/emailTempWindow.h"
 
+#include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
 #include "bom/needsDialog.h"
 #include "bom/orderLinesTarget.h"
@@ -20,7 +21,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStatusBar>
+#include <QTabWidget>
 
 using namespace bomOperations;
 
@@ -54,6 +57,44 @@ void MainWindow::commandAppendBomToZp(bool)
         bomWindow().commandSet(false);
     else
         bomWindow().showNow();
+}
+
+void MainWindow::showUse(const materialUses::use &use)
+{
+    // The line may have moved since its file was read.
+    const auto goTo = [&use](myTreeView *view, int column) {
+        const QAbstractItemModel *lines = view->model();
+        int row = -1;
+        for (int at = 0; at < lines->rowCount(); ++at)
+            if (lines->index(at, column).data().toString() == use.ktm
+                && (row < 0 || at <= use.line))
+                row = at;
+        if (row < 0)
+            return false;
+        view->goTo(lines->index(row, column));
+        view->setFocus();
+        return true;
+    };
+    const QString native = QDir::toNativeSeparators(use.path).toHtmlEscaped();
+    if (!use.inOrder) {
+        Kiv_bomViewWindow &list = bomWindow().viewWindow(use.path);
+        list.showNow();
+        if (!goTo(list.view(), bomTree::ktmColumn))
+            list.tell(tr("The list has no line of %1").arg(use.ktm));
+        return;
+    }
+    const bool isOpen = QFileInfo(use.path) == QFileInfo(m_document.path());
+    if (!isOpen
+        && (userPrompts().ask(tr("Open the order %1 in place of this one?").arg(native), false)
+                != prompts::answer::yes
+            || !closeDocument()))
+        return;
+    if (!isOpen)
+        openFile(use.path);
+    showNow();
+    m_tabs->setCurrentIndex(0);
+    if (!goTo(m_order->linesView(), orderTree::ktmColumn))
+        tell(tr("The order has no line of %1").arg(use.ktm));
 }
 
 void MainWindow::appendBoms(const std::vector<bomSets> &lists)

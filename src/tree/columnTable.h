@@ -60,18 +60,23 @@ struct cellTraits
 };
 myItem::myItemStandard *makeCell(const cellTraits &traits, const QString &stored);
 
+// The cell of a column for a record.
+template <class Record>
+myItem::myItemStandard *makeCell(const treeColumn<Record> &c, const Record &record)
+{
+    myItem::myItemStandard *cell = makeCell(
+        {c.key, c.kind, c.editable, c.entries, c.canBeTyped, c.minimum, c.maximum}, c.read(record));
+    if (c.look)
+        c.look(record, cell);
+    return cell;
+}
+
 template <class Record>
 myItem::row makeRow(const treeColumns<Record> &columns, Record *record)
 {
     myItem::row items;
-    for (const treeColumn<Record> &c : columns) {
-        myItem::myItemStandard *cell =
-            makeCell({c.key, c.kind, c.editable, c.entries, c.canBeTyped, c.minimum, c.maximum},
-                     c.read(*record));
-        if (c.look)
-            c.look(*record, cell);
-        items.append(cell);
-    }
+    for (const treeColumn<Record> &c : columns)
+        items.append(makeCell(c, *record));
     if (!items.isEmpty())
         static_cast<myItem::myItemStandard *>(items.first())->record = record;
     return items;

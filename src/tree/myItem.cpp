@@ -420,16 +420,10 @@ namespace {
 
 typed::numberForm formOf(const myItemStandard &item, const std::optional<QString> &unit)
 {
-    constexpr int mostDecimals = 6;
-    constexpr int leastOfPrices = 2;
+    static_assert(moneyMaximum == typed::priceMaximum);
     switch (item.type()) {
     case moneyKind:
-        return {0,
-                moneyMaximum,
-                mostDecimals,
-                leastOfPrices,
-                {QStringLiteral("PLN"), QStringLiteral("[ PLN ]"), QStringLiteral("zł"),
-                 QStringLiteral("zl")}};
+        return typed::priceForm();
     case doubleSpinBoxKind: {
         const auto &box = static_cast<const myItemDoubleSpinBox &>(item);
         return {box.minimum, box.maximum, box.decimals, box.decimals};
@@ -440,12 +434,8 @@ typed::numberForm formOf(const myItemStandard &item, const std::optional<QString
     }
     default: {
         const auto &box = static_cast<const myItemSpinBox &>(item);
-        typed::numberForm form{double(box.minimum), double(box.maximum)};
-        if (unit && !unit->isEmpty())
-            form.units = QStringList{labels::shown(*unit), *unit};
-        if (unit && !labels::isCounted(*unit))
-            form.decimals = mostDecimals;
-        return form;
+        return unit ? typed::quantityForm(*unit, box.minimum, box.maximum)
+                    : typed::numberForm{double(box.minimum), double(box.maximum)};
     }
     }
 }
@@ -535,12 +525,32 @@ QString displayText(const myItemStandard &item)
                    ? numbers::price(item.text()) + static_cast<const myItemMoney &>(item).suffix
                    : item.text();
     case checkBoxKind:
+    case dateEditKind: // or a word in its place
         return labels::shown(item.text());
     case textEditKind:
         return text::htmlToPlain(item.text());
     case passwordEditKind:
         // Of one length, so that it tells nothing.
         return item.text().isEmpty() ? QString() : QString(8, QChar(0x2022));
+    default:
+        return item.text();
+    }
+}
+
+QString copiedText(const myItemStandard &item)
+{
+    switch (item.type()) {
+    case comboBoxKind: {
+        const auto &combo = static_cast<const myItemComboBox &>(item);
+        const QString shown =
+            combo.entries().isEmpty() ? QString() : combo.entries().at(combo.currentIndex()).shown;
+        return shown.isEmpty() ? item.text() : shown;
+    }
+    case checkBoxKind:
+    case dateEditKind:
+        return displayText(item);
+    case passwordEditKind:
+        return {};
     default:
         return item.text();
     }

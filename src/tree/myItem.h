@@ -15,6 +15,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 struct comboBoxStruct;
 
@@ -52,6 +53,13 @@ struct detachedRecord
     int place = -1; // in the list of records
 };
 
+// A row below a cell that makes the cells of its rows when they are needed.
+struct lazyRow
+{
+    xmlData *record;
+    bool made = false; // some of its cells
+};
+
 // A cell without an editor, and the base of all others.
 class myItemStandard : public QStandardItem
 {
@@ -73,11 +81,14 @@ public:
     bool colourOn = false;
 
     // In the first cell of a row: the record that the row shows, which the row owns only while it
-    // is out of the tree, and whether the rows below it are still to be made.
+    // is out of the tree, and whether the rows below it are still to be made. Once they are, what
+    // they show: their cells come when they are needed, so that child() may be null. myModel keeps
+    // it in step with the rows.
     xmlData *record = nullptr;
     std::unique_ptr<detachedRecord> owned;
     void own(std::unique_ptr<xmlData> detached);
     bool childrenPending = false;
+    std::unique_ptr<std::vector<lazyRow>> below;
 
 protected:
     void setUp(const QString &key, const QString &text, bool editable);
@@ -300,6 +311,9 @@ reading read(const myItemStandard &item, const QString &text,
 // The text painted for the item: translated words, amounts with two decimals at least, HTML without
 // tags.
 QString displayText(const myItemStandard &item);
+
+// The text of the item as it is stored, but with a stored word as the user sees it: what is copied.
+QString copiedText(const myItemStandard &item);
 
 // The text that its editor begins with: the number as it is stored, a price as it is shown.
 QString editedText(const myItemStandard &item);

@@ -16,7 +16,10 @@ void setSortKeys(QStandardItem *parent, int column)
         QStandardItem *item = parent->child(row, column);
         if (item && item->type() >= myItem::standardKind)
             item->setData(myItem::sortValue(*static_cast<myItemStandard *>(item)), sortKeyRole);
-        if (QStandardItem *first = parent->child(row, 0); first && first->hasChildren())
+        QStandardItem *first = parent->child(row, 0);
+        const bool isLazy = first && first->type() >= myItem::standardKind
+                            && static_cast<myItemStandard *>(first)->below;
+        if (first && first->hasChildren() && !isLazy)
             setSortKeys(first, column);
     }
 }
@@ -27,53 +30,32 @@ myModel::myModel(QObject *parent)
     : QStandardItemModel(parent)
 {
     setSortRole(sortKeyRole);
+    // Before any view hears of it.
+    connect(this, &QAbstractItemModel::rowsInserted, this, &myModel::rowsCame);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, &myModel::rowsWent);
+    connect(this, &QAbstractItemModel::dataChanged, this, &myModel::forgetLooked);
+}
+
+myModel::~myModel() { forgetAside(); }
+
+void myModel::setRecords(modelRecords *records)
+{
+    m_records = records;
+    forgetLooked();
+    if (!records)
+        forgetAside();
 }
 
 void myModel::sort(int column, Qt::SortOrder order)
 {
+    m_sortColumn = column;
+    m_sortOrder = order;
     if (column >= 0) {
         const QSignalBlocker quiet(this);
         setSortKeys(invisibleRootItem(), column);
     }
-    m_sortColumn = column;
-    m_sortOrder = order;
-    QStandardItemModel::sort(column, order);
+    sortRows();
     emit sorted();
-}
-
-bool myModel::hasChildren(const QModelIndex &parent) const
-{
-    return canFetchMore(parent) || QStandardItemModel::hasChildren(parent);
-}
-
-bool myModel::canFetchMore(const QModelIndex &parent) const
-{
-    const myItemStandard *item = cell(parent);
-    return item && parent.column() == 0 && item->childrenPending;
-}
-
-void myModel::fetchMore(const QModelIndex &parent)
-{
-    if (canFetchMore(parent))
-        fetch(itemFromIndex(parent));
-}
-
-void myModel::fetch(QStandardItem *item)
-{
-    if (!item || item == invisibleRootItem() || item->type() < myItem::standardKind)
-        return;
-    auto *first = static_cast<myItemStandard *>(item);
-    if (!m_records || !std::exchange(first->childrenPending, false))
-        return;
-    for (const myItem::row &row : m_records->childRows(first))
-        first->appendRow(row);
-    if (m_sortColumn < 0)
-        return;
-    {
-        const QSignalBlocker quiet(this);
-        setSortKeys(first, m_sortColumn);
-    }
-    first->sortChildren(m_sortColumn, m_sortOrder);
 }
 
 QString myModel::setValue(myItemStandard *item, const QVariant &value)
@@ -109,10 +91,12 @@ myItem::reading myModel::read(const myItemStandard &item, const QString &text) c
 
 myItem::row myModel::rowOf(const QModelIndex &index) const
 {
-    if (!index.isValid())
-        return {};
-    const QStandardItem *parent = itemFromIndex(index.parent());
-    return myItem::childRow(parent ? parent : invisibleRootItem(), index.row());
+    myItem::row cells;
+    for (int column = 0; index.isValid() && column < columnCount(index.parent()); ++column) {
+        const QModelIndex at = index.sibling(index.row(), column);
+        cells.append(pendingAt(at) ? itemFromIndex(at) : made(at));
+    }
+    return cells;
 }
 
 myItemStandard *myModel::cell(const QModelIndex &index) const
@@ -130,6 +114,8 @@ void myModel::appendRow(const myItem::row &items)
 
 void myModel::insertWithRecord(QStandardItem *parent, int row, const myItem::row &items)
 {
+    if (m_records && !items.isEmpty() && items.first()->type() >= myItem::standardKind)
+        row = m_records->rowFor(parent, row, static_cast<myItemStandard *>(items.first()));
     parent->insertRow(row, items);
     myItemStandard *first = m_records && !items.isEmpty() ? cell(items.first()->index()) : nullptr;
     if (!first)
@@ -141,6 +127,8 @@ void myModel::insertWithRecord(QStandardItem *parent, int row, const myItem::row
 
 myItem::row myModel::takeWithRecord(QStandardItem *parent, int row)
 {
+    if (parent != invisibleRootItem())
+        makeCell(parent, row, 0);
     const myItem::row items = parent->takeRow(row);
     if (!m_records || items.isEmpty() || items.first()->type() < myItem::standardKind)
         return items;

@@ -3,6 +3,7 @@
 
 #include "tree/myItem.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QStandardItemModel>
 
@@ -34,8 +35,19 @@ public:
     // A top-level row for a new record, which the row owns; empty where rows do not come by
     // themselves.
     virtual myItem::row newRow() { return {}; }
-    // The rows below a cell whose childrenPending is set.
+    // The records of the rows below a cell whose childrenPending is set, as the file has them.
+    virtual std::vector<xmlData *> childRecords(const myItem::myItemStandard *) { return {}; }
+    // Those rows themselves, where they show no records of their own.
     virtual std::vector<myItem::row> childRows(myItem::myItemStandard *) { return {}; }
+    // A cell of such a row, and whether those of a column can be edited.
+    virtual std::unique_ptr<myItem::myItemStandard> newCell(xmlData *, int) const { return {}; }
+    virtual bool isEditable(int) const { return true; }
+    // Where a row is put in below a parent that is told a row, when it can show them in the order
+    // of the file.
+    virtual int rowFor(const QStandardItem *, int row, const myItem::myItemStandard *) const
+    {
+        return row;
+    }
     // The records behind the top-level rows as their file has them, when the tree shows them in
     // another order, else nothing; and the records put into such an order again.
     virtual std::vector<const xmlData *> recordsNotAsShown(const myModel *) const { return {}; }
@@ -61,6 +73,7 @@ class myModel : public QStandardItemModel
     Q_OBJECT
 public:
     explicit myModel(QObject *parent);
+    ~myModel() override;
 
     // What carries out an edit, as a step of an undo history; without it a cell is set at once and
     // nothing can be undone.
@@ -68,7 +81,7 @@ public:
     void setEditHook(editHook hook) { m_editHook = std::move(hook); }
     // The records behind the rows, which outlive their use here; without any the model is all there
     // is.
-    void setRecords(modelRecords *records) { m_records = records; }
+    void setRecords(modelRecords *records);
     // Lets go of both, before they go: an editor may still commit while its window is destroyed.
     void detach() { m_editHook = nullptr, m_records = nullptr, m_watch = nullptr; }
     modelRecords *records() const { return m_records; }
@@ -79,11 +92,39 @@ public:
     // Numbers and dates sort by value, anything else by its text. Then sorted() is emitted.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
-    // Rows whose cells are made when they are first needed.
+    bool isSorted() const { return m_sortColumn >= 0; }
+
+    // Rows that are made when their parent is first opened, and cells of them that are made when
+    // they are first needed: see lazyRow. What is only looked at is never made.
     bool hasChildren(const QModelIndex &parent = {}) const override;
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
     void fetch(QStandardItem *item);
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QStandardItem *itemFromIndex(const QModelIndex &index) const;
+    // The cell at an index to be looked at: it may be gone with the next call. Null when it is none
+    // of ours.
+    const myItem::myItemStandard *look(const QModelIndex &index) const;
+    // The record of the row at an index.
+    xmlData *recordAt(const QModelIndex &index) const;
+    // The row that shows a record below a parent that was fetched, -1 when there is none.
+    static int rowOfRecord(const QStandardItem *parent, const xmlData *record);
+    // Puts in the row of a record, with the cells that it had when it was taken out. Returns its
+    // first cell.
+    myItem::myItemStandard *showRecord(QStandardItem *parent, int row, xmlData *record);
+    // Has cells that were fetched show other records below them, in one change of the layout.
+    // Cells that were made stay what they are, and come back with their record.
+    using shownRecords = std::pair<myItem::myItemStandard *, std::vector<xmlData *>>;
+    void showRecords(std::vector<shownRecords> wanted);
+    // Puts a row into the tree again that showRecords() took out, by its first cell; null is
+    // nothing. False when it is not in the tree then.
+    bool bringBack(myItem::myItemStandard *first);
+    // What is shown without being made follows its record with the next painting.
+    void lookAgain();
+    // Marks the cells of a row as the current ones.
+    void setHighlighted(const QModelIndex &row, bool on);
 
     // What is asked before an edit: the fault of a value for a cell, empty when there is none.
     using check = std::function<QString(const myItem::myItemStandard &item, const QVariant &value)>;
@@ -103,7 +144,7 @@ public:
     // What a typed or pasted text means for a cell, see myItem::read(); the check is asked, too.
     myItem::reading read(const myItem::myItemStandard &item, const QString &text) const;
 
-    // The cells of a row as the model shows them, by any of its indexes.
+    // The cells of a row as the model shows them, by any of its indexes; all of them are made.
     myItem::row rowOf(const QModelIndex &index) const;
     // The item at an index when it is one of ours, else null.
     myItem::myItemStandard *cell(const QModelIndex &index) const;
@@ -112,7 +153,8 @@ public:
     // An empty list appends nothing.
     void appendRow(const myItem::row &items);
 
-    // Put a row in and take it out together with its record.
+    // Put a row in and take it out together with its record; where it goes in, the records may
+    // know better, see modelRecords::rowFor().
     void insertWithRecord(QStandardItem *parent, int row, const myItem::row &items);
     myItem::row takeWithRecord(QStandardItem *parent, int row);
     // Takes an item's text to its record.
@@ -135,6 +177,25 @@ signals:
 private:
     friend class changeBatch;
 
+    // A row that a filter took out of the tree; its cells are the same when it comes back.
+    struct rowAside
+    {
+        QStandardItem *parent;
+        myItem::row cells; // one a column, null where none is made
+    };
+
+    class rearrangement;
+
+    QStandardItem *made(const QModelIndex &index) const;
+    const myItem::lazyRow *pendingAt(const QModelIndex &index) const;
+    myItem::myItemStandard *makeCell(QStandardItem *parent, int row, int column) const;
+    std::vector<xmlData *> inOrder(std::vector<xmlData *> records) const;
+    void sortRows();
+    void forgetLooked() const { m_looked.reset(), m_lookedRecord = nullptr; }
+    void rowsCame(const QModelIndex &parent, int first, int last);
+    void rowsWent(const QModelIndex &parent, int first, int last);
+    void forgetAside();
+
     void emitHeldBack();
     int depthBelow(const QStandardItem *parent) const;
     xmlData *recordOf(const QStandardItem *parent) const;
@@ -142,6 +203,11 @@ private:
     editHook m_editHook;
     modelRecords *m_records = nullptr;
     recordWatch *m_watch = nullptr;
+    QHash<const xmlData *, rowAside> m_aside;
+    mutable std::unique_ptr<myItem::myItemStandard> m_looked; // the cell looked at last
+    mutable const xmlData *m_lookedRecord = nullptr;          // and whose it is
+    mutable int m_lookedColumn = -1;
+    bool m_looksAgain = false;
     int m_sortColumn = -1; // rows made later are sorted likewise
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     check m_check;

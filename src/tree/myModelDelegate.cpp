@@ -48,6 +48,13 @@ myItemStandard *itemAt(const QModelIndex &index)
     return model ? model->cell(index) : nullptr;
 }
 
+// The same where it is looked at only, before anything else is.
+const myItemStandard *lookAt(const QModelIndex &index)
+{
+    const myModel *model = modelOf(index);
+    return model ? model->look(index) : nullptr;
+}
+
 // What an editor began with.
 constexpr const char *loadedProperty = "loaded";
 
@@ -200,7 +207,7 @@ QColor myModelDelegate::paintBackground(QPainter *painter, QStyleOptionViewItem 
 void myModelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given,
                             const QModelIndex &index) const
 {
-    const myItemStandard *item = itemAt(index);
+    const myItemStandard *item = lookAt(index);
     if (!item) {
         QStyledItemDelegate::paint(painter, given, index);
         return;
@@ -302,7 +309,7 @@ QColor myModelDelegate::barColour(int value, int minimum, int maximum) const
 QSize myModelDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     constexpr QSize withoutItem(30, 17);
-    const myItemStandard *item = itemAt(index);
+    const myItemStandard *item = lookAt(index);
     if (!item)
         return withoutItem;
     return {withoutItem.width(), QFontMetrics(fontOf(*item, option.font)).height() + 2};

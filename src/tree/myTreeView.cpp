@@ -127,6 +127,14 @@ void myTreeView::expandItem(QStandardItem *item)
     expand(item->index());
 }
 
+void myTreeView::expandRows(const std::vector<QStandardItem *> &rows)
+{
+    // Else the rows below would be laid out anew for each of them.
+    scheduleDelayedItemsLayout();
+    for (const QStandardItem *row : rows)
+        expand(row->index());
+}
+
 void myTreeView::collapseItem(QStandardItem *item) { collapse(item->index()); }
 
 void myTreeView::goTo(const QModelIndex &index)
@@ -227,9 +235,12 @@ bool myTreeView::findNext(const QString &text)
     for (int step = 1; step <= cells; ++step) {
         const int at = (start + step) % cells;
         const QModelIndex index = own->index(at / columns, at % columns);
-        const myItem::myItemStandard *item = own->cell(index);
+        const myItem::myItemStandard *item = own->look(index);
+        // A word is found as it is shown and as it is stored.
+        const bool isWord = item && item->type() == myItem::comboBoxKind;
         if (!item || isColumnHidden(index.column())
-            || !myItem::displayText(*item).contains(text, Qt::CaseInsensitive))
+            || (!myItem::displayText(*item).contains(text, Qt::CaseInsensitive)
+                && !(isWord && item->text().contains(text, Qt::CaseInsensitive))))
             continue;
         goTo(index);
         setFocus();
@@ -242,7 +253,7 @@ QModelIndex myTreeView::hitItem(const QMouseEvent *event) const
 {
     const auto *own = qobject_cast<const myModel *>(model());
     const QModelIndex index = indexAt(event->pos());
-    return own && index.isValid() && own->itemFromIndex(index) ? index : QModelIndex();
+    return own && index.isValid() ? index : QModelIndex();
 }
 
 void myTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -293,7 +304,7 @@ QString myTreeView::toolTipOf(const QModelIndex &index) const
 {
     const QString own = index.data(Qt::ToolTipRole).toString();
     const auto *model = qobject_cast<const myModel *>(this->model());
-    const myItem::myItemStandard *item = model ? model->cell(index) : nullptr;
+    const myItem::myItemStandard *item = model ? model->look(index) : nullptr;
     if (!item)
         return own;
     const QString whole = myItem::displayText(*item);
@@ -494,7 +505,7 @@ void myTreeView::moveHighlight()
     clearHighlight();
     if (!row.isValid())
         return;
-    myItem::setHighlighted(own->rowOf(row), true);
+    own->setHighlighted(row, true);
     m_highlighted = row;
     viewport()->update();
 }
@@ -503,7 +514,7 @@ void myTreeView::clearHighlight()
 {
     auto *own = qobject_cast<myModel *>(model());
     if (own && m_highlighted.isValid()) {
-        myItem::setHighlighted(own->rowOf(m_highlighted), false);
+        own->setHighlighted(m_highlighted, false);
         viewport()->update();
     }
     m_highlighted = QPersistentModelIndex();
@@ -515,7 +526,7 @@ QModelIndex myTreeView::nextEditable(bool forward) const
     if (!own || !currentIndex().isValid())
         return {};
     const auto isEditable = [own](const QModelIndex &index) {
-        const myItem::myItemStandard *item = own->cell(index);
+        const myItem::myItemStandard *item = own->look(index);
         return item && !item->readOnly && item->type() != myItem::standardKind;
     };
     const int step = forward ? 1 : -1;

@@ -23,6 +23,8 @@ public:
     // Expands an item with everything below it; collapses one.
     void expandItem(QStandardItem *item);
     void collapseItem(QStandardItem *item);
+    // Expands many items at once, not what is below them.
+    void expandRows(const std::vector<QStandardItem *> &rows);
 
     // Takes what stands in an open editor, and closes it. False when the text was refused: the
     // editor stays open then, and says why.

@@ -21,6 +21,17 @@ auto placeOf(List &list, const xmlData *record, int row)
                         [record](const auto &item) { return item.get() == record; });
 }
 
+// The record of a row comes to stand before a place of its list.
+template <class Record>
+void putAt(std::vector<std::unique_ptr<Record>> &list,
+           typename std::vector<std::unique_ptr<Record>>::iterator place,
+           myItem::myItemStandard *first)
+{
+    (void)first->owned->record.release(); // the list owns it from here on
+    first->owned.reset();
+    list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
+}
+
 // A row that comes back to where it was taken from takes its old place among the records, any other
 // the one before the row below it.
 template <class Record>
@@ -33,9 +44,7 @@ void putInto(std::vector<std::unique_ptr<Record>> &list, QStandardItem *parent, 
     else if (row + 1 < parent->rowCount())
         place = placeOf(list, static_cast<myItem::myItemStandard *>(parent->child(row + 1))->record,
                         row);
-    (void)first->owned->record.release(); // the list owns it from here on
-    first->owned.reset();
-    list.insert(place, std::unique_ptr<Record>(static_cast<Record *>(first->record)));
+    putAt(list, place, first);
 }
 
 template <class Record>

@@ -99,7 +99,7 @@ bool sameContent(const QString &a, const QString &b)
 QString whyNotWritten(const QString &path)
 {
     const QFileInfo info(path);
-    if (info.isDir())
+    if (info.isDir() || info.fileName().isEmpty())
         return qt_error_string(EISDIR);
     if (info.exists() && !info.isWritable())
         return qt_error_string(EACCES);

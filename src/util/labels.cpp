@@ -1,8 +1,58 @@
 #include "util/labels.h"
 
 #include <QCoreApplication>
+#include <QHash>
+
+#include <algorithm>
 
 namespace labels {
+
+namespace {
+
+struct storedWord
+{
+    const char *stored;
+    const char *context;
+    const char *text;
+};
+
+// The words of files beside the units. Those that the user is shown alike come with the one first
+// that is stored anew.
+constexpr storedWord words[] = {
+    {"TAK", "labels", "YES"},
+    {"YES", "labels", "YES"},
+    {"NIE", "labels", "NO"},
+    {"SZARY", "labels", QT_TRANSLATE_NOOP("labels", "GRAY")},
+    {"NIEBIESKI", "labels", QT_TRANSLATE_NOOP("labels", "BLUE")},
+    {"ZIELONY", "labels", QT_TRANSLATE_NOOP("labels", "GREEN")},
+    {"FIOLETOWY", "labels", QT_TRANSLATE_NOOP("labels", "VIOLET")},
+    {"NISKIE", "labels", QT_TRANSLATE_NOOP("labels", "LOW")},
+    {"WYSOKIE", "labels", QT_TRANSLATE_NOOP("labels", "HIGH")},
+    {"FILE_TR", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Test report (TR)")},
+    {"FILE_MD", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Material declaration (MD)")},
+    {"FILE_SD", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Supplier's declaration (SD)")},
+    {"FILE_REACH", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "REACH declaration")},
+    {"FILE_DATASHEET", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Datasheet")},
+    {"FILE_CATALOG", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Catalogue")},
+    {"FILE_PDF", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "PDF file")},
+    {"FILE_HTML", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Web page")},
+    {"FILE_XML", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "XML file")},
+    {"FILE_XLS", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "Spreadsheet")},
+    {"FILE_CSV", "materialFiles", QT_TRANSLATE_NOOP("materialFiles", "CSV file")},
+};
+
+// The fields of all records, by their names in files, that hold such words or a unit. The same text
+// in another field, as in the name of a material, is what it says.
+bool holdsWords(const QString &field)
+{
+    static const char *const fields[] = {"d_unit",  "unit",     "d_active",      "status",
+                                         "checked", "approved", "rohs_required", "rohs_probability",
+                                         "edited",  "wait",     "editable",      "type"};
+    return std::any_of(std::begin(fields), std::end(fields),
+                       [&field](const char *known) { return field == QLatin1String(known); });
+}
+
+} // namespace
 
 #define LABEL(name, text)                                                                          \
     QString name() { return QCoreApplication::translate("labels", text); }
@@ -33,13 +83,41 @@ bool isCounted(const QString &storedUnit)
 
 QString shown(const QString &stored)
 {
-    if (stored == QLatin1String("TAK") || stored == QLatin1String("YES"))
-        return yesCapital();
-    if (stored == QLatin1String("NIE"))
-        return noCapital();
+    static const QHash<QString, const storedWord *> known = [] {
+        QHash<QString, const storedWord *> table;
+        for (const storedWord &word : words)
+            table.insert(QLatin1String(word.stored), &word);
+        return table;
+    }();
+    if (const storedWord *word = known.value(stored))
+        return QCoreApplication::translate(word->context, word->text);
     return storedUnits().contains(stored)
                ? QCoreApplication::translate("labels", stored.toUtf8().constData())
                : stored;
+}
+
+QString shownIn(const QString &field, const QString &stored)
+{
+    const QString name = field.section(QLatin1Char('/'), -1);
+    if (!holdsWords(name))
+        return stored;
+    const QString caption = name == QLatin1String("type") ? optionCaption(stored) : QString();
+    return caption.isEmpty() || caption.startsWith(QLatin1String("OPTION_")) ? shown(stored)
+                                                                             : caption;
+}
+
+QString storedOf(const QString &text)
+{
+    const auto isShownAs = [&text](const QString &stored) {
+        return shown(stored).compare(text, Qt::CaseInsensitive) == 0;
+    };
+    for (const storedWord &word : words)
+        if (isShownAs(QLatin1String(word.stored)))
+            return QLatin1String(word.stored);
+    for (const QString &unit : storedUnits())
+        if (isShownAs(unit))
+            return unit;
+    return text;
 }
 
 // The captions of options are looked up by key; this list shows them to the translator.

@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 QString collapseRuns(const QString &text, QChar separator)
@@ -98,6 +100,22 @@ QString toolTip(const QString &text)
 {
     return text.isEmpty() ? QString()
                           : QLatin1String("<qt>") + toHtml(text) + QLatin1String("</qt>");
+}
+
+QString csvRow(const QStringList &values)
+{
+    QStringList fields;
+    for (QString value : values) {
+        const bool isQuoted = std::any_of(value.cbegin(), value.cend(), [](QChar c) {
+            return c == QLatin1Char(';') || c == QLatin1Char('"') || c == QLatin1Char('\n')
+                   || c == QLatin1Char('\r');
+        });
+        if (isQuoted)
+            value = QLatin1Char('"') + value.replace(QLatin1Char('"'), QLatin1String("\"\""))
+                    + QLatin1Char('"');
+        fields.append(value);
+    }
+    return fields.join(QLatin1Char(';'));
 }
 
 } // namespace text

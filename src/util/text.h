@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace text {
 
@@ -38,5 +39,8 @@ QString toHtml(const QString &text);
 // A text for a tool tip, which shows it as it is: left alone, one that looks like HTML would be
 // shown as such, with pictures and all.
 QString toolTip(const QString &text);
+
+// A row of a table of values between semicolons, quoted where they have to be; without a line end.
+QString csvRow(const QStringList &values);
 
 } // namespace text

@@ -40,6 +40,29 @@ QString written(QString whole, QString decimals, int least)
 
 } // namespace
 
+constexpr int mostDecimals = 6;
+
+numberForm priceForm()
+{
+    constexpr int leastOfPrices = 2;
+    return {0,
+            priceMaximum,
+            mostDecimals,
+            leastOfPrices,
+            {QStringLiteral("PLN"), QStringLiteral("[ PLN ]"), QStringLiteral("zł"),
+             QStringLiteral("zl")}};
+}
+
+numberForm quantityForm(const QString &unit, double minimum, double maximum)
+{
+    numberForm form{minimum, maximum};
+    if (!unit.isEmpty())
+        form.units = QStringList{labels::shown(unit), unit};
+    if (!labels::isCounted(unit))
+        form.decimals = mostDecimals;
+    return form;
+}
+
 number readNumber(const QString &given, const numberForm &form)
 {
     QString text = given;

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
+
 namespace typed {
 
 struct numberForm
@@ -17,6 +19,12 @@ struct numberForm
     // What may stand behind the number, in any case: the units or the currency of the cell.
     QStringList units = {};
 };
+
+// Of a price in PLN, and of a quantity in a stored unit, where units that count take whole numbers.
+constexpr double priceMaximum = 1000000.0;
+numberForm priceForm();
+numberForm quantityForm(const QString &unit, double minimum = 0,
+                        double maximum = std::numeric_limits<int>::max());
 
 struct number
 {

@@ -241,7 +241,8 @@ void editWindow::push(std::unique_ptr<command> change, const QString &what)
 {
     if (!change)
         return;
-    m_stack->push(std::move(change), what);
+    if (!m_stack->push(std::move(change), what))
+        return;
     historyMoved();
     tell(what);
 }
@@ -264,8 +265,9 @@ void editWindow::showMoved()
         QItemSelection moved;
         QModelIndex first;
         for (const QStandardItem *cell : cells) {
-            const QModelIndex index = cell->index();
-            if (cell->model() != view->model() || view->isRowHidden(index.row(), index.parent()))
+            const QModelIndex index = cell ? cell->index() : QModelIndex();
+            if (!cell || cell->model() != view->model()
+                || view->isRowHidden(index.row(), index.parent()))
                 continue;
             moved.select(index, index);
             if (!first.isValid())

@@ -259,7 +259,7 @@ protected:
     // Takes what stands in open editors. False when a text was refused: its editor stays open and
     // says why.
     bool finishEditing();
-    // One step, already applied; null is none.
+    // One step, already applied; null is none. One that is taken back is not told.
     void push(std::unique_ptr<command> change, const QString &what);
     // The document is as its file has it, and the history empty.
     void setClean();

@@ -1,5 +1,6 @@
 #include "window/mergeDialog.h"
 
+#include "util/labels.h"
 #include "util/text.h"
 
 #include <QDialogButtonBox>
@@ -24,9 +25,10 @@ enum column
     columnCount
 };
 
-QString shown(const QString &text)
+QString shown(const mergeRow &row, const QString &text)
 {
-    return text.isNull() ? mergeDialog::tr("not there") : QString(text).replace('\n', ' ');
+    return text.isNull() ? mergeDialog::tr("not there")
+                         : labels::shownIn(row.field, text).replace('\n', ' ');
 }
 
 } // namespace
@@ -49,10 +51,13 @@ mergeDialog::mergeDialog(std::vector<mergeRow> &rows, bool mayTake, QWidget *par
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     QList<QTreeWidgetItem *> items;
     for (const mergeRow &row : m_rows) {
-        const QStringList texts{
-            row.line,          row.field.isEmpty() ? tr("the whole line") : mergeCaption(row.field),
-            shown(row.opened), shown(row.mine),
-            shown(row.theirs), QString()};
+        const QStringList texts{row.line,
+                                row.field.isEmpty() ? tr("the whole line")
+                                                    : mergeCaption(row.field),
+                                shown(row, row.opened),
+                                shown(row, row.mine),
+                                shown(row, row.theirs),
+                                QString()};
         auto *item = new QTreeWidgetItem(texts);
         for (int column = 0; column < columnCount; ++column)
             item->setToolTip(column, text::toolTip(texts[column]));

@@ -37,6 +37,7 @@ const scenario setActions[] = {
     {SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
     {SETS, "#report Ctrl+A '%/p' !fileTypeCombo Down Return !fileNameEdit Return",
      "file p.pdf ~ PDF-1; files p.html ="},
+    {"", "#import '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts"},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
     {"", "#versions", "front = Versions and unsaved orders"},
     {"", "#close", "title = closed"},

@@ -1,6 +1,11 @@
 // kivzp-cli from outside: exit codes, output and files.
-#include "testSupport.h"
+#include "util/linkServer.h"
 
+#include "data/keptCopies.h"
+#include "data/keptSearches.h"
+#include "util/fileLock.h"
+
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextCodec>
 
@@ -29,6 +34,7 @@ private slots:
         m_folder->write("wrong/version.xml", QByteArray(order("")).replace("KIV_MAT_ZP_1", "KIV_MAT_ZP_9"));
         m_folder->write("wrong/namespace.xml", QByteArray(order("")).replace("<kiv_mat_zp", "<kiv_mat_zp xmlns=\"u\""));
         m_folder->write("wrong/schema.xml", document("kiv_config", "KIV_CONFIG_1", "none.xsd", ""));
+        QVERIFY(keptSearches::keep({"Same", "ktm:k"}));
         // Of the helpers only one is there, and that cannot be started.
         QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"), QFile::ReadOwner | QFile::ExeOwner);
     }
@@ -83,7 +89,17 @@ private slots:
         row("find none -d twice.xml", 1, "", "nothing found");
         row("find colour:red -d twice.xml", 2, "", "There is no field colour");
         row("find K -n x -d twice.xml", 2, "", "x is no number");
+        row("find price:cheap -d twice.xml", 2, "", "cheap is no number; a text goes in quotes");
+        row("find --list-kept", 0, "Same\tktm:k\n", "");
+        row("find --kept same -d twice.xml", 0, "K\t", "");
+        row("find --kept same group:none -d twice.xml", 1, "", "nothing found");
+        row("find --kept other -d twice.xml", 2, "", "no search other is kept");
         row("check-materials twice.xml", 1, "K\t\tCPV empty\nK\t\tCPV empty\n", "");
+        row("material K -d sources.xml -u bom.xml -u good.xml", 0,
+            "Manufacturer\tA\nSupplier\tA\nIn the BOM list\tbom.xml, line 1: 2\nIn the order\tgood.xml, line 1: 3\n", "");
+        row("material X -d twice.xml", 1, "", "no material has the KTM X");
+        row("material K", 2, "", "-d");
+        row("material K -d one.xml -u one.xml", 1, "", "one.xml: the file is of another kind");
         row("bom-csv bom.xml", 2, "", "-o");
         row("bom-csv good.xml -o out.csv", 1, "", "is no BOM list");
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
@@ -98,8 +114,9 @@ private slots:
         row("pack none new.zip", 1, "", "Folder does not exist [none]");
         row("unpack good.xml out", 1, "", "Archive cannot be read [good.xml]");
         row("download http://127.0.0.1:1/ out.bin", 1, "", "cannot be started");
-        row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.DbLib", "[Group]");
-        row("altium twice.xml -o out.SQLITE", 0, "out.SQLITE\nout.txt\nout.DbLib", "[Group]");
+        row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.xlsx.DbLib\nNo earlier", "[Group]");
+        row("altium twice.xml -o out.SQLITE", 0,
+            "out.SQLITE\nout.txt\nout.SQLITE.DbLib\nout.kicad_dbl\nNo earlier", "[Group]");
         row("altium twice.xml -o out.txt", 2, "", ".xlsx / .sqlite");
         row("groups twice.xml -o out.xlsx", 0, "out.xlsx", "[Group]");
         row("groups twice.xml -o out.sqlite", 2, "", "ends in .xlsx");
@@ -117,14 +134,50 @@ private slots:
         row("merge one.xml other.xml --apply -o out.xml", 0, "new\tL", "");
         row("merge other.xml one.xml --update", 0, "changed\tK\t\n\td_price\t5\t\nabsent\tL", "");
         row("merge one.xml other.xml --apply -o _validator", 3, "new\tL", "cannot be written");
+        row("merge one.xml other.xml --fields d_price,group", 0, "changed\tK\t\n\td_price\t\t5\n", "");
+        row("merge one.xml other.xml --fields d_name", 0, "These fields are the same in both\n", "");
+        row("merge one.xml other.xml --fields d_price,colour", 2, "", "merge: colour is no field");
+        row("merge one.xml other.xml --fields d_price --update", 2, "", "all fields");
         row("load-cpv cpv.txt -d one.xml", 0, "G\t\t31712340-5", "X");
         row("load-cpv cpv.txt -d one.xml -o _validator", 3, "31712340-5", "cannot be written");
         row("load-cpv none.txt -d one.xml", 1, "", "none.txt");
         row("move-cpv other.xml -o out.xml", 0, "L\td_cpv\t\t31711130-3", "");
+        row("check twice.xml one.xml -k duplicate -k cpv", 1,
+            "Duplicate\tK\t\t\tKTM\tthe same KTM has: []\nDuplicate\tK\t\t\tKTM\tthe same KTM has: []\n", "");
+        row("check sources.xml -f firms.xml -k firm", 1, "Firm\tK\t\tG\tManufacturers\t", "");
+        row("check sources.xml -k firm -o out.xlsx", 0, "", "");
+        row("check one.xml -o out/", 3, "", "out/");
+        row("check one.xml -k colour", 2, "", "duplicate, empty, ktm, cpv, link, file, firm");
+        row("check one.xml -f good.xml", 1, "", "is no firm register");
+        row("set-field one.xml --find K --field name --set N --dry-run", 0, "K\td_name\t\tN\n",
+            "found 1, to change 1, unchanged 0, refused 0");
+        row("set-field other.xml --find ktm:K --field cena --replace 5 --with 6 --dry-run", 0, "K\td_price\t5\t6.00\n",
+            "found 1");
+        row("set-field other.xml --find !ktm:X --field d_description --template {ktm}/{price} --dry-run", 0,
+            "K\td_description\t\tK/5\nL\td_description\t\tL/\n", "found 2");
+        row("set-field other.xml --find ktm:K --field price --set ten", 1, "", "K\td_price\t5\tten is not a number");
+        row("set-field one.xml --find X --field name --set N", 1, "", "nothing found");
+        row("set-field one.xml --find colour:X --field name --set N", 2, "", "There is no field colour");
+        row("set-field one.xml --find K --field colour --set N", 2, "", "there is no field colour; the fields: d_ktm");
+        row("set-field one.xml --find K --field name --replace ( --with x --pattern", 2, "", "closing parenthesis");
+        row.each({"set-field one.xml --find K --field name --set N --pattern",
+                  "set-field one.xml --find K --field name --replace N"},
+                 2, "", "belong together");
+        row.each({"set-field one.xml --field name --set N", "set-field one.xml --find K --field name",
+                  "set-field one.xml --find K --field name --set N --template N"},
+                 2, "", "one of --set");
         row("check-nip firms.xml", 1, "Wrong\t5260250275", "");
         row("firm-uses sources.xml A", 0, "manufacturer\tK\t\nsupplier\tK\t\n", "");
         row("firm-uses sources.xml A --rename B -o out.xml", 0, "supplier\tK", "");
         row("firm-uses sources.xml A --rename B -o _validator", 3, "supplier\tK", "cannot be written");
+        row("firm-merge makers.xml A B -d sources.xml", 0,
+            "Manufacturers\t\tA\tgoes\t\t\nSuppliers\t\tB\tName\tA\tB\nsources.xml\tK\t\tManufacturer\tA\tB\n"
+            "sources.xml\tK\t\tSupplier\tA\tB\n",
+            "");
+        row("firm-merge makers.xml A B -d sources.xml -o out", 0, "out/makers.xml\nout/sources.xml", "");
+        row("firm-merge makers.xml A B -o _validator/kiv_mat.xsd", 3, "goes", "cannot be written");
+        row("firm-merge makers.xml A None", 1, "", "the list has no firm None");
+        row("firm-merge sources.xml A B", 1, "", "is no firm register");
         row("firm-uses sources.xml a", 1, "", "no material names a");
         row.each({"report good.xml -d good.xml -o out.html", "find K -d good.xml", "check-materials good.xml",
                   "altium good.xml -o out.xlsx", "merge one.xml good.xml", "firm-uses good.xml A"},
@@ -132,6 +185,9 @@ private slots:
         row.each({"validate", "find -d twice.xml", "check-materials", "unpack good.xml"}, 2, "", "argument is missing");
         row.each({"report good.xml -o out.txt", "report good.xml", "bom-report bom.xml -o out.doc"}, 2, "",
                  ".html or .pdf");
+        row.each({"examine-links", "examine-links one.xml --days x", "examine-links one.xml --days -1"}, 2, "",
+                 "examine-links");
+        row("examine-links bad.xml", 1, "", "bad.xml:3:");
         row.each({"find K", "parse-listing stock.txt", "load-cpv cpv.txt"}, 2, "", "-d");
         row.each({"merge one.xml other.xml --apply", "firm-uses sources.xml A --rename B"}, 2, "", "belong together");
         row.each({"resave good.xml _validator", "report good.xml -o good.xml/out.pdf",
@@ -149,7 +205,8 @@ private slots:
         row.each({"info --validate bad.xml", "report bad.xml -o out.html", "duplicates bad.xml"}, 1, "", "bad.xml:3:");
         row.each({"resave good.xml new/out.xml", "report good.xml -o out.html", "report good.xml -o new/sub/out.html",
                   "bom-csv bom.xml -d twice.xml -o out.csv", "bom-report bom.xml -d twice.xml -o out.pdf",
-                  "bom-shortage bom.xml=0", "check-urls one.xml -o out.xlsx", "db-report one.xml -o out.html"},
+                  "bom-shortage bom.xml=0", "check-urls one.xml -o out.xlsx", "examine-links one.xml other.xml",
+                  "db-report one.xml -o out.html"},
                  0, "", "");
     }
 
@@ -177,8 +234,14 @@ private slots:
         row("find l -d other.xml", 0,
             R"({"materials":[{"case":"","description":"","group":"G","in_warehouse":"","ktm":"L","name":"","price":"",
                 "status":"","unit":"","value":""}],"total":1})");
+        row("find --list-kept", 0, R"({"kept":[{"name":"Same","words":"ktm:k"}]})");
         row("check-materials one.xml", 1,
             R"({"faults":[{"fault":"Brak CPV","field":"d_cpv","group":"G","ktm":"K","name":""}]})");
+        row("material K -d sources.xml -u bom.xml", 0,
+            R"({"materials":[{"ktm":"K","group":"G","fields":{"d_ktm":"K","d_active":"NIE"},
+                "manufacturers":[{"name":"A","part_no":"","description":"","files":[]}],
+                "suppliers":[{"name":"A","part_no":"","description":"","files":[]}],
+                "uses":[{"file":"bom.xml","kind":"bom","line":1,"quantity":2,"designator":""}]}]})");
         row("check-nip firms.xml", 1, R"({"firms":[{"name":"Wrong","nip":"5260250275"}]})");
         row("diff one.xml one.xml", 0,
             R"({"after":"one.xml","before":"one.xml","differences":[],"equal":true,"kind":"kiv_mat_database"})");
@@ -192,6 +255,22 @@ private slots:
         QCOMPARE(called.code, code);
         QCOMPARE(QString(QJsonDocument::fromJson(called.out.toUtf8()).toJson()),
                  QString(QJsonDocument::fromJson(expected).toJson()));
+    }
+
+    void checkAsJson()
+    {
+        const ended called = call("check twice.xml -k duplicate -k ktm --json");
+        QCOMPARE(called.code, 1);
+        QCOMPARE(QJsonDocument::fromJson(called.out.toUtf8()).object()["counts"],
+                 QJsonValue(QJsonObject{{"duplicate", 2}, {"ktm", 2}}));
+        QCOMPARE(QJsonDocument::fromJson(called.out.toUtf8()).object()["findings"].toArray()[0].toObject(),
+                 (QJsonObject{{"kind", "duplicate"},
+                                        {"ktm", "K"},
+                                        {"name", ""},
+                                        {"group", ""},
+                                        {"field", "d_ktm"},
+                                        {"caption", "KTM"},
+                                        {"reason", "the same KTM has: []"}}));
     }
 
     void faultsHaveTheirPlace()
@@ -233,6 +312,9 @@ private slots:
         QVERIFY(call("merge m.xml other.xml --update").out.startsWith("All materials"));
         QCOMPARE(call("merge m.xml one.xml --update --apply -o u.xml").code, 0);
         QVERIFY(call("merge u.xml one.xml --update").out.startsWith("All materials"));
+        // Of one field: the new material is not among it.
+        QCOMPARE(call("merge one.xml other.xml --fields d_price --apply -o p.xml").code, 0);
+        QCOMPARE(call("merge p.xml other.xml").out, QString("new\tL\t\ngroup\t\tG\n\tcpv\t\t31711130-3\n"));
         QCOMPARE(call("parse-listing stock.txt -d one.xml -o s.xml").code, 0);
         QCOMPARE(call("parse-listing stock.txt -d s.xml").out, QString());
         QVERIFY(read(m_folder->path("s.xml")).contains("<d_averagePrice>2.50</d_averagePrice>"));
@@ -244,6 +326,38 @@ private slots:
         QCOMPARE(call("versions m.xml").code, 1);
         QCOMPARE(call("resave one.xml m.xml").err, QString());
         QCOMPARE(call("versions m.xml").out.count('\n'), 1);
+    }
+
+    // The file is written over once, its earlier version kept; a window that has it is named. Not when one is refused.
+    void fieldIsSet()
+    {
+        configStruct config;
+        config.setDefaults();
+        config.backupPath();
+        config.options.findOption("PATH_BACKUP")->value1 = m_folder->path("backup");
+        QVERIFY(QDir(m_folder->path()).mkpath("_config") && config.save(m_folder->path("_config/kiv_mat_config.xml")));
+        const QByteArray before = read(m_folder->path("other.xml"));
+        const QString setting = "set-field other.xml --find !ktm:X --field unit --set kg";
+        QCOMPARE(call("set-field other.xml --find !ktm:X --field ktm --set K").code, 1);
+        QCOMPARE(call(setting + " --dry-run").code, 0);
+        QCOMPARE(read(m_folder->path("other.xml")), before);
+        {
+            fileLock window;
+            window.claim(m_folder->path("other.xml"));
+            const ended called = call(setting);
+            QVERIFY2(called.code == 0, qPrintable(called.err));
+            QVERIFY(called.err.contains("which will be told"));
+        }
+        QCOMPARE(read(m_folder->path("other.xml")).count("<d_unit>kg</d_unit>"), 2);
+        QCOMPARE(call("validate other.xml").code, 0);
+        const QStringList kept = call("versions other.xml").out.trimmed().split('\t');
+        QCOMPARE(kept.size(), 4);
+        QString reason;
+        const auto version = readKept(kept.last(), &reason);
+        QVERIFY2(version, qPrintable(reason));
+        QCOMPARE(static_cast<kiv_mat_databaseStruct &>(*version).groups[0]->items[1]->d_unit, QString());
+        QVERIFY(call(setting).err.contains("to change 0, unchanged 2"));
+        QCOMPARE(call("versions other.xml").out.count('\n'), 1);
     }
 
     void polishPathsAndLanguage()
@@ -278,6 +392,48 @@ private slots:
         QCOMPARE(read(m_folder->path("out/kiv.xsd")), read(m_folder->path("_validator/kiv.xsd")));
         QCOMPARE(run({"unpack", "a.zip", "out2"}, {"KIVZP_ARCHIVE_PASSWORD=wrong"}).code, 1);
         QVERIFY(!QFile::exists(m_folder->path("out2/kiv.xsd")));
+    }
+
+    // What was told once is not asked again, and its copy stays.
+    void linksAreExamined()
+    {
+        linkServer server;
+        const auto file = [&server](const QString &path) {
+            return "<file type=\"FILE_DATASHEET\" name=\"" + server.link(path).toUtf8() + "\"/>";
+        };
+        m_folder->write("links.xml",
+                        database("<d_group name=\"G\"><material><d_ktm>K</d_ktm><manufacturers><manufacturer><files>"
+                                 + file("/301/a.pdf") + file("/404") + "<file type=\"FILE_HTML\" name=\"x.html\"/>"
+                                 + "</files></manufacturer></manufacturers></material></d_group>"));
+        // Here the server is to answer meanwhile.
+        const auto examine = [this](const QStringList &more) {
+            QProcess process;
+            process.setWorkingDirectory(m_folder->path());
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert("XDG_DATA_HOME", m_folder->path("home"));
+            environment.insert("no_proxy", "127.0.0.1");
+            process.setProcessEnvironment(environment);
+            process.start(m_folder->path("kivzp-cli"), QStringList{"examine-links", "links.xml"} + more);
+            const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000);
+            return std::pair(ended ? process.exitCode() : -1, process.readAllStandardOutput());
+        };
+        const auto [code, lines] = examine({"--fetch"});
+        QCOMPARE(code, 1);
+        QCOMPARE(QString(lines), QString("moved\tK\t%1\t%2\nmissing\tK\t%3\tis gone (404)\nnot_web\tK\tx.html\tno web "
+                                         "address\n")
+                                     .arg(server.link("/301/a.pdf"), server.link("/a.pdf"), server.link("/404")));
+        const int asked = server.requests.size();
+        const auto [again, json] = examine({"--fetch", "--json"});
+        QCOMPARE(again, 1);
+        QCOMPARE(server.requests.size(), asked);
+        const QJsonArray links = QJsonDocument::fromJson(json)["links"].toArray();
+        QCOMPARE(links.size(), 3);
+        QCOMPARE(links[0]["moved_to"].toString(), server.link("/a.pdf"));
+        QCOMPARE(links[0]["type"].toString(), QString("application/pdf"));
+        QVERIFY(read(links[0]["copy"].toString()).startsWith("%PDF"));
+        QCOMPARE(links[1]["status"].toInt(), 404);
+        examine({"--days", "0"});
+        QVERIFY(server.requests.size() > asked);
     }
 
     void bomsToOrder()

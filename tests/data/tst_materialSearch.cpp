@@ -2,6 +2,7 @@
 #include "testSupport.h"
 
 #include "data/materialSearch.h"
+#include "util/translation.h"
 
 using namespace testSupport;
 
@@ -14,6 +15,8 @@ private slots:
         m_database = std::make_unique<kiv_mat_databaseStruct>();
         group(*m_database, "Elementy różne");
     }
+
+    void cleanup() { translation::install("en"); }
 
     // Grouped by what is found.
     void queries_data()
@@ -30,7 +33,8 @@ private slots:
                  "R1 R2");
         row.each({"rezystor 0603", "0603 rezystor", "\"rezystor smd\"", "yageo", "rc0603fr", "maker:yageo",
                   "producent:YAGEO", "part:rc0603", "tolerance:<=5", "case:0603", "case:060", "opis:0603", "name:0603",
-                  "status:green case:0603", "active:yes", "price:<=0.02", "case: yageo"},
+                  "status:green case:0603", "active:yes", "price:<=0.02", "case: yageo", "unit:szt.",
+                  "unit:pcs."},
                  "R1");
         row.each({"rezystor kondensator", "\"smd rezystor\"", "supplier:yageo", "value:4.7", "value:470mOhm", "100nH",
                   "16A", "case:=060", "case:rezystor", "price:2", "1250"},
@@ -45,7 +49,12 @@ private slots:
                  "R1 R2");
         row.each({"case:0603|0805", "case:0603|ktm:C1 !szary", "price:0.01..12.5", "rezystor|kondensator !drutowy"},
                  "R1 C1");
-        row.each({"power:1/4", "power:1/4W", "power:250mW", "power:>=0.2", "1/4 W", "power:0.2..1/3W", "power:..1W"}, "R2");
+        row.each({"power:1/4", "power:1/4W", "power:250mW", "power:>=0.2", "1/4 W", "power:0.2..1/3W", "power:..1W"},
+                 "R2");
+        row.each({"stock:\"x\"", "name:=\"op amp\"", "value:\"0..1\"", "opis:=\"16 A\""}, "");
+        row("opis:=\"ceramiczny X7R\"", "C1");
+        row("price:>\"1000\" active:n", "D1");
+        row("opis:x7r|\"drutowy 16\"", "R2 C1");
         row.each({"!opis:x", "! !opis:x", "!opis:x|"}, "R1 R2 S1");
     }
 
@@ -54,6 +63,7 @@ private slots:
         materialStruct *m = append("R1", "RC0603FR-074K7L", "Rezystor SMD 0603");
         fill(m, "4.7kΩ", "0603", "100", "ZIELONY", "0.02", "±5%");
         m->d_active = "TAK";
+        m->d_unit = "pcs.";
         manufacturer(m, "Yageo", "RC0603FR-074K7L");
         supplier(m, "TME", "RC0603FR-074K7L");
         m = append("R2", "Rezystor", "drutowy 16 A");
@@ -68,6 +78,7 @@ private slots:
         const auto [ktms] = fetch<QString>();
         materialSearch search;
         search.add(m_database.get());
+        translation::install("pl");
         const searchQuery parsed = searchQuery::parse(tag());
         QVERIFY2(parsed.errors().isEmpty(), qPrintable(parsed.errors().join(' ')));
         QStringList filtered;
@@ -139,26 +150,33 @@ private slots:
         QCOMPARE(search.find(searchQuery::parse("x"), -1).total, 51);
     }
 
+    // What is named, and what is marked.
     void faults_data()
     {
-        const rows<QString> row;
-        row("colour:red x", "colour");
-        row("kolor:\"a b\" x", "kolor");
-        row("price:>abc x", "abc");
-        row("price:1..b x", "1..b");
-        row("price:.. x", "..");
-        row("name:>5 x", "name");
-        row("obudowa:<=0603 x", "obudowa");
+        const rows<QString, QString> row;
+        row("colour:red x", "colour", "colour");
+        row("kolor:\"a b\" x", "kolor", "kolor");
+        row("price:>abc x", "abc", ">abc");
+        row("price:1..b x", "1..b", "1..b");
+        row("price:.. x", "..", "..");
+        row("name:>5 x", "name", ">5");
+        row("obudowa:<=0603 x", "obudowa", "<=0603");
+        row("case:0603..0805 x", "case", "0603..0805");
+        row("x price:1|cheap", "cheap", "cheap");
+        row("voltage:5x x", "5x", "5x");
+        row("!active:perhaps x", "perhaps", "perhaps");
+        row("x colour:red|blue", "colour", "colour");
     }
 
     void faults()
     {
         const searchQuery query = searchQuery::parse(tag());
-        const auto [named] = fetch<QString>();
+        const auto [named, marked] = fetch<QString, QString>();
         QCOMPARE(query.errors().size(), 1);
         QVERIFY(query.errors()[0].contains(named));
+        QCOMPARE(tag().mid(query.faults()[0].begin, query.faults()[0].length), marked);
         // The rest still counts.
-        QCOMPARE(query.terms().size(), size_t(1));
+        QCOMPARE(query.terms().size(), size_t(tag().contains("price:1|") ? 2 : 1));
     }
 
     // What a search remembers of the one before never changes its answer.

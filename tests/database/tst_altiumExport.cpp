@@ -6,6 +6,8 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -66,19 +68,23 @@ private slots:
         row("Polish letters", sheets({"Łódź"}), {"Lodz"});
         row("refused characters", sheets({"[a]:*?/\\b"}), {"_a______b"});
         row("apostrophes", sheets({"''a'b'", "'"}), {"a'b", "Group"});
-        row("empty", sheets({"", ""}), {"Group", "Group 2"});
-        row("case", sheets({"ab", "AB", "aB"}), {"ab", "AB 2", "aB 3"});
-        row("a number that is taken", sheets({"a", "a 2", "a"}), {"a", "a 2", "a 3"});
-        row("reserved", sheets({"groups", "History"}), {"groups 2", "History 2"});
-        row("long", sheets({QString(40, 'a'), QString(40, 'A')}), {QString(31, 'a'), QString(29, 'A') + " 2"});
-        row("apostrophe where it is cut", sheets({QString(30, 'a') + "'b"}), {QString(30, 'a')});
-        row("no half character", sheets({QString(30, 'a') + "😀"}), {QString(30, 'a')});
+        row("empty", sheets({"", ""}), {"Group", "Group~d41d"});
+        row("case", sheets({"ab", "AB", "aB"}), {"ab", "AB~b86f", "aB~081b"});
+        row("equal", sheets({"a", "a~0cc1", "a", "a"}), {"a", "a~0cc1", "a~0cc1~2", "a~0cc1~3"});
+        row("reserved", sheets({"groups", "History"}), {"groups~1471", "History~16d2"});
+        const QString a(40, 'a');
+        row("long", sheets({a, a.toUpper()}),
+            {a.left(10) + "~" + a.left(20), (a.left(8) + "~" + a.left(17)).toUpper() + "~a945"});
+        row("the telling end", sheets({"Układy programowalne CPLD (CPLD_Microchip)", "Pamięci " + a + " EEPROM I2C"}),
+            {"Uklady program~(CPLD_Microchip)", "Pamieci aaaaaaaaaaaa~EEPROM I2C"});
+        row("apostrophe where it is cut", sheets({"'" + a}), {a.left(9) + "~" + a.left(20)});
+        row("no half character", sheets({a.left(11) + "😀" + a.left(19)}), {a.left(11) + "~" + a.left(19)});
         const QString sql = "Rezystory|Other parameters|Układy|O'Brien|group|0603|R-SMD|Ω|_x1||SQLite_x|ID";
         QStringList quoted;
         for (const QString &name : sql.split('|'))
             quoted.append(exportNames::quoted(exportNames::sqlNames({name}, {"id"}).at(0)));
         row("SQL", quoted,
-            QString("Rezystory|'Other parameters'|Uklady|OBrien|'group'|'0603'|'R-SMD'|'Ω'|_x1|'Group'|_SQLite_x|ID_2")
+            QString("Rezystory|'Other parameters'|Uklady|OBrien|'group'|'0603'|'R-SMD'|'Ω'|_x1|'Group'|_SQLite_x|ID_b718")
                 .split('|'));
     }
 
@@ -86,6 +92,46 @@ private slots:
     {
         const auto [given, expected] = fetch<QStringList, QStringList>();
         QCOMPARE(given, expected);
+    }
+
+    // Whatever is put in wherever, nobody else's table gets another name.
+    void namesStay_data()
+    {
+        const rows<QString> row;
+        row("another one", "Moduły");
+        row("in capitals", "REZYSTORY");
+        row("without its letters", "Uklady");
+        row("with them", "Ukłądy");
+        row("of the family", "Układy programowalne CPLD (CPLD_Xilinx)");
+        row("one that is cut alike", "Układy programowalnych i innych CPLD (CPLD_Microchip)");
+    }
+
+    void namesStay()
+    {
+        const auto [added] = fetch<QString>();
+        QStringList groups{"Rezystory",
+                           "Układy",
+                           "History",
+                           "rezystory",
+                           "Układy programowalne CPLD (CPLD_Microchip)",
+                           "Układy programowalne CPLD (CPLD_Altera)"};
+        using function = QStringList (*)(const QStringList &, const QStringList &, const QHash<QString, QString> &);
+        for (const function make : {exportNames::sheetNames, exportNames::sqlNames}) {
+            const QStringList before = make(groups, {}, {});
+            QHash<QString, QString> known;
+            for (int i = 0; i < groups.size(); ++i)
+                known.insert(groups.at(i), before.at(i));
+            QCOMPARE(make(groups + QStringList(added), {}, {}).mid(0, groups.size()), before);
+            for (int place = 0; place <= groups.size(); ++place) {
+                QStringList more = groups;
+                more.insert(place, added);
+                QStringList after = make(more, {}, known);
+                QVERIFY(!before.contains(after.takeAt(place), Qt::CaseInsensitive));
+                QCOMPARE(after, before);
+            }
+        }
+        // A name that another rule would have given is not kept.
+        QCOMPARE(exportNames::sqlNames({"Układy"}, {}, {{"Układy", "Uklady 2"}}), QStringList("Uklady"));
     }
 
     void scriptText()
@@ -145,7 +191,7 @@ private slots:
         const exportResult result = exportAltiumXlsx(database, path("a.xlsx"));
         QCOMPARE(result.result, exportResult::done);
         QVERIFY(result.notes.join("").contains("<b>00001</b>&nbsp;[Description]"));
-        QVERIFY(result.notes.join("").contains("<b>group</b>&nbsp;[group 2]"));
+        QVERIFY(result.notes.join("").contains("<b>group</b>&nbsp;[group~"));
 
         const QJsonArray sheets = readWorkbook(path("a.xlsx"));
         QCOMPARE(sheets.size(), int(database.groups.size()));
@@ -178,7 +224,7 @@ private slots:
         const QByteArray found = QJsonDocument(readWorkbook(path("g.xlsx"))).toJson(QJsonDocument::Compact);
         QCOMPARE(found, QByteArray("[[\"Groups\",[[\"Name\",\"KTM\",\"CPV\"],[\"Groups\",null,null],"
                                    "[\"empty\",\"317111\",\"31711130-3\"]]],"
-                                   "[\"Groups 2\",[[\"Name\",\"KTM\",\"CPV\"],[\"n1\",\"K1\",\"c1\"],"
+                                   "[\"Groups~a37e\",[[\"Name\",\"KTM\",\"CPV\"],[\"n1\",\"K1\",\"c1\"],"
                                    "[\"n2\",\"K2\",null]]],[\"empty\",[[\"Name\",\"KTM\",\"CPV\"]]]]"));
     }
 
@@ -204,7 +250,7 @@ private slots:
         kiv_mat_databaseStruct database;
         for (int i = 0; i < 200; ++i)
             material(database, "G", QString::number(i));
-        for (const char *name : {"a.sqlite", "a.txt", "a.DbLib", "a.xlsx"})
+        for (const char *name : {"a.sqlite", "a.txt", "a.sqlite.DbLib", "a.xlsx.DbLib", "a.kicad_dbl", "a.xlsx"})
             m_folder->write(name, "old");
         const progressFunction cancel = [](long long done, long long total) { return total != 200 || done < 100; };
         const progressFunction cancelPacking = [](long long, long long total) { return total > 0; };
@@ -218,12 +264,13 @@ private slots:
             QVERIFY(refused.error.contains("a.txt"));
         }
         // The description cannot be written: the workbook is not replaced either.
-        QVERIFY(QFile::remove(path("a.DbLib")) && QDir().mkdir(path("a.DbLib")));
+        for (const char *name : {"a.sqlite.DbLib", "a.xlsx.DbLib"})
+            QVERIFY(QFile::remove(path(name)) && QDir().mkdir(path(name)));
         QCOMPARE(exportAltiumXlsx(database, path("a.xlsx")).result, exportResult::failed);
         QCOMPARE(exportAltiumSqlite(database, path("a.sqlite")).result, exportResult::failed);
-        for (const char *name : {"a.sqlite", "a.txt", "a.xlsx"})
+        for (const char *name : {"a.sqlite", "a.txt", "a.xlsx", "a.kicad_dbl"})
             QCOMPARE(read(m_folder->path(name)), QByteArray("old"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 4);
     }
 
     // Each described table and column stands in the exported file under that name.
@@ -232,8 +279,11 @@ private slots:
         kiv_mat_databaseStruct database;
         for (const char *name : {"A.b", "with|bar", "with]bracket", "Group"})
             material(database, name, "K");
-        QVERIFY(exportAltiumXlsx(database, path("part s.xlsx")).files.contains(path("part s.DbLib")));
-        const QString text = QString::fromUtf8(read(path("part s.DbLib")));
+        m_folder->write("part s.DbLib", "both kinds had this one once");
+        const exportResult workbook = exportAltiumXlsx(database, path("part s.xlsx"));
+        QVERIFY(workbook.files.contains(path("part s.xlsx.DbLib")));
+        QCOMPARE(workbook.notes.filter("<b>part s.DbLib</b>&nbsp;[part s.xlsx.DbLib]").size(), 1);
+        const QString text = QString::fromUtf8(read(path("part s.xlsx.DbLib")));
         QVERIFY(text.contains("Data Source=.\\part s.xlsx;"));
         QVERIFY(!text.contains("with|"));
         QVERIFY(text.contains("TableName=with_bracket$"));
@@ -244,9 +294,99 @@ private slots:
                               "LibraryRef|FieldType=1|ParameterName=[Library Ref]|"));
         const QStringList notes = exportAltiumSqlite(database, path("p.sqlite")).notes;
         QCOMPARE(notes.filter("<b>with").size(), 2);
-        const QString sql = QString::fromUtf8(read(path("p.DbLib")));
+        const QString sql = QString::fromUtf8(read(path("p.sqlite.DbLib")));
         QVERIFY(sql.contains("Database=.\\p.sqlite;"));
         QVERIFY(sql.contains("TableName=A.b\r\n"));
+        exportAltiumXlsx(database, path("p.xlsx"));
+        QCOMPARE(QString::fromUtf8(read(path("p.sqlite.DbLib"))), sql);
+    }
+
+    // Every table and column of KiCad's description is there under its exact name; a library's name
+    // has none of the characters that part a name.
+    void kicadNamesWhatIsThere()
+    {
+        kiv_mat_databaseStruct database;
+        fillNasty(database);
+        group(database, "a/b");
+        QVERIFY(exportAltiumSqlite(database, path("k.sqlite")).files.contains(path("k.kicad_dbl")));
+        QCOMPARE(output("sqlite3", {path("k.sqlite")}, path("k.txt")), QByteArray());
+        const QJsonObject description = QJsonDocument::fromJson(read(path("k.kicad_dbl"))).object();
+        QVERIFY(description["source"].toObject()["connection_string"].toString().endsWith(";Database=${CWD}/k.sqlite"));
+        const QJsonArray libraries = description["libraries"].toArray();
+        // Without the one whose name holds a quotation mark.
+        QCOMPARE(libraries.size(), int(database.groups.size()) - 1);
+        QStringList names;
+        for (const auto &each : libraries) {
+            const QJsonObject library = each.toObject();
+            names.append(library["name"].toString());
+            const QString table = library["table"].toString();
+            QStringList columns{library["key"].toString(), library["symbols"].toString(),
+                                library["footprints"].toString(),
+                                library["properties"].toObject()["description"].toString()};
+            QCOMPARE(columns, QStringList({"KTM", "LibraryRef", "FootprintRef", "Description"}));
+            for (const auto &field : library["fields"].toArray())
+                columns.append(field.toObject()["column"].toString());
+            // Neither the empty column nor the row's number is a field.
+            QCOMPARE(columns.size(), 22);
+            const QByteArray made = output("sqlite3", {path("k.sqlite"), "pragma table_info(\"" + table + "\")"});
+            for (const QString &column : qAsConst(columns))
+                QVERIFY2(made.contains("|" + column.toUtf8() + "|"), qPrintable(table + ": " + column));
+        }
+        QVERIFY(names.contains("a_b"));
+        QCOMPARE(names.filter(QRegularExpression("[:/]")), QStringList());
+        QCOMPARE(names.removeDuplicates(), 0);
+    }
+
+    // What differs from the export before, by each kind of export.
+    void changesAreTold()
+    {
+        kiv_mat_databaseStruct database;
+        for (const QString &place : QString("A1 A2 A3 A3 A4 B5 B6 C7").split(' '))
+            material(database, place.left(1), "K" + place.mid(1), "n" + place.mid(1));
+        using function = exportResult (*)(const kiv_mat_databaseStruct &, const QString &, const progressFunction &);
+        const QList<QPair<function, QString>> exports{{exportAltiumXlsx, path("c.xlsx")},
+                                                      {exportAltiumSqlite, path("c.sqlite")}};
+        for (const auto &[run, target] : exports) {
+            QVERIFY(!run(database, target, {}).changes.compared);
+            const exportChanges same = run(database, target, {}).changes;
+            QVERIFY(same.compared && same.rows.empty() && !same.since.isEmpty());
+        }
+        auto &groups = database.groups;
+        groups[0]->items[0]->d_value = "a\tb\\\nc";
+        groups[0]->items[0]->d_price = "1";
+        groups[0]->items.erase(groups[0]->items.begin() + 1);
+        groups[0]->items[2]->d_name = "second of its KTM";
+        groups[2]->items.push_back(std::move(groups[0]->items[3]));
+        groups[0]->items.pop_back();
+        groups[1]->name = "Układy";
+        group(database, "B");
+        groups.back()->name = "E";
+        material(database, "E", "K9", "n9");
+        // Nothing that is not exported counts.
+        groups[1]->items[0]->d_cpv = "31712116-6";
+        const QStringList expected{"+ E",
+                                   "> B -> Uklady",
+                                   "~ A, K1, n1, Value:  -> a\tb\\\\nc",
+                                   "~ A, K1, n1, Price:  -> 1",
+                                   "~ A, K3, second of its KTM, Name: n3 -> second of its KTM",
+                                   "> C, K4, n4: A -> C",
+                                   "+ E, K9, n9",
+                                   "- A, K2, n2"};
+        for (const auto &[run, target] : exports) {
+            const exportChanges changes = run(database, target, {}).changes;
+            QStringList lines;
+            for (const exportChange &change : changes.rows)
+                lines.append(lineOf(change));
+            QCOMPARE(lines, expected);
+            QVERIFY(summaryOf(changes).contains("2"));
+        }
+        groups.pop_back();
+        m_folder->write("c.xlsx.last.gz", "no archive");
+        QVERIFY(!exportAltiumXlsx(database, path("c.xlsx")).changes.compared);
+        const exportChanges less = exportAltiumSqlite(database, path("c.sqlite")).changes;
+        QCOMPARE(int(less.rows.size()), 2);
+        QCOMPARE(lineOf(less.rows[0]), QString("- E"));
+        QCOMPARE(lineOf(less.rows[1]), QString("- E, K9, n9"));
     }
 
 private:

@@ -149,6 +149,39 @@ private slots:
         QVERIFY(mine.groups[1]->items[0].get() != other.groups[1]->items[0].get());
     }
 
+    // A part of what changed: fields, the place, both or nothing; whatever else differs stays whole.
+    void parts_data()
+    {
+        const rows<QString, QStringList> row;
+        row("all", "d_name d_price group", {"+2 ", "~1 d_name d_price group", "cA"});
+        row("a field", "d_price", {"+2 ", "~1 d_price", "cA"});
+        row("the place", "group", {"+2 ", "~1 group", "cA"});
+        row("nothing of it", "d_value", {"+2 ", "cA"});
+    }
+    void parts()
+    {
+        const auto [names, left] = fetch<QString, QStringList>();
+        kiv_mat_databaseStruct mine;
+        material(mine, "A", "1", "name");
+        kiv_mat_databaseStruct other;
+        material(other, "A", "2");
+        material(other, "B", "1", "new name")->d_price = "2";
+        other.groups[0]->cpv = "31712114-2";
+        comparison found = compareDatabases(mine, other);
+        std::erase_if(found.differences, [names = names](materialDifference &d) {
+            return !narrow(d, [&](int place) {
+                return names.split(' ').contains(place == groupPlace() ? "group"
+                                                                       : comparedFields()[size_t(place)].name);
+            });
+        });
+        QCOMPARE(summary(found), left);
+        carryOut(found.differences, absentOnes::keep, &mine);
+        const QString group = names.contains("group") ? "B" : "A";
+        const materialStruct &m = *testSupport::group(mine, group)->items.at(0);
+        QCOMPARE(m.d_name, QString(names.contains("d_name") ? "new name" : "name"));
+        QCOMPARE(m.d_price, QString(names.contains("d_price") ? "2" : ""));
+    }
+
     void usesAreListed()
     {
         kiv_mat_zpStruct order;

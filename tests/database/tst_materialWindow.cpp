@@ -53,10 +53,21 @@ const scenario scenarios[] = {
     {"done again", STEPS "Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Z Ctrl+Y Ctrl+Y Ctrl+Y Ctrl+Y",
      "saved ~ <name>Vishay<; saved ~ \"http://x/y\""},
     {"no firm of the register", OPEN, "material@!3/0,0 ~ Not in the firm register"},
-    {"one of it", OPEN "|material@3/0,0 F2 Ctrl+A 'Vishay' Return", "material@!3/0,0 ~ ZIELONY"},
+    {"one of it", OPEN "|material@3/0,0 F2 Ctrl+A 'Vishay' Return", "material@!3/0,0 ~ GREEN"},
 
     {"a KTM that another one has", OPEN "|material@0/0,1 F2 Ctrl+A 'SRV-000.100' Return",
      "status = Another material has this KTM; title !~ *"},
+
+    // --- Firms that the register does not have ---
+    {"taken into it", OPEN "|Ctrl+M 'Nowa SA' Return !Add_to_the_register",
+     "boxes ~ has no manufacturer Nowa SA; material@!3/1,0 ~ Nowa SA, status GRAY; file _files/firms.xml ~ "
+     "<name>Nowa SA</name>; material@3/1,0 = Nowa SA"},
+    {"only here", OPEN "|Ctrl+L 'Nowa SA' Return !Only_in_this_material",
+     "boxes ~ has no supplier Nowa SA; file _files/firms.xml !~ Nowa SA; saved ~ <name>Nowa SA</name>"},
+    {"a slip", OPEN "|material@3/0,0 F2 Ctrl+A 'Nowa SA' Return Escape ~100",
+     "material@3/0,0 = Unknown; title !~ *; file _files/firms.xml !~ Nowa SA"},
+    {"a slip, set", OPEN "|material@3/0,0 F2 Ctrl+A 'Nowa SA' Ctrl+S Escape ~100",
+     "material@3/0,0 = Unknown; title !~ *; title !~ closed"},
 
     // --- Closing; what is at fault is gone to, the rest is kept ---
     {"yes", TYPED "'Nowy' Return Ctrl+W !Yes", "boxes = " ASKING "; title = closed; saved ~ <d_name>Nowy"},

@@ -2,7 +2,8 @@
 #include "testSupport.h"
 
 #include "firm/firmChecks.h"
-#include "firm/firmOperations.h"
+#include "firm/firmMerge.h"
+#include "firm/firmUsage.h"
 
 using namespace testSupport;
 using namespace firmOperations;
@@ -151,6 +152,105 @@ private slots:
         QVERIFY(firmsWithWrongTaxNumber(firms)
                 == decltype(firmsWithWrongTaxNumber(firms))(
                     {firms.manufacturers.items[2].get(), firms.suppliers.items[2].get()}));
+    }
+
+    // Lists of firms as "name/full name/NIP", the places that become one, the first of which stays; and the lists
+    // and the makers and sellers of the materials afterwards.
+    void merged_data()
+    {
+        const rows<QString, QString, QVector<int>, QString, QString> row;
+        row("two", "A,B,C", "", {1, 0}, "B,C|", "B B B,B,a |TME,B,");
+        row("the other list", "A,B", "TME,A", {1, 0}, "B|TME,B", "B B B,B,a |TME,B,");
+        row("both in it", "A,B", "A,TME,B", {1, 0}, "B|TME,B", "B B B,B,a |TME,B,");
+        row("three", "A,B,a", "", {2, 0, 1}, "a|", "a a a,a,a |TME,a,");
+        row("equal names", "A,B,A", "A", {0, 2}, "A,B|A", "A B A,B,a |TME,A,");
+        row("what it lacks", "A/Alpha/1,B/Beta/,C/FIRM SA/3", "", {2, 1, 0}, "C/Beta/3|", "C C C,C,a |TME,C,");
+        row("what it does not", "A/Alpha/1,B", "", {1, 0}, "B/Alpha/1|", "B B B,B,a |TME,B,");
+    }
+
+    void merged()
+    {
+        const auto [makers, sellers, places, lists, materials] =
+            fetch<QString, QString, QVector<int>, QString, QString>();
+        kiv_mat_firmStruct firms;
+        for (const firmKind kind : {firmOperations::manufacturer, firmOperations::supplier})
+            for (const QString &text :
+                 (kind == firmOperations::manufacturer ? makers : sellers).split(',', Qt::SkipEmptyParts)) {
+                auto &added = listOf(firms, kind).emplace_back(std::make_unique<firmStruct>());
+                added->name = text.section('/', 0, 0);
+                added->fullname = text.section('/', 1, 1);
+                added->nip = text.section('/', 2, 2);
+            }
+        const std::vector<size_t> going(places.begin() + 1, places.end());
+        const mergePlan plan =
+            planMerge(firms, firmOperations::manufacturer, size_t(places[0]), going, {m_database.get()});
+        const auto changes = changesOf(*m_database, {plan.names});
+        QCOMPARE(plan.uses.empty(), changes.empty());
+        QVERIFY(mergeRows(plan).size() == int(plan.changes.size() + plan.uses.size()));
+        const auto merged = copyOf(firms);
+        mergeFirms(*merged, plan);
+        applyNames(changes);
+        QStringList kept;
+        for (const firmKind kind : {firmOperations::manufacturer, firmOperations::supplier}) {
+            QStringList texts;
+            for (const auto &firm : listOf(*merged, kind)) {
+                QString text = firm->name + "/" + firm->fullname + "/" + firm->nip;
+                while (text.endsWith('/'))
+                    text.chop(1);
+                texts.append(text);
+            }
+            kept.append(texts.join(','));
+        }
+        QCOMPARE(kept.join('|'), lists);
+        QStringList made;
+        QStringList sold;
+        for (const auto &present : m_database->groups[0]->items) {
+            QStringList texts;
+            for (const auto &maker : present->manufacturers.items)
+                texts.append(maker->name);
+            made.append(texts.join(' '));
+            sold.append(present->suppliers.items.empty() ? "" : present->suppliers.items[0]->name);
+        }
+        QCOMPARE(made.join(',') + "|" + sold.join(','), materials);
+    }
+
+    // Orders of a folder, and the one that is open.
+    void figures()
+    {
+        const QTemporaryDir folder;
+        const auto path = [&folder](const QString &name) { return folder.filePath(name); };
+        const auto order = [&path](const char *name, const char *date, const char *ktms) {
+            QString text = R"(<kiv_mat_zp><options><option type="ORDER_DATE" value1="%1"/></options><order_items>)";
+            text = text.arg(date);
+            for (const QString &ktm : QString(ktms).split(' '))
+                text += "<order_item><ktm>" + ktm + "</ktm></order_item>";
+            testSupport::write(path(name), (text + "</order_items></kiv_mat_zp>").toUtf8());
+        };
+        order("a.xml", "03.02.2026", "1 1 2");
+        order("b.xml", "16.11.2026", "2 9");
+        testSupport::write(path("broken.xml"), "<kiv_mat_zp><order_items><order_item><ktm>1</ktm>");
+        testSupport::write(path("other.xml"), "<kiv_mat_firm><ktm>1</ktm></kiv_mat_firm>");
+        orderScan scan;
+        QVERIFY(scan.update(folder.path()));
+        auto its = figuresOf({m_database.get()}, {}, scan.orders());
+        const auto seen = [&its](firmKind kind, const QString &name) {
+            const firmFigures found = its[kind].value(name);
+            return QString("%1 %2 ").arg(found.materials).arg(found.orders) + found.lastUsed.toString("yyyyMMdd");
+        };
+        QCOMPARE(seen(firmOperations::manufacturer, "A"), QString("1 1 20260203"));
+        QCOMPARE(seen(firmOperations::manufacturer, "B"), QString("2 2 20261116"));
+        QCOMPARE(seen(firmOperations::supplier, "A"), QString("1 2 20261116"));
+        QCOMPARE(seen(firmOperations::manufacturer, "a"), QString("1 0 "));
+        // Read again when it changed, forgotten when it is gone; a name planned counts already.
+        order("a.xml", "24.12.2026", "3 1 3");
+        QVERIFY(QFile::remove(path("b.xml")));
+        QVERIFY(scan.update(folder.path()));
+        renameStep step;
+        step[firmOperations::manufacturer] = {{"a", "A"}};
+        its = figuresOf({m_database.get()}, {step}, scan.orders());
+        QCOMPARE(seen(firmOperations::manufacturer, "A"), QString("2 1 20261224"));
+        QCOMPARE(seen(firmOperations::supplier, "A"), QString("1 0 "));
+        QVERIFY(!orderScan().update(folder.path(), [](long long, long long) { return false; }));
     }
 
 private:

@@ -29,6 +29,8 @@ const scenario actions[] = {
     {"", "manufacturers@?0,1 #add", "manufacturers = 60", edits},
     {"Ins manufacturers@59,0", "#delete", "status ~ 1 firm deleted; manufacturers = 59", edits},
     {"", "#delete Escape", "boxes ~ is deleted: Abracon: ; errors ~ <b>Abracon</b>: ; manufacturers = 59", guards},
+    {"+manufacturers@1,1", "#mergeFirms Return",
+     "status = 1 firm merged into Abracon; manufacturers = 58; saved !~ <name>Advanced Monolithic", edits},
     {"", "#homePage", "desktop = https://abracon.com", reads},
 };
 
@@ -83,13 +85,51 @@ private slots:
         work("Ins manufacturers@59,1 +manufacturers@0,0 Del Escape");
         QCOMPARE(boxes().size(), 1);
         QCOMPARE(current().model()->rowCount(), 60);
-        // A firm that stands twice can go once.
-        work("manufacturers@59,0 F2 Ctrl+A 'Abracon' Return manufacturers@0,0 Del Ctrl+S");
+    }
+
+    // A file may have a firm twice: either can go, and both can be edited but for the name.
+    void firmsThatStandTwice()
+    {
+        testSupport::write(file(), testSupport::read(file()).replace("<name>Allegro MicroSystems<", "<name>Abracon<"));
+        openWindow("#firm|manufacturers@2,0 F2 Return manufacturers@2,1 F2 Ctrl+A 'x' Return manufacturers@0,0 Del Ctrl+S");
         QCOMPARE(boxes(), QStringList());
-        QCOMPARE(current().model()->rowCount(), 59);
+        QCOMPARE(current().model()->rowCount(), 58);
         QVERIFY(onDisk() != "Abracon" && testSupport::read(file()).contains("<name>Abracon<"));
         // What was saved over is kept.
         QCOMPARE(fileVersions::of(file(), path("backup")).size(), 1);
+    }
+
+    // No way leads to a second firm of a name.
+    void secondOnesAreRefused_data()
+    {
+        QTest::addColumn<QString>("clipboard");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("seen");
+        QTest::newRow("typed") << "" << "manufacturers@1,0 F2 Ctrl+A 'abracon ' Return Escape" << "";
+        QTest::newRow("added") << "" << "Ins Escape Ins Escape" << "Error: The list has a new firm FIRM already";
+        QTest::newRow("filled") << "" << "manufacturers@0,0 Shift+Down Ctrl+Shift+D Escape" << "has a firm Abracon already";
+        QTest::newRow("pasted") << "Abracon" << "manufacturers@1,0 Ctrl+V Escape" << "two firms of a name: Abracon";
+        QTest::newRow("pasted twice") << "New\nNEW" << "manufacturers@1,0 Ctrl+V Escape" << "two firms of a name: NEW";
+    }
+    void secondOnesAreRefused()
+    {
+        QFETCH(QString, clipboard);
+        QFETCH(QString, steps);
+        QFETCH(QString, seen);
+        openWindow("#firm");
+        const int before = current().model()->rowCount();
+        QGuiApplication::clipboard()->setText(clipboard);
+        work(steps);
+        const QString said = QString(boxes().join('|')).remove('\n').remove(QChar(0x2028));
+        QVERIFY2(said.contains(seen) && said.isEmpty() == seen.isEmpty(), qPrintable(said));
+        work("Ctrl+S");
+        kiv_mat_firmStruct saved;
+        QCOMPARE(loadFirm(file(), &saved), 0);
+        QSet<QString> names;
+        for (const auto &firm : saved.manufacturers.items)
+            names.insert(firm->name.toLower());
+        QCOMPARE(names.size(), int(saved.manufacturers.items.size()));
+        QCOMPARE(current().model()->rowCount() - before, steps.startsWith("Ins") ? 1 : 0);
     }
 
     void renamedInMaterials_data()
@@ -98,7 +138,36 @@ private slots:
         QTest::addColumn<bool>("renamed");
         QTest::newRow("materials too") << "!Rename_in_5_places" << true;
         QTest::newRow("list only") << "!Rename_in_this_list_only" << false;
-        QTest::newRow("closed") << "Escape" << false;
+    }
+    void renamingTakenBack()
+    {
+        openWindow("#firm|manufacturers@0,0 F2 Ctrl+A 'Abracon Group' Return ~50 Escape");
+        QCOMPARE(boxes().size(), 1);
+        QCOMPARE(status(), QString("The name was not changed"));
+        QCOMPARE(current().sibling(0, 0).data().toString(), QString("Abracon"));
+        QVERIFY(!window().windowTitle().endsWith('*'));
+        // What was undone before can still be done again, and the next name asks for itself alone.
+        work("manufacturers@0,1 F2 Ctrl+A 'x' Return Ctrl+Z manufacturers@1,0 F2 Ctrl+A 'y' Return ~50 Escape Ctrl+Y");
+        QCOMPARE(boxes().size(), 1);
+        QVERIFY(window().windowTitle().endsWith('*'));
+        QCOMPARE(uses("Abracon"), 5);
+    }
+
+    // Merged as one step; the materials follow when the register is saved.
+    void mergedInMaterials()
+    {
+        const int both = uses("Abracon") + uses("Advanced Monolithic Systems");
+        openWindow("#firm|manufacturers@0,0 +manufacturers@1,0 #mergeFirms ~50 Escape");
+        QVERIFY(!window().windowTitle().endsWith('*'));
+        work("Ctrl+M ~50 Up Return ~50 Ctrl+Z Ctrl+Y");
+        QCOMPARE(current().model()->rowCount(), 58);
+        QCOMPARE(status(), QString("Done again: 1 firm merged into Abracon"));
+        QCOMPARE(current().sibling(0, 7).data().toInt(), both);
+        QCOMPARE(uses("Abracon"), 5);
+        work("Ctrl+S");
+        QCOMPARE(uses("Abracon"), both);
+        QCOMPARE(testSupport::read(database()).count("<name>Abracon<"), both);
+        QVERIFY(!testSupport::read(file()).contains("Advanced Monolithic"));
     }
     void renamedInMaterials()
     {

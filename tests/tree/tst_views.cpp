@@ -68,7 +68,7 @@ private slots:
         row("price in words", int(moneyKind), "gratis", "gratis", "1", "1.00");
         const QString soon = QDate::currentDate().addDays(14).toString("dd.MM.yyyy");
         row("past date", int(dateEditKind), "01.02.2003", "01.02.2003", "+14", soon);
-        row("no date", int(dateEditKind), "NIE", "NIE", soon, soon);
+        row("no date", int(dateEditKind), "NIE", "NO", soon, soon);
         row("a word for a date", int(dateEditKind), soon, soon, "nie", "NIE");
         row("foreign word", int(comboBoxKind), "MOŻE", "MOŻE", "N", "NIE");
         row("word in the user's language", int(comboBoxKind), "TAK", "YES", "N", "NIE");

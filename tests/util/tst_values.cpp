@@ -10,6 +10,7 @@
 #include "util/quantity.h"
 #include "util/text.h"
 #include "util/translation.h"
+#include "util/visibleBlanks.h"
 
 using namespace testSupport;
 
@@ -34,6 +35,13 @@ private slots:
         const QString pair = QString::fromUcs4(U"\U0001F600", 1);
         row("pairs stay, halves go", storable(pair + QChar(0xd83d) + "x" + QChar(0xde00)), pair + "x");
         row("escaped with line ends", toHtml("<a & \"b\">\nc"), "&lt;a &amp; &quot;b&quot;&gt;<br>c");
+        row("single blanks stay", visibleBlanks("a b c"), "a b c");
+        row("blanks at the ends", visibleBlanks(" a  b "), "\u00b7a\u00b7\u00b7b\u00b7");
+        row("nothing but blanks", visibleBlanks("  "), "\u00b7\u00b7");
+        row("line ends", visibleBlanks("a \nb\n"), "a\u00b7\u21b5 b\u21b5");
+        row("Windows line ends", visibleBlanks("a\r\nb"), "a\u25af\u21b5 b");
+        row("other blanks", visibleBlanks("a\tb\u00a0c\u200bd"), "a\u2192b\u237dc\u25afd");
+        row("pairs are seen", visibleBlanks(pair), pair);
         row("month by the compiler", dates::fromMonthNames("Nov  4 2026"), "04.11.2026");
         row("month in capitals", dates::fromMonthNames("JAN 31 2027"), "31.01.2027");
         row("any other word is December", dates::fromMonthNames("xyz 1 2026"), "01.12.2026");
@@ -139,6 +147,15 @@ private slots:
         QCOMPARE(labels::shown("pcs."), QString("pcs."));
         QCOMPARE(labels::shown("TAK"), QString("YES"));
         QCOMPARE(labels::signature(), QString(" Signature"));
+        // A word only where the field holds words, whatever leads to it.
+        QCOMPARE(labels::shownIn("status", "ZIELONY"), QString("GREEN"));
+        QCOMPARE(labels::shownIn("d_case", "ZIELONY"), QString("ZIELONY"));
+        QCOMPARE(labels::shownIn("supplier[A/B]/file[x]/type", "FILE_DATASHEET"), QString("Datasheet"));
+        QCOMPARE(labels::shownIn("type", "ORDER_NUMBER"), labels::optionCaption("ORDER_NUMBER"));
+        QCOMPARE(labels::shownIn("type", "?"), QString("?"));
+        QCOMPARE(labels::storedOf("green"), QString("ZIELONY"));
+        QCOMPARE(labels::storedOf("Yes"), QString("TAK"));
+        QCOMPARE(labels::storedOf("green LED"), QString("green LED"));
         translation::install("pl");
         // A foreign unit stays, also when it is a text of the catalogue.
         const QStringList words{"pcs.", "TAK", "YES", "NIE", "Price"};
@@ -146,6 +163,7 @@ private slots:
         for (const QString &word : words)
             shown += labels::shown(word);
         QCOMPARE(shown, QStringList({"szt.", "TAK", "TAK", "NIE", "Price"}));
+        QCOMPARE(labels::storedOf("SZT."), QString("pcs."));
         lineSums sums;
         sums.add(decimal(), "", "x");
         sums.add(decimal(), "", "");

@@ -117,6 +117,12 @@ QWidget *showDatabase(MainWindow &window)
     return &database;
 }
 
+QWidget *showFindings(MainWindow &window)
+{
+    Kiv_mat_databaseWindow &database = window.databaseWindow(programData::warehouse);
+    return shownBy(window, "findingsWindow", [&database] { database.commandChecks(true); });
+}
+
 QWidget *showMerge(MainWindow &window)
 {
     Kiv_mat_databaseWindow &database = window.databaseWindow(programData::warehouse);
@@ -239,6 +245,7 @@ const picture pictures[] = {
     {"about", showAbout},
     {"addMaterial", showAddMaterial},
     {"database", showDatabase},
+    {"findings", showFindings},
     {"merge", showMerge},
     {"config", showConfig},
     {"firms", [](MainWindow &w) { return showFirms(w, firmOperations::manufacturer); }},

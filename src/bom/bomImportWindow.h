@@ -1,0 +1,91 @@
+// Makes a BOM list of a list of parts: its columns are checked, its lines matched and settled one by
+// one, and nothing is written before "Set".
+#pragma once
+
+#include "bom/bomImport.h"
+#include "window/baseWindow.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QStandardItemModel;
+class QTableWidget;
+class QTreeView;
+class commandStack;
+class programData;
+class stagedLinesFilter;
+class stagedLinesModel;
+
+class bomImportWindow : public baseWindow
+{
+    Q_OBJECT
+public:
+    // folder: of the set of BOM lists, where the list goes and the decisions lie.
+    bomImportWindow(programData &known, QString folder);
+    ~bomImportWindow() override;
+
+    // Reads a file and shows it; tells why it cannot.
+    bool openList(const QString &path);
+
+    // Writes the list, and returns whether it was; adds it to the set.
+    std::function<bool(const QString &path, kiv_mat_bomStruct &bom)> writeList;
+    // Opens the material editor with a new material; null where no database is open for that.
+    std::function<void(std::unique_ptr<materialStruct> filledIn)> makeMaterial;
+
+public slots:
+    void commandOpen(bool);
+    void commandSet(bool);
+    void commandClose(bool) { close(); }
+    void commandUndo(bool);
+    void commandRedo(bool);
+    void commandTake(bool);
+    void commandUnmatch(bool);
+    void commandLeaveOut(bool);
+    void commandNewMaterial(bool);
+    void commandNext(bool);
+    void commandReport(bool);
+    void commandMatchAgain(bool);
+    void commandDecisions(bool);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    class lineChange;
+
+    QWidget *columnsPage();
+    QWidget *linesPage();
+    void readFile(const partsTableOptions &options);
+    void showColumns();
+    void columnChosen(int column, int field);
+    void match();
+    void showCounts();
+    void showCandidates();
+    void updateActions();
+    // Of the lines' table; -1.
+    int currentLine() const;
+    void change(int row, bomImport::stagedLine to, const QString &what);
+    bool isDecided() const;
+
+    programData &m_known;
+    QString m_folder;
+    QString m_path;
+    partsTable m_table;
+    partsColumns::guess m_columns;
+    std::vector<bomImport::decision> m_decisions;
+    std::unique_ptr<commandStack> m_commands;
+    stagedLinesModel *m_lines;
+    stagedLinesFilter *m_shown;
+    QTableWidget *m_preview;
+    QComboBox *m_separator;
+    QComboBox *m_sheet;
+    QLabel *m_form;
+    QTreeView *m_view;
+    QComboBox *m_states;
+    QLineEdit *m_filter;
+    QLineEdit *m_words;
+    QTreeView *m_found;
+    QStandardItemModel *m_materials;
+    QLabel *m_counts;
+};

@@ -1,0 +1,36 @@
+// What stands in the cells of lists of parts: designators, cases, part numbers, and that a part is
+// not fitted.
+#pragma once
+
+#include <QStringList>
+
+namespace partsTexts {
+
+// The designators of a cell, in its order and each once: "R1, R2 R5-R9" is seven. Separated by
+// blanks, commas, semicolons or bars; a range has the same letters at both ends, which the second may
+// leave out, and at most 1,000 designators. What is none is kept as it is.
+QStringList designatorsIn(const QString &cell);
+// Whether there are some and nothing else.
+bool areDesignators(const QString &cell);
+// In the order that people count in: C2 before C10.
+void sortDesignators(QStringList *designators);
+
+// The size of a chip ("0402") or the family and pins of a case ("SOIC-8") in a case, a footprint or
+// a description, by which those that are written differently are compared; empty where none is named.
+QString caseIn(const QString &text);
+
+// Whether it may be ordered by: letters and digits mixed, and no value ("100nF", "4k7").
+bool looksLikePartNumber(const QString &text);
+// The part number as it is compared: capital letters and digits only.
+QString foldedPartNumber(const QString &text);
+// The same without what a maker adds for the packaging ("-TR", "/REEL", "#PBF", ",115"); the folded
+// one where nothing of that kind stands at its end.
+QString withoutPackaging(const QString &text);
+
+// "DNP", "do not mount", "n/m", "nie montować": in a value or description, or as a mark.
+bool saysNotFitted(const QString &text);
+// yes, 1, x, TAK ...; no, 0, NIE ...
+bool saysYes(const QString &text);
+bool saysNo(const QString &text);
+
+} // namespace partsTexts
