@@ -738,6 +738,14 @@
             <numerusform>Przejęto %n odnośników</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The database is empty. &lt;a href=&quot;addGroup&quot;&gt;Add a group&lt;/a&gt;, or &lt;a href=&quot;merge&quot;&gt;take over from another file&lt;/a&gt;.</source>
+        <translation>Baza jest pusta. &lt;a href=&quot;addGroup&quot;&gt;Dodaj grupę&lt;/a&gt; albo &lt;a href=&quot;merge&quot;&gt;przejmij z innego pliku&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Nothing matches. &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;.</source>
+        <translation>Nic nie pasuje. &lt;a href=&quot;all&quot;&gt;Pokaż wszystko&lt;/a&gt;.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -3754,7 +3762,7 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
   value:1k..10k        from the first to the last; value:1k.. value:..10k
   value:4k7+-5%        within so much of the number
   case:0603|0805       one of them
-  !status:grey         without it
+  !status:grey         without it; also -status:grey
 Fields: %1</source>
         <translation>Warunki oddziela się odstępami, wszystkie muszą być spełnione:
   rezystor 0603        oba słowa, w dowolnym polu, także wewnątrz słowa
@@ -3766,7 +3774,7 @@ Fields: %1</source>
   value:1k..10k        od pierwszej do ostatniej; value:1k.. value:..10k
   value:4k7+-5%        w tych granicach od liczby
   case:0603|0805       jedno z nich
-  !status:szary        bez tego
+  !status:szary        bez tego; także -status:szary
 Pola: %1</translation>
     </message>
     <message>

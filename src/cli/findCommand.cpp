@@ -63,7 +63,7 @@ QString grammar()
         "  value:1k..10k        from the first to the last; value:1k.. value:..10k\n"
         "  value:4k7+-5%        within so much of the number\n"
         "  case:0603|0805       one of them\n"
-        "  !status:grey         without it\n"
+        "  !status:grey         without it; also -status:grey\n"
         "Fields: %1");
 }
 

@@ -16,6 +16,17 @@ bool isName(const QString &text)
            && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
+// "!" before anything, or "-" before a field, as other searches have it; "-00100" is a text.
+bool isNegation(const QString &typed, int at)
+{
+    // "!!!!!" marks what is unknown.
+    if (typed.at(at) == QLatin1Char('!'))
+        return typed.midRef(at + 1, 1) != QLatin1String("!");
+    const int colon = typed.indexOf(QLatin1Char(':'), at);
+    return typed.at(at) == QLatin1Char('-') && colon > at
+           && isName(typed.mid(at + 1, colon - at - 1));
+}
+
 // Whether the second of two pieces is a unit of the first, as in "4.7 kΩ" and "voltage:>10 V".
 bool isNumberWithUnit(const searchToken &first, const searchToken &second)
 {
@@ -120,11 +131,9 @@ std::vector<searchToken> searchToken::all(const QString &typed)
         }
         searchToken next;
         next.isAlternative = std::exchange(isAlternative, false) && !result.empty();
-        if (next.isAlternative)
+        if (next.isAlternative) {
             next.negated = result.back().negated;
-        // "!!!!!" marks what is unknown.
-        else if (typed.at(at) == QLatin1Char('!')
-                 && typed.midRef(at + 1, 1) != QLatin1String("!")) {
+        } else if (isNegation(typed, at)) {
             next.negated = true;
             ++at;
         }

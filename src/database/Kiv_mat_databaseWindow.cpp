@@ -25,6 +25,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
@@ -244,6 +245,23 @@ void Kiv_mat_databaseWindow::buildWidgets()
     m_words = new searchLine(m_view);
     m_words->completeFrom(known().search(), [this] { return &m_rows->database(); });
     new databaseDrop(this);
+    m_hint = new QLabel(m_view->viewport());
+    m_hint->setObjectName(QStringLiteral("hint"));
+    m_hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    constexpr QPoint hintPlace(24, 16);
+    m_hint->move(hintPlace);
+    connect(m_hint, &QLabel::linkActivated, this, [this](const QString &link) {
+        if (link == QLatin1String("all"))
+            showAll();
+        else
+            action(link.toLatin1())->trigger();
+    });
+    const auto groupsChanged = [this](const QModelIndex &parent) {
+        if (!parent.isValid() && m_rows)
+            showHint();
+    };
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, groupsChanged);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, groupsChanged);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     buildDetails(page);
     constexpr QSize usualSize(1280, 800);

@@ -19,6 +19,7 @@
 class Kiv_mat_databaseMergeWindow;
 class findingsWindow;
 class detailsPane;
+class QLabel;
 class QTreeView;
 class linksWindow;
 class kiv_mat_zpStruct;
@@ -185,6 +186,7 @@ private:
     void setFilter(const char *name, const QString &word, bool on);
     void applyFilter();
     void showGroups();
+    void showHint();
     void deselectUnmatched();
     bool matches(const materialStruct &material) const;
     void showAll();
@@ -222,6 +224,7 @@ private:
     programData::databaseKind m_kind;
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
+    QLabel *m_hint; // in the tree that shows nothing
     searchLine *m_words = nullptr;
     detailsPane *m_details = nullptr;
     std::unique_ptr<databaseTree::rows> m_rows;

@@ -320,6 +320,7 @@ bulkEditDialog::bulkEditDialog(source from, const QString &fieldName, QWidget *p
     , m_matchCase(new QCheckBox(tr("&Match case"), this))
     , m_lines(new QPlainTextEdit(this))
     , m_template(new QComboBox(this))
+    , m_templateLine(new templateLine(m_template, m_template))
     , m_keep(new QPushButton(this))
     , m_group(new searchableBox(this))
     , m_firm(new searchableBox(this))
@@ -393,7 +394,7 @@ QWidget *bulkEditDialog::addTemplates()
     m_template->setObjectName(QStringLiteral("template"));
     m_template->setEditable(true);
     m_template->setInsertPolicy(QComboBox::NoInsert);
-    m_template->setLineEdit(new templateLine(m_template));
+    m_template->setLineEdit(m_templateLine);
     m_template->setCompleter(nullptr); // the line has its own
     m_template->setAccessibleName(tr("Template"));
     m_template->lineEdit()->setPlaceholderText(QStringLiteral("{value} {case}"));
@@ -457,6 +458,7 @@ void bulkEditDialog::buildWidgets(const QString &fieldName)
 
     m_counts->setObjectName(QStringLiteral("counts"));
     m_counts->setWordWrap(true);
+    m_counts->setTextFormat(Qt::PlainText);
     m_view->setObjectName(QStringLiteral("preview"));
     m_view->setAccessibleName(tr("Preview"));
     m_view->setModel(m_preview);
@@ -691,7 +693,7 @@ void bulkEditDialog::markFaults(const bulkEdit::faults &found)
         refusal::mark(box, isFault ? found.text : QString(), box->lineEdit());
     };
     markBox(m_value, request::set);
-    markBox(m_template, request::compose);
+    markBox(m_template, request::compose, m_templateLine->isOffering());
     markBox(m_group, request::toGroup, m_group->matches() > 0);
     markBox(m_firm, kind() == request::addMaker ? request::addMaker : request::addSupplier,
             m_firm->matches() > 0);
@@ -718,7 +720,7 @@ void bulkEditDialog::showCounts(const QString &before)
         told.append(tr("%n refused", nullptr, int(plan.refused.size())));
     if (!plan.note.isEmpty() && plan.note != before)
         told.append(plan.note);
-    m_counts->setText(told.join(QLatin1String("; ")).toHtmlEscaped());
+    m_counts->setText(told.join(QLatin1String("; ")));
     m_change->setEnabled(m_preview->markedCount() > 0);
     m_all->setEnabled(!plan.changes.empty());
     m_none->setEnabled(!plan.changes.empty());

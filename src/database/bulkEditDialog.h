@@ -86,6 +86,7 @@ private:
     QCheckBox *m_matchCase;
     QPlainTextEdit *m_lines;
     QComboBox *m_template;
+    templateLine *m_templateLine; // of it
     QPushButton *m_keep;
     searchableBox *m_group;
     searchableBox *m_firm;

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
 
@@ -133,6 +134,17 @@ void Kiv_mat_databaseWindow::showGroups()
             m_words->setRowShown(item->index(), m_query.terms().empty() || shown > 0);
     }
     m_view->deselectHidden();
+    showHint();
+}
+
+void Kiv_mat_databaseWindow::showHint()
+{
+    const bool isEmpty = m_rows->database().groups.empty();
+    m_hint->setText(isEmpty ? tr("The database is empty. <a href=\"addGroup\">Add a group</a>, or "
+                                 "<a href=\"merge\">take over from another file</a>.")
+                            : tr("Nothing matches. <a href=\"all\">Show all</a>."));
+    m_hint->adjustSize();
+    m_hint->setVisible(isEmpty || (m_shownCount == 0 && !m_query.terms().empty()));
 }
 
 // The first material that the search shows, unless one of them is current.

@@ -1,20 +1,19 @@
 #include "database/templateLine.h"
 
 #include "database/bulkEdit.h"
+#include "window/completionList.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QScrollBar>
+#include <QKeyEvent>
 
-templateLine::templateLine(QWidget *parent)
+#include <algorithm>
+
+templateLine::templateLine(QWidget *parent, QWidget *keys)
     : QLineEdit(parent)
-    , m_names(new QCompleter(bulkEdit::textTemplate::names(), this))
+    , m_list(new completionList(this))
 {
-    m_names->setWidget(this);
-    m_names->setCaseSensitivity(Qt::CaseInsensitive);
-    m_names->popup()->setObjectName(QStringLiteral("fieldNames"));
-    connect(m_names, qOverload<const QString &>(&QCompleter::activated), this, &templateLine::take);
+    connect(m_list, &completionList::picked, this, &templateLine::take);
     connect(this, &QLineEdit::textEdited, this, &templateLine::offer);
+    (keys ? keys : this)->installEventFilter(this);
 }
 
 int templateLine::nameBegin() const
@@ -27,32 +26,63 @@ int templateLine::nameBegin() const
 void templateLine::offer()
 {
     const int begin = nameBegin();
-    QAbstractItemView *list = m_names->popup();
-    if (begin < 0) {
-        list->hide();
-        return;
+    m_names.clear();
+    std::vector<searchSuggestion> offered;
+    if (begin >= 0) {
+        const QString typed = text().mid(begin, cursorPosition() - begin);
+        for (const QString &name : bulkEdit::textTemplate::names())
+            if (name.startsWith(typed, Qt::CaseInsensitive)) {
+                m_names.append(name);
+                offered.push_back({name, name, {}});
+            }
     }
-    m_names->setCompletionPrefix(text().mid(begin, cursorPosition() - begin));
-    if (m_names->completionCount() == 0) {
-        list->hide();
-        return;
-    }
-    list->setCurrentIndex(m_names->completionModel()->index(0, 0));
-    QRect place = cursorRect();
-    constexpr int sparePixels = 20;
-    place.setWidth(list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width()
-                   + sparePixels);
-    m_names->complete(place);
+    m_list->offer(offered, cursorRect().left());
 }
 
-void templateLine::take(const QString &name)
+void templateLine::take(int number)
 {
     const int begin = nameBegin();
-    if (begin < 0)
+    m_list->hide();
+    if (begin < 0 || number >= m_names.size())
         return;
     setSelection(begin, cursorPosition() - begin);
     const bool isClosed = text().midRef(selectionEnd()).startsWith(QLatin1Char('}'));
-    insert(isClosed ? name : name + QLatin1Char('}'));
+    insert(isClosed ? m_names.at(number) : m_names.at(number) + QLatin1Char('}'));
     if (isClosed)
         cursorForward(false);
+}
+
+bool templateLine::isOffering() const { return m_list->isVisible(); }
+
+bool templateLine::takesKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Down:
+        m_list->move(1);
+        return true;
+    case Qt::Key_Up:
+        m_list->move(-1);
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        take(std::max(0, m_list->chosen()));
+        return true;
+    case Qt::Key_Escape:
+        m_list->hide();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool templateLine::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_list->isVisible()) {
+        if (event->type() == QEvent::KeyPress)
+            return takesKey(static_cast<QKeyEvent *>(event)->key());
+        if (event->type() == QEvent::FocusOut || event->type() == QEvent::Hide)
+            m_list->hide();
+    }
+    return QLineEdit::eventFilter(watched, event);
 }

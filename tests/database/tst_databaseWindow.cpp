@@ -268,9 +268,15 @@ private slots:
         work("Ctrl+Z");
         QCOMPARE(order(), QString("M0 M1 M2 M3"));
         look("materials@0/0,0 = M0; materials@0/2,0 = M2; materials@1/0,0 = M3");
+        // "Compose": the list below the line takes Tab and Return.
+        work("materials@0/0,0 Shift+Down Ctrl+H Shift+Tab Shift+Tab Down Down Down Tab Tab '{kt' Tab '/{nam' Return "
+             "'!' ~300 Return");
+        QCOMPARE(status(), QString("2 materials changed"));
+        look("materials@0/0,0 = 317111-01.01-90001/M0!");
+        work("Ctrl+Z ");
         work("Ctrl+Y Ctrl+Z Ctrl+Z");
         QVERIFY(known().find("317111-01.01-00001") && !databaseWindow().isModified());
-        QCOMPARE(boxes().size(), 3);
+        QCOMPARE(boxes().size(), 4);
     }
 
     // What is unticked stays, and lines that lose their material are named before and listed after.
