@@ -208,6 +208,13 @@
             <numerusform>%n links taken over</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n group(s) with another CPV now</source>
+        <translation>
+            <numerusform>%n group with another CPV now</numerusform>
+            <numerusform>%n groups with another CPV now</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

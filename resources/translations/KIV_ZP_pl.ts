@@ -746,6 +746,22 @@
         <source>Nothing matches. &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;.</source>
         <translation>Nic nie pasuje. &lt;a href=&quot;all&quot;&gt;Pokaż wszystko&lt;/a&gt;.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n group(s) with another CPV now</source>
+        <translation>
+            <numerusform>%n grupa ma teraz inny CPV</numerusform>
+            <numerusform>%n grupy mają teraz inny CPV</numerusform>
+            <numerusform>%n grup ma teraz inny CPV</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no group</source>
+        <translation>Baza nie ma żadnej grupy</translation>
+    </message>
+    <message>
+        <source>Group for %1</source>
+        <translation>Grupa dla %1</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -72,8 +72,11 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"addFile", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new file"), "data_new_element2_128",
       "Ins", QT_TRANSLATE_NOOP("actions", "Add a BOM list to this folder")},
      &Kiv_bomWindow::commandAddFile},
-    {{"import", "File", QT_TRANSLATE_NOOP("actions", "Import list of parts ..."), "action_open", "Ctrl+I",
-      QT_TRANSLATE_NOOP("actions", "Make a BOM list of a list of parts of a CAD tool: CSV, XLSX, ODS, KiCad"), true},
+    {{"import", "File", QT_TRANSLATE_NOOP("actions", "Import list of parts ..."), "action_open",
+      "Ctrl+I",
+      QT_TRANSLATE_NOOP("actions",
+                        "Make a BOM list of a list of parts of a CAD tool: CSV, XLSX, ODS, KiCad"),
+      true},
      &Kiv_bomWindow::commandImport},
     {{"addGroup", "Edit", QT_TRANSLATE_NOOP("actions", "Add. new group"), "zp_open_group_128",
       nullptr, nullptr},
@@ -386,6 +389,7 @@ void Kiv_bomWindow::commandImport(bool)
     const QDir folder = QFileInfo(known().boms().filePath).absoluteDir();
     if (!m_import) {
         m_import = std::make_unique<bomImportWindow>(known(), folder.path());
+        m_import->makeMaterial = makeMaterial;
         m_import->writeList = [this](const QString &path, kiv_mat_bomStruct &bom) {
             if (!saveDocument(path, bom, known().config()))
                 return false;
@@ -400,8 +404,9 @@ void Kiv_bomWindow::commandImport(bool)
     }
     const QString path = userPrompts().openFile(
         tr("Open list of parts"), folder.path(),
-        tr("Lists of parts") + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;") + tr("All files")
-            + QLatin1String(" (*)"));
+        tr("Lists of parts")
+            + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;")
+            + tr("All files") + QLatin1String(" (*)"));
     if (path.isEmpty())
         return;
     m_import->show();

@@ -23,6 +23,9 @@ public:
     explicit Kiv_bomWindow(programData &known);
     ~Kiv_bomWindow() override;
 
+    // Opens the material editor with a new material that has these texts and firms.
+    std::function<void(const materialStruct &filledIn)> makeMaterial;
+
     // The set differs from its file; the numbers of sets to build are no part of it.
     bool isModified() const override;
     // Whether any list is built.

@@ -23,7 +23,10 @@ struct part
 
     QString shown() const { return isNumber ? quantity.text() : stated; }
     // What stands in no designator.
-    decimal beside() const { return quantity - decimal::read(QString::number(designators.size())).value_or(decimal()); }
+    decimal beside() const
+    {
+        return quantity - decimal::read(QString::number(designators.size())).value_or(decimal());
+    }
 };
 
 struct board
@@ -34,7 +37,10 @@ struct board
     QStringList designators;          // in the order of the list
 };
 
-QString keyOf(const materialStruct &line) { return line.d_ktm.isEmpty() ? QLatin1Char('\n') + line.d_name : line.d_ktm; }
+QString keyOf(const materialStruct &line)
+{
+    return line.d_ktm.isEmpty() ? QLatin1Char('\n') + line.d_name : line.d_ktm;
+}
 
 board boardOf(const kiv_mat_bomStruct &bom)
 {
@@ -77,7 +83,8 @@ bomDifference differenceOf(bomDifference::kind kind, const part *before, const p
 }
 
 // Designators in one list only, a row for each material.
-void addAlone(const board &of, const board &other, bomDifference::kind kind, std::vector<bomDifference> *rows)
+void addAlone(const board &of, const board &other, bomDifference::kind kind,
+              std::vector<bomDifference> *rows)
 {
     for (const part &one : of.parts) {
         QStringList alone;
@@ -97,7 +104,8 @@ void addAlone(const board &of, const board &other, bomDifference::kind kind, std
 
 } // namespace
 
-std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &beforeList, const kiv_mat_bomStruct &afterList)
+std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &beforeList,
+                                       const kiv_mat_bomStruct &afterList)
 {
     const board before = boardOf(beforeList);
     const board after = boardOf(afterList);
@@ -127,7 +135,9 @@ std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &beforeList, cons
     addAlone(before, after, bomDifference::removed, &rows);
     // What is counted beside designators: wire, glue, screws.
     const auto quantityRow = [&](const part *old, const part *now) {
-        const bool isEqual = old && now && (old->isNumber && now->isNumber ? old->beside() == now->beside() : old->stated == now->stated);
+        const bool isEqual = old && now
+                             && (old->isNumber && now->isNumber ? old->beside() == now->beside()
+                                                                : old->stated == now->stated);
         const bool hasNone = (!old || (old->isNumber && old->beside() == decimal()))
                              && (!now || (now->isNumber && now->beside() == decimal()));
         if (isEqual || hasNone)
@@ -166,10 +176,14 @@ QString nameOf(bomDifference::kind kind)
 
 QString lineOf(const bomDifference &row)
 {
-    const auto side = [](const QString &ktm, const QString &name) { return (ktm + QLatin1Char(' ') + name).trimmed(); };
+    const auto side = [](const QString &ktm, const QString &name) {
+        return (ktm + QLatin1Char(' ') + name).trimmed();
+    };
     const QString before = side(row.ktmBefore, row.nameBefore);
     const QString after = side(row.ktmAfter, row.nameAfter);
-    const QString where = row.designators.isEmpty() ? QString() : row.designators.join(QLatin1String(", ")) + QLatin1String(": ");
+    const QString where = row.designators.isEmpty()
+                              ? QString()
+                              : row.designators.join(QLatin1String(", ")) + QLatin1String(": ");
     switch (row.what) {
     case bomDifference::added:
         return QStringLiteral("+ %1%2 x %3").arg(where, row.quantityAfter, after);

@@ -9,10 +9,10 @@ struct bomDifference
 {
     enum kind
     {
-        added,    // parts that only the second list has
-        removed,  // that only the first one has
+        added,     // parts that only the second list has
+        removed,   // that only the first one has
         exchanged, // designators that have another material
-        quantity  // of a material without designators, or beside them
+        quantity   // of a material without designators, or beside them
     };
     kind what;
     QStringList designators; // may be empty
@@ -24,8 +24,10 @@ struct bomDifference
     QString quantityAfter;
 };
 
-// Exchanged parts first, in the order of their designators; then what was added, removed, and quantities.
-std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &before, const kiv_mat_bomStruct &after);
+// Exchanged parts first, in the order of their designators; then what was added, removed, and
+// quantities.
+std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &before,
+                                       const kiv_mat_bomStruct &after);
 
 // For the user, and for files.
 QString textOf(bomDifference::kind kind);

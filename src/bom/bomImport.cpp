@@ -53,7 +53,10 @@ QString ktmOfUnknown(const QString &name, unknownParts *known)
 
 } // namespace
 
-QString stateText(state of) { return QCoreApplication::translate("bomImport", states[size_t(of)].text); }
+QString stateText(state of)
+{
+    return QCoreApplication::translate("bomImport", states[size_t(of)].text);
+}
 QString stateName(state of) { return QLatin1String(states[size_t(of)].name); }
 
 state stagedLine::stateOf() const
@@ -113,7 +116,7 @@ std::vector<decision> readDecisions(const QString &folder, QString *fault)
 bool writeDecisions(const QString &folder, const std::vector<decision> &all, QString *fault)
 {
     QString table = csvLine({QStringLiteral("key"), QStringLiteral("ktm"), QStringLiteral("date"),
-                            QStringLiteral("words")});
+                             QStringLiteral("words")});
     for (const decision &one : all)
         table += csvLine({one.key, one.ktm, one.date, one.words});
     const QString path = decisionsFile(folder);
@@ -161,7 +164,8 @@ unknownParts unknownIn(const QString &folder)
     return known;
 }
 
-std::unique_ptr<kiv_mat_bomStruct> bomOf(const staged &lines, unknownParts *known, const QDate &today)
+std::unique_ptr<kiv_mat_bomStruct> bomOf(const staged &lines, unknownParts *known,
+                                         const QDate &today)
 {
     struct written
     {
@@ -217,19 +221,21 @@ std::unique_ptr<materialStruct> materialOf(const partsLine &line)
         record->partNo = text::storable(partNo);
         list.append(std::move(record));
     };
-    source(material->manufacturers, std::make_unique<manufacturerStruct>(), line.manufacturer, number);
-    source(material->suppliers, std::make_unique<supplierStruct>(), line.supplier, line.supplierNumbers.value(0));
+    source(material->manufacturers, std::make_unique<manufacturerStruct>(), line.manufacturer,
+           number);
+    source(material->suppliers, std::make_unique<supplierStruct>(), line.supplier,
+           line.supplierNumbers.value(0));
     return material;
 }
 
 QString reportOf(const staged &lines)
 {
-    QString table = csvLine({QStringLiteral("line"), QStringLiteral("state"), QStringLiteral("reason"),
-                            QStringLiteral("confidence"), QStringLiteral("ktm"), QStringLiteral("name"),
-                            QStringLiteral("quantity"), QStringLiteral("designators"),
-                            QStringLiteral("part_number"), QStringLiteral("manufacturer"),
-                            QStringLiteral("value"), QStringLiteral("case"), QStringLiteral("candidates"),
-                            QStringLiteral("remarks")});
+    QString table = csvLine(
+        {QStringLiteral("line"), QStringLiteral("state"), QStringLiteral("reason"),
+         QStringLiteral("confidence"), QStringLiteral("ktm"), QStringLiteral("name"),
+         QStringLiteral("quantity"), QStringLiteral("designators"), QStringLiteral("part_number"),
+         QStringLiteral("manufacturer"), QStringLiteral("value"), QStringLiteral("case"),
+         QStringLiteral("candidates"), QStringLiteral("remarks")});
     for (const stagedLine &staged : lines.lines) {
         const partsLine &line = staged.line;
         const matchCandidate *match = staged.match();
@@ -238,16 +244,17 @@ QString reportOf(const staged &lines)
             candidates.append(candidate.ktm
                               + (candidate.differences.isEmpty()
                                      ? QString()
-                                     : QStringLiteral(" (%1)").arg(candidate.differences.join(QLatin1String(", ")))));
-        table += csvLine({line.rows.isEmpty() ? QString() : QString::number(line.rows.first()),
-                         stateName(staged.stateOf()), match ? reasonName(match->reason) : QString(),
-                         match ? QString::number(confidenceOf(match->reason)) : QString(),
-                         match ? match->ktm : QString(),
-                         match ? match->name : line.name(), line.quantity,
-                         line.designators.join(QLatin1String(", ")),
-                         line.partNumbers.join(QLatin1String(" ")), line.manufacturer, line.value,
-                         line.package, match ? QString() : candidates.join(QLatin1String(", ")),
-                         line.remarks.join(QLatin1String(", "))});
+                                     : QStringLiteral(" (%1)").arg(
+                                         candidate.differences.join(QLatin1String(", ")))));
+        table +=
+            csvLine({line.rows.isEmpty() ? QString() : QString::number(line.rows.first()),
+                     stateName(staged.stateOf()), match ? reasonName(match->reason) : QString(),
+                     match ? QString::number(confidenceOf(match->reason)) : QString(),
+                     match ? match->ktm : QString(), match ? match->name : line.name(),
+                     line.quantity, line.designators.join(QLatin1String(", ")),
+                     line.partNumbers.join(QLatin1String(" ")), line.manufacturer, line.value,
+                     line.package, match ? QString() : candidates.join(QLatin1String(", ")),
+                     line.remarks.join(QLatin1String(", "))});
     }
     return table;
 }

@@ -28,7 +28,10 @@ struct stagedLine
 
     state stateOf() const;
     // Null when there is none.
-    const matchCandidate *match() const { return chosen < 0 ? nullptr : &candidates[size_t(chosen)]; }
+    const matchCandidate *match() const
+    {
+        return chosen < 0 ? nullptr : &candidates[size_t(chosen)];
+    }
 };
 
 struct staged
@@ -52,7 +55,7 @@ struct decision
 {
     QString key;
     QString ktm;
-    QString date; // yyyy-MM-dd
+    QString date;  // yyyy-MM-dd
     QString words; // of the line, for who reads the file
     bool operator==(const decision &) const = default;
 };
@@ -72,7 +75,8 @@ unknownParts unknownIn(const QString &folder);
 // Left-out lines are not written; several lines of one material become one. Parts that were not
 // matched are lines of a KTM 999999-99.99-NNNNN: that of the same name in known, or the next one,
 // which is added to known.
-std::unique_ptr<kiv_mat_bomStruct> bomOf(const staged &lines, unknownParts *known, const QDate &today);
+std::unique_ptr<kiv_mat_bomStruct> bomOf(const staged &lines, unknownParts *known,
+                                         const QDate &today);
 
 // A material for a part that no database has, filled in with what the line says of it.
 std::unique_ptr<materialStruct> materialOf(const partsLine &line);

@@ -40,29 +40,35 @@ constexpr int previewRows = 12;
 constexpr int searchedMaterials = 100;
 
 const windowAction<bomImportWindow> actionTable[] = {
-    {{"open", "File", QT_TRANSLATE_NOOP("actions", "Open list of parts ..."), "action_open", "Ctrl+O",
-      QT_TRANSLATE_NOOP("actions", "Read another CSV, XLSX, ODS, XLS or KiCad XML file"), true},
+    {{"open", "File", QT_TRANSLATE_NOOP("actions", "Open list of parts ..."), "action_open",
+      "Ctrl+O", QT_TRANSLATE_NOOP("actions", "Read another CSV, XLSX, ODS, XLS or KiCad XML file"),
+      true},
      &bomImportWindow::commandOpen},
     {{"set", "File", "Set", "action_set", "Ctrl+S",
       QT_TRANSLATE_NOOP("actions", "Write the BOM list and add it to the set"), true},
      &bomImportWindow::commandSet},
     {{"report", "File", "Report", "action_report", nullptr,
-      QT_TRANSLATE_NOOP("actions", "Save the table of all lines with what they were found by"), true},
+      QT_TRANSLATE_NOOP("actions", "Save the table of all lines with what they were found by"),
+      true},
      &bomImportWindow::commandReport},
     {{"decisions", "File", QT_TRANSLATE_NOOP("actions", "Decisions"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the file of what was decided before")},
      &bomImportWindow::commandDecisions},
     {{"close", "File", "Close", "action_close", "Ctrl+W", nullptr}, &bomImportWindow::commandClose},
-    {{"undo", "Edit", "Undo", "action_undo", "Ctrl+Z", nullptr, true}, &bomImportWindow::commandUndo},
-    {{"redo", "Edit", "Redo", "action_redo", "Ctrl+Y", nullptr, true}, &bomImportWindow::commandRedo},
-    {{"take", "Edit", QT_TRANSLATE_NOOP("actions", "Take the material"), "action_set", "Ctrl+Return",
-      QT_TRANSLATE_NOOP("actions", "Match the line with the material that is marked below it"), true},
+    {{"undo", "Edit", "Undo", "action_undo", "Ctrl+Z", nullptr, true},
+     &bomImportWindow::commandUndo},
+    {{"redo", "Edit", "Redo", "action_redo", "Ctrl+Y", nullptr, true},
+     &bomImportWindow::commandRedo},
+    {{"take", "Edit", QT_TRANSLATE_NOOP("actions", "Take the material"), "action_set",
+      "Ctrl+Return",
+      QT_TRANSLATE_NOOP("actions", "Match the line with the material that is marked below it"),
+      true},
      &bomImportWindow::commandTake},
     {{"unmatch", "Edit", QT_TRANSLATE_NOOP("actions", "Unmatch"), "action_clear", "Ctrl+Backspace",
       QT_TRANSLATE_NOOP("actions", "The line becomes an unknown one"), true},
      &bomImportWindow::commandUnmatch},
-    {{"leaveOut", "Edit", QT_TRANSLATE_NOOP("actions", "Leave out or take in"), "action_delete", "Ctrl+D",
-      QT_TRANSLATE_NOOP("actions", "A line that is left out is not written"), true},
+    {{"leaveOut", "Edit", QT_TRANSLATE_NOOP("actions", "Leave out or take in"), "action_delete",
+      "Ctrl+D", QT_TRANSLATE_NOOP("actions", "A line that is left out is not written"), true},
      &bomImportWindow::commandLeaveOut},
     {{"newMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "New material from this line ..."),
       "data_new_element2_128", "Ctrl+N",
@@ -145,7 +151,8 @@ QLineEdit *newLine(const char *name, const QString &placeholder, QWidget *parent
     return line;
 }
 
-QTreeView *newTable(const char *name, const QString &accessibleName, QAbstractItemModel *model, QWidget *parent)
+QTreeView *newTable(const char *name, const QString &accessibleName, QAbstractItemModel *model,
+                    QWidget *parent)
 {
     auto *view = new QTreeView(parent);
     view->setObjectName(QLatin1String(name));
@@ -242,7 +249,8 @@ bomImportWindow::bomImportWindow(programData &known, QString folder)
         widget->installEventFilter(this);
     connect(m_words, &QLineEdit::textChanged, this, &bomImportWindow::showCandidates);
     connect(m_found, &QTreeView::doubleClicked, this, [this] { commandTake(false); });
-    connect(m_found->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { updateActions(); });
+    connect(m_found->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { updateActions(); });
     updateActions();
 }
 
@@ -254,11 +262,10 @@ QWidget *bomImportWindow::columnsPage()
     m_form = new QLabel(page);
     m_form->setObjectName(QStringLiteral("form"));
     m_separator = newBox("separator", tr("Separator"), page);
-    const std::pair<QString, QString> separators[] = {
-        {tr("comma"), QStringLiteral(",")},
-        {tr("semicolon"), QStringLiteral(";")},
-        {tr("tab"), QStringLiteral("\t")},
-        {tr("bar"), QStringLiteral("|")}};
+    const std::pair<QString, QString> separators[] = {{tr("comma"), QStringLiteral(",")},
+                                                      {tr("semicolon"), QStringLiteral(";")},
+                                                      {tr("tab"), QStringLiteral("\t")},
+                                                      {tr("bar"), QStringLiteral("|")}};
     for (const auto &[name, sign] : separators)
         m_separator->addItem(name, sign);
     m_sheet = newBox("sheet", tr("Sheet"), page);
@@ -325,13 +332,15 @@ bool bomImportWindow::openList(const QString &path)
     const auto table = readPartsTable(path, {}, &fault);
     if (!table) {
         userPrompts().showError(
-            QStringLiteral("<b>%1</b><br>%2").arg(QDir::toNativeSeparators(path).toHtmlEscaped(), fault.toHtmlEscaped()));
+            QStringLiteral("<b>%1</b><br>%2")
+                .arg(QDir::toNativeSeparators(path).toHtmlEscaped(), fault.toHtmlEscaped()));
         return false;
     }
     m_path = path;
     m_table = *table;
     m_decisions = bomImport::readDecisions(m_folder, &fault);
-    setWindowTitle(tr("Import list of parts") + QStringLiteral(" [%1]").arg(QFileInfo(path).fileName()));
+    setWindowTitle(tr("Import list of parts")
+                   + QStringLiteral(" [%1]").arg(QFileInfo(path).fileName()));
     showColumns();
     match();
     m_view->setFocus();
@@ -358,7 +367,8 @@ void bomImportWindow::showColumns()
     const bool isBook = !m_table.sheets.isEmpty();
     m_form->setText(isBook || m_table.encoding.isEmpty()
                         ? tr("%1, %n row(s)", nullptr, m_table.rows.size()).arg(m_table.form)
-                        : tr("%1, %2, %n row(s)", nullptr, m_table.rows.size()).arg(m_table.form, m_table.encoding));
+                        : tr("%1, %2, %n row(s)", nullptr, m_table.rows.size())
+                              .arg(m_table.form, m_table.encoding));
     m_separator->setVisible(!m_table.separator.isNull());
     m_separator->setCurrentIndex(m_separator->findData(QString(m_table.separator)));
     m_sheet->setVisible(m_table.sheets.size() > 1);
@@ -376,7 +386,8 @@ void bomImportWindow::showColumns()
     QStringList headers;
     QStringList numbers{QString()};
     for (int column = 0; column < columns; ++column) {
-        const QString caption = m_columns.header < 0 ? QString() : m_table.rows[m_columns.header][column];
+        const QString caption =
+            m_columns.header < 0 ? QString() : m_table.rows[m_columns.header][column];
         headers.append(caption.isEmpty() ? QString::number(column + 1) : caption);
         auto *box = newBox("field", tr("What column %1 holds").arg(headers.last()), m_preview);
         box->setObjectName(QStringLiteral("field%1").arg(column + 1));
@@ -406,12 +417,25 @@ void bomImportWindow::columnChosen(int column, int field)
         const int before = m_columns.columnOf(chosen);
         if (before >= 0 && before != column) {
             m_columns.fields[before] = partsColumns::none;
-            static_cast<QComboBox *>(m_preview->cellWidget(0, before))->setCurrentIndex(partsColumns::none);
+            static_cast<QComboBox *>(m_preview->cellWidget(0, before))
+                ->setCurrentIndex(partsColumns::none);
         }
     }
     m_columns.fields[column] = chosen;
-    rememberColumns(partsColumns::captionSet(m_table, m_columns.header), partsColumns::asText(m_columns.fields));
+    rememberColumns(partsColumns::captionSet(m_table, m_columns.header),
+                    partsColumns::asText(m_columns.fields));
     match();
+}
+
+// False when the user cancels it.
+bool bomImportWindow::stageAll(bomImport::staged &lines)
+{
+    workProgress::scope work(progress(), tr("Matching"));
+    if (!bomImport::stage(linesOf(m_table, m_columns), partsMatcher(allMaterials(m_known)),
+                          bomImport::asMap(m_decisions), &lines, work.function()))
+        return false;
+    m_matchedCount = m_known.materials().size();
+    return true;
 }
 
 // What the user chose before is decided by now, and found again. The databases may have changed.
@@ -419,13 +443,7 @@ void bomImportWindow::match()
 {
     bomImport::takeChosen(m_lines->lines(), QDate::currentDate(), &m_decisions);
     bomImport::staged lines;
-    bool isStaged = false;
-    {
-        workProgress::scope work(progress(), tr("Matching"));
-        isStaged = bomImport::stage(linesOf(m_table, m_columns), partsMatcher(allMaterials(m_known)),
-                                    bomImport::asMap(m_decisions), &lines, work.function());
-    }
-    if (!isStaged)
+    if (!stageAll(lines))
         return;
     m_commands->clear();
     m_lines->show(std::move(lines));
@@ -443,7 +461,8 @@ void bomImportWindow::showCounts()
     QStringList counts;
     for (int row = 1; row < m_states->count(); ++row) {
         const auto one = state(m_states->itemData(row).toInt());
-        const QString counted = bomImport::stateText(one) + QStringLiteral(": %1").arg(lines.count(one));
+        const QString counted =
+            bomImport::stateText(one) + QStringLiteral(": %1").arg(lines.count(one));
         m_states->setItemText(row, counted);
         counts.append(counted);
     }
@@ -500,10 +519,12 @@ void bomImportWindow::updateActions()
     const QString empty = tr("no list of parts is open");
     for (const char *name : {"set", "report", "next", "matchAgain"})
         setAvailable(name, hasLines, empty);
-    setAvailable("take", row >= 0 && m_found->currentIndex().isValid(), row < 0 ? noLine : tr("no material is marked"));
-    setAvailable("unmatch", row >= 0 && m_lines->line(row).match(), row < 0 ? noLine : tr("the line has no material"));
+    setAvailable("take", row >= 0 && m_found->currentIndex().isValid(),
+                 row < 0 ? noLine : tr("no material is marked"));
+    setAvailable("unmatch", row >= 0 && m_lines->line(row).match(),
+                 row < 0 ? noLine : tr("the line has no material"));
     setAvailable("leaveOut", row >= 0, noLine);
-    setAvailable("newMaterial", row >= 0 && makeMaterial, noLine);
+    setAvailable("newMaterial", row >= 0, noLine);
 }
 
 void bomImportWindow::change(int row, stagedLine to, const QString &what)
@@ -518,8 +539,9 @@ void bomImportWindow::commandOpen(bool)
 {
     const QString path = userPrompts().openFile(
         tr("Open list of parts"), QFileInfo(m_path).path(),
-        tr("Lists of parts") + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;") + tr("All files")
-            + QLatin1String(" (*)"));
+        tr("Lists of parts")
+            + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;")
+            + tr("All files") + QLatin1String(" (*)"));
     if (!path.isEmpty())
         openList(path);
 }
@@ -534,12 +556,13 @@ void bomImportWindow::commandTake(bool)
         return;
     stagedLine line = m_lines->line(row);
     line.line.isLeftOut = false;
-    const auto known = std::find_if(line.candidates.begin(), line.candidates.end(), [&](const matchCandidate &one) {
-        return one.ktm == entry->material->d_ktm;
-    });
+    const auto known =
+        std::find_if(line.candidates.begin(), line.candidates.end(),
+                     [&](const matchCandidate &one) { return one.ktm == entry->material->d_ktm; });
     line.chosen = int(known - line.candidates.begin());
     if (known == line.candidates.end())
-        line.candidates.push_back({entry->material->d_ktm, entry->material->d_name, matchReason::chosen, {}});
+        line.candidates.push_back(
+            {entry->material->d_ktm, entry->material->d_name, matchReason::chosen, {}});
     line.candidates[size_t(line.chosen)].reason = matchReason::chosen;
     change(row, std::move(line), tr("%1 taken").arg(entry->material->d_ktm));
     commandNext(false);
@@ -569,10 +592,31 @@ void bomImportWindow::commandLeaveOut(bool)
 
 void bomImportWindow::commandNewMaterial(bool)
 {
-    const int row = currentLine();
-    if (row < 0 || !makeMaterial)
+    if (const int row = currentLine(); row >= 0)
+        makeMaterial(*bomImport::materialOf(m_lines->line(row).line));
+}
+
+// New materials may be what open lines wait for.
+void bomImportWindow::changeEvent(QEvent *event)
+{
+    baseWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && isVisible()
+        && m_matchedCount != m_known.materials().size())
+        matchOpen();
+}
+
+void bomImportWindow::matchOpen()
+{
+    bomImport::staged again;
+    if (!stageAll(again))
         return;
-    makeMaterial(bomImport::materialOf(m_lines->line(row).line));
+    for (int row = 0; row < int(m_lines->lines().lines.size()); ++row) {
+        const state of = m_lines->line(row).stateOf();
+        if (of == state::ambiguous || of == state::unknown)
+            m_lines->replace(row, again.lines[size_t(row)]);
+    }
+    showCounts();
+    showCandidates();
 }
 
 void bomImportWindow::commandNext(bool)
@@ -606,16 +650,19 @@ void bomImportWindow::commandRedo(bool)
 
 void bomImportWindow::commandReport(bool)
 {
-    const QString path = userPrompts().saveFile(
-        tr("Save to File"), m_folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1String("_report.csv"),
-        tr("CSV File") + QLatin1String(" (*.csv)"));
+    const QString path =
+        userPrompts().saveFile(tr("Save to File"),
+                               m_folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName()
+                                   + QLatin1String("_report.csv"),
+                               tr("CSV File") + QLatin1String(" (*.csv)"));
     if (path.isEmpty())
         return;
     if (files::writeText(path, bomImport::reportOf(m_lines->lines())))
         statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
     else
         userPrompts().showError(messages::because(
-            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path).toHtmlEscaped()), path));
+            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+            path));
 }
 
 void bomImportWindow::commandDecisions(bool)
@@ -624,13 +671,15 @@ void bomImportWindow::commandDecisions(bool)
     if (!QFileInfo::exists(path))
         statusBar()->showMessage(tr("Nothing was decided yet"));
     else if (!desktop::openFile(path))
-        userPrompts().showError(tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)).toHtmlEscaped());
+        userPrompts().showError(
+            tr("%1 cannot be opened").arg(QDir::toNativeSeparators(path)).toHtmlEscaped());
 }
 
 void bomImportWindow::commandSet(bool)
 {
     const QString path = userPrompts().saveFile(
-        tr("Save the BOM list"), m_folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1String(".xml"),
+        tr("Save the BOM list"),
+        m_folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1String(".xml"),
         tr("Xml File") + QLatin1String(" (*.xml)"));
     if (path.isEmpty() || !writeList)
         return;
@@ -640,7 +689,8 @@ void bomImportWindow::commandSet(bool)
     QString fault;
     bomImport::takeChosen(m_lines->lines(), QDate::currentDate(), &m_decisions);
     if (!m_decisions.empty() && !bomImport::writeDecisions(m_folder, m_decisions, &fault))
-        userPrompts().showError(tr("What you decided could not be kept: %1").arg(fault).toHtmlEscaped());
+        userPrompts().showError(
+            tr("What you decided could not be kept: %1").arg(fault).toHtmlEscaped());
     m_commands->clear();
     close();
 }
@@ -650,8 +700,10 @@ bool bomImportWindow::isDecided() const { return m_commands->undoCount() > 0; }
 void bomImportWindow::closeEvent(QCloseEvent *event)
 {
     if (isDecided()
-        && userPrompts().ask(tr("What you settled in this list is not written yet. Close all the same?").toHtmlEscaped(),
-                             false)
+        && userPrompts().ask(
+               tr("What you settled in this list is not written yet. Close all the same?")
+                   .toHtmlEscaped(),
+               false)
                != prompts::answer::yes) {
         event->ignore();
         return;
@@ -661,8 +713,8 @@ void bomImportWindow::closeEvent(QCloseEvent *event)
     baseWindow::closeEvent(event);
 }
 
-// Return takes the material from the search field, the lines and the materials alike; from the field the
-// arrows move through what was found, and what is typed over the lines goes into it.
+// Return takes the material from the search field, the lines and the materials alike; from the
+// field the arrows move through what was found, and what is typed over the lines goes into it.
 bool bomImportWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {

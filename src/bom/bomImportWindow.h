@@ -1,5 +1,5 @@
-// Makes a BOM list of a list of parts: its columns are checked, its lines matched and settled one by
-// one, and nothing is written before "Set".
+// Makes a BOM list of a list of parts: its columns are checked, its lines matched and settled one
+// by one, and nothing is written before "Set".
 #pragma once
 
 #include "bom/bomImport.h"
@@ -29,8 +29,8 @@ public:
 
     // Writes the list, and returns whether it was; adds it to the set.
     std::function<bool(const QString &path, kiv_mat_bomStruct &bom)> writeList;
-    // Opens the material editor with a new material; null where no database is open for that.
-    std::function<void(std::unique_ptr<materialStruct> filledIn)> makeMaterial;
+    // Opens the material editor with a new material that has these texts and firms.
+    std::function<void(const materialStruct &filledIn)> makeMaterial;
 
 public slots:
     void commandOpen(bool);
@@ -50,6 +50,7 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     class lineChange;
@@ -59,7 +60,9 @@ private:
     void readFile(const partsTableOptions &options);
     void showColumns();
     void columnChosen(int column, int field);
+    bool stageAll(bomImport::staged &lines);
     void match();
+    void matchOpen();
     void showCounts();
     void showCandidates();
     void updateActions();
@@ -74,6 +77,7 @@ private:
     partsTable m_table;
     partsColumns::guess m_columns;
     std::vector<bomImport::decision> m_decisions;
+    int m_matchedCount = 0; // of KTMs in the databases then
     std::unique_ptr<commandStack> m_commands;
     stagedLinesModel *m_lines;
     stagedLinesFilter *m_shown;

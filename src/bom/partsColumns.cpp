@@ -30,24 +30,28 @@ const std::array<fieldRow, fieldCount> table{{
      "referencedesignators oznaczenie oznaczenia desygnator desygnatory "
      "element elementy bezeichner bauteil bauteile referenz position positionen bestuckung"},
     {"quantity", QT_TRANSLATE_NOOP("partsColumns", "Quantity"),
-     "quantity qty qnty quant count amount number pcs qtyperboard quantityperboard qtypcb ilosc liczba "
+     "quantity qty qnty quant count amount number pcs qtyperboard quantityperboard qtypcb ilosc "
+     "liczba "
      "szt sztuk ilsz anzahl menge stuck stk stuckzahl"},
     {"ktm", QT_TRANSLATE_NOOP("partsColumns", "KTM"), "ktm indeks index indeksktm ktmindex dktm"},
     {"part_number", QT_TRANSLATE_NOOP("partsColumns", "Part number"),
      "partnumber partno partnr part# mpn mfrpn mfgpn mfrpart mfrpartnumber mfgpartnumber mfrpart# "
-     "mfrpartno manufacturerpartnumber manufacturerpartno manufacturerpn manufacturerpart pn symbol "
+     "mfrpartno manufacturerpartnumber manufacturerpartno manufacturerpn manufacturerpart pn "
+     "symbol "
      "partsymbol orderingcode ordercode numerczesci nrczesci numerproducenta symbolproducenta "
      "kodproducenta typ type herstellernummer herstellerteilenummer herstellernr teilenummer "
      "typbezeichnung bestellbezeichnung componentname"},
     {"manufacturer", QT_TRANSLATE_NOOP("partsColumns", "Manufacturer"),
-     "manufacturer mfr mfg mnf maker vendorname brand manufacturername producent wytworca hersteller"},
+     "manufacturer mfr mfg mnf maker vendorname brand manufacturername producent wytworca "
+     "hersteller"},
     {"value", QT_TRANSLATE_NOOP("partsColumns", "Value"),
      "value val comment wartosc wert bauteilwert"},
     {"case", QT_TRANSLATE_NOOP("partsColumns", "Case"),
      "case package footprint size pattern pcbfootprint casecode packagereference obudowa rozmiar "
      "gehause bauform footprintname"},
     {"description", QT_TRANSLATE_NOOP("partsColumns", "Description"),
-     "description desc descr name details characteristics parameters notes opis nazwa uwagi parametry "
+     "description desc descr name details characteristics parameters notes opis nazwa uwagi "
+     "parametry "
      "beschreibung bezeichnung benennung bemerkung"},
     {"supplier", QT_TRANSLATE_NOOP("partsColumns", "Supplier"),
      "supplier distributor vendor supplier1 dostawca dystrybutor lieferant"},
@@ -57,7 +61,8 @@ const std::array<fieldRow, fieldCount> table{{
      "digikeypartnumber mouser mouserpn mouserpartnumber farnell lcsc lcscpart lcscpartnumber "
      "jlcpcbpart tme numerdostawcy kodtowaru kodproduktu symboldostawcy bestellnummer bestellnr "
      "lieferantennummer sku ordernumber"},
-    {"tolerance", QT_TRANSLATE_NOOP("partsColumns", "Tolerance"), "tolerance tol tolerancja toleranz"},
+    {"tolerance", QT_TRANSLATE_NOOP("partsColumns", "Tolerance"),
+     "tolerance tol tolerancja toleranz"},
     {"voltage", QT_TRANSLATE_NOOP("partsColumns", "Voltage"),
      "voltage volt voltagerating ratedvoltage napiecie spannung"},
     {"power", QT_TRANSLATE_NOOP("partsColumns", "Power"),
@@ -85,7 +90,8 @@ const QHash<QString, field> &fieldOfCaption()
     static const QHash<QString, field> fields = [] {
         QHash<QString, field> all;
         for (size_t i = 1; i < table.size(); ++i)
-            for (const QString &caption : QString::fromLatin1(table[i].captions).split(QLatin1Char(' ')))
+            for (const QString &caption :
+                 QString::fromLatin1(table[i].captions).split(QLatin1Char(' ')))
                 if (!all.contains(folded(caption)))
                     all.insert(folded(caption), field(i));
         return all;
@@ -131,7 +137,8 @@ double share(const partsTable &list, int header, int column, const Holds &holds)
 bool isCount(const QString &text)
 {
     bool isNumber = false;
-    const double number = QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
+    const double number =
+        QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
     constexpr double most = 1e6;
     return isNumber && number >= 0 && number < most;
 }
@@ -159,13 +166,16 @@ void guessByContent(const partsTable &list, guess *of)
     constexpr double nearlyAll = 0.9;
     constexpr double most = 0.6;
     take(ktm, nearlyAll, [](const QString &text) { return checkKtm(text); });
-    take(designator, nearlyAll, [](const QString &text) { return partsTexts::areDesignators(text); });
+    take(designator, nearlyAll,
+         [](const QString &text) { return partsTexts::areDesignators(text); });
     // Without captions one column of numbers is as good as another.
     if (of->header < 0) {
         take(quantity, 1, isCount);
-        take(package, most, [](const QString &text) { return !partsTexts::caseIn(text).isEmpty(); });
+        take(package, most,
+             [](const QString &text) { return !partsTexts::caseIn(text).isEmpty(); });
         take(value, most, [](const QString &text) { return ::quantity::parse(text).has_value(); });
-        take(partNumber, most, [](const QString &text) { return partsTexts::looksLikePartNumber(text); });
+        take(partNumber, most,
+             [](const QString &text) { return partsTexts::looksLikePartNumber(text); });
     }
 }
 

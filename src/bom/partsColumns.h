@@ -51,8 +51,8 @@ struct guess
 // remembered: what the user decided before, by captions.
 guess guessed(const partsTable &table, const QMap<QString, QString> &remembered = {});
 
-// The captions of a table as one text, by which a user's decision is remembered, and the decision as
-// a text; the fields of such a text, as many as there are columns.
+// The captions of a table as one text, by which a user's decision is remembered, and the decision
+// as a text; the fields of such a text, as many as there are columns.
 QString captionSet(const partsTable &table, int header);
 QString asText(const QVector<field> &fields);
 QVector<field> fromText(const QString &text, int columns);

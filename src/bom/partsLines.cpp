@@ -24,7 +24,10 @@ public:
     }
     QStringList all(partsColumns::field of) const { return m_texts.value(of); }
     QString text(partsColumns::field of) const { return all(of).join(QLatin1Char(' ')); }
-    bool hasOnly(partsColumns::field of) const { return m_texts.size() == 1 && m_texts.contains(of); }
+    bool hasOnly(partsColumns::field of) const
+    {
+        return m_texts.size() == 1 && m_texts.contains(of);
+    }
     bool isEmpty() const { return m_texts.isEmpty(); }
     // Whether it names a part, not only numbers of some.
     bool namesPart() const
@@ -69,9 +72,10 @@ partsLine lineOf(const rowFields &fields)
     line.power = fields.text(power);
     line.partNumbers = fields.all(partNumber);
     // An own name such as "C_4u7_0402" tells less than what a maker calls it.
-    std::stable_partition(line.partNumbers.begin(), line.partNumbers.end(), [](const QString &number) {
-        return partsTexts::looksLikePartNumber(number) && !number.contains(QLatin1Char('_'));
-    });
+    std::stable_partition(
+        line.partNumbers.begin(), line.partNumbers.end(), [](const QString &number) {
+            return partsTexts::looksLikePartNumber(number) && !number.contains(QLatin1Char('_'));
+        });
     line.supplierNumbers = fields.all(supplierNumber);
     line.isLeftOut = isLeftOut(fields);
     return line;
@@ -80,9 +84,15 @@ partsLine lineOf(const rowFields &fields)
 // Everything but designators and quantity.
 QString partOf(const partsLine &line)
 {
-    return QStringList{line.ktm,         line.manufacturer, line.value,
-                       line.package,     line.description,  line.supplier,
-                       line.tolerance,   line.voltage,      line.power,
+    return QStringList{line.ktm,
+                       line.manufacturer,
+                       line.value,
+                       line.package,
+                       line.description,
+                       line.supplier,
+                       line.tolerance,
+                       line.voltage,
+                       line.power,
                        line.partNumbers.join(QLatin1Char('\1')),
                        line.supplierNumbers.join(QLatin1Char('\1')),
                        QString::number(line.isLeftOut)}
@@ -98,7 +108,8 @@ void settleQuantity(partsLine *line, const QString &stated)
             line->remarks.append(
                 stated.isEmpty()
                     ? translated(QT_TRANSLATE_NOOP("partsLines", "no quantity, taken as 1"))
-                    : translated(QT_TRANSLATE_NOOP("partsLines", "the quantity \"%1\" is no number, taken as 1"))
+                    : translated(QT_TRANSLATE_NOOP("partsLines",
+                                                   "the quantity \"%1\" is no number, taken as 1"))
                           .arg(stated));
         line->quantity = number && *number >= decimal() ? number->text() : QStringLiteral("1");
         return;
@@ -106,8 +117,9 @@ void settleQuantity(partsLine *line, const QString &stated)
     const QString counted = QString::number(line->designators.size());
     const std::optional<decimal> number = decimal::read(stated);
     if (!stated.isEmpty() && (!number || number->text() != counted))
-        line->remarks.append(translated(QT_TRANSLATE_NOOP("partsLines", "the file says %1, the designators are %2"))
-                                 .arg(stated, counted));
+        line->remarks.append(
+            translated(QT_TRANSLATE_NOOP("partsLines", "the file says %1, the designators are %2"))
+                .arg(stated, counted));
     line->quantity = counted;
 }
 
@@ -147,7 +159,8 @@ QString partsLine::name() const
 
 int partsList::leftOut() const
 {
-    return int(std::count_if(lines.begin(), lines.end(), [](const partsLine &line) { return line.isLeftOut; }));
+    return int(std::count_if(lines.begin(), lines.end(),
+                             [](const partsLine &line) { return line.isLeftOut; }));
 }
 
 partsList linesOf(const partsTable &table, const partsColumns::guess &columns)
@@ -162,7 +175,8 @@ partsList linesOf(const partsTable &table, const partsColumns::guess &columns)
         if (fields.isEmpty())
             continue;
         if (last >= 0 && fields.hasOnly(partsColumns::designator)) {
-            list.lines[last].designators += partsTexts::designatorsIn(fields.text(partsColumns::designator));
+            list.lines[last].designators +=
+                partsTexts::designatorsIn(fields.text(partsColumns::designator));
             list.lines[last].rows.append(fileLine);
             continue;
         }
@@ -193,7 +207,8 @@ partsList linesOf(const partsTable &table, const partsColumns::guess &columns)
         const int before = line.designators.size();
         line.designators.removeDuplicates();
         if (line.designators.size() < before)
-            line.remarks.append(translated(QT_TRANSLATE_NOOP("partsLines", "designators stand twice")));
+            line.remarks.append(
+                translated(QT_TRANSLATE_NOOP("partsLines", "designators stand twice")));
         partsTexts::sortDesignators(&line.designators);
         decimal sum;
         bool areNumbers = true;

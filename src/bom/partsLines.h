@@ -36,6 +36,6 @@ struct partsList
     int leftOut() const;
 };
 
-// Rows that differ in designators and quantities only are one part; a row with designators alone goes
-// on with the one before it.
+// Rows that differ in designators and quantities only are one part; a row with designators alone
+// goes on with the one before it.
 partsList linesOf(const partsTable &table, const partsColumns::guess &columns);

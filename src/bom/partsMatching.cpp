@@ -74,28 +74,34 @@ struct partKind
 
 const std::array<partKind, 3> kinds{{
     {"R", quantity::ohm, "rezyst|opornik|resist|\\bres\\b|widerst",
-     "termist|thermist|\\bntc\\b|\\bptc\\b|warys|varist|potencj|potentio|trimmer|drabink|network|array|ferry|ferrit|foto|photo|bezpiecz|fus"},
-    {"C", quantity::farad, "kondens|capac|\\bcap\\b|mlcc", "array|network|filtr|filter|super|trimmer|zestaw|\\bkit\\b"},
-    {"L", quantity::henry, "cewk|dlaw|induct|indukc|drossel|coil|choke|\\bind\\b", "ferry|ferrit|bead|common|transf|filtr|filter"},
+     "termist|thermist|\\bntc\\b|\\bptc\\b|warys|varist|potencj|potentio|trimmer|drabink|network|"
+     "array|ferry|ferrit|foto|photo|bezpiecz|fus"},
+    {"C", quantity::farad, "kondens|capac|\\bcap\\b|mlcc",
+     "array|network|filtr|filter|super|trimmer|zestaw|\\bkit\\b"},
+    {"L", quantity::henry, "cewk|dlaw|induct|indukc|drossel|coil|choke|\\bind\\b",
+     "ferry|ferrit|bead|common|transf|filtr|filter"},
 }};
 
 const partKind *kindOfUnit(quantity::unitKind unit)
 {
-    const auto *found = std::find_if(kinds.begin(), kinds.end(), [&](const partKind &kind) { return kind.unit == unit; });
+    const auto *found = std::find_if(kinds.begin(), kinds.end(),
+                                     [&](const partKind &kind) { return kind.unit == unit; });
     return found == kinds.end() ? nullptr : found;
 }
 
 QString valueKey(const quantity &value)
 {
     // Numbers that are written differently are equal to six digits.
-    return QString::number(int(value.unit)) + QLatin1Char(' ') + QString::number(value.value, 'e', 5);
+    return QString::number(int(value.unit)) + QLatin1Char(' ')
+           + QString::number(value.value, 'e', 5);
 }
 
 QStringList piecesOf(const QString &text)
 {
     static const QRegularExpression between(QStringLiteral("[\\s,;()\\[\\]]+|/(?!\\d+ ?W)"));
     static const QRegularExpression comma(QStringLiteral("(\\d),(\\d)"));
-    static const QRegularExpression apart(QStringLiteral("(\\d) +(?=(?:%|[mk]?V|m?W)(?:$|[\\s,;/)]))"));
+    static const QRegularExpression apart(
+        QStringLiteral("(\\d) +(?=(?:%|[mk]?V|m?W)(?:$|[\\s,;/)]))"));
     return QString(text)
         .replace(comma, QStringLiteral("\\1.\\2"))
         .replace(apart, QStringLiteral("\\1"))
@@ -104,10 +110,13 @@ QStringList piecesOf(const QString &text)
 
 QString dielectricIn(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("(?<![A-Za-z0-9])(X[5678][RST]|Y5V|Z5U|C0G|COG|NP0|NPO)(?![A-Za-z0-9])"),
-                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression form(
+        QStringLiteral("(?<![A-Za-z0-9])(X[5678][RST]|Y5V|Z5U|C0G|COG|NP0|NPO)(?![A-Za-z0-9])"),
+        QRegularExpression::CaseInsensitiveOption);
     const QString found = form.match(text).captured(1).toUpper();
-    return found == QLatin1String("COG") || found.startsWith(QLatin1String("NP")) ? QStringLiteral("C0G") : found;
+    return found == QLatin1String("COG") || found.startsWith(QLatin1String("NP"))
+               ? QStringLiteral("C0G")
+               : found;
 }
 
 QString caseOf(const partsLine &line)
@@ -123,7 +132,8 @@ QString caseOf(const partsLine &line)
 QString caseOf(const materialStruct &material)
 {
     const QString own = partsTexts::caseIn(material.d_case);
-    return own.isEmpty() && material.d_case.isEmpty() ? partsTexts::caseIn(material.d_description) : own;
+    return own.isEmpty() && material.d_case.isEmpty() ? partsTexts::caseIn(material.d_description)
+                                                      : own;
 }
 
 // All letters before the number of its designators.
@@ -131,9 +141,11 @@ QString designatorKind(const partsLine &line)
 {
     QString kind;
     for (const QString &designator : line.designators) {
-        const QString letters = designator.left(int(
-            std::find_if(designator.begin(), designator.end(), [](QChar c) { return c.isDigit(); })
-            - designator.begin())).toUpper();
+        const QString letters = designator
+                                    .left(int(std::find_if(designator.begin(), designator.end(),
+                                                           [](QChar c) { return c.isDigit(); })
+                                              - designator.begin()))
+                                    .toUpper();
         if (!kind.isEmpty() && letters != kind)
             return {};
         kind = letters;
@@ -170,8 +182,8 @@ std::optional<quantity> valueOf(const partsLine &line)
 {
     const QString text = line.value.trimmed();
     static const QRegularExpression prefixed(QStringLiteral("^[pnuµmkKM]\\d"));
-    auto value = quantity::parseStart(
-        prefixed.match(text).hasMatch() ? QLatin1Char('0') + text : text);
+    auto value =
+        quantity::parseStart(prefixed.match(text).hasMatch() ? QLatin1Char('0') + text : text);
     if (!value)
         return {};
     const QString kind = designatorKind(line);
@@ -186,7 +198,8 @@ std::optional<quantity> valueOf(const partsLine &line)
     }
     // A "10k" of a connector or of a potentiometer is no resistor.
     const partKind *ofUnit = kindOfUnit(value->unit);
-    if (!ofUnit || (!kind.isEmpty() && (designated == kinds.end() || designated->unit != value->unit)))
+    if (!ofUnit
+        || (!kind.isEmpty() && (designated == kinds.end() || designated->unit != value->unit)))
         return {};
     value->bare = false;
     return value;
@@ -275,9 +288,10 @@ QStringList partsMatcher::differences(const parameters &wanted, const parameters
         if (!need)
             return;
         constexpr double slack = 1e-6;
-        const bool isMet = have
-                           && (mayBeMore ? have->value >= need->value * (1 - slack)
-                                         : std::abs(have->value) <= std::abs(need->value) * (1 + slack));
+        const bool isMet =
+            have
+            && (mayBeMore ? have->value >= need->value * (1 - slack)
+                          : std::abs(have->value) <= std::abs(need->value) * (1 + slack));
         if (!isMet)
             all.append(QCoreApplication::translate("partsMatching", "%1 %2, not %3")
                            .arg(QCoreApplication::translate("partsMatching", what),
@@ -285,13 +299,15 @@ QStringList partsMatcher::differences(const parameters &wanted, const parameters
                                      : QCoreApplication::translate("partsMatching", "unknown"),
                                 QString::number(need->value) + nameOf(need->unit)));
     };
-    compare(QT_TRANSLATE_NOOP("partsMatching", "tolerance"), wanted.tolerance, has.tolerance, false);
+    compare(QT_TRANSLATE_NOOP("partsMatching", "tolerance"), wanted.tolerance, has.tolerance,
+            false);
     compare(QT_TRANSLATE_NOOP("partsMatching", "voltage"), wanted.voltage, has.voltage, true);
     compare(QT_TRANSLATE_NOOP("partsMatching", "power"), wanted.power, has.power, true);
     if (!wanted.dielectric.isEmpty() && wanted.dielectric != has.dielectric)
         all.append(QCoreApplication::translate("partsMatching", "dielectric %1, not %2")
-                       .arg(has.dielectric.isEmpty() ? QCoreApplication::translate("partsMatching", "unknown")
-                                                     : has.dielectric,
+                       .arg(has.dielectric.isEmpty()
+                                ? QCoreApplication::translate("partsMatching", "unknown")
+                                : has.dielectric,
                             wanted.dielectric));
     return all;
 }
@@ -313,7 +329,8 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
                                     const partsLine &line, bool withPackaging,
                                     matchReason reason) const
 {
-    const QString firm = foldedFirm(reason == matchReason::bySupplierNumber ? line.supplier : line.manufacturer);
+    const QString firm =
+        foldedFirm(reason == matchReason::bySupplierNumber ? line.supplier : line.manufacturer);
     for (const QString &text : numbers) {
         if (!partsTexts::looksLikePartNumber(text))
             continue;
@@ -341,8 +358,9 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
         const QString wanted = caseOf(line);
         std::vector<int> ofCase;
         if (!wanted.isEmpty())
-            std::copy_if(meant.begin(), meant.end(), std::back_inserter(ofCase),
-                         [&](int place) { return caseOf(*m_all[size_t(place)].material) == wanted; });
+            std::copy_if(meant.begin(), meant.end(), std::back_inserter(ofCase), [&](int place) {
+                return caseOf(*m_all[size_t(place)].material) == wanted;
+            });
         if (ofCase.size() == 1)
             return one(ofCase.front(), reason);
         matchResult result;
@@ -360,7 +378,8 @@ matchResult partsMatcher::byValue(const partsLine &line) const
     if (equal == m_byValue.constEnd())
         return {};
     const QString wantedCase = caseOf(line);
-    parameters wanted = parametersIn({line.tolerance, line.voltage, line.power, line.value, line.description});
+    parameters wanted =
+        parametersIn({line.tolerance, line.voltage, line.power, line.value, line.description});
     matchResult result;
     for (int place : *equal) {
         const materialStruct &material = *m_all[size_t(place)].material;
@@ -368,9 +387,10 @@ matchResult partsMatcher::byValue(const partsLine &line) const
         if (!wantedCase.isEmpty() && !itsCase.isEmpty() && itsCase != wantedCase)
             continue;
         matchCandidate found = candidate(place, matchReason::byValue);
-        found.differences = differences(
-            wanted, parametersIn({material.d_tolerance, material.d_voltage, material.d_power, material.d_value,
-                                  material.d_otherParameters, material.d_description}));
+        found.differences =
+            differences(wanted, parametersIn({material.d_tolerance, material.d_voltage,
+                                              material.d_power, material.d_value,
+                                              material.d_otherParameters, material.d_description}));
         if (wantedCase.isEmpty() || itsCase.isEmpty())
             found.differences.append(
                 QCoreApplication::translate("partsMatching", "the case is not compared"));
@@ -381,11 +401,13 @@ matchResult partsMatcher::byValue(const partsLine &line) const
                          return a.differences.size() < b.differences.size();
                      });
     // A part number that is stated and that no material has is a wish that none meets.
-    const bool isOpen = std::none_of(line.partNumbers.begin(), line.partNumbers.end(), [](const QString &text) {
-        return partsTexts::looksLikePartNumber(text) && !text.contains(QLatin1Char('_'));
-    });
-    const auto meeting = std::count_if(result.candidates.begin(), result.candidates.end(),
-                                       [](const matchCandidate &one) { return one.differences.isEmpty(); });
+    const bool isOpen =
+        std::none_of(line.partNumbers.begin(), line.partNumbers.end(), [](const QString &text) {
+            return partsTexts::looksLikePartNumber(text) && !text.contains(QLatin1Char('_'));
+        });
+    const auto meeting =
+        std::count_if(result.candidates.begin(), result.candidates.end(),
+                      [](const matchCandidate &one) { return one.differences.isEmpty(); });
     if (isOpen && meeting == 1) {
         result.isMatched = true;
         result.candidates.resize(1);
@@ -397,7 +419,9 @@ matchResult partsMatcher::match(const partsLine &line, const matchDecisions &dec
 {
     if (line.isLeftOut)
         return {};
-    const auto byKtm = [&](const QString &ktm) { return ktm.isEmpty() ? -1 : m_byKtm.value(ktm, -1); };
+    const auto byKtm = [&](const QString &ktm) {
+        return ktm.isEmpty() ? -1 : m_byKtm.value(ktm, -1);
+    };
     const int decided = byKtm(decisions.value(line.key()));
     if (decided >= 0)
         return one(decided, matchReason::decided);

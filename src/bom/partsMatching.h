@@ -48,13 +48,13 @@ using matchDecisions = QHash<QString, QString>;
 class partsMatcher
 {
 public:
-    // Takes in every material that has a KTM, the first one of each; takes as long as looking at each
-    // once. They have to stay as they are as long as it is used.
+    // Takes in every material that has a KTM, the first one of each; takes as long as looking at
+    // each once. They have to stay as they are as long as it is used.
     explicit partsMatcher(const std::vector<ktmIndex::entry> &materials);
 
     // A line that is left out gets no result. Of several materials that are meant equally none is
-    // taken; an own KTM, a decision, a part number, a supplier's number, or value and case with every
-    // stated parameter lead to a match of one material.
+    // taken; an own KTM, a decision, a part number, a supplier's number, or value and case with
+    // every stated parameter lead to a match of one material.
     matchResult match(const partsLine &line, const matchDecisions &decisions = {}) const;
 
     bool has(const QString &ktm) const { return m_byKtm.contains(ktm); }
@@ -77,8 +77,8 @@ private:
 
     static parameters parametersIn(const QStringList &texts);
     void takeValue(int place);
-    matchResult byNumbers(const numberIndex &index, const QStringList &numbers, const partsLine &line,
-                          bool withPackaging, matchReason reason) const;
+    matchResult byNumbers(const numberIndex &index, const QStringList &numbers,
+                          const partsLine &line, bool withPackaging, matchReason reason) const;
     matchResult byValue(const partsLine &line) const;
     static QStringList differences(const parameters &wanted, const parameters &has);
     matchResult one(int place, matchReason reason) const;
@@ -92,6 +92,6 @@ private:
     QHash<QString, QVector<int>> m_byValue; // "unit number"
 };
 
-// The number and kind of a value as lists write it, by the kind of its designators where it names no
-// unit: "u1" of C7 is 100 nF. Nothing when that is not certain.
+// The number and kind of a value as lists write it, by the kind of its designators where it names
+// no unit: "u1" of C7 is 100 nF. Nothing when that is not certain.
 std::optional<quantity> valueOf(const partsLine &line);

@@ -42,7 +42,8 @@ QString decoded(const QByteArray &bytes, const QString &wanted, QString *encodin
     if (start.size() > 1 && start.count('\0') * 3 > start.size())
         return by(start.at(0) == '\0' ? "UTF-16BE" : "UTF-16LE");
     QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    const QString text =
+        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars == 0 && state.remainingChars == 0) {
         *encoding = QStringLiteral("UTF-8");
         return text;
@@ -142,7 +143,8 @@ bool takeSheets(const QString &path, const QString &form, int wanted, partsTable
     }
     table->sheet = std::max(0, chosen);
     if (table->sheet >= sheets->size()) {
-        *fault = translated(QT_TRANSLATE_NOOP("partsTable", "has only %1 sheets")).arg(sheets->size());
+        *fault =
+            translated(QT_TRANSLATE_NOOP("partsTable", "has only %1 sheets")).arg(sheets->size());
         return false;
     }
     tidy(table, sheets->at(table->sheet).rows, {});
@@ -167,7 +169,8 @@ bool readInto(partsTable *table, const QString &path, const partsTableOptions &o
         return takeSheets(path, QStringLiteral("XLSX"), options.sheet, table, fault);
     const bool isOds = isArchive && bytes.left(200).contains("opendocument.spreadsheet");
     if (isOds || bytes.startsWith("\xd0\xcf\x11\xe0")) {
-        const officeConverter::converted workbook = officeConverter::convert(path, QStringLiteral("xlsx"));
+        const officeConverter::converted workbook =
+            officeConverter::convert(path, QStringLiteral("xlsx"));
         if (workbook.path.isEmpty()) {
             *fault = workbook.fault;
             return false;
@@ -184,7 +187,8 @@ bool readInto(partsTable *table, const QString &path, const partsTableOptions &o
     if (bytes.left(200).trimmed().startsWith("<")) {
         table->form = QStringLiteral("KiCad XML");
         if (!readKicad(bytes, &rows)) {
-            *fault = translated(QT_TRANSLATE_NOOP("partsTable", "is XML, but no list of parts of KiCad"));
+            *fault = translated(
+                QT_TRANSLATE_NOOP("partsTable", "is XML, but no list of parts of KiCad"));
             return false;
         }
     } else {
@@ -229,8 +233,9 @@ QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<in
     };
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        const bool isLineEnd = c == QLatin1Char('\n')
-                               || (c == QLatin1Char('\r') && text.midRef(i + 1, 1) != QLatin1String("\n"));
+        const bool isLineEnd =
+            c == QLatin1Char('\n')
+            || (c == QLatin1Char('\r') && text.midRef(i + 1, 1) != QLatin1String("\n"));
         line += isLineEnd;
         if (isQuoted) {
             if (c != QLatin1Char('"'))

@@ -28,13 +28,14 @@ struct partsTableOptions
 };
 
 // Reads CSV and its kin (comma, semicolon, tab or bar between the fields, quoted or not; UTF-8,
-// UTF-16 or Windows-1250, with or without a byte order mark), XLSX workbooks, the XML netlist or list
-// of parts of KiCad, and, where LibreOffice is installed, ODS and XLS. Nothing, with the reason in
-// fault, when the file cannot be read, holds no table, or is cancelled.
+// UTF-16 or Windows-1250, with or without a byte order mark), XLSX workbooks, the XML netlist or
+// list of parts of KiCad, and, where LibreOffice is installed, ODS and XLS. Nothing, with the
+// reason in fault, when the file cannot be read, holds no table, or is cancelled.
 std::optional<partsTable> readPartsTable(const QString &path, const partsTableOptions &options,
                                          QString *fault);
 
 // The rows of a text. Quotes enclose fields that hold separators, line ends or doubled quotes.
-QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<int> *lines = nullptr);
+QVector<QStringList> splitTable(const QString &text, QChar separator,
+                                QVector<int> *lines = nullptr);
 // The separator by which most rows have the same number of fields, more than one.
 QChar likelySeparator(const QString &text);

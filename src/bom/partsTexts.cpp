@@ -46,7 +46,8 @@ QStringList rangeOf(const QString &text)
 // Blanks around the sign of a range belong to it.
 QStringList piecesOf(const QString &cell)
 {
-    static const QRegularExpression around(QStringLiteral("\\s*(-|–|—|\\.\\.+|÷)\\s*(?=[A-Za-z_]*\\d)"));
+    static const QRegularExpression around(
+        QStringLiteral("\\s*(-|–|—|\\.\\.+|÷)\\s*(?=[A-Za-z_]*\\d)"));
     static const QRegularExpression between(QStringLiteral("[\\s,;|]+"));
     return QString(cell).replace(around, QStringLiteral("\\1")).split(between, Qt::SkipEmptyParts);
 }
@@ -71,7 +72,8 @@ QStringList designatorsIn(const QString &cell)
 bool areDesignators(const QString &cell)
 {
     // A KiCad list numbers its connectors as J1A, its holes as H*, its sheets as IC1_2.
-    static const QRegularExpression form(QStringLiteral("^[A-Za-z_]{1,6}\\d{1,5}(?:[A-Za-z]|[._-]\\d{1,3})?$"));
+    static const QRegularExpression form(
+        QStringLiteral("^[A-Za-z_]{1,6}\\d{1,5}(?:[A-Za-z]|[._-]\\d{1,3})?$"));
     const QStringList pieces = piecesOf(cell);
     return !pieces.isEmpty() && std::all_of(pieces.begin(), pieces.end(), [](const QString &piece) {
         return form.match(piece).hasMatch() || !rangeOf(piece).isEmpty();
@@ -81,8 +83,8 @@ bool areDesignators(const QString &cell)
 void sortDesignators(QStringList *designators)
 {
     const auto parted = [](const QString &designator) {
-        const auto digit = std::find_if(designator.begin(), designator.end(),
-                                        [](QChar c) { return c.isDigit(); });
+        const auto digit =
+            std::find_if(designator.begin(), designator.end(), [](QChar c) { return c.isDigit(); });
         const int letters = int(digit - designator.begin());
         int end = letters;
         while (end < designator.size() && designator[end].isDigit())
@@ -97,26 +99,32 @@ void sortDesignators(QStringList *designators)
 QString caseIn(const QString &text)
 {
     // The size of a chip, not the middle of a part number or a metric size.
-    static const QRegularExpression chip(QStringLiteral(
-        "(?<![0-9.])(01005|0201|0402|0603|0805|1008|1206|1210|1806|1812|1825|2010|2220|2512)(?![0-9.]|Metric)"));
+    static const QRegularExpression chip(
+        QStringLiteral("(?<![0-9.])(01005|0201|0402|0603|0805|1008|1206|1210|1806|1812|1825|2010|"
+                       "2220|2512)(?![0-9.]|Metric)"));
     const QRegularExpressionMatch size = chip.match(text);
     if (size.hasMatch())
         return group(size, 1);
     static const QRegularExpression family(
-        QStringLiteral("(?<![A-Za-z])(T?SOT|SOD|SOIC|TSSOP|MSOP|VSSOP|SSOP|SOP|SO|HTSSOP|QFN|VQFN|WQFN|UQFN|DFN|WDFN|"
-                       "WSON|SON|LQFP|TQFP|VQFP|QFP|PLCC|DIP|PDIP|SIP|TO|DO|SC|UFBGA|TFBGA|LFBGA|FBGA|BGA|WLCSP)"
+        QStringLiteral("(?<![A-Za-z])(T?SOT|SOD|SOIC|TSSOP|MSOP|VSSOP|SSOP|SOP|SO|HTSSOP|QFN|VQFN|"
+                       "WQFN|UQFN|DFN|WDFN|"
+                       "WSON|SON|LQFP|TQFP|VQFP|QFP|PLCC|DIP|PDIP|SIP|TO|DO|SC|UFBGA|TFBGA|LFBGA|"
+                       "FBGA|BGA|WLCSP)"
                        "[-_ ]?(\\d+[A-Z]*)(?:-(\\d+)(?![.\\d]))?(?![A-Za-z])"),
         QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch named = family.match(text);
     if (named.hasMatch()) {
         const QString pins = group(named, 3);
         // SOT-23-3 is what SOT-23 means.
-        const bool isUsual = pins.isEmpty() || (group(named, 2) == QLatin1String("23") && pins == QLatin1String("3"));
+        const bool isUsual =
+            pins.isEmpty()
+            || (group(named, 2) == QLatin1String("23") && pins == QLatin1String("3"));
         return group(named, 1).toUpper() + QLatin1Char('-') + group(named, 2).toUpper()
                + (isUsual ? QString() : QLatin1Char('-') + pins);
     }
-    static const QRegularExpression melf(QStringLiteral("(?<![A-Za-z])(SMA|SMB|SMC|Mini-?MELF|MicroMELF|MELF)(?![A-Za-z])"),
-                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression melf(
+        QStringLiteral("(?<![A-Za-z])(SMA|SMB|SMC|Mini-?MELF|MicroMELF|MELF)(?![A-Za-z])"),
+        QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch other = melf.match(text);
     return group(other, 1).remove(QLatin1Char('-')).toUpper();
 }
@@ -127,8 +135,10 @@ bool looksLikePartNumber(const QString &text)
     const QString plain = foldedPartNumber(text);
     if (plain.size() < least || text.contains(QLatin1Char(' ')) || ::quantity::parse(text))
         return false;
-    const bool hasDigit = std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
-    const bool hasLetter = std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isLetter(); });
+    const bool hasDigit =
+        std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
+    const bool hasLetter =
+        std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isLetter(); });
     return hasDigit && hasLetter;
 }
 
@@ -146,10 +156,14 @@ QString withoutPackaging(const QString &text)
 {
     // Only what is set off by a sign: letters at the end mean another part with another maker.
     static const QRegularExpression end(
-        QStringLiteral("(?:[-/ ](?:T/?R|TRL|TRPBF|TR7|REEL7?|REEL13|RL7?|R7|TAPE|CT|BULK|TUBE|TRAY|T1|T)|#(?:TR)?PBF|\\+T?|,\\d{3})$"),
+        QStringLiteral("(?:[-/ "
+                       "](?:T/"
+                       "?R|TRL|TRPBF|TR7|REEL7?|REEL13|RL7?|R7|TAPE|CT|BULK|TUBE|TRAY|T1|T)|#(?:TR)"
+                       "?PBF|\\+T?|,\\d{3})$"),
         QRegularExpression::CaseInsensitiveOption);
     QString shortened = text.trimmed();
-    for (QRegularExpressionMatch match = end.match(shortened); match.hasMatch(); match = end.match(shortened))
+    for (QRegularExpressionMatch match = end.match(shortened); match.hasMatch();
+         match = end.match(shortened))
         shortened.truncate(match.capturedStart());
     const QString plain = foldedPartNumber(shortened);
     constexpr int least = 4;
@@ -158,16 +172,19 @@ QString withoutPackaging(const QString &text)
 
 bool saysNotFitted(const QString &text)
 {
-    static const QRegularExpression form(
-        QStringLiteral("(?:^|[^a-z0-9])(?:dnp|dnf|dnm|dni|d\\.n\\.p\\.|do ?not ?(?:populate|mount|fit|place|install|stuff|assemble)|"
-                       "not ?(?:fitted|mounted|populated|placed|assembled)|no ?(?:stuff|fit|pop)|n/m|n\\.m\\.|n/p|nie ?montowac|"
-                       "nie ?montuj|niemontowany|nie ?obsadzac|nicht ?bestucken|nicht ?bestuckt)(?:$|[^a-z0-9])"));
+    static const QRegularExpression form(QStringLiteral(
+        "(?:^|[^a-z0-9])(?:dnp|dnf|dnm|dni|d\\.n\\.p\\.|do ?not "
+        "?(?:populate|mount|fit|place|install|stuff|assemble)|"
+        "not ?(?:fitted|mounted|populated|placed|assembled)|no "
+        "?(?:stuff|fit|pop)|n/m|n\\.m\\.|n/p|nie ?montowac|"
+        "nie ?montuj|niemontowany|nie ?obsadzac|nicht ?bestucken|nicht ?bestuckt)(?:$|[^a-z0-9])"));
     return form.match(folded(text)).hasMatch();
 }
 
 bool saysYes(const QString &text)
 {
-    return isOneOf(text, {"1", "x", "y", "t", "yes", "true", "tak", "ja", "dnp"}) || saysNotFitted(text);
+    return isOneOf(text, {"1", "x", "y", "t", "yes", "true", "tak", "ja", "dnp"})
+           || saysNotFitted(text);
 }
 
 bool saysNo(const QString &text)

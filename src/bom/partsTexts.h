@@ -7,8 +7,8 @@
 namespace partsTexts {
 
 // The designators of a cell, in its order and each once: "R1, R2 R5-R9" is seven. Separated by
-// blanks, commas, semicolons or bars; a range has the same letters at both ends, which the second may
-// leave out, and at most 1,000 designators. What is none is kept as it is.
+// blanks, commas, semicolons or bars; a range has the same letters at both ends, which the second
+// may leave out, and at most 1,000 designators. What is none is kept as it is.
 QStringList designatorsIn(const QString &cell);
 // Whether there are some and nothing else.
 bool areDesignators(const QString &cell);
@@ -16,7 +16,8 @@ bool areDesignators(const QString &cell);
 void sortDesignators(QStringList *designators);
 
 // The size of a chip ("0402") or the family and pins of a case ("SOIC-8") in a case, a footprint or
-// a description, by which those that are written differently are compared; empty where none is named.
+// a description, by which those that are written differently are compared; empty where none is
+// named.
 QString caseIn(const QString &text);
 
 // Whether it may be ordered by: letters and digits mixed, and no value ("100nF", "4k7").

@@ -68,7 +68,9 @@ QString stagedLinesModel::text(const stagedLine &line, int column)
     case nameColumn:
         return match ? match->name : QString();
     case reasonColumn:
-        return match ? QStringLiteral("%1, %2 %").arg(reasonText(match->reason)).arg(confidenceOf(match->reason))
+        return match ? QStringLiteral("%1, %2 %")
+                           .arg(reasonText(match->reason))
+                           .arg(confidenceOf(match->reason))
                      : QString();
     default: {
         QStringList all = line.line.remarks;
@@ -92,7 +94,8 @@ QVariant stagedLinesModel::data(const QModelIndex &index, int role) const
     case Qt::DecorationRole:
         return index.column() == stateColumn ? QVariant(iconOf(of.stateOf())) : QVariant();
     case Qt::TextAlignmentRole:
-        return index.column() == quantityColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+        return index.column() == quantityColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                                : QVariant();
     default:
         return {};
     }

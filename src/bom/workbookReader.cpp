@@ -185,7 +185,8 @@ QHash<QString, relation> relationsOf(const archive &zip, const QString &part)
     const QString name = part.section(QLatin1Char('/'), -1);
     const QString prefix = folder.isEmpty() ? QString() : folder + QLatin1Char('/');
     QXmlStreamReader reader(
-        zip.entry(prefix + QLatin1String("_rels/") + name + QLatin1String(".rels")).value_or(QByteArray()));
+        zip.entry(prefix + QLatin1String("_rels/") + name + QLatin1String(".rels"))
+            .value_or(QByteArray()));
     while (!reader.atEnd()) {
         reader.readNext();
         const QXmlStreamAttributes attributes = reader.attributes();
@@ -220,7 +221,8 @@ std::optional<QVector<sheet>> read(const QString &path, QString *fault)
     const QString book = workbookPart(zip);
     const std::optional<QByteArray> content = zip.entry(book);
     if (book.isEmpty() || !content) {
-        *fault = translated(QT_TRANSLATE_NOOP("workbookReader", "is no workbook, or a damaged one"));
+        *fault =
+            translated(QT_TRANSLATE_NOOP("workbookReader", "is no workbook, or a damaged one"));
         return {};
     }
     const QHash<QString, relation> relations = relationsOf(zip, book);

@@ -17,8 +17,9 @@ struct sheet
 // Whether the file is a ZIP archive that holds a workbook.
 bool isWorkbook(const QString &path);
 
-// All sheets, in the workbook's order; numbers as the file has them, dates as numbers. Nothing, with
-// the reason in fault, when the file is none, is damaged, or is larger than a parts list can be.
+// All sheets, in the workbook's order; numbers as the file has them, dates as numbers. Nothing,
+// with the reason in fault, when the file is none, is damaged, or is larger than a parts list can
+// be.
 std::optional<QVector<sheet>> read(const QString &path, QString *fault);
 
 } // namespace workbookReader

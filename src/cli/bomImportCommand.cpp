@@ -19,7 +19,8 @@ namespace {
 QString translated(const char *text) { return QCoreApplication::translate("cli", text); }
 
 // CAPTION=FIELD, or NUMBER=FIELD for a column without a caption. The last "=" counts.
-bool applyMap(const QStringList &maps, const partsTable &table, partsColumns::guess *columns, QString *fault)
+bool applyMap(const QStringList &maps, const partsTable &table, partsColumns::guess *columns,
+              QString *fault)
 {
     for (const QString &map : maps) {
         const QString caption = map.section(QLatin1Char('='), 0, -2).trimmed();
@@ -39,7 +40,8 @@ bool applyMap(const QStringList &maps, const partsTable &table, partsColumns::gu
         if (column < 0 && isNumber)
             column = number - 1;
         if (column < 0 || column >= columns->fields.size()) {
-            *fault = translated(QT_TRANSLATE_NOOP("cli", "no column has the caption %1")).arg(caption);
+            *fault =
+                translated(QT_TRANSLATE_NOOP("cli", "no column has the caption %1")).arg(caption);
             return false;
         }
         if (!partsColumns::mayBeSeveral(field) && columns->columnOf(field) >= 0)
@@ -53,9 +55,10 @@ void printColumns(const partsTable &table, const partsColumns::guess &columns)
 {
     for (int i = 0; i < columns.fields.size(); ++i)
         if (columns.fields[i] != partsColumns::none)
-            err() << translated(QT_TRANSLATE_NOOP("cli", "column %1: %2")).arg(
-                         columns.header < 0 ? QString::number(i + 1) : table.rows[columns.header][i],
-                         partsColumns::captionOf(columns.fields[i]))
+            err() << translated(QT_TRANSLATE_NOOP("cli", "column %1: %2"))
+                         .arg(columns.header < 0 ? QString::number(i + 1)
+                                                 : table.rows[columns.header][i],
+                              partsColumns::captionOf(columns.fields[i]))
                   << '\n';
 }
 
@@ -72,8 +75,8 @@ void printDoubtful(const bomImport::staged &lines)
             texts.append(QCoreApplication::translate("cli", "%n material(s)", nullptr,
                                                      int(line.candidates.size())));
         texts += line.line.remarks;
-        err() << line.line.designators.join(QLatin1Char(' ')).left(40) << '\t' << line.line.name() << '\t'
-              << texts.join(QLatin1String(", ")) << '\n';
+        err() << line.line.designators.join(QLatin1Char(' ')).left(40) << '\t' << line.line.name()
+              << '\t' << texts.join(QLatin1String(", ")) << '\n';
     }
 }
 
@@ -81,37 +84,45 @@ int runBomImport(const QStringList &arguments)
 {
     parser options(bomImportCommand, QStringLiteral("FILE"), 1, 1);
     const QCommandLineOption database = databaseOption(QT_TRANSLATE_NOOP(
-        "cli", "A material database that the parts are looked for in. May be given several times."));
-    const QCommandLineOption output = outputOption(QT_TRANSLATE_NOOP("cli", "Where the BOM list goes."));
-    const QCommandLineOption map(QStringLiteral("map"),
-                                 translated(QT_TRANSLATE_NOOP("cli", "What a column holds, by its caption or number. "
-                                                                     "May be given several times.")),
-                                 QStringLiteral("CAPTION=FIELD"));
-    const QCommandLineOption report(QStringLiteral("report"),
-                                    translated(QT_TRANSLATE_NOOP("cli", "Where the table of all lines goes, as CSV.")),
-                                    QStringLiteral("REPORT.csv"));
-    const QCommandLineOption separator(QStringLiteral("separator"),
-                                       translated(QT_TRANSLATE_NOOP("cli", "What parts the fields of a text.")),
-                                       QStringLiteral("CHARACTER"));
-    const QCommandLineOption encoding(QStringLiteral("encoding"),
-                                      translated(QT_TRANSLATE_NOOP("cli", "The encoding of a text.")),
-                                      QStringLiteral("NAME"));
-    const QCommandLineOption sheet(QStringLiteral("sheet"),
-                                   translated(QT_TRANSLATE_NOOP("cli", "The sheet of a workbook, from 1.")),
-                                   QStringLiteral("NUMBER"));
+        "cli",
+        "A material database that the parts are looked for in. May be given several times."));
+    const QCommandLineOption output =
+        outputOption(QT_TRANSLATE_NOOP("cli", "Where the BOM list goes."));
+    const QCommandLineOption map(
+        QStringLiteral("map"),
+        translated(QT_TRANSLATE_NOOP("cli", "What a column holds, by its caption or number. "
+                                            "May be given several times.")),
+        QStringLiteral("CAPTION=FIELD"));
+    const QCommandLineOption report(
+        QStringLiteral("report"),
+        translated(QT_TRANSLATE_NOOP("cli", "Where the table of all lines goes, as CSV.")),
+        QStringLiteral("REPORT.csv"));
+    const QCommandLineOption separator(
+        QStringLiteral("separator"),
+        translated(QT_TRANSLATE_NOOP("cli", "What parts the fields of a text.")),
+        QStringLiteral("CHARACTER"));
+    const QCommandLineOption encoding(
+        QStringLiteral("encoding"), translated(QT_TRANSLATE_NOOP("cli", "The encoding of a text.")),
+        QStringLiteral("NAME"));
+    const QCommandLineOption sheet(
+        QStringLiteral("sheet"),
+        translated(QT_TRANSLATE_NOOP("cli", "The sheet of a workbook, from 1.")),
+        QStringLiteral("NUMBER"));
     const QCommandLineOption json = jsonOption();
     options.addOptions({database, output, map, report, separator, encoding, sheet, json});
     if (!options.accept(arguments))
         return options.code();
     const QString target = options.value(output);
     if (target.isEmpty())
-        return refuseCall(bomImportCommand, translated(QT_TRANSLATE_NOOP("cli", "give the BOM list to write with -o")));
+        return refuseCall(bomImportCommand, translated(QT_TRANSLATE_NOOP(
+                                                "cli", "give the BOM list to write with -o")));
 
     const QString source = options.positionalArguments().at(0);
     partsTableOptions form;
     if (options.isSet(separator))
-        form.separator = options.value(separator) == QLatin1String("tab") ? QLatin1Char('\t')
-                                                                           : options.value(separator).at(0);
+        form.separator = options.value(separator) == QLatin1String("tab")
+                             ? QLatin1Char('\t')
+                             : options.value(separator).at(0);
     form.encoding = options.value(encoding);
     if (options.isSet(sheet))
         form.sheet = options.value(sheet).toInt() - 1;
@@ -138,19 +149,23 @@ int runBomImport(const QStringList &arguments)
             for (const auto &material : group->items)
                 materials.push_back({material.get(), group.get(), one.get()});
     bomImport::staged lines;
-    bomImport::stage(linesOf(*table, columns), partsMatcher(materials), bomImport::asMap(decisions), &lines);
+    bomImport::stage(linesOf(*table, columns), partsMatcher(materials), bomImport::asMap(decisions),
+                     &lines);
     if (lines.lines.empty()) {
         printColumns(*table, columns);
-        err() << source << ": " << translated(QT_TRANSLATE_NOOP("cli", "holds no parts; name its columns with --map"))
+        err() << source << ": "
+              << translated(QT_TRANSLATE_NOOP("cli", "holds no parts; name its columns with --map"))
               << '\n'
               << Qt::flush;
         return refused;
     }
     bomImport::unknownParts known = bomImport::unknownIn(folder);
-    const int written = writeDocument(target, *bomImport::bomOf(lines, &known, QDate::currentDate()));
+    const int written =
+        writeDocument(target, *bomImport::bomOf(lines, &known, QDate::currentDate()));
     if (written != done)
         return written;
-    if (options.isSet(report) && !files::writeText(options.value(report), bomImport::reportOf(lines)))
+    if (options.isSet(report)
+        && !files::writeText(options.value(report), bomImport::reportOf(lines)))
         return cannotWrite(options.value(report));
 
     const int matched = lines.count(bomImport::state::matched);
@@ -198,14 +213,15 @@ int runBomDiff(const QStringList &arguments)
     if (options.isSet(json)) {
         QJsonArray all;
         for (const bomDifference &row : rows)
-            all.append(QJsonObject{{QStringLiteral("difference"), nameOf(row.what)},
-                                   {QStringLiteral("designators"), QJsonArray::fromStringList(row.designators)},
-                                   {QStringLiteral("ktm_before"), row.ktmBefore},
-                                   {QStringLiteral("name_before"), row.nameBefore},
-                                   {QStringLiteral("quantity_before"), numberOrText(row.quantityBefore)},
-                                   {QStringLiteral("ktm_after"), row.ktmAfter},
-                                   {QStringLiteral("name_after"), row.nameAfter},
-                                   {QStringLiteral("quantity_after"), numberOrText(row.quantityAfter)}});
+            all.append(QJsonObject{
+                {QStringLiteral("difference"), nameOf(row.what)},
+                {QStringLiteral("designators"), QJsonArray::fromStringList(row.designators)},
+                {QStringLiteral("ktm_before"), row.ktmBefore},
+                {QStringLiteral("name_before"), row.nameBefore},
+                {QStringLiteral("quantity_before"), numberOrText(row.quantityBefore)},
+                {QStringLiteral("ktm_after"), row.ktmAfter},
+                {QStringLiteral("name_after"), row.nameAfter},
+                {QStringLiteral("quantity_after"), numberOrText(row.quantityAfter)}});
         printJson({{QStringLiteral("before"), paths[0]},
                    {QStringLiteral("after"), paths[1]},
                    {QStringLiteral("differences"), all}});
@@ -221,14 +237,16 @@ int runBomDiff(const QStringList &arguments)
 
 const subcommand bomDiffCommand{
     "bom-diff",
-    QT_TRANSLATE_NOOP("cli", "Lists what two BOM lists of one board differ in, by designator. Exit code 1 when "
-                             "they differ, 2 when they cannot be compared."),
+    QT_TRANSLATE_NOOP(
+        "cli", "Lists what two BOM lists of one board differ in, by designator. Exit code 1 when "
+               "they differ, 2 when they cannot be compared."),
     runBomDiff};
 const subcommand bomImportCommand{
     "bom-import",
-    QT_TRANSLATE_NOOP("cli", "Makes a BOM list of a list of parts: CSV, XLSX, ODS, XLS or KiCad XML. Exit "
-                             "code 1 when parts were not found; the list is written all the same, with "
-                             "these as unknown lines."),
+    QT_TRANSLATE_NOOP("cli",
+                      "Makes a BOM list of a list of parts: CSV, XLSX, ODS, XLS or KiCad XML. Exit "
+                      "code 1 when parts were not found; the list is written all the same, with "
+                      "these as unknown lines."),
     runBomImport};
 
 } // namespace cli

@@ -1,5 +1,5 @@
-// firm-uses: the materials that name a firm, and another name for it in all of them. firm-merge: two
-// firms made one.
+// firm-uses: the materials that name a firm, and another name for it in all of them. firm-merge:
+// two firms made one.
 #include "cli/arguments.h"
 
 #include "data/loaders.h"
@@ -82,7 +82,8 @@ int runFirmMerge(const QStringList &arguments)
         QStringLiteral("suppliers"),
         QCoreApplication::translate("cli", "The firms are suppliers, not manufacturers."));
     const QCommandLineOption output = outputOption(QT_TRANSLATE_NOOP(
-        "cli", "The folder for the changed register and databases; without it nothing is written."));
+        "cli",
+        "The folder for the changed register and databases; without it nothing is written."));
     options.addOption(databases);
     options.addOption(suppliers);
     options.addOption(output);
@@ -90,8 +91,7 @@ int runFirmMerge(const QStringList &arguments)
         return options.code();
     const QStringList given = options.positionalArguments();
     kiv_mat_firmStruct firms;
-    if (!readFile(given.at(0), &firms,
-                  QCoreApplication::translate("cli", "is no firm register")))
+    if (!readFile(given.at(0), &firms, QCoreApplication::translate("cli", "is no firm register")))
         return refused;
     std::vector<std::unique_ptr<kiv_mat_databaseStruct>> read;
     std::vector<const kiv_mat_databaseStruct *> all;
@@ -115,7 +115,8 @@ int runFirmMerge(const QStringList &arguments)
     }
     for (int i = 0; i < 2; ++i)
         if (!places[size_t(i)]) {
-            err() << QCoreApplication::translate("cli", "the list has no firm %1").arg(given.at(1 + i))
+            err() << QCoreApplication::translate("cli", "the list has no firm %1")
+                         .arg(given.at(1 + i))
                   << '\n'
                   << Qt::flush;
             return refused;
@@ -147,9 +148,8 @@ int runFirmMerge(const QStringList &arguments)
 
 const subcommand firmMergeCommand{
     "firm-merge",
-    QT_TRANSLATE_NOOP("cli",
-                      "Lists what making one firm of two changes in the register and in the "
-                      "materials, and writes it into a folder when asked to."),
+    QT_TRANSLATE_NOOP("cli", "Lists what making one firm of two changes in the register and in the "
+                             "materials, and writes it into a folder when asked to."),
     runFirmMerge};
 
 const subcommand firmUsesCommand{

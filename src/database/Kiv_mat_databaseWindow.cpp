@@ -7,6 +7,7 @@
 #include "database/detailsPane.h"
 #include "database/findingsWindow.h"
 #include "database/linksWindow.h"
+#include "database/materialChecks.h"
 #include "database/materialWindow.h"
 
 #include "data/XmlValidator.h"
@@ -326,8 +327,9 @@ void Kiv_mat_databaseWindow::begin()
 
 void Kiv_mat_databaseWindow::updateActions()
 {
-    allowWhenUnlocked({"update", "changeMaterials", "cutMaterials", "deleteMaterials", "addGroup", "addMaterial",
-                       "editParameters", "editCpv", "fillDown", "parse", "loadCpv", "moveCpv"});
+    allowWhenUnlocked({"update", "changeMaterials", "cutMaterials", "deleteMaterials", "addGroup",
+                       "addMaterial", "editParameters", "editCpv", "fillDown", "parse", "loadCpv",
+                       "moveCpv"});
     const bool onMaterial = m_rows->materialAt(m_view->markedCell());
     setAvailable("openLink", onMaterial, tr("no material is selected"));
     for (const char *name : {"insertToBom", "toOrder", "toOrderN"})
@@ -345,9 +347,8 @@ void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
     QMenu menu(this);
     for (const char *name :
          {"copyText", "openLink", "openCopy", "editParameters", "changeMaterials", "copyMaterials",
-          "cutMaterials",
-          "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup", "collapsGroup",
-          "insertToBom", "", "toOrder", "toOrderN"})
+          "cutMaterials", "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup",
+          "collapsGroup", "insertToBom", "", "toOrder", "toOrderN"})
         if (*name)
             menu.addAction(action(name));
         else
@@ -700,6 +701,39 @@ void Kiv_mat_databaseWindow::commandAddMaterial(bool)
 {
     if (QStandardItem *group = currentGroup())
         editor().openNew(group, materialRows::groupOf(group)->cpv);
+}
+
+bool Kiv_mat_databaseWindow::addFilledIn(const materialStruct &filledIn)
+{
+    if (isLocked() && action("edit")->isEnabled())
+        action("edit")->trigger();
+    if (refuseWhileLocked())
+        return false;
+    QStringList names;
+    for (const auto &group : m_rows->database().groups)
+        names.append(group->name);
+    if (names.isEmpty()) {
+        userPrompts().showError(tr("The database has no group").toHtmlEscaped());
+        return false;
+    }
+    // Materials often come one after the other for one group.
+    const int usual = std::max(0, names.indexOf(m_filledInto));
+    const auto chosen = userPrompts().choose(tr("Add. new material"),
+                                             tr("Group for %1").arg(filledIn.d_name), names, usual);
+    if (!chosen)
+        return false;
+    m_filledInto = names.at(*chosen);
+    const d_groupStruct *group = m_rows->database().groups[size_t(*chosen)].get();
+    auto material = materialChecks::newMaterial();
+    material->d_cpv = group->cpv;
+    for (const auto &field : materialStruct::fields())
+        if (const QString &text = filledIn.*field.member;
+            field.member != &materialStruct::d_active && !text.isEmpty())
+            (*material).*field.member = text;
+    const auto copied = filledIn.copy();
+    material->manufacturers.items = std::move(copied->manufacturers.items);
+    material->suppliers.items = std::move(copied->suppliers.items);
+    return editor().openNew(m_rows->groupItem(group), std::move(material));
 }
 
 void Kiv_mat_databaseWindow::commandEditParameters(bool)

@@ -136,6 +136,10 @@ public slots:
     // Gives links other addresses as one step; how many were changed.
     int replaceLinks(const std::vector<linkExamination::replacement> &replacements);
 
+    // Asks for a group and opens the editor with a new material in it that has the given texts and
+    // firms. False when the window stays locked or the user thought better of it.
+    bool addFilledIn(const materialStruct &filledIn);
+
     // Shows the material that has the link, in front; false when there is none.
     bool goToMaterial(const QString &ktm, const QString &link);
 
@@ -225,6 +229,7 @@ private:
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
     QLabel *m_hint; // in the tree that shows nothing
+    QString m_filledInto; // the group that the last filled-in material went to
     searchLine *m_words = nullptr;
     detailsPane *m_details = nullptr;
     std::unique_ptr<databaseTree::rows> m_rows;

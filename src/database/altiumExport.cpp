@@ -52,12 +52,18 @@ const std::vector<exportColumn> &exportColumns()
         {labels::active, &material::d_active},
         {nullptr, nullptr, kicadLibrary::unused},
         {labels::libraryRef, &material::d_libraryRef, kicadLibrary::symbol, "[Library Ref]"},
-        {labels::footprintRef, &material::d_footprintRef, kicadLibrary::footprint, "[Footprint Ref]"},
-        {labels::footprintRef2, &material::d_footprintRef2, kicadLibrary::parameter, "[Footprint Ref 2]"},
-        {labels::footprintRef3, &material::d_footprintRef3, kicadLibrary::parameter, "[Footprint Ref 3]"},
-        {labels::footprintRef4, &material::d_footprintRef4, kicadLibrary::parameter, "[Footprint Ref 4]"},
-        {labels::footprintRef5, &material::d_footprintRef5, kicadLibrary::parameter, "[Footprint Ref 5]"},
-        {labels::footprintRef6, &material::d_footprintRef6, kicadLibrary::parameter, "[Footprint Ref 6]"},
+        {labels::footprintRef, &material::d_footprintRef, kicadLibrary::footprint,
+         "[Footprint Ref]"},
+        {labels::footprintRef2, &material::d_footprintRef2, kicadLibrary::parameter,
+         "[Footprint Ref 2]"},
+        {labels::footprintRef3, &material::d_footprintRef3, kicadLibrary::parameter,
+         "[Footprint Ref 3]"},
+        {labels::footprintRef4, &material::d_footprintRef4, kicadLibrary::parameter,
+         "[Footprint Ref 4]"},
+        {labels::footprintRef5, &material::d_footprintRef5, kicadLibrary::parameter,
+         "[Footprint Ref 5]"},
+        {labels::footprintRef6, &material::d_footprintRef6, kicadLibrary::parameter,
+         "[Footprint Ref 6]"},
     };
     return table;
 }
@@ -402,11 +408,10 @@ exportResult exportAltiumSqlite(const kiv_mat_databaseStruct &database, const QS
     const QStringList tables = exportNames::sqlNames(wanted, {}, memory.tableNames());
     // The file that a program may hold open comes first: when it cannot be replaced, none is.
     const QStringList paths{path, scriptPath(path), libraryPath(path), kicadPath(path)};
-    result.notes =
-        renameNotes(wanted, tables)
-        + undescribedNotes(tables, libraryDescription::canDescribe, paths.at(2))
-        + undescribedNotes(tables, kicadLibrary::canDescribe, paths.at(3))
-        + oldDescriptionNotes(path);
+    result.notes = renameNotes(wanted, tables)
+                   + undescribedNotes(tables, libraryDescription::canDescribe, paths.at(2))
+                   + undescribedNotes(tables, kicadLibrary::canDescribe, paths.at(3))
+                   + oldDescriptionNotes(path);
     // The first column, "id", numbers the rows.
     const QStringList columnNames = exportNames::sqlNames(captions(), {QStringLiteral("id")});
 

@@ -29,7 +29,8 @@ exportResult exportGroups(const kiv_mat_databaseStruct &database, const QString 
 
 // The path with its ending ".sqlite" (in any case) replaced by ".txt"; appended when there is none.
 QString scriptPath(const QString &path);
-// The path with ".DbLib" behind it, so that a workbook and an SQLite file of one name have one each.
+// The path with ".DbLib" behind it, so that a workbook and an SQLite file of one name have one
+// each.
 QString libraryPath(const QString &path);
 // The path with its ending ".sqlite" replaced by ".kicad_dbl"; appended when there is none.
 QString kicadPath(const QString &path);

@@ -236,7 +236,8 @@ exportResult exportFindings(const std::vector<const finding *> &findings, const 
     if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
         safeFile file(path);
         const auto write = [&](const QStringList &cells) {
-            return file.write((text::csvRow(cells) + QLatin1String("\r\n")).toUtf8()) >= 0 && goOn();
+            return file.write((text::csvRow(cells) + QLatin1String("\r\n")).toUtf8()) >= 0
+                   && goOn();
         };
         if (!file.open(QIODevice::WriteOnly) || file.write("\xef\xbb\xbf") < 0
             || !writeRows(findings, write) || !file.commit())
@@ -562,10 +563,9 @@ QString databaseFindings::othersOf(const std::vector<const materialStruct *> &al
             continue;
         if (named.size() == mostNamed)
             break;
-        named.append(
-            ((withKtm ? other->d_ktm + QLatin1Char(' ') : QString()) + other->d_name
-             + QLatin1String(" [") + at->group->name + QLatin1Char(']'))
-                .simplified());
+        named.append(((withKtm ? other->d_ktm + QLatin1Char(' ') : QString()) + other->d_name
+                      + QLatin1String(" [") + at->group->name + QLatin1Char(']'))
+                         .simplified());
     }
     QString text = named.join(QLatin1String(", "));
     if (const int more = int(all.size()) - 1 - int(named.size()); more > 0)

@@ -6,11 +6,11 @@
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "database/altiumExport.h"
-#include "database/exportChangesDialog.h"
 #include "database/cpvOperations.h"
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
 #include "database/databaseRowsTarget.h"
+#include "database/exportChangesDialog.h"
 #include "database/findingsWindow.h"
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
@@ -79,7 +79,8 @@ private:
     std::vector<materialChange> m_changes;
 };
 
-// Names in manufacturers and suppliers, or of their files, of many materials as one step; rows that are made follow.
+// Names in manufacturers and suppliers, or of their files, of many materials as one step; rows that
+// are made follow.
 class changeNames : public command
 {
 public:
@@ -360,9 +361,12 @@ void Kiv_mat_databaseWindow::loadCpv(const QString &path)
                                               static_cast<myItem::myItemStandard *>(m_model->item(
                                                   group->row(), databaseTree::cpvColumn)),
                                               change.after));
-    if (!members.empty())
+    const int count = int(members.size());
+    if (count > 0)
         push(std::make_unique<appendCommands>(std::move(members), m_model),
              tr("Load CPV for groups"));
+    tell(count > 0 ? tr("%n group(s) with another CPV now", nullptr, count)
+                   : tr("Nothing differs"));
 }
 
 void Kiv_mat_databaseWindow::commandMoveCPVFromGroupToMaterials(bool)

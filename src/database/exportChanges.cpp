@@ -13,7 +13,8 @@
 namespace {
 
 // The first word of each line says what the line is.
-constexpr QLatin1String head("KivZP export 1");
+constexpr char head[] = "KivZP export 1";
+constexpr int headSize = sizeof(head) - 1;
 constexpr char fieldsMark = 'F';
 constexpr char tableMark = 'T';
 constexpr char materialMark = 'M';
@@ -155,10 +156,10 @@ QString lineOf(const exportChange &change)
 QString summaryOf(const exportChanges &changes)
 {
     if (!changes.compared)
-        return translated(
-            QT_TRANSLATE_NOOP("exportChanges", "No earlier export to compare with"));
+        return translated(QT_TRANSLATE_NOOP("exportChanges", "No earlier export to compare with"));
     if (changes.rows.empty())
-        return translated(QT_TRANSLATE_NOOP("exportChanges", "Nothing changed since the export of %1"))
+        return translated(
+                   QT_TRANSLATE_NOOP("exportChanges", "Nothing changed since the export of %1"))
             .arg(changes.since);
     int counts[exportChange::changeKindCount] = {};
     QString last;
@@ -203,9 +204,9 @@ void exportMemory::take(const QByteArray &content)
         // Past the mark and its tab.
         const QByteArray line = size > 2 ? content.mid(from + 2, size - 2) : QByteArray();
         if (number == 0) {
-            if (!content.startsWith(QByteArray(head.data(), head.size()) + '\t'))
+            if (!content.startsWith(QByteArray(head) + '\t'))
                 return;
-            m_since = QString::fromUtf8(content.mid(head.size() + 1, size - head.size() - 1));
+            m_since = QString::fromUtf8(content.mid(headSize + 1, size - headSize - 1));
             m_isKnown = true;
         } else if (mark == fieldsMark) {
             m_keys = textsOfLine(line);
@@ -276,18 +277,16 @@ bool exportMemory::follow(const kiv_mat_databaseStruct &database, const QStringL
     QTemporaryFile file(scratch::pattern());
     if (!file.open())
         return false;
-    QByteArray content(head.data(), head.size());
-    content += '\t'
-               + QDateTime::currentDateTime()
-                     .toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"))
-                     .toUtf8()
-               + '\n' + fieldsMark + '\t' + lineOfTexts(keys) + '\n';
+    QByteArray content(head);
+    content +=
+        '\t' + QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss")).toUtf8()
+        + '\n' + fieldsMark + '\t' + lineOfTexts(keys) + '\n';
     materialKeys keysNow;
     progressSteps steps(progress, database.materialCount());
     for (int table = 0; table < tables.size(); ++table) {
         const d_groupStruct &group = *database.groups[size_t(table)];
-        content += QByteArray(1, tableMark) + '\t'
-                   + lineOfTexts({tables.at(table), group.name}) + '\n';
+        content +=
+            QByteArray(1, tableMark) + '\t' + lineOfTexts({tables.at(table), group.name}) + '\n';
         for (const auto &material : group.items) {
             QStringList texts;
             for (const column &c : columns)
@@ -333,14 +332,14 @@ bool exportMemory::follow(const kiv_mat_databaseStruct &database, const QStringL
         for (size_t i = 0; i < m_tables.size(); ++i) {
             if (become[i] < 0) {
                 add(exportChange::tableRemoved).table = m_tables[i].name;
-            } else if (const QString now = tables.at(become[i]); now != m_tables[i].name) {
+            } else if (const QString &now = tables.at(become[i]); now != m_tables[i].name) {
                 exportChange &change = add(exportChange::tableRenamed);
                 change.before = m_tables[i].name;
                 change.after = now;
             }
         }
         for (const difference &found : differences) {
-            const QString table = tables.at(found.table);
+            const QString &table = tables.at(found.table);
             const auto tell = [&](exportChange::changeKind kind, const QString &field,
                                   const QString &before, const QString &after) {
                 changes.rows.push_back({kind, table, found.material->d_ktm, found.material->d_name,

@@ -1,5 +1,5 @@
-// What an export has changed against the one before it to the same file. For that, each export keeps
-// what it wrote packed beside its file.
+// What an export has changed against the one before it to the same file. For that, each export
+// keeps what it wrote packed beside its file.
 #pragma once
 
 #include "util/progress.h"
@@ -37,8 +37,8 @@ struct exportChange
 
 struct exportChanges
 {
-    bool compared = false; // false: no earlier export is known
-    QString since;         // when that was, "yyyy.MM.dd hh:mm:ss"
+    bool compared = false;          // false: no earlier export is known
+    QString since;                  // when that was, "yyyy.MM.dd hh:mm:ss"
     std::vector<exportChange> rows; // tables first, then materials in the order of the file
 };
 

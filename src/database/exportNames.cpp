@@ -132,7 +132,7 @@ QStringList unique(const QStringList &wanted, const QStringList &bases, const QS
     for (int i = 0; i < wanted.size(); ++i) {
         if (!result.at(i).isNull())
             continue;
-        if (const QString base = bases.at(i); taken.take(base))
+        if (const QString &base = bases.at(i); taken.take(base))
             result[i] = base;
         else if (const QString name = markedName(i); taken.take(name))
             result[i] = name;

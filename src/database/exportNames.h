@@ -13,12 +13,11 @@ namespace exportNames {
 QString replaceCharacters(const QString &text);
 
 // One sheet name for each wanted one: characters replaced, []:*?/\ and control characters become
-// "_", apostrophes at an end go, never empty. Of a name over 31 characters its beginning and its end
-// are kept. No two are equal when case is ignored, neither to each other nor to the reserved ones:
-// the first one has the name, the others get four digits that follow from their wanted names, and
-// equal wanted names a number.
-// before: the names of an earlier time by the wanted ones, which stay where they still fit. So a new
-// name changes no other one.
+// "_", apostrophes at an end go, never empty. Of a name over 31 characters its beginning and its
+// end are kept. No two are equal when case is ignored, neither to each other nor to the reserved
+// ones: the first one has the name, the others get four digits that follow from their wanted names,
+// and equal wanted names a number. before: the names of an earlier time by the wanted ones, which
+// stay where they still fit. So a new name changes no other one.
 QStringList sheetNames(const QStringList &wanted, const QStringList &reserved = {},
                        const QHash<QString, QString> &before = {});
 

@@ -67,16 +67,16 @@ QByteArray text(const QString &fileName, const QStringList &tables, const QList<
     nicknames = exportNames::sqlNames(nicknames);
     QJsonArray libraries;
     for (int i = 0; i < described.size(); ++i)
-            libraries.append(QJsonObject{
-                {QStringLiteral("name"), nicknames.at(i)},
-                {QStringLiteral("table"), described.at(i)},
-                {QStringLiteral("key"), nameOf(columns, key)},
-                {QStringLiteral("symbols"), nameOf(columns, symbol)},
-                {QStringLiteral("footprints"), nameOf(columns, footprint)},
-                {QStringLiteral("fields"), fields},
-                {QStringLiteral("properties"),
-                 QJsonObject{{QStringLiteral("description"), nameOf(columns, description)}}},
-            });
+        libraries.append(QJsonObject{
+            {QStringLiteral("name"), nicknames.at(i)},
+            {QStringLiteral("table"), described.at(i)},
+            {QStringLiteral("key"), nameOf(columns, key)},
+            {QStringLiteral("symbols"), nameOf(columns, symbol)},
+            {QStringLiteral("footprints"), nameOf(columns, footprint)},
+            {QStringLiteral("fields"), fields},
+            {QStringLiteral("properties"),
+             QJsonObject{{QStringLiteral("description"), nameOf(columns, description)}}},
+        });
     // KiCad puts its own folder of the description in the place of ${CWD}.
     const QJsonObject source{
         {QStringLiteral("type"), QStringLiteral("odbc")},

@@ -146,6 +146,11 @@ bool materialWindow::openNew(QStandardItem *group, const QString &cpv)
     return open({group, newRow}, std::move(material));
 }
 
+bool materialWindow::openNew(QStandardItem *group, std::unique_ptr<materialStruct> filledIn)
+{
+    return open({group, newRow}, std::move(filledIn));
+}
+
 bool materialWindow::openExisting(QStandardItem *group, int row, const materialStruct &material)
 {
     return open({group, row}, material.copy());

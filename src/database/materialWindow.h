@@ -22,6 +22,7 @@ public:
     // in it; editExist() with the material's own row. The window only carries these rows. cpv is
     // that of the group. False when the material shown before has changes that the user keeps.
     bool openNew(QStandardItem *group, const QString &cpv = {});
+    bool openNew(QStandardItem *group, std::unique_ptr<materialStruct> filledIn);
     bool openExisting(QStandardItem *group, int row, const materialStruct &material);
     bool openExisting(QStandardItem *item, const materialStruct &material);
 

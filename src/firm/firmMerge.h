@@ -1,5 +1,5 @@
-// Several firms made one: what that changes in the register and in the materials, shown before it is
-// done.
+// Several firms made one: what that changes in the register and in the materials, shown before it
+// is done.
 #pragma once
 
 #include "data/kiv_mat_firmStruct.h"
@@ -27,9 +27,9 @@ struct mergePlan
     struct registerChange
     {
         firmKind kind;
-        size_t place;                            // in its list, as it was
-        QString firmStruct::*field = nullptr;    // null: the firm goes
-        QString before;                          // of a firm that goes its name
+        size_t place;                         // in its list, as it was
+        QString firmStruct::*field = nullptr; // null: the firm goes
+        QString before;                       // of a firm that goes its name
         QString after;
     };
     std::vector<registerChange> changes;
@@ -44,8 +44,8 @@ struct mergePlan
     std::vector<use> uses;
 };
 
-// What it takes to make one firm of those at the given places of a list. The one that stays gets the
-// texts that it lacks. The other list follows: there the firms of those names become one, too.
+// What it takes to make one firm of those at the given places of a list. The one that stays gets
+// the texts that it lacks. The other list follows: there the firms of those names become one, too.
 // renames: what is planned for the materials already.
 mergePlan planMerge(const kiv_mat_firmStruct &firms, firmKind kind, size_t stays,
                     const std::vector<size_t> &going,

@@ -64,8 +64,7 @@ const windowAction<firmWindow> actionTable[] = {
     {{"delete", "Firm", QT_TRANSLATE_NOOP("actions", "Delete firms"), "action_delete", "Del",
       QT_TRANSLATE_NOOP("actions", "Delete the selected firms that no material uses"), true},
      &firmWindow::commandDelete},
-    {{"mergeFirms", "Firm", QT_TRANSLATE_NOOP("actions", "Merge firms"), "action_merge",
-      "Ctrl+M",
+    {{"mergeFirms", "Firm", QT_TRANSLATE_NOOP("actions", "Merge firms"), "action_merge", "Ctrl+M",
       QT_TRANSLATE_NOOP("actions", "Make one firm of the selected ones, in the materials, too"),
       true},
      &firmWindow::commandMergeFirms},
@@ -397,10 +396,9 @@ void firmWindow::commandAdd(bool)
             continue;
         view->goTo(name);
         view->setFocus();
-        userPrompts().showError(
-            tr("The list has a new firm %1 already. Give it its name first.")
-                .arg(name.data().toString())
-                .toHtmlEscaped());
+        userPrompts().showError(tr("The list has a new firm %1 already. Give it its name first.")
+                                    .arg(name.data().toString())
+                                    .toHtmlEscaped());
         return;
     }
     push(std::make_unique<appendNewMaterial>(firms, current().rows->newRow()),
@@ -493,9 +491,10 @@ void firmWindow::commandMergeFirms(bool)
     const auto materialsOf = [&](const QString &name) {
         return m_figures ? m_figures->at(kind).value(name).materials : 0;
     };
-    const auto most = std::max_element(names.begin(), names.end(), [&](const auto &a, const auto &b) {
-        return materialsOf(a) < materialsOf(b);
-    });
+    const auto most =
+        std::max_element(names.begin(), names.end(), [&](const auto &a, const auto &b) {
+            return materialsOf(a) < materialsOf(b);
+        });
     mergeFirmsDialog dialog(
         names, int(most - names.begin()),
         [&](int stays) {

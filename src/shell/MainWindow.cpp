@@ -485,7 +485,8 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
     return *window;
 }
 
-void MainWindow::databaseCommand(bool)
+// One of the loaded databases; nothing when there is none or the user chooses none.
+std::optional<programData::databaseKind> MainWindow::chosenDatabase()
 {
     QStringList names;
     std::vector<programData::databaseKind> kinds;
@@ -498,17 +499,23 @@ void MainWindow::databaseCommand(bool)
     }
     if (kinds.empty()) {
         tell(tr("No database is loaded"));
-        return;
+        return {};
     }
     size_t chosen = 0;
     if (kinds.size() > 1) {
         const auto answer =
             userPrompts().choose(tr("Database of material"), tr("Database"), names, 0);
         if (!answer)
-            return;
+            return {};
         chosen = size_t(*answer);
     }
-    databaseWindow(kinds[chosen]).showNow();
+    return kinds[chosen];
+}
+
+void MainWindow::databaseCommand(bool)
+{
+    if (const auto kind = chosenDatabase())
+        databaseWindow(*kind).showNow();
 }
 
 firmWindow &MainWindow::firms()

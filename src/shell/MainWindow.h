@@ -64,6 +64,7 @@ public:
     orderView &view() { return *m_order; }
     // The window of a database, made when it is first asked for.
     Kiv_mat_databaseWindow &databaseWindow(programData::databaseKind kind);
+    std::optional<programData::databaseKind> chosenDatabase();
     Kiv_bomWindow &bomWindow();
     firmWindow &firms();
     // The report brought up to date at once.

@@ -5,6 +5,7 @@
 
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "database/Kiv_mat_databaseWindow.h"
 #include "bom/needsDialog.h"
 #include "bom/orderLinesTarget.h"
 #include "commands/commandSys.h"
@@ -45,6 +46,14 @@ Kiv_bomWindow &MainWindow::bomWindow()
         m_bom = std::make_unique<Kiv_bomWindow>(known());
         connect(m_bom.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         connect(m_bom.get(), &Kiv_bomWindow::appendToOrder, this, &MainWindow::appendBoms);
+        m_bom->makeMaterial = [this](const materialStruct &filledIn) {
+            const auto kind = chosenDatabase();
+            if (!kind)
+                return;
+            Kiv_mat_databaseWindow &window = databaseWindow(*kind);
+            window.showNow();
+            window.addFilledIn(filledIn);
+        };
     }
     return *m_bom;
 }

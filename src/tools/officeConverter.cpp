@@ -27,9 +27,9 @@ converted convert(const QString &document, const QString &format)
     const QString office = program();
     if (office.isEmpty())
         return {{},
-                QCoreApplication::translate("officeConverter",
-                                            "LibreOffice reads %1 and is not installed: install it, "
-                                            "or save the file as CSV or XLSX")
+                QCoreApplication::translate(
+                    "officeConverter", "LibreOffice reads %1 and is not installed: install it, "
+                                       "or save the file as CSV or XLSX")
                     .arg(name)};
     // A profile of its own: another LibreOffice may be running.
     const QString folder = scratch::folder() + QLatin1String("/office");
@@ -40,18 +40,19 @@ converted convert(const QString &document, const QString &format)
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
     constexpr int timeoutMs = 60'000;
-    process.start(office, {QLatin1String("-env:UserInstallation=")
-                               + QUrl::fromLocalFile(folder + QLatin1String("/profile")).toString(),
-                           QStringLiteral("--headless"), QStringLiteral("--convert-to"), format,
-                           QStringLiteral("--outdir"), folder,
-                           QFileInfo(document).absoluteFilePath()});
+    process.start(office,
+                  {QLatin1String("-env:UserInstallation=")
+                       + QUrl::fromLocalFile(folder + QLatin1String("/profile")).toString(),
+                   QStringLiteral("--headless"), QStringLiteral("--convert-to"), format,
+                   QStringLiteral("--outdir"), folder, QFileInfo(document).absoluteFilePath()});
     if (!process.waitForFinished(timeoutMs)) {
         process.kill();
         process.waitForFinished();
     }
     if (QFileInfo::exists(path))
         return {path, {}};
-    return {{}, QCoreApplication::translate("officeConverter", "LibreOffice cannot read %1").arg(name)};
+    return {{},
+            QCoreApplication::translate("officeConverter", "LibreOffice cannot read %1").arg(name)};
 }
 
 } // namespace officeConverter

@@ -14,8 +14,8 @@ struct converted
     QString fault; // why, for the user
 };
 
-// Converts a document to another format, which is the ending that LibreOffice knows it by. Waits for
-// at most a minute, without events.
+// Converts a document to another format, which is the ending that LibreOffice knows it by. Waits
+// for at most a minute, without events.
 converted convert(const QString &document, const QString &format);
 
 } // namespace officeConverter

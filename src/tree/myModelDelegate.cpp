@@ -433,6 +433,8 @@ QWidget *myModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
 
 void myModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
+    if (editor == m_committed)
+        return;
     const myItemStandard *item = itemAt(index);
     if (!item) {
         QStyledItemDelegate::setEditorData(editor, index);
@@ -564,8 +566,20 @@ void myModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         return;
     }
     reading typed = readEditor(editor, *own, *item);
-    if (typed.fault.isEmpty() && typed.value.isValid())
+    if (typed.fault.isEmpty() && typed.value.isValid()) {
+        // Questions may be asked meanwhile; what was typed stands there until they are answered.
+        if (item->type() == comboBoxKind)
+            static_cast<filterComboBox *>(editor)->hidePopup();
+        const QPersistentModelIndex place(index);
+        const QPointer<QWidget> open(editor);
+        m_committed = editor;
         typed.fault = own->setValue(item, typed.value);
+        m_committed = nullptr;
+        if (!open)
+            return;
+        if (place.isValid() && typed.fault.isEmpty())
+            setEditorData(editor, place);
+    }
     refusal::mark(editor, typed.fault, lineOf(editor));
     if (!typed.fault.isEmpty())
         emit const_cast<myModelDelegate *>(this)->refused(typed.fault);

@@ -66,4 +66,5 @@ private:
 
     int m_indentation;
     barThresholds m_thresholds;
+    mutable const QWidget *m_committed = nullptr; // the editor whose value is being taken
 };

@@ -43,7 +43,8 @@ safeFile::~safeFile()
 bool safeFile::open(OpenMode mode)
 {
     const QFileInfo info(m_path);
-    // A folder, a pipe or a device is not replaced by a file; a name that ends as a folder's is one.
+    // A folder, a pipe or a device is not replaced by a file; a name that ends as a folder's is
+    // one.
     if (info.fileName().isEmpty() || (info.exists() && !info.isFile())) {
         setErrorString(tr("no file can stand there"));
         return false;

@@ -144,7 +144,7 @@ const scenario dropped[] = {
     {"listing", OPEN "<%/stock.txt>materials@0/1,0 Return",
      "boxes ~ dragging: Take stock and prices from stock.txt; saved ~ <d_inWarehouse>1234"},
     {"table", OPEN "<%/cpv.txt>materials@0/1,0",
-     "boxes ~ dragging: Take the groups' CPV codes; saved ~ SMD 0805\" cpv=\"31712114-2\">"},
+     "status = 1 group with another CPV now; boxes ~ dragging: Take the groups' CPV codes; saved ~ SMD 0805\" cpv=\"31712114-2\">"},
     {"datasheet", OPEN "<%/../in/a.pdf>materials@0/1,0 Return",
      "boxes = dragging: Attach a.pdf to M1 | Attach a file; status = 1 file attached to M1; "
      "files _files/datasheets/* = a.pdf; at = M1; saved ~ <file type=\"FILE_DATASHEET\" "
