@@ -76,6 +76,13 @@
             <numerusform>%n selected lists</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n difference</numerusform>
+            <numerusform>%n differences</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>

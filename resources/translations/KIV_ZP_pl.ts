@@ -284,6 +284,30 @@
         <source>All files</source>
         <translation>Wszystkie pliki</translation>
     </message>
+    <message>
+        <source>select one list, or two</source>
+        <translation>zaznacz jedną listę albo dwie</translation>
+    </message>
+    <message>
+        <source>Compare with</source>
+        <translation>Porównaj z</translation>
+    </message>
+    <message>
+        <source>The lists have the same parts</source>
+        <translation>Listy mają te same części</translation>
+    </message>
+    <message>
+        <source>Differences of two lists</source>
+        <translation>Różnice dwóch list</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n różnica</numerusform>
+            <numerusform>%n różnice</numerusform>
+            <numerusform>%n różnic</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -761,6 +785,10 @@
     <message>
         <source>Group for %1</source>
         <translation>Grupa dla %1</translation>
+    </message>
+    <message>
+        <source>Changes of the export</source>
+        <translation>Zmiany w eksporcie</translation>
     </message>
 </context>
 <context>
@@ -2463,6 +2491,14 @@
         <source>Make one firm of the selected ones, in the materials, too</source>
         <translation>Robi z zaznaczonych firm jedną, także w materiałach</translation>
     </message>
+    <message>
+        <source>Compare lists ...</source>
+        <translation>Porównaj listy ...</translation>
+    </message>
+    <message>
+        <source>What the second of two selected lists has otherwise than the first; with one selected a file is asked for</source>
+        <translation>Co druga z dwóch zaznaczonych list ma inaczej niż pierwsza; przy jednej zaznaczonej trzeba wskazać plik</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2569,6 +2605,18 @@
     <message>
         <source>quantity</source>
         <translation>ilość</translation>
+    </message>
+    <message>
+        <source>%1 before</source>
+        <translation>%1 przed</translation>
+    </message>
+    <message>
+        <source>%1 after</source>
+        <translation>%1 po</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Różnica</translation>
     </message>
 </context>
 <context>
@@ -5094,29 +5142,6 @@ Pola: %1</translation>
     <message>
         <source>Since the export of %1: %2</source>
         <translation>Od eksportu z %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>exportChangesDialog</name>
-    <message>
-        <source>Changes of the export</source>
-        <translation>Zmiany w eksporcie</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtr</translation>
-    </message>
-    <message>
-        <source>Show only what holds this text</source>
-        <translation>Pokaż tylko wiersze zawierające ten tekst</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopiuj</translation>
-    </message>
-    <message>
-        <source>Copy the selected lines, or all that are shown</source>
-        <translation>Kopiuje zaznaczone wiersze, a gdy żaden nie jest zaznaczony, wszystkie pokazane</translation>
     </message>
 </context>
 <context>
@@ -7820,6 +7845,25 @@ Pola: %1</translation>
     <message>
         <source>Your copy</source>
         <translation>Twoja kopia</translation>
+    </message>
+</context>
+<context>
+    <name>tableDialog</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filtr</translation>
+    </message>
+    <message>
+        <source>Show only what holds this text</source>
+        <translation>Pokaż tylko to, co zawiera ten tekst</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all that are shown</source>
+        <translation>Kopiuj zaznaczone wiersze albo wszystkie pokazane</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,12 @@
 #include "bom/Kiv_bomWindow.h"
 
 #include "bom/Kiv_bomViewWindow.h"
+#include "bom/bomDiff.h"
 #include "bom/bomImportWindow.h"
 #include "commands/cellBlock.h"
 #include "commands/editCommands.h"
 #include "data/programData.h"
+#include "dialogs/tableDialog.h"
 #include "tree/myHeaderView.h"
 #include "tree/myTreeView.h"
 #include "util/labels.h"
@@ -91,6 +93,10 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"collaps", "Tools", QT_TRANSLATE_NOOP("actions", "Collaps"), "action_collapse", nullptr,
       QT_TRANSLATE_NOOP("actions", "Close all groups"), true},
      &Kiv_bomWindow::commandCollaps},
+    {{"compare", "Tools", QT_TRANSLATE_NOOP("actions", "Compare lists ..."), "action_merge", "F7",
+      QT_TRANSLATE_NOOP("actions", "What the second of two selected lists has otherwise than the "
+                                   "first; with one selected a file is asked for")},
+     &Kiv_bomWindow::commandCompare},
     // "All Quantities ..." of the context menu.
     {{"setAll", nullptr, QT_TRANSLATE_NOOP("actions", "Set all quantities"), "zp_quantity_128",
       nullptr, nullptr},
@@ -211,6 +217,8 @@ void Kiv_bomWindow::updateActions()
         setAvailable(name, !files.isEmpty(), tr("there is no list"));
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));
+    const int selected = int(selectedFiles().size());
+    setAvailable("compare", selected == 1 || selected == 2, tr("select one list, or two"));
     for (const char *name : {"delete", "fillDown", "copyCells", "pasteCells"})
         setAvailable(name, !m_view->markedCells().isEmpty(), tr("nothing is selected"));
     m_counts->setText(tr("%n list(s)", nullptr, int(files.size())) + QLatin1String(", ")
@@ -220,8 +228,8 @@ void Kiv_bomWindow::updateActions()
 void Kiv_bomWindow::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
-    for (const char *name :
-         {"addFile", "addGroup", "setAll", "", "open", "bom", "csv", "doc", "", "delete"})
+    for (const char *name : {"addFile", "addGroup", "setAll", "", "open", "bom", "csv", "doc",
+                             "compare", "", "delete"})
         if (*name)
             menu.addAction(action(name));
         else
@@ -414,6 +422,50 @@ void Kiv_bomWindow::commandImport(bool)
     m_import->activateWindow();
     if (!m_import->openList(path))
         m_import->close();
+}
+
+void Kiv_bomWindow::commandCompare(bool)
+{
+    const QList<QStandardItem *> files = selectedFiles();
+    readLists selected = read(files);
+    if (!selected.complete)
+        return;
+    QStringList paths;
+    for (const QStandardItem *file : files)
+        paths.append(pathOf(file));
+    if (paths.size() == 1) {
+        const QString other =
+            userPrompts().openFile(tr("Compare with"), QFileInfo(paths.first()).path(),
+                                   tr("Xml File") + QLatin1String(" (*.xml)"));
+        if (other.isEmpty())
+            return;
+        paths.append(other);
+        QString fault;
+        selected.boms.push_back(std::make_unique<kiv_mat_bomStruct>());
+        if (!bomOperations::readBom(other, selected.boms.back().get(), &fault)) {
+            userPrompts().showError(fault);
+            return;
+        }
+    }
+    if (selected.boms.size() != 2)
+        return;
+    const std::vector<bomDifference> differences =
+        compareBoms(*selected.boms[0], *selected.boms[1]);
+    if (differences.empty()) {
+        tell(tr("The lists have the same parts"));
+        return;
+    }
+    QList<QStringList> rows;
+    for (const bomDifference &row : differences)
+        rows.append(cellsOf(row));
+    const readTable table{tr("Differences of two lists"),
+                          QDir::toNativeSeparators(paths.at(0)) + QLatin1String(" \u2192 ")
+                              + QDir::toNativeSeparators(paths.at(1)) + QLatin1Char('\n')
+                              + tr("%n difference(s)", nullptr, int(differences.size())),
+                          bomDifferenceCaptions(),
+                          rows,
+                          {110, 190, 60, 160, 170, 60, 160, 170}};
+    (new tableDialog(table, this))->show();
 }
 
 // Below the current category; without one a category of its own.

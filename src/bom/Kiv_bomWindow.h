@@ -50,6 +50,7 @@ public slots:
     // Of the context menu, on the current row.
     void commandAddFile(bool);
     void commandImport(bool);
+    void commandCompare(bool);
     void commandAddGroup(bool);
     void commandDelete(bool);
     void commandOpen(bool);

@@ -2,6 +2,7 @@
 
 #include "bom/partsTexts.h"
 #include "util/decimal.h"
+#include "util/labels.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -172,6 +173,29 @@ QString nameOf(bomDifference::kind kind)
 {
     static const std::array<const char *, 4> names{"added", "removed", "exchanged", "quantity"};
     return QLatin1String(names[size_t(kind)]);
+}
+
+QStringList bomDifferenceCaptions()
+{
+    const auto translated = [](const char *text) {
+        return QCoreApplication::translate("bomDiff", text);
+    };
+    const QString before = translated(QT_TRANSLATE_NOOP("bomDiff", "%1 before"));
+    const QString after = translated(QT_TRANSLATE_NOOP("bomDiff", "%1 after"));
+    QStringList captions{translated(QT_TRANSLATE_NOOP("bomDiff", "Difference")),
+                         labels::designator()};
+    for (const QString &form : {before, after})
+        for (const QString &what : {labels::quantity(), labels::ktm(), labels::name()})
+            captions.append(form.arg(what));
+    return captions;
+}
+
+QStringList cellsOf(const bomDifference &row)
+{
+    return {textOf(row.what),   row.designators.join(QLatin1String(", ")),
+            row.quantityBefore, row.ktmBefore,
+            row.nameBefore,     row.quantityAfter,
+            row.ktmAfter,       row.nameAfter};
 }
 
 QString lineOf(const bomDifference &row)

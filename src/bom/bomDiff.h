@@ -32,5 +32,8 @@ std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &before,
 // For the user, and for files.
 QString textOf(bomDifference::kind kind);
 QString nameOf(bomDifference::kind kind);
+// Captions and cells of a table: what, designators, then quantity, KTM and name, before and after.
+QStringList bomDifferenceCaptions();
+QStringList cellsOf(const bomDifference &difference);
 // "~ R1, R2: 2 x K1 a -> K2 b", "+ C9: 1 x K3 c", "- ...", "= K4 d: 3 -> 5".
 QString lineOf(const bomDifference &difference);

@@ -127,7 +127,7 @@ const foundColumn foundColumns[] = {
     {labels::name, 200, [](const materialStruct &m) { return m.d_name; }},
     {labels::value, 90, [](const materialStruct &m) { return m.d_value; }},
     {labels::case_, 110, [](const materialStruct &m) { return m.d_case; }},
-    {labels::status, 80, [](const materialStruct &m) { return m.information.status; }},
+    {labels::status, 80, [](const materialStruct &m) { return labels::shown(m.information.status); }},
     {labels::inWarehouse, 80, [](const materialStruct &m) { return m.d_inWarehouse; }},
     {labels::price, 80, [](const materialStruct &m) { return numbers::price(m.d_price); }},
     {labels::description, 220, [](const materialStruct &m) { return m.d_description; }},
@@ -305,7 +305,7 @@ QWidget *bomImportWindow::linesPage()
     m_view = newTable("lines", tr("Lines"), m_shown, page);
     m_view->setSortingEnabled(true);
     m_view->header()->setSortIndicator(-1, Qt::AscendingOrder);
-    constexpr int widths[] = {110, 190, 70, 230, 160, 190, 180, 200};
+    constexpr int widths[] = {140, 190, 70, 230, 160, 190, 180, 200};
     for (int i = 0; i < int(std::size(widths)); ++i)
         m_view->header()->resizeSection(i, widths[i]);
     auto *top = new QHBoxLayout;

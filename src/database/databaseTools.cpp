@@ -10,11 +10,11 @@
 #include "database/databaseChecks.h"
 #include "database/databaseReport.h"
 #include "database/databaseRowsTarget.h"
-#include "database/exportChangesDialog.h"
 #include "database/findingsWindow.h"
 #include "database/linkOperations.h"
 #include "database/warehouseListing.h"
 #include "dialogs/changesDialog.h"
+#include "dialogs/tableDialog.h"
 #include "tree/myTreeView.h"
 #include "util/desktop.h"
 #include "util/labels.h"
@@ -158,9 +158,20 @@ void Kiv_mat_databaseWindow::tellLibrary(const exportResult &result)
     tellExport(result);
     if (result.result != exportResult::done)
         return;
-    if (!result.changes.rows.empty())
-        (new exportChangesDialog(result.changes, result.files.value(0), this))->show();
-    tell(statusBar()->currentMessage() + QLatin1String(". ") + summaryOf(result.changes));
+    const QString summary = summaryOf(result.changes);
+    if (!result.changes.rows.empty()) {
+        QList<QStringList> rows;
+        for (const exportChange &change : result.changes.rows)
+            rows.append(cellsOf(change));
+        const readTable table{tr("Changes of the export"),
+                              QDir::toNativeSeparators(result.files.value(0)) + QLatin1Char('\n')
+                                  + summary,
+                              changeCaptions(),
+                              rows,
+                              {130, 190, 160, 180, 110, 150}};
+        (new tableDialog(table, this))->show();
+    }
+    tell(statusBar()->currentMessage() + QLatin1String(". ") + summary);
 }
 
 // --- Reports and exports

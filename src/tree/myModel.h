@@ -117,7 +117,7 @@ public:
     // Has cells that were fetched show other records below them, in one change of the layout.
     // Cells that were made stay what they are, and come back with their record.
     using shownRecords = std::pair<myItem::myItemStandard *, std::vector<xmlData *>>;
-    void showRecords(std::vector<shownRecords> wanted);
+    void showRecords(std::vector<shownRecords> &&wanted);
     // Puts a row into the tree again that showRecords() took out, by its first cell; null is
     // nothing. False when it is not in the tree then.
     bool bringBack(myItem::myItemStandard *first);

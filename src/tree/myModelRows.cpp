@@ -379,7 +379,7 @@ private:
     std::vector<keptIndex> m_kept;
 };
 
-void myModel::showRecords(std::vector<shownRecords> wanted)
+void myModel::showRecords(std::vector<shownRecords> &&wanted)
 {
     std::vector<shownRecords> changed;
     for (auto &[parent, records] : wanted) {

@@ -12,7 +12,6 @@
 #include <QTextCodec>
 
 using namespace testSupport;
-using bomImport::state;
 
 namespace {
 

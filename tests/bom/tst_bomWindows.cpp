@@ -37,6 +37,8 @@ const scenario setActions[] = {
     {SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
     {SETS, "#report Ctrl+A '%/p' !fileTypeCombo Down Return !fileNameEdit Return",
      "file p.pdf ~ PDF-1; files p.html ="},
+    {"boms@0/0/0,0 +boms@2/0/0,0", "#compare", "front = Differences of two lists"},
+    {"boms@0/0/0,0", "#compare '%/" LIST "' Return", "status = The lists have the same parts"},
     {"", "#import '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts"},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
     {"", "#versions", "front = Versions and unsaved orders"},
@@ -80,6 +82,28 @@ const scenario listActions[] = {
      edits},
     {"", "#find 'R9' ~100", "counts = 2 lines, 0 of them unknown, 0 found", reads},
     {"", "#sum Return", "boxes ~ Information: ", reads},
+};
+
+// A material of the database, and two that it does not have.
+const scenario importActions[] = {
+    {"", "#open '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts; lines = 3"},
+    {"", "#set Ctrl+A '%/_files/boms/in.xml' Return",
+     "file _files/boms/in.xml ~ <d_ktm>" KNOWN "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
+     "files _files/*.csv ="},
+    {"lines@1,0 'STM32F103C8' Return", "#set Ctrl+A '%/_files/boms/in.xml' Return",
+     "file _files/boms/in.xml ~ <d_designator>U1, U2</d_designator>; file _files/bom_decisions.csv ~ " KNOWN},
+    {"", "#report Ctrl+A '%/r.csv' Return", "file r.csv ~ NOSUCH-1; status ~ r.csv"},
+    {"", "#decisions", "status = Nothing was decided yet"},
+    {"lines@1,0 #leaveOut", "#undo", "lines@1,0 = unknown"},
+    {"lines@1,0 #leaveOut Ctrl+Z", "#redo", "lines@1,0 = left out"},
+    {"lines@1,0 'STM32F103C8'", "#take", "lines@1,0 = matched; lines@1,4 = " KNOWN},
+    {"lines@0,0", "#unmatch", "lines@0,0 = choose of 1"},
+    {"lines@1,0", "#leaveOut", "lines@1,0 = left out"},
+    {"lines@0,0", "#next", "at = unknown"},
+    {"lines@1,0", "#matchAgain", "lines@1,0 = unknown; lines@0,0 = matched"},
+    {"lines@1,0", "#newMaterial Return Return", "front = New material; material@0/2,1 = NOSUCH-1"},
+    {"", "#close", "title = closed"},
+    {"lines@1,0 #leaveOut", "#close !No", "boxes ~ not written yet; title ~ in.csv"},
 };
 
 const scenario scenarios[] = {
@@ -151,6 +175,8 @@ class tst_bomWindows : public scenarioFixture
         write("_files/boms/konwerter_rs232_usb.xml", KNOWN, "1.5");
         write("_files/boms/przedwzmacniacz_audio.xml", "NONE-1", "2,5");
         write("far.xml", "NONE-1", "1");
+        testSupport::write(path("in.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n"
+                                           "U2,1,,NOSUCH-1\nU3,2,,NOSUCH-2\n");
         QByteArray order = testSupport::read(path("_zp/zp_0.xml"));
         order.replace(order.indexOf("<unit>pcs."), 10, "<unit>");
         testSupport::write(path("_zp/zp_0.xml"), order);
@@ -163,6 +189,7 @@ class tst_bomWindows : public scenarioFixture
     {
         return {{"Ctrl+B", false, setActions},
                 {"Ctrl+B|boms@0/0/0,0 Return|Ctrl+E", true, listActions},
+                {"Ctrl+B|#import '%/in.csv' Return", false, importActions},
                 {nullptr, false, scenarios}};
     }
 

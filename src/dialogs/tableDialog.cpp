@@ -1,4 +1,4 @@
-#include "database/exportChangesDialog.h"
+#include "dialogs/tableDialog.h"
 
 #include "util/text.h"
 
@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,19 +16,18 @@
 
 namespace {
 
-// All the changes, of which a table asks for those in sight.
-class changesModel : public QAbstractTableModel
+class rowsModel : public QAbstractTableModel
 {
 public:
-    changesModel(std::vector<exportChange> rows, QObject *parent)
+    rowsModel(QStringList captions, QList<QStringList> rows, QObject *parent)
         : QAbstractTableModel(parent)
+        , m_captions(std::move(captions))
         , m_rows(std::move(rows))
-        , m_captions(changeCaptions())
     {
     }
     int rowCount(const QModelIndex &parent = {}) const override
     {
-        return parent.isValid() ? 0 : int(m_rows.size());
+        return parent.isValid() ? 0 : m_rows.size();
     }
     int columnCount(const QModelIndex &parent = {}) const override
     {
@@ -39,7 +37,7 @@ public:
     {
         if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
             return {};
-        const QString cell = cellsOf(m_rows[size_t(index.row())]).at(index.column());
+        const QString cell = m_rows.at(index.row()).at(index.column());
         return role == Qt::ToolTipRole ? text::toolTip(cell) : cell;
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
@@ -50,27 +48,25 @@ public:
     }
 
 private:
-    std::vector<exportChange> m_rows;
     QStringList m_captions;
+    QList<QStringList> m_rows;
 };
 
 } // namespace
 
-exportChangesDialog::exportChangesDialog(exportChanges changes, const QString &path,
-                                         QWidget *parent)
+tableDialog::tableDialog(readTable table, QWidget *parent)
     : QDialog(parent)
 {
-    setObjectName(QStringLiteral("exportChanges"));
+    setObjectName(QStringLiteral("tableDialog"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(tr("Changes of the export"));
-    auto *summary =
-        new QLabel(QDir::toNativeSeparators(path) + QLatin1Char('\n') + summaryOf(changes), this);
+    setWindowTitle(table.title);
+    auto *summary = new QLabel(table.summary, this);
     summary->setTextFormat(Qt::PlainText);
     summary->setWordWrap(true);
     summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *rows = new QSortFilterProxyModel(this);
-    rows->setSourceModel(new changesModel(std::move(changes.rows), this));
+    rows->setSourceModel(new rowsModel(std::move(table.captions), std::move(table.rows), this));
     rows->setFilterKeyColumn(-1);
     rows->setFilterCaseSensitivity(Qt::CaseInsensitive);
     auto *filter = new QLineEdit(this);
@@ -81,7 +77,7 @@ exportChangesDialog::exportChangesDialog(exportChanges changes, const QString &p
     connect(filter, &QLineEdit::textChanged, rows, &QSortFilterProxyModel::setFilterFixedString);
 
     auto *view = new QTreeView(this);
-    view->setObjectName(QStringLiteral("changes"));
+    view->setObjectName(QStringLiteral("rows"));
     view->setAccessibleName(windowTitle());
     view->setModel(rows);
     view->setRootIsDecorated(false);
@@ -89,11 +85,10 @@ exportChangesDialog::exportChangesDialog(exportChanges changes, const QString &p
     view->setAlternatingRowColors(true);
     view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view->setSortingEnabled(true);
-    // In the order of the file until the user sorts.
+    // As given until the user sorts.
     view->sortByColumn(-1, Qt::AscendingOrder);
-    constexpr int widths[] = {130, 190, 160, 180, 110, 150};
-    for (int column = 0; column < int(std::size(widths)); ++column)
-        view->header()->resizeSection(column, widths[column]);
+    for (int column = 0; column < table.widths.size(); ++column)
+        view->header()->resizeSection(column, table.widths.at(column));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton *copy = buttons->addButton(tr("Copy"), QDialogButtonBox::ActionRole);
