@@ -140,10 +140,9 @@ void editMaterial(benchmark::State &state)
     Kiv_mat_databaseWindow window(programData::instance(), programData::warehouse);
     window.show();
     window.commandEdit(true);
-    const int last = window.model()->rowCount() - 1;
-    window.view()->expand(window.model()->index(last, 0));
+    window.view()->expand(window.model()->index(0, 0));
     settle();
-    QStandardItem *group = window.model()->item(last);
+    QStandardItem *group = window.model()->item(0);
     int value = 0;
     double worst = 0;
     for (auto _ : state) {
@@ -157,7 +156,7 @@ void editMaterial(benchmark::State &state)
                 window.model()->setValue(cell(0), QString::number(value));
             else
                 window.stack().push(
-                    std::make_unique<deleteFromItem>(group, cell(group->rowCount() - 1)));
+                    std::make_unique<deleteFromItem>(group, cell(window.model()->rowCount(group->index()) - 1)));
             settle();
         });
         worst = std::max(worst, seconds);
@@ -212,7 +211,7 @@ void openGroup(benchmark::State &state)
                    settle();
                }),
                0.02);
-    state.counters["materials"] = window.model()->item(0)->rowCount();
+    state.counters["materials"] = window.model()->rowCount(window.model()->index(0, 0));
 }
 
 // Texts typed key by key into the search field and taken back: the slowest key. Groups with matches

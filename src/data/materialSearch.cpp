@@ -200,13 +200,9 @@ void materialSearch::learn(const searchQuery &query)
         knownTerm &added = terms.emplace_back();
         added.term = term;
         added.ranks.assign(m_all.size(), unknown);
-        if (term.number) {
-            added.fits.reserve(m_numbers.size());
-            for (const std::optional<quantity> &number : m_numbers)
-                added.fits.push_back(number && holds(term, *number));
-        }
     }
     m_terms = std::move(terms);
+    extendFits();
 }
 
 materialSearch::rankKind materialSearch::rankOfTerm(const place &at, const knownTerm &known) const
@@ -280,6 +276,36 @@ bool materialSearch::fieldFits(const place &at, const knownTerm &known) const
     return false;
 }
 
+// Numbers that came with a change.
+void materialSearch::extendFits()
+{
+    for (knownTerm &known : m_terms)
+        if (known.term.number)
+            for (size_t i = known.fits.size(); i < m_numbers.size(); ++i)
+                known.fits.push_back(m_numbers[i] && holds(known.term, *m_numbers[i]));
+}
+
+bool materialSearch::meets(const place &at, quint32 &sum, const size_t *keptAt)
+{
+    for (size_t t = 0; t < m_terms.size();) {
+        const searchTerm &first = m_terms[t].term;
+        rankKind best = absent;
+        for (; t < m_terms.size() && m_terms[t].term.group == first.group; ++t) {
+            rankKind rank = keptAt ? m_terms[t].ranks[*keptAt] : unknown;
+            if (rank == unknown) {
+                rank = rankOfTerm(at, m_terms[t]);
+                if (keptAt)
+                    m_terms[t].ranks[*keptAt] = rank;
+            }
+            best = std::min(best, rank);
+        }
+        if ((best != absent) == first.negated)
+            return false;
+        sum += first.negated ? 0 : best;
+    }
+    return true;
+}
+
 void materialSearch::search(const searchQuery &query)
 {
     if (m_current && query == m_query)
@@ -293,20 +319,7 @@ void materialSearch::search(const searchQuery &query)
         if (!at.owner.material)
             continue;
         quint32 sum = 0;
-        bool all = true;
-        for (size_t t = 0; t < m_terms.size() && all;) {
-            const searchTerm &first = m_terms[t].term;
-            rankKind best = absent;
-            for (; t < m_terms.size() && m_terms[t].term.group == first.group; ++t) {
-                rankKind &rank = m_terms[t].ranks[i];
-                if (rank == unknown)
-                    rank = rankOfTerm(at, m_terms[t]);
-                best = std::min(best, rank);
-            }
-            all = (best != absent) != first.negated;
-            sum += first.negated ? 0 : best;
-        }
-        if (!all)
+        if (!meets(at, sum, &i))
             continue;
         if (!query.phrase().empty()
             && rankOfWord(std::string_view(at.text).substr(0, at.keyLength + 1), at.keyLength,
@@ -333,11 +346,31 @@ materialSearch::result materialSearch::find(const searchQuery &query, int limit)
     return found;
 }
 
+// They are mostly asked for one after the other.
+std::optional<quint32> materialSearch::placeOf(const materialStruct *material)
+{
+    if (m_next >= m_all.size() || m_all[m_next].owner.material != material) {
+        const auto known = m_places.constFind(material);
+        if (known == m_places.constEnd())
+            return {};
+        m_next = *known;
+    }
+    return quint32(m_next++);
+}
+
 bool materialSearch::matches(const materialStruct *material, const searchQuery &query)
 {
-    search(query);
-    const auto known = m_places.constFind(material);
-    return known != m_places.constEnd() && m_matched[*known];
+    const bool isAnswered = query == m_query && !m_terms.empty();
+    if (!isAnswered)
+        search(query);
+    const std::optional<quint32> known = placeOf(material);
+    if (!known || m_current)
+        return known && m_matched[*known];
+    // Only a few have changed since, of which each is looked at for itself.
+    prepare();
+    extendFits();
+    quint32 sum = 0;
+    return meets(m_all[*known], sum, nullptr);
 }
 
 const std::vector<materialSearch::fieldValue> &materialSearch::values(

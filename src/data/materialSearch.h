@@ -116,11 +116,17 @@ private:
     static int rankOfWord(std::string_view text, size_t keyLength, std::string_view word);
     rankKind rankOfTerm(const place &at, const knownTerm &known) const;
     bool fieldFits(const place &at, const knownTerm &known) const;
+    void extendFits();
+    // Whether a place meets the conditions, and the sum of its ranks; keptAt is where they are
+    // kept, if they are.
+    bool meets(const place &at, quint32 &sum, const size_t *keptAt);
+    std::optional<quint32> placeOf(const materialStruct *material);
     // Fills m_hits and m_matched, unless they answer this query already.
     void search(const searchQuery &query);
 
     std::vector<place> m_all;
     QHash<const materialStruct *, quint32> m_places;
+    size_t m_next = 0;  // the place that is probably asked for next
     size_t m_read = 0;  // places whose texts are read
     std::string m_text; // of the place that is read, kept to spare allocations
 

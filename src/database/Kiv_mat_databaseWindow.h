@@ -190,6 +190,7 @@ private:
     void setFilter(const char *name, const QString &word, bool on);
     void applyFilter();
     void showGroups();
+    void closeOpened();
     void showHint();
     void deselectUnmatched();
     bool matches(const materialStruct &material) const;
@@ -229,6 +230,7 @@ private:
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
     QLabel *m_hint; // in the tree that shows nothing
+    std::vector<QPersistentModelIndex> m_opened; // groups that a search opened
     QString m_filledInto; // the group that the last filled-in material went to
     searchLine *m_words = nullptr;
     detailsPane *m_details = nullptr;

@@ -94,10 +94,23 @@ void Kiv_mat_databaseWindow::deselectUnmatched()
         m_view->selectionModel()->setCurrentIndex(current.parent(), QItemSelectionModel::NoUpdate);
 }
 
+// What a search opened closes again when it finds too much to look through, which would have all of
+// it laid out; where the cursor is stays open.
+void Kiv_mat_databaseWindow::closeOpened()
+{
+    const QModelIndex current = m_view->currentIndex();
+    m_view->expandRows({}); // laid out once, after all of them
+    for (const QPersistentModelIndex &group : std::exchange(m_opened, {}))
+        if (group.isValid() && current.parent() != group)
+            m_view->collapse(group);
+}
+
 void Kiv_mat_databaseWindow::applyFilter()
 {
     m_query = m_words->query();
     const bool searching = !m_query.terms().empty();
+    if (!m_opened.empty() && (!searching || known().search().find(m_query, 0).total > openedMatches))
+        closeOpened();
     if (searching || m_editedFilter || !m_statusFilter.isEmpty()) {
         deselectUnmatched();
         m_rows->setFilter([this](const materialStruct &material) { return matches(material); });
@@ -109,8 +122,10 @@ void Kiv_mat_databaseWindow::applyFilter()
         std::vector<QStandardItem *> matching;
         for (const auto &group : m_rows->database().groups)
             if (QStandardItem *item = m_rows->groupItem(group.get());
-                item && m_rows->shownIn(group.get()) > 0)
+                item && m_rows->shownIn(group.get()) > 0 && !m_view->isExpanded(item->index())) {
                 matching.push_back(item);
+                m_opened.emplace_back(item->index());
+            }
         m_view->expandRows(matching);
     }
     QString told = m_query.errors().join(QLatin1String(", "));

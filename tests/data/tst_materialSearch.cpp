@@ -55,7 +55,7 @@ private slots:
         row("opis:=\"ceramiczny X7R\"", "C1");
         row("price:>\"1000\" active:n", "D1");
         row("opis:x7r|\"drutowy 16\"", "R2 C1");
-        row.each({"!opis:x", "-opis:x", "-opis:=x", "! !opis:x", "!opis:x|"}, "R1 R2 S1");
+        row.each({"!opis:x", "-opis:x", "! !opis:x", "!opis:x|"}, "R1 R2 S1");
     }
 
     void queries()
