@@ -957,6 +957,13 @@
             <numerusform>%n in no database</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n to be ordered</source>
+        <translation>
+            <numerusform>%n to be ordered</numerusform>
+            <numerusform>%n to be ordered</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>options</name>

@@ -2843,6 +2843,22 @@
         <source>Known</source>
         <translation>W bazie</translation>
     </message>
+    <message>
+        <source>In this order</source>
+        <translation>W zamówieniu</translation>
+    </message>
+    <message>
+        <source>To order</source>
+        <translation>Do zamówienia</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Kwota</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Potem</translation>
+    </message>
 </context>
 <context>
     <name>bomTree</name>
@@ -3980,6 +3996,14 @@ Pola: %1</translation>
     <message>
         <source>Changes a field of all materials that a search finds, and writes the database; the file as it was is kept among its versions. Nothing is written when one of them is refused.</source>
         <translation>Zmienia pole wszystkich materiałów, które znajdzie wyszukiwanie, i zapisuje bazę; dotychczasowy plik zostaje wśród jego wersji. Gdy choć jeden materiał zostanie odrzucony, nic nie jest zapisywane.</translation>
+    </message>
+    <message>
+        <source>Order only what ORDER lacks of what is needed.</source>
+        <translation>Zamawiaj tylko to, czego w ORDER brakuje do zapotrzebowania.</translation>
+    </message>
+    <message>
+        <source>--short and --top-up exclude each other</source>
+        <translation>--short i --top-up wykluczają się</translation>
     </message>
 </context>
 <context>
@@ -7090,6 +7114,54 @@ Pola: %1</translation>
     <message>
         <source>Add to the order</source>
         <translation>Dodaj do zamówienia</translation>
+    </message>
+    <message>
+        <source>What the order lacks of what is needed</source>
+        <translation>Czego w zamówieniu brakuje do zapotrzebowania</translation>
+    </message>
+    <message>
+        <source>Mark &amp;all</source>
+        <translation>Zaznacz &amp;wszystko</translation>
+    </message>
+    <message>
+        <source>Mark &amp;none</source>
+        <translation>&amp;Odznacz wszystko</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Save as ...</source>
+        <translation>&amp;Zapisz jako ...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to be ordered</source>
+        <translation>
+            <numerusform>%n do zamówienia</numerusform>
+            <numerusform>%n do zamówienia</numerusform>
+            <numerusform>%n do zamówienia</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing would be ordered</source>
+        <translation>nic nie zostałoby zamówione</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Xlsx File</source>
+        <translation>Plik Xlsx</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
     </message>
 </context>
 <context>

@@ -184,36 +184,78 @@ std::vector<const need *> shortagesOf(const demand &of)
     return list;
 }
 
+namespace {
+
+// What becomes of a need, with the line that it raises.
+struct decision
+{
+    orderedNeed row;
+    std::optional<orderChange> raising;
+};
+
+decision decide(const need &one, const kiv_mat_zpStruct &order, const std::vector<int> &there,
+                amount which, present existing)
+{
+    decision made;
+    orderedNeed &row = made.row;
+    row.of = &one;
+    if (one.isKnown())
+        for (const int i : there) {
+            const orderItemStruct &line = *order.orderItems.items[size_t(i)];
+            const auto quantity = decimal::read(line.quantity);
+            if (quantity && (line.unit.isEmpty() || line.unit == unitOf(*one.material)))
+                row.inOrder += *quantity;
+        }
+    row.wanted = which == amount::needed     ? one.needed
+                 : which == amount::shortage ? one.shortage()
+                                             : qMax(decimal(), one.needed - row.inOrder);
+    if (row.wanted == decimal() || !one.isKnown())
+        return made;
+    if (existing == present::raise)
+        made.raising = raise(order, there, *one.material, row.wanted);
+    row.isSkipped =
+        !made.raising && !there.empty() && (existing == present::skip || isTakenOnce(one.ktm));
+    row.toOrder = row.isSkipped ? decimal() : row.wanted;
+    return made;
+}
+
+} // namespace
+
+std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order, amount which,
+                                      present existing)
+{
+    const lineIndex lines = indexOf(order);
+    std::vector<orderedNeed> rows;
+    rows.reserve(of.needs.size());
+    for (const need &one : of.needs)
+        rows.push_back(decide(one, order, lines.value(one.ktm), which, existing).row);
+    return rows;
+}
+
 orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
-                 const QDate &wait)
+                 const QDate &wait, const std::function<bool(const need &)> &isChosen)
 {
     orderPlan plan;
     const lineIndex lines = indexOf(order);
     size_t count = order.orderItems.items.size();
     for (const need &one : of.needs) {
-        const decimal wanted = which == amount::needed ? one.needed : one.shortage();
-        if (wanted == decimal())
+        if (isChosen && !isChosen(one))
+            continue;
+        decision made = decide(one, order, lines.value(one.ktm), which, existing);
+        if (made.row.wanted == decimal())
             continue;
         if (!one.isKnown()) {
             plan.unknown.push_back(&one);
-            continue;
-        }
-        const std::vector<int> there = lines.value(one.ktm);
-        std::optional<orderChange> raising;
-        if (existing == present::raise)
-            raising = raise(order, there, *one.material, wanted);
-        if (raising) {
-            plan.changes.push_back(std::move(*raising));
-            continue;
-        }
-        if (!there.empty() && (existing == present::skip || isTakenOnce(one.ktm))) {
+        } else if (made.raising) {
+            plan.changes.push_back(std::move(*made.raising));
+        } else if (made.row.isSkipped) {
             ++plan.skipped;
-            continue;
+        } else {
+            orderChange &change = plan.changes.emplace_back();
+            change.quantity = made.row.toOrder.text();
+            change.added = orderOperations::newLine(*one.material, order, change.quantity, wait);
+            change.added->index = QString::number(++count);
         }
-        orderChange &change = plan.changes.emplace_back();
-        change.quantity = wanted.text();
-        change.added = orderOperations::newLine(*one.material, order, change.quantity, wait);
-        change.added->index = QString::number(++count);
     }
     return plan;
 }

@@ -11,6 +11,7 @@
 #include <QDate>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace bomOperations {
@@ -92,7 +93,8 @@ std::vector<const need *> shortagesOf(const demand &of);
 enum class amount
 {
     needed,
-    shortage
+    shortage,
+    topUp // what is needed beyond what the order has already
 };
 
 // What becomes of a material that the order has already.
@@ -102,6 +104,22 @@ enum class present
     add,   // the amount becomes a line of its own
     skip   // the order has enough of it
 };
+
+// A need beside the order that it goes into.
+struct orderedNeed
+{
+    const need *of;
+    decimal inOrder; // of the lines with the material's unit whose quantity is a number
+    decimal wanted;
+    // The part of it that is ordered: nothing of an unknown material, and of one that is skipped.
+    decimal toOrder;
+    bool isSkipped = false;
+
+    decimal after() const { return inOrder + toOrder; }
+};
+// In the order of the needs.
+std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order, amount which,
+                                      present existing);
 
 // One change of an order: another quantity for line number "line", or, when that is -1, a line to
 // append. Lines are to be appended in the order of the changes.
@@ -121,9 +139,9 @@ struct orderPlan
 // Changes nothing: a window applies the changes as one undo step. A line is raised only when its
 // quantity is a number or empty and its unit is the material's; else the amount becomes a line of
 // its own, as nothing else would be right. Materials of which an order takes one line (shipment,
-// PCB) are never doubled. Amounts of nothing make no change.
+// PCB) are never doubled. Amounts of nothing make no change. isChosen leaves needs out.
 orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
-                 const QDate &wait);
+                 const QDate &wait, const std::function<bool(const need &)> &isChosen = {});
 
 // Where a plan is carried out: on the order alone, or in a window, which keeps its rows and its
 // undo history in step.

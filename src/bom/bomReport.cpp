@@ -3,6 +3,7 @@
 #include "report/html.h"
 #include "report/sourceNames.h"
 #include "util/labels.h"
+#include "util/numbers.h"
 #include "util/text.h"
 
 #include <QCoreApplication>
@@ -197,6 +198,84 @@ QString needText(const need &of, needColumn column)
     default:
         return {};
     }
+}
+
+QString workCaption(workColumn column)
+{
+    switch (column) {
+    case workKtm:
+        return labels::ktm();
+    case workName:
+        return labels::name();
+    case workNeeded:
+        return tr("Needed");
+    case workInStock:
+        return labels::inWarehouse();
+    case workShort:
+        return tr("Short");
+    case workInOrder:
+        return tr("In this order");
+    case workToOrder:
+        return tr("To order");
+    case workAfter:
+        return tr("Then");
+    case workUnit:
+        return labels::unit();
+    case workPrice:
+        return labels::price();
+    case workAmount:
+        return tr("Amount");
+    case workSupplier:
+        return labels::suppliers();
+    default:
+        return {};
+    }
+}
+
+QString workText(const orderedNeed &row, workColumn column)
+{
+    const materialStruct *material = row.of->material;
+    switch (column) {
+    case workKtm:
+        return row.of->ktm;
+    case workName:
+        return row.of->name;
+    case workNeeded:
+        return row.of->needed.text();
+    case workInStock:
+        return needText(*row.of, inStockColumn);
+    case workShort:
+        return row.of->shortage().text();
+    case workInOrder:
+        return row.inOrder == decimal() ? QString() : row.inOrder.text();
+    case workToOrder:
+        return row.toOrder == decimal() ? QString() : row.toOrder.text();
+    case workAfter:
+        return row.after() == decimal() ? QString() : row.after().text();
+    case workUnit:
+        return material ? labels::shown(material->d_unit) : QString();
+    case workPrice:
+        return material ? numbers::price(material->d_price) : QString();
+    case workAmount: {
+        const auto price = material ? decimal::read(material->d_price) : std::nullopt;
+        return price && row.toOrder > decimal() ? (*price * row.toOrder).money() : QString();
+    }
+    case workSupplier: {
+        QStringList names;
+        if (material)
+            for (const auto &supplier : material->suppliers.items)
+                names.append(supplier->name);
+        return names.join(QLatin1String(", "));
+    }
+    default:
+        return {};
+    }
+}
+
+bool isNumber(workColumn column)
+{
+    return (column >= workNeeded && column <= workAfter) || column == workPrice
+           || column == workAmount;
 }
 
 QString csv(const kiv_mat_bomStruct &bom, const ktmIndex &materials)

@@ -31,6 +31,27 @@ enum needColumn
 QString needCaption(needColumn column);
 QString needText(const bomOperations::need &of, needColumn column);
 
+// A cell of the table of needs beside an order; what is unknown is empty.
+enum workColumn
+{
+    workKtm,
+    workName,
+    workNeeded,
+    workInStock,
+    workShort,
+    workInOrder,
+    workToOrder,
+    workAfter,
+    workUnit,
+    workPrice,
+    workAmount, // of what is to be ordered
+    workSupplier,
+    workColumns
+};
+QString workCaption(workColumn column);
+QString workText(const bomOperations::orderedNeed &of, workColumn column);
+bool isNumber(workColumn column);
+
 // One line "KTM, tab, quantity" for each line of the list, "!!!!!" before a KTM that no database
 // has. Tabs and line ends within a text become blanks.
 QString csv(const kiv_mat_bomStruct &bom, const ktmIndex &materials);

@@ -1,25 +1,53 @@
-// What BOM lists need, before anything goes into the order: a table of the materials, and how the
-// order takes them.
+// What BOM lists need, before anything goes into the order: a table of the materials beside the
+// order, of which the ticked ones are taken.
 #pragma once
 
 #include "bom/bomOperations.h"
 
 #include <QDialog>
 
+class QLabel;
+class QPushButton;
 class QRadioButton;
+class QTreeWidget;
+class QTreeWidgetItem;
 
 class needsDialog : public QDialog
 {
     Q_OBJECT
 public:
-    // sums are those of all lists with their sets.
-    needsDialog(const bomOperations::demand &of, const lineSums &sums, QWidget *parent);
+    // The needs and the order outlive it; proposed is the path of a file for the table.
+    needsDialog(const bomOperations::demand &of, const kiv_mat_zpStruct &order,
+                const QString &proposed, QWidget *parent);
 
     bomOperations::amount wantedAmount() const;
     bomOperations::present existing() const;
+    // Whether it is ticked.
+    bool isChosen(const bomOperations::need &one) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void makeTable();
+    // Shows what the chosen ways come to.
+    void showRows();
+    void showSums();
+    void tickAll(bool ticked);
+    QList<QStringList> shownRows(bool withCaptions) const;
+    void copy();
+    void save();
+
+    const bomOperations::demand &m_of;
+    const kiv_mat_zpStruct &m_order;
+    QString m_proposed;
+    std::vector<bomOperations::orderedNeed> m_rows; // by need
+    std::vector<QTreeWidgetItem *> m_items;
+    QTreeWidget *m_table;
+    QLabel *m_sum;
     QRadioButton *m_short;
+    QRadioButton *m_topUp;
     QRadioButton *m_add;
     QRadioButton *m_skip;
+    QPushButton *m_go;
 };

@@ -184,7 +184,10 @@ int runOrder(const QStringList &arguments)
                                     "What becomes of materials that the order has: raise the "
                                     "line (usual), add a line, or skip them."),
         QStringLiteral("raise|add|skip"), presentWords[0].text);
-    for (const QCommandLineOption &option : {database, output, from, onlyShort, existing})
+    const QCommandLineOption topUp(
+        QStringLiteral("top-up"),
+        QCoreApplication::translate("cli", "Order only what ORDER lacks of what is needed."));
+    for (const QCommandLineOption &option : {database, output, from, onlyShort, topUp, existing})
         options.addOption(option);
     if (!options.accept(arguments))
         return options.code();
@@ -192,6 +195,9 @@ int runOrder(const QStringList &arguments)
     if (target.isEmpty())
         return refuseCall(bomOrderCommand,
                           QCoreApplication::translate("cli", "give an output file with -o"));
+    if (options.isSet(onlyShort) && options.isSet(topUp))
+        return refuseCall(bomOrderCommand, QCoreApplication::translate(
+                                               "cli", "--short and --top-up exclude each other"));
     const auto chosen =
         std::find_if(std::begin(presentWords), std::end(presentWords),
                      [&](const word &w) { return w.text == options.value(existing); });
@@ -212,9 +218,11 @@ int runOrder(const QStringList &arguments)
         return refused;
     const demand needed = demandOf(lists.lists, databases.index());
     warnOfUncounted(needed);
-    orderPlan plan =
-        planOf(needed, order, options.isSet(onlyShort) ? amount::shortage : amount::needed,
-               chosen->meaning, orderOperations::usualDate(config));
+    orderPlan plan = planOf(needed, order,
+                            options.isSet(onlyShort) ? amount::shortage
+                            : options.isSet(topUp)   ? amount::topUp
+                                                     : amount::needed,
+                            chosen->meaning, orderOperations::usualDate(config));
     for (const need *one : plan.unknown)
         warn(QCoreApplication::translate("cli", "in no database, left out"),
              one->ktm + QLatin1Char(' ') + one->name);

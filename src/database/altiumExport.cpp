@@ -4,7 +4,7 @@
 #include "database/exportNames.h"
 #include "database/kicadLibrary.h"
 #include "database/libraryDescription.h"
-#include "database/workbook.h"
+#include "util/workbook.h"
 #include "util/files.h"
 #include "util/labels.h"
 #include "util/messages.h"

@@ -14,10 +14,12 @@ constexpr size_t shownPlaces = 1000; // more are not selected
 // --- Texts and firms
 // ------------------------------------------------------------------------------
 
-bulkChange::bulkChange(bulkEdit::changes changes, databaseTree::rows *rows, ktmIndex *known)
+bulkChange::bulkChange(bulkEdit::changes changes, databaseTree::rows *rows, ktmIndex *known,
+                       workShown shown)
     : m_changes(std::move(changes))
     , m_rows(rows)
     , m_known(known)
+    , m_shown(std::move(shown))
 {
 }
 
@@ -46,7 +48,17 @@ bool bulkChange::run(const progressFunction &progress)
     return m_changes.apply(before(), after(), progress);
 }
 
-void bulkChange::undo() { m_changes.revert(before(), after()); }
+void bulkChange::undo()
+{
+    m_shown([this](const progressFunction &progress) {
+        m_changes.revert(before(), after(), progress);
+    });
+}
+
+void bulkChange::redo()
+{
+    m_shown([this](const progressFunction &progress) { run(progress); });
+}
 
 void bulkChange::places(std::vector<QStandardItem *> &cells) const
 {
@@ -65,11 +77,12 @@ void bulkChange::places(std::vector<QStandardItem *> &cells) const
 
 moveToGroup::moveToGroup(myModel *model, databaseTree::rows *rows, d_groupStruct *to,
                          const std::vector<bulkEdit::place> &materials,
-                         std::function<void()> begins)
+                         std::function<void()> begins, workShown shown)
     : m_model(model)
     , m_rows(rows)
     , m_to(to)
     , m_begins(std::move(begins))
+    , m_shown(std::move(shown))
 {
     for (const bulkEdit::place &at : materials)
         m_moved.push_back({at.material, at.group});
@@ -93,7 +106,7 @@ bool moveToGroup::run(const progressFunction &progress)
         record.row = record.place = -1; // it goes to the end
         m_model->insertWithRecord(to, to->rowCount(), cells);
         if (!steps.next()) {
-            undo();
+            takeBack({});
             return false;
         }
     }
@@ -103,8 +116,19 @@ bool moveToGroup::run(const progressFunction &progress)
 
 void moveToGroup::undo()
 {
+    m_shown([this](const progressFunction &progress) { takeBack(progress); });
+}
+
+void moveToGroup::redo()
+{
+    m_shown([this](const progressFunction &progress) { run(progress); });
+}
+
+void moveToGroup::takeBack(const progressFunction &progress)
+{
     const changeBatch batch(m_model);
     m_begins();
+    progressSteps steps(progress, qint64(m_done));
     while (m_done > 0) {
         const moved &one = m_moved[--m_done];
         QStandardItem *from = m_rows->groupItem(one.from);
@@ -116,6 +140,7 @@ void moveToGroup::undo()
         record.row = one.row;
         record.place = one.place;
         m_model->insertWithRecord(from, std::min(one.row, from->rowCount()), cells);
+        steps.next();
     }
     m_model->emitAppendOccured();
 }

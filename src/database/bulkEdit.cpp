@@ -745,14 +745,16 @@ bool changes::apply(const told &before, const told &after, const progressFunctio
     return true;
 }
 
-void changes::revert(const told &before, const told &after)
+void changes::revert(const told &before, const told &after, const progressFunction &progress)
 {
+    progressSteps steps(progress, qint64(m_all.size()));
     for (auto change = m_all.rbegin(); change != m_all.rend(); ++change) {
         if (before)
             before(change->at);
         exchange(*change, false);
         if (after)
             after(change->at);
+        steps.next();
     }
 }
 

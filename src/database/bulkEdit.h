@@ -145,7 +145,7 @@ public:
     using told = std::function<void(const place &)>;
     // Makes them. False when progress cancelled, with those taken back that were made.
     bool apply(const told &before, const told &after, const progressFunction &progress = {});
-    void revert(const told &before, const told &after);
+    void revert(const told &before, const told &after, const progressFunction &progress = {});
 
     size_t size() const { return m_all.size(); }
     const place &at(size_t i) const { return m_all[i].at; }

@@ -95,8 +95,7 @@ QModelIndex Kiv_mat_databaseWindow::rowThatStays(const std::vector<bulkEdit::pla
     for (const int step : {1, -1})
         for (int row = current.row(); row >= 0 && row < m_model->rowCount(group); row += step)
             if (!m_view->isRowHidden(row, group)
-                && !left.contains(
-m_rows->materialAt(current.sibling(row, 0))))
+                && !left.contains(m_rows->materialAt(current.sibling(row, 0))))
                 return current.sibling(row, current.column());
     return {};
 }
@@ -107,8 +106,14 @@ bool Kiv_mat_databaseWindow::changeMaterials(const bulkEdit::plan &plan,
     historyMoves();
     bool done = false;
     std::unique_ptr<command> step;
+    const QString told = tr("Changing materials");
+    // There is no way to stop a step of the history halfway.
+    const workShown historyShown = [this, told](const auto &work) {
+        workProgress::scope scope(progress(), told, workProgress::scope::runsToItsEnd);
+        work(scope.function());
+    };
     {
-        workProgress::scope work(progress(), tr("Changing materials"));
+        workProgress::scope work(progress(), told);
         const auto run = [&](auto made) {
             done = made->run(work.function());
             step = std::move(made);
@@ -121,16 +126,18 @@ bool Kiv_mat_databaseWindow::changeMaterials(const bulkEdit::plan &plan,
                 m_rows->database().groups.begin(), m_rows->database().groups.end(),
                 [&plan](const auto &candidate) { return candidate->name == plan.made.text; });
             const QPersistentModelIndex next = rowThatStays(places);
-            run(std::make_unique<moveToGroup>(m_model, m_rows.get(), group->get(), places, [this] {
+            const auto begins = [this] {
                 if (const QModelIndex current = m_view->currentIndex(); current.parent().isValid())
                     m_view->selectionModel()->setCurrentIndex(current.parent(),
                                                               QItemSelectionModel::Clear);
-            }));
+            };
+            run(std::make_unique<moveToGroup>(m_model, m_rows.get(), group->get(), places, begins,
+                                              historyShown));
             if (next.isValid())
                 m_view->setCurrentIndex(next);
         } else {
             run(std::make_unique<bulkChange>(bulkEdit::changes(plan, chosen), m_rows.get(),
-                                             &known().materials()));
+                                             &known().materials(), historyShown));
         }
     }
     if (done) {

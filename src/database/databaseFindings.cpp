@@ -3,11 +3,9 @@
 #include "data/XmlValidator.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
-#include "database/workbook.h"
 #include "util/labels.h"
 #include "util/messages.h"
-#include "util/safeFile.h"
-#include "util/text.h"
+#include "util/tableFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -142,15 +140,6 @@ void forKeys(const materialStruct &material, const Use &use)
             use(false, key);
 }
 
-// Calls for the captions and each finding; false as soon as one answers so.
-template <class Write>
-bool writeRows(const std::vector<const finding *> &findings, const Write &write)
-{
-    return write(findingText::captions())
-           && std::all_of(findings.begin(), findings.end(),
-                          [&write](const finding *one) { return write(findingText::cells(*one)); });
-}
-
 } // namespace
 
 // --- Findings
@@ -221,42 +210,25 @@ QStringList findingText::cells(const finding &of)
 exportResult exportFindings(const std::vector<const finding *> &findings, const QString &path,
                             const progressFunction &progress)
 {
+    const tableFile::content table{
+        QStringLiteral("Checks"),
+        findingText::captions(),
+        int(findings.size()),
+        [&findings](int row) { return findingText::cells(*findings[size_t(row)]); },
+        {}};
     exportResult result;
-    const auto fail = [&](bool cancelled, const QString &error) {
-        result.result = cancelled ? exportResult::cancelled : exportResult::failed;
-        result.error = path + QLatin1String(": ") + error;
-        return result;
-    };
-    progressSteps steps(progress, qint64(findings.size()) + 1);
-    bool stopped = false;
-    const auto goOn = [&] {
-        stopped = !steps.next();
-        return !stopped;
-    };
-    if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
-        safeFile file(path);
-        const auto write = [&](const QStringList &cells) {
-            return file.write((text::csvRow(cells) + QLatin1String("\r\n")).toUtf8()) >= 0
-                   && goOn();
-        };
-        if (!file.open(QIODevice::WriteOnly) || file.write("\xef\xbb\xbf") < 0
-            || !writeRows(findings, write) || !file.commit())
-            return fail(stopped, file.errorString());
-    } else {
-        workbook book;
-        int row = 0;
-        const auto write = [&](const QStringList &cells) {
-            ++row;
-            for (int column = 0; column < cells.size(); ++column)
-                if (!book.write(row, column + 1, cells.at(column)))
-                    return false;
-            return goOn();
-        };
-        if (!book.addSheet(QStringLiteral("Checks")) || !writeRows(findings, write)
-            || !book.saveAs(path, progress))
-            return fail(stopped || book.isCancelled(), book.error());
+    QString fault;
+    switch (tableFile::write(table, path, &fault, progress)) {
+    case tableFile::written:
+        result.files.append(path);
+        break;
+    case tableFile::cancelled:
+        result.result = exportResult::cancelled;
+        break;
+    case tableFile::failed:
+        result.result = exportResult::failed;
+        result.error = path + QLatin1String(": ") + fault;
     }
-    result.files.append(path);
     return result;
 }
 

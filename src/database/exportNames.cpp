@@ -1,6 +1,6 @@
 #include "database/exportNames.h"
 
-#include "database/workbook.h"
+#include "util/workbook.h"
 #include "util/text.h"
 
 #include <QCryptographicHash>

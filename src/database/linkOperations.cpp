@@ -1,7 +1,7 @@
 #include "database/linkOperations.h"
 
 #include "data/kiv_mat_databaseStruct.h"
-#include "database/workbook.h"
+#include "util/workbook.h"
 #include "util/labels.h"
 #include "util/linkCheck.h"
 

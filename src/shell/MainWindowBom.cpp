@@ -5,10 +5,11 @@
 
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
-#include "database/Kiv_mat_databaseWindow.h"
+#include "bom/bomReport.h"
 #include "bom/needsDialog.h"
 #include "bom/orderLinesTarget.h"
 #include "commands/commandSys.h"
+#include "database/Kiv_mat_databaseWindow.h"
 #include "mail/mail.h"
 #include "order/orderView.h"
 #include "report/myWebView.h"
@@ -114,11 +115,15 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
     }
     const demand needed = demandOf(lists, known().materials());
     QWidget *over = QApplication::activeWindow();
-    needsDialog dialog(needed, sumsOf(lists, known().materials()), over ? over : this);
+    needsDialog dialog(
+        needed, m_document.order(),
+        bomReport::proposedPath(lists.front().bom->fileName, QStringLiteral(".xlsx")),
+        over ? over : this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     orderPlan plan = planOf(needed, m_document.order(), dialog.wantedAmount(), dialog.existing(),
-                            orderOperations::usualDate(known().config()));
+                            orderOperations::usualDate(known().config()),
+                            [&dialog](const need &one) { return dialog.isChosen(one); });
     for (const need *one : plan.unknown)
         userPrompts().listError(doesNotExist(one->ktm.isEmpty() ? one->name : one->ktm));
     const int changes = int(plan.changes.size());

@@ -38,10 +38,10 @@ workProgress::workProgress(QStatusBar *bar)
 
 bool workProgress::isWorking() { return windowsAtWork > 0; }
 
-workProgress::scope::scope(workProgress &progress, const QString &text)
+workProgress::scope::scope(workProgress &progress, const QString &text, endKind ends)
     : m_progress(progress)
 {
-    m_progress.begin(text);
+    m_progress.begin(text, ends == canCancel);
 }
 
 workProgress::scope::~scope() { m_progress.end(); }
@@ -53,11 +53,12 @@ progressFunction workProgress::scope::function()
     };
 }
 
-void workProgress::begin(const QString &text)
+void workProgress::begin(const QString &text, bool canCancel)
 {
     if (m_depth++ > 0)
         return;
     ++windowsAtWork;
+    m_canCancel = canCancel;
     m_cancelled = false;
     m_bar->setRange(0, barRange);
     m_bar->setValue(0);
@@ -87,7 +88,7 @@ bool workProgress::tell(long long done, long long total)
         m_bar->setRange(0, total > 0 ? barRange : 0);
         m_bar->setValue(total > 0 ? int(double(done) / double(total) * barRange) : 0);
         m_bar->show();
-        m_cancel->show();
+        m_cancel->setVisible(m_canCancel);
     }
     QCoreApplication::processEvents();
     return !m_cancelled;
@@ -102,7 +103,7 @@ bool workProgress::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
-            m_cancelled = true;
+            m_cancelled = m_canCancel;
         return true;
     case QEvent::Shortcut: // reaches the action, which is no widget
         return true;

@@ -27,7 +27,13 @@ public:
     class scope
     {
     public:
-        scope(workProgress &progress, const QString &text);
+        // Work that cannot stop halfway shows no Cancel, and its function never answers false.
+        enum endKind
+        {
+            canCancel,
+            runsToItsEnd
+        };
+        scope(workProgress &progress, const QString &text, endKind ends = canCancel);
         ~scope();
         scope(const scope &) = delete;
         scope &operator=(const scope &) = delete;
@@ -44,7 +50,7 @@ protected:
 
 private:
     bool tell(long long done, long long total);
-    void begin(const QString &text);
+    void begin(const QString &text, bool canCancel);
     void end();
 
     QProgressBar *m_bar;
@@ -53,5 +59,6 @@ private:
     QElapsedTimer m_sincePaint;
     const QWidget *m_modal = nullptr; // the box that was open when the work began
     int m_depth = 0;
+    bool m_canCancel = true;
     bool m_cancelled = false;
 };

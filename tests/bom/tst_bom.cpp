@@ -71,6 +71,7 @@ private slots:
         const rows<QString, int, int, QString, int> row;
         const int all = int(amount::needed);
         const int some = int(amount::shortage);
+        const int topUp = int(amount::topUp);
         const int raise = int(present::raise);
         const int add = int(present::add);
         const int skip = int(present::skip);
@@ -83,6 +84,9 @@ private slots:
         row("other unit", "C 1 reel;C 2 m", some, raise, "C 1 reel;C 5 m;A 2 pcs.", 0);
         row("only other units", "C 1 reel;A 1", some, raise, "C 1 reel;A 3;C 3 m", 0);
         row("no number is kept", "A some", some, raise, "A some;A 2 pcs.;C 3 m", 0);
+        row("top up", "A 11.5;B 7", topUp, raise, "A 12;B 7;C 3 m", 0);
+        row("top up beside", "A 5;A 4 reel;C 3 m", topUp, add, "A 5;A 4 reel;C 3 m;A 7 pcs.;B 2 pcs.", 0);
+        row("topped up once", "A 12;B 2", topUp, raise, "A 12;B 2;C 3 m", 0);
         row("add", "A 1", some, add, "A 1;A 2 pcs.;C 3 m", 0);
         row("skip", "A 1;C x", all, skip, "A 1;C x;B 2 pcs.", 2);
     }

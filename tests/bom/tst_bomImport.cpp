@@ -6,7 +6,7 @@
 #include "bom/partsTexts.h"
 #include "bom/workbookReader.h"
 #include "data/loaders.h"
-#include "database/workbook.h"
+#include "util/workbook.h"
 
 #include <QProcess>
 #include <QTextCodec>

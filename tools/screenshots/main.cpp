@@ -194,8 +194,9 @@ QWidget *showNeeds(MainWindow &window)
         if (bomOperations::readBom(path, read.back().get(), &error))
             lists.push_back({read.back().get(), 20});
     }
-    auto *dialog = new needsDialog(bomOperations::demandOf(lists, materials),
-                                   bomOperations::sumsOf(lists, materials), &window);
+    // As long as the dialog.
+    static const bomOperations::demand needed = bomOperations::demandOf(lists, materials);
+    auto *dialog = new needsDialog(needed, window.document().order(), {}, &window);
     dialog->show();
     return dialog;
 }

@@ -32,6 +32,8 @@ public:
     // written for an empty text. A text beyond maximumText is cut. False, with error() set, when
     // the sheet has no such row.
     bool write(int row, int column, const QString &content);
+    // The same with a number.
+    bool write(int row, int column, double number);
 
     // Writes the file in one piece in the place of an older one, which stays as it was when that
     // fails: then false, with error() set. progress is asked while the library packs, which says

@@ -1,4 +1,4 @@
-#include "database/workbook.h"
+#include "util/workbook.h"
 
 #include "util/messages.h"
 #include "util/safeFile.h"
@@ -69,6 +69,12 @@ bool workbook::write(int row, int column, const QString &content)
         return true;
     return good(worksheet_write_string(m_sheet, lxw_row_t(row - 1), lxw_col_t(column - 1),
                                        text::firstUnits(content, maximumText).toUtf8(), nullptr));
+}
+
+bool workbook::write(int row, int column, double number)
+{
+    return good(worksheet_write_number(m_sheet, lxw_row_t(row - 1), lxw_col_t(column - 1), number,
+                                       nullptr));
 }
 
 bool workbook::pack(const progressFunction &progress)
