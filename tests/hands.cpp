@@ -54,12 +54,17 @@ QWindow *keyWindow()
     return focus ? focus->window()->windowHandle() : front() ? front()->windowHandle() : nullptr;
 }
 
+// A menu or list that goes leaves a moment in which no window has the keys.
+QWindow *waitForKeyWindow()
+{
+    if (!QTest::qWaitFor([] { return keyWindow() != nullptr; }))
+        qFatal("no window takes keys");
+    return keyWindow();
+}
+
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
-    // A menu that goes leaves a moment in which no window has the keys.
-    if (!QTest::qWaitFor(keyWindow))
-        qFatal("no window takes keys");
-    const QPointer<QWindow> window = keyWindow();
+    const QPointer<QWindow> window = waitForKeyWindow();
     QTest::keyPress(window.data(), Qt::Key(key), modifiers);
     if (window)
         QTest::keyRelease(window.data(), Qt::Key(key), modifiers);
@@ -246,7 +251,7 @@ QString hands::perform(const QString &step)
     if (step.startsWith('\'')) {
         const QString typed = QString(step.mid(1, step.size() - 2)).replace("''", "'");
         for (const QChar letter : typed)
-            QTest::sendKeyEvent(QTest::Click, keyWindow(), Qt::Key_unknown, QString(letter), {});
+            QTest::sendKeyEvent(QTest::Click, waitForKeyWindow(), Qt::Key_unknown, QString(letter), {});
         return {};
     }
     if (step.startsWith('#'))

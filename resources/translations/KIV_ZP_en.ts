@@ -1127,6 +1127,14 @@
         <source>OPTION_ARCHIVE_PASSWORD</source>
         <translation>OPTION_ARCHIVE_PASSWORD </translation>
     </message>
+    <message>
+        <source>OPTION_BOM_ATTRITION</source>
+        <translation>Attrition of parts (case: % at least)</translation>
+    </message>
+    <message>
+        <source>OPTION_BOM_MULTIPLE</source>
+        <translation>Order in multiples (unit: of how many)</translation>
+    </message>
 </context>
 <context>
     <name>repairOffer</name>

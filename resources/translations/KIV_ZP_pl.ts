@@ -2859,6 +2859,10 @@
         <source>Then</source>
         <translation>Potem</translation>
     </message>
+    <message>
+        <source>Attrition</source>
+        <translation>Naddatek</translation>
+    </message>
 </context>
 <context>
     <name>bomTree</name>
@@ -4037,6 +4041,10 @@ Pola: %1</translation>
     <message>
         <source>is no folder</source>
         <translation>nie jest folderem</translation>
+    </message>
+    <message>
+        <source>is not understood: %1</source>
+        <translation>nie jest zrozumiałe: %1</translation>
     </message>
 </context>
 <context>
@@ -7343,6 +7351,14 @@ Pola: %1</translation>
     <message>
         <source>OPTION_ARCHIVE_PASSWORD</source>
         <translation>Hasło archiwów</translation>
+    </message>
+    <message>
+        <source>OPTION_BOM_ATTRITION</source>
+        <translation>Naddatek na straty przy montażu (obudowa: % co najmniej)</translation>
+    </message>
+    <message>
+        <source>OPTION_BOM_MULTIPLE</source>
+        <translation>Zamawiaj wielokrotność (jednostka: ile)</translation>
     </message>
 </context>
 <context>

@@ -138,9 +138,11 @@ lineSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
     return all;
 }
 
-demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
+demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
+                const orderRules &rules)
 {
     demand result;
+    result.rules = rules;
     QHash<QString, size_t> places;
     for (const bomSets &list : lists) {
         if (list.sets <= 0)
@@ -172,6 +174,9 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
             }
         }
     }
+    for (need &one : result.needs)
+        if (one.isKnown())
+            one.extra = rules.extra(*one.material, one.needed);
     return result;
 }
 
@@ -193,8 +198,8 @@ struct decision
     std::optional<orderChange> raising;
 };
 
-decision decide(const need &one, const kiv_mat_zpStruct &order, const std::vector<int> &there,
-                amount which, present existing)
+decision decide(const need &one, const orderRules &rules, const kiv_mat_zpStruct &order,
+                const std::vector<int> &there, amount which, present existing)
 {
     decision made;
     orderedNeed &row = made.row;
@@ -206,9 +211,11 @@ decision decide(const need &one, const kiv_mat_zpStruct &order, const std::vecto
             if (quantity && (line.unit.isEmpty() || line.unit == unitOf(*one.material)))
                 row.inOrder += *quantity;
         }
-    row.wanted = which == amount::needed     ? one.needed
+    row.wanted = which == amount::needed     ? one.whole()
                  : which == amount::shortage ? one.shortage()
-                                             : qMax(decimal(), one.needed - row.inOrder);
+                                             : qMax(decimal(), one.whole() - row.inOrder);
+    if (one.isKnown())
+        row.wanted = rules.raised(*one.material, row.wanted);
     if (row.wanted == decimal() || !one.isKnown())
         return made;
     if (existing == present::raise)
@@ -228,7 +235,7 @@ std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &
     std::vector<orderedNeed> rows;
     rows.reserve(of.needs.size());
     for (const need &one : of.needs)
-        rows.push_back(decide(one, order, lines.value(one.ktm), which, existing).row);
+        rows.push_back(decide(one, of.rules, order, lines.value(one.ktm), which, existing).row);
     return rows;
 }
 
@@ -241,7 +248,7 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
     for (const need &one : of.needs) {
         if (isChosen && !isChosen(one))
             continue;
-        decision made = decide(one, order, lines.value(one.ktm), which, existing);
+        decision made = decide(one, of.rules, order, lines.value(one.ktm), which, existing);
         if (made.row.wanted == decimal())
             continue;
         if (!one.isKnown()) {

@@ -7,6 +7,7 @@
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
 #include "data/lineSums.h"
+#include "data/orderRules.h"
 
 #include <QDate>
 #include <QStringList>
@@ -65,13 +66,15 @@ struct need
     QString name;
     const materialStruct *material = nullptr; // null when no database has it
     decimal needed;
+    decimal extra;                  // that gets lost while the boards are built
     std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
 
     bool isKnown() const { return material != nullptr; }
+    decimal whole() const { return needed + extra; }
     // Needed and not in stock; an unknown stock, and one below nothing, count as nothing.
     decimal shortage() const
     {
-        return qMax(decimal(), needed - qMax(decimal(), inStock.value_or(decimal())));
+        return qMax(decimal(), whole() - qMax(decimal(), inStock.value_or(decimal())));
     }
     bool isShort() const { return shortage() > decimal(); }
 };
@@ -81,9 +84,11 @@ struct demand
     std::vector<need> needs; // in the order of their first lines
     // The lines whose quantity is no number or less than nothing: they are in no need.
     std::vector<const materialStruct *> uncounted;
+    orderRules rules;
 };
 // Looks at the lists and the materials, which have to live as long as it is used.
-demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials);
+demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
+                const orderRules &rules = {});
 
 // The needs that stock does not cover, unknown materials among them.
 std::vector<const need *> shortagesOf(const demand &of);

@@ -209,6 +209,8 @@ QString workCaption(workColumn column)
         return labels::name();
     case workNeeded:
         return tr("Needed");
+    case workExtra:
+        return tr("Attrition");
     case workInStock:
         return labels::inWarehouse();
     case workShort:
@@ -242,6 +244,8 @@ QString workText(const orderedNeed &row, workColumn column)
         return row.of->name;
     case workNeeded:
         return row.of->needed.text();
+    case workExtra:
+        return row.of->extra == decimal() ? QString() : row.of->extra.text();
     case workInStock:
         return needText(*row.of, inStockColumn);
     case workShort:

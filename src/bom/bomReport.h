@@ -37,6 +37,7 @@ enum workColumn
     workKtm,
     workName,
     workNeeded,
+    workExtra, // that gets lost
     workInStock,
     workShort,
     workInOrder,

@@ -167,7 +167,7 @@ void needsDialog::makeTable()
             if (isNumber(workColumn(column)))
                 item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     m_table->addTopLevelItems(items);
-    constexpr int widths[] = {190, 190, 75, 85, 60, 70, 75, 60, 50, 70, 85, 150};
+    constexpr int widths[] = {190, 190, 75, 60, 85, 60, 70, 75, 60, 50, 70, 85, 150};
     for (int column = 0; column < workColumns; ++column)
         m_table->header()->resizeSection(
             column, std::max(widths[column], m_table->header()->sectionSizeHint(column)));

@@ -216,7 +216,7 @@ int runOrder(const QStringList &arguments)
     if (!startOrder(options.value(from), config, &order) || !lists.read()
         || !databases.load(options.values(database)))
         return refused;
-    const demand needed = demandOf(lists.lists, databases.index());
+    const demand needed = demandOf(lists.lists, databases.index(), orderRules(config));
     warnOfUncounted(needed);
     orderPlan plan = planOf(needed, order,
                             options.isSet(onlyShort) ? amount::shortage

@@ -1,5 +1,6 @@
 #include "config/configOperations.h"
 
+#include "data/orderRules.h"
 #include "data/vocabulary.h"
 #include "util/labels.h"
 #include "util/paths.h"
@@ -57,8 +58,19 @@ const configStruct &defaults()
 
 QString tr(const char *text) { return QCoreApplication::translate("configOperations", text); }
 
+// Parts of a rule that cannot be read.
+QString notUnderstood(const QStringList &parts)
+{
+    return parts.isEmpty() ? QString()
+                           : tr("is not understood: %1").arg(parts.join(QLatin1String("; ")));
+}
+
 QString faultOf(const optionStruct &option)
 {
+    if (option.type == optionKey::bomAttrition)
+        return notUnderstood(orderRules().readAttrition(option.value1));
+    if (option.type == optionKey::bomMultiple)
+        return notUnderstood(orderRules().readMultiples(option.value1));
     const optionType type = typeOf(option.type);
     switch (type.kind) {
     case optionKind::number: {

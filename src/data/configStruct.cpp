@@ -62,6 +62,8 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::loadDbAuthor, "TAK", ""},
     {optionKey::loadDbMechanics, "TAK", ""},
     {optionKey::loadBoms, "TAK", ""},
+    {optionKey::bomAttrition, "", ""},
+    {optionKey::bomMultiple, "", ""},
     {optionKey::backupCount, "20", ""},
     {optionKey::language, "pl", ""},
     {optionKey::archivePassword, "", ""},

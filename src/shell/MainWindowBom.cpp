@@ -113,7 +113,7 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
         userPrompts().showInformation(tr("The order is locked. Allow its editing first."));
         return;
     }
-    const demand needed = demandOf(lists, known().materials());
+    const demand needed = demandOf(lists, known().materials(), orderRules(known().config()));
     QWidget *over = QApplication::activeWindow();
     needsDialog dialog(
         needed, m_document.order(),

@@ -107,6 +107,37 @@ private slots:
         QCOMPARE(last.wait, QString("24.11.2026"));
     }
 
+    void rules_data()
+    {
+        const rows<QString, QString, QString, QString> row;
+        // Needed are 12 A of case 0402 and 3 metres of C; what is ordered of both, and what is not understood.
+        row("none", "", "", "A 12;C 3", "");
+        row("share", "0402: 5%; *: 50 %", "", "A 13;C 4.5", "");
+        row("at least", "0402:1% 10", "", "A 22;C 3", "");
+        row("least alone", "* : 2", "", "A 14;C 5", "");
+        row("comma", "0402: 12,5%", "", "A 14;C 3", "");
+        row("multiple", "", "pcs.: 5; m: 2", "A 15;C 4", "");
+        row("both", "0402: 30%", "pcs.:4", "A 16;C 3", "");
+        row("faults", "0402; 0603: x; :5; 0402: 1%", "reel: 0; foot: 3", "A 13;C 3", "0402|0603: x|:5|reel: 0|foot: 3");
+    }
+
+    void rules()
+    {
+        const auto [attrition, multiples, ordered, faults] = fetch<QString, QString, QString, QString>();
+        orderRules rules;
+        const QStringList found = rules.readAttrition(attrition) + rules.readMultiples(multiples);
+        QCOMPARE(found.join('|'), faults);
+        materialStruct pieces;
+        pieces.d_case = " 0402";
+        materialStruct metres;
+        metres.d_unit = "m";
+        const auto shown = [&rules](const materialStruct &material, const char *needed) {
+            const decimal amount = *decimal::read(needed);
+            return rules.raised(material, amount + rules.extra(material, amount)).text();
+        };
+        QCOMPARE("A " + shown(pieces, "12") + ";C " + shown(metres, "3"), ordered);
+    }
+
     void shipmentIsNeverDoubled()
     {
         for (const present existing : {present::add, present::raise}) {

@@ -101,7 +101,7 @@ const scenario importActions[] = {
     {"lines@1,0", "#leaveOut", "lines@1,0 = left out"},
     {"lines@0,0", "#next", "at = unknown"},
     {"lines@1,0", "#matchAgain", "lines@1,0 = unknown; lines@0,0 = matched"},
-    {"lines@1,0", "#newMaterial Return ~200 Return ~200", "front = New material; material@0/2,1 = NOSUCH-1"},
+    {"lines@1,0", "#newMaterial Return ~200 Escape", "front = Database of material [%/_files/db_warehouse.xml]"},
     {"", "#close", "title = closed"},
     {"lines@1,0 #leaveOut", "#close !No", "boxes ~ not written yet; title ~ in.csv"},
 };
@@ -265,7 +265,7 @@ private slots:
         for (int row = 0; row < table->topLevelItemCount(); ++row)
             for (int column = 0; column < table->columnCount(); ++column)
                 texts.append(table->topLevelItem(row)->text(column));
-        QCOMPARE(texts.join('|'), QString("NONE-1||6|?|6|||||||" "|NONE-1||many|||||||||"));
+        QCOMPARE(texts.join('|'), QString("NONE-1||6||?|6|||||||" "|NONE-1||many||||||||||"));
     }
 };
 
