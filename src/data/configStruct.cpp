@@ -62,14 +62,14 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::loadDbAuthor, "TAK", ""},
     {optionKey::loadDbMechanics, "TAK", ""},
     {optionKey::loadBoms, "TAK", ""},
-    {optionKey::bomAttrition, "", ""},
-    {optionKey::bomMultiple, "", ""},
     {optionKey::backupCount, "20", ""},
     {optionKey::language, "pl", ""},
     {optionKey::archivePassword, "", ""},
     {optionKey::serverName, "", ""},
     {optionKey::serverUserName, "", ""},
-    {optionKey::serverUserPassword, "", ""}};
+    {optionKey::serverUserPassword, "", ""},
+    {optionKey::bomAttrition, "", ""},
+    {optionKey::bomMultiple, "", ""}};
 
 } // namespace
 

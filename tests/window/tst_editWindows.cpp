@@ -46,7 +46,8 @@ const editedWindow windows[] = {
     {"order", "", "orderLines@0,1", "orderLines@1,1", "_zp/zp_0.xml", "Ctrl+Q", ""},
     {"database", "Ctrl+D Return", "materials@0,0", "materials@1,0", "_files/db_warehouse.xml", "Ctrl+W", "Ctrl+E"},
     {"firms", "#firm", "manufacturers@0,1", "manufacturers@1,1", "_files/firms.xml", "Ctrl+W", ""},
-    {"configuration", "#config", "options@12,1", "options@32,1", "_config/kiv_mat_config.xml", "Ctrl+W", ""},
+    {"configuration", "#config", "options@12,1", "options@32,1", "_config/kiv_mat_config.xml", "Ctrl+W", "", "Ctrl+S",
+     "options@25,1"},
     {"BOM lists", "Ctrl+B", "boms@0,0", "boms@0/0,0", "_files/boms.xml", "Ctrl+W", "", "#save", "boms@1,0"},
     {"BOM list", "Ctrl+B|boms@0/0/0,0 Return", "lines@0,2", "lines@1,2", "", "Ctrl+W", "Ctrl+E"},
 };
