@@ -51,7 +51,13 @@ QWindow *keyWindow()
     const QWidget *focus = QApplication::focusWidget();
     if (popup && !qobject_cast<QListView *>(popup))
         return popup->windowHandle();
-    return focus ? focus->window()->windowHandle() : front() ? front()->windowHandle() : nullptr;
+    if (focus)
+        return focus->window()->windowHandle();
+    // While such a list comes up nobody may have the focus; the dialog below takes the key.
+    for (const QWidget *widget : {front(), QApplication::activeModalWidget(), QApplication::activeWindow()})
+        if (widget && widget->windowHandle())
+            return widget->windowHandle();
+    return nullptr;
 }
 
 // A menu or list that goes leaves a moment in which no window has the keys.
