@@ -273,18 +273,6 @@
         </translation>
     </message>
     <message>
-        <source>Open list of parts</source>
-        <translation>Otwórz listę elementów</translation>
-    </message>
-    <message>
-        <source>Lists of parts</source>
-        <translation>Listy elementów</translation>
-    </message>
-    <message>
-        <source>All files</source>
-        <translation>Wszystkie pliki</translation>
-    </message>
-    <message>
         <source>select one list, or two</source>
         <translation>zaznacz jedną listę albo dwie</translation>
     </message>
@@ -2809,8 +2797,12 @@
         <translation>Nie udało się zachować decyzji: %1</translation>
     </message>
     <message>
-        <source>What you settled in this list is not written yet. Close all the same?</source>
-        <translation>To, co rozstrzygnięto na tej liście, nie jest jeszcze zapisane. Zamknąć mimo to?</translation>
+        <source>What you settled in this list is not written yet.</source>
+        <translation>To, co ustalono na tej liście, nie jest jeszcze zapisane.</translation>
+    </message>
+    <message>
+        <source>Give it up</source>
+        <translation>Porzuć</translation>
     </message>
 </context>
 <context>

@@ -410,18 +410,13 @@ void Kiv_bomWindow::commandImport(bool)
             return true;
         };
     }
-    const QString path = userPrompts().openFile(
-        tr("Open list of parts"), folder.path(),
-        tr("Lists of parts")
-            + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;")
-            + tr("All files") + QLatin1String(" (*)"));
-    if (path.isEmpty())
+    m_import->commandOpen(false);
+    if (m_import->isEmpty())
         return;
+    // The file dialog, when it goes, brings this window to the front.
     m_import->show();
     m_import->raise();
     m_import->activateWindow();
-    if (!m_import->openList(path))
-        m_import->close();
 }
 
 void Kiv_bomWindow::commandCompare(bool)
@@ -459,7 +454,7 @@ void Kiv_bomWindow::commandCompare(bool)
     for (const bomDifference &row : differences)
         rows.append(cellsOf(row));
     const readTable table{tr("Differences of two lists"),
-                          QDir::toNativeSeparators(paths.at(0)) + QLatin1String(" \u2192 ")
+                          QDir::toNativeSeparators(paths.at(0)) + QStringLiteral(" \u2192 ")
                               + QDir::toNativeSeparators(paths.at(1)) + QLatin1Char('\n')
                               + tr("%n difference(s)", nullptr, int(differences.size())),
                           bomDifferenceCaptions(),

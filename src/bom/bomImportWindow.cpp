@@ -348,6 +348,8 @@ bool bomImportWindow::openList(const QString &path)
     return true;
 }
 
+bool bomImportWindow::isEmpty() const { return m_lines->lines().lines.empty(); }
+
 // The same file, read in another way.
 void bomImportWindow::readFile(const partsTableOptions &options)
 {
@@ -539,11 +541,11 @@ void bomImportWindow::change(int row, stagedLine to, const QString &what)
 void bomImportWindow::commandOpen(bool)
 {
     const QString path = userPrompts().openFile(
-        tr("Open list of parts"), QFileInfo(m_path).path(),
+        tr("Open list of parts"), m_path.isEmpty() ? m_folder : QFileInfo(m_path).path(),
         tr("Lists of parts")
             + QLatin1String(" (*.csv *.tsv *.txt *.xlsx *.xlsm *.ods *.xls *.xml *.net);;")
             + tr("All files") + QLatin1String(" (*)"));
-    if (!path.isEmpty())
+    if (!path.isEmpty() && mayGiveUp())
         openList(path);
 }
 
@@ -696,16 +698,19 @@ void bomImportWindow::commandSet(bool)
     close();
 }
 
-bool bomImportWindow::isDecided() const { return m_commands->undoCount() > 0; }
+// Whether what was settled may go unwritten.
+bool bomImportWindow::mayGiveUp() const
+{
+    return m_commands->undoCount() == 0
+           || userPrompts()
+                  .decide(tr("What you settled in this list is not written yet.").toHtmlEscaped(),
+                          {tr("Give it up")}, true)
+                  .has_value();
+}
 
 void bomImportWindow::closeEvent(QCloseEvent *event)
 {
-    if (isDecided()
-        && userPrompts().ask(
-               tr("What you settled in this list is not written yet. Close all the same?")
-                   .toHtmlEscaped(),
-               false)
-               != prompts::answer::yes) {
+    if (!mayGiveUp()) {
         event->ignore();
         return;
     }

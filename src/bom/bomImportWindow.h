@@ -26,6 +26,8 @@ public:
 
     // Reads a file and shows it; tells why it cannot.
     bool openList(const QString &path);
+    // Whether no list is open.
+    bool isEmpty() const;
 
     // Writes the list, and returns whether it was; adds it to the set.
     std::function<bool(const QString &path, kiv_mat_bomStruct &bom)> writeList;
@@ -69,7 +71,7 @@ private:
     // Of the lines' table; -1.
     int currentLine() const;
     void change(int row, bomImport::stagedLine to, const QString &what);
-    bool isDecided() const;
+    bool mayGiveUp() const;
 
     programData &m_known;
     QString m_folder;

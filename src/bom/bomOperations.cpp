@@ -20,11 +20,6 @@ std::optional<decimal> quantityOf(const materialStruct &line)
     return quantity && *quantity >= decimal() ? quantity : std::nullopt;
 }
 
-const QString &unitOf(const materialStruct &material)
-{
-    return material.d_unit.isEmpty() ? labels::storedUnits().first() : material.d_unit;
-}
-
 // The lines of an order by KTM, found without walking the order for each material.
 using lineIndex = QHash<QString, std::vector<int>>;
 
@@ -42,7 +37,8 @@ std::optional<orderChange> raise(const kiv_mat_zpStruct &order, const std::vecto
 {
     for (const int i : lines) {
         const orderItemStruct &line = *order.orderItems.items[size_t(i)];
-        const bool sameUnit = line.unit.isEmpty() || line.unit == unitOf(material);
+        const bool sameUnit =
+            line.unit.isEmpty() || line.unit == labels::unitOrPieces(material.d_unit);
         const std::optional<decimal> before =
             line.quantity.isEmpty() ? std::optional(decimal()) : decimal::read(line.quantity);
         if (sameUnit && before)
@@ -208,7 +204,8 @@ decision decide(const need &one, const orderRules &rules, const kiv_mat_zpStruct
         for (const int i : there) {
             const orderItemStruct &line = *order.orderItems.items[size_t(i)];
             const auto quantity = decimal::read(line.quantity);
-            if (quantity && (line.unit.isEmpty() || line.unit == unitOf(*one.material)))
+            if (quantity
+                && (line.unit.isEmpty() || line.unit == labels::unitOrPieces(one.material->d_unit)))
                 row.inOrder += *quantity;
         }
     row.wanted = which == amount::needed     ? one.whole()

@@ -241,16 +241,22 @@ void needsDialog::showSums()
     m_go->setToolTip(m_go->isEnabled() ? QString() : tr("nothing would be ordered"));
 }
 
-void needsDialog::tickAll(bool ticked)
+// All of them before the sums, which look at each row.
+void needsDialog::tick(const QList<QTreeWidgetItem *> &items, Qt::CheckState wanted)
 {
     {
         const QSignalBlocker quiet(m_table);
-        for (size_t i = 0; i < m_items.size(); ++i)
-            if (m_of.needs[i].isKnown())
-                m_items[i]->setCheckState(0, ticked ? Qt::Checked : Qt::Unchecked);
+        for (QTreeWidgetItem *item : items)
+            if (!item->data(0, Qt::CheckStateRole).isNull())
+                item->setCheckState(0, wanted);
     }
     m_table->viewport()->update();
     showSums();
+}
+
+void needsDialog::tickAll(bool ticked)
+{
+    tick({m_items.begin(), m_items.end()}, ticked ? Qt::Checked : Qt::Unchecked);
 }
 
 // Space ticks all that is selected like the current row.
@@ -263,9 +269,7 @@ bool needsDialog::eventFilter(QObject *watched, QEvent *event)
             return true;
         const Qt::CheckState wanted =
             current->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-        for (QTreeWidgetItem *item : m_table->selectedItems())
-            if (!item->data(0, Qt::CheckStateRole).isNull())
-                item->setCheckState(0, wanted);
+        tick(m_table->selectedItems(), wanted);
         return true;
     }
     return QDialog::eventFilter(watched, event);
@@ -291,12 +295,8 @@ QList<QStringList> needsDialog::shownRows(bool withCaptions) const
 void needsDialog::copy()
 {
     QString all;
-    for (const QStringList &cells : shownRows(true)) {
-        QStringList plain;
-        for (const QString &cell : cells)
-            plain.append(cell.simplified());
-        all += plain.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    }
+    for (const QStringList &cells : shownRows(true))
+        all += text::tabbedRow(cells) + QLatin1Char('\n');
     QApplication::clipboard()->setText(all);
 }
 

@@ -33,6 +33,7 @@ private:
     // Shows what the chosen ways come to.
     void showRows();
     void showSums();
+    void tick(const QList<QTreeWidgetItem *> &items, Qt::CheckState wanted);
     void tickAll(bool ticked);
     QList<QStringList> shownRows(bool withCaptions) const;
     void copy();

@@ -20,7 +20,7 @@ QIcon iconOf(state of)
     case state::unknown:
         return QIcon(QStringLiteral(":/icons/icons/line_unknown.png"));
     default:
-        return {};
+        return QIcon(QStringLiteral(":/icons/icons/led_gray.png"));
     }
 }
 

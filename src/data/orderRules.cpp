@@ -29,11 +29,6 @@ QStringList refused(const QString &text,
 
 QString folded(const QString &casing) { return casing.simplified().toCaseFolded(); }
 
-const QString &unitOf(const materialStruct &material)
-{
-    return material.d_unit.isEmpty() ? labels::storedUnits().first() : material.d_unit;
-}
-
 long long wholeAtLeast(const decimal &amount)
 {
     const long long rounded = amount.text(0).toLongLong();
@@ -103,7 +98,9 @@ decimal orderRules::extra(const materialStruct &material, const decimal &needed)
         return {};
     const decimal share = needed * found->share;
     const decimal more = share < found->least ? found->least : share;
-    return labels::isCounted(unitOf(material)) ? whole(wholeAtLeast(needed + more)) - needed : more;
+    return labels::isCounted(labels::unitOrPieces(material.d_unit))
+               ? whole(wholeAtLeast(needed + more)) - needed
+               : more;
 }
 
 decimal orderRules::raised(const materialStruct &material, const decimal &amount) const
@@ -111,8 +108,9 @@ decimal orderRules::raised(const materialStruct &material, const decimal &amount
     if (amount <= decimal())
         return amount;
     const auto found =
-        std::find_if(m_multiples.begin(), m_multiples.end(),
-                     [&](const multiple &one) { return one.unit == unitOf(material); });
+        std::find_if(m_multiples.begin(), m_multiples.end(), [&](const multiple &one) {
+            return one.unit == labels::unitOrPieces(material.d_unit);
+        });
     if (found == m_multiples.end())
         return amount;
     const long long pieces = wholeAtLeast(amount);

@@ -18,6 +18,7 @@
 #include "util/labels.h"
 #include "util/prompts.h"
 #include "window/searchLine.h"
+#include "window/treeHint.h"
 #include "window/workProgress.h"
 
 #include <QClipboard>
@@ -246,11 +247,7 @@ void Kiv_mat_databaseWindow::buildWidgets()
     m_words = new searchLine(m_view);
     m_words->completeFrom(known().search(), [this] { return &m_rows->database(); });
     new databaseDrop(this);
-    m_hint = new QLabel(m_view->viewport());
-    m_hint->setObjectName(QStringLiteral("hint"));
-    m_hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    constexpr QPoint hintPlace(24, 16);
-    m_hint->move(hintPlace);
+    m_hint = treeHint::over(m_view, QStringLiteral("hint"));
     connect(m_hint, &QLabel::linkActivated, this, [this](const QString &link) {
         if (link == QLatin1String("all"))
             showAll();

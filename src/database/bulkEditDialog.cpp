@@ -1,248 +1,30 @@
 #include "database/bulkEditDialog.h"
 
 #include "data/kiv_mat_firmStruct.h"
+#include "database/bulkPreview.h"
 #include "database/templateLine.h"
 #include "tree/refusal.h"
 #include "util/labels.h"
 #include "util/paths.h"
-#include "util/text.h"
+#include "window/searchableBox.h"
 
-#include <QAbstractItemView>
-#include <QAbstractTableModel>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
-#include <QStyle>
 #include <QTimer>
 #include <QToolTip>
-#include <QTreeView>
 
 using bulkEdit::request;
-
-// The rows of a plan: first what is refused, then what is changed, with ticks.
-class bulkPreview : public QAbstractTableModel
-{
-public:
-    enum column
-    {
-        ktmColumn,
-        nameColumn,
-        beforeColumn,
-        afterColumn,
-        reasonColumn,
-        columnCountOfAll
-    };
-
-    using QAbstractTableModel::QAbstractTableModel;
-
-    void show(bulkEdit::plan made)
-    {
-        beginResetModel();
-        m_plan = std::move(made);
-        m_marked.assign(m_plan.changes.size(), true);
-        m_markedCount = int(m_marked.size());
-        endResetModel();
-    }
-    const bulkEdit::plan &plan() const { return m_plan; }
-    int markedCount() const { return m_markedCount; }
-    std::vector<int> marked() const
-    {
-        std::vector<int> rows;
-        for (size_t i = 0; i < m_marked.size(); ++i)
-            if (m_marked[i])
-                rows.push_back(int(i));
-        return rows;
-    }
-    void mark(const QModelIndexList &rows, bool on)
-    {
-        for (const QModelIndex &index : rows) {
-            const int place = index.row() - refusedCount();
-            if (place < 0 || m_marked[size_t(place)] == on)
-                continue;
-            m_marked[size_t(place)] = on;
-            m_markedCount += on ? 1 : -1;
-        }
-        tellMarks();
-    }
-    void markAll(bool on)
-    {
-        m_marked.assign(m_marked.size(), on);
-        m_markedCount = on ? int(m_marked.size()) : 0;
-        tellMarks();
-    }
-    // Moves changes to the refused ones.
-    void refuse(std::vector<bulkEdit::row> rows)
-    {
-        beginResetModel();
-        QSet<const materialStruct *> materials;
-        for (bulkEdit::row &row : rows) {
-            materials.insert(row.at.material);
-            m_plan.refused.push_back(std::move(row));
-        }
-        std::vector<bulkEdit::row> kept;
-        std::vector<bool> marks;
-        for (size_t i = 0; i < m_plan.changes.size(); ++i)
-            if (!materials.contains(m_plan.changes[i].at.material)) {
-                kept.push_back(std::move(m_plan.changes[i]));
-                marks.push_back(m_marked[i]);
-            }
-        m_plan.changes = std::move(kept);
-        m_marked = std::move(marks);
-        m_markedCount = int(std::count(m_marked.begin(), m_marked.end(), true));
-        endResetModel();
-    }
-
-    int rowCount(const QModelIndex &parent = {}) const override
-    {
-        return parent.isValid() ? 0 : refusedCount() + int(m_plan.changes.size());
-    }
-    int columnCount(const QModelIndex &parent = {}) const override
-    {
-        return parent.isValid() ? 0 : columnCountOfAll;
-    }
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
-    {
-        if (role != Qt::DisplayRole || orientation != Qt::Horizontal)
-            return {};
-        switch (section) {
-        case ktmColumn:
-            return labels::ktm();
-        case nameColumn:
-            return labels::name();
-        case beforeColumn:
-            return bulkEditDialog::tr("Before");
-        case afterColumn:
-            return bulkEditDialog::tr("After");
-        default:
-            return bulkEditDialog::tr("Refused because");
-        }
-    }
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        const bool isRefused = index.row() < refusedCount();
-        switch (role) {
-        case Qt::DisplayRole:
-            return textOf(index).simplified();
-        case Qt::ToolTipRole:
-            return text::toolTip(textOf(index));
-        case Qt::CheckStateRole:
-            if (index.column() == ktmColumn && !isRefused)
-                return m_marked[size_t(index.row() - refusedCount())] ? Qt::Checked : Qt::Unchecked;
-            return {};
-        case Qt::DecorationRole:
-            return index.column() == ktmColumn && isRefused
-                       ? QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning)
-                       : QVariant();
-        default:
-            return {};
-        }
-    }
-    Qt::ItemFlags flags(const QModelIndex &index) const override
-    {
-        const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
-        return index.column() == ktmColumn && index.row() >= refusedCount()
-                   ? usual | Qt::ItemIsUserCheckable
-                   : usual;
-    }
-    bool setData(const QModelIndex &index, const QVariant &value, int role) override
-    {
-        if (role == Qt::CheckStateRole)
-            mark({index}, value.toInt() == Qt::Checked);
-        return role == Qt::CheckStateRole;
-    }
-
-private:
-    // Once for many, which are counted then.
-    void tellMarks()
-    {
-        emit dataChanged(index(0, ktmColumn), index(rowCount() - 1, ktmColumn),
-                         {Qt::CheckStateRole});
-    }
-    int refusedCount() const { return int(m_plan.refused.size()); }
-    QString textOf(const QModelIndex &index) const
-    {
-        const int place = index.row() - refusedCount();
-        const bulkEdit::row &row =
-            place < 0 ? m_plan.refused[size_t(index.row())] : m_plan.changes[size_t(place)];
-        switch (index.column()) {
-        case ktmColumn:
-            return row.at.material->d_ktm;
-        case nameColumn:
-            return row.at.material->d_name;
-        case beforeColumn:
-            return bulkEdit::shownBefore(m_plan.made, row);
-        case afterColumn:
-            return bulkEdit::shownAfter(m_plan.made, row);
-        default:
-            return row.refusal;
-        }
-    }
-
-    bulkEdit::plan m_plan;
-    std::vector<bool> m_marked;
-    int m_markedCount = 0;
-};
-
-// A list to choose from by typing a part of an entry; the only one that holds it is meant.
-class searchableBox : public QComboBox
-{
-public:
-    explicit searchableBox(QWidget *parent)
-        : QComboBox(parent)
-    {
-        setEditable(true);
-        setInsertPolicy(NoInsert);
-        completer()->setCompletionMode(QCompleter::PopupCompletion);
-        completer()->setFilterMode(Qt::MatchContains);
-        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-        connect(lineEdit(), &QLineEdit::editingFinished, this, [this] { chooseOnly(); });
-    }
-
-    // Of the entries that hold what is typed.
-    int matches() const
-    {
-        int count = 0;
-        for (int i = 0; i < this->count(); ++i)
-            count += itemText(i).contains(currentText(), Qt::CaseInsensitive) ? 1 : 0;
-        return count;
-    }
-
-protected:
-    // Return that chooses is not yet the dialog's.
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (!isReturn || !chooseOnly())
-            QComboBox::keyPressEvent(event);
-    }
-
-private:
-    // False when there is nothing to choose, or it stands there whole.
-    bool chooseOnly()
-    {
-        const QString typed = currentText();
-        if (typed.trimmed().isEmpty() || matches() != 1)
-            return false;
-        const int only = findText(typed, Qt::MatchContains);
-        if (itemText(only) == typed)
-            return false;
-        setCurrentIndex(only);
-        completer()->popup()->hide();
-        return true;
-    }
-};
 
 namespace {
 
@@ -279,25 +61,6 @@ QStringList firmNames(const List &firms)
     names.sort(Qt::CaseInsensitive);
     return names;
 }
-
-// Space ticks all the selected rows, or none of them.
-class tickingView : public QTreeView
-{
-public:
-    using QTreeView::QTreeView;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        auto *preview = static_cast<bulkPreview *>(model());
-        const QModelIndex first = currentIndex().sibling(currentIndex().row(), 0);
-        if (event->key() == Qt::Key_Space && first.isValid())
-            preview->mark(selectionModel()->selectedRows(),
-                          first.data(Qt::CheckStateRole).toInt() != Qt::Checked);
-        else
-            QTreeView::keyPressEvent(event);
-    }
-};
 
 } // namespace
 

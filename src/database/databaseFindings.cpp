@@ -5,7 +5,6 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "util/labels.h"
 #include "util/messages.h"
-#include "util/tableFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -216,20 +215,7 @@ exportResult exportFindings(const std::vector<const finding *> &findings, const 
         int(findings.size()),
         [&findings](int row) { return findingText::cells(*findings[size_t(row)]); },
         {}};
-    exportResult result;
-    QString fault;
-    switch (tableFile::write(table, path, &fault, progress)) {
-    case tableFile::written:
-        result.files.append(path);
-        break;
-    case tableFile::cancelled:
-        result.result = exportResult::cancelled;
-        break;
-    case tableFile::failed:
-        result.result = exportResult::failed;
-        result.error = path + QLatin1String(": ") + fault;
-    }
-    return result;
+    return exportTable(table, path, progress);
 }
 
 std::vector<QLatin1String> emptyFieldsOf(const materialStruct &material)

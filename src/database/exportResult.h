@@ -2,6 +2,7 @@
 #pragma once
 
 #include "database/exportChanges.h"
+#include "util/tableFile.h"
 
 #include <QString>
 #include <QStringList>
@@ -21,3 +22,7 @@ struct exportResult
     int materials = 0;
     exportChanges changes; // of the exports that compare with the last one
 };
+
+// A table written as a file of its own, a workbook or CSV by the path's ending.
+exportResult exportTable(const tableFile::content &table, const QString &path,
+                         const progressFunction &progress = {});

@@ -5,6 +5,7 @@
 #include "database/findingsModel.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "util/text.h"
 #include "window/workProgress.h"
 
 #include <QClipboard>
@@ -400,12 +401,8 @@ void findingsWindow::commandCopy(bool)
     QModelIndexList rows = m_view->selectionModel()->selectedRows();
     std::sort(rows.begin(), rows.end());
     QStringList lines;
-    for (const QModelIndex &row : qAsConst(rows)) {
-        QStringList cells = findingText::cells(m_model->at(row.row()));
-        for (QString &cell : cells)
-            cell = cell.simplified();
-        lines.append(cells.join(QLatin1Char('\t')));
-    }
+    for (const QModelIndex &row : qAsConst(rows))
+        lines.append(text::tabbedRow(findingText::cells(m_model->at(row.row()))));
     if (lines.isEmpty())
         return;
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));

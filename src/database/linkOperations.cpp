@@ -1,7 +1,6 @@
 #include "database/linkOperations.h"
 
 #include "data/kiv_mat_databaseStruct.h"
-#include "util/workbook.h"
 #include "util/labels.h"
 #include "util/linkCheck.h"
 
@@ -79,27 +78,15 @@ QStringList linkErrorLines(const linkCheckResult &result)
 exportResult exportLinks(const linkCheckResult &checked, const QString &path,
                          const progressFunction &progress)
 {
-    exportResult result;
-    workbook book;
-    int row = 0;
-    const auto write = [&book, &row](const QStringList &cells) {
-        ++row;
-        for (int column = 0; column < cells.size(); ++column)
-            if (!book.write(row, column + 1, cells.at(column)))
-                return false;
-        return true;
-    };
-    bool good = book.addSheet(QStringLiteral("Links"))
-                && write({labels::ktm(), labels::name(), labels::address(), labels::results()});
-    for (const checkedLink &link : checked.links)
-        good = good
-               && write({link.material->d_ktm, link.material->d_name, link.link,
-                         link.answers ? QStringLiteral("Ok") : QStringLiteral("Error")});
-    if (good && book.saveAs(path, progress)) {
-        result.files.append(path);
-        return result;
-    }
-    result.result = book.isCancelled() ? exportResult::cancelled : exportResult::failed;
-    result.error = path + QLatin1String(": ") + book.error();
-    return result;
+    const tableFile::content table{
+        QStringLiteral("Links"),
+        {labels::ktm(), labels::name(), labels::address(), labels::results()},
+        int(checked.links.size()),
+        [&checked](int row) {
+            const checkedLink &link = checked.links[size_t(row)];
+            return QStringList{link.material->d_ktm, link.material->d_name, link.link,
+                               link.answers ? QStringLiteral("Ok") : QStringLiteral("Error")};
+        },
+        {}};
+    return exportTable(table, path, progress);
 }

@@ -5,6 +5,7 @@
 #include "util/desktop.h"
 #include "util/labels.h"
 #include "util/prompts.h"
+#include "util/text.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -518,7 +519,7 @@ void linksWindow::commandCopy(bool)
         QStringList cells;
         for (int column = 0; column < m_rows.columnCount(); ++column)
             cells.append(m_rows.index(row, column).data().toString());
-        lines.append(cells.join(QLatin1Char('\t')));
+        lines.append(text::tabbedRow(cells));
     }
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
     tell(tr("%n row(s) copied", nullptr, lines.size()));

@@ -14,6 +14,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 class rowsModel : public QAbstractTableModel
@@ -61,6 +63,7 @@ tableDialog::tableDialog(readTable table, QWidget *parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(table.title);
     auto *summary = new QLabel(table.summary, this);
+    summary->setObjectName(QStringLiteral("summary"));
     summary->setTextFormat(Qt::PlainText);
     summary->setWordWrap(true);
     summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -88,7 +91,8 @@ tableDialog::tableDialog(readTable table, QWidget *parent)
     // As given until the user sorts.
     view->sortByColumn(-1, Qt::AscendingOrder);
     for (int column = 0; column < table.widths.size(); ++column)
-        view->header()->resizeSection(column, table.widths.at(column));
+        view->header()->resizeSection(
+            column, std::max(table.widths.at(column), view->header()->sectionSizeHint(column)));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton *copy = buttons->addButton(tr("Copy"), QDialogButtonBox::ActionRole);
@@ -104,8 +108,8 @@ tableDialog::tableDialog(readTable table, QWidget *parent)
         for (const QModelIndex &line : qAsConst(lines)) {
             QStringList cells;
             for (int column = 0; column < rows->columnCount(); ++column)
-                cells.append(line.siblingAtColumn(column).data().toString().simplified());
-            all += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+                cells.append(line.siblingAtColumn(column).data().toString());
+            all += text::tabbedRow(cells) + QLatin1Char('\n');
         }
         QApplication::clipboard()->setText(all);
     });

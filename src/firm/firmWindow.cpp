@@ -13,6 +13,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "window/becomeList.h"
+#include "window/treeHint.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -132,12 +133,8 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
     for (const char *wanted : {"add", "delete", "homePage", "copyCells", "pasteCells"})
         view->addAction(action(wanted));
     m_tabs->addTab(view, title);
-    auto *hint =
-        new QLabel(tr("The list is empty. <a href=\"add\">Add a firm</a>."), view->viewport());
-    hint->setObjectName(QLatin1String(name) + QStringLiteral("Hint"));
-    hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    constexpr QPoint hintPlace(24, 16);
-    hint->move(hintPlace);
+    QLabel *hint = treeHint::over(view, QLatin1String(name) + QStringLiteral("Hint"));
+    hint->setText(tr("The list is empty. <a href=\"add\">Add a firm</a>."));
     connect(hint, &QLabel::linkActivated, action("add"), &QAction::trigger);
 
     const configStruct &config = known().config();

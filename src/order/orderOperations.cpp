@@ -108,7 +108,7 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
     line->averagePrice = material.d_averagePrice;
     line->inWarehouse = material.d_inWarehouse;
     line->quantity = quantity;
-    line->unit = material.d_unit.isEmpty() ? labels::storedUnits().first() : material.d_unit;
+    line->unit = labels::unitOrPieces(material.d_unit);
     line->wait = wait.toString(labels::dateFormat());
     line->description = material.d_description;
     line->rohsRequired = material.information.rohsRequired.isEmpty()

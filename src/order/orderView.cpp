@@ -12,6 +12,7 @@
 #include "util/cleanHtml.h"
 #include "util/labels.h"
 #include "window/becomeList.h"
+#include "window/treeHint.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -46,7 +47,7 @@ orderView::orderView(programData &known, commandStack &stack, QWidget *parent)
     , m_optionsView(new myTreeView(this))
     , m_linesView(new myTreeView(this))
     , m_attentions(new myTextEdit(this))
-    , m_hint(new QLabel(m_linesView->viewport()))
+    , m_hint(treeHint::over(m_linesView, QStringLiteral("hint")))
 {
     buildOptions();
     buildLines();
@@ -114,13 +115,8 @@ void orderView::buildLines()
             emit changed();
         });
 
-    m_hint->setObjectName(QStringLiteral("hint"));
-    m_hint->setTextFormat(Qt::RichText);
     m_hint->setText(tr("The order has no lines. <a href=\"addMaterial\">Add a material</a>, or "
                        "<a href=\"zpOpen\">open an order</a>."));
-    m_hint->setTextInteractionFlags(Qt::TextBrowserInteraction);
-    constexpr QPoint hintPlace(24, 16);
-    m_hint->move(hintPlace);
     connect(m_hint, &QLabel::linkActivated, this, &orderView::actionWanted);
 }
 

@@ -73,6 +73,11 @@ const QStringList &storedUnits()
     return units;
 }
 
+const QString &unitOrPieces(const QString &stored)
+{
+    return stored.isEmpty() ? storedUnits().first() : stored;
+}
+
 bool isCounted(const QString &storedUnit)
 {
     static const QStringList measured{

@@ -16,6 +16,9 @@ namespace labels {
 // The unit names as files store them ("pcs.", "tray", ...), untranslated, in the order offered.
 const QStringList &storedUnits();
 
+// The unit of a record, which is pieces when it has none.
+const QString &unitOrPieces(const QString &stored);
+
 // Whether a unit counts pieces, so that only whole quantities of it make sense. Units that are
 // none of the stored ones, and none at all, count nothing.
 bool isCounted(const QString &storedUnit);

@@ -102,6 +102,14 @@ QString toolTip(const QString &text)
                           : QLatin1String("<qt>") + toHtml(text) + QLatin1String("</qt>");
 }
 
+QString tabbedRow(const QStringList &values)
+{
+    QStringList cells;
+    for (const QString &value : values)
+        cells.append(value.simplified());
+    return cells.join(QLatin1Char('\t'));
+}
+
 QString csvRow(const QStringList &values)
 {
     QStringList fields;

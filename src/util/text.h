@@ -43,4 +43,7 @@ QString toolTip(const QString &text);
 // A row of a table of values between semicolons, quoted where they have to be; without a line end.
 QString csvRow(const QStringList &values);
 
+// A row of a table for the clipboard: values between tabs, each in one line.
+QString tabbedRow(const QStringList &values);
+
 } // namespace text

@@ -37,7 +37,7 @@ const scenario setActions[] = {
     {SETS, "#report Ctrl+A '%/r.pdf' Return", "file r.pdf ~ PDF-1"},
     {SETS, "#report Ctrl+A '%/p' !fileTypeCombo Down Return !fileNameEdit Return",
      "file p.pdf ~ PDF-1; files p.html ="},
-    {"boms@0/0/0,0 +boms@2/0/0,0", "#compare", "front = Differences of two lists"},
+    {"boms@0/0/0,0 +boms@2/0/0,0", "#compare", "front = Differences of two lists; summary ~ \u2192"},
     {"boms@0/0/0,0", "#compare '%/" LIST "' Return", "status = The lists have the same parts"},
     {"", "#import '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts"},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
@@ -87,6 +87,8 @@ const scenario listActions[] = {
 // A material of the database, and two that it does not have.
 const scenario importActions[] = {
     {"", "#open '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts; lines = 3"},
+    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return Return", "boxes ~ not written yet; lines = 3; lines@1,0 = left out"},
+    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return !Give_it_up", "lines = 1; title ~ other.csv"},
     {"", "#set Ctrl+A '%/_files/boms/in.xml' Return",
      "file _files/boms/in.xml ~ <d_ktm>" KNOWN "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
      "files _files/*.csv ="},
@@ -103,7 +105,7 @@ const scenario importActions[] = {
     {"lines@1,0", "#matchAgain", "lines@1,0 = unknown; lines@0,0 = matched"},
     {"lines@1,0", "#newMaterial Return ~200 Escape", "front = Database of material [%/_files/db_warehouse.xml]"},
     {"", "#close", "title = closed"},
-    {"lines@1,0 #leaveOut", "#close !No", "boxes ~ not written yet; title ~ in.csv"},
+    {"lines@1,0 #leaveOut", "#close Return", "boxes ~ not written yet; title ~ in.csv"},
 };
 
 const scenario scenarios[] = {
@@ -129,6 +131,7 @@ const scenario scenarios[] = {
     {"cancelled", NEEDS "Escape", "errors !~ NONE-1", reads},
     {"topped up", NEEDS "!topUp !go", "orderLines = 21; orderLines@0,5 = 25; errors ~ NONE-1", reads},
     {"none ticked", NEEDS "!none !go", "orderLines = 21; orderLines@0,5 = 25; errors ~ NONE-1", reads},
+    {"all unticked by Space", NEEDS "needs@0,0 Ctrl+A Space !go", "orderLines = 21; orderLines@0,5 = 25", reads},
     {"one unticked", NEEDS "needs@0,0 Space !go", "orderLines = 21; orderLines@0,5 = 25", reads},
     {"copied", NEEDS "!copy Escape", "clipboard ~ " KNOWN "; clipboard ~ NONE-1", reads},
     {"saved", NEEDS "!saveAs Ctrl+A '%/n.csv' Return Escape", "file n.csv ~ " KNOWN, reads},
@@ -182,6 +185,7 @@ class tst_bomWindows : public scenarioFixture
         write("far.xml", "NONE-1", "1");
         testSupport::write(path("in.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n"
                                            "U2,1,,NOSUCH-1\nU3,2,,NOSUCH-2\n");
+        testSupport::write(path("other.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n");
         QByteArray order = testSupport::read(path("_zp/zp_0.xml"));
         order.replace(order.indexOf("<unit>pcs."), 10, "<unit>");
         testSupport::write(path("_zp/zp_0.xml"), order);
