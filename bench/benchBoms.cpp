@@ -1,8 +1,10 @@
-// From many BOM lists to one order.
+// From lists of parts to BOM lists, and from many of these to one order.
 #include "benchSupport.h"
 
+#include "bom/bomImport.h"
 #include "bom/bomOperations.h"
 #include "data/loaders.h"
+#include "util/files.h"
 #include "util/localeSetup.h"
 #include "util/paths.h"
 
@@ -114,6 +116,65 @@ void fromFiles(benchmark::State &state, const ktmIndex &materials, const bomVect
     state.counters["ratio"] = seconds / double(state.iterations()) / allowed;
 }
 
+// A list of parts with so many lines: part numbers of the database, values with cases, and parts
+// that it has not.
+QString makePartsList(const std::vector<ktmIndex::entry> &materials, int lines)
+{
+    QString text = QStringLiteral("Designator;Quantity;Value;Footprint;Manufacturer;MPN\n");
+    for (int i = 0; i < lines; ++i) {
+        const materialStruct &of = *materials[size_t(i) * 971 % materials.size()].material;
+        const auto &makers = of.manufacturers.items;
+        const bool isNumber = i % 3 != 0 && !makers.empty();
+        QStringList cells{QStringLiteral("X%1, X%2").arg(2 * i).arg(2 * i + 1),
+                          QStringLiteral("2"),
+                          of.d_value,
+                          of.d_case,
+                          isNumber ? makers[0]->name : QString(),
+                          isNumber      ? makers[0]->partNo
+                          : i % 10 == 0 ? QStringLiteral("NOSUCH-%1").arg(i)
+                                        : QString()};
+        for (QString &cell : cells)
+            cell.replace(QLatin1Char(';'), QLatin1Char(','));
+        text += cells.join(QLatin1Char(';')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+// From the file of a CAD tool to staged lines, with looking at all materials once.
+// ratio: the time over the allowed half second.
+void stageParts(benchmark::State &state, const std::vector<ktmIndex::entry> &materials)
+{
+    constexpr double allowedForParts = 0.5;
+    constexpr int partsLines = 100;
+    const QTemporaryDir folder(KIVZP_BENCH_DIR "/partsXXXXXX");
+    const QString path = folder.filePath(QStringLiteral("parts.csv"));
+    if (!files::writeText(path, makePartsList(materials, partsLines))) {
+        state.SkipWithError("the list was not written");
+        return;
+    }
+    double seconds = 0;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        QString fault;
+        const auto table = readPartsTable(path, {}, &fault);
+        if (!table) {
+            state.SkipWithError(qPrintable(fault));
+            return;
+        }
+        bomImport::staged lines;
+        bomImport::stage(linesOf(*table, partsColumns::guessed(*table)), partsMatcher(materials),
+                         {}, &lines);
+        const double taken = since(timer);
+        seconds += taken;
+        state.SetIterationTime(taken);
+        state.counters["lines"] = double(lines.lines.size());
+        state.counters["matched"] = lines.count(bomImport::state::matched);
+        state.counters["ambiguous"] = lines.count(bomImport::state::ambiguous);
+    }
+    state.counters["ratio"] = seconds / double(state.iterations()) / allowedForParts;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -135,6 +196,14 @@ int main(int argc, char **argv)
     };
     add("bomsToOrder/fromRecords", fromRecords);
     add("bomsToOrder/fromFiles", fromFiles);
+    std::vector<ktmIndex::entry> all;
+    for (const auto &group : database.groups)
+        for (const auto &material : group->items)
+            all.push_back({material.get(), group.get(), &database});
+    benchmark::RegisterBenchmark("stageParts", [&all](auto &s) { stageParts(s, all); })
+        ->UseManualTime()
+        ->Iterations(9)
+        ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -664,6 +664,8 @@ def action_icons():
         "action_clear_price": [tag(), badge(CROSS, RED)],
         "action_from_bom": [bom(), badge(RIGHT, BLUE)],
         "action_add_material": [box(), badge(PLUS, GREEN)],
+        "action_reserve": [box(), badge(CLOCK, BLUE)],
+        "action_built": [box(), badge(OUT, GREEN)],
         "action_shipment": [truck()],
         "action_pcb": [
             layer(area(rect(2.2, 3.5, 19.6, 17, 1.4), GREEN),

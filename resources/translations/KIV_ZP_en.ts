@@ -83,6 +83,20 @@
             <numerusform>%n differences</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n set</numerusform>
+            <numerusform>%n sets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stock reserved for %n board(s)</source>
+        <translation>
+            <numerusform>Stock reserved for %n board</numerusform>
+            <numerusform>Stock reserved for %n boards</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -345,6 +359,37 @@
     </message>
 </context>
 <context>
+    <name>boardStockDialog</name>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lacking in stock</source>
+        <translation>
+            <numerusform>%n lacking in stock</numerusform>
+            <numerusform>%n lacking in stock</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in no database</source>
+        <translation>
+            <numerusform>%n in no database</numerusform>
+            <numerusform>%n in no database</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n line without a quantity</numerusform>
+            <numerusform>%n lines without a quantity</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>bomImportWindow</name>
     <message numerus="yes">
         <source>%1, %n row(s)</source>
@@ -490,6 +535,13 @@
             <numerusform>%n materials</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>only %n set(s) were reserved</source>
+        <translation>
+            <numerusform>only %n set was reserved</numerusform>
+            <numerusform>only %n sets were reserved</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>configWindow</name>
@@ -522,6 +574,13 @@
         <translation>
             <numerusform>%n character that no file can hold was dropped</numerusform>
             <numerusform>%n characters that no file can hold were dropped</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n set</numerusform>
+            <numerusform>%n sets</numerusform>
         </translation>
     </message>
 </context>
@@ -1143,6 +1202,23 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>reservationsDialog</name>
+    <message numerus="yes">
+        <source>%n board(s) reserved</source>
+        <translation>
+            <numerusform>%n board reserved</numerusform>
+            <numerusform>%n boards reserved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n built</source>
+        <translation>
+            <numerusform>%n built</numerusform>
+            <numerusform>%n built</numerusform>
         </translation>
     </message>
 </context>

@@ -113,10 +113,6 @@
         <translation>Zapisać zmienioną listę materiałów %1?</translation>
     </message>
     <message>
-        <source>A list cannot be read; nothing was ordered</source>
-        <translation>Nie można odczytać listy; niczego nie zamówiono</translation>
-    </message>
-    <message>
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
     </message>
@@ -295,6 +291,34 @@
             <numerusform>%n różnice</numerusform>
             <numerusform>%n różnic</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>A list cannot be read; nothing was done</source>
+        <translation>Nie można odczytać listy; nic nie zrobiono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n zestaw</numerusform>
+            <numerusform>%n zestawy</numerusform>
+            <numerusform>%n zestawów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read</source>
+        <translation>Nie można odczytać pliku %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stock reserved for %n board(s)</source>
+        <translation>
+            <numerusform>Zarezerwowano stan dla %n płytki</numerusform>
+            <numerusform>Zarezerwowano stan dla %n płytek</numerusform>
+            <numerusform>Zarezerwowano stan dla %n płytek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Taken out of stock: %1</source>
+        <translation>Zdjęto ze stanu: %1</translation>
     </message>
 </context>
 <context>
@@ -778,6 +802,10 @@
         <source>Changes of the export</source>
         <translation>Zmiany w eksporcie</translation>
     </message>
+    <message>
+        <source>The database is saved, but the boards that were built cannot be noted in %1; saving again tries it again</source>
+        <translation>Bazę zapisano, ale zmontowanych płytek nie można odnotować w pliku %1; ponowny zapis spróbuje jeszcze raz</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1200,6 +1228,10 @@
     <message>
         <source>The order has no line of %1</source>
         <translation>Zamówienie nie ma pozycji %1</translation>
+    </message>
+    <message>
+        <source>Taken out of stock: %1</source>
+        <translation>Zdjęto ze stanu: %1</translation>
     </message>
 </context>
 <context>
@@ -2487,6 +2519,30 @@
         <source>What the second of two selected lists has otherwise than the first; with one selected a file is asked for</source>
         <translation>Co druga z dwóch zaznaczonych list ma inaczej niż pierwsza; przy jednej zaznaczonej trzeba wskazać plik</translation>
     </message>
+    <message>
+        <source>Reserve stock ...</source>
+        <translation>Zarezerwuj stan ...</translation>
+    </message>
+    <message>
+        <source>Keep stock for the lists that are going to be built</source>
+        <translation>Zachowaj stan magazynu dla list, które będą montowane</translation>
+    </message>
+    <message>
+        <source>Boards built ...</source>
+        <translation>Zmontowane płytki ...</translation>
+    </message>
+    <message>
+        <source>Take the materials of the lists that were built out of the stock</source>
+        <translation>Zdejmij ze stanu materiały list, które zmontowano</translation>
+    </message>
+    <message>
+        <source>Reservations ...</source>
+        <translation>Rezerwacje ...</translation>
+    </message>
+    <message>
+        <source>What is reserved for boards, and what was built</source>
+        <translation>Co jest zarezerwowane dla płytek, a co zmontowano</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2567,6 +2623,104 @@
     <message>
         <source>Tool bar</source>
         <translation>Pasek narzędzi</translation>
+    </message>
+</context>
+<context>
+    <name>boardStock</name>
+    <message>
+        <source>in no database</source>
+        <translation>brak w bazach</translation>
+    </message>
+    <message>
+        <source>the stock is no number</source>
+        <translation>stan magazynu nie jest liczbą</translation>
+    </message>
+    <message>
+        <source>not enough in stock</source>
+        <translation>za mało w magazynie</translation>
+    </message>
+</context>
+<context>
+    <name>boardStockDialog</name>
+    <message>
+        <source>With what gets &amp;lost while the boards are built</source>
+        <translation>Z naddatkiem na s&amp;traty przy montażu</translation>
+    </message>
+    <message>
+        <source>Reserve stock for boards</source>
+        <translation>Rezerwacja stanu dla płytek</translation>
+    </message>
+    <message>
+        <source>Take built boards out of stock</source>
+        <translation>Zdjęcie zmontowanych płytek ze stanu</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Potrzeba</translation>
+    </message>
+    <message>
+        <source>Attrition</source>
+        <translation>Naddatek</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Potem</translation>
+    </message>
+    <message>
+        <source>Lacking</source>
+        <translation>Brakuje</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Uwaga</translation>
+    </message>
+    <message>
+        <source>&amp;Reserve</source>
+        <translation>&amp;Zarezerwuj</translation>
+    </message>
+    <message>
+        <source>&amp;Take out</source>
+        <translation>&amp;Zdejmij ze stanu</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lacking in stock</source>
+        <translation>
+            <numerusform>%n brakuje w magazynie</numerusform>
+            <numerusform>%n brakuje w magazynie</numerusform>
+            <numerusform>%n brakuje w magazynie</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in no database</source>
+        <translation>
+            <numerusform>%n brak w bazach</numerusform>
+            <numerusform>%n brak w bazach</numerusform>
+            <numerusform>%n brak w bazach</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n pozycja bez ilości</numerusform>
+            <numerusform>%n pozycje bez ilości</numerusform>
+            <numerusform>%n pozycji bez ilości</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is nothing to take</source>
+        <translation>nie ma czego zdjąć</translation>
     </message>
 </context>
 <context>
@@ -4001,6 +4155,50 @@ Pola: %1</translation>
         <source>--short and --top-up exclude each other</source>
         <translation>--short i --top-up wykluczają się</translation>
     </message>
+    <message>
+        <source>The file of what is reserved for boards.</source>
+        <translation>Plik z tym, co zarezerwowano dla płytek.</translation>
+    </message>
+    <message>
+        <source>Who does it; usually the user.</source>
+        <translation>Kto to robi; zwykle użytkownik.</translation>
+    </message>
+    <message>
+        <source>A material database with the stock. May be given several times.</source>
+        <translation>Baza materiałów ze stanem magazynu. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>give the file of reservations with -r</source>
+        <translation>podaj plik rezerwacji opcją -r</translation>
+    </message>
+    <message>
+        <source>Release so many sets of the boards instead.</source>
+        <translation>Zamiast tego zwolnij tyle zestawów płytek.</translation>
+    </message>
+    <message numerus="yes">
+        <source>only %n set(s) were reserved</source>
+        <translation>
+            <numerusform>zarezerwowany był tylko %n zestaw</numerusform>
+            <numerusform>zarezerwowane były tylko %n zestawy</numerusform>
+            <numerusform>zarezerwowanych było tylko %n zestawów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Print what would be taken out, and write nothing.</source>
+        <translation>Wypisz, co zostałoby zdjęte, i nie zapisuj niczego.</translation>
+    </message>
+    <message>
+        <source>Reserves stock for boards before they are built, or releases it.</source>
+        <translation>Rezerwuje stan magazynu dla płytek przed ich montażem albo go zwalnia.</translation>
+    </message>
+    <message>
+        <source>Takes the materials of built boards out of the databases&apos; stock, and notes them beside the reservations: KTM, name, wanted, before, after, lacking. Exit code 1 when something was lacking.</source>
+        <translation>Zdejmuje materiały zmontowanych płytek ze stanu baz i odnotowuje je obok rezerwacji: KTM, nazwa, potrzeba, przed, po, brakuje. Kod wyjścia 1, gdy czegoś zabrakło.</translation>
+    </message>
+    <message>
+        <source>Lists reserved and built boards.</source>
+        <translation>Wypisuje płytki zarezerwowane i zmontowane.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -4530,6 +4728,18 @@ Pola: %1</translation>
         <source>%1 a second time</source>
         <translation>%1 po raz drugi</translation>
     </message>
+    <message>
+        <source>another program is writing it</source>
+        <translation>zapisuje go inny program</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n set(s)</source>
+        <translation>
+            <numerusform>%n zestaw</numerusform>
+            <numerusform>%n zestawy</numerusform>
+            <numerusform>%n zestawów</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -4711,6 +4921,17 @@ Pola: %1</translation>
     <message>
         <source>This link is not opened. Only web and mail addresses are, and documents in the program&apos;s folders:</source>
         <translation>Ten odnośnik nie został otwarty. Otwierane są tylko adresy stron i poczty oraz dokumenty w folderach programu:</translation>
+    </message>
+</context>
+<context>
+    <name>docExport</name>
+    <message>
+        <source>The converter %1 is not there, which makes documents. Installing the program again brings it back.</source>
+        <translation>Nie ma konwertera %1, który tworzy dokumenty. Ponowna instalacja programu go przywróci.</translation>
+    </message>
+    <message>
+        <source>Documents are made by LibreOffice, which is not installed: install the package libreoffice-writer. A report as PDF or HTML needs nothing.</source>
+        <translation>Dokumenty tworzy LibreOffice, którego nie zainstalowano: zainstaluj pakiet libreoffice-writer. Raport PDF lub HTML nie wymaga niczego.</translation>
     </message>
 </context>
 <context>
@@ -6076,6 +6297,10 @@ Pola: %1</translation>
         <source>HIGH</source>
         <translation>WYSOKIE</translation>
     </message>
+    <message>
+        <source>Reserved</source>
+        <translation>Zarezerwowano</translation>
+    </message>
 </context>
 <context>
     <name>lineSums</name>
@@ -6675,6 +6900,14 @@ Pola: %1</translation>
     <message>
         <source>Select a material</source>
         <translation>Zaznacz materiał</translation>
+    </message>
+    <message>
+        <source>Reserved for boards</source>
+        <translation>Zarezerwowano dla płytek</translation>
+    </message>
+    <message>
+        <source>Left in stock</source>
+        <translation>Zostaje w magazynie</translation>
     </message>
 </context>
 <context>
@@ -7707,6 +7940,93 @@ Pola: %1</translation>
     <message>
         <source>Mended or dropped in the repaired copy: </source>
         <translation>Naprawione lub pominięte w kopii: </translation>
+    </message>
+</context>
+<context>
+    <name>reservationsDialog</name>
+    <message>
+        <source>Reservations and built boards</source>
+        <translation>Rezerwacje i zmontowane płytki</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Płytka</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>Zestawy</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Kto</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Baza</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Zwolnij</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>zarezerwowana</translation>
+    </message>
+    <message>
+        <source>built</source>
+        <translation>zmontowana</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n board(s) reserved</source>
+        <translation>
+            <numerusform>%n zarezerwowana płytka</numerusform>
+            <numerusform>%n zarezerwowane płytki</numerusform>
+            <numerusform>%n zarezerwowanych płytek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n built</source>
+        <translation>
+            <numerusform>%n zmontowana</numerusform>
+            <numerusform>%n zmontowane</numerusform>
+            <numerusform>%n zmontowanych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Nie można odczytać %1: %2</translation>
+    </message>
+    <message>
+        <source>Free the stock of the selected boards</source>
+        <translation>Zwolnij stan wybranych płytek</translation>
+    </message>
+    <message>
+        <source>no reservation is selected</source>
+        <translation>nie wybrano rezerwacji</translation>
+    </message>
+    <message>
+        <source>Release what is reserved for %1?</source>
+        <translation>Zwolnić to, co zarezerwowano dla: %1?</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
     </message>
 </context>
 <context>

@@ -97,6 +97,17 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "What the second of two selected lists has otherwise than the "
                                    "first; with one selected a file is asked for")},
      &Kiv_bomWindow::commandCompare},
+    {{"reserve", "Tools", QT_TRANSLATE_NOOP("actions", "Reserve stock ..."), "action_reserve", "F8",
+      QT_TRANSLATE_NOOP("actions", "Keep stock for the lists that are going to be built")},
+     &Kiv_bomWindow::commandReserve},
+    {{"built", "Tools", QT_TRANSLATE_NOOP("actions", "Boards built ..."), "action_built",
+      "Shift+F8",
+      QT_TRANSLATE_NOOP("actions",
+                        "Take the materials of the lists that were built out of the stock")},
+     &Kiv_bomWindow::commandBuilt},
+    {{"reservations", "Tools", QT_TRANSLATE_NOOP("actions", "Reservations ..."), "action_archive",
+      nullptr, QT_TRANSLATE_NOOP("actions", "What is reserved for boards, and what was built")},
+     &Kiv_bomWindow::commandReservations},
     // "All Quantities ..." of the context menu.
     {{"setAll", nullptr, QT_TRANSLATE_NOOP("actions", "Set all quantities"), "zp_quantity_128",
       nullptr, nullptr},
@@ -209,11 +220,11 @@ void Kiv_bomWindow::updateActions()
     int built = 0;
     for (const QStandardItem *file : files)
         built += bomTree::setsOf(file) > 0;
-    for (const char *name : {"addFile", "addGroup", "save"})
+    for (const char *name : {"addFile", "addGroup", "save", "reservations"})
         setAvailable(name, fault().isEmpty(), fault());
     setAvailable("clear", built > 0, nothingBuilt());
     // "set" takes a number that is still being typed.
-    for (const char *name : {"set", "report", "allQuantities", "setAll"})
+    for (const char *name : {"set", "report", "allQuantities", "setAll", "reserve", "built"})
         setAvailable(name, !files.isEmpty(), tr("there is no list"));
     for (const char *name : {"open", "bom", "csv", "doc"})
         setAvailable(name, bomTree::fileOf(current()), tr("no list is selected"));

@@ -1,9 +1,11 @@
 // The set of BOM lists: how many sets of each are built, reports and exports, and what goes into
 // the order. Changes of the set count in the program at once, and are taken back when the window is
 // closed without saving; the numbers of sets live as long as the window. The tree stands in
-// Kiv_bomWindow.cpp, what is done with the lists in bomListActions.cpp.
+// Kiv_bomWindow.cpp, what is done with the lists in bomListActions.cpp, and with the stock in
+// bomStockActions.cpp.
 #pragma once
 
+#include "bom/boardStock.h"
 #include "bom/bomTree.h"
 #include "window/editWindow.h"
 
@@ -25,6 +27,10 @@ public:
 
     // Opens the material editor with a new material that has these texts and firms.
     std::function<void(const materialStruct &filledIn)> makeMaterial;
+
+    // Takes what was built out of the databases' stock, in their windows; boards names it for the
+    // user. False, told to the user, when nothing was taken out.
+    std::function<bool(std::vector<boardStock::withdrawal> of, const QString &boards)> takeOut;
 
     // The set differs from its file; the numbers of sets to build are no part of it.
     bool isModified() const override;
@@ -51,6 +57,9 @@ public slots:
     void commandAddFile(bool);
     void commandImport(bool);
     void commandCompare(bool);
+    void commandReserve(bool);
+    void commandBuilt(bool);
+    void commandReservations(bool);
     void commandAddGroup(bool);
     void commandDelete(bool);
     void commandOpen(bool);
@@ -108,6 +117,10 @@ private:
     void setSets(const QList<QStandardItem *> &files, int sets, const QString &what);
     QStandardItem *groupForNewFile(std::vector<std::unique_ptr<command>> &members);
     readLists read(const QList<QStandardItem *> &files);
+    // All that are built, which are put into files too; none, told to the user, when one of them
+    // cannot be read.
+    readLists readBuilt(QList<QStandardItem *> *files);
+    bool haveReservations();
     void addToSet(const QString &path);
     // Opens the file that was dropped on a list's window in one of its own.
     void openList(const QString &path);

@@ -57,7 +57,7 @@ Kiv_bomWindow::readLists Kiv_bomWindow::read(const QList<QStandardItem *> &files
     return result;
 }
 
-void Kiv_bomWindow::commandSet(bool)
+Kiv_bomWindow::readLists Kiv_bomWindow::readBuilt(QList<QStandardItem *> *files)
 {
     finishEditing();
     QList<QStandardItem *> built;
@@ -66,12 +66,22 @@ void Kiv_bomWindow::commandSet(bool)
             built.append(file);
     if (built.isEmpty())
         tell(nothingBuilt());
-    const readLists read = this->read(built);
-    // Half of what is built would be ordered unnoticed.
-    if (read.complete && !read.lists.empty())
+    readLists read = this->read(built);
+    // Half of what is built would be taken for all unnoticed.
+    if (!read.complete) {
+        tell(tr("A list cannot be read; nothing was done"));
+        read.lists.clear();
+    }
+    if (files)
+        *files = built;
+    return read;
+}
+
+void Kiv_bomWindow::commandSet(bool)
+{
+    const readLists read = readBuilt(nullptr);
+    if (!read.lists.empty())
         emit appendToOrder(read.lists);
-    else if (!read.complete)
-        tell(tr("A list cannot be read; nothing was ordered"));
 }
 
 void Kiv_bomWindow::tellWritten(const QString &path, bool written)
@@ -134,6 +144,10 @@ void Kiv_bomWindow::commandCsv(bool)
 
 void Kiv_bomWindow::commandDoc(bool)
 {
+    if (const QString missing = missingConverter(); !missing.isEmpty()) {
+        userPrompts().showInformation(missing.toHtmlEscaped());
+        return;
+    }
     const readLists read = this->read({current()});
     if (read.lists.empty())
         return;

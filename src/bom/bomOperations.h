@@ -68,13 +68,15 @@ struct need
     decimal needed;
     decimal extra;                  // that gets lost while the boards are built
     std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
+    decimal reserved;               // of the stock, for other boards
 
     bool isKnown() const { return material != nullptr; }
     decimal whole() const { return needed + extra; }
-    // Needed and not in stock; an unknown stock, and one below nothing, count as nothing.
+    // Needed and not in stock, or reserved there; an unknown stock, and one below nothing, count as
+    // nothing.
     decimal shortage() const
     {
-        return qMax(decimal(), whole() - qMax(decimal(), inStock.value_or(decimal())));
+        return qMax(decimal(), whole() - qMax(decimal(), inStock.value_or(decimal()) - reserved));
     }
     bool isShort() const { return shortage() > decimal(); }
 };

@@ -213,6 +213,8 @@ QString workCaption(workColumn column)
         return tr("Attrition");
     case workInStock:
         return labels::inWarehouse();
+    case workReserved:
+        return labels::reserved();
     case workShort:
         return tr("Short");
     case workInOrder:
@@ -248,6 +250,8 @@ QString workText(const orderedNeed &row, workColumn column)
         return row.of->extra == decimal() ? QString() : row.of->extra.text();
     case workInStock:
         return needText(*row.of, inStockColumn);
+    case workReserved:
+        return row.of->reserved == decimal() ? QString() : row.of->reserved.text();
     case workShort:
         return row.of->shortage().text();
     case workInOrder:

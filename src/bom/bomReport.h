@@ -39,6 +39,7 @@ enum workColumn
     workNeeded,
     workExtra, // that gets lost
     workInStock,
+    workReserved, // for other boards
     workShort,
     workInOrder,
     workToOrder,

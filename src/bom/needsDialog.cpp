@@ -126,7 +126,7 @@ needsDialog::needsDialog(const demand &of, const kiv_mat_zpStruct &order, const 
     choices->addWidget(present);
     layout->addLayout(choices);
     layout->addWidget(buttons);
-    constexpr QSize usualSize(1320, 660);
+    constexpr QSize usualSize(1380, 660);
     resize(usualSize);
     showRows();
     m_go->setFocus();
@@ -167,7 +167,7 @@ void needsDialog::makeTable()
             if (isNumber(workColumn(column)))
                 item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     m_table->addTopLevelItems(items);
-    constexpr int widths[] = {190, 190, 75, 60, 85, 60, 70, 75, 60, 50, 70, 85, 150};
+    constexpr int widths[] = {190, 190, 75, 60, 85, 75, 60, 70, 75, 60, 50, 70, 85, 130};
     for (int column = 0; column < workColumns; ++column)
         m_table->header()->resizeSection(
             column, std::max(widths[column], m_table->header()->sectionSizeHint(column)));

@@ -217,7 +217,8 @@ partsMatcher::partsMatcher(const std::vector<ktmIndex::entry> &materials)
         m_byKtm.insert(material.d_ktm, i);
         QSet<QString> own;
         const auto take = [&](numberIndex *index, const QString &text, const QString &firm) {
-            if (!partsTexts::looksLikePartNumber(text))
+            const bool isOfFirm = !firm.isEmpty() && partsTexts::digitsOfNumber(text) > 0;
+            if (!isOfFirm && !partsTexts::looksLikePartNumber(text))
                 return;
             const QString plain = partsTexts::foldedPartNumber(text);
             (*index)[plain].append({i, firm});
@@ -332,7 +333,8 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
     const QString firm =
         foldedFirm(reason == matchReason::bySupplierNumber ? line.supplier : line.manufacturer);
     for (const QString &text : numbers) {
-        if (!partsTexts::looksLikePartNumber(text))
+        const int digits = partsTexts::digitsOfNumber(text);
+        if (digits == 0 && !partsTexts::looksLikePartNumber(text))
             continue;
         const auto found = index.constFind(withPackaging ? partsTexts::foldedPartNumber(text)
                                                          : partsTexts::withoutPackaging(text));
@@ -352,7 +354,9 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
         if (ofFirm.size() == 1)
             return one(ofFirm.front(),
                        reason == matchReason::byNumber ? matchReason::byMakerAndNumber : reason);
-        if (all.size() == 1)
+        // Several makers have the same few digits.
+        constexpr int telling = 8;
+        if (all.size() == 1 && (digits == 0 || digits >= telling))
             return one(all.front(), reason);
         const std::vector<int> &meant = ofFirm.empty() ? all : ofFirm;
         const QString wanted = caseOf(line);
@@ -361,7 +365,7 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
             std::copy_if(meant.begin(), meant.end(), std::back_inserter(ofCase), [&](int place) {
                 return caseOf(*m_all[size_t(place)].material) == wanted;
             });
-        if (ofCase.size() == 1)
+        if (ofCase.size() == 1 && meant.size() > 1)
             return one(ofCase.front(), reason);
         matchResult result;
         for (int place : meant)
@@ -403,7 +407,8 @@ matchResult partsMatcher::byValue(const partsLine &line) const
     // A part number that is stated and that no material has is a wish that none meets.
     const bool isOpen =
         std::none_of(line.partNumbers.begin(), line.partNumbers.end(), [](const QString &text) {
-            return partsTexts::looksLikePartNumber(text) && !text.contains(QLatin1Char('_'));
+            return (partsTexts::looksLikePartNumber(text) && !text.contains(QLatin1Char('_')))
+                   || partsTexts::digitsOfNumber(text) > 0;
         });
     const auto meeting =
         std::count_if(result.candidates.begin(), result.candidates.end(),
@@ -430,7 +435,8 @@ matchResult partsMatcher::match(const partsLine &line, const matchDecisions &dec
         return one(own, matchReason::byKtm);
     // Lists without a column for part numbers have them among the values.
     QStringList numbers = line.partNumbers;
-    if (std::none_of(numbers.begin(), numbers.end(), partsTexts::looksLikePartNumber))
+    if (std::none_of(numbers.begin(), numbers.end(), partsTexts::looksLikePartNumber)
+        && partsTexts::looksLikePartNumber(line.value))
         numbers.append(line.value);
     QStringList suppliers = line.supplierNumbers;
     if (suppliers.isEmpty())

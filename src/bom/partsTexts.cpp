@@ -105,6 +105,20 @@ QString caseIn(const QString &text)
     const QRegularExpressionMatch size = chip.match(text);
     if (size.hasMatch())
         return group(size, 1);
+    // By millimetres, as far as no size in inches is written like that.
+    static const QHash<QString, QString> metric{{QStringLiteral("1005"), QStringLiteral("0402")},
+                                                {QStringLiteral("1608"), QStringLiteral("0603")},
+                                                {QStringLiteral("2012"), QStringLiteral("0805")},
+                                                {QStringLiteral("2520"), QStringLiteral("1008")},
+                                                {QStringLiteral("3216"), QStringLiteral("1206")},
+                                                {QStringLiteral("3225"), QStringLiteral("1210")},
+                                                {QStringLiteral("4532"), QStringLiteral("1812")},
+                                                {QStringLiteral("5025"), QStringLiteral("2010")},
+                                                {QStringLiteral("6332"), QStringLiteral("2512")}};
+    static const QRegularExpression millimetres(
+        QStringLiteral("(?:^|[:_])(\\d{4})(?:Metric)?(?:_|$)"));
+    if (const QString found = metric.value(group(millimetres.match(text), 1)); !found.isEmpty())
+        return found;
     static const QRegularExpression family(
         QStringLiteral("(?<![A-Za-z])(T?SOT|SOD|SOIC|TSSOP|MSOP|VSSOP|SSOP|SOP|SO|HTSSOP|QFN|VQFN|"
                        "WQFN|UQFN|DFN|WDFN|"
@@ -133,13 +147,27 @@ bool looksLikePartNumber(const QString &text)
 {
     constexpr int least = 4;
     const QString plain = foldedPartNumber(text);
-    if (plain.size() < least || text.contains(QLatin1Char(' ')) || ::quantity::parse(text))
+    if (plain.size() < least || text.contains(QLatin1Char(' ')))
+        return false;
+    // Nobody writes a value with so many digits ("9774060151R").
+    constexpr int valueAtMost = 8;
+    if ((plain.size() <= valueAtMost || plain.size() != text.size()) && ::quantity::parse(text))
         return false;
     const bool hasDigit =
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
     const bool hasLetter =
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isLetter(); });
     return hasDigit && hasLetter;
+}
+
+int digitsOfNumber(const QString &text)
+{
+    constexpr int least = 6;
+    const QString plain = foldedPartNumber(text);
+    const bool isNumber =
+        plain.size() >= least
+        && std::all_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
+    return isNumber ? plain.size() : 0;
 }
 
 QString foldedPartNumber(const QString &text)
@@ -156,10 +184,11 @@ QString withoutPackaging(const QString &text)
 {
     // Only what is set off by a sign: letters at the end mean another part with another maker.
     static const QRegularExpression end(
-        QStringLiteral("(?:[-/ "
-                       "](?:T/"
-                       "?R|TRL|TRPBF|TR7|REEL7?|REEL13|RL7?|R7|TAPE|CT|BULK|TUBE|TRAY|T1|T)|#(?:TR)"
-                       "?PBF|\\+T?|,\\d{3})$"),
+        QStringLiteral(
+            "(?:[-/ "
+            "](?:T/"
+            "?R|TRL|TRPBF|TR7|REEL7?|REEL13|RL7?|R7|TAPE|CT|BULK|TUBE|TRAY|NOPB|T1|T)|#(?:TR)"
+            "?PBF|\\+T?|,\\d{3})$"),
         QRegularExpression::CaseInsensitiveOption);
     QString shortened = text.trimmed();
     for (QRegularExpressionMatch match = end.match(shortened); match.hasMatch();

@@ -22,6 +22,9 @@ QString caseIn(const QString &text);
 
 // Whether it may be ordered by: letters and digits mixed, and no value ("100nF", "4k7").
 bool looksLikePartNumber(const QString &text);
+// The number of its digits when it has nothing else but signs between them, and enough of them for
+// a maker's number; else 0. It is one only where part numbers are expected.
+int digitsOfNumber(const QString &text);
 // The part number as it is compared: capital letters and digits only.
 QString foldedPartNumber(const QString &text);
 // The same without what a maker adds for the packaging ("-TR", "/REEL", "#PBF", ",115"); the folded

@@ -156,5 +156,8 @@ extern const subcommand setFieldCommand;
 extern const subcommand checkNipCommand;
 extern const subcommand firmUsesCommand;
 extern const subcommand firmMergeCommand;
+extern const subcommand bomReserveCommand;
+extern const subcommand bomBuiltCommand;
+extern const subcommand reservationsCommand;
 
 } // namespace cli

@@ -1,9 +1,12 @@
 // bom-csv, bom-report, bom-order, bom-shortage: BOM lists without their windows.
 #include "cli/arguments.h"
+#include "cli/bomLists.h"
 
+#include "bom/boardStock.h"
 #include "bom/bomReport.h"
 #include "data/configStruct.h"
 #include "data/loaders.h"
+#include "data/reservationsFile.h"
 #include "order/orderOperations.h"
 #include "util/files.h"
 #include "util/paths.h"
@@ -16,8 +19,6 @@ using namespace bomOperations;
 
 namespace {
 
-constexpr int setsAtMost = 1000000;
-
 QCommandLineOption materialsOption()
 {
     return databaseOption(QCoreApplication::translate(
@@ -29,71 +30,10 @@ QCommandLineOption outputOption(const QString &help)
     return {{QStringLiteral("o"), QStringLiteral("output")}, help, QStringLiteral("OUT")};
 }
 
-bool readList(const QString &path, kiv_mat_bomStruct *bom)
-{
-    return readFile(path, bom, QCoreApplication::translate("cli", "is no BOM list"));
-}
-
-// The lists given as BOM=SETS, or added one by one.
-class listsWithSets
-{
-public:
-    // False, with the fault, when an argument is not of that form. The last "=" counts: a file may
-    // have one in its name.
-    bool parse(const QStringList &arguments, QString *fault)
-    {
-        for (const QString &argument : arguments) {
-            const int sign = argument.lastIndexOf(QLatin1Char('='));
-            bool isNumber = false;
-            const int sets = argument.mid(sign + 1).toInt(&isNumber);
-            if (sign <= 0 || !isNumber || sets < 0 || sets > setsAtMost) {
-                *fault = QCoreApplication::translate(
-                             "cli", "%1 is not BOM=SETS with a number of sets from 0 to %2")
-                             .arg(argument)
-                             .arg(setsAtMost);
-                return false;
-            }
-            add(argument.left(sign), sets);
-        }
-        return true;
-    }
-    void add(const QString &path, int sets)
-    {
-        m_paths.append(path);
-        m_sets.push_back(sets);
-    }
-    // Prints what is wrong; false when one was refused.
-    bool read()
-    {
-        for (int i = 0; i < m_paths.size(); ++i) {
-            m_boms.push_back(std::make_unique<kiv_mat_bomStruct>());
-            if (!readList(m_paths.at(i), m_boms.back().get()))
-                return false;
-            lists.push_back({m_boms.back().get(), m_sets[size_t(i)]});
-        }
-        return true;
-    }
-
-    std::vector<bomSets> lists;
-
-private:
-    QStringList m_paths;
-    std::vector<int> m_sets;
-    std::vector<std::unique_ptr<kiv_mat_bomStruct>> m_boms;
-};
-
-// Tells on standard error which lines and materials were left out.
+// Tells on standard error which materials were left out.
 void warn(const QString &text, const QString &subject)
 {
     err() << text << ": " << subject.simplified() << '\n';
-}
-
-void warnOfUncounted(const demand &of)
-{
-    for (const materialStruct *line : of.uncounted)
-        warn(QCoreApplication::translate("cli", "no quantity, left out"),
-             line->d_ktm + QLatin1Char(' ') + line->d_name);
-    err() << Qt::flush;
 }
 
 int runCsv(const QStringList &arguments)
@@ -112,7 +52,7 @@ int runCsv(const QStringList &arguments)
                           QCoreApplication::translate("cli", "give an output file with -o"));
     kiv_mat_bomStruct bom;
     databaseSet databases;
-    if (!readList(options.positionalArguments().at(0), &bom)
+    if (!readBomList(options.positionalArguments().at(0), &bom)
         || !databases.load(options.values(database)))
         return refused;
     return files::writeText(target, bomReport::csv(bom, databases.index())) ? done
@@ -142,6 +82,19 @@ int runReport(const QStringList &arguments)
         return refused;
     return writePage(bomReport::page(read.lists, databases.index()), target,
                      bomReport::title(read.lists));
+}
+
+// What other boards have reserved does not count as stock.
+bool takeReserved(const QString &path, demand *needed, const listsWithSets &lists,
+                  const databaseSet &databases)
+{
+    reservationsFile file(path);
+    if (path.isEmpty())
+        return true;
+    if (!isReadable(file))
+        return false;
+    boardStock::noteReserved(needed, lists.lists, databases.index(), file.now());
+    return true;
 }
 
 struct word
@@ -187,7 +140,9 @@ int runOrder(const QStringList &arguments)
     const QCommandLineOption topUp(
         QStringLiteral("top-up"),
         QCoreApplication::translate("cli", "Order only what ORDER lacks of what is needed."));
-    for (const QCommandLineOption &option : {database, output, from, onlyShort, topUp, existing})
+    const QCommandLineOption reservations = reservationsOption();
+    for (const QCommandLineOption &option :
+         {database, output, from, onlyShort, topUp, existing, reservations})
         options.addOption(option);
     if (!options.accept(arguments))
         return options.code();
@@ -216,7 +171,9 @@ int runOrder(const QStringList &arguments)
     if (!startOrder(options.value(from), config, &order) || !lists.read()
         || !databases.load(options.values(database)))
         return refused;
-    const demand needed = demandOf(lists.lists, databases.index(), orderRules(config));
+    demand needed = demandOf(lists.lists, databases.index(), orderRules(config));
+    if (!takeReserved(options.value(reservations), &needed, lists, databases))
+        return refused;
     warnOfUncounted(needed);
     orderPlan plan = planOf(needed, order,
                             options.isSet(onlyShort) ? amount::shortage
@@ -242,7 +199,8 @@ int runShortage(const QStringList &arguments)
 {
     parser options(bomShortageCommand, QStringLiteral("BOM=SETS..."), 1, -1);
     const QCommandLineOption database = materialsOption();
-    options.addOption(database);
+    const QCommandLineOption reservations = reservationsOption();
+    options.addOptions({database, reservations});
     if (!options.accept(arguments))
         return options.code();
     listsWithSets lists;
@@ -253,7 +211,9 @@ int runShortage(const QStringList &arguments)
     if (!lists.read() || !databases.load(options.values(database)))
         return refused;
 
-    const demand needed = demandOf(lists.lists, databases.index());
+    demand needed = demandOf(lists.lists, databases.index());
+    if (!takeReserved(options.value(reservations), &needed, lists, databases))
+        return refused;
     const std::vector<const need *> missing = shortagesOf(needed);
     for (const need *one : missing) {
         for (int column = 0; column < bomReport::needColumns; ++column)

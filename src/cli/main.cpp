@@ -18,11 +18,12 @@ const QList<const cli::subcommand *> &commands()
         &cli::loadCpvCommand,        &cli::moveCpvCommand,      &cli::checkNipCommand,
         &cli::checkMaterialsCommand, &cli::firmUsesCommand,     &cli::bomCsvCommand,
         &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
-        &cli::bomImportCommand,      &cli::bomDiffCommand,
-        &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
-        &cli::uploadCommand,         &cli::packCommand,         &cli::unpackCommand,
-        &cli::versionsCommand,       &cli::checkCommand,        &cli::setFieldCommand,
-        &cli::materialCommand,       &cli::examineLinksCommand, &cli::firmMergeCommand,
+        &cli::bomImportCommand,      &cli::bomDiffCommand,      &cli::bomReserveCommand,
+        &cli::bomBuiltCommand,       &cli::reservationsCommand, &cli::mailCommand,
+        &cli::helpersCommand,        &cli::downloadCommand,     &cli::uploadCommand,
+        &cli::packCommand,           &cli::unpackCommand,       &cli::versionsCommand,
+        &cli::checkCommand,          &cli::setFieldCommand,     &cli::materialCommand,
+        &cli::examineLinksCommand,   &cli::firmMergeCommand,
     };
     return table;
 }

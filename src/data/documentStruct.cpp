@@ -30,7 +30,8 @@ fileHead headOf(const QString &filePath)
         head.fault = readerFault(reader, file);
         return head;
     }
-    for (const fileKind *kind : {&order, &database, &firm, &config, &bom, &boms, &info, &update})
+    for (const fileKind *kind :
+         {&order, &database, &firm, &config, &bom, &boms, &reservations, &info, &update})
         if (reader.name() == kind->root)
             head.kind = kind;
     if (!head.kind) {

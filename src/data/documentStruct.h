@@ -30,6 +30,9 @@ inline const fileKind bom{QStringLiteral("kiv_mat_bom"), QStringLiteral("KIV_MAT
                           QStringLiteral("kiv_mat.xsd")};
 inline const fileKind boms{QStringLiteral("kiv_mat_boms"), QStringLiteral("KIV_MAT_BOMS_1"),
                            QStringLiteral("kiv_mat_boms.xsd")};
+inline const fileKind reservations{QStringLiteral("kiv_mat_reservations"),
+                                   QStringLiteral("KIV_MAT_RESERVATIONS_1"),
+                                   QStringLiteral("kiv_mat_reservations.xsd")};
 inline const fileKind info{QStringLiteral("kiv_info"), QStringLiteral("KIV_INFO_1"),
                            QStringLiteral("kiv_info.xsd")};
 inline const fileKind update{QStringLiteral("kiv_update"), QStringLiteral("KIV_UPDATE_1"),

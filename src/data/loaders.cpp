@@ -8,6 +8,7 @@
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -144,6 +145,8 @@ std::unique_ptr<documentStruct> newDocument(const fileKind &kind)
         return std::make_unique<kiv_mat_bomStruct>();
     if (&kind == &fileKinds::boms)
         return std::make_unique<kiv_mat_bomsStruct>();
+    if (&kind == &fileKinds::reservations)
+        return std::make_unique<kiv_mat_reservationsStruct>();
     if (&kind == &fileKinds::info)
         return std::make_unique<kiv_infoStruct>();
     return std::make_unique<kiv_UpdateStruct>();

@@ -70,6 +70,7 @@ void programData::clear()
     for (auto &database : m_databases)
         database = std::make_unique<kiv_mat_databaseStruct>();
     m_boms = std::make_unique<kiv_mat_bomsStruct>();
+    m_reservations = reservationsFile();
     m_schemasReported = false;
 }
 
@@ -240,4 +241,5 @@ void programData::putInUse(std::unique_ptr<kiv_mat_bomsStruct> boms)
 {
     m_boms = std::move(boms);
     m_fileOfBoms = fileState::of(m_boms->filePath);
+    m_reservations = reservationsFile(reservationsFile::beside(m_boms->filePath));
 }

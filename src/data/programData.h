@@ -9,6 +9,7 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "data/ktmIndex.h"
 #include "data/materialSearch.h"
+#include "data/reservationsFile.h"
 #include "util/progress.h"
 
 #include <array>
@@ -67,6 +68,8 @@ public:
     // All databases, in the order of their kinds.
     std::vector<const kiv_mat_databaseStruct *> databases() const;
     kiv_mat_bomsStruct &boms() { return *m_boms; }
+    // The reservations that belong to the set of BOM lists.
+    reservationsFile &reservations() { return m_reservations; }
     // Whether the configuration has the option and says no.
     bool isSwitchedOff(QLatin1String key) const;
     // All materials of the databases.
@@ -87,6 +90,7 @@ private:
     std::array<fileState, databaseCount> m_files;
     std::unique_ptr<kiv_mat_bomsStruct> m_boms;
     fileState m_fileOfBoms;
+    reservationsFile m_reservations;
     ktmIndex m_materials;
     materialSearch m_search;
     bool m_schemasReported = false;

@@ -577,10 +577,11 @@ const fileKind *kindOf(const QByteArray &xml)
         const fileKind *kind;
         const char *record;
     };
-    const mark marks[] = {{&fileKinds::boms, "<category"}, {&fileKinds::database, "<d_group"},
-                          {&fileKinds::firm, "<firm>"},    {&fileKinds::config, "<person"},
-                          {&fileKinds::info, "<kiv_ver"},  {&fileKinds::update, "<command>"},
-                          {&fileKinds::order, "<order_"},  {&fileKinds::bom, "<material"}};
+    const mark marks[] = {{&fileKinds::boms, "<category"},       {&fileKinds::database, "<d_group"},
+                          {&fileKinds::firm, "<firm>"},          {&fileKinds::config, "<person"},
+                          {&fileKinds::info, "<kiv_ver"},        {&fileKinds::update, "<command>"},
+                          {&fileKinds::reservations, "<board "}, {&fileKinds::order, "<order_"},
+                          {&fileKinds::bom, "<material"}};
     const fileKind *first = nullptr;
     int firstAt = xml.size();
     for (const mark &one : marks) {

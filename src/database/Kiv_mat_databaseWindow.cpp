@@ -279,10 +279,16 @@ void Kiv_mat_databaseWindow::buildWidgets()
 void Kiv_mat_databaseWindow::showDatabase()
 {
     setClean();
+    m_built.discard();
     m_model->setRecords(nullptr);
     const bool first = !m_rows;
+    m_reserved = reservedTotals(known().reservations().now());
+    const auto reservedOf = [this](const QString &ktm) {
+        const auto found = m_reserved.constFind(ktm);
+        return found == m_reserved.constEnd() ? QString() : found->text();
+    };
     m_rows = std::make_unique<materialRows>(&known().database(m_kind),
-                                            databaseTree::columns(known().config()),
+                                            databaseTree::columns(known().config(), reservedOf),
                                             &known().materials(), &known().search());
     m_rows->show(m_model);
     if (first) {
@@ -297,6 +303,24 @@ void Kiv_mat_databaseWindow::showDatabase()
     applyFilter();
     if (m_findings)
         m_findings->databaseReplaced();
+}
+
+// Boards may have been reserved meanwhile, here or by another program.
+void Kiv_mat_databaseWindow::showReserved()
+{
+    QHash<QString, decimal> now = reservedTotals(known().reservations().now());
+    if (now == m_reserved)
+        return;
+    m_reserved = std::move(now);
+    m_rows->readAgain(QLatin1String("reserved"));
+    m_details->follow();
+}
+
+void Kiv_mat_databaseWindow::changeEvent(QEvent *event)
+{
+    editWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_rows)
+        showReserved();
 }
 
 QString Kiv_mat_databaseWindow::filePath() const { return known().database(m_kind).filePath; }
@@ -380,6 +404,15 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
     });
     if (!saved)
         database.update = before;
+    QString fault;
+    if (saved && !m_built.settle(known().reservations(), known().config(), &fault))
+        userPrompts().showError(
+            tr("The database is saved, but the boards that were built cannot be noted in %1; "
+               "saving again tries it again")
+                .arg(QDir::toNativeSeparators(known().reservations().path()))
+                .toHtmlEscaped()
+            + QLatin1String("<br>") + fault.toHtmlEscaped());
+    showReserved();
     return saved;
 }
 
@@ -700,11 +733,16 @@ void Kiv_mat_databaseWindow::commandAddMaterial(bool)
         editor().openNew(group, materialRows::groupOf(group)->cpv);
 }
 
-bool Kiv_mat_databaseWindow::addFilledIn(const materialStruct &filledIn)
+bool Kiv_mat_databaseWindow::makeEditable()
 {
     if (isLocked() && action("edit")->isEnabled())
         action("edit")->trigger();
-    if (refuseWhileLocked())
+    return !refuseWhileLocked() && finishEditing();
+}
+
+bool Kiv_mat_databaseWindow::addFilledIn(const materialStruct &filledIn)
+{
+    if (!makeEditable())
         return false;
     QStringList names;
     for (const auto &group : m_rows->database().groups)

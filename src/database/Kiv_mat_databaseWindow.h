@@ -7,6 +7,7 @@
 #include "commands/editCommands.h"
 #include "data/materialUses.h"
 #include "data/programData.h"
+#include "database/builtBoards.h"
 #include "database/databaseMerge.h"
 #include "database/databaseTree.h"
 #include "database/droppedFiles.h"
@@ -133,6 +134,12 @@ public slots:
     // What that is, for the user.
     droppedFiles::plan planFor(const std::vector<droppedFiles::file> &files,
                                const materialStruct *material) const;
+    // Unlocks the window for a change that comes from elsewhere; false, told to the user, when it
+    // stays locked.
+    bool makeEditable();
+    // Changes the stock as one step. The boards that it was taken out for are noted when the
+    // database is saved.
+    void takeOut(std::vector<materialChange> stock, builtBoards::boards built, const QString &what);
     // Gives links other addresses as one step; how many were changed.
     int replaceLinks(const std::vector<linkExamination::replacement> &replacements);
 
@@ -167,6 +174,7 @@ protected:
     void historyMoved() override;
     void updateActions() override;
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void itemTreeClicked(QPoint position, uint buttons, const QModelIndex &index);
@@ -175,6 +183,7 @@ private:
     // --- Kiv_mat_databaseWindow.cpp ---
     void buildWidgets();
     void showDatabase();
+    void showReserved();
     void showContextMenu(const QPoint &position);
     QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
     std::vector<materialStruct *> selectedMaterials() const;
@@ -229,7 +238,7 @@ private:
     programData::databaseKind m_kind;
     myModel *m_model = nullptr;
     myTreeView *m_view = nullptr;
-    QLabel *m_hint; // in the tree that shows nothing
+    QLabel *m_hint;                              // in the tree that shows nothing
     std::vector<QPersistentModelIndex> m_opened; // groups that a search opened
     QString m_filledInto; // the group that the last filled-in material went to
     searchLine *m_words = nullptr;
@@ -241,6 +250,8 @@ private:
     std::unique_ptr<linksWindow> m_links;
     materialWindow *m_editor = nullptr;
     searchQuery m_query;
+    builtBoards m_built;
+    QHash<QString, decimal> m_reserved; // by KTM
     QString m_statusFilter;
     bool m_editedFilter = false;
     int m_shownCount = 0;

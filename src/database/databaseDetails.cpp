@@ -22,7 +22,8 @@ void Kiv_mat_databaseWindow::buildDetails(QWidget *page)
         const materialStruct *material = m_rows->materialAt(at);
         const d_groupStruct *group =
             material ? m_rows->homeOf(material) : materialRows::groupOf(m_model->itemFromIndex(at));
-        return materialPage::subject{material, group, &m_rows->database(), &known().firm()};
+        return materialPage::subject{material, group, &m_rows->database(), &known().firm(),
+                                     &known().reservations().now()};
     };
     m_details->openOrder = [this] { return openOrder ? &openOrder() : nullptr; };
     connect(m_details, &detailsPane::useWanted, this, &Kiv_mat_databaseWindow::useWanted);

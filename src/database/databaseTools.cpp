@@ -323,6 +323,15 @@ void Kiv_mat_databaseWindow::applyTexts(std::vector<materialChange> changes, con
         push(std::make_unique<changeTexts>(m_rows.get(), std::move(wanted)), what);
 }
 
+void Kiv_mat_databaseWindow::takeOut(std::vector<materialChange> stock, builtBoards::boards built,
+                                     const QString &what)
+{
+    push(
+        std::make_unique<boardsBuilt>(std::make_unique<changeTexts>(m_rows.get(), std::move(stock)),
+                                      &m_built, std::move(built)),
+        what);
+}
+
 void Kiv_mat_databaseWindow::commandParse(bool)
 {
     const QString path = userPrompts().openFile(

@@ -111,7 +111,8 @@ treeColumn<materialStruct> joinedColumn(const char *key, const QString &label, M
 
 } // namespace
 
-treeColumns<materialStruct> columns(const configStruct &config)
+treeColumns<materialStruct> columns(const configStruct &config,
+                                    const std::function<QString(const QString &ktm)> &reserved)
 {
     treeColumns<materialStruct> table;
     for (const materialColumn &c : materialColumns) {
@@ -160,6 +161,14 @@ treeColumns<materialStruct> columns(const configStruct &config)
                      [](const materialStruct &m) { return linkOf(m); },
                      {},
                      false});
+    if (reserved)
+        table.push_back({QStringLiteral("reserved"),
+                         labels::reserved(),
+                         100,
+                         standardKind,
+                         [reserved](const materialStruct &m) { return reserved(m.d_ktm); },
+                         {},
+                         false});
     return table;
 }
 
@@ -383,6 +392,21 @@ void rows::refresh(materialStruct *material)
             if (m_columns[c].look)
                 m_columns[c].look(*material, cell);
         }
+}
+
+void rows::readAgain(QLatin1String key)
+{
+    const auto column = std::find_if(m_columns.begin(), m_columns.end(),
+                                     [key](const auto &candidate) { return candidate.key == key; });
+    if (column == m_columns.end())
+        return;
+    const int place = int(column - m_columns.begin());
+    for (const QStandardItem *group : qAsConst(m_groups))
+        for (int row = 0; row < group->rowCount(); ++row)
+            if (auto *cell = static_cast<myItemStandard *>(group->child(row, place)))
+                if (const QString now = column->read(*materialOf(group->child(row)));
+                    cell->text() != now)
+                    setStoredText(cell, now);
 }
 
 void rows::index(materialStruct *material, d_groupStruct *group)

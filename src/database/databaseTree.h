@@ -25,7 +25,10 @@ enum column
     statusColumn
 };
 
-treeColumns<materialStruct> columns(const configStruct &config);
+// reserved gives what boards have reserved of a KTM, empty when nothing; without it there is no
+// column for that.
+treeColumns<materialStruct> columns(
+    const configStruct &config, const std::function<QString(const QString &ktm)> &reserved = {});
 // The number of columns that are shown until the user chooses others.
 int usuallyShown();
 
@@ -87,6 +90,8 @@ public:
     // step.
     void willChange(const materialStruct *material) const;
     void refresh(materialStruct *material);
+    // What a column that is not the record's own reads has changed.
+    void readAgain(QLatin1String key);
 
     void cellChanged(myItem::myItemStandard *item, myItem::myItemStandard *first) override;
     void rowInserted(QStandardItem *parent, int row, myItem::myItemStandard *first) override;

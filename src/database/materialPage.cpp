@@ -2,6 +2,7 @@
 
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/reservationsFile.h"
 #include "database/databaseReport.h"
 #include "firm/firmOperations.h"
 #include "report/html.h"
@@ -190,6 +191,23 @@ QString usesHtml(const materialStruct &material, const knownUses &known)
     return all;
 }
 
+// Nothing where nothing is reserved.
+QString reservedHtml(const materialStruct &material, const kiv_mat_reservationsStruct &reservations)
+{
+    section part(tr("Reserved for boards"));
+    decimal sum;
+    const QString unit = QLatin1Char(' ') + text::toHtml(labels::shown(material.d_unit));
+    for (const reservedPart &one : reservedParts(reservations, material.d_ktm)) {
+        sum += one.quantity;
+        part.row(captionOf(*one.board),
+                 one.quantity.text() + unit + QLatin1String(", ")
+                     + text::toHtml(one.board->date.section(QLatin1Char(' '), 0, 0)));
+    }
+    if (const auto stock = decimal::read(material.d_inWarehouse); stock && sum > decimal())
+        part.row(tr("Left in stock"), (*stock - sum).text() + unit);
+    return part.text();
+}
+
 QString materialHtml(const subject &of, const knownUses &uses)
 {
     const materialStruct &material = *of.material;
@@ -241,6 +259,8 @@ QString materialHtml(const subject &of, const knownUses &uses)
 
     for (size_t i = 0; i <= stock; ++i)
         all += sections[i].text();
+    if (of.reservations)
+        all += reservedHtml(material, *of.reservations);
     all += sourcesHtml(labels::manufacturers(), material.manufacturers,
                        of.firms ? &of.firms->manufacturers : nullptr);
     all += sourcesHtml(labels::suppliers(), material.suppliers,

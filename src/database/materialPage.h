@@ -9,18 +9,20 @@
 class d_groupStruct;
 class kiv_mat_databaseStruct;
 class kiv_mat_firmStruct;
+class kiv_mat_reservationsStruct;
 class materialStruct;
 
 namespace materialPage {
 
 // What a page is about; null where there is none. firms, the register, gives the firms' status
-// and home pages.
+// and home pages, reservations what is left of the stock.
 struct subject
 {
     const materialStruct *material = nullptr;
     const d_groupStruct *group = nullptr;
     const kiv_mat_databaseStruct *database = nullptr;
     const kiv_mat_firmStruct *firms = nullptr;
+    const kiv_mat_reservationsStruct *reservations = nullptr;
 };
 
 // Where the material is used, as far as that is known yet.

@@ -2,10 +2,13 @@
 
 #include "tools/KivExe.h"
 #include "tools/helpers.h"
+#include "tools/officeConverter.h"
 #include "util/files.h"
 #include "util/prompts.h"
 #include "util/scratch.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -28,6 +31,24 @@ bool convert(const QStringList &arguments, const std::function<void(childRunner 
 }
 
 } // namespace
+
+QString missingConverter()
+{
+    const QFileInfo converter(helpers::path(helpers::htmlToDocPdf));
+    if (!converter.exists())
+        return QCoreApplication::translate("docExport",
+                                           "The converter %1 is not there, which makes documents. "
+                                           "Installing the program again brings it back.")
+            .arg(QDir::toNativeSeparators(converter.filePath()));
+    // What all launchers of LibreOffice share lies beside them; a converter of somebody's own needs
+    // none of it.
+    const bool isLauncher = converter.dir().exists(QStringLiteral("libreoffice.sh"));
+    if (isLauncher && officeConverter::program().isEmpty())
+        return QCoreApplication::translate(
+            "docExport", "Documents are made by LibreOffice, which is not installed: install the "
+                         "package libreoffice-writer. A report as PDF or HTML needs nothing.");
+    return {};
+}
 
 bool writeDoc(const QString &html, const QString &path, const QString &templateFile,
               const std::function<void(childRunner *)> &running)

@@ -7,6 +7,9 @@
 
 class childRunner;
 
+// Why there is no converter, with what to install, for the user; empty when there is one.
+QString missingConverter();
+
 // Converts the HTML page to the document and puts that into a template, which starts in the folder
 // of what users change when its name is relative. Each converter has 10 seconds, lets events
 // through and is told to the caller while it runs (null when it has ended), so that a button can

@@ -4,7 +4,7 @@
 // MainWindowRecovery.cpp.
 #pragma once
 
-#include "bom/bomOperations.h"
+#include "bom/boardStock.h"
 #include "commands/editCommands.h"
 #include "data/materialUses.h"
 #include "data/programData.h"
@@ -168,6 +168,9 @@ protected:
     void deletePressed(const myTreeView *view) override;
 
 private:
+    // Takes boards out of the databases' stock: one step in the window of each database. False, told
+    // to the user, when one of them cannot be changed; then none is.
+    bool takeOut(std::vector<boardStock::withdrawal> of, const QString &boards);
     // --- MainWindow.cpp ---
     void buildWidgets();
     void loadDataFiles();

@@ -55,8 +55,40 @@ Kiv_bomWindow &MainWindow::bomWindow()
             window.showNow();
             window.addFilledIn(filledIn);
         };
+        m_bom->takeOut = [this](std::vector<boardStock::withdrawal> of, const QString &boards) {
+            return takeOut(std::move(of), boards);
+        };
     }
     return *m_bom;
+}
+
+// All windows first: nothing is taken out of one database while another one cannot be changed.
+bool MainWindow::takeOut(std::vector<boardStock::withdrawal> of, const QString &boards)
+{
+    std::vector<Kiv_mat_databaseWindow *> windows;
+    for (const boardStock::withdrawal &one : of)
+        for (int kind = 0; kind < programData::databaseCount; ++kind)
+            if (&known().database(programData::databaseKind(kind)) == one.database) {
+                Kiv_mat_databaseWindow &window = databaseWindow(programData::databaseKind(kind));
+                window.showNow();
+                if (!window.makeEditable())
+                    return false;
+                windows.push_back(&window);
+            }
+    if (windows.empty() || windows.size() != of.size())
+        return false;
+    for (size_t i = 0; i < windows.size(); ++i) {
+        std::vector<materialChange> changes;
+        for (const auto &[material, after] : of[i].changes)
+            changes.push_back(
+                {material, &materialStruct::d_inWarehouse, material->d_inWarehouse, after});
+        builtBoards::boards built;
+        for (auto &board : of[i].boards)
+            built.push_back(std::move(board));
+        windows[i]->takeOut(std::move(changes), std::move(built),
+                            tr("Taken out of stock: %1").arg(boards));
+    }
+    return true;
 }
 
 void MainWindow::commandBom(bool) { bomWindow().showNow(); }
@@ -113,7 +145,12 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
         userPrompts().showInformation(tr("The order is locked. Allow its editing first."));
         return;
     }
-    const demand needed = demandOf(lists, known().materials(), orderRules(known().config()));
+    demand needed = demandOf(lists, known().materials(), orderRules(known().config()));
+    reservationsFile &reservations = known().reservations();
+    boardStock::noteReserved(&needed, lists, known().materials(), reservations.now());
+    if (!reservations.fault().isEmpty())
+        userPrompts().listError(
+            messages::failed(messages::fileCorrupted(), reservations.path(), reservations.fault()));
     QWidget *over = QApplication::activeWindow();
     needsDialog dialog(
         needed, m_document.order(),

@@ -130,6 +130,18 @@ decimal decimal::times(int factor) const
     return result;
 }
 
+decimal decimal::dividedBy(int divisor) const
+{
+    decimal result;
+    qint64 rest = 0;
+    for (size_t i = 0; i < limbs; ++i) {
+        const qint64 limb = rest * base + m_limbs[i];
+        result.m_limbs[i] = limb / divisor;
+        rest = limb % divisor;
+    }
+    return result;
+}
+
 void decimal::carry()
 {
     for (size_t i = limbs - 1; i > 0; --i) {

@@ -26,6 +26,8 @@ public:
     // Of numbers that were read, or sums of such.
     decimal operator*(const decimal &other) const;
     decimal times(int factor) const;
+    // Cut off after the last digit that there is room for. Of a number from 0 up, by 1 or more.
+    decimal dividedBy(int divisor) const;
 
     std::strong_ordering operator<=>(const decimal &other) const
     {

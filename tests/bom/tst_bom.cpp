@@ -1,7 +1,10 @@
 // BOM lists: sums, what is needed, order lines, and exports.
 #include "testSupport.h"
 
+#include "bom/boardStock.h"
 #include "bom/bomReport.h"
+#include "data/configStruct.h"
+#include "data/reservationsFile.h"
 
 using namespace testSupport;
 using namespace bomOperations;
@@ -138,6 +141,117 @@ private slots:
         QCOMPARE("A " + shown(pieces, "12") + ";C " + shown(metres, "3"), ordered);
     }
 
+    // --- Stock for boards ---
+
+    void releasing_data()
+    {
+        const rows<QString, int, QString, QString> row;
+        // Reserved are boards "SETS: KTM QUANTITY, ..."; what is left of them, and what was released.
+        row("none", "", 3, "", "");
+        row("a whole one", "3: A 12", 3, "", "3: A 12");
+        row("more than there is", "3: A 12", 9, "", "3: A 12");
+        row("a part, whole pieces stay whole", "3: A 10, B 7", 1, "2: A 7, B 5", "1: A 3, B 2");
+        row("fractions", "4: A 1.5", 1, "3: A 1.125", "1: A 0.375");
+        row("the oldest first", "2: A 2;5: A 5", 3, "4: A 4", "2: A 2;1: A 1");
+    }
+
+    void releasing()
+    {
+        const auto [before, sets, left, taken] = fetch<QString, int, QString, QString>();
+        kiv_mat_reservationsStruct all;
+        all.filePath = m_folder->path("reservations.xml");
+        reserve(all, "b.xml", before);
+        reserve(all, "other.xml", "7: A 7");
+        const auto released = releaseReserved(&all, m_folder->path("b.xml"), sets);
+        QCOMPARE(shown(released), taken);
+        QCOMPARE(shown(all.reserved.items), (left.isEmpty() ? QString() : left + ';') + "7: A 7");
+    }
+
+    void reservedForOthers()
+    {
+        kiv_mat_reservationsStruct all;
+        all.filePath = m_folder->path("reservations.xml");
+        reserve(all, "b.xml", "5: A 20, B 900");
+        reserve(all, "other.xml", "1: A 3, B 1");
+        kiv_mat_bomStruct *bom = list("A 4;B 300");
+        bom->filePath = m_folder->path("b.xml");
+        const std::vector<bomSets> lists{{bom, 2}};
+        demand of = demandOf(lists, m_index);
+        boardStock::noteReserved(&of, lists, m_index, all);
+        // Of its own 20 A the board needs 8 now; 15 are left reserved, and nothing of 10 in stock is free.
+        QCOMPARE(of.needs[0].reserved.text() + ' ' + of.needs[0].shortage().text(), QString("15 8"));
+        QCOMPARE(of.needs[1].reserved.text() + ' ' + of.needs[1].shortage().text(), QString("301 0"));
+    }
+
+    void takingOut()
+    {
+        auto *bom = list("A 4;B 0,5;C 1;D 2;X 1;A 1");
+        bom->filePath = m_folder->path("b.xml");
+        m_database->filePath = m_folder->path("db.xml");
+        const std::vector<bomSets> lists{{bom, 3}};
+        const demand of = demandOf(lists, m_index);
+        const auto takings = boardStock::takingsOf(of, m_index, true);
+        QString seen;
+        for (const auto &one : takings)
+            seen += one.of->ktm + ' ' + one.wanted.text() + ' ' + one.before.text() + ' ' + one.after.text() + ' '
+                    + one.lacking.text() + (one.fault.isEmpty() ? "" : " " + one.fault) + '|';
+        QCOMPARE(seen, QString("A 15 10 0 5 not enough in stock|B 1.5 1000 998.5 0|C 3 0 0 3 the stock is no number|"
+                               "D 6 -3 -3 6 not enough in stock|X 3 0 0 3 in no database|"));
+
+        // What is kept of it, through the file and back; undone, the reservation stands again.
+        reservationsFile file(m_folder->path("reservations.xml"));
+        configStruct config;
+        config.setDefaults();
+        QString fault;
+        QVERIFY(file.change(
+            [&](kiv_mat_reservationsStruct &all) {
+                reserve(all, "b.xml", "5: A 20");
+                return true;
+            },
+            config, &fault));
+        const auto withdrawals = boardStock::withdrawalsOf(takings, lists, m_index, {}, file.path(), {"me", {}, true});
+        QCOMPARE(withdrawals.size(), size_t(1));
+        QCOMPARE(withdrawals[0].changes.size(), size_t(2));
+        QCOMPARE(withdrawals[0].changes[1].material->d_ktm + withdrawals[0].changes[1].after, QString("B998.5"));
+        const boardStruct &board = *withdrawals[0].boards.at(0);
+        std::vector<std::unique_ptr<boardStruct>> released;
+        QVERIFY(file.change(
+            [&](kiv_mat_reservationsStruct &all) {
+                released = noteBuilt(&all, board);
+                return true;
+            },
+            config, &fault));
+        QCOMPARE(shown(file.now().reserved.items), QString("2: A 8"));
+        QCOMPARE(shown(file.now().built.items), QString("3: A 15, B 1.5, C 3, D 6"));
+        const boardStruct &built = *file.now().built.items[0];
+        QCOMPARE(built.list + built.author + built.database + built.released, QString("b.xmlmedb.xml3"));
+        QCOMPARE(built.items[1]->before + '>' + built.items[1]->after, QString("1000>998.5"));
+        QVERIFY(file.change(
+            [&](kiv_mat_reservationsStruct &all) {
+                forgetBuilt(&all, board.id, released);
+                return true;
+            },
+            config, &fault));
+        QCOMPARE(shown(file.now().reserved.items), QString("2: A 8;3: A 12"));
+        QVERIFY(file.now().built.items.empty());
+    }
+
+    // What cannot be read is said with its place, and stays as it is.
+    void brokenReservations()
+    {
+        const QByteArray broken = document("kiv_mat_reservations", "KIV_MAT_RESERVATIONS_1", "kiv_mat_reservations.xsd",
+                                           "<reserved><board colour=\"1\"/></reserved>");
+        m_folder->write("reservations.xml", broken);
+        reservationsFile file(m_folder->path("reservations.xml"));
+        configStruct config;
+        QVERIFY(file.now().reserved.items.empty());
+        QVERIFY2(file.fault().contains("line 2, column") && file.fault().contains("colour"), qPrintable(file.fault()));
+        QString fault;
+        QVERIFY(!file.change([](kiv_mat_reservationsStruct &) { return true; }, config, &fault));
+        QCOMPARE(fault, file.fault());
+        QCOMPARE(read(file.path()), broken);
+    }
+
     void shipmentIsNeverDoubled()
     {
         for (const present existing : {present::add, present::raise}) {
@@ -246,7 +360,7 @@ private:
         m->d_unit = unit;
     }
     // A list of "KTM quantity" pairs, separated by ";".
-    const kiv_mat_bomStruct *list(const QString &lines)
+    kiv_mat_bomStruct *list(const QString &lines)
     {
         m_lists.push_back(std::make_unique<kiv_mat_bomStruct>());
         for (const QString &pair : lines.split(';', Qt::SkipEmptyParts)) {
@@ -257,6 +371,31 @@ private:
             m_lists.back()->materials.push_back(std::move(line));
         }
         return m_lists.back().get();
+    }
+    // Boards as "SETS: KTM QUANTITY, ...", separated by ";".
+    static void reserve(kiv_mat_reservationsStruct &all, const char *list, const QString &boards)
+    {
+        for (const QString &text : boards.split(';', Qt::SkipEmptyParts)) {
+            boardStruct *board = all.reserved.append(std::make_unique<boardStruct>());
+            board->list = list;
+            board->sets = text.section(": ", 0, 0);
+            for (const QString &pair : text.section(": ", 1).split(", ")) {
+                boardLineStruct *line = board->append(std::make_unique<boardLineStruct>());
+                line->ktm = pair.section(' ', 0, 0);
+                line->quantity = pair.section(' ', 1);
+            }
+        }
+    }
+    static QString shown(const std::vector<std::unique_ptr<boardStruct>> &boards)
+    {
+        QStringList texts;
+        for (const auto &board : boards) {
+            QStringList pairs;
+            for (const auto &line : board->items)
+                pairs.append(line->ktm + ' ' + line->quantity);
+            texts.append(board->sets + ": " + pairs.join(", "));
+        }
+        return texts.join(';');
     }
     // The same form for the lines of an order, with the unit behind.
     static void fill(kiv_mat_zpStruct &order, const QString &lines)

@@ -139,6 +139,9 @@ private slots:
         row("LT1117CST-3.3#TRPBF", true, "LT1117CST33");
         row("MAX3232EUE+T", true, "MAX3232EUE");
         row("BAS16,215", true, "BAS16");
+        row("9774060151R", true, "9774060151R");
+        row("1000000R", false, "1000000R");
+        row("ADC081C021CIMM/NOPB", true, "ADC081C021CIMM");
         row("sn74lvc1g08dbvr", true, "SN74LVC1G08DBVR");
         row("100nF", false, "100NF");
         row("4k7", false, "4K7");
@@ -330,6 +333,12 @@ private slots:
         one("no resistor by its designator", "RV1,,,,10k,0402,,,", "");
         one("the stated number is not there", "R1,,ERJ2RKF1002X,,10k,0402,,,", "R1");
         one("nothing", "X1,,,,Quartz,,,,", "");
+        one("a case in millimetres", "R1,,,,10k,Resistor_SMD:1005_C,,,", "R1 value");
+        one("a number of digits alone", "J1,,47346-0001,,,,,,", "D1 number");
+        one("of its maker", "J1,,473460001,MOLEX,,,,,", "D1 maker_number");
+        one("few digits are not enough", "J1,,123456,TDK,,,,,", "D2");
+        one("but with their maker", "J1,,123456,Bourns,,,,,", "D2 maker_number");
+        one("digits as a value", "R1,,,,123456,0402,,,", "");
     }
     void matching()
     {
@@ -342,6 +351,8 @@ private slots:
             "R2;Rezystory;r;10kΩ;0603;100mW;75V;±1%;;",
             "R3;Potencjometry;p;10kΩ;0402;;;;;",
             "C1;Kondensatory;c;100nF;0603;;50V;10%;;",
+            "D1;Gniazda;;;;;;;Molex;473460001",
+            "D2;Gniazda;;;;;;;Bourns;123456",
             "F1;Koraliki ferrytowe;Rezystory ferrytowe;600Ω;0603;;;;;",
         });
         const bomImport::staged lines = staged(content, *database);

@@ -56,12 +56,20 @@ const scenario setActions[] = {
     {"boms@0,0", "#delete Return", "boxes = Information: Only empty folders can be deleted"},
     {"#collaps", "#expand boms@1/1/0,0", "status ~ konwerter"},
     {"", "#collaps boms@0,0 Down #allQuantities '7' Return", "boms@1/1/0,1 = 7; boms@0/0/0,1 = 0"},
+    {"", "#reserve", "status = no list is built: all numbers of sets are 0"},
+    {SETS, "#reserve Escape", "files _files/reservations.xml ="},
+    {SETS, "#reserve !go",
+     "file _files/reservations.xml ~ <line ktm=\"" KNOWN "\"; status = Stock reserved for 1 board"},
+    {SETS, "#built Escape", "boms@0/0/0,1 = 2"},
+    {SETS, "#built !go|<Ctrl+B|", "boms@0/0/0,1 = 0"},
+    {SETS "#reserve !go", "#reservations Del Return", "file _files/reservations.xml ~ <line "},
+    {SETS "#reserve !go", "#reservations Del !Yes", "file _files/reservations.xml !~ <line "},
     {"", "boms@?0/0/0,0 #open", "desktop = file://%/" LIST},
     {"", "boms@?0/0/0,0 #bom", "front = Bill of materials [%/" LIST "] Editing locked"},
     {"", "boms@?2/0/0,0 #csv Ctrl+A '%/o.csv' Return", "file o.csv = !!!!!NONE-1\t2,5\n"},
     {"", "boms@?2/0/0,0 #csv Ctrl+A '%/_zp/zp_0.xml/o.csv' Return Return", "boxes ~ cannot be written"},
     // The converter is not there.
-    {"", "boms@?2/0/0,0 #doc Ctrl+A '%/o.doc' Return ~300 Return", "boxes ~ o.doc cannot be written; files o.doc ="},
+    {"", "boms@?2/0/0,0 #doc Return", "boxes ~ which makes documents; files o.doc ="},
 };
 
 const scenario listActions[] = {
@@ -87,10 +95,12 @@ const scenario listActions[] = {
 // A material of the database, and two that it does not have.
 const scenario importActions[] = {
     {"", "#open '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts; lines = 3"},
-    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return Return", "boxes ~ not written yet; lines = 3; lines@1,0 = left out"},
+    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return Return",
+     "boxes ~ not written yet; lines = 3; lines@1,0 = left out"},
     {"lines@1,0 #leaveOut", "#open '%/other.csv' Return !Give_it_up", "lines = 1; title ~ other.csv"},
     {"", "#set Ctrl+A '%/_files/boms/in.xml' Return",
-     "file _files/boms/in.xml ~ <d_ktm>" KNOWN "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
+     "file _files/boms/in.xml ~ <d_ktm>" KNOWN
+     "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
      "files _files/*.csv ="},
     {"lines@1,0 'STM32F103C8' Return", "#set Ctrl+A '%/_files/boms/in.xml' Return",
      "file _files/boms/in.xml ~ <d_designator>U1, U2</d_designator>; file _files/bom_decisions.csv ~ " KNOWN},
@@ -248,7 +258,34 @@ private slots:
         steps("Ctrl+B|" SETS "boms@2/0/0,1 F2 Ctrl+A '1' Return");
         QFile::remove(path(LIST));
         work("Ctrl+S");
-        look("boxes =; errors ~ zasilacz_liniowy_5v.xml</b>; status ~ nothing was ordered");
+        look("boxes =; errors ~ zasilacz_liniowy_5v.xml</b>; status ~ nothing was done");
+    }
+
+    // What was reserved for a board goes when that is built; both are noted when the database is saved, and undone
+    // with the step.
+    void builtBoards()
+    {
+        const QString reservations = path("_files/reservations.xml");
+        const auto stock = [] { return programData::instance().materials().find(KNOWN)->material->d_inWarehouse; };
+        steps("Ctrl+B|" SETS "#reserve !go");
+        QVERIFY(testSupport::read(reservations).contains("sets=\"2\""));
+        steps("#built !go");
+        look("title ~ db_warehouse.xml]; title ~ *; status ~ zasilacz_liniowy_5v, 2 sets");
+        QCOMPARE(stock(), QString("0"));
+        QVERIFY(testSupport::read(reservations).contains("<built></built>")
+                || testSupport::read(reservations).contains("<built/>"));
+        steps("Ctrl+S");
+        const QByteArray saved = testSupport::read(reservations);
+        QVERIFY2(saved.contains("before=\"1\" after=\"0\"") && saved.count("<board") == 1, saved);
+        QVERIFY(testSupport::read(path("_files/db_warehouse.xml")).contains("<d_inWarehouse>0<"));
+        steps("Ctrl+Z Ctrl+S");
+        QCOMPARE(stock(), QString("1"));
+        const QByteArray undone = testSupport::read(reservations);
+        QVERIFY2(!undone.contains("before=\"1\"") && undone.contains("sets=\"2\""), undone);
+        // Given up, it was never built.
+        steps("Ctrl+Y Ctrl+W !No");
+        QCOMPARE(testSupport::read(reservations), undone);
+        QCOMPARE(stock(), QString("1"));
     }
 
     void needsTable()
@@ -269,7 +306,8 @@ private slots:
         for (int row = 0; row < table->topLevelItemCount(); ++row)
             for (int column = 0; column < table->columnCount(); ++column)
                 texts.append(table->topLevelItem(row)->text(column));
-        QCOMPARE(texts.join('|'), QString("NONE-1||6||?|6|||||||" "|NONE-1||many||||||||||"));
+        QCOMPARE(texts.join('|'), QString("NONE-1||6||?||6|||||||"
+                                          "|NONE-1||many|||||||||||"));
     }
 };
 

@@ -96,7 +96,8 @@ private slots:
         row("find --kept other -d twice.xml", 2, "", "no search other is kept");
         row("check-materials twice.xml", 1, "K\t\tCPV empty\nK\t\tCPV empty\n", "");
         row("material K -d sources.xml -u bom.xml -u good.xml", 0,
-            "Manufacturer\tA\nSupplier\tA\nIn the BOM list\tbom.xml, line 1: 2\nIn the order\tgood.xml, line 1: 3\n", "");
+            "Manufacturer\tA\nSupplier\tA\nIn the BOM list\tbom.xml, line 1: 2\nIn the order\tgood.xml, line 1: 3\n",
+            "");
         row("material X -d twice.xml", 1, "", "no material has the KTM X");
         row("material K", 2, "", "-d");
         row("material K -d one.xml -u one.xml", 1, "", "one.xml: the file is of another kind");
@@ -105,6 +106,9 @@ private slots:
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
         row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
         row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
+        row("bom-reserve bom.xml=2 -d twice.xml", 2, "", "give the file of reservations");
+        row("reservations none.xml", 1, "", "there is no such file");
+        row("bom-reserve bom.xml=2 -d twice.xml -r bom.xml", 1, "", "is of another kind");
         row("versions", 1, "", "kiv_mat_config.xml: cannot be read");
         row("mail", 2, "", "give one of");
         row("mail good.xml --boms", 2, "", "give one of");
@@ -115,8 +119,8 @@ private slots:
         row("unpack good.xml out", 1, "", "Archive cannot be read [good.xml]");
         row("download http://127.0.0.1:1/ out.bin", 1, "", "cannot be started");
         row("altium twice.xml -o out.xlsx", 0, "out.xlsx\nout.xlsx.DbLib\nNo earlier", "[Group]");
-        row("altium twice.xml -o out.SQLITE", 0,
-            "out.SQLITE\nout.txt\nout.SQLITE.DbLib\nout.kicad_dbl\nNo earlier", "[Group]");
+        row("altium twice.xml -o out.SQLITE", 0, "out.SQLITE\nout.txt\nout.SQLITE.DbLib\nout.kicad_dbl\nNo earlier",
+            "[Group]");
         row("altium twice.xml -o out.txt", 2, "", ".xlsx / .sqlite");
         row("groups twice.xml -o out.xlsx", 0, "out.xlsx", "[Group]");
         row("groups twice.xml -o out.sqlite", 2, "", "ends in .xlsx");
@@ -265,12 +269,12 @@ private slots:
                  QJsonValue(QJsonObject{{"duplicate", 2}, {"ktm", 2}}));
         QCOMPARE(QJsonDocument::fromJson(called.out.toUtf8()).object()["findings"].toArray()[0].toObject(),
                  (QJsonObject{{"kind", "duplicate"},
-                                        {"ktm", "K"},
-                                        {"name", ""},
-                                        {"group", ""},
-                                        {"field", "d_ktm"},
-                                        {"caption", "KTM"},
-                                        {"reason", "the same KTM has: []"}}));
+                              {"ktm", "K"},
+                              {"name", ""},
+                              {"group", ""},
+                              {"field", "d_ktm"},
+                              {"caption", "KTM"},
+                              {"reason", "the same KTM has: []"}}));
     }
 
     void faultsHaveTheirPlace()
@@ -358,6 +362,35 @@ private slots:
         QCOMPARE(static_cast<kiv_mat_databaseStruct &>(*version).groups[0]->items[1]->d_unit, QString());
         QVERIFY(call(setting).err.contains("to change 0, unchanged 2"));
         QCOMPARE(call("versions other.xml").out.count('\n'), 1);
+    }
+
+    void boardsTakeStock()
+    {
+        const auto material = [](const char *what) {
+            return QByteArray("<material><d_ktm>K</d_ktm>") + what + "</material>";
+        };
+        m_folder->write("stock.xml", database("<d_group name=\"G\">" + material("<d_inWarehouse>10</d_inWarehouse>")
+                                              + "</d_group>"));
+        for (const char *board : {"a.xml", "b.xml"})
+            m_folder->write(board, testSupport::bom(material("<d_quantity>3</d_quantity>")));
+        const ended reserved = call("bom-reserve a.xml=2 -d stock.xml -r r.xml --by me");
+        QVERIFY2(reserved.code == 0, qPrintable(reserved.err));
+        QVERIFY(call("reservations r.xml").out.contains("reserved\ta.xml\t2\t"));
+        QCOMPARE(call("bom-shortage a.xml=3 -d stock.xml -r r.xml").out, QString());
+        QCOMPARE(call("bom-shortage b.xml=2 -d stock.xml -r r.xml").out, QString("K\t\t6\t10\t2\tYes\n"));
+        const QString built = "bom-built a.xml=1 -d stock.xml -r r.xml";
+        QCOMPARE(call(built + " --dry-run").out, QString("K\t\t3\t10\t7\t0\t\n"));
+        QVERIFY(read(m_folder->path("stock.xml")).contains(">10<"));
+        QCOMPARE(call(built).code, 0);
+        QVERIFY(read(m_folder->path("stock.xml")).contains(">7<"));
+        QVERIFY(call("reservations r.xml --json").out.contains("\"after\": 7"));
+        QCOMPARE(call("validate r.xml").code, 0);
+        // More than there is: what there is is taken, and it is said.
+        const ended lacking = call("bom-built a.xml=3 -d stock.xml -r r.xml");
+        QCOMPARE(lacking.out, QString("K\t\t9\t7\t0\t2\tnot enough in stock\n"));
+        QCOMPARE(lacking.code, 1);
+        const ended none = call("bom-reserve --release a.xml=1 -d stock.xml -r r.xml");
+        QVERIFY2(none.code == 1 && none.err.contains("only 0 sets were reserved"), qPrintable(none.err));
     }
 
     void polishPathsAndLanguage()

@@ -211,6 +211,21 @@ private slots:
         QCOMPARE(read(path), QByteArray("old"));
     }
 
+    // The shipped launcher needs LibreOffice, another converter does not.
+    void missing()
+    {
+        const QByteArray found = qgetenv("PATH");
+        qputenv("PATH", m_folder->path("bin").toLocal8Bit());
+        QVERIFY(missingConverter().contains("KIV_HTML_TO_DOC_PDF.exe is not there"));
+        m_folder->script("_bin/KIV_HTML_TO_DOC_PDF.exe", "exit 7");
+        QCOMPARE(missingConverter(), QString());
+        m_folder->write("_bin/libreoffice.sh", "");
+        QVERIFY(missingConverter().contains("libreoffice-writer"));
+        m_folder->script("bin/soffice", "exit 0");
+        QCOMPARE(missingConverter(), QString());
+        qputenv("PATH", found);
+    }
+
     void refused()
     {
         m_folder->script("_bin/KIV_HTML_TO_DOC_PDF.exe", "exit 7");

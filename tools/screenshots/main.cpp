@@ -3,8 +3,12 @@
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "bom/boardStockDialog.h"
+#include "bom/bomImportWindow.h"
 #include "bom/needsDialog.h"
+#include "bom/reservationsDialog.h"
 #include "data/programData.h"
+#include "data/reservationsFile.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
@@ -20,6 +24,7 @@
 #include "shell/startupDialog.h"
 #include "tree/myTreeView.h"
 #include "tree/richtexteditDialog.h"
+#include "util/files.h"
 #include "util/localeSetup.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -31,8 +36,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTreeWidget>
 
 #include <cstdio>
 
@@ -201,6 +209,70 @@ QWidget *showNeeds(MainWindow &window)
     return dialog;
 }
 
+// A parts list of the sample database: found by number, by value, in doubt, unknown, left out.
+QWidget *showImport(MainWindow &)
+{
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("modem_rev_b.csv"));
+    files::writeText(path, QStringLiteral("Designator;Quantity;Value;Footprint;Manufacturer;MPN\n"
+                                          "U1;1;;LQFP-48;STMicroelectronics;STM32F103C8T6\n"
+                                          "C1, C2;2;22pF;0603;;\n"
+                                          "R1-R4;4;10k;0603;;\n"
+                                          "R5, R6;2;4k7;;;\n"
+                                          "X1;1;Modem;;Acme;AC-9000\n"
+                                          "J3;1;DNP;;;\n"));
+    auto *import = new bomImportWindow(programData::instance(),
+                                       QFileInfo(programData::instance().boms().filePath).path());
+    import->openList(path);
+    import->show();
+    return import;
+}
+
+QWidget *showBoardStock(MainWindow &window)
+{
+    static kiv_mat_bomStruct bom;
+    QString error;
+    bomOperations::readBom(paths::data(QStringLiteral("_files/boms/modul_stm32f103.xml")), &bom,
+                           &error);
+    const ktmIndex &materials = programData::instance().materials();
+    static bomOperations::demand needed = bomOperations::demandOf({{&bom, 40}}, materials);
+    needed.needs.front().reserved =
+        decimal::read(QStringLiteral("4")).value_or(decimal()); // by another board
+    auto *dialog = new boardStockDialog(boardStockDialog::takingOut, needed, materials,
+                                        QStringLiteral("modul_stm32f103"), &window);
+    dialog->show();
+    return dialog;
+}
+
+QWidget *showReservations(MainWindow &window)
+{
+    static const QTemporaryDir folder;
+    static reservationsFile file(folder.filePath(QStringLiteral("reservations.xml")));
+    const ktmIndex &materials = programData::instance().materials();
+    kiv_mat_bomStruct bom;
+    QString error;
+    const QString path = paths::data(QStringLiteral("_files/boms/modul_stm32f103.xml"));
+    bomOperations::readBom(path, &bom, &error);
+    const boardStock::occasion when{QStringLiteral("anna"), QDateTime(QDate(2026, 11, 26), {}),
+                                    true};
+    const bomOperations::demand needed = bomOperations::demandOf({{&bom, 5}}, materials);
+    file.change(
+        [&](kiv_mat_reservationsStruct &all) {
+            all.reserved.append(boardStock::boardOf({&bom, 20}, materials, {}, path, when));
+            for (const boardStock::withdrawal &one :
+                 boardStock::withdrawalsOf(boardStock::takingsOf(needed, materials, true),
+                                           {{&bom, 5}}, materials, {}, path, when))
+                for (const auto &board : one.boards)
+                    all.built.append(board->copy());
+            return true;
+        },
+        programData::instance().config(), &error);
+    auto *dialog = new reservationsDialog(file, programData::instance().config(), &window);
+    dialog->findChild<QTreeWidget *>()->expandAll();
+    dialog->show();
+    return dialog;
+}
+
 QWidget *showAddMaterial(MainWindow &window)
 {
     window.commandAddMaterial(true);
@@ -254,6 +326,9 @@ const picture pictures[] = {
     {"boms", showBoms},
     {"bomView", showBomView},
     {"needs", showNeeds},
+    {"bomImport", showImport},
+    {"boardStock", showBoardStock},
+    {"reservations", showReservations},
     {"lines", showLines},
     {"material", showMaterial},
     {"richText", showRichText},

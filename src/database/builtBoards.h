@@ -1,0 +1,51 @@
+// The boards whose materials were taken out of a database's stock in its window: they are noted in
+// the file of reservations when the database is saved, and forgotten there when that is undone.
+#pragma once
+
+#include "commands/command.h"
+#include "data/kiv_mat_reservationsStruct.h"
+
+#include <memory>
+#include <vector>
+
+class configStruct;
+class reservationsFile;
+
+class builtBoards
+{
+public:
+    using boards = std::vector<std::shared_ptr<const boardStruct>>;
+
+    void add(const boards &built);
+    void remove(const boards &built);
+    // What the file of the database has not is not built after all.
+    void discard();
+    // Brings the file of reservations in step. False, with the reason in fault, when it cannot be
+    // written; it is tried again the next time.
+    bool settle(reservationsFile &file, configStruct &config, QString *fault);
+
+private:
+    struct noted
+    {
+        std::shared_ptr<const boardStruct> board;
+        std::vector<std::unique_ptr<boardStruct>> released; // of what was reserved for it
+    };
+    boards m_built; // as the window has it
+    std::vector<noted> m_noted;
+};
+
+// A step that changes the stock, with the boards that were built.
+class boardsBuilt : public command
+{
+public:
+    // stock has been applied; log outlives the step.
+    boardsBuilt(std::unique_ptr<command> stock, builtBoards *log, builtBoards::boards built);
+    void undo() override;
+    void redo() override;
+    void places(std::vector<QStandardItem *> &cells) const override { m_stock->places(cells); }
+
+private:
+    std::unique_ptr<command> m_stock;
+    builtBoards *m_log;
+    builtBoards::boards m_boards;
+};
