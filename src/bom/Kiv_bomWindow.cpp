@@ -97,6 +97,11 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "What the second of two selected lists has otherwise than the "
                                    "first; with one selected a file is asked for")},
      &Kiv_bomWindow::commandCompare},
+    {{"replaceMaterial", "Tools", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
+      "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of one in all BOM lists of "
+                                   "the set and the open order")},
+     &Kiv_bomWindow::commandReplaceMaterial},
     // "All Quantities ..." of the context menu.
     {{"setAll", nullptr, QT_TRANSLATE_NOOP("actions", "Set all quantities"), "zp_quantity_128",
       nullptr, nullptr},
