@@ -613,6 +613,9 @@ def action_icons():
         "action_merge": [
             layer(line("M3 19h2.5c4.5 0 4.5-7 9-7", SLATE, BOLD)),
             layer(line("M3 5h2.5c4.5 0 4.5 7 9 7h2", BLUE, BOLD), head(22, 12, 0, 5.2))],
+        "action_replace": [
+            layer(line("M4 8h11", SLATE, BOLD), head(21, 8, 0, 5.2, SLATE)),
+            layer(line("M20 16H9", BLUE, BOLD), head(3, 16, 180, 5.2))],
         "action_set": [
             layer(area(rect(2.5, 4, 17.5, 17.5, 1.6), WHITE)),
             layer(line("M7 11.6l4.4 4.6L21.2 4.4", BLUE, 3))],

@@ -1,6 +1,7 @@
 #include "bom/Kiv_bomViewWindow.h"
 
 #include "bom/bomReport.h"
+#include "bom/replacementStep.h"
 #include "commands/cellBlock.h"
 #include "commands/cellClipboard.h"
 #include "commands/editCommands.h"
@@ -52,6 +53,11 @@ const windowAction<Kiv_bomViewWindow> actionTable[] = {
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
      &Kiv_bomViewWindow::commandFind},
+    {{"replaceMaterial", QT_TRANSLATE_NOOP("actions", "Tools"),
+      QT_TRANSLATE_NOOP("actions", "Replace material ..."), "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of the selected line's in "
+                                   "all BOM lists of the set and the open order")},
+     &Kiv_bomViewWindow::commandReplaceMaterial},
     {{"sum", QT_TRANSLATE_NOOP("actions", "Tools"), QT_TRANSLATE_NOOP("actions", "Sum"),
       "action_sum", nullptr,
       QT_TRANSLATE_NOOP("actions", "Sums of quantities and prices, per set and for all sets"),
@@ -89,8 +95,8 @@ Kiv_bomViewWindow::Kiv_bomViewWindow(programData &files, const QString &path)
         m_view, &myTreeView::rowsDragged, this,
         [this](const std::vector<int> &rows, int before) { moveRowsBefore(m_view, rows, before); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial", "moveUp",
-                             "moveDown", "deleteLines"})
+    for (const char *name : {"copyText", "pasteCells", "pasteLines", "pickMaterial",
+                             "replaceMaterial", "moveUp", "moveDown", "deleteLines"})
         m_view->addAction(action(name));
     setCentralWidget(page);
     keepJournal(fileKinds::bom, [this] { return m_bom.get(); }, {model()});
@@ -174,6 +180,8 @@ void Kiv_bomViewWindow::updateActions()
     allowWhenUnlocked({"pickMaterial"}, rowToPickFor() >= 0,
                       m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("copyText", onLine, noLine);
+    setAvailable("replaceMaterial", replaceEverywhere && rowToPickFor() >= 0,
+                 m_view->markedRows().size() > 1 ? tr("several lines are selected") : noLine);
     setAvailable("save", m_fault.isEmpty(), m_fault);
     setAvailable("sum", m_fault.isEmpty(), m_fault);
     showCounts();
@@ -250,6 +258,32 @@ void Kiv_bomViewWindow::commandPickMaterial(bool)
     auto *cell = static_cast<myItem::myItemStandard *>(model()->item(row, bomTree::ktmColumn));
     if (!ktm.isEmpty() && line.d_ktm != ktm)
         push(std::make_unique<changeValue>(model(), cell, ktm), tr("Material picked"));
+}
+
+void Kiv_bomViewWindow::commandReplaceMaterial(bool)
+{
+    const auto *first = static_cast<const myItem::myItemStandard *>(model()->item(rowToPickFor()));
+    replaceEverywhere(bomTree::lineRows::recordOf(first)->d_ktm);
+}
+
+materialReplacement::document Kiv_bomViewWindow::asDocument()
+{
+    materialReplacement::document here;
+    here.path = m_path;
+    here.list = m_bom.get();
+    here.isOpen = true;
+    here.fault = m_fault;
+    if (!finishEditing())
+        here.fault = tr("a text in its window is refused");
+    return here;
+}
+
+void Kiv_bomViewWindow::replaceMaterial(const materialReplacement::replacement &what)
+{
+    if (isLocked())
+        setUnlocked(true);
+    push(replacementStep(model(), *m_rows, what), tr("Material replaced"));
+    applyFilter();
 }
 
 void Kiv_bomViewWindow::commandDeleteLines(bool)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "bom/bomTree.h"
+#include "bom/materialReplacement.h"
 #include "data/materialSearch.h"
 #include "window/editWindow.h"
 
@@ -28,6 +29,13 @@ public:
     std::function<int()> sets;
     // Opens a list in a window of its own.
     std::function<void(const QString &path)> openList;
+    // Replaces a material in all lists.
+    std::function<void(const QString &ktm)> replaceEverywhere;
+
+    // The list as it stands here, for a material that is replaced in it; the step that does so,
+    // which unlocks the list.
+    materialReplacement::document asDocument();
+    void replaceMaterial(const materialReplacement::replacement &what);
 
 public slots:
     void commandShowSum(bool);
@@ -38,6 +46,7 @@ public slots:
     void commandFind(bool);
     // Gives the selected line the KTM of a material that is searched for.
     void commandPickMaterial(bool);
+    void commandReplaceMaterial(bool);
     // Adds a line of the material below the selected one; a material that no database has is told
     // in the errors window.
     void insertToBomView(const materialKtm &ktm);

@@ -108,6 +108,11 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
     {{"reservations", "Tools", QT_TRANSLATE_NOOP("actions", "Reservations ..."), "action_archive",
       nullptr, QT_TRANSLATE_NOOP("actions", "What is reserved for boards, and what was built")},
      &Kiv_bomWindow::commandReservations},
+    {{"replaceMaterial", "Tools", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
+      "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of one in all BOM lists of "
+                                   "the set and the open order")},
+     &Kiv_bomWindow::commandReplaceMaterial},
     // "All Quantities ..." of the context menu.
     {{"setAll", nullptr, QT_TRANSLATE_NOOP("actions", "Set all quantities"), "zp_quantity_128",
       nullptr, nullptr},

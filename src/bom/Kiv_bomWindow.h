@@ -1,12 +1,13 @@
 // The set of BOM lists: how many sets of each are built, reports and exports, and what goes into
 // the order. Changes of the set count in the program at once, and are taken back when the window is
 // closed without saving; the numbers of sets live as long as the window. The tree stands in
-// Kiv_bomWindow.cpp, what is done with the lists in bomListActions.cpp, and with the stock in
-// bomStockActions.cpp.
+// Kiv_bomWindow.cpp, what is done with the lists in bomListActions.cpp, with the stock in
+// bomStockActions.cpp, and with materials in replacingMaterials.cpp.
 #pragma once
 
 #include "bom/boardStock.h"
 #include "bom/bomTree.h"
+#include "bom/materialReplacement.h"
 #include "window/editWindow.h"
 
 #include <map>
@@ -31,6 +32,15 @@ public:
     // Takes what was built out of the databases' stock, in their windows; boards names it for the
     // user. False, told to the user, when nothing was taken out.
     std::function<bool(std::vector<boardStock::withdrawal> of, const QString &boards)> takeOut;
+
+    // The open order as it stands in its window, for a material that is replaced there, too; fault
+    // says why it must not be. And the step in its window.
+    std::function<materialReplacement::document()> openOrder;
+    std::function<void(const materialReplacement::replacement &what)> replaceInOrder;
+    // Asks what takes the place of a material, which may be empty, and replaces it in the lists of
+    // the set and the open order that the user ticks. over: the window that it is asked and told
+    // in.
+    void replaceMaterial(const QString &before, baseWindow &over);
 
     // The set differs from its file; the numbers of sets to build are no part of it.
     bool isModified() const override;
@@ -60,6 +70,7 @@ public slots:
     void commandReserve(bool);
     void commandBuilt(bool);
     void commandReservations(bool);
+    void commandReplaceMaterial(bool);
     void commandAddGroup(bool);
     void commandDelete(bool);
     void commandOpen(bool);
@@ -125,6 +136,12 @@ private:
     // Opens the file that was dropped on a list's window in one of its own.
     void openList(const QString &path);
     void tellWritten(const QString &path, bool written);
+
+    // --- replacingMaterials.cpp ---
+    Kiv_bomViewWindow *openView(const QString &path) const;
+    std::optional<std::vector<materialReplacement::document>> documents(baseWindow &over);
+    bool carryOut(std::vector<materialReplacement::document *> chosen,
+                  const materialReplacement::replacement &what, baseWindow &over);
 
     std::unique_ptr<bomTree::setRows> m_rows;
     myTreeView *m_view;

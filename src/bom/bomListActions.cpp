@@ -199,6 +199,9 @@ Kiv_bomViewWindow &Kiv_bomWindow::viewWindow(const QString &path)
         };
         connect(window.get(), &editWindow::versionsWanted, this, &editWindow::versionsWanted);
         window->openList = [this](const QString &file) { openList(file); };
+        window->replaceEverywhere = [this, over = window.get()](const QString &ktm) {
+            replaceMaterial(ktm, *over);
+        };
     }
     return *window;
 }

@@ -47,11 +47,6 @@ std::optional<orderChange> raise(const kiv_mat_zpStruct &order, const std::vecto
     return std::nullopt;
 }
 
-bool isTakenOnce(const QString &ktm)
-{
-    return orderOperations::isShipment(ktm) || ktm == orderOperations::pcbKtm();
-}
-
 class recordTarget final : public orderTarget
 {
 public:
@@ -217,8 +212,8 @@ decision decide(const need &one, const orderRules &rules, const kiv_mat_zpStruct
         return made;
     if (existing == present::raise)
         made.raising = raise(order, there, *one.material, row.wanted);
-    row.isSkipped =
-        !made.raising && !there.empty() && (existing == present::skip || isTakenOnce(one.ktm));
+    row.isSkipped = !made.raising && !there.empty()
+                    && (existing == present::skip || orderOperations::isTakenOnce(one.ktm));
     row.toOrder = row.isSkipped ? decimal() : row.wanted;
     return made;
 }

@@ -4,7 +4,9 @@
 #include "data/configStruct.h"
 #include "data/documentSaving.h"
 #include "data/documentStruct.h"
+#include "data/kiv_mat_bomsStruct.h"
 #include "data/loaders.h"
+#include "data/materialUses.h"
 #include "util/fileLock.h"
 #include "util/messages.h"
 #include "util/paths.h"
@@ -161,6 +163,34 @@ bool readFile(const QString &path, documentStruct *record, const QString &isNot)
         return true;
     err() << path << ": " << error << '\n' << Qt::flush;
     return false;
+}
+
+bool listedFiles(const QStringList &paths, QStringList *files)
+{
+    for (const QString &path : paths) {
+        if (fileKinds::ofFile(path) != &fileKinds::boms) {
+            files->append(path);
+            continue;
+        }
+        kiv_mat_bomsStruct set;
+        if (!readFile(path, &set, QCoreApplication::translate("cli", "is no set of BOM lists")))
+            return false;
+        *files += filesOf(set, QFileInfo(path).absoluteFilePath());
+    }
+    return true;
+}
+
+bool readUses(const QStringList &paths, materialUses *uses)
+{
+    QStringList files;
+    if (!listedFiles(paths, &files))
+        return false;
+    uses->follow(files, {});
+    while (uses->readNext())
+        ;
+    for (const QString &fault : uses->faults())
+        err() << fault << '\n' << Qt::flush;
+    return uses->faults().isEmpty();
 }
 
 int refuseCall(const subcommand &command, const QString &fault)

@@ -11,6 +11,7 @@
 #include <QTextStream>
 
 class configStruct;
+class materialUses;
 
 namespace cli {
 
@@ -68,6 +69,12 @@ std::unique_ptr<kiv_mat_databaseStruct> readDatabase(const QString &path);
 // Validates a file and reads it. isNot says of a file of another kind what it is not. Prints what
 // is wrong; false when the file was refused.
 bool readFile(const QString &path, documentStruct *record, const QString &isNot);
+
+// The files as given, with the lists of each set of BOM lists in its place; false, with the faults
+// printed, when a set was refused.
+bool listedFiles(const QStringList &paths, QStringList *files);
+// Reads BOM lists, sets of them and orders; false, with the faults printed, when one cannot be.
+bool readUses(const QStringList &paths, materialUses *uses);
 
 // Reads a file of whatever kind, valid or not. Prints what is wrong and returns null when it
 // cannot.
@@ -153,6 +160,7 @@ extern const subcommand mergeCommand;
 extern const subcommand loadCpvCommand;
 extern const subcommand moveCpvCommand;
 extern const subcommand setFieldCommand;
+extern const subcommand replaceMaterialCommand;
 extern const subcommand checkNipCommand;
 extern const subcommand firmUsesCommand;
 extern const subcommand firmMergeCommand;

@@ -3,6 +3,7 @@
 #include "cli/jsonOutput.h"
 
 #include "data/kiv_mat_firmStruct.h"
+#include "data/materialUses.h"
 #include "database/databaseFindings.h"
 #include "util/paths.h"
 
@@ -62,6 +63,12 @@ int runCheck(const QStringList &arguments)
         QCoreApplication::translate(
             "cli", "The firm register, in which manufacturers and suppliers are to stand."),
         QStringLiteral("FIRMS"));
+    const QCommandLineOption usedIn(
+        {QStringLiteral("u"), QStringLiteral("used-in")},
+        QCoreApplication::translate("cli", "A BOM list or a set of BOM lists, whose materials are "
+                                           "to have a status valid for ordering. May be given "
+                                           "several times."),
+        QStringLiteral("FILE"));
     const QCommandLineOption kindOption(
         {QStringLiteral("k"), QStringLiteral("kind")},
         QCoreApplication::translate("cli", "Only findings of this kind; may be given several "
@@ -71,7 +78,7 @@ int runCheck(const QStringList &arguments)
     const QCommandLineOption output = outputOption(
         QT_TRANSLATE_NOOP("cli", "A workbook (.xlsx) or CSV file (.csv) for the findings."));
     const QCommandLineOption json = jsonOption();
-    options.addOptions({firmFile, kindOption, output, json});
+    options.addOptions({firmFile, usedIn, kindOption, output, json});
     if (!options.accept(arguments))
         return options.code();
     const QStringList kinds = options.values(kindOption);
@@ -84,8 +91,9 @@ int runCheck(const QStringList &arguments)
         && !readFile(options.value(firmFile), &firms,
                      QCoreApplication::translate("cli", "is no firm register")))
         return refused;
+    materialUses uses;
     databaseSet databases;
-    if (!databases.load(options.positionalArguments()))
+    if (!readUses(options.values(usedIn), &uses) || !databases.load(options.positionalArguments()))
         return refused;
 
     std::vector<finding> all;
@@ -93,6 +101,7 @@ int runCheck(const QStringList &arguments)
         databaseFindings checks({paths::data(QStringLiteral("_files")), paths::programDir(),
                                  QFileInfo(database->filePath).absolutePath()});
         checks.setFirms(firms);
+        checks.setLists(uses.lists());
         const auto found = checks.check(*database);
         std::copy_if(found->begin(), found->end(), std::back_inserter(all),
                      [&kinds](const finding &one) {
@@ -123,8 +132,9 @@ int runCheck(const QStringList &arguments)
 const subcommand checkCommand{
     "check",
     QT_TRANSLATE_NOOP("cli", "Lists what is wrong with the materials of databases: duplicates, "
-                             "empty fields, codes, links, files and firms. Exit code 1 when there "
-                             "is something."),
+                             "empty fields, codes, links, files, firms, and materials of BOM "
+                             "lists that may not be ordered. Exit code 1 when there is "
+                             "something."),
     runCheck};
 
 } // namespace cli

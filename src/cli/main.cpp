@@ -23,7 +23,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::helpersCommand,        &cli::downloadCommand,     &cli::uploadCommand,
         &cli::packCommand,           &cli::unpackCommand,       &cli::versionsCommand,
         &cli::checkCommand,          &cli::setFieldCommand,     &cli::materialCommand,
-        &cli::examineLinksCommand,   &cli::firmMergeCommand,
+        &cli::examineLinksCommand,   &cli::firmMergeCommand,    &cli::replaceMaterialCommand,
     };
     return table;
 }

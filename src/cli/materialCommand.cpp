@@ -3,14 +3,12 @@
 #include "cli/arguments.h"
 #include "cli/jsonOutput.h"
 
-#include "data/kiv_mat_bomsStruct.h"
 #include "data/materialUses.h"
 #include "database/materialChecks.h"
 #include "database/materialPage.h"
 #include "util/labels.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonArray>
 
 namespace cli {
@@ -119,28 +117,6 @@ QJsonObject materialJson(const ktmIndex::entry &found, const std::vector<materia
             {QStringLiteral("manufacturers"), sourcesJson(found.material->manufacturers)},
             {QStringLiteral("suppliers"), sourcesJson(found.material->suppliers)},
             {QStringLiteral("uses"), places}};
-}
-
-// Reads BOM lists, sets of them and orders; false, with the faults printed, when one cannot be.
-bool readUses(const QStringList &paths, materialUses *uses)
-{
-    QStringList files;
-    for (const QString &path : paths) {
-        if (fileKinds::ofFile(path) != &fileKinds::boms) {
-            files.append(path);
-            continue;
-        }
-        kiv_mat_bomsStruct set;
-        if (!readFile(path, &set, QCoreApplication::translate("cli", "is no set of BOM lists")))
-            return false;
-        files += filesOf(set, QFileInfo(path).absoluteFilePath());
-    }
-    uses->follow(files, {});
-    while (uses->readNext())
-        ;
-    for (const QString &fault : uses->faults())
-        err() << fault << '\n' << Qt::flush;
-    return uses->faults().isEmpty();
 }
 
 int runMaterial(const QStringList &arguments)

@@ -102,6 +102,16 @@ std::vector<materialUses::use> materialUses::of(const QString &ktm) const
     return all;
 }
 
+QHash<QString, QStringList> materialUses::lists() const
+{
+    QHash<QString, QStringList> names;
+    for (const document &file : m_files)
+        for (auto lines = file.lines.begin(); lines != file.lines.end(); ++lines)
+            if (!lines.key().isEmpty() && !lines->front().inOrder)
+                names[lines.key()].append(QFileInfo(file.path).completeBaseName());
+    return names;
+}
+
 std::vector<materialUses::use> materialUses::in(const kiv_mat_zpStruct &order, const QString &ktm)
 {
     std::vector<use> all;

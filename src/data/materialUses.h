@@ -41,6 +41,8 @@ public:
     // The lines of a KTM, file after file; none of an empty one. Files that wait are not among
     // them.
     std::vector<use> of(const QString &ktm) const;
+    // The names of the BOM lists that use each KTM, in their order.
+    QHash<QString, QStringList> lists() const;
     // Those of a document that is at hand.
     static std::vector<use> in(const kiv_mat_zpStruct &order, const QString &ktm);
 

@@ -122,6 +122,11 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"insertToBom", "Edit", QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
       "data_insert_to_bom_128", nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandInsertToBom},
+    {{"replaceMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
+      "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of this one in all BOM lists "
+                                   "of the set and the open order")},
+     &Kiv_mat_databaseWindow::commandReplaceMaterial},
     {{"openLink", "Edit", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
      &Kiv_mat_databaseWindow::commandOpenLink},
@@ -353,6 +358,7 @@ void Kiv_mat_databaseWindow::updateActions()
                        "moveCpv"});
     const bool onMaterial = m_rows->materialAt(m_view->markedCell());
     setAvailable("openLink", onMaterial, tr("no material is selected"));
+    setAvailable("replaceMaterial", onMaterial, tr("no material is selected"));
     for (const char *name : {"insertToBom", "toOrder", "toOrderN"})
         setAvailable(name, onMaterial || m_view->selectionModel()->hasSelection(),
                      tr("no material is selected"));
@@ -369,7 +375,7 @@ void Kiv_mat_databaseWindow::showContextMenu(const QPoint &position)
     for (const char *name :
          {"copyText", "openLink", "openCopy", "editParameters", "changeMaterials", "copyMaterials",
           "cutMaterials", "pasteMaterials", "addMaterial", "editCpv", "addGroup", "expandGroup",
-          "collapsGroup", "insertToBom", "", "toOrder", "toOrderN"})
+          "collapsGroup", "insertToBom", "replaceMaterial", "", "toOrder", "toOrderN"})
         if (*name)
             menu.addAction(action(name));
         else
@@ -683,6 +689,12 @@ void Kiv_mat_databaseWindow::commandInsertToBom(bool)
 {
     for (const QString &ktm : selectedKtms())
         emit insertToBom(ktm);
+}
+
+void Kiv_mat_databaseWindow::commandReplaceMaterial(bool)
+{
+    if (const materialStruct *material = m_rows->materialAt(m_view->markedCell()))
+        emit replaceWanted(material->d_ktm, this);
 }
 
 void Kiv_mat_databaseWindow::commandToOrder(bool)

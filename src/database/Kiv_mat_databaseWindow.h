@@ -114,6 +114,7 @@ public slots:
     void commandExpandGroup(bool);
     void commandCollapsGroup(bool);
     void commandInsertToBom(bool);
+    void commandReplaceMaterial(bool);
     void commandToOrder(bool);
     void commandToOrderN(bool);
 
@@ -153,6 +154,8 @@ public slots:
 signals:
     void appendToOrder(const QStringList &ktms, uint quantity);
     void insertToBom(const materialKtm &ktm);
+    // A material is to be replaced in BOM lists and the order; over is the window that asks.
+    void replaceWanted(const QString &ktm, baseWindow *over);
     // The line of a BOM list or an order is to be shown.
     void useWanted(const materialUses::use &use);
 

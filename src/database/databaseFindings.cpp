@@ -3,6 +3,7 @@
 #include "data/XmlValidator.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "order/orderOperations.h"
 #include "util/labels.h"
 #include "util/messages.h"
 
@@ -32,7 +33,8 @@ constexpr kindText kindTexts[findingKinds] = {
     {"cpv", QT_TRANSLATE_NOOP("databaseFindings", "CPV")},
     {"link", QT_TRANSLATE_NOOP("databaseFindings", "Link")},
     {"file", QT_TRANSLATE_NOOP("databaseFindings", "Missing file")},
-    {"firm", QT_TRANSLATE_NOOP("databaseFindings", "Firm")}};
+    {"firm", QT_TRANSLATE_NOOP("databaseFindings", "Firm")},
+    {"status", QT_TRANSLATE_NOOP("databaseFindings", "Not to be ordered")}};
 
 namespace reason {
 constexpr const char *sameKtm = QT_TRANSLATE_NOOP("databaseFindings", "the same KTM has: %1");
@@ -58,6 +60,8 @@ constexpr const char *unknownMaker =
     QT_TRANSLATE_NOOP("databaseFindings", "no manufacturer of the register: %1");
 constexpr const char *unknownSupplier =
     QT_TRANSLATE_NOOP("databaseFindings", "no supplier of the register: %1");
+constexpr const char *notOrderable = QT_TRANSLATE_NOOP(
+    "databaseFindings", "a status not valid for ordering, but BOM lists use it: %1");
 } // namespace reason
 
 bool isBlank(const QString &text)
@@ -92,6 +96,17 @@ const QLatin1String nameField("d_name");
 const QLatin1String makersField("manufacturers");
 const QLatin1String suppliersField("suppliers");
 const QLatin1String fileField("file");
+const QLatin1String statusField("status");
+constexpr int mostNamed = 3;
+
+QString andMore(const QStringList &named, int all)
+{
+    QString text = named.join(QLatin1String(", "));
+    if (const int more = all - int(named.size()); more > 0)
+        text += QLatin1Char(' ')
+                + QCoreApplication::translate("databaseFindings", "and %n more", nullptr, more);
+    return text;
+}
 
 enum class linkForm
 {
@@ -446,6 +461,16 @@ void databaseFindings::setDeadLinks(const QHash<QString, QString> &links)
     });
 }
 
+void databaseFindings::setLists(const QHash<QString, QStringList> &lists)
+{
+    if (lists == m_lists)
+        return;
+    const QHash<QString, QStringList> before = std::exchange(m_lists, lists);
+    touchAll([&](const materialStruct &material) {
+        return before.value(material.d_ktm) != lists.value(material.d_ktm);
+    });
+}
+
 // --- Checking
 // -------------------------------------------------------------------------------------
 
@@ -513,7 +538,6 @@ databaseFindings::changes databaseFindings::takeChanges(int most)
 QString databaseFindings::othersOf(const std::vector<const materialStruct *> &all,
                                    const materialStruct *one, bool withKtm) const
 {
-    constexpr int mostNamed = 3;
     QStringList named;
     for (const materialStruct *other : all) {
         const auto at = m_places.constFind(other);
@@ -525,11 +549,7 @@ QString databaseFindings::othersOf(const std::vector<const materialStruct *> &al
                       + QLatin1String(" [") + at->group->name + QLatin1Char(']'))
                          .simplified());
     }
-    QString text = named.join(QLatin1String(", "));
-    if (const int more = int(all.size()) - 1 - int(named.size()); more > 0)
-        text += QLatin1Char(' ')
-                + QCoreApplication::translate("databaseFindings", "and %n more", nullptr, more);
-    return text;
+    return andMore(named, int(all.size()) - 1);
 }
 
 void databaseFindings::find(const d_groupStruct *group, std::vector<finding> &found) const
@@ -621,6 +641,10 @@ void databaseFindings::find(const materialStruct *material, lookUps &known,
             }
         }
     };
+    const auto lists = m_lists.constFind(material->d_ktm);
+    if (lists != m_lists.constEnd() && !orderOperations::isOrderable(material->information.status))
+        add(findingKind::status, statusField, reason::notOrderable,
+            andMore(lists->mid(0, mostNamed), int(lists->size())));
     look(material->manufacturers, 0);
     look(material->suppliers, 1);
 }

@@ -27,9 +27,10 @@ enum class findingKind
     cpv,       // the same; also that of a group
     link,      // no address, or one that did not answer when it was asked
     file,      // a file that is not there
-    firm       // not in the register
+    firm,      // not in the register
+    status     // not valid for ordering, of a material that BOM lists use
 };
-constexpr int findingKinds = 7;
+constexpr int findingKinds = 8;
 
 struct finding
 {
@@ -94,6 +95,10 @@ public:
     void setDeadLinks(const QHash<QString, QString> &links);
     const QHash<QString, QString> &deadLinks() const { return m_deadLinks; }
 
+    // The BOM lists that use materials, by KTM; their materials are to be such as may be ordered.
+    // Other lists than before are a change.
+    void setLists(const QHash<QString, QStringList> &lists);
+
     // All findings in file order; nothing when progress, which is told materials, cancelled: then
     // nothing is followed.
     std::optional<std::vector<finding>> check(const kiv_mat_databaseStruct &database,
@@ -142,6 +147,7 @@ private:
     QSet<QString> m_firms[2];            // manufacturers, suppliers
     QHash<QString, QString> m_likely[2]; // the same by how they are compared loosely
     QHash<QString, QString> m_deadLinks;
+    QHash<QString, QStringList> m_lists;
 
     QHash<const materialStruct *, place> m_places;
     QHash<const d_groupStruct *, int> m_groups;

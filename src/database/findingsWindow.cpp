@@ -40,6 +40,12 @@ const windowAction<findingsWindow> actionTable[] = {
     {{"goTo", "Edit", QT_TRANSLATE_NOOP("actions", "Go to the cell"), "action_edit", nullptr,
       QT_TRANSLATE_NOOP("actions", "Go to the cell in the database (Return)"), true},
      &findingsWindow::commandGoTo},
+    {{"replaceMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
+      "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of this one in all BOM lists "
+                                   "of the set and the open order"),
+      true},
+     &findingsWindow::commandReplaceMaterial},
     {{"find", "Edit", QT_TRANSLATE_NOOP("actions", "Find"), "action_find", "Ctrl+F",
       QT_TRANSLATE_NOOP("actions", "Go to the search field"), true},
      &findingsWindow::commandFind},
@@ -126,6 +132,7 @@ findingsWindow::findingsWindow(Kiv_mat_databaseWindow *database)
     , m_nothing(new QLabel(m_view->viewport()))
     , m_delay(new QTimer(this))
     , m_typing(new QTimer(this))
+    , m_reading(new QTimer(this))
 {
     setWindowIcon(database->windowIcon());
     addActions(actionTable);
@@ -138,6 +145,9 @@ findingsWindow::findingsWindow(Kiv_mat_databaseWindow *database)
     constexpr int typingMs = 40;
     m_typing->setInterval(typingMs);
     connect(m_typing, &QTimer::timeout, this, &findingsWindow::filter);
+    constexpr int pauseMs = 5;
+    m_reading->setInterval(pauseMs);
+    connect(m_reading, &QTimer::timeout, this, &findingsWindow::readOneList);
     connect(m_words, &QLineEdit::textChanged, m_typing, qOverload<>(&QTimer::start));
     connect(m_words, &QLineEdit::returnPressed, this, [this] {
         filter();
@@ -149,6 +159,8 @@ findingsWindow::findingsWindow(Kiv_mat_databaseWindow *database)
             [this](const QModelIndex &row) { goToCell(row, false); });
     connect(m_view, &QTreeView::activated, this,
             [this](const QModelIndex &row) { goToCell(row, true); });
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &findingsWindow::updateActions);
     connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, &findingsWindow::keepPlace);
     connect(m_model, &QAbstractItemModel::modelReset, this, &findingsWindow::goBack);
 }
@@ -176,6 +188,9 @@ void findingsWindow::buildWidgets()
     m_view->setUniformRowHeights(true);
     m_view->setAlternatingRowColors(true);
     m_view->setAllColumnsShowFocus(true);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    for (const char *name : {"goTo", "replaceMaterial", "copyRows"})
+        m_view->addAction(action(name));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setFont(m_database->known().config().font());
     m_view->header()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -233,6 +248,10 @@ void findingsWindow::check()
     std::optional<std::vector<finding>> found;
     {
         workProgress::scope work(progress(), tr("Checking"));
+        followLists();
+        while (m_uses.readNext() && work.function()(0, 0))
+            ;
+        m_findings.setLists(m_uses.lists());
         found = m_findings.check(m_database->rows().database(), work.function());
     }
     m_isChecked = found.has_value();
@@ -246,6 +265,7 @@ void findingsWindow::stop()
 {
     m_watch.reset();
     m_delay->stop();
+    m_reading->stop();
     m_findings.clear();
 }
 
@@ -298,12 +318,30 @@ void findingsWindow::hideEvent(QHideEvent *event)
     m_model->set({});
 }
 
-// The register may have been changed meanwhile.
+void findingsWindow::followLists()
+{
+    const kiv_mat_bomsStruct &boms = m_database->known().boms();
+    m_uses.follow(filesOf(boms, boms.filePath), {});
+}
+
+// One at a time, so that keys are taken between them.
+void findingsWindow::readOneList()
+{
+    if (m_uses.readNext())
+        return;
+    m_reading->stop();
+    m_findings.setLists(m_uses.lists());
+    changed();
+}
+
+// The register and BOM lists may have been changed meanwhile.
 void findingsWindow::changeEvent(QEvent *event)
 {
     baseWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_watch) {
         m_findings.setFirms(m_database->known().firm());
+        followLists();
+        m_reading->start();
         changed();
     }
 }
@@ -336,6 +374,8 @@ void findingsWindow::showState()
                        : tr("%1 of %n finding(s) shown", nullptr, m_model->count()).arg(shown);
     if (m_isChecked && !m_findings.checksFirms())
         told += QLatin1String(", ") + tr("the register of firms is empty: they were not checked");
+    if (const int faulty = int(m_uses.faults().size()); m_isChecked && faulty > 0)
+        told += QLatin1String(", ") + tr("%n BOM list(s) cannot be read", nullptr, faulty);
     statusBar()->showMessage(told);
     m_nothing->setText(!m_isChecked            ? tr("Check the database with F5")
                        : m_model->count() == 0 ? tr("Nothing is wrong that is checked here")
@@ -344,6 +384,15 @@ void findingsWindow::showState()
     const QString none = tr("there are no findings");
     for (const char *name : {"export", "copyRows", "goTo"})
         setAvailable(name, shown > 0, none);
+    updateActions();
+}
+
+void findingsWindow::updateActions()
+{
+    const QModelIndex current = m_view->currentIndex();
+    setAvailable("replaceMaterial",
+                 current.isValid() && !m_model->at(current.row()).ktm.trimmed().isEmpty(),
+                 tr("no finding of a material with a KTM is selected"));
 }
 
 void findingsWindow::keepPlace()
@@ -387,6 +436,11 @@ void findingsWindow::goToCell(const QModelIndex &row, bool toFront)
 }
 
 void findingsWindow::commandGoTo(bool) { goToCell(m_view->currentIndex(), true); }
+
+void findingsWindow::commandReplaceMaterial(bool)
+{
+    emit m_database->replaceWanted(m_model->at(m_view->currentIndex().row()).ktm, this);
+}
 
 void findingsWindow::commandAgain(bool) { check(); }
 

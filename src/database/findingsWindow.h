@@ -2,6 +2,7 @@
 // goes to the cell. It follows the database: what was put right vanishes.
 #pragma once
 
+#include "data/materialUses.h"
 #include "database/databaseFindings.h"
 #include "window/baseWindow.h"
 
@@ -35,6 +36,8 @@ public slots:
     void commandCopy(bool);
     void commandFind(bool);
     void commandGoTo(bool);
+    // Asks what takes the place of the finding's material in BOM lists and the order.
+    void commandReplaceMaterial(bool);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -50,7 +53,10 @@ private:
     void stop();
     void changed();
     void takeChanges();
+    void followLists();
+    void readOneList();
     void filter();
+    void updateActions();
     void showState();
     void keepPlace();
     void goBack();
@@ -66,6 +72,8 @@ private:
     QLabel *m_nothing;
     QTimer *m_delay;
     QTimer *m_typing;
+    QTimer *m_reading;
+    materialUses m_uses;
     bool m_isChecked = false;
     finding m_current; // while the rows are made anew
     int m_currentRow = 0;

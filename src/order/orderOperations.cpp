@@ -81,6 +81,8 @@ bool isShipment(const QString &ktm)
     return ktm.contains(serviceKtm) || ktm.contains(shipmentPrefix);
 }
 
+bool isTakenOnce(const QString &ktm) { return isShipment(ktm) || ktm == pcbKtm(); }
+
 bool holds(const kiv_mat_zpStruct &order, const QString &ktm)
 {
     return std::any_of(order.orderItems.items.begin(), order.orderItems.items.end(),

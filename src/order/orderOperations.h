@@ -52,6 +52,8 @@ const QString &pcbKtm();
 QString freeShipmentKtm(const kiv_mat_zpStruct &order);
 // Whether a KTM is one of shipment or service.
 bool isShipment(const QString &ktm);
+// Whether an order takes one line of the material at most.
+bool isTakenOnce(const QString &ktm);
 bool holds(const kiv_mat_zpStruct &order, const QString &ktm);
 
 // A line for a material, its price and stock as they are now. The target is the order's.

@@ -479,6 +479,10 @@ Kiv_mat_databaseWindow &MainWindow::databaseWindow(programData::databaseKind kin
         connect(this, &MainWindow::orderAnswered, window.get(), &editWindow::tell);
         connect(window.get(), &Kiv_mat_databaseWindow::appendToOrder, this,
                 &MainWindow::appendToOrder);
+        connect(window.get(), &Kiv_mat_databaseWindow::replaceWanted, this,
+                [this](const QString &ktm, baseWindow *over) {
+                    bomWindow().replaceMaterial(ktm, *over);
+                });
         connect(window.get(), &Kiv_mat_databaseWindow::insertToBom, this,
                 [this](const QString &ktm) { bomWindow().insertToBom(ktm); });
     }

@@ -8,6 +8,7 @@
 #include "bom/bomReport.h"
 #include "bom/needsDialog.h"
 #include "bom/orderLinesTarget.h"
+#include "bom/replacementStep.h"
 #include "commands/commandSys.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "mail/mail.h"
@@ -47,6 +48,22 @@ Kiv_bomWindow &MainWindow::bomWindow()
         m_bom = std::make_unique<Kiv_bomWindow>(known());
         connect(m_bom.get(), &editWindow::versionsWanted, this, &MainWindow::showVersions);
         connect(m_bom.get(), &Kiv_bomWindow::appendToOrder, this, &MainWindow::appendBoms);
+        m_bom->openOrder = [this] {
+            materialReplacement::document order;
+            order.path = m_document.path();
+            order.order = &m_document.order();
+            order.isOpen = true;
+            if (isLocked())
+                order.fault = tr("the order is locked");
+            else if (!finishEditing())
+                order.fault = tr("a text in its window is refused");
+            return order;
+        };
+        m_bom->replaceInOrder = [this](const materialReplacement::replacement &what) {
+            push(replacementStep(m_order->lines(), m_order->lineRows(), what, this),
+                 tr("Material replaced"));
+            refreshHtml();
+        };
         m_bom->makeMaterial = [this](const materialStruct &filledIn) {
             const auto kind = chosenDatabase();
             if (!kind)

@@ -2,9 +2,12 @@
 #include "scenarioFixture.h"
 
 #include "bom/needsDialog.h"
+#include "bom/replaceMaterialDialog.h"
 #include "data/loaders.h"
 
 #include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
 #include <QTreeWidget>
 
 #define SETS "boms@0/0/0,1 F2 Ctrl+A '2' Return "
@@ -15,6 +18,9 @@
 #define FIRST "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E "
 #define OTHER "Ctrl+B|boms@2/0/0,0 Return|Ctrl+E "
 #define INSERT "Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom "
+#define REGULATOR "317121-03.03-00001"
+#define SERIAL "_files/boms/konwerter_rs232_usb.xml"
+#define REPLACE "#replaceMaterial '" KNOWN "' Return '" REGULATOR "' Return "
 #define PREAMP "_files/boms/przedwzmacniacz_audio.xml"
 #define TYPED "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '4' "
 #define NEEDS                                                                                                          \
@@ -39,6 +45,7 @@ const scenario setActions[] = {
      "file p.pdf ~ PDF-1; files p.html ="},
     {"boms@0/0/0,0 +boms@2/0/0,0", "#compare", "front = Differences of two lists; summary ~ \u2192"},
     {"boms@0/0/0,0", "#compare '%/" LIST "' Return", "status = The lists have the same parts"},
+    {"", "#replaceMaterial Escape", "boxes = Replace material"},
     {"", "#import '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts"},
     {NAME, "#save", "disk ~ Żuk; title = Bill of materials"},
     {"", "#versions", "front = Versions and unsaved orders"},
@@ -88,6 +95,7 @@ const scenario listActions[] = {
     {"lines@0,2 +lines@1,2", "#deleteLines", "lines = 0", edits},
     {"lines@0,2", "#pickMaterial Ctrl+A 'ams1117' Return", "lines@0,1 = AMS1117-3.3; lines@0,2 = R1; lines@0,3 = 0,75",
      edits},
+    {"lines@0,2", "#replaceMaterial Escape", "boxes = Replace material", reads},
     {"", "#find 'R9' ~100", "counts = 2 lines, 0 of them unknown, 0 found", reads},
     {"", "#sum Return", "boxes ~ Information: ", reads},
 };
@@ -145,6 +153,28 @@ const scenario scenarios[] = {
     {"one unticked", NEEDS "needs@0,0 Space !go", "orderLines = 21; orderLines@0,5 = 25", reads},
     {"copied", NEEDS "!copy Escape", "clipboard ~ " KNOWN "; clipboard ~ NONE-1", reads},
     {"saved", NEEDS "!saveAs Ctrl+A '%/n.csv' Return Escape", "file n.csv ~ " KNOWN, reads},
+
+    // --- Another material everywhere: two lists, of which the first one has two lines of it, and the order ---
+    {"replaced on disk and in the order", "Ctrl+B|" REPLACE "Return",
+     "status ~ " KNOWN " replaced by " REGULATOR ": 6 line; status ~ , lists and orders: 4; file " LIST " !~ " KNOWN
+     "; file " SERIAL " ~ <d_ktm>" REGULATOR "</d_ktm>; file " SERIAL " ~ <d_name>L7805CV; file " SERIAL
+     " ~ <d_quantity>1.5; "
+     "orderLines@0,1 = L7805CV; orderLines@0,5 = 25; orderLines@0,11 = " REGULATOR "; disk ~ zasilacz"},
+    {"one step of the order", "Ctrl+B|" REPLACE "Return|<Ctrl+Z",
+     "orderLines@0,11 = " KNOWN "; file " LIST " !~ " KNOWN},
+    {"what is unticked stays", "Ctrl+B|" REPLACE "Shift+Tab Space Return",
+     "status ~ 5 line; status ~ lists and orders: 3; orderLines@0,11 = " KNOWN "; file " LIST " !~ " KNOWN},
+    {"none ticked, nothing is replaced", "Ctrl+B|" REPLACE "!none Return Escape",
+     "file " LIST " ~ " KNOWN "; orderLines@0,11 = " KNOWN},
+    {"by a search", "Ctrl+B|#replaceMaterial '" KNOWN "' Return 'l7805' Return ~100 Return Return",
+     "boxes ~ Pick material; file " LIST " ~ " REGULATOR},
+    {"an unknown one of a list's line",
+     "Ctrl+B|boms@2/0/0,0 Return|lines@0,2 #replaceMaterial '" REGULATOR "' Return Return",
+     "title ~ *; lines@0,6 = " REGULATOR "; lines@0,1 = L7805CV; lines@0,3 = 2,5; file " PREAMP " ~ NONE-1"},
+    {"a locked order stays", "Ctrl+E Ctrl+B|" REPLACE "Return", "status ~ 5 line; orderLines@0,11 = " KNOWN},
+    {"cancelled", "Ctrl+B|" REPLACE "Escape", "file " LIST " ~ " KNOWN "; orderLines@0,11 = " KNOWN},
+    {"from the database", "Ctrl+D Return|#find '" KNOWN "' Return ~100 #replaceMaterial '" REGULATOR "' Return Return",
+     "status ~ replaced by " REGULATOR ": 6 line; file " LIST " ~ " REGULATOR},
 
     // --- A list ---
     {"unknown", "Ctrl+B|boms@2/0/0,0 Return", "lines@0,6 = !!!!!NONE-1; lines@0,1 = own"},
@@ -250,6 +280,67 @@ private slots:
         restart("");
         steps("Ctrl+B|#addFile '%/" LIST "' Return #save");
         look("boms = 1; disk ~ boms/zasilacz_liniowy_5v.xml; boms@0/0/0,1 = 0");
+    }
+
+    // Lists in windows and the order are changed there, as one step each; when a file cannot be changed nothing is.
+    void replacedInWindowsToo()
+    {
+        steps("Ctrl+B|boms@0/0/0,0 Return");
+        QMainWindow &list = window();
+        const QString lock = folder().write("_files/boms/.konwerter_rs232_usb.xml.lock", "4242\nKivZP\nelsewhere\n");
+        const QByteArray onDisk = testSupport::read(path(LIST)), other = testSupport::read(path(SERIAL));
+        steps("<Ctrl+B|" REPLACE "Return Return Escape");
+        look("boxes ~ konwerter_rs232_usb.xml: it is open in KivZP, elsewhere, 4242; orderLines@0,11 = " KNOWN);
+        turnTo(list);
+        look("lines@0,6 = " KNOWN "; title ~ Editing locked");
+        QCOMPARE(testSupport::read(path(SERIAL)), other);
+        QVERIFY(QFile::remove(lock));
+        steps("<Ctrl+B|" REPLACE "Return");
+        look("status ~ 6 line; status ~ lists and orders: 4; orderLines@0,11 = " REGULATOR);
+        QVERIFY(testSupport::read(path(SERIAL)).contains(REGULATOR));
+        QCOMPARE(QDir(path("backup")).entryList({"konwerter*"}).size(), 1);
+        turnTo(list);
+        look("lines@0,6 = " REGULATOR "; lines@1,6 = " REGULATOR "; lines@0,2 = R1; lines@0,3 = 0,75; title ~ *");
+        QCOMPARE(testSupport::read(path(LIST)), onDisk);
+        work("Ctrl+Z");
+        look("lines@0,6 = " KNOWN "; lines@1,6 = " KNOWN "; title !~ *");
+        work("Ctrl+Y Ctrl+S");
+        look("file " LIST " ~ L7805CV; file " LIST " !~ " KNOWN);
+    }
+
+    // What the dialog tells before anything is done.
+    void replacementIsShown()
+    {
+        testSupport::write(path("_files/boms/przedwzmacniacz_audio.xml"), "broken");
+        programData &data = programData::instance();
+        QStringList paths{path("_zp/zp_0.xml")};
+        paths += filesOf(data.boms(), data.boms().filePath);
+        const auto documents = materialReplacement::readFiles(paths);
+        replaceMaterialDialog dialog(data, *documents, nullptr);
+        const auto *changes = dialog.findChild<QTreeWidget *>("changes");
+        const auto *summary = dialog.findChild<QLabel *>("summary");
+        const auto *go = dialog.findChild<QPushButton *>("go");
+        dialog.setMaterials(KNOWN, {});
+        QVERIFY(!go->isEnabled() && go->toolTip().contains("no new material"));
+        dialog.setMaterials(KNOWN, "312241-04.01-00021");
+        QVERIFY(go->isEnabled());
+        QStringList told;
+        for (int row = 0; row < changes->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem *item = changes->topLevelItem(row);
+            told.append(item->text(0) + (item->data(0, Qt::CheckStateRole).isNull() ? " -" : " +"));
+            if (item->text(3).contains("several lines"))
+                told.last() += " twice";
+            for (int line = 0; line < item->childCount(); ++line)
+                told.append(item->child(line)->text(1) + ' ' + item->child(line)->text(2));
+        }
+        QCOMPARE(told.join('|'), QString("zp_0.xml +|25 312-00012026|zasilacz_liniowy_5v.xml + twice|0,75 pcs. R1|"
+                                         "0,75 pcs. R1|modul_stm32f103.xml +|1 pcs. U1|konwerter_rs232_usb.xml + twice|"
+                                         "1.5 pcs. R1|1.5 pcs. R1|przedwzmacniacz_audio.xml -"));
+        QVERIFY2(summary->text().contains("1 cannot be changed") && summary->text().contains("(GRAY)"),
+                 qPrintable(summary->text()));
+        QCOMPARE(dialog.chosen(), (std::vector<int>{0, 1, 2, 3}));
+        dialog.setLeftOut({paths[2]});
+        QCOMPARE(dialog.chosen(), (std::vector<int>{0, 1, 3}));
     }
 
     // Half of what is built would be ordered unnoticed.

@@ -170,6 +170,17 @@ private slots:
         row.each({"set-field one.xml --field name --set N", "set-field one.xml --find K --field name",
                   "set-field one.xml --find K --field name --set N --template N"},
                  2, "", "one of --set");
+        row("replace-material --help", 0, "OLD NEW FILE...", "");
+        row("replace-material X K bom.xml", 2, "", "-d");
+        row("replace-material X -d twice.xml bom.xml", 2, "", "an argument is missing");
+        row("replace-material X Z -d twice.xml bom.xml", 1, "", "no database has the material Z");
+        row("replace-material K K -d twice.xml bom.xml", 1, "", "both materials are the same");
+        row("replace-material Z K -d twice.xml bom.xml good.xml", 1, "", "lines to replace 0, in files 0 of 2");
+        row("replace-material X K -d twice.xml bom.xml none.xml", 1, "", "none.xml: ");
+        row("replace-material X K -d twice.xml bom.xml bom.xml --dry-run", 0, "stands in several lines",
+            "no status valid for ordering (none)");
+        row("check one.xml -u none.xml", 1, "", "none.xml");
+        row("check one.xml -u bom.xml -k status", 1, "Not to be ordered\tK\t", "");
         row("check-nip firms.xml", 1, "Wrong\t5260250275", "");
         row("firm-uses sources.xml A", 0, "manufacturer\tK\t\nsupplier\tK\t\n", "");
         row("firm-uses sources.xml A --rename B -o out.xml", 0, "supplier\tK", "");
@@ -391,6 +402,55 @@ private slots:
         QCOMPARE(lacking.code, 1);
         const ended none = call("bom-reserve --release a.xml=1 -d stock.xml -r r.xml");
         QVERIFY2(none.code == 1 && none.err.contains("only 0 sets were reserved"), qPrintable(none.err));
+    }
+
+    // Lists, orders and sets of lists are written together, their versions kept; or none of them.
+    void materialIsReplaced()
+    {
+        configStruct config;
+        config.setDefaults();
+        config.backupPath();
+        config.options.findOption("PATH_BACKUP")->value1 = m_folder->path("backup");
+        QVERIFY(QDir(m_folder->path()).mkpath("_config") && config.save(m_folder->path("_config/kiv_mat_config.xml")));
+        m_folder->write("sets/a.xml", bom("<material><d_ktm>K</d_ktm><d_quantity>2</d_quantity>"
+                                          "<d_designator>R1</d_designator></material>"));
+        m_folder->write("sets/set.xml", document("kiv_mat_boms", "KIV_MAT_BOMS_1", "kiv_mat_boms.xsd",
+                                                 "<category name=\"c\"><group name=\"g\"><file type=\"FILE_XML\" "
+                                                 "name=\"a.xml\"/></group></category>"));
+        const QStringList files{"sets/a.xml", "bom.xml", "good.xml"};
+        QList<QByteArray> before;
+        for (const QString &file : files)
+            before.append(read(m_folder->path(file)));
+        const QString replacing = "replace-material K L -d other.xml sets/set.xml bom.xml good.xml";
+        const auto unchanged = [&] {
+            for (int i = 0; i < files.size(); ++i)
+                if (read(m_folder->path(files[i])) != before[i])
+                    return false;
+            return true;
+        };
+        const ended dry = call(replacing + " --dry-run --json");
+        QCOMPARE(dry.code, 0);
+        QVERIFY(unchanged());
+        const QJsonObject told = QJsonDocument::fromJson(dry.out.toUtf8()).object();
+        const QJsonArray lines = told["lines"].toArray();
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[0].toObject()["designator"].toString(), QString("R1"));
+        QCOMPARE(lines[2].toObject()["kind"].toString(), QString("order"));
+        QVERIFY(!told["written"].toBool());
+        {
+            fileLock window;
+            window.claim(m_folder->path("good.xml"));
+            const ended called = call(replacing);
+            QVERIFY2(called.code == 3 && called.err.contains("good.xml: it is open in"), qPrintable(called.err));
+            QVERIFY(unchanged());
+        }
+        QVERIFY(QJsonDocument::fromJson(call(replacing + " --json").out.toUtf8()).object()["written"].toBool());
+        for (const QString &file : files) {
+            QVERIFY(read(m_folder->path(file)).contains("ktm>L<"));
+            QCOMPARE(call("validate " + file).code, 0);
+            QCOMPARE(call("versions " + file).out.count('\n'), 1);
+        }
+        QCOMPARE(call(replacing).code, 1);
     }
 
     void polishPathsAndLanguage()

@@ -53,6 +53,8 @@ private slots:
         QCOMPARE(told(uses, "L"), QString("a.xml:1 1 R1, c.xml:0 7 R1"));
         QCOMPARE(told(uses, ""), QString());
         QVERIFY(uses.of("K")[2].inOrder && !uses.of("K")[0].inOrder);
+        // Of the lists alone, each once.
+        QCOMPARE(uses.lists(), (QHash<QString, QStringList>{{"K", {"a"}}, {"L", {"a", "c"}}}));
         // Only a file that somebody named is missed.
         QCOMPARE(uses.faults().size(), 1);
         QVERIFY2(uses.faults()[0].startsWith("none.xml"), qPrintable(uses.faults()[0]));

@@ -163,6 +163,32 @@ private slots:
     }
 
     // Whatever changes, what was found is what a new check finds.
+    // A material of a BOM list is to have a status with which it may be ordered.
+    void statusOfListedOnes()
+    {
+        kiv_mat_databaseStruct database;
+        const char *const ktms[] = {"317111-01.01-00001", "317111-01.01-00002", "317111-01.01-00003"};
+        for (const char *ktm : ktms)
+            good(database, ktm);
+        database.groups[0]->items[0]->information.status = "ZIELONY";
+        materialStruct *grey = database.groups[0]->items[1].get();
+        grey->information.status = "szary";
+        databaseFindings checks;
+        QCOMPARE(told(*checks.check(database)), QStringList());
+        checks.setLists({{ktms[0], {"a"}}, {ktms[1], {"a", "b", "c", "d", "e"}}, {"X", {"a"}}});
+        QVERIFY(checks.hasChanges());
+        QCOMPARE(told(checks.takeChanges(9).found), QStringList("status status a, b, c and 2 more"));
+        QCOMPARE(told(*checks.check(database)), QStringList("status status a, b, c and 2 more"));
+        checks.willChange(grey);
+        grey->information.status = "ZIELONY";
+        const auto changed = checks.takeChanges(9);
+        QVERIFY(changed.found.empty() && changed.records == QSet<const xmlData *>{grey});
+        checks.setLists({{ktms[1], {"a"}}, {ktms[2], {"f"}}});
+        QCOMPARE(told(checks.takeChanges(9).found), QStringList("status status f"));
+        checks.setLists({{ktms[1], {"a"}}, {ktms[2], {"f"}}});
+        QVERIFY(!checks.hasChanges());
+    }
+
     void followsEveryChange()
     {
         size_t most = 0;

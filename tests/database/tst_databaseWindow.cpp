@@ -37,6 +37,7 @@ const scenario databaseActions[] = {
      "status = 1 material changed; materials@0/0,0 = Nowy; saved ~ <d_name>Nowy; saved !~ <d_name>M0", edits},
     {"", "#deleteMaterials", "status ~ 1 material deleted; saved !~ <d_name>M0", edits},
     {"materials@1,0", "#deleteMaterials", "status ~ Only empty groups are deleted; materials = 2", guards},
+    {"", "#replaceMaterial Escape", "boxes = Replace material", same},
     {"", "#addGroup 'Nowa' Return", "materials = 3; saved ~ <d_group name=\"Nowa\"", edits},
     {"", "#addGroup 'Rezystory SMD 0805' Return Escape", "boxes ~ Group already exists; materials = 2", guards},
     {"", "#addMaterial", "front = New material", guards},
@@ -123,6 +124,7 @@ const scenario checkActions[] = {
     {"", "#export 'c.csv' Return", "status ~ c.csv written; file _files/c.csv ~ Empty field;317111-01.02-00001;M3"},
     {"", "#again", "status ~ 1 finding; findings = 1"},
     {"", "#close", "title = closed"},
+    {"findings@0,1", "#replaceMaterial Escape", "boxes ~ Replace material"},
     {"findings@0,1", "#copyRows", "status ~ 1 row; clipboard ~ 317111-01.02-00001\tM3\t"},
     {"", "findings@0,0 #goTo", "front ~ Database of material"},
     {"", "#find 'none' Return", "status ~ 0 of 1 finding; findings = 0"},
@@ -305,6 +307,27 @@ private slots:
         QCOMPARE(seen().listed.count("317111-01.01-00002"), 3);
         QCOMPARE(seen().listed.count("317111-01.02-00001"), 0);
         QVERIFY(seen().listed.contains("The open order or BOM lists use deleted materials:"));
+    }
+
+    // What a BOM list uses and may not be ordered is found, replaced from there, and found no more.
+    void statusOfListedMaterials()
+    {
+        const QString bom = path("_files/boms/modul_stm32f103.xml");
+        testSupport::write(bom, testSupport::read(bom).replace("317121-03.01-00001", "317111-01.01-00002"));
+        openWindow("Ctrl+D Return|#checks");
+        look(
+            "findings = 2; findings@0,0 = Not to be ordered; findings@0,1 = 317111-01.01-00002; findings@0,4 = Status; "
+            "findings@0,5 ~ BOM lists use it: modul_stm32f103");
+        work("findings@?0,1 #replaceMaterial '317111-01.01-00001' Return Return ~200");
+        look("findings = 1; findings@0,0 = Empty field; file _files/boms/modul_stm32f103.xml ~ 317111-01.01-00001");
+        QVERIFY(!testSupport::read(bom).contains("317111-01.01-00002"));
+        // A list that another program changes is looked at when the table comes to the front.
+        QMainWindow &checks = window();
+        testSupport::write(bom, testSupport::read(bom).replace("317111-01.01-00001", "317111-01.01-00002"));
+        turnTo(mainWindow());
+        turnTo(checks);
+        work("~200");
+        look("findings = 2");
     }
 
     // A finding leads to its cell, also to one that is not seen; put right, it vanishes until that is undone.
