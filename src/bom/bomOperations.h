@@ -68,6 +68,7 @@ struct need
     decimal needed;
     decimal extra;                  // that gets lost while the boards are built
     std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
+    QStringList designators;        // of its lines, each once
 
     bool isKnown() const { return material != nullptr; }
     decimal whole() const { return needed + extra; }

@@ -18,7 +18,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::loadCpvCommand,        &cli::moveCpvCommand,      &cli::checkNipCommand,
         &cli::checkMaterialsCommand, &cli::firmUsesCommand,     &cli::bomCsvCommand,
         &cli::bomReportCommand,      &cli::bomOrderCommand,     &cli::bomShortageCommand,
-        &cli::bomImportCommand,      &cli::bomDiffCommand,
+        &cli::bomBasketCommand,      &cli::bomImportCommand,    &cli::bomDiffCommand,
         &cli::mailCommand,           &cli::helpersCommand,      &cli::downloadCommand,
         &cli::uploadCommand,         &cli::packCommand,         &cli::unpackCommand,
         &cli::versionsCommand,       &cli::checkCommand,        &cli::setFieldCommand,

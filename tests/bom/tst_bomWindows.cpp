@@ -1,10 +1,13 @@
 // The windows of BOM lists, and what they put into the order.
 #include "scenarioFixture.h"
 
+#include "bom/basketsDialog.h"
 #include "bom/needsDialog.h"
 #include "data/loaders.h"
 
 #include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
 #include <QTreeWidget>
 
 #define SETS "boms@0/0/0,1 F2 Ctrl+A '2' Return "
@@ -16,6 +19,7 @@
 #define OTHER "Ctrl+B|boms@2/0/0,0 Return|Ctrl+E "
 #define INSERT "Ctrl+D Return|materials@0,0 Right materials@?0/0,0 #insertToBom "
 #define PREAMP "_files/boms/przedwzmacniacz_audio.xml"
+#define BASKETS "Ctrl+B|" SETS "Ctrl+S !baskets "
 #define TYPED "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '4' "
 #define NEEDS                                                                                                          \
     "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '3' Return boms@1/1/0,1 F2 Ctrl+A '1' Return boms@2/0/0,1 F2 Ctrl+A '1' "           \
@@ -87,10 +91,12 @@ const scenario listActions[] = {
 // A material of the database, and two that it does not have.
 const scenario importActions[] = {
     {"", "#open '%/_files/boms.xml' Return Return", "boxes ~ is XML, but no list of parts; lines = 3"},
-    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return Return", "boxes ~ not written yet; lines = 3; lines@1,0 = left out"},
+    {"lines@1,0 #leaveOut", "#open '%/other.csv' Return Return",
+     "boxes ~ not written yet; lines = 3; lines@1,0 = left out"},
     {"lines@1,0 #leaveOut", "#open '%/other.csv' Return !Give_it_up", "lines = 1; title ~ other.csv"},
     {"", "#set Ctrl+A '%/_files/boms/in.xml' Return",
-     "file _files/boms/in.xml ~ <d_ktm>" KNOWN "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
+     "file _files/boms/in.xml ~ <d_ktm>" KNOWN
+     "</d_ktm>; file _files/boms/in.xml ~ 999999-99.99-00001; title = closed; "
      "files _files/*.csv ="},
     {"lines@1,0 'STM32F103C8' Return", "#set Ctrl+A '%/_files/boms/in.xml' Return",
      "file _files/boms/in.xml ~ <d_designator>U1, U2</d_designator>; file _files/bom_decisions.csv ~ " KNOWN},
@@ -156,6 +162,21 @@ const scenario scenarios[] = {
     {"unknown ones found", "Ctrl+B|boms@2/0/0,0 Return|Ctrl+F '!!!!!' ~100",
      "counts = 1 line, 1 of them unknown, 1 found"},
 
+    // --- Baskets ---
+    {"copied", BASKETS "Alt+C Escape Escape",
+     "clipboard = Part number\tQuantity\tCustomer reference\n"
+     "STM32F103C8T6\t3\t" KNOWN "\n; orderLines = 21"},
+    {"what is not ticked", "Ctrl+B|" SETS "Ctrl+S Alt+N !baskets Return Escape", "boxes ~ nothing to be bought"},
+    {"one file", BASKETS "Alt+S Ctrl+A '%/one' Return Escape Escape",
+     "file one.csv = Part number,Quantity,Customer reference\r\nSTM32F103C8T6,3," KNOWN "\r\n"},
+    {"as the firm wants it", BASKETS "Tab Alt+O Down Return Alt+S Ctrl+A '%/one' Return Escape Escape",
+     "file one.txt = \tSTM32F103C8T6\t3\tR1\r\n"},
+    {"all files", BASKETS "Alt+A Ctrl+A '%/_zp' Return Escape Escape", "file _zp/Digi-Key.csv ~ STM32F103C8T6,3,"},
+    {"asked before they are replaced",
+     BASKETS "Alt+S Ctrl+A '%/_zp/Digi-Key' Return Tab Alt+O Down Return Alt+O Down Return Alt+A Ctrl+A '%/_zp' Return "
+             "Escape Escape Escape",
+     "boxes ~ has these files already: Digi-Key.csv; file _zp/Digi-Key.csv ~ STM32"},
+
     // --- From the database ---
     {"no list is open", INSERT "Return", "boxes ~ No BOM list is open"},
     {"the list is locked", "Ctrl+B|boms@0/0/0,0 Return|<" INSERT "Return",
@@ -183,6 +204,13 @@ class tst_bomWindows : public scenarioFixture
         write("_files/boms/konwerter_rs232_usb.xml", KNOWN, "1.5");
         write("_files/boms/przedwzmacniacz_audio.xml", "NONE-1", "2,5");
         write("far.xml", "NONE-1", "1");
+        folder().write("_files/firm_details.xml",
+                       testSupport::document("kiv_mat_firm_details", "KIV_MAT_FIRM_DETAILS_1",
+                                             "kiv_mat_firm_details.xsd",
+                                             "<details><name>Farnell</name><separator>tab</separator>"
+                                             "<captions>NIE</captions><basket><column kind=\"empty\"/>"
+                                             "<column kind=\"part_number\"/><column kind=\"quantity\"/>"
+                                             "<column kind=\"designators\"/></basket></details>"));
         testSupport::write(path("in.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n"
                                            "U2,1,,NOSUCH-1\nU3,2,,NOSUCH-2\n");
         testSupport::write(path("other.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n");
@@ -251,6 +279,38 @@ private slots:
         look("boxes =; errors ~ zasilacz_liniowy_5v.xml</b>; status ~ nothing was ordered");
     }
 
+    // The left side of the baskets, the right one of a supplier, and what is said of both.
+    void basketsTables()
+    {
+        materialStruct known;
+        known.d_price = "2";
+        for (const char *name : {"TME", "Mouser"}) {
+            auto *supplier = appendTo(known.suppliers);
+            supplier->name = name;
+            supplier->partNo = QString(name) + "-1";
+        }
+        const std::vector<supplierBasket::item> items{{"K", "part", &known, decimal::read("3"), "3", "R1"},
+                                                      {"X", "none", nullptr, decimal::read("4"), "4", ""}};
+        firmDetailsStruct form;
+        form.discount = "50";
+        basketsDialog dialog(
+            items, [&form](const QString &) -> const firmDetailsStruct & { return form; }, {}, nullptr);
+        const auto texts = [&dialog](const char *name) {
+            QStringList all;
+            const auto *table = dialog.findChild<QTreeWidget *>(name);
+            for (int row = 0; row < table->topLevelItemCount(); ++row)
+                for (int column = 0; column < table->columnCount(); ++column)
+                    all.append(table->topLevelItem(row)->text(column));
+            return all.join('|');
+        };
+        QCOMPARE(texts("suppliers"), QString("TME|1|50 %|3.00|no supplier|1|50 %|0.00"));
+        QCOMPARE(texts("basketLines"), QString("part|K|TME-1|3||3.00|Mouser|"));
+        QCOMPARE(dialog.findChild<QLabel *>("summary")->text(), QString("1 supplier, 2 lines, 1 without a supplier"));
+        QTest::keyClick(dialog.findChild<QTreeWidget *>("suppliers"), Qt::Key_Down);
+        QCOMPARE(texts("basketLines"), QString("none|X||4||||in no database"));
+        QVERIFY(!dialog.findChild<QPushButton *>("other")->isEnabled());
+    }
+
     void needsTable()
     {
         kiv_mat_bomStruct bom;
@@ -269,7 +329,8 @@ private slots:
         for (int row = 0; row < table->topLevelItemCount(); ++row)
             for (int column = 0; column < table->columnCount(); ++column)
                 texts.append(table->topLevelItem(row)->text(column));
-        QCOMPARE(texts.join('|'), QString("NONE-1||6||?|6|||||||" "|NONE-1||many||||||||||"));
+        QCOMPARE(texts.join('|'), QString("NONE-1||6||?|6|||||||"
+                                          "|NONE-1||many||||||||||"));
     }
 };
 
