@@ -670,6 +670,10 @@ def action_icons():
         "action_reserve": [box(), badge(CLOCK, BLUE)],
         "action_built": [box(), badge(OUT, GREEN)],
         "action_shipment": [truck()],
+        "action_basket": [
+            layer(area("M4 10.5h16l-1.6 9a1 1 0 0 1-1 .8H6.6a1 1 0 0 1-1-.8z", TINT),
+                  area("M2.5 8h19v2.8h-19z", BLUE), ink("M7.5 8l3-4.5M16.5 8l-3-4.5"),
+                  ink("M9 13.5v3.8M12 13.5v3.8M15 13.5v3.8"))],
         "action_pcb": [
             layer(area(rect(2.2, 3.5, 19.6, 17, 1.4), GREEN),
                   ink("M6.4 8h4.2l3 3v4.8M17.6 8v4.2M6.4 16h3", WHITE),

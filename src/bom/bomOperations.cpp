@@ -129,6 +129,17 @@ lineSums sumsOf(const std::vector<bomSets> &lists, const ktmIndex &materials)
     return all;
 }
 
+namespace {
+
+void addDesignators(const materialStruct &line, need *to)
+{
+    const QString designators = line.d_designator.simplified();
+    if (!designators.isEmpty() && !to->designators.contains(designators))
+        to->designators.append(designators);
+}
+
+} // namespace
+
 demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
                 const orderRules &rules)
 {
@@ -151,6 +162,7 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
             const auto place = places.constFind(key);
             if (place != places.constEnd()) {
                 result.needs[*place].needed += needed;
+                addDesignators(*line, &result.needs[*place]);
                 continue;
             }
             places.insert(key, result.needs.size());
@@ -159,6 +171,7 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
             added.ktm = line->d_ktm;
             added.name = of.material->d_name;
             added.needed = needed;
+            addDesignators(*line, &added);
             if (of.known) {
                 added.material = of.material;
                 added.inStock = decimal::read(of.material->d_inWarehouse);

@@ -69,6 +69,7 @@ struct need
     decimal extra;                  // that gets lost while the boards are built
     std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
     decimal reserved;               // of the stock, for other boards
+    QStringList designators;        // of its lines, each once
 
     bool isKnown() const { return material != nullptr; }
     decimal whole() const { return needed + extra; }

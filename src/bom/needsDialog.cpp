@@ -111,6 +111,9 @@ needsDialog::needsDialog(const demand &of, const kiv_mat_zpStruct &order, const 
     other(tr("Mark &none"), "none", [this] { tickAll(false); });
     other(tr("&Copy"), "copy", [this] { copy(); });
     other(tr("&Save as ..."), "saveAs", [this] { save(); });
+    other(tr("&Baskets ..."), "baskets", [this] { emit basketsWanted(); });
+    findChild<QPushButton *>(QStringLiteral("baskets"))
+        ->setToolTip(tr("What is ticked as orders for the shops of the suppliers"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -24,6 +24,12 @@ public:
     bomOperations::present existing() const;
     // Whether it is ticked.
     bool isChosen(const bomOperations::need &one) const;
+    // The needs beside the order, as the chosen ways have them.
+    const std::vector<bomOperations::orderedNeed> &rows() const { return m_rows; }
+
+signals:
+    // The user wants what is ticked parted by supplier.
+    void basketsWanted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

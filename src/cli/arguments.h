@@ -140,6 +140,7 @@ extern const subcommand bomCsvCommand;
 extern const subcommand bomReportCommand;
 extern const subcommand bomOrderCommand;
 extern const subcommand bomShortageCommand;
+extern const subcommand bomBasketCommand;
 extern const subcommand bomImportCommand;
 extern const subcommand bomDiffCommand;
 extern const subcommand mailCommand;

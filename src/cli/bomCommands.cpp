@@ -1,10 +1,13 @@
-// bom-csv, bom-report, bom-order, bom-shortage: BOM lists without their windows.
+// bom-csv, bom-report, bom-order, bom-shortage, bom-basket: BOM lists without their windows.
 #include "cli/arguments.h"
 #include "cli/bomLists.h"
 
 #include "bom/boardStock.h"
 #include "bom/bomReport.h"
+#include "bom/supplierBasket.h"
 #include "data/configStruct.h"
+#include "data/firmDetails.h"
+#include "data/kiv_mat_firmStruct.h"
 #include "data/loaders.h"
 #include "data/reservationsFile.h"
 #include "order/orderOperations.h"
@@ -12,6 +15,7 @@
 #include "util/paths.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace cli {
 
@@ -227,8 +231,137 @@ int runShortage(const QStringList &arguments)
     return missing.empty() && needed.uncounted.empty() ? done : refused;
 }
 
+// What is said of the firms of a register; nothing without one. Prints what is wrong; false when a
+// file was refused.
+bool readFirms(const QString &path, kiv_mat_firmStruct *firms, kiv_mat_firmDetailsStruct *details)
+{
+    if (path.isEmpty())
+        return true;
+    if (!readFile(path, firms, QCoreApplication::translate("cli", "is no firm register")))
+        return false;
+    const QString beside = firmDetails::pathBeside(path);
+    return !QFileInfo::exists(beside)
+           || readFile(beside, details,
+                       QCoreApplication::translate("cli", "is no file of firm details"));
+}
+
+// Writes the baskets, into a folder each under its name; tells of the lines with a remark, and of
+// those in no file. Returns the exit code.
+int writeBaskets(const std::vector<supplierBasket::basket> &baskets,
+                 const supplierBasket::formOf &forms, const QString &onlyOf, const QString &target)
+{
+    const QStringList names = supplierBasket::fileNames(baskets, forms);
+    const bool isOneFile = !onlyOf.isEmpty() && !QFileInfo(target).isDir();
+    for (size_t i = 0; i < baskets.size(); ++i) {
+        const supplierBasket::basket &one = baskets[i];
+        const bool isWritten =
+            !one.supplier.isEmpty()
+            && (onlyOf.isEmpty() || firmDetails::isSameName(one.supplier, onlyOf));
+        for (const supplierBasket::line &line : one.lines) {
+            QString remark = line.fault;
+            if (!isWritten && !one.supplier.isEmpty())
+                remark =
+                    QCoreApplication::translate("cli", "%1 does not have it, left out").arg(onlyOf);
+            else if (isWritten && !remark.isEmpty())
+                remark = one.supplier + QLatin1String(", ") + remark;
+            if (!remark.isEmpty())
+                warn(remark, line.of.ktm + QLatin1Char(' ') + line.of.name);
+        }
+        err() << Qt::flush;
+        if (!isWritten)
+            continue;
+        const QString path = isOneFile ? target : target + QLatin1Char('/') + names.at(int(i));
+        QString fault;
+        if (!supplierBasket::write(one, forms(one.supplier), path, &fault))
+            return cannotWrite(path, fault);
+        out() << path << '\n' << Qt::flush;
+    }
+    return done;
+}
+
+int runBasket(const QStringList &arguments)
+{
+    parser options(bomBasketCommand, QStringLiteral("[BOM=SETS...]"), 0, -1);
+    const QCommandLineOption database = materialsOption();
+    const QCommandLineOption output = outputOption(QCoreApplication::translate(
+        "cli", "The folder for a file for each supplier; with --supplier a folder or the file."));
+    const QCommandLineOption firmsOption(
+        QStringLiteral("firms"),
+        QCoreApplication::translate(
+            "cli", "The firm register; the details beside it say how baskets are written."),
+        QStringLiteral("FIRMS"));
+    const QCommandLineOption supplier(
+        QStringLiteral("supplier"),
+        QCoreApplication::translate("cli",
+                                    "Only the basket of this supplier, with all that it has."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption from(
+        QStringLiteral("from"),
+        QCoreApplication::translate("cli",
+                                    "An order whose lines are bought, in place of BOM lists."),
+        QStringLiteral("ORDER"));
+    const QCommandLineOption onlyShort(
+        QStringLiteral("short"),
+        QCoreApplication::translate("cli", "Buy only what is short of stock."));
+    for (const QCommandLineOption &option :
+         {database, output, firmsOption, supplier, from, onlyShort})
+        options.addOption(option);
+    if (!options.accept(arguments))
+        return options.code();
+    const QString target = options.value(output);
+    if (target.isEmpty())
+        return refuseCall(bomBasketCommand,
+                          QCoreApplication::translate("cli", "give an output file with -o"));
+    listsWithSets lists;
+    QString fault;
+    if (!lists.parse(options.positionalArguments(), &fault))
+        return refuseCall(bomBasketCommand, fault);
+    if (options.positionalArguments().isEmpty() == !options.isSet(from))
+        return refuseCall(bomBasketCommand, QCoreApplication::translate(
+                                                "cli", "give either BOM=SETS or --from ORDER"));
+
+    configStruct config;
+    kiv_mat_zpStruct order;
+    kiv_mat_firmStruct firms;
+    kiv_mat_firmDetailsStruct details;
+    databaseSet databases;
+    if (!startOrder(options.value(from), config, &order) || !lists.read()
+        || !databases.load(options.values(database))
+        || !readFirms(options.value(firmsOption), &firms, &details))
+        return refused;
+    const demand needed = demandOf(lists.lists, databases.index(), orderRules(config));
+    const std::vector<supplierBasket::item> items =
+        options.isSet(from)
+            ? supplierBasket::itemsOf(order, databases.index())
+            : supplierBasket::itemsOf(
+                needed, orderedNeeds(needed, order,
+                                     options.isSet(onlyShort) ? amount::shortage : amount::needed,
+                                     present::raise));
+    const QString onlyOf = options.value(supplier);
+    const auto baskets = supplierBasket::basketsOf(items, {}, onlyOf);
+    const auto isWanted = [&onlyOf](const supplierBasket::basket &one) {
+        return !one.supplier.isEmpty()
+               && (onlyOf.isEmpty() || firmDetails::isSameName(one.supplier, onlyOf));
+    };
+    const int code = writeBaskets(baskets, supplierBasket::formsOf(details, firms), onlyOf, target);
+    if (code != done || std::any_of(baskets.begin(), baskets.end(), isWanted))
+        return code;
+    err()
+        << (onlyOf.isEmpty()
+                ? QCoreApplication::translate("cli", "no material has a supplier")
+                : QCoreApplication::translate("cli", "no material has the supplier %1").arg(onlyOf))
+        << '\n'
+        << Qt::flush;
+    return refused;
+}
+
 } // namespace
 
+const subcommand bomBasketCommand{
+    "bom-basket",
+    QT_TRANSLATE_NOOP("cli", "Writes what BOM lists, each times its number of sets, or an order "
+                             "need as baskets for the shops of the suppliers."),
+    runBasket};
 const subcommand bomCsvCommand{
     "bom-csv", QT_TRANSLATE_NOOP("cli", "Writes the KTMs and quantities of a BOM list as text."),
     runCsv};

@@ -7,6 +7,7 @@
 #include "data/kiv_infoStruct.h"
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_bomsStruct.h"
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/lineSums.h"
@@ -64,6 +65,8 @@ QList<fact> factsOf(const documentStruct &document)
     if (const auto *firm = dynamic_cast<const kiv_mat_firmStruct *>(&document))
         return {count("manufacturers", firm->manufacturers.items.size()),
                 count("suppliers", firm->suppliers.items.size())};
+    if (const auto *all = dynamic_cast<const kiv_mat_firmDetailsStruct *>(&document))
+        return {count("firms", all->details.size())};
     if (const auto *config = dynamic_cast<const configStruct *>(&document))
         return {count("options", config->options.items.size()),
                 count("persons", config->persons.items.size()),

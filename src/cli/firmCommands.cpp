@@ -2,7 +2,9 @@
 // two firms made one.
 #include "cli/arguments.h"
 
+#include "data/firmDetails.h"
 #include "data/loaders.h"
+#include "firm/firmDetailsMoves.h"
 #include "firm/firmMerge.h"
 
 #include <QCoreApplication>
@@ -121,6 +123,12 @@ int runFirmMerge(const QStringList &arguments)
                   << Qt::flush;
             return refused;
         }
+    kiv_mat_firmDetailsStruct details;
+    const QString detailsPath = firmDetails::pathBeside(given.at(0));
+    if (QFileInfo::exists(detailsPath)
+        && !readFile(detailsPath, &details,
+                     QCoreApplication::translate("cli", "is no file of firm details")))
+        return refused;
     const mergePlan plan = planMerge(firms, kind, *places[1], {*places[0]}, all);
     for (const QStringList &row : mergeRows(plan)) {
         QStringList cells;
@@ -131,9 +139,12 @@ int runFirmMerge(const QStringList &arguments)
     out() << Qt::flush;
     if (!options.isSet(output))
         return done;
+    const auto before = copyOf(firms);
     mergeFirms(firms, plan);
     const QString folder = options.value(output);
     int code = writeInto(folder, given.at(0), firms);
+    if (code == done && moveDetails(&details, *before, firms, {plan.names}))
+        code = writeInto(folder, detailsPath, details);
     for (size_t i = 0; i < read.size() && code == done; ++i) {
         const std::vector<nameChange> changes = changesOf(*read[i], {plan.names});
         applyNames(changes);

@@ -6,11 +6,14 @@
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/recordMatching.h"
 #include "data/vocabulary.h"
 #include "util/labels.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <tuple>
@@ -37,6 +40,8 @@ identity identityOf(const optionStruct &option) { return {option.type, option.de
 identity identityOf(const personStruct &person) { return {person.name, person.type}; }
 identity identityOf(const targetStruct &target) { return {target.name, target.type}; }
 identity identityOf(const firmStruct &firm) { return {firm.name, firm.fullname}; }
+identity identityOf(const firmDetailsStruct &details) { return {details.name, details.nip}; }
+identity identityOf(const basketColumnStruct &column) { return {column.kind, column.caption}; }
 identity identityOf(const fileStruct &file) { return {file.name, file.type}; }
 identity identityOf(const fileGroup &group) { return {group.name, {}}; }
 identity identityOf(const fileCategory &category) { return {category.name, {}}; }
@@ -71,6 +76,10 @@ QString nameOf(const optionStruct &option)
 QString kindName(const manufacturerStruct &) { return labels::manufacturer(); }
 QString kindName(const supplierStruct &) { return labels::supplier(); }
 QString kindName(const fileStruct &) { return labels::file(); }
+QString kindName(const basketColumnStruct &)
+{
+    return QCoreApplication::translate("firmDetails", "Column");
+}
 
 // How records of a class are compared: their fields, and the blocks and lists that nest in them.
 template <class Record>
@@ -102,6 +111,14 @@ struct shapeOf<supplierStruct>
     using record = supplierStruct;
     static const fieldTable<record> &fields() { return record::fields(); }
     static constexpr std::tuple nested{&record::files};
+};
+
+template <>
+struct shapeOf<firmDetailsStruct>
+{
+    using record = firmDetailsStruct;
+    static const fieldTable<record> &fields() { return record::fields(); }
+    static constexpr std::tuple nested{&record::basket};
 };
 
 template <class List>
@@ -548,6 +565,12 @@ void compare(differ &rows, const kiv_mat_firmStruct &before, const kiv_mat_firmS
                                           labels::suppliers());
 }
 
+void compare(differ &rows, const kiv_mat_firmDetailsStruct &before,
+             const kiv_mat_firmDetailsStruct &after)
+{
+    rows.compareList<shapeOf<firmDetailsStruct>>(before.details, after.details);
+}
+
 void compare(differ &rows, const configStruct &before, const configStruct &after)
 {
     rows.compareList<shapeOf<optionStruct>>(before.options.items, after.options.items);
@@ -596,6 +619,7 @@ int linesOf(const kiv_mat_firmStruct &firms)
 {
     return int(firms.manufacturers.items.size() + firms.suppliers.items.size());
 }
+int linesOf(const kiv_mat_firmDetailsStruct &all) { return int(all.details.size()); }
 int linesOf(const configStruct &config)
 {
     return int(config.options.items.size() + config.persons.items.size()
@@ -625,6 +649,7 @@ void withType(const documentStruct &document, const Act &act)
     is(dynamic_cast<const kiv_mat_zpStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_databaseStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_firmStruct *>(&document))
+        || is(dynamic_cast<const kiv_mat_firmDetailsStruct *>(&document))
         || is(dynamic_cast<const configStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomsStruct *>(&document))

@@ -1,5 +1,6 @@
 #include "data/documentStruct.h"
 
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/streamValidation.h"
 #include "util/paths.h"
 #include "util/progressFile.h"
@@ -30,8 +31,8 @@ fileHead headOf(const QString &filePath)
         head.fault = readerFault(reader, file);
         return head;
     }
-    for (const fileKind *kind :
-         {&order, &database, &firm, &config, &bom, &boms, &reservations, &info, &update})
+    for (const fileKind *kind : {&order, &database, &firm, &firmDetails, &config, &bom, &boms,
+                                 &reservations, &info, &update})
         if (reader.name() == kind->root)
             head.kind = kind;
     if (!head.kind) {

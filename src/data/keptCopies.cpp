@@ -2,6 +2,7 @@
 
 #include "data/documentDiff.h"
 #include "data/documentStruct.h"
+#include "data/firmDetails.h"
 #include "data/leftChanges.h"
 #include "data/loaders.h"
 #include "data/programData.h"
@@ -51,6 +52,8 @@ QString lineOfKind(const fileKind &kind)
         return QStringLiteral("order_item");
     if (&kind == &fileKinds::firm)
         return QStringLiteral("firm");
+    if (&kind == &fileKinds::firmDetails)
+        return firmDetailsStruct::element;
     if (&kind == &fileKinds::boms)
         return QStringLiteral("file");
     return &kind == &fileKinds::database || &kind == &fileKinds::bom ? QStringLiteral("material")
@@ -88,7 +91,9 @@ std::vector<keptCopy> keptCopies(programData &data)
     for (const kiv_mat_databaseStruct *database : data.databases())
         known.append(database->filePath);
     known += filesOf(data.boms(), data.boms().filePath);
-    known.append(paths::data(data.config().options.value(optionKey::fileFirm)));
+    const QString firms = data.config().options.value(optionKey::fileFirm);
+    if (!firms.isEmpty())
+        known += {paths::data(firms), firmDetails::pathBeside(paths::data(firms))};
     known.removeAll({});
     std::vector<keptCopy> copies =
         keptCopies(data.config().backupFolders(), recoveryFolders(), known);

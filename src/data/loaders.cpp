@@ -7,6 +7,7 @@
 #include "data/kiv_mat_bomStruct.h"
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_databaseStruct.h"
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
@@ -139,6 +140,8 @@ std::unique_ptr<documentStruct> newDocument(const fileKind &kind)
         return std::make_unique<kiv_mat_databaseStruct>();
     if (&kind == &fileKinds::firm)
         return std::make_unique<kiv_mat_firmStruct>();
+    if (&kind == &fileKinds::firmDetails)
+        return std::make_unique<kiv_mat_firmDetailsStruct>();
     if (&kind == &fileKinds::config)
         return std::make_unique<configStruct>();
     if (&kind == &fileKinds::bom)

@@ -1,5 +1,6 @@
 #include "data/repair.h"
 
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/loaders.h"
 #include "data/schemaElements.h"
 #include "util/paths.h"
@@ -577,11 +578,11 @@ const fileKind *kindOf(const QByteArray &xml)
         const fileKind *kind;
         const char *record;
     };
-    const mark marks[] = {{&fileKinds::boms, "<category"},       {&fileKinds::database, "<d_group"},
-                          {&fileKinds::firm, "<firm>"},          {&fileKinds::config, "<person"},
-                          {&fileKinds::info, "<kiv_ver"},        {&fileKinds::update, "<command>"},
-                          {&fileKinds::reservations, "<board "}, {&fileKinds::order, "<order_"},
-                          {&fileKinds::bom, "<material"}};
+    const mark marks[] = {{&fileKinds::boms, "<category"}, {&fileKinds::database, "<d_group"},
+                          {&fileKinds::firm, "<firm>"},    {&fileKinds::firmDetails, "<details"},
+                          {&fileKinds::config, "<person"}, {&fileKinds::reservations, "<board "},
+                          {&fileKinds::info, "<kiv_ver"},  {&fileKinds::update, "<command>"},
+                          {&fileKinds::order, "<order_"},  {&fileKinds::bom, "<material"}};
     const fileKind *first = nullptr;
     int firstAt = xml.size();
     for (const mark &one : marks) {

@@ -1,5 +1,6 @@
 #include "firm/firmMerge.h"
 
+#include "data/firmDetails.h"
 #include "data/kiv_mat_databaseStruct.h"
 #include "util/labels.h"
 
@@ -49,8 +50,7 @@ void planList(const firmList &firms, firmKind kind, size_t stays, const std::vec
 
 bool isSameFirm(const QString &name, const QString &other)
 {
-    const QString plain = name.simplified();
-    return !plain.isEmpty() && plain.compare(other.simplified(), Qt::CaseInsensitive) == 0;
+    return firmDetails::isSameName(name, other);
 }
 
 firmList &listOf(kiv_mat_firmStruct &firms, firmKind kind)
@@ -155,13 +155,12 @@ QList<QStringList> mergeRows(const mergePlan &plan)
         for (const auto &each : firmStruct::fields())
             if (each.member == change.field)
                 field = each.label();
-        rows.append(
-            {where,
-             {},
-             change.field ? plan.stays : change.before,
-             change.field ? field : QCoreApplication::translate("firmMerge", "goes"),
-             change.field ? change.before : QString(),
-             change.after});
+        rows.append({where,
+                     {},
+                     change.field ? plan.stays : change.before,
+                     change.field ? field : QCoreApplication::translate("firmMerge", "goes"),
+                     change.field ? change.before : QString(),
+                     change.after});
     }
     for (const mergePlan::use &use : plan.uses)
         rows.append({use.at.database->fileName, use.at.material->d_ktm, use.at.material->d_name,

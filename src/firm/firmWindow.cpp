@@ -69,6 +69,9 @@ const windowAction<firmWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Make one firm of the selected ones, in the materials, too"),
       true},
      &firmWindow::commandMergeFirms},
+    {{"details", "Firm", QT_TRANSLATE_NOOP("actions", "Details ..."), "action_list", "F4",
+      QT_TRANSLATE_NOOP("actions", "Address, mail, discount and the form of the firm's baskets")},
+     &firmWindow::commandDetails},
     {{"homePage", "Firm", QT_TRANSLATE_NOOP("actions", "Open home page"), "action_link", "Ctrl+H",
       QT_TRANSLATE_NOOP("actions", "Open the firm's home page in the browser"), true},
      &firmWindow::commandHomePage},
@@ -130,7 +133,7 @@ void firmWindow::addPage(firmKind kind, const QString &title, const char *name)
     myTreeView *view = addView(title, name, m_tabs);
     view->setRootIsDecorated(false);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const char *wanted : {"add", "delete", "homePage", "copyCells", "pasteCells"})
+    for (const char *wanted : {"add", "delete", "details", "homePage", "copyCells", "pasteCells"})
         view->addAction(action(wanted));
     m_tabs->addTab(view, title);
     QLabel *hint = treeHint::over(view, QLatin1String(name) + QStringLiteral("Hint"));
@@ -212,6 +215,7 @@ bool firmWindow::load()
         known().loadFirm();
     setClean();
     m_renames.clear();
+    m_detailNames.clear();
     m_unwritten = {};
     // Its records are looked at until the trees show the new ones.
     const auto before = std::exchange(m_edited, std::move(firms));
@@ -234,6 +238,7 @@ void firmWindow::updateActions()
                       tr("no firm selected"));
     allowWhenUnlocked({"mergeFirms"}, currentView()->markedRows().size() > 1,
                       tr("select the firms that are one"));
+    allowWhenUnlocked({"details"}, currentFirm() && m_fault.isEmpty(), tr("no firm selected"));
     allowWhenUnlocked({"delete", "fillDown"}, !currentView()->markedCells().isEmpty(),
                       tr("no firm selected"));
     setAvailable("homePage", currentHomePage().isValid(), tr("no firm with a home page selected"));
@@ -340,12 +345,14 @@ std::unique_ptr<command> firmWindow::completed(std::unique_ptr<command> change)
 std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change)
 {
     renameStep step;
+    renameStep all;
     QStringList lines;
     int uses = 0;
     for (firmKind kind : {manufacturer, supplier}) {
         const auto renamed = std::exchange(m_pages[kind].rows->renamed, {});
         if (renamed.isEmpty())
             continue;
+        all[kind] = renamed;
         for (const firmUse &use : usesOf(keysOf(renamed), kind, known().databases(), m_renames)) {
             const QString name = renamed.value(use.firm);
             if (name.isEmpty())
@@ -357,20 +364,25 @@ std::unique_ptr<command> firmWindow::withRenames(std::unique_ptr<command> change
             step[kind].insert(use.firm, name);
         }
     }
-    if (uses == 0)
+    if (all[manufacturer].isEmpty() && all[supplier].isEmpty())
         return change;
+    const auto withPlan = [](std::unique_ptr<command> first, renameList *plan, renameStep names) {
+        std::vector<std::unique_ptr<command>> members;
+        members.push_back(std::move(first));
+        members.push_back(std::make_unique<firmTree::planRenames>(plan, std::move(names)));
+        return std::make_unique<appendCommands>(std::move(members));
+    };
+    if (uses == 0)
+        return withPlan(std::move(change), &m_detailNames, std::move(all));
     const std::optional<int> answer = userPrompts().decide(
         tr("Materials use the old name. Saving can write the new one into their databases, too.")
             + QLatin1String("<br>") + shortList(lines),
         {tr("Rename in %n place(s)", nullptr, uses), tr("Rename in this list only")});
     if (!answer)
         return takenBack(std::move(change), tr("The name was not changed"));
-    if (*answer != 0)
-        return change;
-    std::vector<std::unique_ptr<command>> members;
-    members.push_back(std::move(change));
-    members.push_back(std::make_unique<firmTree::planRenames>(&m_renames, std::move(step)));
-    return std::make_unique<appendCommands>(std::move(members));
+    change = withPlan(std::move(change), &m_detailNames, std::move(all));
+    return *answer == 0 ? withPlan(std::move(change), &m_renames, std::move(step))
+                        : std::move(change);
 }
 
 // The materials' names have gone back or forth with the step.
@@ -508,6 +520,7 @@ void firmWindow::commandMergeFirms(bool)
     mergeFirms(*merged, plan);
     std::vector<std::unique_ptr<command>> members;
     members.push_back(become(*merged));
+    members.push_back(std::make_unique<firmTree::planRenames>(&m_detailNames, plan.names));
     if (!plan.uses.empty())
         members.push_back(std::make_unique<firmTree::planRenames>(&m_renames, plan.names));
     push(std::make_unique<appendCommands>(std::move(members)),
@@ -547,6 +560,7 @@ bool firmWindow::write(const QString &path)
 {
     if (!writeDocument(path, *m_edited))
         return false;
+    moveDetailsAlong();
     known().loadFirm();
     return true;
 }
@@ -604,6 +618,7 @@ bool firmWindow::renameInFile(programData::databaseKind kind, const renameList &
 void firmWindow::closed()
 {
     m_renames.clear();
+    m_detailNames.clear();
     m_unwritten = {};
     editWindow::closed();
 }

@@ -10,6 +10,8 @@
 #include "window/editWindow.h"
 
 class QTabWidget;
+class firmDetailsStruct;
+class kiv_mat_firmDetailsStruct;
 
 class firmWindow : public editWindow
 {
@@ -40,6 +42,7 @@ public slots:
     void commandMergeFirms(bool);
     void commandPasteCells(bool);
     void commandHomePage(bool);
+    void commandDetails(bool);
 
 signals:
     // Materials of the loaded databases got other manufacturers' or suppliers' names.
@@ -73,6 +76,13 @@ private:
     std::vector<std::unique_ptr<firmStruct>> &list(firmOperations::firmKind kind);
     page &current();
     QUrl currentHomePage();
+    const firmStruct *currentFirm();
+    QString detailsPath() const;
+    bool readDetails(kiv_mat_firmDetailsStruct *details);
+    bool storeDetails(const firmDetailsStruct &before, const firmDetailsStruct &details);
+    std::pair<QString, QString> savedAs(firmOperations::firmKind kind,
+                                        const firmStruct &firm) const;
+    void moveDetailsAlong();
     void clicked(const QModelIndex &cell);
     std::unique_ptr<command> completed(std::unique_ptr<command> change);
     std::unique_ptr<command> withRenames(std::unique_ptr<command> change);
@@ -100,5 +110,7 @@ private:
     // What saving is to do with the materials, and what it could not do with a database, which the
     // next saving tries again.
     firmOperations::renameList m_renames;
+    // The new names of all firms since the register was saved, which their details get then.
+    firmOperations::renameList m_detailNames;
     std::array<firmOperations::renameList, programData::databaseCount> m_unwritten;
 };

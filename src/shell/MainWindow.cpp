@@ -133,6 +133,9 @@ const windowAction<MainWindow> actionTable[] = {
     {{"appendBom", "Do", QT_TRANSLATE_NOOP("actions", "Append from bom"), "action_from_bom",
       nullptr, QT_TRANSLATE_NOOP("actions", "Add the materials of BOM lists, times their sets")},
      &MainWindow::commandAppendBomToZp},
+    {{"baskets", "Do", QT_TRANSLATE_NOOP("actions", "Supplier baskets ..."), "action_basket",
+      nullptr, QT_TRANSLATE_NOOP("actions", "The lines parted by supplier, for their shops")},
+     &MainWindow::commandBaskets},
     {doSeparator, nullptr},
     {{"allQuantities", "Do", QT_TRANSLATE_NOOP("actions", "All Quantities"), "action_quantities",
       nullptr, QT_TRANSLATE_NOOP("actions", "Set the quantity of all lines")},
@@ -419,7 +422,7 @@ void MainWindow::updateActions()
     allowWhenUnlocked({"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS",
                        "allUnits", "allTargets", "clearPrice", "refreshPrices", "deleteAll"},
                       !empty, noLines);
-    for (const char *name : {"zpCopy", "allSum", "find", "findNext"})
+    for (const char *name : {"zpCopy", "allSum", "baskets", "find", "findNext"})
         setAvailable(name, !empty, noLines);
     // What acts on selected cells does so where they are seen.
     const bool areSeen = m_tabs->currentWidget() != m_preview;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "bom/boardStock.h"
+#include "bom/supplierBasket.h"
 #include "commands/editCommands.h"
 #include "data/materialUses.h"
 #include "data/programData.h"
@@ -102,6 +103,7 @@ public slots:
     void commandAddShipment(bool);
     void commandAddPCB(bool);
     void commandAppendBomToZp(bool);
+    void commandBaskets(bool);
     void commandArchiveDD(bool);
     void commandArchiveDatabase(bool);
     void commandSendDatabase(bool);
@@ -128,6 +130,7 @@ public slots:
     void showUse(const materialUses::use &use);
     // Shows what the lists need, and adds it as one step when the user says so.
     void appendBoms(const std::vector<bomOperations::bomSets> &lists);
+    void showBaskets(const std::vector<supplierBasket::item> &items);
     void reOrdinalRows();
 
 signals:
@@ -198,6 +201,7 @@ private:
     void showVersions(const QString &path);
     void openCopy(const keptCopy &copy);
     void restoreCopy(const keptCopy &copy);
+    void restoreDetails(const keptCopy &copy, documentStruct &version);
     editWindow *windowOf(const QString &path, const fileKind &kind);
 
     // --- MainWindowLines.cpp ---

@@ -5,11 +5,14 @@
 
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "bom/basketsDialog.h"
 #include "bom/bomReport.h"
 #include "bom/needsDialog.h"
 #include "bom/orderLinesTarget.h"
 #include "bom/replacementStep.h"
 #include "commands/commandSys.h"
+#include "data/firmDetails.h"
+#include "data/vocabulary.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "mail/mail.h"
 #include "order/orderView.h"
@@ -18,6 +21,7 @@
 #include "report/pdfPrinter.h"
 #include "tree/myTreeView.h"
 #include "util/messages.h"
+#include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/workProgress.h"
@@ -173,6 +177,10 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
         needed, m_document.order(),
         bomReport::proposedPath(lists.front().bom->fileName, QStringLiteral(".xlsx")),
         over ? over : this);
+    connect(&dialog, &needsDialog::basketsWanted, this, [&] {
+        showBaskets(supplierBasket::itemsOf(
+            needed, dialog.rows(), [&dialog](const need &one) { return dialog.isChosen(one); }));
+    });
     if (dialog.exec() != QDialog::Accepted)
         return;
     orderPlan plan = planOf(needed, m_document.order(), dialog.wantedAmount(), dialog.existing(),
@@ -198,6 +206,37 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
                      : what);
     if (anyUnknown)
         userPrompts().showErrors();
+}
+
+void MainWindow::commandBaskets(bool)
+{
+    showBaskets(supplierBasket::itemsOf(m_document.order(), known().materials()));
+}
+
+void MainWindow::showBaskets(const std::vector<supplierBasket::item> &items)
+{
+    if (items.empty()) {
+        userPrompts().showInformation(tr("There is nothing to be bought.").toHtmlEscaped());
+        return;
+    }
+    kiv_mat_firmDetailsStruct details;
+    const QString path =
+        firmDetails::pathBeside(paths::data(known().config().options.value(optionKey::fileFirm)));
+    QString fault;
+    if (!firmDetails::read(path, &details, &fault)) {
+        userPrompts().showError(
+            tr("The details of the firms in %1 cannot be read; all baskets have the usual columns")
+                .arg(QDir::toNativeSeparators(path))
+                .toHtmlEscaped()
+            + QLatin1String("<br>") + fault.toHtmlEscaped());
+        details.details.clear();
+    }
+    QWidget *over = QApplication::activeWindow();
+    basketsDialog(
+        items, supplierBasket::formsOf(details, known().firm()),
+        QFileInfo(bomReport::proposedPath(QStringLiteral("x"), QStringLiteral(".csv"))).path(),
+        over ? over : this)
+        .exec();
 }
 
 // --- Messages

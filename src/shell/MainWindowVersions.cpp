@@ -3,6 +3,7 @@
 
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/leftChanges.h"
 #include "data/loaders.h"
 #include "data/programData.h"
@@ -123,6 +124,17 @@ editWindow *MainWindow::windowOf(const QString &path, const fileKind &kind)
                                                                : nullptr;
 }
 
+// They have no window of their own; what stands in the file becomes a version as well.
+void MainWindow::restoreDetails(const keptCopy &copy, documentStruct &version)
+{
+    if (userPrompts().decide(tr("The details of all firms become those of the version %1.")
+                                 .arg(called(copy).toHtmlEscaped()),
+                             {tr("Restore them")}, true)
+        && saveDocument(copy.path, version, known().config()))
+        tell(tr("The details of the firms are restored"));
+    m_versions->listAgain();
+}
+
 void MainWindow::restoreCopy(const keptCopy &copy)
 {
     QString fault;
@@ -143,6 +155,10 @@ void MainWindow::restoreCopy(const keptCopy &copy)
         // It was told that it cannot be read.
         if (!sameFile(copy.path, m_document.path()))
             return;
+    }
+    if (&version->kind() == &fileKinds::firmDetails) {
+        restoreDetails(copy, *version);
+        return;
     }
     editWindow *window = windowOf(copy.path, version->kind());
     if (window) {

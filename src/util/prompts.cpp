@@ -71,6 +71,8 @@ std::optional<int> prompts::choose(const QString &, const QString &, const QStri
 }
 
 QString prompts::openFile(const QString &, const QString &, const QString &) { return {}; }
+QString prompts::openFolder(const QString &, const QString &) { return {}; }
+
 QString prompts::saveFile(const QString &, const QString &, const QString &) { return {}; }
 QString prompts::withSuffix(const QString &name, const QString &chosenFilter,
                             const QString &filters)

@@ -54,6 +54,8 @@ public:
 
     // A file to read or to write; empty when the user gave none. filter as in "Xml File (*.xml)".
     virtual QString openFile(const QString &title, const QString &directory, const QString &filter);
+    // A folder to write into; empty when the user gave none.
+    virtual QString openFolder(const QString &title, const QString &directory);
     // What is written there replaces a file of that name; the name ends as the filter says.
     virtual QString saveFile(const QString &title, const QString &proposed, const QString &filter);
 

@@ -194,6 +194,11 @@ QString dialogPrompts::openFile(const QString &title, const QString &directory,
                                         nullptr, QFileDialog::ReadOnly);
 }
 
+QString dialogPrompts::openFolder(const QString &title, const QString &directory)
+{
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, directory);
+}
+
 QString dialogPrompts::saveFile(const QString &title, const QString &proposed,
                                 const QString &filter)
 {

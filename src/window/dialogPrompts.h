@@ -21,6 +21,7 @@ public:
                               int initial) override;
     QString openFile(const QString &title, const QString &directory,
                      const QString &filter) override;
+    QString openFolder(const QString &title, const QString &directory) override;
     QString saveFile(const QString &title, const QString &proposed, const QString &filter) override;
     void log(const QString &html) override;
     void listError(const QString &html) override;

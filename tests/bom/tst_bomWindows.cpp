@@ -1,6 +1,7 @@
 // The windows of BOM lists, and what they put into the order.
 #include "scenarioFixture.h"
 
+#include "bom/basketsDialog.h"
 #include "bom/needsDialog.h"
 #include "bom/replaceMaterialDialog.h"
 #include "data/loaders.h"
@@ -22,6 +23,7 @@
 #define SERIAL "_files/boms/konwerter_rs232_usb.xml"
 #define REPLACE "#replaceMaterial '" KNOWN "' Return '" REGULATOR "' Return "
 #define PREAMP "_files/boms/przedwzmacniacz_audio.xml"
+#define BASKETS "Ctrl+B|" SETS "Ctrl+S !baskets "
 #define TYPED "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '4' "
 #define NEEDS                                                                                                          \
     "Ctrl+B|boms@0/0/0,1 F2 Ctrl+A '3' Return boms@1/1/0,1 F2 Ctrl+A '1' Return boms@2/0/0,1 F2 Ctrl+A '1' "           \
@@ -196,6 +198,21 @@ const scenario scenarios[] = {
     {"unknown ones found", "Ctrl+B|boms@2/0/0,0 Return|Ctrl+F '!!!!!' ~100",
      "counts = 1 line, 1 of them unknown, 1 found"},
 
+    // --- Baskets ---
+    {"copied", BASKETS "Alt+C Escape Escape",
+     "clipboard = Part number\tQuantity\tCustomer reference\n"
+     "STM32F103C8T6\t3\t" KNOWN "\n; orderLines = 21"},
+    {"what is not ticked", "Ctrl+B|" SETS "Ctrl+S Alt+N !baskets Return Escape", "boxes ~ nothing to be bought"},
+    {"one file", BASKETS "Alt+S Ctrl+A '%/one' Return Escape Escape",
+     "file one.csv = Part number,Quantity,Customer reference\r\nSTM32F103C8T6,3," KNOWN "\r\n"},
+    {"as the firm wants it", BASKETS "Tab Alt+O Down Return Alt+S Ctrl+A '%/one' Return Escape Escape",
+     "file one.txt = \tSTM32F103C8T6\t3\tR1\r\n"},
+    {"all files", BASKETS "Alt+A Ctrl+A '%/_zp' Return Escape Escape", "file _zp/Digi-Key.csv ~ STM32F103C8T6,3,"},
+    {"asked before they are replaced",
+     BASKETS "Alt+S Ctrl+A '%/_zp/Digi-Key' Return Tab Alt+O Down Return Alt+O Down Return Alt+A Ctrl+A '%/_zp' Return "
+             "Escape Escape Escape",
+     "boxes ~ has these files already: Digi-Key.csv; file _zp/Digi-Key.csv ~ STM32"},
+
     // --- From the database ---
     {"no list is open", INSERT "Return", "boxes ~ No BOM list is open"},
     {"the list is locked", "Ctrl+B|boms@0/0/0,0 Return|<" INSERT "Return",
@@ -223,6 +240,13 @@ class tst_bomWindows : public scenarioFixture
         write("_files/boms/konwerter_rs232_usb.xml", KNOWN, "1.5");
         write("_files/boms/przedwzmacniacz_audio.xml", "NONE-1", "2,5");
         write("far.xml", "NONE-1", "1");
+        folder().write("_files/firm_details.xml",
+                       testSupport::document("kiv_mat_firm_details", "KIV_MAT_FIRM_DETAILS_1",
+                                             "kiv_mat_firm_details.xsd",
+                                             "<details><name>Farnell</name><separator>tab</separator>"
+                                             "<captions>NIE</captions><basket><column kind=\"empty\"/>"
+                                             "<column kind=\"part_number\"/><column kind=\"quantity\"/>"
+                                             "<column kind=\"designators\"/></basket></details>"));
         testSupport::write(path("in.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n"
                                            "U2,1,,NOSUCH-1\nU3,2,,NOSUCH-2\n");
         testSupport::write(path("other.csv"), "Designator,Quantity,Value,MPN\nU1,1,,STM32F103C8T6\n");
@@ -377,6 +401,38 @@ private slots:
         steps("Ctrl+Y Ctrl+W !No");
         QCOMPARE(testSupport::read(reservations), undone);
         QCOMPARE(stock(), QString("1"));
+    }
+
+    // The left side of the baskets, the right one of a supplier, and what is said of both.
+    void basketsTables()
+    {
+        materialStruct known;
+        known.d_price = "2";
+        for (const char *name : {"TME", "Mouser"}) {
+            auto *supplier = appendTo(known.suppliers);
+            supplier->name = name;
+            supplier->partNo = QString(name) + "-1";
+        }
+        const std::vector<supplierBasket::item> items{{"K", "part", &known, decimal::read("3"), "3", "R1"},
+                                                      {"X", "none", nullptr, decimal::read("4"), "4", ""}};
+        firmDetailsStruct form;
+        form.discount = "50";
+        basketsDialog dialog(
+            items, [&form](const QString &) -> const firmDetailsStruct & { return form; }, {}, nullptr);
+        const auto texts = [&dialog](const char *name) {
+            QStringList all;
+            const auto *table = dialog.findChild<QTreeWidget *>(name);
+            for (int row = 0; row < table->topLevelItemCount(); ++row)
+                for (int column = 0; column < table->columnCount(); ++column)
+                    all.append(table->topLevelItem(row)->text(column));
+            return all.join('|');
+        };
+        QCOMPARE(texts("suppliers"), QString("TME|1|50 %|3.00|no supplier|1|50 %|0.00"));
+        QCOMPARE(texts("basketLines"), QString("part|K|TME-1|3||3.00|Mouser|"));
+        QCOMPARE(dialog.findChild<QLabel *>("summary")->text(), QString("1 supplier, 2 lines, 1 without a supplier"));
+        QTest::keyClick(dialog.findChild<QTreeWidget *>("suppliers"), Qt::Key_Down);
+        QCOMPARE(texts("basketLines"), QString("none|X||4||||in no database"));
+        QVERIFY(!dialog.findChild<QPushButton *>("other")->isEnabled());
     }
 
     void needsTable()

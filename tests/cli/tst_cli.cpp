@@ -35,6 +35,17 @@ private slots:
         m_folder->write("wrong/namespace.xml", QByteArray(order("")).replace("<kiv_mat_zp", "<kiv_mat_zp xmlns=\"u\""));
         m_folder->write("wrong/schema.xml", document("kiv_config", "KIV_CONFIG_1", "none.xsd", ""));
         QVERIFY(keptSearches::keep({"Same", "ktm:k"}));
+        m_folder->write("shops.xml",
+                        database("<d_group name=\"G\"><material><d_ktm>K</d_ktm><suppliers><supplier><name>TME</name>"
+                                 "<part_no>T-1</part_no></supplier><supplier><name>Mouser</name><part_no>M-1</part_no>"
+                                 "</supplier></suppliers></material></d_group>"));
+        const QByteArray details =
+            document("kiv_mat_firm_details", "KIV_MAT_FIRM_DETAILS_1", "kiv_mat_firm_details.xsd",
+                     "<details><name>A</name><discount>5</discount></details><details><name>TME</name>"
+                     "<separator>semicolon</separator><captions>NIE</captions></details>");
+        m_folder->write("details/firm_details.xml", details);
+        m_folder->write("details/other.xml", QByteArray(details).replace(">5<", ">7<"));
+        m_folder->write("details/makers.xml", read(m_folder->path("makers.xml")));
         // Of the helpers only one is there, and that cannot be started.
         QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"), QFile::ReadOwner | QFile::ExeOwner);
     }
@@ -105,6 +116,21 @@ private slots:
         row("bom-csv good.xml -o out.csv", 1, "", "is no BOM list");
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
         row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
+        row("bom-basket bom.xml=2 -d shops.xml -o out", 0, "out/TME.csv\n", "in no database: X");
+        row("bom-basket bom.xml=2 -d shops.xml --firms firms.xml --supplier mouser -o out", 0, "out/Mouser.csv\n", "");
+        row("bom-basket bom.xml=2 -d shops.xml --supplier TME -o new/t.csv", 0, "new/t.csv\n", "number above 0");
+        row("bom-basket --from good.xml -d shops.xml -o out", 0, "out/TME.csv\n", "");
+        row("bom-basket bom.xml=2 -d shops.xml --supplier RS -o out", 1, "", "RS does not have it, left out: K");
+        row("bom-basket bom.xml=2 -d twice.xml -o out", 1, "", "no material has a supplier");
+        row("bom-basket bom.xml=2 -d shops.xml --firms bom.xml -o out", 1, "", "is no firm register");
+        row("bom-basket bom.xml=2 -d shops.xml -o good.xml", 3, "", "cannot be written");
+        row.each({"bom-basket -o out", "bom-basket bom.xml=1 --from good.xml -o out"}, 2, "", "either BOM=SETS or");
+        row("bom-basket bom.xml=1", 2, "", "-o");
+        row("validate details/firm_details.xml", 0, "valid", "");
+        row("info details/firm_details.xml", 0, "kind: kiv_mat_firm_details\nversion: KIV_MAT_FIRM_DETAILS_1\nfirms: 2",
+            "");
+        row("diff details/firm_details.xml details/other.xml", 1, "~ A, Discount: 5 -> 7\n", "");
+        row("firm-merge details/makers.xml A B -o out", 0, "out/makers.xml\nout/firm_details.xml\n", "");
         row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
         row("bom-reserve bom.xml=2 -d twice.xml", 2, "", "give the file of reservations");
         row("reservations none.xml", 1, "", "there is no such file");
@@ -540,6 +566,23 @@ private slots:
         QCOMPARE(call("validate good.xml").code, 0);
         QCOMPARE(call("bom-csv bom.xml -d twice.xml -o b.csv").code, 0);
         QCOMPARE(read(m_folder->path("b.csv")), QByteArray("K\t2\n!!!!!X\t1\n!!!!!Y\t\n"));
+    }
+
+    void baskets()
+    {
+        const QString command = "bom-basket bom.xml=2 -d shops.xml -o out --firms details/makers.xml --supplier ";
+        QCOMPARE(call(command + "tme").code, 0);
+        QCOMPARE(read(m_folder->path("out/TME.csv")), QByteArray("T-1;4;K\r\n"));
+        QCOMPARE(call(command + "Mouser").code, 0);
+        QCOMPARE(read(m_folder->path("out/Mouser.csv")),
+                 QByteArray("Part number,Quantity,Customer reference\r\nM-1,4,K\r\n"));
+        // A broken file of details is told and left alone.
+        m_folder->write("details/firm_details.xml", "<kiv_mat_firm_details>\n<details>");
+        const ended broken = call(command + "tme");
+        QCOMPARE(broken.code, 1);
+        QVERIFY2(broken.err.contains("details/firm_details.xml:2:"), qPrintable(broken.err));
+        QCOMPARE(call("firm-merge details/makers.xml A B -o merged").code, 1);
+        QVERIFY(!QFile::exists(m_folder->path("merged")));
     }
 
     void mail()

@@ -3,6 +3,7 @@
 
 #include "data/XmlValidator.h"
 #include "data/documentSaving.h"
+#include "data/kiv_mat_firmDetailsStruct.h"
 
 #include <unistd.h>
 
@@ -238,8 +239,9 @@ private slots:
     void aRootWithoutAttributesIsSavedAsItsKind()
     {
         const QString path = m_folder->path("r.xml");
-        for (const fileKind *kind : {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config,
-                                     &fileKinds::bom, &fileKinds::boms, &fileKinds::info, &fileKinds::update}) {
+        for (const fileKind *kind :
+             {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config, &fileKinds::bom,
+              &fileKinds::boms, &fileKinds::info, &fileKinds::update, &fileKinds::firmDetails}) {
             m_folder->write("r.xml", '<' + kind->root.toUtf8() + "/>");
             const auto record = newDocument(*kind);
             QCOMPARE(loadDocument(path, record.get()), 0);

@@ -5,6 +5,9 @@
 #include "firm/firmOperations.h"
 #include "util/fileVersions.h"
 
+#define DETAILS "_files/firm_details.xml"
+#define FIRST "#firm|manufacturers@0,0 F4 "
+#define ADDRESS FIRST "'Krucza 1' !OK "
 #define NAME "F2 Ctrl+A 'Nowa' Return"
 
 using namespace firmOperations;
@@ -32,6 +35,8 @@ const scenario actions[] = {
     {"+manufacturers@1,1", "#mergeFirms Return",
      "status = 1 firm merged into Abracon; manufacturers = 58; saved !~ <name>Advanced Monolithic", edits},
     {"", "#homePage", "desktop = https://abracon.com", reads},
+    {"", "#details Tab 'a@b.example' Return",
+     "file " DETAILS " ~ <email>a@b.example</email>; status = The details of Abracon are saved; title !~ *", guards},
 };
 
 #define QUESTION "#firm|Down F2 Ctrl+A 'Żuk1' "
@@ -49,6 +54,39 @@ const scenario scenarios[] = {
     {"a right one", "#firm|manufacturers@0,6 F2 '123-456-32-18' Return", "manufacturers@!0,6 ="},
     {"a click", "#firm|manufacturers@0,4", "desktop ="},
     {"a click with Ctrl", "#firm|manufacturers@0,4 +manufacturers@0,4", "desktop = https://abracon.com"},
+    // --- Details ---
+    {"found again", ADDRESS "F4 Ctrl+End ' m. 2' !OK", "file " DETAILS " ~ <address>Krucza 1 m. 2</address>"},
+    {"of the other list's firm", ADDRESS "!Suppliers suppliers@0,0 F4 'Lubicz' !OK",
+     "file " DETAILS " ~ <address>Krucza 1</address>; file " DETAILS " ~ <address>Lubicz</address>"},
+    {"nothing said any more", ADDRESS "F4 Ctrl+A Del !OK", "file " DETAILS " !~ <details>"},
+    {"nothing changed", FIRST "Escape F4 Return F4 !OK", "files " DETAILS " =; boxes !~ Save the changed"},
+    {"a wrong address", FIRST "Tab 'a@b' Return Escape !No", "files " DETAILS " =; boxes ~ Save the changed details"},
+    {"a wrong discount", FIRST "Alt+D '101' Return Ctrl+A '10,5' Return",
+     "file " DETAILS " ~ <discount>10,5</discount>"},
+    {"a wrong one is not saved by Escape", FIRST "Alt+D '101' Escape !Yes Escape !No", "files " DETAILS " ="},
+    {"kept open", FIRST "'x' Escape !Cancel 'y' Escape !Yes", "file " DETAILS " ~ <address>xy</address>"},
+    {"ready columns", FIRST "Alt+R Down Down Return Return",
+     "file " DETAILS " ~ <separator>semicolon<; file " DETAILS
+     " ~ <column kind=\"own_reference\" caption=\"Customer reference\" text=\"\"/>"},
+    {"columns by keys",
+     FIRST "Alt+M Alt+N Down Alt+M Alt+N End Up Alt+T 'PO 7' Alt+P Ctrl+A 'Ref' Alt+U Alt+I Alt+S End Return",
+     "file " DETAILS " ~ <column kind=\"text\" caption=\"Ref\" text=\"PO 7\"/>\n            <column kind=\"quantity\" "
+     "caption=\"Quantity\"; file " DETAILS " ~ <captions>NIE</captions>; file " DETAILS " ~ <separator>tab<"},
+    {"a column less", FIRST "Alt+R Down Return Alt+V Return", "file " DETAILS " !~ part_number"},
+    {"with another name", ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+S",
+     "file " DETAILS " ~ <name>Nowa</name>; file " DETAILS " !~ Abracon"},
+    {"found by it before it is saved",
+     ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only F4 'x' !OK",
+     "file " DETAILS " ~ <name>Abracon</name>; file " DETAILS " ~ xKrucza"},
+    {"with a name taken back",
+     ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+Z "
+             "manufacturers@0,1 F2 Ctrl+A 'z' Return Ctrl+S",
+     "file " DETAILS " ~ <name>Abracon</name>; saved ~ <fullname>z<"},
+    {"of a firm that no material names",
+     "#firm|Ins F2 Ctrl+A 'Nowa' Return Ctrl+S F4 'x' !OK|F2 Ctrl+A 'Nowsza' Return Ctrl+S",
+     "file " DETAILS " ~ <name>Nowsza<"},
+    {"merged", ADDRESS "manufacturers@0,0 +manufacturers@1,0 Ctrl+M ~50 Down Return Ctrl+S",
+     "file " DETAILS " ~ <name>Advanced Monolithic Systems<; file " DETAILS " ~ Krucza; file " DETAILS " !~ Abracon"},
     {"a program", "#firm|manufacturers@0,4 F2 Ctrl+A 'file:///x' Return Up #-homePage", "boxes ~ no firm with a home"},
 };
 
@@ -91,7 +129,8 @@ private slots:
     void firmsThatStandTwice()
     {
         testSupport::write(file(), testSupport::read(file()).replace("<name>Allegro MicroSystems<", "<name>Abracon<"));
-        openWindow("#firm|manufacturers@2,0 F2 Return manufacturers@2,1 F2 Ctrl+A 'x' Return manufacturers@0,0 Del Ctrl+S");
+        openWindow(
+            "#firm|manufacturers@2,0 F2 Return manufacturers@2,1 F2 Ctrl+A 'x' Return manufacturers@0,0 Del Ctrl+S");
         QCOMPARE(boxes(), QStringList());
         QCOMPARE(current().model()->rowCount(), 58);
         QVERIFY(onDisk() != "Abracon" && testSupport::read(file()).contains("<name>Abracon<"));
@@ -105,11 +144,21 @@ private slots:
         QTest::addColumn<QString>("clipboard");
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("seen");
-        QTest::newRow("typed") << "" << "manufacturers@1,0 F2 Ctrl+A 'abracon ' Return Escape" << "";
-        QTest::newRow("added") << "" << "Ins Escape Ins Escape" << "Error: The list has a new firm FIRM already";
-        QTest::newRow("filled") << "" << "manufacturers@0,0 Shift+Down Ctrl+Shift+D Escape" << "has a firm Abracon already";
-        QTest::newRow("pasted") << "Abracon" << "manufacturers@1,0 Ctrl+V Escape" << "two firms of a name: Abracon";
-        QTest::newRow("pasted twice") << "New\nNEW" << "manufacturers@1,0 Ctrl+V Escape" << "two firms of a name: NEW";
+        QTest::newRow("typed") << ""
+                               << "manufacturers@1,0 F2 Ctrl+A 'abracon ' Return Escape"
+                               << "";
+        QTest::newRow("added") << ""
+                               << "Ins Escape Ins Escape"
+                               << "Error: The list has a new firm FIRM already";
+        QTest::newRow("filled") << ""
+                                << "manufacturers@0,0 Shift+Down Ctrl+Shift+D Escape"
+                                << "has a firm Abracon already";
+        QTest::newRow("pasted") << "Abracon"
+                                << "manufacturers@1,0 Ctrl+V Escape"
+                                << "two firms of a name: Abracon";
+        QTest::newRow("pasted twice") << "New\nNEW"
+                                      << "manufacturers@1,0 Ctrl+V Escape"
+                                      << "two firms of a name: NEW";
     }
     void secondOnesAreRefused()
     {
@@ -292,6 +341,42 @@ private slots:
         work("Ctrl+S");
         QCOMPARE(onDisk(), QString("zzz"));
         QCOMPARE(uses("zzz"), 5);
+    }
+
+    // What cannot be read is told with its place and never written over, also by what is saved beside it.
+    void unreadableDetails()
+    {
+        const QByteArray broken = "<kiv_mat_firm_details>\n<details><oops";
+        folder().write(DETAILS, broken);
+        openWindow("#firm|manufacturers@0,0 F4 Return");
+        QVERIFY(boxes().value(0).contains("firm_details.xml cannot be read"));
+        QVERIFY(seen().logged.isEmpty());
+        work("F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+S Return");
+        QVERIFY(boxes().join(' ').contains("line 2"));
+        QCOMPARE(onDisk(), QString("Nowa"));
+        QCOMPARE(testSupport::read(path(DETAILS)), broken);
+    }
+
+    // What another program wrote there meanwhile is asked about when it is this firm's, else kept.
+    void changedDetails()
+    {
+        const auto others = [this](const char *name) {
+            folder().write(DETAILS, testSupport::document("kiv_mat_firm_details", "KIV_MAT_FIRM_DETAILS_1",
+                                                          "kiv_mat_firm_details.xsd",
+                                                          QByteArray("<details><name>") + name
+                                                              + "</name><address>theirs</address></details>"));
+        };
+        const QPointer<QObject> alive(this);
+        openWindow("#firm");
+        QTimer::singleShot(150, this, [&] { others("Rohm"); });
+        work("manufacturers@0,0 F4 'mine' ~400 !OK");
+        QVERIFY(testSupport::read(path(DETAILS)).contains("theirs")
+                && testSupport::read(path(DETAILS)).contains("mine"));
+        boxes();
+        QTimer::singleShot(150, this, [&] { others("Abracon"); });
+        work("F4 'x' ~400 !OK Escape Escape !No");
+        QVERIFY(boxes().join(' ').contains("Another program has changed the details of Abracon"));
+        QVERIFY(!testSupport::read(path(DETAILS)).contains("mine"));
     }
 
     void unreadable()
