@@ -97,6 +97,13 @@
             <numerusform>Stock reserved for %n boards</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Kiv_mat_databaseMergeWindow</name>
@@ -355,6 +362,72 @@
         <translation>
             <numerusform>%n material</numerusform>
             <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>basketsDialog</name>
+    <message numerus="yes">
+        <source>%n line(s) with a remark</source>
+        <translation>
+            <numerusform>%n line with a remark</numerusform>
+            <numerusform>%n lines with a remark</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n supplier</numerusform>
+            <numerusform>%n suppliers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without a supplier</source>
+        <translation>
+            <numerusform>%n without a supplier</numerusform>
+            <numerusform>%n without a supplier</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with a remark</source>
+        <translation>
+            <numerusform>%n with a remark</numerusform>
+            <numerusform>%n with a remark</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) bought from %1</source>
+        <translation>
+            <numerusform>%n line bought from %1</numerusform>
+            <numerusform>%n lines bought from %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n file(s)</source>
+        <translation>
+            <numerusform>Replace %n file</numerusform>
+            <numerusform>Replace %n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written into %1</source>
+        <translation>
+            <numerusform>%n file written into %1</numerusform>
+            <numerusform>%n files written into %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a supplier are in none</source>
+        <translation>
+            <numerusform>%n line without a supplier is in none</numerusform>
+            <numerusform>%n lines without a supplier are in none</numerusform>
         </translation>
     </message>
 </context>
@@ -718,6 +791,13 @@
         <translation>
             <numerusform>%n row copied</numerusform>
             <numerusform>%n rows copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n BOM list(s) cannot be read</source>
+        <translation>
+            <numerusform>%n BOM list cannot be read</numerusform>
+            <numerusform>%n BOM lists cannot be read</numerusform>
         </translation>
     </message>
 </context>
@@ -1202,6 +1282,30 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>replaceMaterialDialog</name>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to replace</source>
+        <translation>
+            <numerusform>%n line to replace</numerusform>
+            <numerusform>%n lines to replace</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cannot be changed</source>
+        <translation>
+            <numerusform>%n cannot be changed</numerusform>
+            <numerusform>%n cannot be changed</numerusform>
         </translation>
     </message>
 </context>

@@ -105,6 +105,14 @@
         <source>Material picked</source>
         <translation>Wybrano materiał</translation>
     </message>
+    <message>
+        <source>a text in its window is refused</source>
+        <translation>tekst w jego oknie jest nieprawidłowy</translation>
+    </message>
+    <message>
+        <source>Material replaced</source>
+        <translation>Zastąpiono materiał</translation>
+    </message>
 </context>
 <context>
     <name>Kiv_bomWindow</name>
@@ -319,6 +327,38 @@
     <message>
         <source>Taken out of stock: %1</source>
         <translation>Zdjęto ze stanu: %1</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Wczytywanie</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Zapisywanie</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced, because a file cannot be changed:</source>
+        <translation>Niczego nie zastąpiono, bo nie można zmienić pliku:</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
+    <message>
+        <source>%1 replaced by %2</source>
+        <translation>%1 zastąpiono przez %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>lists and orders: %1</source>
+        <translation>listy i zamówienia: %1</translation>
     </message>
 </context>
 <context>
@@ -1232,6 +1272,38 @@
     <message>
         <source>Taken out of stock: %1</source>
         <translation>Zdjęto ze stanu: %1</translation>
+    </message>
+    <message>
+        <source>the order is locked</source>
+        <translation>zamówienie jest zablokowane</translation>
+    </message>
+    <message>
+        <source>a text in its window is refused</source>
+        <translation>tekst w jego oknie jest nieprawidłowy</translation>
+    </message>
+    <message>
+        <source>Material replaced</source>
+        <translation>Zastąpiono materiał</translation>
+    </message>
+    <message>
+        <source>There is nothing to be bought.</source>
+        <translation>Nie ma nic do kupienia.</translation>
+    </message>
+    <message>
+        <source>The details of the firms in %1 cannot be read; all baskets have the usual columns</source>
+        <translation>Nie można odczytać danych firm z pliku %1; wszystkie koszyki mają zwykłe kolumny</translation>
+    </message>
+    <message>
+        <source>The details of all firms become those of the version %1.</source>
+        <translation>Dane wszystkich firm zostaną zastąpione danymi z wersji %1.</translation>
+    </message>
+    <message>
+        <source>Restore them</source>
+        <translation>Przywróć je</translation>
+    </message>
+    <message>
+        <source>The details of the firms are restored</source>
+        <translation>Przywrócono dane firm</translation>
     </message>
 </context>
 <context>
@@ -2543,6 +2615,38 @@
         <source>What is reserved for boards, and what was built</source>
         <translation>Co jest zarezerwowane dla płytek, a co zmontowano</translation>
     </message>
+    <message>
+        <source>Replace material ...</source>
+        <translation>Zastąp materiał ...</translation>
+    </message>
+    <message>
+        <source>Put another material in the place of the selected line&apos;s in all BOM lists of the set and the open order</source>
+        <translation>Zastąp materiał zaznaczonej pozycji innym na wszystkich listach BOM zestawu i w otwartym zamówieniu</translation>
+    </message>
+    <message>
+        <source>Put another material in the place of one in all BOM lists of the set and the open order</source>
+        <translation>Zastąp materiał innym na wszystkich listach BOM zestawu i w otwartym zamówieniu</translation>
+    </message>
+    <message>
+        <source>Put another material in the place of this one in all BOM lists of the set and the open order</source>
+        <translation>Zastąp ten materiał innym na wszystkich listach BOM zestawu i w otwartym zamówieniu</translation>
+    </message>
+    <message>
+        <source>Details ...</source>
+        <translation>Dane firmy ...</translation>
+    </message>
+    <message>
+        <source>Address, mail, discount and the form of the firm&apos;s baskets</source>
+        <translation>Adres, poczta, rabat i postać koszyków firmy</translation>
+    </message>
+    <message>
+        <source>Supplier baskets ...</source>
+        <translation>Koszyki dostawców ...</translation>
+    </message>
+    <message>
+        <source>The lines parted by supplier, for their shops</source>
+        <translation>Pozycje podzielone na dostawców, do ich sklepów</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2623,6 +2727,177 @@
     <message>
         <source>Tool bar</source>
         <translation>Pasek narzędzi</translation>
+    </message>
+</context>
+<context>
+    <name>basketsDialog</name>
+    <message>
+        <source>Supplier baskets</source>
+        <translation>Koszyki dostawców</translation>
+    </message>
+    <message>
+        <source>&amp;Other supplier ...</source>
+        <translation>Inny &amp;dostawca ...</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy the columns of the supplier&apos;s basket, to paste them into its shop</source>
+        <translation>Kopiuj kolumny koszyka, by wkleić je w sklepie dostawcy</translation>
+    </message>
+    <message>
+        <source>&amp;Save as ...</source>
+        <translation>&amp;Zapisz jako ...</translation>
+    </message>
+    <message>
+        <source>Save &amp;all ...</source>
+        <translation>Zapisz &amp;wszystkie ...</translation>
+    </message>
+    <message>
+        <source>Write a file for each supplier into a folder</source>
+        <translation>Zapisz w folderze po jednym pliku dla każdego dostawcy</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Discount</source>
+        <translation>Rabat</translation>
+    </message>
+    <message>
+        <source>Lines of the basket</source>
+        <translation>Pozycje koszyka</translation>
+    </message>
+    <message>
+        <source>Other suppliers</source>
+        <translation>Inni dostawcy</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Uwaga</translation>
+    </message>
+    <message>
+        <source>Buy the selected lines from another supplier</source>
+        <translation>Kup zaznaczone pozycje u innego dostawcy</translation>
+    </message>
+    <message>
+        <source>no line selected that has another supplier</source>
+        <translation>nie zaznaczono pozycji, która ma innego dostawcę</translation>
+    </message>
+    <message>
+        <source>no supplier</source>
+        <translation>bez dostawcy</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with a remark</source>
+        <translation>
+            <numerusform>%n pozycja z uwagą</numerusform>
+            <numerusform>%n pozycje z uwagą</numerusform>
+            <numerusform>%n pozycji z uwagą</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n supplier(s)</source>
+        <translation>
+            <numerusform>%n dostawca</numerusform>
+            <numerusform>%n dostawców</numerusform>
+            <numerusform>%n dostawców</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without a supplier</source>
+        <translation>
+            <numerusform>%n bez dostawcy</numerusform>
+            <numerusform>%n bez dostawcy</numerusform>
+            <numerusform>%n bez dostawcy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n with a remark</source>
+        <translation>
+            <numerusform>%n z uwagą</numerusform>
+            <numerusform>%n z uwagą</numerusform>
+            <numerusform>%n z uwagą</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Other supplier</source>
+        <translation>Inny dostawca</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) bought from %1</source>
+        <translation>
+            <numerusform>%n pozycja u dostawcy %1</numerusform>
+            <numerusform>%n pozycje u dostawcy %1</numerusform>
+            <numerusform>%n pozycji u dostawcy %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The basket of %1 is copied</source>
+        <translation>Skopiowano koszyk: %1</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Text File</source>
+        <translation>Plik tekstowy</translation>
+    </message>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Zapisano jako %1</translation>
+    </message>
+    <message>
+        <source>A folder for the baskets</source>
+        <translation>Folder na koszyki</translation>
+    </message>
+    <message>
+        <source>The folder %1 has these files already: %2</source>
+        <translation>W folderze %1 są już pliki: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n file(s)</source>
+        <translation>
+            <numerusform>Zastąp %n plik</numerusform>
+            <numerusform>Zastąp %n pliki</numerusform>
+            <numerusform>Zastąp %n plików</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written into %1</source>
+        <translation>
+            <numerusform>Zapisano %n plik w folderze %1</numerusform>
+            <numerusform>Zapisano %n pliki w folderze %1</numerusform>
+            <numerusform>Zapisano %n plików w folderze %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a supplier are in none</source>
+        <translation>
+            <numerusform>w żadnym nie ma %n pozycji bez dostawcy</numerusform>
+            <numerusform>w żadnym nie ma %n pozycji bez dostawcy</numerusform>
+            <numerusform>w żadnym nie ma %n pozycji bez dostawcy</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3958,10 +4233,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>rodzaje uwag to: %1</translation>
     </message>
     <message>
-        <source>Lists what is wrong with the materials of databases: duplicates, empty fields, codes, links, files and firms. Exit code 1 when there is something.</source>
-        <translation>Wypisuje, co jest nie tak z materiałami baz: duplikaty, puste pola, kody, odnośniki, pliki i firmy. Kod wyjścia 1, gdy coś znaleziono.</translation>
-    </message>
-    <message>
         <source>%1 is no field of a material; these are: %2</source>
         <translation>%1 nie jest polem materiału; pola to: %2</translation>
     </message>
@@ -4198,6 +4469,74 @@ Pola: %1</translation>
     <message>
         <source>Lists reserved and built boards.</source>
         <translation>Wypisuje płytki zarezerwowane i zmontowane.</translation>
+    </message>
+    <message>
+        <source>is no file of firm details</source>
+        <translation>nie jest plikiem danych firm</translation>
+    </message>
+    <message>
+        <source>%1 does not have it, left out</source>
+        <translation>%1 go nie ma, pominięto</translation>
+    </message>
+    <message>
+        <source>The folder for a file for each supplier; with --supplier a folder or the file.</source>
+        <translation>Folder na plik dla każdego dostawcy; z opcją --supplier folder albo plik.</translation>
+    </message>
+    <message>
+        <source>The firm register; the details beside it say how baskets are written.</source>
+        <translation>Rejestr firm; plik danych obok niego określa, jak zapisywać koszyki.</translation>
+    </message>
+    <message>
+        <source>Only the basket of this supplier, with all that it has.</source>
+        <translation>Tylko koszyk tego dostawcy, ze wszystkim, co ma w ofercie.</translation>
+    </message>
+    <message>
+        <source>An order whose lines are bought, in place of BOM lists.</source>
+        <translation>Zamówienie, którego pozycje są kupowane, zamiast list BOM.</translation>
+    </message>
+    <message>
+        <source>Buy only what is short of stock.</source>
+        <translation>Kup tylko to, czego brakuje w magazynie.</translation>
+    </message>
+    <message>
+        <source>give either BOM=SETS or --from ORDER</source>
+        <translation>podaj albo BOM=SETS, albo --from ORDER</translation>
+    </message>
+    <message>
+        <source>no material has a supplier</source>
+        <translation>żaden materiał nie ma dostawcy</translation>
+    </message>
+    <message>
+        <source>no material has the supplier %1</source>
+        <translation>żaden materiał nie ma dostawcy %1</translation>
+    </message>
+    <message>
+        <source>Writes what BOM lists, each times its number of sets, or an order need as baskets for the shops of the suppliers.</source>
+        <translation>Zapisuje to, czego wymagają listy BOM razy liczba zestawów albo zamówienie, jako koszyki do sklepów dostawców.</translation>
+    </message>
+    <message>
+        <source>A BOM list or a set of BOM lists, whose materials are to have a status valid for ordering. May be given several times.</source>
+        <translation>Lista BOM lub zestaw list BOM, których materiały mają mieć status pozwalający je zamówić. Można podać wiele razy.</translation>
+    </message>
+    <message>
+        <source>Lists what is wrong with the materials of databases: duplicates, empty fields, codes, links, files, firms, and materials of BOM lists that may not be ordered. Exit code 1 when there is something.</source>
+        <translation>Wypisuje, co jest nie tak z materiałami baz: duplikaty, puste pola, kody, odnośniki, pliki, firmy oraz materiały z list BOM, których nie wolno zamówić. Kod wyjścia 1, gdy coś znaleziono.</translation>
+    </message>
+    <message>
+        <source>nothing was replaced</source>
+        <translation>niczego nie zastąpiono</translation>
+    </message>
+    <message>
+        <source>A material database, which has the new material. May be given several times.</source>
+        <translation>Baza materiałów z nowym materiałem. Można podać wiele razy.</translation>
+    </message>
+    <message>
+        <source>lines to replace %1, in files %2 of %3</source>
+        <translation>pozycji do zastąpienia: %1, w plikach: %2 z %3</translation>
+    </message>
+    <message>
+        <source>Puts one material in the place of another one in BOM lists, all lists of sets, and orders, and keeps the files as they were among their versions. All files are written, or none.</source>
+        <translation>Zastępuje materiał innym na listach BOM, wszystkich listach zestawów i w zamówieniach; dotychczasowe pliki zachowuje wśród ich wersji. Zapisuje wszystkie pliki albo żadnego.</translation>
     </message>
 </context>
 <context>
@@ -4740,6 +5079,26 @@ Pola: %1</translation>
             <numerusform>%n zestawów</numerusform>
         </translation>
     </message>
+    <message>
+        <source>it is gone</source>
+        <translation>pliku już nie ma</translation>
+    </message>
+    <message>
+        <source>it was changed meanwhile</source>
+        <translation>został tymczasem zmieniony</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>plik jest tylko do odczytu</translation>
+    </message>
+    <message>
+        <source>it is open in %1</source>
+        <translation>jest otwarty w: %1</translation>
+    </message>
+    <message>
+        <source>it could not be put back as it was (%1); the file is among its earlier versions</source>
+        <translation>nie udało się przywrócić poprzedniego stanu (%1); plik jest wśród wcześniejszych wersji</translation>
+    </message>
 </context>
 <context>
     <name>databaseChecks</name>
@@ -4873,6 +5232,14 @@ Pola: %1</translation>
     <message>
         <source>%1 (it has %2)</source>
         <translation>%1 (jest w nim %2)</translation>
+    </message>
+    <message>
+        <source>Not to be ordered</source>
+        <translation>Nie do zamówienia</translation>
+    </message>
+    <message>
+        <source>a status not valid for ordering, but BOM lists use it: %1</source>
+        <translation>status nie pozwala zamówić, a materiał jest na listach BOM: %1</translation>
     </message>
 </context>
 <context>
@@ -5506,12 +5873,214 @@ Pola: %1</translation>
         <source>Cancelled</source>
         <translation>Anulowano</translation>
     </message>
+    <message numerus="yes">
+        <source>%n BOM list(s) cannot be read</source>
+        <translation>
+            <numerusform>nie można odczytać %n listy BOM</numerusform>
+            <numerusform>nie można odczytać %n list BOM</numerusform>
+            <numerusform>nie można odczytać %n list BOM</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no finding of a material with a KTM is selected</source>
+        <translation>nie zaznaczono wyniku dotyczącego materiału z KTM</translation>
+    </message>
 </context>
 <context>
     <name>firmChecks</name>
     <message>
         <source>The tax number %1 is not correct</source>
         <translation>Numer NIP %1 jest niepoprawny</translation>
+    </message>
+</context>
+<context>
+    <name>firmDetails</name>
+    <message>
+        <source>Own reference (KTM)</source>
+        <translation>Własne oznaczenie (KTM)</translation>
+    </message>
+    <message>
+        <source>Fixed text</source>
+        <translation>Stały tekst</translation>
+    </message>
+    <message>
+        <source>Empty column</source>
+        <translation>Pusta kolumna</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Kolumna</translation>
+    </message>
+    <message>
+        <source>%1 is no e-mail address</source>
+        <translation>%1 nie jest adresem e-mail</translation>
+    </message>
+    <message>
+        <source>%1 is no discount from 0 to %2 percent</source>
+        <translation>%1 nie jest rabatem od 0 do %2 procent</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Nagłówek</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Discount</source>
+        <translation>Rabat</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Caption line</source>
+        <translation>Wiersz nagłówków</translation>
+    </message>
+</context>
+<context>
+    <name>firmDetailsDialog</name>
+    <message>
+        <source>Tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Średnik</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Przecinek</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Discount, percent</source>
+        <translation>Rabat w procentach</translation>
+    </message>
+    <message>
+        <source>Details of %1</source>
+        <translation>Dane firmy %1</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <translation>nie podano</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>Ad&amp;res</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail</source>
+        <translation>&amp;E-mail</translation>
+    </message>
+    <message>
+        <source>&amp;Language of letters</source>
+        <translation>&amp;Język korespondencji</translation>
+    </message>
+    <message>
+        <source>&amp;Discount, percent</source>
+        <translation>Ra&amp;bat w procentach</translation>
+    </message>
+    <message>
+        <source>Basket</source>
+        <translation>Koszyk</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Caption l&amp;ine first</source>
+        <translation>&amp;Najpierw wiersz nagłówków</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Kolumny</translation>
+    </message>
+    <message>
+        <source>The columns in their order; without any, part number, quantity and own reference</source>
+        <translation>Kolumny po kolei; bez żadnej: numer części, ilość i własne oznaczenie</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Zawartość</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Nagłówek</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>&amp;Ready columns</source>
+        <translation>Gotowe &amp;kolumny</translation>
+    </message>
+    <message>
+        <source>Part number, quantity, reference: %1</source>
+        <translation>Numer części, ilość, oznaczenie: %1</translation>
+    </message>
+    <message>
+        <source>Add colu&amp;mn</source>
+        <translation>Dodaj kolu&amp;mnę</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;W górę</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>W &amp;dół</translation>
+    </message>
+    <message>
+        <source>Two lines as they are written</source>
+        <translation>Dwa wiersze tak, jak będą zapisane</translation>
+    </message>
+    <message>
+        <source>&amp;Separator</source>
+        <translation>&amp;Separator</translation>
+    </message>
+    <message>
+        <source>Co&amp;ntent</source>
+        <translation>&amp;Zawartość</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ption</source>
+        <translation>Na&amp;główek</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>&amp;Tekst</translation>
+    </message>
+    <message>
+        <source>only of a column with a fixed text</source>
+        <translation>tylko dla kolumny ze stałym tekstem</translation>
+    </message>
+    <message>
+        <source>Save the changed details of %1?</source>
+        <translation>Zapisać zmienione dane firmy %1?</translation>
     </message>
 </context>
 <context>
@@ -5706,6 +6275,26 @@ Pola: %1</translation>
             <numerusform>%n firmy włączone do %1</numerusform>
             <numerusform>%n firm włączonych do %1</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The details of the firms in %1 cannot be read</source>
+        <translation>Nie można odczytać danych firm z pliku %1</translation>
+    </message>
+    <message>
+        <source>Another program has changed the details of %1 meanwhile.</source>
+        <translation>Inny program zmienił w tym czasie dane firmy %1.</translation>
+    </message>
+    <message>
+        <source>Write these over them</source>
+        <translation>Zapisz te w ich miejsce</translation>
+    </message>
+    <message>
+        <source>The details of %1 are saved</source>
+        <translation>Zapisano dane firmy %1</translation>
+    </message>
+    <message>
+        <source>The firm has no name yet. Give it one first.</source>
+        <translation>Firma nie ma jeszcze nazwy. Najpierw ją nadaj.</translation>
     </message>
 </context>
 <context>
@@ -6911,6 +7500,57 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>materialReplacement</name>
+    <message>
+        <source>no material to replace is given</source>
+        <translation>nie podano zastępowanego materiału</translation>
+    </message>
+    <message>
+        <source>no new material is given</source>
+        <translation>nie podano nowego materiału</translation>
+    </message>
+    <message>
+        <source>both materials are the same</source>
+        <translation>oba materiały są takie same</translation>
+    </message>
+    <message>
+        <source>no database has the material %1</source>
+        <translation>żadna baza nie ma materiału %1</translation>
+    </message>
+    <message>
+        <source>the new material has no status valid for ordering (%1)</source>
+        <translation>status nowego materiału nie pozwala go zamówić (%1)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>nie można go odczytać</translation>
+    </message>
+    <message>
+        <source>saving it would lose %1</source>
+        <translation>zapis usunąłby %1</translation>
+    </message>
+    <message>
+        <source>the unit changes from %1 to %2, the quantity stays</source>
+        <translation>jednostka zmieni się z %1 na %2, ilość zostanie bez zmian</translation>
+    </message>
+    <message>
+        <source>its own description is replaced, too</source>
+        <translation>własny opis pozycji też zostanie zastąpiony</translation>
+    </message>
+    <message>
+        <source>the new material stands in several lines then</source>
+        <translation>nowy materiał będzie w kilku pozycjach</translation>
+    </message>
+    <message>
+        <source>an order takes one line of the new material</source>
+        <translation>zamówienie może mieć tylko jedną pozycję nowego materiału</translation>
+    </message>
+</context>
+<context>
     <name>materialTree</name>
     <message>
         <source>%1, status %2</source>
@@ -7395,6 +8035,14 @@ Pola: %1</translation>
     <message>
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
+    </message>
+    <message>
+        <source>&amp;Baskets ...</source>
+        <translation>&amp;Koszyki ...</translation>
+    </message>
+    <message>
+        <source>What is ticked as orders for the shops of the suppliers</source>
+        <translation>To, co zaznaczono, jako zamówienia do sklepów dostawców</translation>
     </message>
 </context>
 <context>
@@ -7943,6 +8591,113 @@ Pola: %1</translation>
     </message>
 </context>
 <context>
+    <name>replaceMaterialDialog</name>
+    <message>
+        <source>Replace material</source>
+        <translation>Zastępowanie materiału</translation>
+    </message>
+    <message>
+        <source>&amp;Material to replace</source>
+        <translation>&amp;Materiał zastępowany</translation>
+    </message>
+    <message>
+        <source>&amp;Search ...</source>
+        <translation>&amp;Szukaj ...</translation>
+    </message>
+    <message>
+        <source>&amp;New material</source>
+        <translation>&amp;Nowy materiał</translation>
+    </message>
+    <message>
+        <source>S&amp;earch ...</source>
+        <translation>Sz&amp;ukaj ...</translation>
+    </message>
+    <message>
+        <source>What changes</source>
+        <translation>Co się zmieni</translation>
+    </message>
+    <message>
+        <source>File, line</source>
+        <translation>Plik, pozycja</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Zastąp</translation>
+    </message>
+    <message>
+        <source>Mark &amp;all</source>
+        <translation>Zaznacz &amp;wszystko</translation>
+    </message>
+    <message>
+        <source>Mark n&amp;one</source>
+        <translation>&amp;Odznacz wszystko</translation>
+    </message>
+    <message>
+        <source>KTM, or words to search for and Return</source>
+        <translation>KTM albo szukane słowa i Enter</translation>
+    </message>
+    <message>
+        <source>no status</source>
+        <translation>bez statusu</translation>
+    </message>
+    <message>
+        <source>in no database</source>
+        <translation>brak w bazach</translation>
+    </message>
+    <message>
+        <source>open: changed in its window, not saved</source>
+        <translation>otwarty: zmiana w jego oknie, bez zapisu</translation>
+    </message>
+    <message>
+        <source>New order</source>
+        <translation>Nowe zamówienie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Pozycja %1</translation>
+    </message>
+    <message>
+        <source>no list and no order has the material</source>
+        <translation>nie ma tego materiału na żadnej liście ani w zamówieniu</translation>
+    </message>
+    <message>
+        <source>nothing is marked</source>
+        <translation>nic nie zaznaczono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to replace</source>
+        <translation>
+            <numerusform>%n pozycja do zastąpienia</numerusform>
+            <numerusform>%n pozycje do zastąpienia</numerusform>
+            <numerusform>%n pozycji do zastąpienia</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>lists and orders: %1 of %2</source>
+        <translation>listy i zamówienia: %1 z %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cannot be changed</source>
+        <translation>
+            <numerusform>%n nie można zmienić</numerusform>
+            <numerusform>%n nie można zmienić</numerusform>
+            <numerusform>%n nie można zmienić</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>reservationsDialog</name>
     <message>
         <source>Reservations and built boards</source>
@@ -8245,6 +9000,25 @@ Pola: %1</translation>
     <message>
         <source>Your copy</source>
         <translation>Twoja kopia</translation>
+    </message>
+</context>
+<context>
+    <name>supplierBasket</name>
+    <message>
+        <source>the quantity is no number above 0; the line is left out</source>
+        <translation>ilość nie jest liczbą większą od 0; pozycję pominięto</translation>
+    </message>
+    <message>
+        <source>in no database</source>
+        <translation>brak w bazach</translation>
+    </message>
+    <message>
+        <source>the material has no supplier</source>
+        <translation>materiał nie ma dostawcy</translation>
+    </message>
+    <message>
+        <source>no part number</source>
+        <translation>brak numeru części</translation>
     </message>
 </context>
 <context>
