@@ -31,8 +31,8 @@ QString filled(const decimal &number) { return number == decimal() ? QString() :
 
 // In the order of their captions.
 const column columns[] = {
-    {200, false, [](const taking &of, bool) { return of.of->ktm; }},
-    {230, false, [](const taking &of, bool) { return of.of->name; }},
+    {180, false, [](const taking &of, bool) { return of.of->ktm; }},
+    {210, false, [](const taking &of, bool) { return of.of->name; }},
     {80, true, [](const taking &of, bool) { return of.of->needed.text(); }},
     {80, true,
      [](const taking &of, bool withExtra) { return withExtra ? filled(of.of->extra) : QString(); }},
@@ -43,7 +43,7 @@ const column columns[] = {
     {90, true, [](const taking &of, bool) { return filled(of.of->reserved); }},
     {80, true, [](const taking &of, bool) { return of.of->inStock ? of.after.text() : QString(); }},
     {80, true, [](const taking &of, bool) { return filled(of.lacking); }},
-    {170, false, [](const taking &of, bool) { return of.fault; }},
+    {150, false, [](const taking &of, bool) { return of.fault; }},
 };
 
 } // namespace
@@ -102,7 +102,7 @@ boardStockDialog::boardStockDialog(purpose wanted, const demand &of, const ktmIn
     layout->addWidget(m_table);
     layout->addWidget(m_extra);
     layout->addWidget(buttons);
-    constexpr QSize usualSize(1160, 560);
+    constexpr QSize usualSize(1180, 560);
     resize(usualSize);
     showRows();
     m_go->setFocus();
