@@ -78,4 +78,5 @@ private:
     QObject m_context;          // what is still to be done goes with it
     int m_looks = 0;            // for what a step names
     int m_waits = 0;            // since a window took keys last
+    bool m_isOpening = false;   // keys of a menu are being pressed, the last one is not
 };
