@@ -115,14 +115,16 @@ basketsDialog::basketsDialog(std::vector<item> items, formOf forms, const QStrin
     m_saveOne = button(tr("&Save as ..."), "saveAs", [this] { saveOne(); });
     m_saveAll = button(tr("Save &all ..."), "saveAll", [this] { saveAll(); });
     m_saveAll->setToolTip(tr("Write a file for each supplier into a folder"));
+    // Return acts on the lines; it is not to close the dialog.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_suppliers);
     splitter->addWidget(m_lines);
-    constexpr int leftWidth = 380;
-    constexpr int rightWidth = 900;
+    constexpr int leftWidth = 360;
+    constexpr int rightWidth = 960;
     splitter->setSizes({leftWidth, rightWidth});
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
@@ -140,12 +142,12 @@ void basketsDialog::makeTables()
     m_suppliers = table("suppliers", labels::suppliers(),
                         {labels::supplier(), tr("Lines"), tr("Discount"),
                          labels::sum() + QLatin1String(" [ PLN ]")},
-                        {150, 50, 70, 90}, numbersOfSuppliers, this);
+                        {140, 50, 60, 80}, numbersOfSuppliers, this);
     m_lines = table("basketLines", tr("Lines of the basket"),
                     {labels::name(), labels::ktm(), labels::partNumber(), labels::quantity(),
                      labels::unit(), labels::value() + QLatin1String(" [ PLN ]"),
                      tr("Other suppliers"), tr("Remark")},
-                    {180, 150, 160, 70, 50, 90, 120, 160}, numbersOfLines, this);
+                    {150, 140, 145, 60, 50, 90, 105, 150}, numbersOfLines, this);
     m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
     connect(m_suppliers, &QTreeWidget::currentItemChanged, this, [this] { showLines(); });
     connect(m_lines, &QTreeWidget::itemSelectionChanged, this, [this] {

@@ -15,6 +15,7 @@
 #include "util/paths.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 namespace cli {
@@ -251,7 +252,8 @@ int writeBaskets(const std::vector<supplierBasket::basket> &baskets,
                  const supplierBasket::formOf &forms, const QString &onlyOf, const QString &target)
 {
     const QStringList names = supplierBasket::fileNames(baskets, forms);
-    const bool isOneFile = !onlyOf.isEmpty() && !QFileInfo(target).isDir();
+    const bool isFolder = target.endsWith(QLatin1Char('/')) || QFileInfo(target).isDir();
+    const bool isOneFile = !onlyOf.isEmpty() && !isFolder;
     for (size_t i = 0; i < baskets.size(); ++i) {
         const supplierBasket::basket &one = baskets[i];
         const bool isWritten =
@@ -270,7 +272,7 @@ int writeBaskets(const std::vector<supplierBasket::basket> &baskets,
         err() << Qt::flush;
         if (!isWritten)
             continue;
-        const QString path = isOneFile ? target : target + QLatin1Char('/') + names.at(int(i));
+        const QString path = isOneFile ? target : QDir(target).filePath(names.at(int(i)));
         QString fault;
         if (!supplierBasket::write(one, forms(one.supplier), path, &fault))
             return cannotWrite(path, fault);
@@ -284,7 +286,8 @@ int runBasket(const QStringList &arguments)
     parser options(bomBasketCommand, QStringLiteral("[BOM=SETS...]"), 0, -1);
     const QCommandLineOption database = materialsOption();
     const QCommandLineOption output = outputOption(QCoreApplication::translate(
-        "cli", "The folder for a file for each supplier; with --supplier a folder or the file."));
+        "cli", "The folder for a file for each supplier; with --supplier a folder (it is there, or "
+               "ends in a slash) or the file."));
     const QCommandLineOption firmsOption(
         QStringLiteral("firms"),
         QCoreApplication::translate(

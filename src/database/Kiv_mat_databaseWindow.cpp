@@ -122,11 +122,6 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"insertToBom", "Edit", QT_TRANSLATE_NOOP("actions", "Insert to BOM"),
       "data_insert_to_bom_128", nullptr, nullptr},
      &Kiv_mat_databaseWindow::commandInsertToBom},
-    {{"replaceMaterial", "Edit", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
-      "action_replace", "Ctrl+R",
-      QT_TRANSLATE_NOOP("actions", "Put another material in the place of this one in all BOM lists "
-                                   "of the set and the open order")},
-     &Kiv_mat_databaseWindow::commandReplaceMaterial},
     {{"openLink", "Edit", QT_TRANSLATE_NOOP("actions", "Open"), "zp_open_link_128", nullptr,
       QT_TRANSLATE_NOOP("actions", "Open the link of this material")},
      &Kiv_mat_databaseWindow::commandOpenLink},
@@ -194,6 +189,11 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
     {{"information", "Tools", QT_TRANSLATE_NOOP("actions", "Information"), "action_information",
       nullptr, QT_TRANSLATE_NOOP("actions", "Count materials and groups")},
      &Kiv_mat_databaseWindow::commandInformation},
+    {{"replaceMaterial", "Tools", QT_TRANSLATE_NOOP("actions", "Replace material ..."),
+      "action_replace", "Ctrl+R",
+      QT_TRANSLATE_NOOP("actions", "Put another material in the place of this one in all BOM lists "
+                                   "of the set and the open order")},
+     &Kiv_mat_databaseWindow::commandReplaceMaterial},
 
     {{"altiumXlsx", QT_TRANSLATE_NOOP("actions", "Altium"),
       QT_TRANSLATE_NOOP("actions", "Create altium xlsx"), "action_xlsx", nullptr,

@@ -7,6 +7,7 @@
 #include "util/labels.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "window/treeHint.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -89,6 +90,9 @@ firmDetailsDialog::firmDetailsDialog(const firmDetailsStruct &details, storing s
                             QLatin1String(code));
     goTo(m_language, details.language);
     m_discount->setText(details.discount);
+    // A text that was refused is another one as soon as it is changed.
+    for (QLineEdit *line : {m_email, m_discount})
+        connect(line, &QLineEdit::textEdited, this, [line] { refusal::mark(line, {}); });
 
     auto *form = new QFormLayout;
     const auto row = [this, form](const QString &text, QWidget *field) {
@@ -106,7 +110,7 @@ firmDetailsDialog::firmDetailsDialog(const firmDetailsStruct &details, storing s
     connect(buttons, &QDialogButtonBox::rejected, this, &firmDetailsDialog::reject);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addWidget(makeBasket());
+    layout->addWidget(makeBasket(), 1);
     layout->addWidget(buttons);
     constexpr QSize usualSize(720, 680);
     resize(usualSize);
@@ -127,8 +131,9 @@ QWidget *firmDetailsDialog::makeBasket()
     m_captions = named(new QCheckBox(tr("Caption l&ine first"), box), "captions", {});
     m_captions->setChecked(m_details->captions != statusWord::no);
     m_columns = named(new QListWidget(box), "columns", tr("Columns"));
-    m_columns->setToolTip(
-        tr("The columns in their order; without any, part number, quantity and own reference"));
+    m_hint = treeHint::over(m_columns, QStringLiteral("columnsHint"));
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setText(tr("Usual columns:\npart number, quantity,\nown reference"));
     m_kind = named(new QComboBox(box), "kind", tr("Content"));
     for (const basketForm::kind &of : basketForm::kinds())
         m_kind->addItem(of.label(), of.word);
@@ -144,7 +149,8 @@ QWidget *firmDetailsDialog::makeBasket()
     auto *sets = new QMenu(ready);
     for (const QString &word : basketForm::separators())
         sets->addAction(tr("Part number, quantity, reference: %1").arg(separatorName(word)), this,
-                        [this, word] { chooseReady(word); });
+                        [this, word] { chooseReady(word); })
+            ->setObjectName(QLatin1String("ready") + word.left(1).toUpper() + word.mid(1));
     ready->setMenu(sets);
     QPushButton *add = button(tr("Add colu&mn"), "add");
     m_remove = button(tr("Remo&ve"), "remove");
@@ -225,6 +231,7 @@ void firmDetailsDialog::showColumns(int current)
             item->setToolTip(text::toolTip(item->text()));
         }
         m_columns->setCurrentRow(std::min(current, m_columns->count() - 1));
+        m_hint->setVisible(m_columns->count() == 0);
     }
     showColumn();
 }

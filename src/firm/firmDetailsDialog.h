@@ -10,6 +10,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
@@ -59,6 +60,7 @@ private:
     QComboBox *m_separator;
     QCheckBox *m_captions;
     QListWidget *m_columns;
+    QLabel *m_hint; // what counts while there are none
     QComboBox *m_kind;
     QLineEdit *m_caption;
     QLineEdit *m_text;

@@ -409,7 +409,7 @@ private slots:
         materialStruct known;
         known.d_price = "2";
         for (const char *name : {"TME", "Mouser"}) {
-            auto *supplier = appendTo(known.suppliers);
+            auto *supplier = testSupport::appendTo(known.suppliers);
             supplier->name = name;
             supplier->partNo = QString(name) + "-1";
         }

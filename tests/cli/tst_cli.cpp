@@ -117,7 +117,7 @@ private slots:
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
         row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
         row("bom-basket bom.xml=2 -d shops.xml -o out", 0, "out/TME.csv\n", "in no database: X");
-        row("bom-basket bom.xml=2 -d shops.xml --firms firms.xml --supplier mouser -o out", 0, "out/Mouser.csv\n", "");
+        row("bom-basket bom.xml=2 -d shops.xml --firms firms.xml --supplier mouser -o out/", 0, "out/Mouser.csv\n", "");
         row("bom-basket bom.xml=2 -d shops.xml --supplier TME -o new/t.csv", 0, "new/t.csv\n", "number above 0");
         row("bom-basket --from good.xml -d shops.xml -o out", 0, "out/TME.csv\n", "");
         row("bom-basket bom.xml=2 -d shops.xml --supplier RS -o out", 1, "", "RS does not have it, left out: K");
@@ -570,7 +570,7 @@ private slots:
 
     void baskets()
     {
-        const QString command = "bom-basket bom.xml=2 -d shops.xml -o out --firms details/makers.xml --supplier ";
+        const QString command = "bom-basket bom.xml=2 -d shops.xml -o out/ --firms details/makers.xml --supplier ";
         QCOMPARE(call(command + "tme").code, 0);
         QCOMPARE(read(m_folder->path("out/TME.csv")), QByteArray("T-1;4;K\r\n"));
         QCOMPARE(call(command + "Mouser").code, 0);

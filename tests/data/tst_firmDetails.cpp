@@ -60,7 +60,7 @@ private slots:
         const rows<QByteArray, QString> row;
         row("cut", "\n<details><name>A</name>", "line 3, column");
         row("unknown field", "\n<details><name>A</name><fax/></details>",
-            "line 3, column 36: firm A: unknown field fax");
+            "column 28: firm A: unknown field fax");
         row("unknown separator", "<details>\n<separator>pipe</separator></details>",
             "\"pipe\" has not the form of separator");
         row("unknown column", "<details><basket>\n<column kind=\"colour\"/></basket></details>",
