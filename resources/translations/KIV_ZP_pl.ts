@@ -4479,10 +4479,6 @@ Pola: %1</translation>
         <translation>%1 go nie ma, pominięto</translation>
     </message>
     <message>
-        <source>The folder for a file for each supplier; with --supplier a folder or the file.</source>
-        <translation>Folder na plik dla każdego dostawcy; z opcją --supplier folder albo plik.</translation>
-    </message>
-    <message>
         <source>The firm register; the details beside it say how baskets are written.</source>
         <translation>Rejestr firm; plik danych obok niego określa, jak zapisywać koszyki.</translation>
     </message>
@@ -4537,6 +4533,10 @@ Pola: %1</translation>
     <message>
         <source>Puts one material in the place of another one in BOM lists, all lists of sets, and orders, and keeps the files as they were among their versions. All files are written, or none.</source>
         <translation>Zastępuje materiał innym na listach BOM, wszystkich listach zestawów i w zamówieniach; dotychczasowe pliki zachowuje wśród ich wersji. Zapisuje wszystkie pliki albo żadnego.</translation>
+    </message>
+    <message>
+        <source>The folder for a file for each supplier; with --supplier a folder (it is there, or ends in a slash) or the file.</source>
+        <translation>Folder na pliki, po jednym dla każdego dostawcy; z --supplier folder (istniejący albo zakończony ukośnikiem) lub plik.</translation>
     </message>
 </context>
 <context>
@@ -6015,10 +6015,6 @@ Pola: %1</translation>
         <translation>Kolumny</translation>
     </message>
     <message>
-        <source>The columns in their order; without any, part number, quantity and own reference</source>
-        <translation>Kolumny po kolei; bez żadnej: numer części, ilość i własne oznaczenie</translation>
-    </message>
-    <message>
         <source>Content</source>
         <translation>Zawartość</translation>
     </message>
@@ -6081,6 +6077,14 @@ Pola: %1</translation>
     <message>
         <source>Save the changed details of %1?</source>
         <translation>Zapisać zmienione dane firmy %1?</translation>
+    </message>
+    <message>
+        <source>Usual columns:
+part number, quantity,
+own reference</source>
+        <translation>Zwykłe kolumny:
+numer części, ilość,
+własne oznaczenie</translation>
     </message>
 </context>
 <context>
