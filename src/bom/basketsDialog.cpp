@@ -86,7 +86,7 @@ basketsDialog::basketsDialog(std::vector<item> items, formOf forms, const QStrin
     : QDialog(parent)
     , m_items(std::move(items))
     , m_forms(std::move(forms))
-    , m_folder(folder)
+    , m_folder(QFileInfo(folder).isDir() ? folder : QDir::homePath())
     , m_summary(new QLabel(this))
     , m_told(new QLabel(this))
 {
@@ -123,8 +123,8 @@ basketsDialog::basketsDialog(std::vector<item> items, formOf forms, const QStrin
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_suppliers);
     splitter->addWidget(m_lines);
-    constexpr int leftWidth = 360;
-    constexpr int rightWidth = 960;
+    constexpr int leftWidth = 390;
+    constexpr int rightWidth = 930;
     splitter->setSizes({leftWidth, rightWidth});
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
@@ -142,12 +142,12 @@ void basketsDialog::makeTables()
     m_suppliers = table("suppliers", labels::suppliers(),
                         {labels::supplier(), tr("Lines"), tr("Discount"),
                          labels::sum() + QLatin1String(" [ PLN ]")},
-                        {140, 50, 60, 80}, numbersOfSuppliers, this);
+                        {140, 50, 60, 100}, numbersOfSuppliers, this);
     m_lines = table("basketLines", tr("Lines of the basket"),
                     {labels::name(), labels::ktm(), labels::partNumber(), labels::quantity(),
                      labels::unit(), labels::value() + QLatin1String(" [ PLN ]"),
                      tr("Other suppliers"), tr("Remark")},
-                    {150, 140, 145, 60, 50, 90, 105, 150}, numbersOfLines, this);
+                    {145, 152, 140, 60, 50, 90, 105, 120}, numbersOfLines, this);
     m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
     connect(m_suppliers, &QTreeWidget::currentItemChanged, this, [this] { showLines(); });
     connect(m_lines, &QTreeWidget::itemSelectionChanged, this, [this] {

@@ -158,27 +158,13 @@ std::vector<std::unique_ptr<boardStruct>> releaseReserved(kiv_mat_reservationsSt
     return released;
 }
 
-std::vector<std::unique_ptr<boardStruct>> noteBuilt(kiv_mat_reservationsStruct *reservations,
-                                                    const boardStruct &board)
+void noteBuilt(kiv_mat_reservationsStruct *reservations, const boardStruct &board)
 {
-    auto released = releaseReserved(reservations, listOf(board, reservations->filePath),
-                                    board.released.toInt());
     int sets = 0;
-    for (const auto &part : released)
+    for (const auto &part : releaseReserved(reservations, listOf(board, reservations->filePath),
+                                            board.released.toInt()))
         sets += part->sets.toInt();
     auto noted = board.copy();
     noted->released = QString::number(sets);
     reservations->built.append(std::move(noted));
-    return released;
-}
-
-void forgetBuilt(kiv_mat_reservationsStruct *reservations, const QString &id,
-                 const std::vector<std::unique_ptr<boardStruct>> &released)
-{
-    auto &built = reservations->built.items;
-    built.erase(std::remove_if(built.begin(), built.end(),
-                               [&id](const auto &board) { return board->id == id; }),
-                built.end());
-    for (const auto &part : released)
-        reservations->reserved.append(part->copy());
 }

@@ -66,10 +66,5 @@ QString comparableFile(const QString &path);
 std::vector<std::unique_ptr<boardStruct>> releaseReserved(kiv_mat_reservationsStruct *reservations,
                                                           const QString &list, int sets);
 
-// Notes a board as built, and releases so many sets of its reservations as it says; the part that
-// was released is returned, to be put back when the board is not built after all.
-std::vector<std::unique_ptr<boardStruct>> noteBuilt(kiv_mat_reservationsStruct *reservations,
-                                                    const boardStruct &board);
-// Forgets it again; released goes back to what is reserved.
-void forgetBuilt(kiv_mat_reservationsStruct *reservations, const QString &id,
-                 const std::vector<std::unique_ptr<boardStruct>> &released);
+// Notes a board as built, and releases so many sets of its reservations as it says.
+void noteBuilt(kiv_mat_reservationsStruct *reservations, const boardStruct &board);

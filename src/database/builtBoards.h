@@ -1,5 +1,5 @@
 // The boards whose materials were taken out of a database's stock in its window: they are noted in
-// the file of reservations when the database is saved, and forgotten there when that is undone.
+// the file of reservations when the database is saved.
 #pragma once
 
 #include "commands/command.h"
@@ -18,20 +18,14 @@ public:
 
     void add(const boards &built);
     void remove(const boards &built);
-    // What the file of the database has not is not built after all.
-    void discard();
-    // Brings the file of reservations in step. False, with the reason in fault, when it cannot be
-    // written; it is tried again the next time.
+    // They were not built after all.
+    void discard() { m_built.clear(); }
+    // Notes them. False, with the reason in fault, when the file cannot be written; it is tried
+    // again the next time.
     bool settle(reservationsFile &file, configStruct &config, QString *fault);
 
 private:
-    struct noted
-    {
-        std::shared_ptr<const boardStruct> board;
-        std::vector<std::unique_ptr<boardStruct>> released; // of what was reserved for it
-    };
-    boards m_built; // as the window has it
-    std::vector<noted> m_noted;
+    boards m_built; // and not noted yet
 };
 
 // A step that changes the stock, with the boards that were built.

@@ -25,7 +25,8 @@ QString shown(const partsTable &table)
 
 QString shown(const QVector<partsColumns::field> &fields) { return partsColumns::asText(fields); }
 
-// A database of a few materials, each a line: KTM;group;name;value;case;power;voltage;tolerance;maker;number;supplier;number
+// A database of a few materials, each a line:
+// KTM;group;name;value;case;power;voltage;tolerance;maker;number;supplier;number
 std::unique_ptr<kiv_mat_databaseStruct> databaseOf(const QStringList &lines)
 {
     auto all = std::make_unique<kiv_mat_databaseStruct>();
@@ -178,9 +179,11 @@ private slots:
         row("Windows-1250", "Ref;Warto\x9c\xe6\nR1;10k", plain, "windows-1250");
         row("UTF-16", QTextCodec::codecForName("UTF-16")->fromUnicode(QString("Ref\tWartość\r\nR1\t10k\r\n")), plain,
             "UTF-16LE");
-        row("UTF-16 without a mark", QTextCodec::codecForName("UTF-16BE")->fromUnicode(QString("Ref;Wartość\nR1;10k")).mid(2),
-            plain, "UTF-16BE");
-        row("separators and line ends in quotes", "a,\"b,\nc\",\"say \"\"x\"\"\"\n1,2,3", "a|b,\nc|say \"x\"/1|2|3", "UTF-8");
+        row("UTF-16 without a mark",
+            QTextCodec::codecForName("UTF-16BE")->fromUnicode(QString("Ref;Wartość\nR1;10k")).mid(2), plain,
+            "UTF-16BE");
+        row("separators and line ends in quotes", "a,\"b,\nc\",\"say \"\"x\"\"\"\n1,2,3", "a|b,\nc|say \"x\"/1|2|3",
+            "UTF-8");
         row("decimal commas between semicolons", "a;b\n1,5;2,5\n3,5;4", "a|b/1,5|2,5/3,5|4", "UTF-8");
         row("rows of other lengths", "a,b\n1\n1,2,3", "a|b|/1||/1|2|3", "UTF-8");
     }
@@ -225,7 +228,11 @@ private slots:
     {
         const rows<QByteArray, QString> row;
         row("empty", "", "holds no table");
-        row("binary", QByteArray("\x7f" "ELF\0\0\1", 7), "is no text");
+        row("binary",
+            QByteArray("\x7f"
+                       "ELF\0\0\1",
+                       7),
+            "is no text");
         row("another archive", QByteArray("PK\x03\x04 nothing"), "is an archive without a table");
         row("other XML", "<kiv_mat_zp/>", "is XML, but no list of parts of KiCad");
         row("damaged workbook", "", "is no workbook");
@@ -244,8 +251,8 @@ private slots:
     void columns_data()
     {
         const rows<QByteArray, int, QString> row;
-        row("English", "Reference, Quantity, Value, Footprint, Datasheet, MPN, Mfg, DNP\nR1,1,10k,R_0402,,RC1,Yageo,", 0,
-            "designator|quantity|value|case|none|part_number|manufacturer|dnp");
+        row("English", "Reference, Quantity, Value, Footprint, Datasheet, MPN, Mfg, DNP\nR1,1,10k,R_0402,,RC1,Yageo,",
+            0, "designator|quantity|value|case|none|part_number|manufacturer|dnp");
         row("Polish", "Lp.;Oznaczenie;Ilość;Wartość;Obudowa;Producent;Numer producenta\n1;R1;1;10k;0402;Yageo;RC1", 0,
             "none|designator|quantity|value|case|manufacturer|part_number");
         row("German", "Bezeichner;Menge;Wert;Bauform;Hersteller\nR1;1;10k;0402;Yageo", 0,
@@ -284,7 +291,8 @@ private slots:
         row("no quantity", head + ",,10k,", "=1 10k [no quantity, taken as 1]");
         row("designators go on", head + "\"R1,\",3,10k,\n\"R2,R3\",,,", "R1 R2 R3=3 10k");
         row("left out", head + "R1,1,DNP,\nR2,1,10k,RC0402FR-0710KL", "-R1=1 DNP; R2=1 RC0402FR-0710KL [10k]");
-        row("twice", head + "\"R1,R1\",1,10k,\nR1,1,10k,", "R1=1 10k [designators stand twice, the file says 2, the designators are 1]");
+        row("twice", head + "\"R1,R1\",1,10k,\nR1,1,10k,",
+            "R1=1 10k [designators stand twice, the file says 2, the designators are 1]");
         row("a sum below", head + "R1,1,10k,\n,1,,", "R1=1 10k / line 3 names no part: 1");
     }
     void lines()
@@ -294,8 +302,8 @@ private slots:
         const partsList list = linesOf(table, partsColumns::guessed(table));
         QStringList seen;
         for (const partsLine &line : list.lines)
-            seen.append((line.isLeftOut ? "-" : "") + line.designators.join(' ') + '=' + line.quantity + ' ' + line.name()
-                        + (line.remarks.isEmpty() ? QString() : " [" + line.remarks.join(", ") + ']'));
+            seen.append((line.isLeftOut ? "-" : "") + line.designators.join(' ') + '=' + line.quantity + ' '
+                        + line.name() + (line.remarks.isEmpty() ? QString() : " [" + line.remarks.join(", ") + ']'));
         QStringList parts{seen.join("; ")};
         parts += list.remarks;
         QCOMPARE(parts.join(" / "), all);
@@ -372,15 +380,18 @@ private slots:
     void listIsWritten()
     {
         const auto database = databaseOf({"K1;g;A;;;;;;M;ABC123"});
-        const QByteArray content = "Ref,Qty,Value,MPN\nU2,1,x,ABC123\nU1,1,y,ABC123\nX1,1,Quartz,\nR1,1,DNP,\nX2,1,Coil,";
+        const QByteArray content =
+            "Ref,Qty,Value,MPN\nU2,1,x,ABC123\nU1,1,y,ABC123\nX1,1,Quartz,\nR1,1,DNP,\nX2,1,Coil,";
         const bomImport::staged lines = staged(content, *database);
-        m_folder->write("other.xml", bom("<material><d_ktm>999999-99.99-00007</d_ktm><d_name>Quartz</d_name></material>"));
+        m_folder->write("other.xml",
+                        bom("<material><d_ktm>999999-99.99-00007</d_ktm><d_name>Quartz</d_name></material>"));
         bomImport::unknownParts known = bomImport::unknownIn(m_folder->path());
         const auto list = bomImport::bomOf(lines, &known, QDate(2026, 1, 2));
         QStringList seen;
         for (const auto &line : list->materials)
             seen.append(line->d_ktm + ' ' + line->d_name + ' ' + line->d_quantity + ' ' + line->d_designator);
-        QCOMPARE(seen.join(" / "), QString("K1 A 2 U2, U1 / 999999-99.99-00007 Quartz 1 X1 / 999999-99.99-00008 Coil 1 X2"));
+        QCOMPARE(seen.join(" / "),
+                 QString("K1 A 2 U2, U1 / 999999-99.99-00007 Quartz 1 X1 / 999999-99.99-00008 Coil 1 X2"));
         QCOMPARE(list->update, QString("02.01.2026"));
         QVERIFY(bomImport::reportOf(lines).contains("\n5;left_out;;;;DNP;1;R1;"));
     }
@@ -396,7 +407,8 @@ private slots:
             line("K2", "", "2") + line("K2", "", "3") + line("K1", "R1-R2", "2"), "");
         row("another part", line("K1", "R1 R2 R10", "3"), line("K1", "R1", "1") + line("K2", "R10 R2", "2"),
             "~ R2, R10: 2 x K1 nK1 -> K2 nK2");
-        row("more and fewer", line("K1", "R1", "1"), line("K1", "R2 R3", "2"), "+ R2, R3: 2 x K1 nK1 / - R1: 1 x K1 nK1");
+        row("more and fewer", line("K1", "R1", "1"), line("K1", "R2 R3", "2"),
+            "+ R2, R3: 2 x K1 nK1 / - R1: 1 x K1 nK1");
         row("quantity", line("K1", "", "3"), line("K1", "", "5"), "= K1 nK1: 3 -> 5");
         row("moved between lines", line("K1", "R1", "1") + line("K2", "R2", "1"),
             line("K1", "R2", "1") + line("K2", "R1", "1"), "~ R1: 1 x K1 nK1 -> K2 nK2 / ~ R2: 1 x K2 nK2 -> K1 nK1");

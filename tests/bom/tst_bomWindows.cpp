@@ -71,8 +71,8 @@ const scenario setActions[] = {
      "file _files/reservations.xml ~ <line ktm=\"" KNOWN "\"; status = Stock reserved for 1 board"},
     {SETS, "#built Escape", "boms@0/0/0,1 = 2"},
     {SETS, "#built !go|<Ctrl+B|", "boms@0/0/0,1 = 0"},
-    {SETS "#reserve !go", "#reservations Del Return", "file _files/reservations.xml ~ <line "},
-    {SETS "#reserve !go", "#reservations Del !Yes", "file _files/reservations.xml !~ <line "},
+    {SETS "#reserve !go", "#reservations Del !No Escape", "file _files/reservations.xml ~ <line "},
+    {SETS "#reserve !go", "#reservations Del !Yes Escape", "file _files/reservations.xml !~ <line "},
     {"", "boms@?0/0/0,0 #open", "desktop = file://%/" LIST},
     {"", "boms@?0/0/0,0 #bom", "front = Bill of materials [%/" LIST "] Editing locked"},
     {"", "boms@?2/0/0,0 #csv Ctrl+A '%/o.csv' Return", "file o.csv = !!!!!NONE-1\t2,5\n"},
@@ -199,19 +199,21 @@ const scenario scenarios[] = {
      "counts = 1 line, 1 of them unknown, 1 found"},
 
     // --- Baskets ---
-    {"copied", BASKETS "Alt+C Escape Escape",
-     "clipboard = Part number\tQuantity\tCustomer reference\n"
-     "STM32F103C8T6\t3\t" KNOWN "\n; orderLines = 21"},
-    {"what is not ticked", "Ctrl+B|" SETS "Ctrl+S Alt+N !baskets Return Escape", "boxes ~ nothing to be bought"},
-    {"one file", BASKETS "Alt+S Ctrl+A '%/one' Return Escape Escape",
+    {"copied", BASKETS "Alt+C ~150 Escape Escape",
+     "clipboard = Part number\tQuantity\tCustomer reference\nSTM32F103C8T6\t3\t" KNOWN "\n; orderLines = 21"},
+    {"what is not ticked", "Ctrl+B|" SETS "Ctrl+S Alt+N ~150 !baskets Return Escape", "boxes ~ nothing to be bought"},
+    {"one file", BASKETS "Alt+S ~150 Ctrl+A '%/one' Return Escape Escape",
      "file one.csv = Part number,Quantity,Customer reference\r\nSTM32F103C8T6,3," KNOWN "\r\n"},
-    {"as the firm wants it", BASKETS "Tab Alt+O Down Return Alt+S Ctrl+A '%/one' Return Escape Escape",
+    {"as the firm wants it", BASKETS "Tab Alt+O ~150 Return Alt+S ~150 Ctrl+A '%/one' Return Escape Escape",
      "file one.txt = \tSTM32F103C8T6\t3\tR1\r\n"},
-    {"all files", BASKETS "Alt+A Ctrl+A '%/_zp' Return Escape Escape", "file _zp/Digi-Key.csv ~ STM32F103C8T6,3,"},
-    {"asked before they are replaced",
-     BASKETS "Alt+S Ctrl+A '%/_zp/Digi-Key' Return Tab Alt+O Down Return Alt+O Down Return Alt+A Ctrl+A '%/_zp' Return "
-             "Escape Escape Escape",
-     "boxes ~ has these files already: Digi-Key.csv; file _zp/Digi-Key.csv ~ STM32"},
+    {"the line's key", BASKETS "Tab Return ~150 Return Alt+C ~150 Escape Escape",
+     "clipboard = \tSTM32F103C8T6\t3\tR1\n; boxes ~ Other supplier"},
+    {"all files", BASKETS "Alt+A ~150 Ctrl+A '%/_config' Return Escape Escape",
+     "file _config/Digi-Key.csv ~ STM32F103C8T6,3,"},
+    {"not over what is there", BASKETS "Alt+A ~150 Ctrl+A '%/_zp' Return Return Escape Escape",
+     "boxes ~ has these files already: Digi-Key.csv; file _zp/Digi-Key.csv = mine"},
+    {"but when told to", BASKETS "Alt+A ~150 Ctrl+A '%/_zp' Return Shift+Tab Return Escape Escape",
+     "file _zp/Digi-Key.csv ~ STM32F103C8T6,3,"},
 
     // --- From the database ---
     {"no list is open", INSERT "Return", "boxes ~ No BOM list is open"},
@@ -240,6 +242,7 @@ class tst_bomWindows : public scenarioFixture
         write("_files/boms/konwerter_rs232_usb.xml", KNOWN, "1.5");
         write("_files/boms/przedwzmacniacz_audio.xml", "NONE-1", "2,5");
         write("far.xml", "NONE-1", "1");
+        folder().write("_zp/Digi-Key.csv", "mine");
         folder().write("_files/firm_details.xml",
                        testSupport::document("kiv_mat_firm_details", "KIV_MAT_FIRM_DETAILS_1",
                                              "kiv_mat_firm_details.xsd",
@@ -376,8 +379,8 @@ private slots:
         look("boxes =; errors ~ zasilacz_liniowy_5v.xml</b>; status ~ nothing was done");
     }
 
-    // What was reserved for a board goes when that is built; both are noted when the database is saved, and undone
-    // with the step.
+    // What was reserved for a board goes when that is built; both are noted when the database is saved, and not when
+    // the step was taken back or given up.
     void builtBoards()
     {
         const QString reservations = path("_files/reservations.xml");
@@ -387,20 +390,18 @@ private slots:
         steps("#built !go");
         look("title ~ db_warehouse.xml]; title ~ *; status ~ zasilacz_liniowy_5v, 2 sets");
         QCOMPARE(stock(), QString("0"));
-        QVERIFY(testSupport::read(reservations).contains("<built></built>")
-                || testSupport::read(reservations).contains("<built/>"));
+        const QByteArray reserved = testSupport::read(reservations);
+        QVERIFY2(reserved.contains("sets=\"2\"") && !reserved.contains("after=\"0\""), reserved);
+        steps("Ctrl+Z");
+        QCOMPARE(stock(), QString("1"));
+        steps("Ctrl+Y Ctrl+W !No");
+        QCOMPARE(stock(), QString("1"));
+        QCOMPARE(testSupport::read(reservations), reserved);
+        steps("<Ctrl+B|" SETS "#built !go");
         steps("Ctrl+S");
         const QByteArray saved = testSupport::read(reservations);
         QVERIFY2(saved.contains("before=\"1\" after=\"0\"") && saved.count("<board") == 1, saved);
         QVERIFY(testSupport::read(path("_files/db_warehouse.xml")).contains("<d_inWarehouse>0<"));
-        steps("Ctrl+Z Ctrl+S");
-        QCOMPARE(stock(), QString("1"));
-        const QByteArray undone = testSupport::read(reservations);
-        QVERIFY2(!undone.contains("before=\"1\"") && undone.contains("sets=\"2\""), undone);
-        // Given up, it was never built.
-        steps("Ctrl+Y Ctrl+W !No");
-        QCOMPARE(testSupport::read(reservations), undone);
-        QCOMPARE(stock(), QString("1"));
     }
 
     // The left side of the baskets, the right one of a supplier, and what is said of both.
@@ -429,7 +430,8 @@ private slots:
         };
         QCOMPARE(texts("suppliers"), QString("TME|1|50 %|3.00|no supplier|1|50 %|0.00"));
         QCOMPARE(texts("basketLines"), QString("part|K|TME-1|3||3.00|Mouser|"));
-        QCOMPARE(dialog.findChild<QLabel *>("summary")->text(), QString("1 supplier, 2 lines, 1 without a supplier"));
+        const QString summary = dialog.findChild<QLabel *>("summary")->text();
+        QVERIFY2(summary.startsWith("1 supplier") && summary.endsWith(", 1 without a supplier"), qPrintable(summary));
         QTest::keyClick(dialog.findChild<QTreeWidget *>("suppliers"), Qt::Key_Down);
         QCOMPARE(texts("basketLines"), QString("none|X||4||||in no database"));
         QVERIFY(!dialog.findChild<QPushButton *>("other")->isEnabled());

@@ -117,7 +117,8 @@ private slots:
         row("bom-order bom.xml=2 -d twice.xml -o out.xml", 0, "", "in no database, left out: X");
         row("bom-order bom.xml=1 --existing twice -o out.xml", 2, "", "none of raise");
         row("bom-basket bom.xml=2 -d shops.xml -o out", 0, "out/TME.csv\n", "in no database: X");
-        row("bom-basket bom.xml=2 -d shops.xml --firms firms.xml --supplier mouser -o out/", 0, "out/Mouser.csv\n", "");
+        row("bom-basket bom.xml=2 -d shops.xml --firms firms.xml --supplier mouser -o out/", 0, "out/Mouser.csv\n",
+            "in no database: X");
         row("bom-basket bom.xml=2 -d shops.xml --supplier TME -o new/t.csv", 0, "new/t.csv\n", "number above 0");
         row("bom-basket --from good.xml -d shops.xml -o out", 0, "out/TME.csv\n", "");
         row("bom-basket bom.xml=2 -d shops.xml --supplier RS -o out", 1, "", "RS does not have it, left out: K");
@@ -134,7 +135,7 @@ private slots:
         row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
         row("bom-reserve bom.xml=2 -d twice.xml", 2, "", "give the file of reservations");
         row("reservations none.xml", 1, "", "there is no such file");
-        row("bom-reserve bom.xml=2 -d twice.xml -r bom.xml", 1, "", "is of another kind");
+        row("bom-reserve bom.xml=2 -d twice.xml -r bom.xml", 1, "", "is no file of this program");
         row("versions", 1, "", "kiv_mat_config.xml: cannot be read");
         row("mail", 2, "", "give one of");
         row("mail good.xml --boms", 2, "", "give one of");

@@ -69,14 +69,14 @@ const scenario scenarios[] = {
      "file " DETAILS " ~ <separator>semicolon<; file " DETAILS
      " ~ <column kind=\"own_reference\" caption=\"Customer reference\" text=\"\"/>"},
     {"columns by keys",
-     FIRST "Alt+M Alt+N Down Alt+M Alt+N End Up Alt+T 'PO 7' Alt+P Ctrl+A 'Ref' Alt+U Alt+I Alt+S End Return",
+     FIRST "Alt+M ~150 Down Alt+M ~150 End Up Alt+T 'PO 7' Alt+P Ctrl+A 'Ref' Alt+U ~150 Alt+I ~150 Alt+S End Return",
      "file " DETAILS " ~ <column kind=\"text\" caption=\"Ref\" text=\"PO 7\"/>\n            <column kind=\"quantity\" "
      "caption=\"Quantity\"; file " DETAILS " ~ <captions>NIE</captions>; file " DETAILS " ~ <separator>tab<"},
-    {"a column less", FIRST "Alt+R #readyComma Alt+V Alt+D Return", "file " DETAILS " !~ part_number"},
+    {"a column less", FIRST "Alt+R #readyComma Alt+V ~150 Alt+D Return", "file " DETAILS " !~ part_number"},
     {"with another name", ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+S",
      "file " DETAILS " ~ <name>Nowa</name>; file " DETAILS " !~ Abracon"},
     {"found by it before it is saved",
-     ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only F4 'x' !OK",
+     ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only manufacturers@0,0 F4 'x' !OK",
      "file " DETAILS " ~ <name>Abracon</name>; file " DETAILS " ~ xKrucza"},
     {"with a name taken back",
      ADDRESS "manufacturers@0,0 F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+Z "
@@ -350,7 +350,6 @@ private slots:
         folder().write(DETAILS, broken);
         openWindow("#firm|manufacturers@0,0 F4 Return");
         QVERIFY(boxes().value(0).contains("firm_details.xml cannot be read"));
-        QVERIFY(seen().logged.isEmpty());
         work("F2 Ctrl+A 'Nowa' Return ~50 !Rename_in_this_list_only Ctrl+S Return");
         QVERIFY(boxes().join(' ').contains("line 2"));
         QCOMPARE(onDisk(), QString("Nowa"));
@@ -366,7 +365,6 @@ private slots:
                                                           QByteArray("<details><name>") + name
                                                               + "</name><address>theirs</address></details>"));
         };
-        const QPointer<QObject> alive(this);
         openWindow("#firm");
         QTimer::singleShot(150, this, [&] { others("Rohm"); });
         work("manufacturers@0,0 F4 'mine' ~400 !OK");

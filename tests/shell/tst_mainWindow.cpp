@@ -61,7 +61,7 @@ const scenario actions[] = {
     {"", "#addPCB Return", "boxes = Information: Only one PCB order; orderLines = 21"},
     {"", "#appendBom", "front = Bill of materials", guards},
     {"", "#baskets Escape", "boxes ~ Supplier baskets", reads},
-    {"", "#baskets Alt+C Escape", "clipboard ~ Part number\tQuantity\tCustomer reference\nSTM32F103C8T6\t25\t317121-"},
+    {"", "#baskets Alt+C ~150 Escape", "clipboard ~ Part number\tQuantity\tCustomer reference\nSTM32F103C8T6\t25\t317121-"},
     {"", "#allQuantities '12' Return", "orderLines:5 = 12", edits},
     {"orderLines@1,2 +orderLines@3,2", "orderLines@?1,2 #allQuantities '12' Return !2_selected_lines",
      "orderLines@1,5 = 12; orderLines@3,5 = 12; orderLines@2,5 = 25", edits},

@@ -30,6 +30,10 @@ const scenario rows[] = {
      "materials@0,0 = Żuk; title !~ *"},
     {"firms", "#firm|" EDIT("manufacturers@0,1") "Ctrl+S|" VERSIONS "Ctrl+R|<#firm|~50",
      "manufacturers@0,1 = Abracon LLC; title ~ *"},
+    {"details of firms",
+     "#firm|manufacturers@0,0 F4 'one' !OK F4 'two' !OK|" VERSIONS
+     "!fileFilter Ctrl+A Del ~400 versions@0,0 Ctrl+R !Restore_them",
+     "versions@0,1 = firm_details.xml; boxes ~ details of all firms; file _files/firm_details.xml ~ >one<"},
     {"a BOM list",
      "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E " EDIT("lines@0,2") "Ctrl+S|" VERSIONS
                                                             "Ctrl+R|<Ctrl+B|boms@0/0/0,0 Return|Ctrl+S",
