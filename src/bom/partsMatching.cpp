@@ -210,6 +210,13 @@ partsMatcher::partsMatcher(const std::vector<ktmIndex::entry> &materials)
 {
     m_byKtm.reserve(int(m_all.size()));
     m_byNumber.reserve(int(m_all.size()));
+    // Few firms make, and few values have, most of the materials.
+    QHash<QString, QString> firms;
+    QHash<QString, QString> values;
+    const auto firmOf = [&firms](const QString &name) {
+        const auto known = firms.constFind(name);
+        return known != firms.constEnd() ? *known : *firms.insert(name, foldedFirm(name));
+    };
     for (int i = 0; i < int(m_all.size()); ++i) {
         const materialStruct &material = *m_all[size_t(i)].material;
         if (material.d_ktm.isEmpty() || m_byKtm.contains(material.d_ktm))
@@ -228,23 +235,29 @@ partsMatcher::partsMatcher(const std::vector<ktmIndex::entry> &materials)
             own.insert(plain);
         };
         for (const auto &maker : material.manufacturers.items)
-            take(&m_byNumber, maker->partNo, foldedFirm(maker->name));
+            take(&m_byNumber, maker->partNo, firmOf(maker->name));
         for (const QString &text : {material.d_name, material.d_value})
             if (!own.contains(partsTexts::foldedPartNumber(text)))
                 take(&m_byNumber, text, {});
         for (const auto &supplier : material.suppliers.items)
-            take(&m_bySupplier, supplier->partNo, foldedFirm(supplier->name));
-        takeValue(i);
+            take(&m_bySupplier, supplier->partNo, firmOf(supplier->name));
+        auto value = values.constFind(material.d_value);
+        if (value == values.constEnd()) {
+            const auto read = quantity::parseStart(material.d_value);
+            value = values.insert(material.d_value,
+                                  read && kindOfUnit(read->unit) ? valueKey(*read) : QString());
+        }
+        if (!value->isEmpty())
+            m_byValue[*value].append(i);
     }
 }
 
-void partsMatcher::takeValue(int place)
+bool partsMatcher::isOfKind(int place, quantity::unitKind unit) const
 {
     const ktmIndex::entry &entry = m_all[size_t(place)];
-    const auto value = quantity::parseStart(entry.material->d_value);
-    const partKind *kind = value ? kindOfUnit(value->unit) : nullptr;
+    const partKind *kind = kindOfUnit(unit);
     if (!kind)
-        return;
+        return false;
     const QString texts = folded(entry.group ? entry.group->name : QString()) + QLatin1Char('\n')
                           + folded(entry.material->d_name) + QLatin1Char('\n')
                           + folded(entry.material->d_description);
@@ -256,8 +269,7 @@ void partsMatcher::takeValue(int place)
         return all;
     }();
     const auto &[has, hasNot] = words[size_t(kind - kinds.data())];
-    if (has.match(texts).hasMatch() && !hasNot.match(texts).hasMatch())
-        m_byValue[valueKey(*value)].append(place);
+    return has.match(texts).hasMatch() && !hasNot.match(texts).hasMatch();
 }
 
 partsMatcher::parameters partsMatcher::parametersIn(const QStringList &texts)
@@ -389,6 +401,8 @@ matchResult partsMatcher::byValue(const partsLine &line) const
         const materialStruct &material = *m_all[size_t(place)].material;
         const QString itsCase = caseOf(material);
         if (!wantedCase.isEmpty() && !itsCase.isEmpty() && itsCase != wantedCase)
+            continue;
+        if (!isOfKind(place, value->unit))
             continue;
         matchCandidate found = candidate(place, matchReason::byValue);
         found.differences =

@@ -76,7 +76,9 @@ private:
     using numberIndex = QHash<QString, QVector<number>>;
 
     static parameters parametersIn(const QStringList &texts);
-    void takeValue(int place);
+    // Whether the material is one of the kind that a value of its unit is of: a bead of 600 ohm is
+    // no resistor.
+    bool isOfKind(int place, quantity::unitKind unit) const;
     matchResult byNumbers(const numberIndex &index, const QStringList &numbers,
                           const partsLine &line, bool withPackaging, matchReason reason) const;
     matchResult byValue(const partsLine &line) const;
@@ -89,7 +91,7 @@ private:
     numberIndex m_byNumber;
     numberIndex m_byBase; // without packaging
     numberIndex m_bySupplier;
-    QHash<QString, QVector<int>> m_byValue; // "unit number"
+    QHash<QString, QVector<int>> m_byValue; // "unit number", whatever the materials are
 };
 
 // The number and kind of a value as lists write it, by the kind of its designators where it names

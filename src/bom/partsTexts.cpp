@@ -149,15 +149,16 @@ bool looksLikePartNumber(const QString &text)
     const QString plain = foldedPartNumber(text);
     if (plain.size() < least || text.contains(QLatin1Char(' ')))
         return false;
-    // Nobody writes a value with so many digits ("9774060151R").
-    constexpr int valueAtMost = 8;
-    if ((plain.size() <= valueAtMost || plain.size() != text.size()) && ::quantity::parse(text))
-        return false;
     const bool hasDigit =
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
     const bool hasLetter =
         std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isLetter(); });
-    return hasDigit && hasLetter;
+    if (!hasDigit || !hasLetter)
+        return false;
+    // Nobody writes a value with so many digits ("9774060151R").
+    constexpr int valueAtMost = 8;
+    const bool mayBeValue = plain.size() <= valueAtMost || plain.size() != text.size();
+    return !mayBeValue || !::quantity::parse(text);
 }
 
 int digitsOfNumber(const QString &text)
@@ -173,7 +174,11 @@ int digitsOfNumber(const QString &text)
 QString foldedPartNumber(const QString &text)
 {
     QString plain;
-    const QString small = folded(text);
+    plain.reserve(text.size());
+    // Most of them, and what folds the others takes ten times as long.
+    const bool isAscii =
+        std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+    const QString small = isAscii ? text : folded(text);
     for (const QChar c : small)
         if (c.isLetterOrNumber())
             plain += c.toUpper();
@@ -191,6 +196,12 @@ QString withoutPackaging(const QString &text)
             "?PBF|\\+T?|,\\d{3})$"),
         QRegularExpression::CaseInsensitiveOption);
     QString shortened = text.trimmed();
+    // What cannot have one takes no time.
+    constexpr int endAtMost = 7;
+    const auto sign = std::find_if(shortened.rbegin(), shortened.rend(),
+                                   [](QChar c) { return QLatin1String("-/ #+,").contains(c); });
+    if (sign == shortened.rend() || sign - shortened.rbegin() > endAtMost)
+        return foldedPartNumber(text);
     for (QRegularExpressionMatch match = end.match(shortened); match.hasMatch();
          match = end.match(shortened))
         shortened.truncate(match.capturedStart());
