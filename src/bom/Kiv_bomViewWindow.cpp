@@ -282,7 +282,7 @@ void Kiv_bomViewWindow::replaceMaterial(const materialReplacement::replacement &
 {
     if (isLocked())
         setUnlocked(true);
-    push(replacementStep(model(), *m_rows, what), tr("Material replaced"));
+    push(replacementStep(m_view, *m_rows, what), tr("Material replaced"));
     applyFilter();
 }
 

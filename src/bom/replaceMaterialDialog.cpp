@@ -158,7 +158,10 @@ void replaceMaterialDialog::setMaterials(const QString &before, const QString &a
 {
     m_before.ktm->setText(before);
     m_after.ktm->setText(after);
-    (before.isEmpty() ? m_before : m_after).ktm->setFocus();
+    if (m_go->isEnabled())
+        m_go->setFocus();
+    else
+        (before.isEmpty() ? m_before : m_after).ktm->setFocus();
 }
 
 void replaceMaterialDialog::setLeftOut(const QSet<QString> &paths)
@@ -175,7 +178,7 @@ void replaceMaterialDialog::searchFor(const materialField &field)
     // The new one is looked for among those like the old one.
     QString words = field.ktm->text();
     if (words.isEmpty() && field.ktm == m_after.ktm && m_what.old)
-        words = m_what.old->d_value + QLatin1Char(' ') + m_what.old->d_case;
+        words = m_what.old->d_value;
     else if (const ktmIndex::entry *found = m_known.materials().find(words.trimmed()))
         words = found->material->d_name;
     const QString ktm = addMaterialDialog::pick(m_known, this, words);
@@ -216,9 +219,10 @@ void replaceMaterialDialog::showKnown(const materialField &field,
     QString told;
     if (material) {
         const QString status = material->information.status.trimmed();
-        told = QStringList{material->d_name, material->d_description,
+        told = QStringList{material->d_name,
+                           status.isEmpty() ? tr("no status") : labels::shown(status),
                            labels::shown(labels::unitOrPieces(material->d_unit)),
-                           status.isEmpty() ? tr("no status") : labels::shown(status)}
+                           material->d_description}
                    .join(QLatin1String(", "));
     } else if (!ktm.isEmpty()) {
         told = tr("in no database");

@@ -64,7 +64,7 @@ Kiv_bomWindow &MainWindow::bomWindow()
             return order;
         };
         m_bom->replaceInOrder = [this](const materialReplacement::replacement &what) {
-            push(replacementStep(m_order->lines(), m_order->lineRows(), what, this),
+            push(replacementStep(m_order->linesView(), m_order->lineRows(), what, this),
                  tr("Material replaced"));
             refreshHtml();
         };

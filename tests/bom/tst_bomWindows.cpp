@@ -173,6 +173,10 @@ const scenario scenarios[] = {
     {"an unknown one of a list's line",
      "Ctrl+B|boms@2/0/0,0 Return|lines@0,2 #replaceMaterial '" REGULATOR "' Return Return",
      "title ~ *; lines@0,6 = " REGULATOR "; lines@0,1 = L7805CV; lines@0,3 = 2,5; file " PREAMP " ~ NONE-1"},
+    {"the cursor stays",
+     "Ctrl+B|boms@0/0/0,0 Return|Ctrl+E lines@1,2 F2 Ctrl+A 'T9' Return lines@0,2 #replaceMaterial '" REGULATOR
+     "' Return Return",
+     "at = R1; lines@1,2 = T9; lines@0,6 = " REGULATOR},
     {"a locked order stays", "Ctrl+E Ctrl+B|" REPLACE "Return", "status ~ 5 line; orderLines@0,11 = " KNOWN},
     {"cancelled", "Ctrl+B|" REPLACE "Escape", "file " LIST " ~ " KNOWN "; orderLines@0,11 = " KNOWN},
     {"from the database", "Ctrl+D Return|#find '" KNOWN "' Return ~100 #replaceMaterial '" REGULATOR "' Return Return",
