@@ -463,23 +463,6 @@
     </message>
 </context>
 <context>
-    <name>bomImportWindow</name>
-    <message numerus="yes">
-        <source>%1, %n row(s)</source>
-        <translation>
-            <numerusform>%1, %n row</numerusform>
-            <numerusform>%1, %n rows</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1, %2, %n row(s)</source>
-        <translation>
-            <numerusform>%1, %2, %n row</numerusform>
-            <numerusform>%1, %2, %n rows</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>bomReport</name>
     <message numerus="yes">
         <source>%n set(s)</source>
@@ -1018,6 +1001,10 @@
         <source>Temporary folder error</source>
         <translation>Temporary folder error </translation>
     </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>The file %1 cannot be written</translation>
+    </message>
 </context>
 <context>
     <name>materialWindow</name>
@@ -1273,6 +1260,23 @@
     <message>
         <source>OPTION_BOM_MULTIPLE</source>
         <translation>Order in multiples (unit: of how many)</translation>
+    </message>
+</context>
+<context>
+    <name>partsColumnsPage</name>
+    <message numerus="yes">
+        <source>%1, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %n row</numerusform>
+            <numerusform>%1, %n rows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %2, %n row</numerusform>
+            <numerusform>%1, %2, %n rows</numerusform>
+        </translation>
     </message>
 </context>
 <context>

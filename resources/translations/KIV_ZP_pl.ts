@@ -121,10 +121,6 @@
         <translation>Zapisać zmienioną listę materiałów %1?</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>Saved as %1</source>
         <translation>Zapisano jako %1</translation>
     </message>
@@ -872,10 +868,6 @@
     <message>
         <source>Printing was cancelled</source>
         <translation>Drukowanie przerwano</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
     </message>
     <message>
         <source>The manual %1 cannot be opened</source>
@@ -2848,10 +2840,6 @@
         <translation>Skopiowano koszyk: %1</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>CSV File</source>
         <translation>Plik CSV</translation>
     </message>
@@ -3074,34 +3062,6 @@
         <translation>Dlaczego</translation>
     </message>
     <message>
-        <source>Separator</source>
-        <translation>Separator</translation>
-    </message>
-    <message>
-        <source>comma</source>
-        <translation>przecinek</translation>
-    </message>
-    <message>
-        <source>semicolon</source>
-        <translation>średnik</translation>
-    </message>
-    <message>
-        <source>tab</source>
-        <translation>tabulator</translation>
-    </message>
-    <message>
-        <source>bar</source>
-        <translation>kreska pionowa</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Arkusz</translation>
-    </message>
-    <message>
-        <source>First rows of the file</source>
-        <translation>Pierwsze wiersze pliku</translation>
-    </message>
-    <message>
         <source>Lines of which state</source>
         <translation>Pozycje o stanie</translation>
     </message>
@@ -3116,26 +3076,6 @@
     <message>
         <source>Lines</source>
         <translation>Pozycje</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1, %n row(s)</source>
-        <translation>
-            <numerusform>%1, %n wiersz</numerusform>
-            <numerusform>%1, %n wiersze</numerusform>
-            <numerusform>%1, %n wierszy</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1, %2, %n row(s)</source>
-        <translation>
-            <numerusform>%1, %2, %n wiersz</numerusform>
-            <numerusform>%1, %2, %n wiersze</numerusform>
-            <numerusform>%1, %2, %n wierszy</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>What column %1 holds</source>
-        <translation>Co zawiera kolumna %1</translation>
     </message>
     <message>
         <source>Matching</source>
@@ -3200,10 +3140,6 @@
     <message>
         <source>Saved as %1</source>
         <translation>Zapisano jako %1</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
     </message>
     <message>
         <source>Nothing was decided yet</source>
@@ -4708,10 +4644,6 @@ Pola: %1</translation>
         <translation>znacznik ma zbyt wiele atrybutów</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>too many namespaces</source>
         <translation>za dużo przestrzeni nazw</translation>
     </message>
@@ -5571,10 +5503,6 @@ Pola: %1</translation>
         <translation>Zachowaj do odzyskania</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>Not saved, but kept for the next start</source>
         <translation>Niezapisane, ale zachowane do następnego uruchomienia</translation>
     </message>
@@ -5624,10 +5552,6 @@ Pola: %1</translation>
     <message>
         <source>Message template</source>
         <translation>Szablon wiadomości</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
     </message>
 </context>
 <context>
@@ -7335,6 +7259,10 @@ własne oznaczenie</translation>
         <source>Temporary folder error</source>
         <translation>Błąd folderu tymczasowego </translation>
     </message>
+    <message>
+        <source>The file %1 cannot be written</source>
+        <translation>Nie można zapisać pliku %1</translation>
+    </message>
 </context>
 <context>
     <name>logWindow</name>
@@ -7716,10 +7644,6 @@ własne oznaczenie</translation>
         <translation>Przyjmij klucz i wyślij</translation>
     </message>
     <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
-    <message>
         <source>Nothing was sent</source>
         <translation>Niczego nie wysłano</translation>
     </message>
@@ -8035,10 +7959,6 @@ własne oznaczenie</translation>
     <message>
         <source>CSV File</source>
         <translation>Plik CSV</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
     </message>
     <message>
         <source>&amp;Baskets ...</source>
@@ -8375,6 +8295,57 @@ własne oznaczenie</translation>
     <message>
         <source>Fitted</source>
         <translation>Montowany</translation>
+    </message>
+</context>
+<context>
+    <name>partsColumnsPage</name>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>przecinek</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>średnik</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulator</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>kreska pionowa</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Arkusz</translation>
+    </message>
+    <message>
+        <source>First rows of the file</source>
+        <translation>Pierwsze wiersze pliku</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %n wiersz</numerusform>
+            <numerusform>%1, %n wiersze</numerusform>
+            <numerusform>%1, %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2, %n row(s)</source>
+        <translation>
+            <numerusform>%1, %2, %n wiersz</numerusform>
+            <numerusform>%1, %2, %n wiersze</numerusform>
+            <numerusform>%1, %2, %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What column %1 holds</source>
+        <translation>Co zawiera kolumna %1</translation>
     </message>
 </context>
 <context>
@@ -8783,10 +8754,6 @@ własne oznaczenie</translation>
         <source>Release what is reserved for %1?</source>
         <translation>Zwolnić to, co zarezerwowano dla: %1?</translation>
     </message>
-    <message>
-        <source>The file %1 cannot be written</source>
-        <translation>Nie można zapisać pliku %1</translation>
-    </message>
 </context>
 <context>
     <name>richtexteditDialog</name>
@@ -8931,10 +8898,6 @@ własne oznaczenie</translation>
     <message>
         <source>Replace it</source>
         <translation>Zastąp</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>Nie można zapisać %1</translation>
     </message>
 </context>
 <context>

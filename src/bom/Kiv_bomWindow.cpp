@@ -119,15 +119,6 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
      &Kiv_bomWindow::commandAllQuantities},
 };
 
-// What a set holds, as one text to compare.
-QByteArray contentOf(const kiv_mat_bomsStruct &boms)
-{
-    QByteArray content;
-    QXmlStreamWriter writer(&content);
-    boms.writeXml(&writer);
-    return content;
-}
-
 } // namespace
 
 // --- Construction
@@ -542,7 +533,7 @@ std::unique_ptr<command> Kiv_bomWindow::become(documentStruct &wanted)
         sets.insert(bomTree::fileOf(file)->name, bomTree::setsOf(file));
     const auto &mine = known().boms().categories;
     const auto isLike = [&](size_t i, size_t j) {
-        return becomeList::contentOf(*mine[i]) == becomeList::contentOf(*theirs[j]);
+        return contentOf(*mine[i]) == contentOf(*theirs[j]);
     };
     size_t head = 0;
     while (head < mine.size() && head < theirs.size() && isLike(head, head))

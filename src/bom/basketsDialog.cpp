@@ -289,9 +289,7 @@ bool basketsDialog::write(const basket &of, const QString &path)
 {
     QString fault;
     if (!supplierBasket::write(of, m_forms(of.supplier), path, &fault)) {
-        userPrompts().showError(
-            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path)).toHtmlEscaped()
-            + QLatin1String("<br>") + fault.toHtmlEscaped());
+        userPrompts().showError(messages::notWritten(path, fault));
         return false;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));

@@ -46,6 +46,15 @@ boardLineStruct *appendLine(boardStruct *board, const need &one, const decimal &
 
 } // namespace
 
+QString userName()
+{
+    // Which of them is set depends on the system and on what started the program.
+    for (const char *variable : {"USER", "LOGNAME", "USERNAME"})
+        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
+            return name;
+    return QFileInfo(QDir::homePath()).fileName();
+}
+
 std::unique_ptr<boardStruct> boardOf(const bomSets &list, const ktmIndex &materials,
                                      const orderRules &rules, const QString &reservationsPath,
                                      const occasion &when)

@@ -10,10 +10,13 @@ namespace boardStock {
 
 // --- Reserving ---
 
+// The name of the user at this machine.
+QString userName();
+
 // Who does it, when, and whether what gets lost while boards are built counts too.
 struct occasion
 {
-    QString author;
+    QString author = userName();
     QDateTime time = QDateTime::currentDateTime();
     bool withExtra = true;
 };

@@ -1,11 +1,10 @@
 #include "bom/boardStockDialog.h"
 
+#include "tree/shownTexts.h"
 #include "util/labels.h"
 #include "util/text.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -148,15 +147,4 @@ void boardStockDialog::showRows()
     m_go->setToolTip(taken > 0 ? QString() : tr("there is nothing to take"));
 }
 
-void boardStockDialog::copy()
-{
-    QString all;
-    for (int row = -1; row < m_table->topLevelItemCount(); ++row) {
-        const QTreeWidgetItem *item = row < 0 ? m_table->headerItem() : m_table->topLevelItem(row);
-        QStringList cells;
-        for (int i = 0; i < int(std::size(columns)); ++i)
-            cells.append(item->text(i));
-        all += text::tabbedRow(cells) + QLatin1Char('\n');
-    }
-    QApplication::clipboard()->setText(all);
-}
+void boardStockDialog::copy() { copyShown(*m_table); }

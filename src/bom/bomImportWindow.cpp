@@ -1,5 +1,6 @@
 #include "bom/bomImportWindow.h"
 
+#include "bom/partsColumnsPage.h"
 #include "bom/stagedLinesModel.h"
 #include "commands/commandStack.h"
 #include "data/programData.h"
@@ -23,11 +24,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSettings>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QStatusBar>
-#include <QTableWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -36,7 +35,6 @@ using bomImport::state;
 
 namespace {
 
-constexpr int previewRows = 12;
 constexpr int searchedMaterials = 100;
 
 const windowAction<bomImportWindow> actionTable[] = {
@@ -82,39 +80,6 @@ const windowAction<bomImportWindow> actionTable[] = {
      &bomImportWindow::commandMatchAgain},
 };
 
-const QString mappingGroup = QStringLiteral("bomImport/columns");
-
-QMap<QString, QString> rememberedColumns()
-{
-    QSettings settings(paths::windowState(), QSettings::IniFormat);
-    QMap<QString, QString> all;
-    const int count = settings.beginReadArray(mappingGroup);
-    for (int i = 0; i < count; ++i) {
-        settings.setArrayIndex(i);
-        all.insert(settings.value(QStringLiteral("captions")).toString(),
-                   settings.value(QStringLiteral("fields")).toString());
-    }
-    settings.endArray();
-    return all;
-}
-
-void rememberColumns(const QString &captions, const QString &fields)
-{
-    if (captions.isEmpty())
-        return;
-    QMap<QString, QString> all = rememberedColumns();
-    all.insert(captions, fields);
-    QSettings settings(paths::windowState(), QSettings::IniFormat);
-    settings.beginWriteArray(mappingGroup, all.size());
-    int place = 0;
-    for (auto one = all.constBegin(); one != all.constEnd(); ++one) {
-        settings.setArrayIndex(place++);
-        settings.setValue(QStringLiteral("captions"), one.key());
-        settings.setValue(QStringLiteral("fields"), one.value());
-    }
-    settings.endArray();
-}
-
 struct foundColumn
 {
     QString (*caption)();
@@ -133,14 +98,6 @@ const foundColumn foundColumns[] = {
     {labels::price, 80, [](const materialStruct &m) { return numbers::price(m.d_price); }},
     {labels::description, 220, [](const materialStruct &m) { return m.d_description; }},
 };
-
-QComboBox *newBox(const char *name, const QString &accessibleName, QWidget *parent)
-{
-    auto *box = new QComboBox(parent);
-    box->setObjectName(QLatin1String(name));
-    box->setAccessibleName(accessibleName);
-    return box;
-}
 
 QLineEdit *newLine(const char *name, const QString &placeholder, QWidget *parent)
 {
@@ -206,6 +163,7 @@ bomImportWindow::bomImportWindow(programData &known, QString folder)
     : baseWindow(QStringLiteral("bomImportWindow"))
     , m_known(known)
     , m_folder(std::move(folder))
+    , m_columns(new partsColumnsPage(this))
     , m_lines(new stagedLinesModel(this))
     , m_shown(new stagedLinesFilter(m_lines))
     , m_materials(new QStandardItemModel(this))
@@ -222,7 +180,7 @@ bomImportWindow::bomImportWindow(programData &known, QString folder)
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->setObjectName(QStringLiteral("importSplitter"));
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(columnsPage());
+    splitter->addWidget(m_columns);
     splitter->addWidget(linesPage());
     auto *below = new QWidget(this);
     auto *layout = new QVBoxLayout(below);
@@ -245,6 +203,8 @@ bomImportWindow::bomImportWindow(programData &known, QString folder)
     constexpr QSize usualSize(1180, 800);
     resize(usualSize);
 
+    connect(m_columns, &partsColumnsPage::tableWanted, this, &bomImportWindow::readFile);
+    connect(m_columns, &partsColumnsPage::columnsChanged, this, &bomImportWindow::match);
     for (QWidget *widget : {static_cast<QWidget *>(m_words), static_cast<QWidget *>(m_found),
                             static_cast<QWidget *>(m_view)})
         widget->installEventFilter(this);
@@ -257,48 +217,12 @@ bomImportWindow::bomImportWindow(programData &known, QString folder)
 
 bomImportWindow::~bomImportWindow() = default;
 
-QWidget *bomImportWindow::columnsPage()
-{
-    auto *page = new QWidget(this);
-    m_form = new QLabel(page);
-    m_form->setObjectName(QStringLiteral("form"));
-    m_separator = newBox("separator", tr("Separator"), page);
-    const std::pair<QString, QString> separators[] = {{tr("comma"), QStringLiteral(",")},
-                                                      {tr("semicolon"), QStringLiteral(";")},
-                                                      {tr("tab"), QStringLiteral("\t")},
-                                                      {tr("bar"), QStringLiteral("|")}};
-    for (const auto &[name, sign] : separators)
-        m_separator->addItem(name, sign);
-    m_sheet = newBox("sheet", tr("Sheet"), page);
-    m_preview = new QTableWidget(page);
-    m_preview->setObjectName(QStringLiteral("preview"));
-    m_preview->setAccessibleName(tr("First rows of the file"));
-    m_preview->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_preview->verticalHeader()->setDefaultSectionSize(m_preview->fontMetrics().height() + 6);
-    auto *top = new QHBoxLayout;
-    top->addWidget(m_form, 1);
-    top->addWidget(m_separator);
-    top->addWidget(m_sheet);
-    auto *layout = new QVBoxLayout(page);
-    layout->addLayout(top);
-    layout->addWidget(m_preview);
-    connect(m_separator, qOverload<int>(&QComboBox::activated), this, [this](int row) {
-        partsTableOptions options;
-        options.separator = m_separator->itemData(row).toString().at(0);
-        readFile(options);
-    });
-    connect(m_sheet, qOverload<int>(&QComboBox::activated), this, [this](int row) {
-        partsTableOptions options;
-        options.sheet = row;
-        readFile(options);
-    });
-    return page;
-}
-
 QWidget *bomImportWindow::linesPage()
 {
     auto *page = new QWidget(this);
-    m_states = newBox("states", tr("Lines of which state"), page);
+    m_states = new QComboBox(page);
+    m_states->setObjectName(QStringLiteral("states"));
+    m_states->setAccessibleName(tr("Lines of which state"));
     m_states->addItem(tr("All lines"), -1);
     for (const state one : {state::matched, state::ambiguous, state::unknown, state::leftOut})
         m_states->addItem(bomImport::stateText(one), int(one));
@@ -342,7 +266,7 @@ bool bomImportWindow::openList(const QString &path)
     m_decisions = bomImport::readDecisions(m_folder, &fault);
     setWindowTitle(tr("Import list of parts")
                    + QStringLiteral(" [%1]").arg(QFileInfo(path).fileName()));
-    showColumns();
+    m_columns->showTable(m_table);
     match();
     m_view->setFocus();
     return true;
@@ -360,73 +284,7 @@ void bomImportWindow::readFile(const partsTableOptions &options)
         return;
     }
     m_table = *table;
-    showColumns();
-    match();
-}
-
-void bomImportWindow::showColumns()
-{
-    m_columns = partsColumns::guessed(m_table, rememberedColumns());
-    const bool isBook = !m_table.sheets.isEmpty();
-    m_form->setText(isBook || m_table.encoding.isEmpty()
-                        ? tr("%1, %n row(s)", nullptr, m_table.rows.size()).arg(m_table.form)
-                        : tr("%1, %2, %n row(s)", nullptr, m_table.rows.size())
-                              .arg(m_table.form, m_table.encoding));
-    m_separator->setVisible(!m_table.separator.isNull());
-    m_separator->setCurrentIndex(m_separator->findData(QString(m_table.separator)));
-    m_sheet->setVisible(m_table.sheets.size() > 1);
-    m_sheet->clear();
-    m_sheet->addItems(m_table.sheets);
-    m_sheet->setCurrentIndex(m_table.sheet);
-
-    // The first row chooses what the columns hold.
-    const int columns = m_columns.fields.size();
-    const int first = std::max(0, m_columns.header);
-    const int rows = std::min(previewRows, m_table.rows.size() - first);
-    m_preview->clear();
-    m_preview->setColumnCount(columns);
-    m_preview->setRowCount(rows + 1);
-    QStringList headers;
-    QStringList numbers{QString()};
-    for (int column = 0; column < columns; ++column) {
-        const QString caption =
-            m_columns.header < 0 ? QString() : m_table.rows[m_columns.header][column];
-        headers.append(caption.isEmpty() ? QString::number(column + 1) : caption);
-        auto *box = newBox("field", tr("What column %1 holds").arg(headers.last()), m_preview);
-        box->setObjectName(QStringLiteral("field%1").arg(column + 1));
-        for (int field = 0; field < partsColumns::fieldCount; ++field)
-            box->addItem(partsColumns::captionOf(partsColumns::field(field)));
-        box->setCurrentIndex(m_columns.fields[column]);
-        connect(box, qOverload<int>(&QComboBox::activated), this,
-                [this, column](int field) { columnChosen(column, field); });
-        m_preview->setCellWidget(0, column, box);
-        for (int row = 0; row < rows; ++row) {
-            const QString cell = m_table.rows[first + row][column];
-            auto *item = new QTableWidgetItem(cell);
-            item->setToolTip(text::toolTip(cell));
-            m_preview->setItem(row + 1, column, item);
-        }
-    }
-    for (int row = 0; row < rows; ++row)
-        numbers.append(QString::number(m_table.lines[first + row]));
-    m_preview->setHorizontalHeaderLabels(headers);
-    m_preview->setVerticalHeaderLabels(numbers);
-}
-
-void bomImportWindow::columnChosen(int column, int field)
-{
-    const auto chosen = partsColumns::field(field);
-    if (!partsColumns::mayBeSeveral(chosen)) {
-        const int before = m_columns.columnOf(chosen);
-        if (before >= 0 && before != column) {
-            m_columns.fields[before] = partsColumns::none;
-            static_cast<QComboBox *>(m_preview->cellWidget(0, before))
-                ->setCurrentIndex(partsColumns::none);
-        }
-    }
-    m_columns.fields[column] = chosen;
-    rememberColumns(partsColumns::captionSet(m_table, m_columns.header),
-                    partsColumns::asText(m_columns.fields));
+    m_columns->showTable(m_table);
     match();
 }
 
@@ -434,8 +292,9 @@ void bomImportWindow::columnChosen(int column, int field)
 bool bomImportWindow::stageAll(bomImport::staged &lines)
 {
     workProgress::scope work(progress(), tr("Matching"));
-    if (!bomImport::stage(linesOf(m_table, m_columns), partsMatcher(allMaterials(m_known)),
-                          bomImport::asMap(m_decisions), &lines, work.function()))
+    if (!bomImport::stage(linesOf(m_table, m_columns->columns()),
+                          partsMatcher(allMaterials(m_known)), bomImport::asMap(m_decisions),
+                          &lines, work.function()))
         return false;
     m_matchedCount = m_known.materials().size();
     return true;
@@ -663,9 +522,7 @@ void bomImportWindow::commandReport(bool)
     if (files::writeText(path, bomImport::reportOf(m_lines->lines())))
         statusBar()->showMessage(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
     else
-        userPrompts().showError(messages::because(
-            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
-            path));
+        userPrompts().showError(messages::notWritten(path));
 }
 
 void bomImportWindow::commandDecisions(bool)

@@ -9,9 +9,9 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QStandardItemModel;
-class QTableWidget;
 class QTreeView;
 class commandStack;
+class partsColumnsPage;
 class programData;
 class stagedLinesFilter;
 class stagedLinesModel;
@@ -57,11 +57,8 @@ protected:
 private:
     class lineChange;
 
-    QWidget *columnsPage();
     QWidget *linesPage();
     void readFile(const partsTableOptions &options);
-    void showColumns();
-    void columnChosen(int column, int field);
     bool stageAll(bomImport::staged &lines);
     void match();
     void matchOpen();
@@ -77,16 +74,12 @@ private:
     QString m_folder;
     QString m_path;
     partsTable m_table;
-    partsColumns::guess m_columns;
     std::vector<bomImport::decision> m_decisions;
     int m_matchedCount = 0; // of KTMs in the databases then
     std::unique_ptr<commandStack> m_commands;
+    partsColumnsPage *m_columns;
     stagedLinesModel *m_lines;
     stagedLinesFilter *m_shown;
-    QTableWidget *m_preview;
-    QComboBox *m_separator;
-    QComboBox *m_sheet;
-    QLabel *m_form;
     QTreeView *m_view;
     QComboBox *m_states;
     QLineEdit *m_filter;

@@ -87,8 +87,7 @@ void Kiv_bomWindow::commandSet(bool)
 void Kiv_bomWindow::tellWritten(const QString &path, bool written)
 {
     if (!written) {
-        userPrompts().showError(
-            messages::because(tr("The file %1 cannot be written").arg(native(path)), path));
+        userPrompts().showError(messages::notWritten(path));
         return;
     }
     userPrompts().log(messages::done(messages::saveFile(), text::fileNameOfPath(path), path));

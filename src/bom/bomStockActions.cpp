@@ -5,6 +5,7 @@
 #include "bom/boardStockDialog.h"
 #include "bom/reservationsDialog.h"
 #include "data/programData.h"
+#include "util/messages.h"
 #include "util/prompts.h"
 
 #include <QDir>
@@ -13,12 +14,6 @@
 using namespace bomOperations;
 
 namespace {
-
-QString userName()
-{
-    const QString name = qEnvironmentVariable("USER");
-    return name.isEmpty() ? qEnvironmentVariable("USERNAME") : name;
-}
 
 QString boardsText(const std::vector<bomSets> &lists)
 {
@@ -61,7 +56,8 @@ void Kiv_bomWindow::commandReserve(bool)
                             this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{userName(), QDateTime::currentDateTime(), dialog.withExtra()};
+    const boardStock::occasion when{boardStock::userName(), QDateTime::currentDateTime(),
+                                    dialog.withExtra()};
     QString fault;
     const bool done = file.change(
         [&](kiv_mat_reservationsStruct &all) {
@@ -73,10 +69,7 @@ void Kiv_bomWindow::commandReserve(bool)
     if (done)
         tell(tr("Stock reserved for %n board(s)", nullptr, int(read.lists.size())));
     else
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(file.path()))
-                                    .toHtmlEscaped()
-                                + QLatin1String("<br>") + fault.toHtmlEscaped());
+        userPrompts().showError(messages::notWritten(file.path(), fault));
 }
 
 void Kiv_bomWindow::commandBuilt(bool)
@@ -93,7 +86,8 @@ void Kiv_bomWindow::commandBuilt(bool)
     boardStockDialog dialog(boardStockDialog::takingOut, needed, materials, boards, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{userName(), QDateTime::currentDateTime(), dialog.withExtra()};
+    const boardStock::occasion when{boardStock::userName(), QDateTime::currentDateTime(),
+                                    dialog.withExtra()};
     // What is built is not built again by mistake.
     if (takeOut(boardStock::withdrawalsOf(dialog.takings(), read.lists, materials, rules,
                                           known().reservations().path(), when),

@@ -1,16 +1,14 @@
 #include "bom/needsDialog.h"
 
 #include "bom/bomReport.h"
+#include "tree/shownTexts.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/tableFile.h"
 #include "util/text.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -278,30 +276,7 @@ bool needsDialog::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
-// As they are sorted.
-QList<QStringList> needsDialog::shownRows(bool withCaptions) const
-{
-    QList<QStringList> rows;
-    const auto add = [&rows](const auto &textOf) {
-        QStringList cells;
-        for (int column = 0; column < workColumns; ++column)
-            cells.append(textOf(column));
-        rows.append(cells);
-    };
-    if (withCaptions)
-        add([](int column) { return workCaption(workColumn(column)); });
-    for (int row = 0; row < m_table->topLevelItemCount(); ++row)
-        add([item = m_table->topLevelItem(row)](int column) { return item->text(column); });
-    return rows;
-}
-
-void needsDialog::copy()
-{
-    QString all;
-    for (const QStringList &cells : shownRows(true))
-        all += text::tabbedRow(cells) + QLatin1Char('\n');
-    QApplication::clipboard()->setText(all);
-}
+void needsDialog::copy() { copyShown(*m_table); }
 
 void needsDialog::save()
 {
@@ -310,19 +285,16 @@ void needsDialog::save()
                                                     + tr("CSV File") + QLatin1String(" (*.csv)"));
     if (path.isEmpty())
         return;
-    const QList<QStringList> rows = shownRows(false);
+    const QList<QStringList> rows = shownTexts(*m_table);
     tableFile::content table;
     table.sheet = QStringLiteral("BOM");
-    for (int column = 0; column < workColumns; ++column) {
-        table.captions.append(workCaption(workColumn(column)));
+    for (int column = 0; column < workColumns; ++column)
         if (isNumber(workColumn(column)))
             table.numbers.append(column);
-    }
-    table.rows = rows.size();
-    table.cells = [&rows](int row) { return rows.at(row); };
+    table.captions = rows.first();
+    table.rows = rows.size() - 1;
+    table.cells = [&rows](int row) { return rows.at(row + 1); };
     QString fault;
     if (tableFile::write(table, path, &fault) == tableFile::failed)
-        userPrompts().showError(
-            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path)).toHtmlEscaped()
-            + QLatin1String("<br>") + fault.toHtmlEscaped());
+        userPrompts().showError(messages::notWritten(path, fault));
 }

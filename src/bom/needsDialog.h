@@ -41,7 +41,6 @@ private:
     void showSums();
     void tick(const QList<QTreeWidgetItem *> &items, Qt::CheckState wanted);
     void tickAll(bool ticked);
-    QList<QStringList> shownRows(bool withCaptions) const;
     void copy();
     void save();
 

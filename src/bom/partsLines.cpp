@@ -129,10 +129,10 @@ QString partsLine::key() const
 {
     for (const QString &number : partNumbers)
         if (partsTexts::looksLikePartNumber(number))
-            return partsTexts::foldedPartNumber(number);
+            return partsTexts::partNumber(number).folded();
     const QString size = partsTexts::caseIn(package);
-    return QStringList{partsTexts::foldedPartNumber(value), size.isEmpty() ? package : size,
-                       partsTexts::foldedPartNumber(manufacturer)}
+    return QStringList{partsTexts::partNumber(value).folded(), size.isEmpty() ? package : size,
+                       partsTexts::partNumber(manufacturer).folded()}
         .join(QLatin1Char('|'));
 }
 

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -217,28 +216,31 @@ partsMatcher::partsMatcher(const std::vector<ktmIndex::entry> &materials)
         const auto known = firms.constFind(name);
         return known != firms.constEnd() ? *known : *firms.insert(name, foldedFirm(name));
     };
+    std::vector<QString> own; // numbers of one material
     for (int i = 0; i < int(m_all.size()); ++i) {
         const materialStruct &material = *m_all[size_t(i)].material;
         if (material.d_ktm.isEmpty() || m_byKtm.contains(material.d_ktm))
             continue;
         m_byKtm.insert(material.d_ktm, i);
-        QSet<QString> own;
+        own.clear();
         const auto take = [&](numberIndex *index, const QString &text, const QString &firm) {
-            const bool isOfFirm = !firm.isEmpty() && partsTexts::digitsOfNumber(text) > 0;
-            if (!isOfFirm && !partsTexts::looksLikePartNumber(text))
+            const partsTexts::partNumber read(text);
+            const QString &plain = read.folded();
+            if ((firm.isEmpty() || read.digits() == 0) && !read.isLikely())
                 return;
-            const QString plain = partsTexts::foldedPartNumber(text);
-            (*index)[plain].append({i, firm});
-            const QString base = partsTexts::withoutPackaging(text);
-            if (index == &m_byNumber)
-                m_byBase[base].append({i, firm});
-            own.insert(plain);
+            if (firm.isEmpty() && std::find(own.begin(), own.end(), plain) != own.end())
+                return;
+            index->insert(plain, {i, firm});
+            if (index != &m_byNumber)
+                return;
+            own.push_back(plain);
+            if (const QString base = read.withoutPackaging(); base != plain)
+                m_byBase.insert(base, {i, firm});
         };
         for (const auto &maker : material.manufacturers.items)
             take(&m_byNumber, maker->partNo, firmOf(maker->name));
         for (const QString &text : {material.d_name, material.d_value})
-            if (!own.contains(partsTexts::foldedPartNumber(text)))
-                take(&m_byNumber, text, {});
+            take(&m_byNumber, text, {});
         for (const auto &supplier : material.suppliers.items)
             take(&m_bySupplier, supplier->partNo, firmOf(supplier->name));
         auto value = values.constFind(material.d_value);
@@ -336,25 +338,34 @@ matchResult partsMatcher::one(int place, matchReason reason) const
     return {true, {candidate(place, reason)}};
 }
 
-// By one index of numbers. Where several materials have the number, its maker and then the case
+// Where several materials have the number, its maker and then the case
 // may tell which is meant.
-matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList &numbers,
-                                    const partsLine &line, bool withPackaging,
+matchResult partsMatcher::byNumbers(std::initializer_list<const numberIndex *> indexes,
+                                    const QStringList &numbers, const partsLine &line,
                                     matchReason reason) const
 {
     const QString firm =
         foldedFirm(reason == matchReason::bySupplierNumber ? line.supplier : line.manufacturer);
     for (const QString &text : numbers) {
-        const int digits = partsTexts::digitsOfNumber(text);
-        if (digits == 0 && !partsTexts::looksLikePartNumber(text))
+        const partsTexts::partNumber wanted(text);
+        const int digits = wanted.digits();
+        if (digits == 0 && !wanted.isLikely())
             continue;
-        const auto found = index.constFind(withPackaging ? partsTexts::foldedPartNumber(text)
-                                                         : partsTexts::withoutPackaging(text));
-        if (found == index.constEnd())
+        const QString key = reason == matchReason::byNumberWithoutPackaging
+                                ? wanted.withoutPackaging()
+                                : wanted.folded();
+        std::vector<number> found;
+        for (const numberIndex *index : indexes)
+            for (auto [at, end] = index->equal_range(key); at != end; ++at)
+                found.push_back(*at);
+        if (found.empty())
             continue;
+        // In the order of the databases.
+        std::stable_sort(found.begin(), found.end(),
+                         [](const number &a, const number &b) { return a.material < b.material; });
         std::vector<int> all;
         std::vector<int> ofFirm;
-        for (const number &at : *found) {
+        for (const number &at : found) {
             const auto add = [&](std::vector<int> &to) {
                 if (std::find(to.begin(), to.end(), at.material) == to.end())
                     to.push_back(at.material);
@@ -371,11 +382,11 @@ matchResult partsMatcher::byNumbers(const numberIndex &index, const QStringList 
         if (all.size() == 1 && (digits == 0 || digits >= telling))
             return one(all.front(), reason);
         const std::vector<int> &meant = ofFirm.empty() ? all : ofFirm;
-        const QString wanted = caseOf(line);
+        const QString wantedCase = caseOf(line);
         std::vector<int> ofCase;
-        if (!wanted.isEmpty())
+        if (!wantedCase.isEmpty())
             std::copy_if(meant.begin(), meant.end(), std::back_inserter(ofCase), [&](int place) {
-                return caseOf(*m_all[size_t(place)].material) == wanted;
+                return caseOf(*m_all[size_t(place)].material) == wantedCase;
             });
         if (ofCase.size() == 1 && meant.size() > 1)
             return one(ofCase.front(), reason);
@@ -422,7 +433,7 @@ matchResult partsMatcher::byValue(const partsLine &line) const
     const bool isOpen =
         std::none_of(line.partNumbers.begin(), line.partNumbers.end(), [](const QString &text) {
             return (partsTexts::looksLikePartNumber(text) && !text.contains(QLatin1Char('_')))
-                   || partsTexts::digitsOfNumber(text) > 0;
+                   || partsTexts::partNumber(text).digits() > 0;
         });
     const auto meeting =
         std::count_if(result.candidates.begin(), result.candidates.end(),
@@ -456,11 +467,12 @@ matchResult partsMatcher::match(const partsLine &line, const matchDecisions &dec
     if (suppliers.isEmpty())
         suppliers = line.partNumbers;
     const auto found = [](const matchResult &result) { return !result.candidates.empty(); };
-    matchResult result = byNumbers(m_byNumber, numbers, line, true, matchReason::byNumber);
+    matchResult result = byNumbers({&m_byNumber}, numbers, line, matchReason::byNumber);
     if (!found(result))
-        result = byNumbers(m_byBase, numbers, line, false, matchReason::byNumberWithoutPackaging);
+        result = byNumbers({&m_byNumber, &m_byBase}, numbers, line,
+                           matchReason::byNumberWithoutPackaging);
     if (!found(result))
-        result = byNumbers(m_bySupplier, suppliers, line, true, matchReason::bySupplierNumber);
+        result = byNumbers({&m_bySupplier}, suppliers, line, matchReason::bySupplierNumber);
     if (!found(result))
         result = byValue(line);
     return result;

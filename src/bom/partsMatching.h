@@ -73,14 +73,16 @@ private:
         std::optional<quantity> power;
         QString dielectric;
     };
-    using numberIndex = QHash<QString, QVector<number>>;
+    using numberIndex = QMultiHash<QString, number>;
 
     static parameters parametersIn(const QStringList &texts);
     // Whether the material is one of the kind that a value of its unit is of: a bead of 600 ohm is
     // no resistor.
     bool isOfKind(int place, quantity::unitKind unit) const;
-    matchResult byNumbers(const numberIndex &index, const QStringList &numbers,
-                          const partsLine &line, bool withPackaging, matchReason reason) const;
+    // Of the materials that one of the numbers, as it stands in one of the indexes, leads to.
+    matchResult byNumbers(std::initializer_list<const numberIndex *> indexes,
+                          const QStringList &numbers, const partsLine &line,
+                          matchReason reason) const;
     matchResult byValue(const partsLine &line) const;
     static QStringList differences(const parameters &wanted, const parameters &has);
     matchResult one(int place, matchReason reason) const;
@@ -89,7 +91,7 @@ private:
     std::vector<ktmIndex::entry> m_all;
     QHash<QString, int> m_byKtm;
     numberIndex m_byNumber;
-    numberIndex m_byBase; // without packaging
+    numberIndex m_byBase; // without packaging, of numbers that have one
     numberIndex m_bySupplier;
     QHash<QString, QVector<int>> m_byValue; // "unit number", whatever the materials are
 };

@@ -143,49 +143,46 @@ QString caseIn(const QString &text)
     return group(other, 1).remove(QLatin1Char('-')).toUpper();
 }
 
-bool looksLikePartNumber(const QString &text)
+partNumber::partNumber(const QString &text)
+    : m_text(text)
+{
+    m_folded.reserve(text.size());
+    // Most of them, and what folds the others takes ten times as long.
+    const bool isAscii =
+        std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+    const QString small = isAscii ? text : partsTexts::folded(text);
+    for (const QChar c : small)
+        if (c.isLetterOrNumber())
+            m_folded += c.toUpper();
+}
+
+bool partNumber::isLikely() const
 {
     constexpr int least = 4;
-    const QString plain = foldedPartNumber(text);
-    if (plain.size() < least || text.contains(QLatin1Char(' ')))
+    if (m_folded.size() < least || m_text.contains(QLatin1Char(' ')))
         return false;
     const bool hasDigit =
-        std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
+        std::any_of(m_folded.begin(), m_folded.end(), [](QChar c) { return c.isDigit(); });
     const bool hasLetter =
-        std::any_of(plain.begin(), plain.end(), [](QChar c) { return c.isLetter(); });
+        std::any_of(m_folded.begin(), m_folded.end(), [](QChar c) { return c.isLetter(); });
     if (!hasDigit || !hasLetter)
         return false;
     // Nobody writes a value with so many digits ("9774060151R").
     constexpr int valueAtMost = 8;
-    const bool mayBeValue = plain.size() <= valueAtMost || plain.size() != text.size();
-    return !mayBeValue || !::quantity::parse(text);
+    const bool mayBeValue = m_folded.size() <= valueAtMost || m_folded.size() != m_text.size();
+    return !mayBeValue || !::quantity::parse(m_text);
 }
 
-int digitsOfNumber(const QString &text)
+int partNumber::digits() const
 {
     constexpr int least = 6;
-    const QString plain = foldedPartNumber(text);
     const bool isNumber =
-        plain.size() >= least
-        && std::all_of(plain.begin(), plain.end(), [](QChar c) { return c.isDigit(); });
-    return isNumber ? plain.size() : 0;
+        m_folded.size() >= least
+        && std::all_of(m_folded.begin(), m_folded.end(), [](QChar c) { return c.isDigit(); });
+    return isNumber ? m_folded.size() : 0;
 }
 
-QString foldedPartNumber(const QString &text)
-{
-    QString plain;
-    plain.reserve(text.size());
-    // Most of them, and what folds the others takes ten times as long.
-    const bool isAscii =
-        std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
-    const QString small = isAscii ? text : folded(text);
-    for (const QChar c : small)
-        if (c.isLetterOrNumber())
-            plain += c.toUpper();
-    return plain;
-}
-
-QString withoutPackaging(const QString &text)
+QString partNumber::withoutPackaging() const
 {
     // Only what is set off by a sign: letters at the end mean another part with another maker.
     static const QRegularExpression end(
@@ -195,20 +192,22 @@ QString withoutPackaging(const QString &text)
             "?R|TRL|TRPBF|TR7|REEL7?|REEL13|RL7?|R7|TAPE|CT|BULK|TUBE|TRAY|NOPB|T1|T)|#(?:TR)"
             "?PBF|\\+T?|,\\d{3})$"),
         QRegularExpression::CaseInsensitiveOption);
-    QString shortened = text.trimmed();
+    QString shortened = m_text.trimmed();
     // What cannot have one takes no time.
     constexpr int endAtMost = 7;
     const auto sign = std::find_if(shortened.rbegin(), shortened.rend(),
                                    [](QChar c) { return QLatin1String("-/ #+,").contains(c); });
     if (sign == shortened.rend() || sign - shortened.rbegin() > endAtMost)
-        return foldedPartNumber(text);
+        return m_folded;
     for (QRegularExpressionMatch match = end.match(shortened); match.hasMatch();
          match = end.match(shortened))
         shortened.truncate(match.capturedStart());
-    const QString plain = foldedPartNumber(shortened);
     constexpr int least = 4;
-    return plain.size() < least ? foldedPartNumber(text) : plain;
+    const QString plain = partNumber(shortened).folded();
+    return plain.size() < least ? m_folded : plain;
 }
+
+bool looksLikePartNumber(const QString &text) { return partNumber(text).isLikely(); }
 
 bool saysNotFitted(const QString &text)
 {

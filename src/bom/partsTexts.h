@@ -20,16 +20,28 @@ void sortDesignators(QStringList *designators);
 // named.
 QString caseIn(const QString &text);
 
-// Whether it may be ordered by: letters and digits mixed, and no value ("100nF", "4k7").
+// A text as a part number, folded once.
+class partNumber
+{
+public:
+    explicit partNumber(const QString &text);
+
+    // As it is compared: capital letters and digits only.
+    const QString &folded() const { return m_folded; }
+    // Whether it may be ordered by: letters and digits mixed, and no value ("100nF", "4k7").
+    bool isLikely() const;
+    // The number of its digits when it has nothing else but signs between them, and enough of them
+    // for a maker's number; else 0. It is one only where part numbers are expected.
+    int digits() const;
+    // The folded one without what a maker adds for the packaging ("-TR", "/REEL", "#PBF", ",115");
+    // the same where nothing of that kind stands at its end.
+    QString withoutPackaging() const;
+
+private:
+    QString m_text;
+    QString m_folded;
+};
 bool looksLikePartNumber(const QString &text);
-// The number of its digits when it has nothing else but signs between them, and enough of them for
-// a maker's number; else 0. It is one only where part numbers are expected.
-int digitsOfNumber(const QString &text);
-// The part number as it is compared: capital letters and digits only.
-QString foldedPartNumber(const QString &text);
-// The same without what a maker adds for the packaging ("-TR", "/REEL", "#PBF", ",115"); the folded
-// one where nothing of that kind stands at its end.
-QString withoutPackaging(const QString &text);
 
 // "DNP", "do not mount", "n/m", "nie montować": in a value or description, or as a mark.
 bool saysNotFitted(const QString &text);

@@ -1,13 +1,12 @@
 #include "bom/reservationsDialog.h"
 
 #include "data/reservationsFile.h"
+#include "tree/shownTexts.h"
 #include "util/labels.h"
+#include "util/messages.h"
 #include "util/prompts.h"
-#include "util/text.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
@@ -176,28 +175,8 @@ void reservationsDialog::releaseSelected()
         },
         m_config, &fault);
     if (!done)
-        userPrompts().showError(tr("The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(m_file.path()))
-                                    .toHtmlEscaped()
-                                + QLatin1String("<br>") + fault.toHtmlEscaped());
+        userPrompts().showError(messages::notWritten(m_file.path(), fault));
     showBoards();
 }
 
-void reservationsDialog::copy()
-{
-    QString all;
-    const auto add = [&all](const QTreeWidgetItem *item) {
-        QStringList cells;
-        for (int i = boardColumn; i <= databaseColumn; ++i)
-            cells.append(item->text(i));
-        all += text::tabbedRow(cells) + QLatin1Char('\n');
-    };
-    add(m_tree->headerItem());
-    for (int row = 0; row < m_tree->topLevelItemCount(); ++row) {
-        const QTreeWidgetItem *item = m_tree->topLevelItem(row);
-        add(item);
-        for (int child = 0; child < item->childCount(); ++child)
-            add(item->child(child));
-    }
-    QApplication::clipboard()->setText(all);
-}
+void reservationsDialog::copy() { copyShown(*m_tree); }

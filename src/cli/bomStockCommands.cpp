@@ -25,7 +25,8 @@ QString told(const char *text) { return QCoreApplication::translate("cli", text)
 boardStock::occasion occasionOf(const QString &author)
 {
     boardStock::occasion when;
-    when.author = author.isEmpty() ? qEnvironmentVariable("USER") : author;
+    if (!author.isEmpty())
+        when.author = author;
     return when;
 }
 

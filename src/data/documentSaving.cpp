@@ -119,9 +119,7 @@ bool saveDocument(const QString &path, documentStruct &document, configStruct &c
     if (!written && !cancelled && fault)
         *fault = reason;
     else if (!written && !cancelled)
-        userPrompts().showError(QCoreApplication::translate("data", "The file %1 cannot be written")
-                                    .arg(QDir::toNativeSeparators(path).toHtmlEscaped())
-                                + QLatin1String("<br>") + reason.toHtmlEscaped());
+        userPrompts().showError(messages::notWritten(path, reason));
     if (!written) {
         document.leftOut = leftOut;
         return false;

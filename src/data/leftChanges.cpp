@@ -17,6 +17,7 @@ const QLatin1String pathKey("file");
 const QLatin1String sizeKey("size");
 const QLatin1String timeKey("time");
 const QLatin1String settledKey("settled");
+const QLatin1String noteKey("note");
 
 QJsonObject withState(QJsonObject line, const fileState &state)
 {
@@ -39,18 +40,18 @@ QByteArray written(const QJsonObject &line)
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }
 
-// The last one of the lines that settle.
-fileState settledIn(const QByteArray &lines)
+// What the last one of the lines with a key says.
+QJsonValue lastOf(const QLatin1String &key, const QByteArray &lines)
 {
-    fileState settled;
+    QJsonValue last;
     for (const QByteArray &line : lines.split('\n')) {
-        if (!line.contains(settledKey.data()))
+        if (!line.contains(key.data()))
             continue;
         const QJsonObject object = QJsonDocument::fromJson(line).object();
-        if (object.contains(settledKey))
-            settled = stateIn(object.value(settledKey).toObject());
+        if (object.contains(key))
+            last = object.value(key);
     }
-    return settled;
+    return last;
 }
 
 } // namespace
@@ -64,6 +65,8 @@ QByteArray leftChanges::settledLine(const fileState &state)
 {
     return written({{settledKey, withState({}, state)}});
 }
+
+QByteArray leftChanges::noteLine(const QString &note) { return written({{noteKey, note}}); }
 
 recoverySlot leftChanges::slotIn(const QString &folder)
 {
@@ -88,7 +91,9 @@ leftChanges leftChanges::ofFile(const QString &journal)
     one.time = QFileInfo(file).lastModified();
     one.lines = file.readAll();
     one.records = recordChanges::countIn(one.lines);
-    one.settled = settledIn(one.lines);
+    if (const QJsonValue settled = lastOf(settledKey, one.lines); settled.isObject())
+        one.settled = stateIn(settled.toObject());
+    one.note = lastOf(noteKey, one.lines).toString();
     return one;
 }
 

@@ -20,6 +20,7 @@ struct leftChanges
     fileState onDisk;
     fileState settled; // the file that the user knew last of all
     QDateTime time;
+    QString note; // what the window noted beside the records last
     int records = 0;
     QByteArray lines;
 
@@ -39,8 +40,9 @@ struct leftChanges
     // Makes the changes in the document, which was read from the path a moment ago.
     recordChanges::outcome repeatIn(documentStruct &document, recordChanges &changes) const;
 
-    // The first line of a journal, and the one that says that the file's state is known to the
-    // user.
+    // The first line of a journal, the one that says that the file's state is known to the user,
+    // and one with a note in place of the one before.
     static QByteArray head(const QString &kind, const QString &path, const fileState &onDisk);
     static QByteArray settledLine(const fileState &state);
+    static QByteArray noteLine(const QString &note);
 };

@@ -91,6 +91,14 @@ int xmlData::readXml(QXmlStreamReader *) { return 0; }
 
 int xmlData::writeXml(QXmlStreamWriter *) const { return -1; }
 
+QByteArray contentOf(const xmlData &record)
+{
+    QByteArray content;
+    QXmlStreamWriter writer(&content);
+    record.writeXml(&writer);
+    return content;
+}
+
 int readChildren(QXmlStreamReader *reader, const tagHandlerList &handlers, const QString &endTag)
 {
     const std::vector<QString> &tags = *handlers.tags;

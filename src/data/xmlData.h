@@ -30,6 +30,9 @@ public:
     virtual int readTag(QXmlStreamReader *reader, size_t) { return readXml(reader); }
 };
 
+// The record's element as it stands in a file.
+QByteArray contentOf(const xmlData &record);
+
 // Which child elements a record accepts, in the order of the format, and the record whose readXml()
 // takes them. The names are the same for every record of a class, so all share one list: a database
 // holds a million records.

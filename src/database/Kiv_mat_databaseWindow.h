@@ -59,6 +59,8 @@ public:
     // edited. False, told to the user, when it could not.
     std::function<bool(firmOperations::firmKind, const QString &name)> addFirm;
 
+    bool isModified() const override;
+
     // Fetches, expands and selects a material's row.
     void selectMaterial(const materialStruct *material);
     void selectItem(QTreeView *view, QStandardItem *item);
@@ -168,6 +170,7 @@ protected:
     bool load() override;
     bool write(const QString &path) override;
     void leaveUnsaved() override;
+    bool takeNote(const QString &note) override;
     bool discard() override { return load(); }
     void closed() override;
     fileState &onDisk() override;
@@ -188,10 +191,12 @@ private:
     void showDatabase();
     void showReserved();
     void showContextMenu(const QPoint &position);
+    void goToFound();
+
+    // --- databaseMaterials.cpp ---
     QString faultOf(const myItem::myItemStandard &item, const QString &text) const;
     std::vector<materialStruct *> selectedMaterials() const;
     QStringList selectedKtms();
-    void goToFound();
     QStandardItem *currentGroup() const;
     materialWindow &editor();
 

@@ -7,6 +7,7 @@
 void builtBoards::add(const boards &built)
 {
     m_built.insert(m_built.end(), built.begin(), built.end());
+    changed();
 }
 
 void builtBoards::remove(const boards &built)
@@ -14,6 +15,34 @@ void builtBoards::remove(const boards &built)
     std::erase_if(m_built, [&built](const auto &board) {
         return std::find(built.begin(), built.end(), board) != built.end();
     });
+    changed();
+}
+
+void builtBoards::discard()
+{
+    m_built.clear();
+    m_overdue = false;
+}
+
+QString builtBoards::text() const
+{
+    kiv_mat_reservationsStruct all;
+    for (const auto &board : m_built)
+        all.built.append(board->copy());
+    return QString::fromUtf8(contentOf(all));
+}
+
+bool builtBoards::takeUp(const QString &text)
+{
+    kiv_mat_reservationsStruct all;
+    QXmlStreamReader reader(text);
+    if (readToElement(&reader, all.kind().root))
+        readChildren(&reader, all.tagHandlers(), all.kind().root);
+    boards found;
+    for (auto &board : all.built.items)
+        found.push_back(std::move(board));
+    add(found);
+    return !found.empty();
 }
 
 bool builtBoards::settle(reservationsFile &file, configStruct &config, QString *fault)
@@ -27,6 +56,7 @@ bool builtBoards::settle(reservationsFile &file, configStruct &config, QString *
             return true;
         },
         config, fault);
+    m_overdue = !written;
     if (written)
         m_built.clear();
     return written;

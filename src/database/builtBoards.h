@@ -5,6 +5,7 @@
 #include "commands/command.h"
 #include "data/kiv_mat_reservationsStruct.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -19,13 +20,24 @@ public:
     void add(const boards &built);
     void remove(const boards &built);
     // They were not built after all.
-    void discard() { m_built.clear(); }
+    void discard();
+    // Whether some could not be noted although the database is saved.
+    bool areOverdue() const { return m_overdue; }
+
+    // Those that are not noted yet as a text, from which another run can take them up.
+    QString text() const;
+    // False when it holds none.
+    bool takeUp(const QString &text);
+    // Called with each change of them.
+    std::function<void()> changed = [] {};
+
     // Notes them. False, with the reason in fault, when the file cannot be written; it is tried
     // again the next time.
     bool settle(reservationsFile &file, configStruct &config, QString *fault);
 
 private:
     boards m_built; // and not noted yet
+    bool m_overdue = false;
 };
 
 // A step that changes the stock, with the boards that were built.

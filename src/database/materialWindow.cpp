@@ -486,9 +486,7 @@ std::optional<int> materialWindow::send(const QString &source, const QString &ta
     if (!userPrompts().decide(question, {tr("Accept the key and send")}))
         return {};
     if (!hostKeys::keep(host, offered))
-        userPrompts().showError(messages::because(
-            tr("The file %1 cannot be written").arg(hostKeys::file().toHtmlEscaped()),
-            hostKeys::file()));
+        userPrompts().showError(messages::notWritten(hostKeys::file()));
     KivScp::scp again;
     return run(again, {server.account, server.password, host, source, target, offered});
 }

@@ -5,8 +5,6 @@
 #include "util/messages.h"
 #include "util/prompts.h"
 
-#include <QDir>
-
 emailTempWindow::emailTempWindow(QWidget *parent)
     : richtexteditDialog(parent)
 {
@@ -25,9 +23,7 @@ void emailTempWindow::accept()
                              QLatin1String("<!DOCTYPE html>\n<html>\n<head><meta charset=\"UTF-8\">"
                                            "</head>\n<body>\n")
                                  + edited + QLatin1String("\n</body>\n</html>\n"))) {
-        userPrompts().showError(messages::because(
-            tr("The file %1 cannot be written").arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
-            path));
+        userPrompts().showError(messages::notWritten(path));
         return;
     }
     richtexteditDialog::accept();

@@ -280,8 +280,7 @@ bool MainWindow::saveAs()
         return false;
     const QString page = reportPath(chosen);
     if (!files::writeText(page, m_document.report())) {
-        userPrompts().showError(
-            messages::because(tr("The file %1 cannot be written").arg(native(page)), page));
+        userPrompts().showError(messages::notWritten(page));
         return true;
     }
     tellSaved(tr("Saved as %1").arg(QDir::toNativeSeparators(chosen)));
@@ -376,8 +375,7 @@ bool MainWindow::printTo(const QString &path)
     else if (work.cancelled())
         tell(tr("Printing was cancelled"));
     else
-        userPrompts().showError(
-            messages::because(tr("The file %1 cannot be written").arg(native(path)), path));
+        userPrompts().showError(messages::notWritten(path));
     return printed;
 }
 

@@ -3,6 +3,7 @@
 #include "util/files.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 // The texts stand as they are in lines whose subject follows at once; the catalogues of both
 // languages end them with a blank.
@@ -53,6 +54,14 @@ QString because(const QString &text, const QString &path)
 {
     const QString reason = files::whyNotWritten(path);
     return reason.isEmpty() ? text : text + QLatin1String(": ") + reason;
+}
+
+QString notWritten(const QString &path, const QString &reason)
+{
+    const QString text = QCoreApplication::translate("log", "The file %1 cannot be written")
+                             .arg(QDir::toNativeSeparators(path).toHtmlEscaped());
+    return reason.isEmpty() ? because(text, path)
+                            : text + QLatin1String("<br>") + reason.toHtmlEscaped();
 }
 
 QString consequence(const QString &text, const QString &subject)

@@ -29,6 +29,10 @@ QString failed(const QString &text, const QString &subject, const QString &reaso
 // "text: why the file could not be written"; the text alone when nothing stands in the way now.
 QString because(const QString &text, const QString &path);
 
+// For a box: "The file %1 cannot be written", and why on the next line. Without a reason it is
+// looked for.
+QString notWritten(const QString &path, const QString &reason = {});
+
 // text&nbsp;[subject]<br>: what came of the line before.
 QString consequence(const QString &text, const QString &subject);
 

@@ -5,18 +5,7 @@
 #include "data/sharedRecords.h"
 #include "tree/columnTable.h"
 
-#include <QXmlStreamWriter>
-
 namespace becomeList {
-
-// As it stands in a file.
-inline QByteArray contentOf(const xmlData &record)
-{
-    QByteArray content;
-    QXmlStreamWriter writer(&content);
-    record.writeXml(&writer);
-    return content;
-}
 
 // What stands alike at the beginning and the end stays; between, rows are replaced one by one, and
 // what is left over is deleted or added. The tree may show the list in another order. content gives
@@ -26,7 +15,7 @@ void change(myModel *model, const listRows<Record> &rows,
             const std::vector<std::unique_ptr<Record>> &mine,
             std::vector<std::unique_ptr<Record>> wanted,
             std::vector<std::unique_ptr<command>> &members,
-            const std::function<QByteArray(const Record &)> &content = contentOf)
+            const std::function<QByteArray(const Record &)> &content = ::contentOf)
 {
     const auto isLike = [&](size_t i, size_t j) {
         return content(*mine[i]) == content(*wanted[j]);

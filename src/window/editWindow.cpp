@@ -5,6 +5,7 @@
 #include "tree/myTreeView.h"
 #include "util/fileWatch.h"
 #include "util/memory.h"
+#include "util/messages.h"
 #include "util/prompts.h"
 
 #include <QAction>
@@ -359,9 +360,7 @@ bool editWindow::writeAsking(const QString &path)
             answers.append(tr("Keep in recovery"));
         }
         const std::optional<int> pressed =
-            userPrompts().decide(tr("The file %1 cannot be written").arg(native(path))
-                                     + QLatin1String("<br>") + m_writeFault.toHtmlEscaped(),
-                                 answers);
+            userPrompts().decide(messages::notWritten(path, m_writeFault), answers);
         const int answer = pressed ? offered[size_t(*pressed)] : -1;
         if (answer == retry)
             continue;
@@ -527,6 +526,8 @@ void editWindow::keepJournal(const fileKind &kind, std::function<documentStruct 
     });
 }
 
+void editWindow::noteAside(const QString &note) { m_journal->note(note); }
+
 bool editWindow::storeRecovery()
 {
     if (!m_journal || !isModified() || m_journal->writeThrough())
@@ -569,7 +570,8 @@ bool editWindow::recover(const leftChanges &copy)
     }
     const QString time = copy.time.toString(QStringLiteral("dd.MM.yyyy hh:mm"));
     const bool isRefused = !m_remade->refused.isEmpty();
-    if (m_remade->made > 0) {
+    const bool isNoted = !copy.note.isEmpty() && takeNote(copy.note);
+    if (m_remade->made > 0 || isNoted) {
         setChanged();
         setUnlocked(true);
         showState();

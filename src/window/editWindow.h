@@ -224,6 +224,10 @@ protected:
     virtual void saved() {}
     // After the window closed with nothing unsaved.
     virtual void closed() { setClean(); }
+    // Leaves a note beside the changes, in place of the one before.
+    void noteAside(const QString &note);
+    // Takes up what an earlier run noted beside its changes; false when that is nothing.
+    virtual bool takeNote(const QString &) { return false; }
     // What the file holds is not what the document was compared with.
     virtual void forgetSaved() { m_clean.reset(); }
     // The file as it was when it was read or written last.

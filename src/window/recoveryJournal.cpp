@@ -93,6 +93,7 @@ void recoveryJournal::discard()
     m_clears = false;
     m_failed = false;
     m_changes.clear();
+    m_note.clear();
     m_lines.clear();
     m_file.close();
     for (recoverySlot &place : m_places)
@@ -136,7 +137,7 @@ bool recoveryJournal::begin(recoverySlot &place)
 
 bool recoveryJournal::write()
 {
-    const QByteArray lines = m_changes.takeLines();
+    const QByteArray lines = m_changes.takeLines() + std::exchange(m_note, {});
     m_lines += lines;
     if (m_clears || m_lines.isEmpty())
         return true;
@@ -193,6 +194,12 @@ void recoveryJournal::settle()
     m_lines += line;
     if (m_file.isOpen())
         append(line);
+}
+
+void recoveryJournal::note(const QString &text)
+{
+    changes();
+    m_note = leftChanges::noteLine(text);
 }
 
 std::optional<recordChanges::outcome> recoveryJournal::takeUp(const leftChanges &one,

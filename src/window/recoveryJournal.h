@@ -48,6 +48,10 @@ public:
     // noted before and after is to be made in that file.
     void settle();
 
+    // What belongs to the changes without being a record of the document, in place of the note
+    // before: leftChanges::note of what is left.
+    void note(const QString &text);
+
     // Makes those changes in a document that was read just now, and goes on with that journal.
     // Nothing when another program has it by now.
     std::optional<recordChanges::outcome> takeUp(const leftChanges &one, documentStruct &document);
@@ -71,6 +75,7 @@ private:
     std::vector<recoverySlot> m_places;
     QFile m_file;
     QByteArray m_lines; // all that was noted
+    QByteArray m_note;  // a line that is still to be written
     QTimer *m_soon;
     bool m_clears = false;
     bool m_failed = false;

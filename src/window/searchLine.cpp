@@ -2,6 +2,7 @@
 
 #include "data/keptSearches.h"
 #include "tree/myTreeView.h"
+#include "util/messages.h"
 #include "util/prompts.h"
 #include "util/text.h"
 #include "window/completionList.h"
@@ -406,16 +407,14 @@ void searchLine::keep()
                != 0)
         return;
     if (!keptSearches::keep({name, words}))
-        userPrompts().showError(
-            tr("%1 cannot be written").arg(keptSearches::file().toHtmlEscaped()));
+        userPrompts().showError(messages::notWritten(keptSearches::file()));
 }
 
 void searchLine::changeKept()
 {
     keptSearchesDialog dialog(window());
     if (dialog.exec() == QDialog::Accepted && !keptSearches::setAll(dialog.searches()))
-        userPrompts().showError(
-            tr("%1 cannot be written").arg(keptSearches::file().toHtmlEscaped()));
+        userPrompts().showError(messages::notWritten(keptSearches::file()));
 }
 
 // What stands in the field and can be read counts as searched for.

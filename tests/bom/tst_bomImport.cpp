@@ -154,7 +154,7 @@ private slots:
     {
         const auto [is, base] = fetch<bool, QString>();
         QCOMPARE(partsTexts::looksLikePartNumber(tag()), is);
-        QCOMPARE(partsTexts::withoutPackaging(tag()), base);
+        QCOMPARE(partsTexts::partNumber(tag()).withoutPackaging(), base);
     }
 
     void notFitted_data()

@@ -408,6 +408,37 @@ private slots:
         QVERIFY(testSupport::read(path("_files/db_warehouse.xml")).contains("<d_inWarehouse>0<"));
     }
 
+    // What cannot be noted keeps the window modified until it is, and is there again after the program was killed.
+    void builtBoardsLeft_data()
+    {
+        const testSupport::rows<QString> row;
+        row("the record is spoilt", "Ctrl+S Return");
+        row("killed before saving", "");
+    }
+    void builtBoardsLeft()
+    {
+        const auto [before] = testSupport::fetch<QString>();
+        const QString reservations = path("_files/reservations.xml");
+        steps("Ctrl+B|" SETS "#reserve !go");
+        const QByteArray reserved = testSupport::read(reservations);
+        steps("#built !go");
+        testSupport::write(reservations, "<spoilt");
+        work(before);
+        look(before.isEmpty() ? "title ~ *" : "title ~ *; boxes ~ cannot be noted");
+        restart("Return");
+        boxes();
+        testSupport::write(reservations, reserved);
+        for (QMainWindow *shown : shownWindows())
+            if (shown != &mainWindow())
+                turnTo(*shown);
+        look("title ~ db_warehouse.xml] *");
+        work("Ctrl+S");
+        look("title !~ *");
+        const QByteArray saved = testSupport::read(reservations);
+        QVERIFY2(saved.contains("before=\"1\" after=\"0\"") && saved.count("<board ") == 1, saved);
+        QVERIFY(testSupport::read(path("_files/db_warehouse.xml")).contains("<d_inWarehouse>0<"));
+    }
+
     // The left side of the baskets, the right one of a supplier, and what is said of both.
     void basketsTables()
     {
