@@ -71,7 +71,7 @@ private:
     QWidget &m_window;
     QStringList m_steps;
     QStringList m_boxes;
-    QWidget *m_lastBox = nullptr;
+    QPointer<QWidget> m_lastBox; // the next one may lie at the same address
     QString m_fault;
     bool m_running = false;
     QPointer<QWidget> m_worked; // the window that was in front last

@@ -3395,7 +3395,7 @@
     </message>
     <message>
         <source>Mark &amp;all</source>
-        <translation>&amp;Zaznacz wszystko</translation>
+        <translation>Zaznacz wszys&amp;tko</translation>
     </message>
     <message>
         <source>Mark &amp;none</source>
@@ -3483,7 +3483,7 @@
     </message>
     <message>
         <source>F&amp;orget template</source>
-        <translation>Usuń szablon z &amp;listy</translation>
+        <translation>Usuń szablon z list&amp;y</translation>
     </message>
     <message>
         <source>&amp;Keep template</source>
@@ -7962,7 +7962,7 @@ własne oznaczenie</translation>
     </message>
     <message>
         <source>&amp;Baskets ...</source>
-        <translation>&amp;Koszyki ...</translation>
+        <translation>Ko&amp;szyki ...</translation>
     </message>
     <message>
         <source>What is ticked as orders for the shops of the suppliers</source>

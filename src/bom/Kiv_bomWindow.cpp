@@ -66,7 +66,8 @@ const windowAction<Kiv_bomWindow> actionTable[] = {
                         "Make a BOM list of a list of parts of a CAD tool: CSV, XLSX, ODS, KiCad"),
       true},
      &Kiv_bomWindow::commandImport},
-    {{"save", "File", "Save", "action_save", nullptr,
+    // Ctrl+S is "Set" here.
+    {{"save", "File", "Save", "action_save", "Ctrl+Shift+S",
       QT_TRANSLATE_NOOP("actions", "Write the set of BOM lists"), true},
      &Kiv_bomWindow::commandSave},
     {usualActions::versions, &Kiv_bomWindow::commandVersions},
@@ -417,6 +418,12 @@ void Kiv_bomWindow::commandImport(bool)
             return true;
         };
     }
+    // Beside the list that is current, or beside the others.
+    QString neighbour = currentPath();
+    for (const QStandardItem *file : bomTree::allFiles(model()))
+        if (neighbour.isEmpty())
+            neighbour = pathOf(file);
+    m_import->listFolder = neighbour.isEmpty() ? QString() : QFileInfo(neighbour).absolutePath();
     m_import->commandOpen(false);
     if (m_import->isEmpty())
         return;

@@ -17,7 +17,7 @@ using namespace bomOperations;
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("bom", text); }
+QString tr(const char *text) { return QCoreApplication::translate("boardStock", text); }
 
 decimal wantedOf(const need &one, bool withExtra) { return withExtra ? one.whole() : one.needed; }
 

@@ -537,10 +537,11 @@ void bomImportWindow::commandDecisions(bool)
 
 void bomImportWindow::commandSet(bool)
 {
-    const QString path = userPrompts().saveFile(
-        tr("Save the BOM list"),
-        m_folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1String(".xml"),
-        tr("Xml File") + QLatin1String(" (*.xml)"));
+    const QString path =
+        userPrompts().saveFile(tr("Save the BOM list"),
+                               (listFolder.isEmpty() ? m_folder : listFolder) + QLatin1Char('/')
+                                   + QFileInfo(m_path).completeBaseName() + QLatin1String(".xml"),
+                               tr("Xml File") + QLatin1String(" (*.xml)"));
     if (path.isEmpty() || !writeList)
         return;
     bomImport::unknownParts known = bomImport::unknownIn(QFileInfo(path).absolutePath());

@@ -29,6 +29,8 @@ public:
     // Whether no list is open.
     bool isEmpty() const;
 
+    // Where the list is proposed to be written; empty for the folder of the set.
+    QString listFolder;
     // Writes the list, and returns whether it was; adds it to the set.
     std::function<bool(const QString &path, kiv_mat_bomStruct &bom)> writeList;
     // Opens the material editor with a new material that has these texts and firms.

@@ -134,6 +134,7 @@ void partsColumnsPage::showTable(const partsTable &table)
         connect(box, qOverload<int>(&QComboBox::activated), this,
                 [this, column](int field) { choose(column, field); });
         m_preview->setCellWidget(0, column, box);
+        m_preview->setColumnWidth(column, box->sizeHint().width());
         for (int row = 0; row < rows; ++row) {
             const QString cell = m_table.rows[first + row][column];
             auto *item = new QTableWidgetItem(cell);

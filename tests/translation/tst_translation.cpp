@@ -1,6 +1,7 @@
 // The Polish catalogue has every text of the sources, finished, with its places for values.
 #include "testSupport.h"
 
+#include <QDirIterator>
 #include <QXmlStreamReader>
 
 using namespace testSupport;
@@ -22,6 +23,35 @@ private slots:
         QCOMPARE(fresh.count("type=\"unfinished\""), 0);
         QCOMPARE(fresh.count("type=\"vanished\"") + fresh.count("type=\"obsolete\""), 0);
         QVERIFY(fresh.count("<message") > 200);
+    }
+
+    // What a file's own tr() looks up stands in its context: the catalogue takes it from the namespace.
+    void ownContextsAreTheNamespaces()
+    {
+        QHash<QString, QSet<QString>> texts;
+        QXmlStreamReader reader(read(source("resources/translations/KIV_ZP_pl.ts")));
+        QString context;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            if (reader.isStartElement() && reader.name() == "name")
+                context = reader.readElementText();
+            else if (reader.isStartElement() && reader.name() == "source")
+                texts[context].insert(reader.readElementText());
+        }
+        static const QRegularExpression own("^QString tr\\(const char[^{]*\\{[^}]*translate\\(\"(\\w+)\"",
+                                            QRegularExpression::MultilineOption);
+        static const QRegularExpression used("\\btr\\(\"([^\"\\\\]+)\"[,)]");
+        QDirIterator files(source("src"), {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+        int count = 0;
+        while (files.hasNext()) {
+            const QString text = read(files.next());
+            const QString name = own.match(text).captured(1);
+            for (auto at = used.globalMatch(text); !name.isEmpty() && at.hasNext(); ++count) {
+                const QString wanted = at.next().captured(1);
+                QVERIFY2(texts[name].contains(wanted), qPrintable(name + ": " + wanted));
+            }
+        }
+        QVERIFY(count > 20);
     }
 
     void placesAndEndsAgree()
@@ -51,6 +81,32 @@ private slots:
             }
         }
         QVERIFY(!reader.hasError());
+    }
+
+    // Alt with a letter presses one button of a dialog, not now this and now that one.
+    void lettersAreGivenOnce()
+    {
+        // Of these two only one is there.
+        const QStringList never{"&Zarezerwuj", "&Zdejmij ze stanu"};
+        static const QRegularExpression letter("&([^\\W_])(?!\\w*;)", QRegularExpression::UseUnicodePropertiesOption);
+        QXmlStreamReader reader(read(source("resources/translations/KIV_ZP_pl.ts")));
+        QHash<QString, QString> given;
+        int count = 0;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            if (reader.isStartElement() && reader.name() == "context")
+                given.clear();
+            if (!reader.isStartElement() || reader.name() != "translation")
+                continue;
+            const QString text = reader.readElementText(QXmlStreamReader::IncludeChildElements);
+            const QString key = letter.match(text).captured(1).toLower();
+            if (key.isEmpty() || never.contains(text))
+                continue;
+            QVERIFY2(!given.contains(key), qPrintable(text + " and " + given.value(key)));
+            given.insert(key, text);
+            ++count;
+        }
+        QVERIFY(count > 50);
     }
 };
 

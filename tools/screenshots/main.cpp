@@ -3,16 +3,19 @@
 // writes OUT_FOLDER/NAME.LANGUAGE.png for every window, or for those named.
 #include "bom/Kiv_bomViewWindow.h"
 #include "bom/Kiv_bomWindow.h"
+#include "bom/basketsDialog.h"
 #include "bom/boardStockDialog.h"
 #include "bom/bomImportWindow.h"
 #include "bom/needsDialog.h"
 #include "bom/reservationsDialog.h"
+#include "data/basketForm.h"
 #include "data/programData.h"
 #include "data/reservationsFile.h"
 #include "database/Kiv_mat_databaseMergeWindow.h"
 #include "database/Kiv_mat_databaseWindow.h"
 #include "database/materialWindow.h"
 #include "dialogs/aboutDialog.h"
+#include "firm/firmDetailsDialog.h"
 #include "firm/firmWindow.h"
 #include "order/addMaterialDialog.h"
 #include "order/linesDialog.h"
@@ -273,6 +276,31 @@ QWidget *showReservations(MainWindow &window)
     return dialog;
 }
 
+// What the order asks for, by supplier.
+QWidget *showBaskets(MainWindow &window)
+{
+    static const firmDetailsStruct usual;
+    auto *dialog = new basketsDialog(
+        supplierBasket::itemsOf(window.document().order(), programData::instance().materials()),
+        [](const QString &) -> const firmDetailsStruct & { return usual; }, {}, &window);
+    dialog->show();
+    return dialog;
+}
+
+QWidget *showFirmDetails(MainWindow &window)
+{
+    firmDetailsStruct details;
+    details.name = QStringLiteral("TME");
+    details.address = QStringLiteral("ul. Przykładowa 1\n00-001 Warszawa");
+    details.email = QStringLiteral("biuro@example.com");
+    details.discount = QStringLiteral("5");
+    basketForm::setUsualColumns(&details);
+    auto *dialog = new firmDetailsDialog(
+        details, [](const firmDetailsStruct &) { return true; }, &window);
+    dialog->show();
+    return dialog;
+}
+
 QWidget *showAddMaterial(MainWindow &window)
 {
     window.commandAddMaterial(true);
@@ -329,6 +357,8 @@ const picture pictures[] = {
     {"bomImport", showImport},
     {"boardStock", showBoardStock},
     {"reservations", showReservations},
+    {"baskets", showBaskets},
+    {"firmDetails", showFirmDetails},
     {"lines", showLines},
     {"material", showMaterial},
     {"richText", showRichText},
