@@ -1261,6 +1261,10 @@
         <source>OPTION_BOM_MULTIPLE</source>
         <translation>Order in multiples (unit: of how many)</translation>
     </message>
+    <message>
+        <source>OPTION_ORDERS_FOLDERS</source>
+        <translation>Folders of orders</translation>
+    </message>
 </context>
 <context>
     <name>partsColumnsPage</name>

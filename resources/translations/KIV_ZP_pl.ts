@@ -4474,6 +4474,52 @@ Pola: %1</translation>
         <source>The folder for a file for each supplier; with --supplier a folder (it is there, or ends in a slash) or the file.</source>
         <translation>Folder na pliki, po jednym dla każdego dostawcy; z --supplier folder (istniejący albo zakończony ukośnikiem) lub plik.</translation>
     </message>
+    <message>
+        <source>%1 of %2 lines shown</source>
+        <translation>pokazano %1 z %2 pozycji</translation>
+    </message>
+    <message>
+        <source>  list             all orders, the latest first
+  find WORDS...    the lines that hold all of the words
+  where-used KTM   the lines of a material
+Example: kivzp-cli orders find -f _zp 0603 100nF --json</source>
+        <translation>  list             wszystkie zamówienia, od najnowszego
+  find SŁOWA...    pozycje, które zawierają wszystkie słowa
+  where-used KTM   pozycje materiału
+Przykład: kivzp-cli orders find -f _zp 0603 100nF --json</translation>
+    </message>
+    <message>
+        <source>A folder of orders, in place of those that the configuration names. May be given several times.</source>
+        <translation>Folder zamówień zamiast tych, które podaje konfiguracja. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>A material database whose part numbers are found, too. May be given several times.</source>
+        <translation>Baza danych materiałów, po której numerach części też można szukać. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>A file for what was read, so that only changed orders are read the next time; the program&apos;s own without -f.</source>
+        <translation>Plik na to, co przeczytano, aby następnym razem czytać tylko zmienione zamówienia; bez -f własny plik programu.</translation>
+    </message>
+    <message>
+        <source>How many lines to print at most (0: all).</source>
+        <translation>Ile najwyżej pozycji wypisać (0: wszystkie).</translation>
+    </message>
+    <message>
+        <source>%1 is none of list, find, where-used</source>
+        <translation>%1 nie jest żadnym z list, find, where-used</translation>
+    </message>
+    <message>
+        <source>%1 is no number of lines</source>
+        <translation>%1 nie jest liczbą pozycji</translation>
+    </message>
+    <message>
+        <source>is no folder</source>
+        <translation>nie jest folderem</translation>
+    </message>
+    <message>
+        <source>Lists orders, and finds lines in all of them.</source>
+        <translation>Wypisuje zamówienia i znajduje pozycje we wszystkich.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -8157,6 +8203,10 @@ własne oznaczenie</translation>
         <source>OPTION_BOM_MULTIPLE</source>
         <translation>Zamawiaj wielokrotność (jednostka: ile)</translation>
     </message>
+    <message>
+        <source>OPTION_ORDERS_FOLDERS</source>
+        <translation>Foldery zamówień</translation>
+    </message>
 </context>
 <context>
     <name>orderDocument</name>
@@ -8228,6 +8278,29 @@ własne oznaczenie</translation>
     <message>
         <source>The order has no lines. &lt;a href=&quot;addMaterial&quot;&gt;Add a material&lt;/a&gt;, or &lt;a href=&quot;zpOpen&quot;&gt;open an order&lt;/a&gt;.</source>
         <translation>Zamówienie nie ma pozycji. &lt;a href=&quot;addMaterial&quot;&gt;Dodaj materiał&lt;/a&gt; lub &lt;a href=&quot;zpOpen&quot;&gt;otwórz zamówienie&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>orders</name>
+    <message>
+        <source>being prepared</source>
+        <translation>w przygotowaniu</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>wysłane</translation>
+    </message>
+    <message>
+        <source>partly delivered</source>
+        <translation>częściowo dostarczone</translation>
+    </message>
+    <message>
+        <source>delivered</source>
+        <translation>dostarczone</translation>
+    </message>
+    <message>
+        <source>invoiced</source>
+        <translation>zafakturowane</translation>
     </message>
 </context>
 <context>

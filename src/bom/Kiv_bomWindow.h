@@ -140,7 +140,7 @@ private:
     // --- replacingMaterials.cpp ---
     Kiv_bomViewWindow *openView(const QString &path) const;
     std::optional<std::vector<materialReplacement::document>> documents(baseWindow &over);
-    bool carryOut(std::vector<materialReplacement::document *> chosen,
+    bool carryOut(const std::vector<materialReplacement::document *> &chosen,
                   const materialReplacement::replacement &what, baseWindow &over);
 
     std::unique_ptr<bomTree::setRows> m_rows;

@@ -43,7 +43,7 @@ std::optional<std::vector<document>> Kiv_bomWindow::documents(baseWindow &over)
 }
 
 // The windows come last: what can fail are the files.
-bool Kiv_bomWindow::carryOut(std::vector<document *> chosen, const replacement &what,
+bool Kiv_bomWindow::carryOut(const std::vector<document *> &chosen, const replacement &what,
                              baseWindow &over)
 {
     QString fault;

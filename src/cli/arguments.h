@@ -143,6 +143,7 @@ extern const subcommand bomShortageCommand;
 extern const subcommand bomBasketCommand;
 extern const subcommand bomImportCommand;
 extern const subcommand bomDiffCommand;
+extern const subcommand ordersCommand;
 extern const subcommand mailCommand;
 extern const subcommand helpersCommand;
 extern const subcommand downloadCommand;

@@ -9,6 +9,8 @@
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_orderStatesStruct.h"
+#include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/lineSums.h"
 #include "data/loaders.h"
@@ -67,6 +69,11 @@ QList<fact> factsOf(const documentStruct &document)
                 count("suppliers", firm->suppliers.items.size())};
     if (const auto *all = dynamic_cast<const kiv_mat_firmDetailsStruct *>(&document))
         return {count("firms", all->details.size())};
+    if (const auto *boards = dynamic_cast<const kiv_mat_reservationsStruct *>(&document))
+        return {count("reserved", boards->reserved.items.size()),
+                count("built", boards->built.items.size())};
+    if (const auto *states = dynamic_cast<const kiv_mat_orderStatesStruct *>(&document))
+        return {count("sent", states->orders.size())};
     if (const auto *config = dynamic_cast<const configStruct *>(&document))
         return {count("options", config->options.items.size()),
                 count("persons", config->persons.items.size()),

@@ -24,7 +24,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::packCommand,           &cli::unpackCommand,       &cli::versionsCommand,
         &cli::checkCommand,          &cli::setFieldCommand,     &cli::materialCommand,
         &cli::examineLinksCommand,   &cli::firmMergeCommand,    &cli::replaceMaterialCommand,
-        &cli::bomBasketCommand,
+        &cli::bomBasketCommand,      &cli::ordersCommand,
     };
     return table;
 }

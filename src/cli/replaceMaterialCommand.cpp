@@ -136,7 +136,7 @@ int runReplaceMaterial(const QStringList &arguments)
         lines += int(one.of.lines.size());
         if (!options.isSet(json))
             print(one, what);
-        for (const QJsonValue &value : linesJson(one))
+        for (const auto &value : linesJson(one))
             all.append(value);
     }
     err() << told(QT_TRANSLATE_NOOP("cli", "lines to replace %1, in files %2 of %3"))

@@ -68,6 +68,7 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::serverName, "", ""},
     {optionKey::serverUserName, "", ""},
     {optionKey::serverUserPassword, "", ""},
+    {optionKey::ordersFolders, "_zp", ""},
     {optionKey::bomAttrition, "", ""},
     {optionKey::bomMultiple, "", ""}};
 

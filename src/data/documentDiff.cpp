@@ -8,6 +8,8 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_orderStatesStruct.h"
+#include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/recordMatching.h"
 #include "data/vocabulary.h"
@@ -42,6 +44,9 @@ identity identityOf(const targetStruct &target) { return {target.name, target.ty
 identity identityOf(const firmStruct &firm) { return {firm.name, firm.fullname}; }
 identity identityOf(const firmDetailsStruct &details) { return {details.name, details.nip}; }
 identity identityOf(const basketColumnStruct &column) { return {column.kind, column.caption}; }
+identity identityOf(const boardStruct &board) { return {board.id, board.list}; }
+identity identityOf(const boardLineStruct &line) { return {line.ktm, line.name}; }
+identity identityOf(const orderStateStruct &state) { return {state.file, state.number}; }
 identity identityOf(const fileStruct &file) { return {file.name, file.type}; }
 identity identityOf(const fileGroup &group) { return {group.name, {}}; }
 identity identityOf(const fileCategory &category) { return {category.name, {}}; }
@@ -64,6 +69,8 @@ QString nameOf(const orderItemStruct &line)
 {
     return (line.ktm + QLatin1Char(' ') + line.name).trimmed();
 }
+// Of a board people know its list and when.
+QString nameOf(const boardStruct &board) { return board.list + QLatin1Char(' ') + board.date; }
 QString nameOf(const materialStruct &material)
 {
     return (material.d_ktm + QLatin1Char(' ') + material.d_name).trimmed();
@@ -571,6 +578,28 @@ void compare(differ &rows, const kiv_mat_firmDetailsStruct &before,
     rows.compareList<shapeOf<firmDetailsStruct>>(before.details, after.details);
 }
 
+void compare(differ &rows, const kiv_mat_reservationsStruct &before,
+             const kiv_mat_reservationsStruct &after)
+{
+    compareOwnFields(rows, before, after);
+    level<boardStruct> boards;
+    boards.append(boards.before, before.reserved.items);
+    boards.append(boards.before, before.built.items);
+    boards.append(boards.after, after.reserved.items);
+    boards.append(boards.after, after.built.items);
+    match<shapeOf<boardStruct>>(boards, {});
+    level<boardLineStruct> lines = heldBy<boardLineStruct>(boards);
+    match<shapeOf<boardLineStruct>>(lines, ownersOf(boards, {}));
+    rows.compareLevel<shapeOf<boardStruct>>(boards, {});
+    rows.compareLevel<shapeOf<boardLineStruct>>(lines, ownersOf(boards, {}));
+}
+
+void compare(differ &rows, const kiv_mat_orderStatesStruct &before,
+             const kiv_mat_orderStatesStruct &after)
+{
+    rows.compareList<shapeOf<orderStateStruct>>(before.orders, after.orders);
+}
+
 void compare(differ &rows, const configStruct &before, const configStruct &after)
 {
     rows.compareList<shapeOf<optionStruct>>(before.options.items, after.options.items);
@@ -620,6 +649,11 @@ int linesOf(const kiv_mat_firmStruct &firms)
     return int(firms.manufacturers.items.size() + firms.suppliers.items.size());
 }
 int linesOf(const kiv_mat_firmDetailsStruct &all) { return int(all.details.size()); }
+int linesOf(const kiv_mat_reservationsStruct &boards)
+{
+    return int(boards.reserved.items.size() + boards.built.items.size());
+}
+int linesOf(const kiv_mat_orderStatesStruct &states) { return int(states.orders.size()); }
 int linesOf(const configStruct &config)
 {
     return int(config.options.items.size() + config.persons.items.size()
@@ -650,6 +684,8 @@ void withType(const documentStruct &document, const Act &act)
         || is(dynamic_cast<const kiv_mat_databaseStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_firmStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_firmDetailsStruct *>(&document))
+        || is(dynamic_cast<const kiv_mat_reservationsStruct *>(&document))
+        || is(dynamic_cast<const kiv_mat_orderStatesStruct *>(&document))
         || is(dynamic_cast<const configStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomsStruct *>(&document))

@@ -32,7 +32,7 @@ fileHead headOf(const QString &filePath)
         return head;
     }
     for (const fileKind *kind : {&order, &database, &firm, &firmDetails, &config, &bom, &boms,
-                                 &reservations, &info, &update})
+                                 &reservations, &orderStates, &info, &update})
         if (reader.name() == kind->root)
             head.kind = kind;
     if (!head.kind) {

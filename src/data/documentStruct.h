@@ -33,6 +33,9 @@ inline const fileKind boms{QStringLiteral("kiv_mat_boms"), QStringLiteral("KIV_M
 inline const fileKind reservations{QStringLiteral("kiv_mat_reservations"),
                                    QStringLiteral("KIV_MAT_RESERVATIONS_1"),
                                    QStringLiteral("kiv_mat_reservations.xsd")};
+inline const fileKind orderStates{QStringLiteral("kiv_mat_order_states"),
+                                  QStringLiteral("KIV_MAT_ORDER_STATES_1"),
+                                  QStringLiteral("kiv_mat_order_states.xsd")};
 inline const fileKind info{QStringLiteral("kiv_info"), QStringLiteral("KIV_INFO_1"),
                            QStringLiteral("kiv_info.xsd")};
 inline const fileKind update{QStringLiteral("kiv_update"), QStringLiteral("KIV_UPDATE_1"),

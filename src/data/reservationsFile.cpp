@@ -1,11 +1,8 @@
 #include "data/reservationsFile.h"
 
-#include "data/programData.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QUuid>
 
 #include <algorithm>
@@ -33,50 +30,6 @@ QString reservationsFile::beside(const QString &setPath)
     return setPath.isEmpty()
                ? QString()
                : QFileInfo(setPath).absoluteDir().filePath(QStringLiteral("reservations.xml"));
-}
-
-const kiv_mat_reservationsStruct &reservationsFile::now()
-{
-    const fileState state = fileState::of(m_path);
-    if (m_read && state == m_state)
-        return *m_content;
-    m_read = true;
-    m_state = state;
-    m_fault.clear();
-    auto content = std::make_unique<kiv_mat_reservationsStruct>();
-    if (!m_path.isEmpty() && QFileInfo::exists(m_path)
-        && !readChecked(m_path, content.get(), &m_fault))
-        content = std::make_unique<kiv_mat_reservationsStruct>();
-    content->filePath = m_path;
-    m_content = std::move(content);
-    return *m_content;
-}
-
-bool reservationsFile::change(const std::function<bool(kiv_mat_reservationsStruct &)> &edit,
-                              configStruct &config, QString *fault)
-{
-    // Two programs that change it at once would each lose what the other one wrote. In a folder
-    // that cannot be written there is nothing to lose.
-    QLockFile turn(m_path + QLatin1String(".busy"));
-    constexpr int patienceMs = 3000;
-    if (!turn.tryLock(patienceMs) && turn.error() == QLockFile::LockFailedError) {
-        *fault = QCoreApplication::translate("data", "another program is writing it");
-        return false;
-    }
-    m_read = false;
-    now();
-    if (!m_fault.isEmpty()) {
-        *fault = m_fault;
-        return false;
-    }
-    if (!edit(*m_content)) {
-        m_read = false;
-        return true;
-    }
-    const bool written = saveDocument(m_path, *m_content, config, {}, fault);
-    m_read = false;
-    now();
-    return written;
 }
 
 QHash<QString, decimal> reservedTotals(const kiv_mat_reservationsStruct &of)

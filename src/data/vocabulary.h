@@ -45,6 +45,7 @@ constexpr QLatin1String loadDbService = word("LOAD_DB_SERVICE");
 constexpr QLatin1String loadDbAuthor = word("LOAD_DB_AUTHOR");
 constexpr QLatin1String loadDbMechanics = word("LOAD_DB_MECHANICS");
 constexpr QLatin1String loadBoms = word("LOAD_BOMS");
+constexpr QLatin1String ordersFolders = word("ORDERS_FOLDERS");
 constexpr QLatin1String bomAttrition = word("BOM_ATTRITION");
 constexpr QLatin1String bomMultiple = word("BOM_MULTIPLE");
 constexpr QLatin1String pathBackup = word("PATH_BACKUP");

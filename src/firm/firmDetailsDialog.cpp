@@ -299,7 +299,8 @@ void firmDetailsDialog::moveColumn(int by)
 {
     const int row = m_columns->currentRow();
     auto &columns = m_details->basket.items;
-    std::swap(columns[size_t(row)], columns[size_t(row + by)]);
+    const int other = row + by;
+    std::swap(columns[size_t(row)], columns[size_t(other)]);
     showColumns(row + by);
 }
 

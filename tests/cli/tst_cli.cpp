@@ -45,6 +45,22 @@ private slots:
                      "<separator>semicolon</separator><captions>NIE</captions></details>");
         m_folder->write("details/firm_details.xml", details);
         m_folder->write("details/other.xml", QByteArray(details).replace(">5<", ">7<"));
+        const QByteArray boards =
+            document("kiv_mat_reservations", "KIV_MAT_RESERVATIONS_1", "kiv_mat_reservations.xsd",
+                     "<reserved><board id=\"1\" list=\"a.xml\" date=\"2026.11.26\"><line ktm=\"K\" quantity=\"5\"/>"
+                     "</board></reserved>");
+        m_folder->write("boards/r.xml", boards);
+        m_folder->write("boards/other.xml", QByteArray(boards).replace("\"5\"", "\"7\""));
+        const QByteArray states = document("kiv_mat_order_states", "KIV_MAT_ORDER_STATES_1", "kiv_mat_order_states.xsd",
+                                           "<order file=\"a.xml\" sent=\"x\"/><order file=\"b.xml\" number=\"7\"/>");
+        m_folder->write("boards/order_states.xml", states);
+        m_folder->write("boards/later.xml", QByteArray(states).replace("\"x\"", "\"y\""));
+        m_folder->write("orders/a.xml",
+                        order("<options><option type=\"ORDER_NUMBER\" value1=\"ZP/2/2026\"/>"
+                              "<option type=\"ORDER_DATE\" value1=\"05.03.2026\"/></options><order_items>"
+                              "<order_item><ktm>K</ktm><name>Rezystor 0603</name><price>2</price><quantity>3</quantity>"
+                              "<invoice>FV 7</invoice></order_item><order_item><name>drut</name></order_item>"
+                              "</order_items>"));
         m_folder->write("details/makers.xml", read(m_folder->path("makers.xml")));
         // Of the helpers only one is there, and that cannot be started.
         QFile::setPermissions(m_folder->write("_bin/zip.exe", "#!/none/sh\n"), QFile::ReadOwner | QFile::ExeOwner);
@@ -131,11 +147,23 @@ private slots:
         row("info details/firm_details.xml", 0, "kind: kiv_mat_firm_details\nversion: KIV_MAT_FIRM_DETAILS_1\nfirms: 2",
             "");
         row("diff details/firm_details.xml details/other.xml", 1, "~ A, Discount: 5 -> 7\n", "");
+        row("info boards/r.xml", 0, "reserved: 1\nbuilt: 0", "");
+        row("diff boards/r.xml boards/other.xml", 1, "~ a.xml 2026.11.26, K, Quantity: 5 -> 7\n", "");
+        row("info boards/order_states.xml", 0, "sent: 2", "");
+        row("diff boards/order_states.xml boards/later.xml", 1, "~ a.xml, sent: x -> y\n", "");
         row("firm-merge details/makers.xml A B -o out", 0, "out/makers.xml\nout/firm_details.xml\n", "");
         row("bom-shortage bom.xml=2 -d twice.xml", 1, "K\t\t4\t?\t4\tYes\nX\t", "left out: Y");
         row("bom-reserve bom.xml=2 -d twice.xml", 2, "", "give the file of reservations");
         row("reservations none.xml", 1, "", "there is no such file");
         row("bom-reserve bom.xml=2 -d twice.xml -r bom.xml", 1, "", "is no file of this program");
+        row("orders list -f orders", 0, "ZP/2/2026\t05.03.2026\tpartly_delivered\t2\t6.00\t", "");
+        row("orders find -f orders fv 0603 --json", 0, "\"number\": \"ZP/2/2026\"", "");
+        row("orders find -f orders r -n 1", 0, "\tK\t", "1 of 2 lines shown");
+        row("orders where-used X -f orders", 0, "", "");
+        row.each({"orders list X -f orders", "orders where-used X Y -f orders"}, 2, "", "too many arguments");
+        row("orders find -f orders", 2, "", "an argument is missing");
+        row("orders lists -f orders", 2, "", "none of list, find, where-used");
+        row("orders list -f good.xml", 1, "", "is no folder");
         row("versions", 1, "", "kiv_mat_config.xml: cannot be read");
         row("mail", 2, "", "give one of");
         row("mail good.xml --boms", 2, "", "give one of");

@@ -239,9 +239,9 @@ private slots:
     void aRootWithoutAttributesIsSavedAsItsKind()
     {
         const QString path = m_folder->path("r.xml");
-        for (const fileKind *kind :
-             {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config, &fileKinds::bom,
-              &fileKinds::boms, &fileKinds::info, &fileKinds::update, &fileKinds::firmDetails}) {
+        for (const fileKind *kind : {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config,
+                                     &fileKinds::bom, &fileKinds::boms, &fileKinds::info, &fileKinds::update,
+                                     &fileKinds::firmDetails, &fileKinds::reservations, &fileKinds::orderStates}) {
             m_folder->write("r.xml", '<' + kind->root.toUtf8() + "/>");
             const auto record = newDocument(*kind);
             QCOMPARE(loadDocument(path, record.get()), 0);

@@ -1,0 +1,51 @@
+#include "data/kiv_mat_orderStatesStruct.h"
+
+#include <algorithm>
+
+const fieldTable<orderStateStruct> &orderStateStruct::fields()
+{
+    static const fieldTable<orderStateStruct> table{
+        {QStringLiteral("file"), &orderStateStruct::file},
+        {QStringLiteral("number"), &orderStateStruct::number},
+        {QStringLiteral("sent"), &orderStateStruct::sent},
+        {QStringLiteral("by"), &orderStateStruct::by},
+        {QStringLiteral("to"), &orderStateStruct::to},
+        {QStringLiteral("copy"), &orderStateStruct::copy},
+    };
+    return table;
+}
+
+const fieldTable<kiv_mat_orderStatesStruct> &kiv_mat_orderStatesStruct::fields()
+{
+    static const fieldTable<kiv_mat_orderStatesStruct> table;
+    return table;
+}
+
+kiv_mat_orderStatesStruct::kiv_mat_orderStatesStruct()
+    : documentStruct(fileKinds::orderStates)
+{
+}
+
+const orderStateStruct *kiv_mat_orderStatesStruct::stateOf(const QString &file) const
+{
+    const auto found = std::find_if(orders.rbegin(), orders.rend(),
+                                    [&file](const auto &one) { return one->file == file; });
+    return found == orders.rend() ? nullptr : found->get();
+}
+
+tagHandlerList kiv_mat_orderStatesStruct::tagHandlers()
+{
+    static const std::vector<QString> tags{orderStateStruct::element};
+    return {&tags, this};
+}
+
+int kiv_mat_orderStatesStruct::readXml(QXmlStreamReader *reader)
+{
+    readAppended(reader, orders);
+    return 1;
+}
+
+int kiv_mat_orderStatesStruct::writeContent(QXmlStreamWriter *writer) const
+{
+    return writeAll(writer, orders);
+}

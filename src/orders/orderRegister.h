@@ -1,0 +1,68 @@
+// The orders of the configured folders with what happened to them: the index of their lines, and
+// the states that stand beside them.
+#pragma once
+
+#include "data/kiv_mat_orderStatesStruct.h"
+#include "data/sharedFile.h"
+#include "orders/orderIndex.h"
+
+#include <map>
+
+class configStruct;
+
+using statesFile = sharedDocument<kiv_mat_orderStatesStruct>;
+
+class orderRegister
+{
+public:
+    explicit orderRegister(QString cache = {})
+        : m_index(std::move(cache))
+    {
+    }
+
+    // The folders that the configuration names, as absolute paths.
+    static QStringList foldersOf(const configStruct &config);
+    // The file of states in a folder of orders.
+    static QString statesIn(const QString &folder);
+
+    // As orderIndex::update().
+    bool update(const QStringList &folders, const progressFunction &progress = {});
+    orderIndex &index() { return m_index; }
+    const orderIndex &index() const { return m_index; }
+
+    // When and how an order was sent last; null when it was not. Looked up as the files are now.
+    const orderStateStruct *sentState(const QString &orderPath);
+    orderStage stageOf(const orderIndex::order &order);
+    // Whether its lines are on the way: it was sent, or something of it came.
+    bool isOrdered(const orderIndex::order &order);
+    orderedMaterial orderedOf(const QString &ktm, const QString &except = {});
+    // Why files of states cannot be read, a line each.
+    QStringList faults();
+
+    // The next free number for a new order.
+    QString nextNumber() const;
+
+    // Who sends what, and when.
+    struct sending
+    {
+        QString number; // of the order
+        QString by;
+        QString to; // addresses, parted by commas
+        QDateTime time = QDateTime::currentDateTime();
+    };
+    // Keeps the order's file as it is now, as a copy in the folder "sent" beside it, and notes that
+    // it was sent. False, with nothing noted and the reason in fault, when one of them cannot be
+    // written.
+    bool noteSent(const QString &orderPath, const sending &of, configStruct &config,
+                  QString *fault);
+    // It was not sent after all, or was marked by mistake. The copy stays.
+    bool takeBackSent(const QString &orderPath, configStruct &config, QString *fault);
+    // The path of the order as it was sent last; empty when it was not, or the copy is gone.
+    QString sentCopy(const QString &orderPath);
+
+private:
+    statesFile &statesOf(const QString &orderPath);
+
+    orderIndex m_index;
+    std::map<QString, statesFile> m_states; // by folder
+};
