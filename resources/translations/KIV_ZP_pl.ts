@@ -8537,6 +8537,10 @@ własne oznaczenie</translation>
         <source>holds no table</source>
         <translation>nie zawiera tabeli</translation>
     </message>
+    <message>
+        <source>line %1: the quote is not closed</source>
+        <translation>wiersz %1: cudzysłów nie jest zamknięty</translation>
+    </message>
 </context>
 <context>
     <name>pdfPrinter</name>

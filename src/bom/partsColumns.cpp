@@ -32,12 +32,14 @@ const std::array<fieldRow, fieldCount> table{{
     {"quantity", QT_TRANSLATE_NOOP("partsColumns", "Quantity"),
      "quantity qty qnty quant count amount number pcs qtyperboard quantityperboard qtypcb ilosc "
      "liczba "
-     "szt sztuk ilsz anzahl menge stuck stk stuckzahl"},
-    {"ktm", QT_TRANSLATE_NOOP("partsColumns", "KTM"), "ktm indeks index indeksktm ktmindex dktm"},
+     "szt sztuk iloscszt ilsz anzahl menge stuck stk stuckzahl"},
+    {"ktm", QT_TRANSLATE_NOOP("partsColumns", "KTM"),
+     "ktm indeks indeksmaterialowy index indeksktm ktmindex dktm"},
     {"part_number", QT_TRANSLATE_NOOP("partsColumns", "Part number"),
      "partnumber partno partnr part# mpn mfrpn mfgpn mfrpart mfrpartnumber mfgpartnumber mfrpart# "
      "mfrpartno manufacturerpartnumber manufacturerpartno manufacturerpn manufacturerpart pn "
-     "symbol "
+     "symbol numerkatalogowy nrkatalogowy nrczesciproducenta numerczesciproducenta nrproducenta "
+     "catalognumber cataloguenumber katalognummer "
      "partsymbol orderingcode ordercode numerczesci nrczesci numerproducenta symbolproducenta "
      "kodproducenta typ type herstellernummer herstellerteilenummer herstellernr teilenummer "
      "typbezeichnung bestellbezeichnung componentname"},

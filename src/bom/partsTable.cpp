@@ -201,7 +201,14 @@ bool readInto(partsTable *table, const QString &path, const partsTableOptions &o
             return false;
         }
         table->separator = options.separator.isNull() ? likelySeparator(text) : options.separator;
-        rows = splitTable(text, table->separator, &lines);
+        int unclosed = 0;
+        rows = splitTable(text, table->separator, &lines, &unclosed);
+        // All that follows would be one cell.
+        if (unclosed > 0) {
+            *fault = translated(QT_TRANSLATE_NOOP("partsTable", "line %1: the quote is not closed"))
+                         .arg(unclosed);
+            return false;
+        }
     }
     tidy(table, rows, lines);
     return true;
@@ -209,7 +216,8 @@ bool readInto(partsTable *table, const QString &path, const partsTableOptions &o
 
 } // namespace
 
-QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<int> *lines)
+QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<int> *lines,
+                                int *unclosed)
 {
     QVector<QStringList> rows;
     QStringList row;
@@ -218,6 +226,7 @@ QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<in
     bool wasQuoted = false; // the field began with a quote
     int line = 1;
     int firstLine = 1;
+    int quoteLine = 0;
     const auto endField = [&] {
         row.append(field);
         field.clear();
@@ -247,6 +256,7 @@ QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<in
         } else if (c == QLatin1Char('"') && !wasQuoted && field.trimmed().isEmpty()) {
             field.clear();
             isQuoted = wasQuoted = true;
+            quoteLine = line;
         } else if (c == separator) {
             endField();
         } else if (isLineEnd) {
@@ -257,6 +267,8 @@ QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<in
     }
     if (!field.isEmpty() || !row.isEmpty())
         endRow();
+    if (unclosed)
+        *unclosed = isQuoted ? quoteLine : 0;
     return rows;
 }
 

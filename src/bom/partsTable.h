@@ -34,8 +34,10 @@ struct partsTableOptions
 std::optional<partsTable> readPartsTable(const QString &path, const partsTableOptions &options,
                                          QString *fault);
 
-// The rows of a text. Quotes enclose fields that hold separators, line ends or doubled quotes.
-QVector<QStringList> splitTable(const QString &text, QChar separator,
-                                QVector<int> *lines = nullptr);
+// The rows of a text, and the lines in which they begin. Quotes enclose fields that hold
+// separators, line ends or doubled quotes; unclosed gets the line of one that encloses all the
+// rest, else 0.
+QVector<QStringList> splitTable(const QString &text, QChar separator, QVector<int> *lines = nullptr,
+                                int *unclosed = nullptr);
 // The separator by which most rows have the same number of fields, more than one.
 QChar likelySeparator(const QString &text);

@@ -235,6 +235,7 @@ private slots:
             "is no text");
         row("another archive", QByteArray("PK\x03\x04 nothing"), "is an archive without a table");
         row("other XML", "<kiv_mat_zp/>", "is XML, but no list of parts of KiCad");
+        row("open quote", "Ref,MPN\n\"R1\nR2\",a\nR3,\"b\nR4,c\n", "line 4: the quote is not closed");
         row("damaged workbook", "", "is no workbook");
     }
     void refused()
@@ -255,6 +256,8 @@ private slots:
             0, "designator|quantity|value|case|none|part_number|manufacturer|dnp");
         row("Polish", "Lp.;Oznaczenie;Ilość;Wartość;Obudowa;Producent;Numer producenta\n1;R1;1;10k;0402;Yageo;RC1", 0,
             "none|designator|quantity|value|case|manufacturer|part_number");
+        row("Polish catalogue", "Oznaczenie;Ilość szt.;Nr katalogowy;Indeks materiałowy\nR1;1;RC1;", 0,
+            "designator|quantity|part_number|ktm");
         row("German", "Bezeichner;Menge;Wert;Bauform;Hersteller\nR1;1;10k;0402;Yageo", 0,
             "designator|quantity|value|case|manufacturer");
         row("below a title", "Board X,,\nof today,,\n,,\nRef,Qty,Value\nR1,1,10k", 2, "designator|quantity|value");
