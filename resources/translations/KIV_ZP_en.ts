@@ -344,6 +344,13 @@
             <numerusform>%n unsaved files kept for the next start</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n difference</numerusform>
+            <numerusform>%n differences</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -1264,6 +1271,54 @@
     <message>
         <source>OPTION_ORDERS_FOLDERS</source>
         <translation>Folders of orders</translation>
+    </message>
+</context>
+<context>
+    <name>orders</name>
+    <message numerus="yes">
+        <source>%n line(s) without a price or a quantity are not in it</source>
+        <translation>
+            <numerusform>%n line without a price or a quantity is not in it</numerusform>
+            <numerusform>%n lines without a price or a quantity are not in it</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ordersWindow</name>
+    <message numerus="yes">
+        <source>%n order(s)</source>
+        <translation>
+            <numerusform>%n order</numerusform>
+            <numerusform>%n orders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) marked as sent</source>
+        <translation>
+            <numerusform>%n order marked as sent</numerusform>
+            <numerusform>%n orders marked as sent</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) not sent any more</source>
+        <translation>
+            <numerusform>%n order not sent any more</numerusform>
+            <numerusform>%n orders not sent any more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1297,6 +1297,46 @@
         <source>The details of the firms are restored</source>
         <translation>Przywrócono dane firm</translation>
     </message>
+    <message>
+        <source>the order was not sent</source>
+        <translation>zamówienie nie zostało wysłane</translation>
+    </message>
+    <message>
+        <source>A new order was begun with the lines of %1</source>
+        <translation>Rozpoczęto nowe zamówienie z pozycjami z %1</translation>
+    </message>
+    <message>
+        <source>This order was sent on %1; Edit allows changes all the same</source>
+        <translation>To zamówienie wysłano %1; „Edycja” mimo to pozwala na zmiany</translation>
+    </message>
+    <message>
+        <source>Nothing was changed since it was sent</source>
+        <translation>Od wysłania nic się nie zmieniło</translation>
+    </message>
+    <message>
+        <source>Changed since it was sent</source>
+        <translation>Zmiany od wysłania</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n difference(s)</source>
+        <translation>
+            <numerusform>%n różnica</numerusform>
+            <numerusform>%n różnice</numerusform>
+            <numerusform>%n różnic</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Pole</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -2639,6 +2679,58 @@
         <source>The lines parted by supplier, for their shops</source>
         <translation>Pozycje podzielone na dostawców, do ich sklepów</translation>
     </message>
+    <message>
+        <source>Open this order in the main window, at this line</source>
+        <translation>Otwórz to zamówienie w oknie głównym, na tej pozycji</translation>
+    </message>
+    <message>
+        <source>Copy as a new order</source>
+        <translation>Kopiuj jako nowe zamówienie</translation>
+    </message>
+    <message>
+        <source>Begin a new order with the lines of this one, with the next number and without deliveries and invoices</source>
+        <translation>Rozpocznij nowe zamówienie z pozycjami tego, z następnym numerem, bez dostaw i faktur</translation>
+    </message>
+    <message>
+        <source>Mark as sent</source>
+        <translation>Oznacz jako wysłane</translation>
+    </message>
+    <message>
+        <source>Note that these orders were sent, on paper or by other mail</source>
+        <translation>Zapisz, że te zamówienia wysłano na papierze albo inną pocztą</translation>
+    </message>
+    <message>
+        <source>Not sent after all</source>
+        <translation>Jednak nie wysłane</translation>
+    </message>
+    <message>
+        <source>Take back that these orders were sent</source>
+        <translation>Cofnij oznaczenie, że te zamówienia wysłano</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Wczytaj ponownie</translation>
+    </message>
+    <message>
+        <source>Look for orders that are new or were changed</source>
+        <translation>Poszukaj zamówień nowych i zmienionych</translation>
+    </message>
+    <message>
+        <source>Changed since it was sent ...</source>
+        <translation>Zmiany od wysłania ...</translation>
+    </message>
+    <message>
+        <source>What this order has otherwise than the one that was sent</source>
+        <translation>Czym to zamówienie różni się od wysłanego</translation>
+    </message>
+    <message>
+        <source>Orders ...</source>
+        <translation>Zamówienia ...</translation>
+    </message>
+    <message>
+        <source>All orders, and a search over their lines</source>
+        <translation>Wszystkie zamówienia i wyszukiwanie w ich pozycjach</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2902,6 +2994,10 @@
         <source>not enough in stock</source>
         <translation>za mało w magazynie</translation>
     </message>
+    <message>
+        <source>some of it is reserved for other boards</source>
+        <translation>część jest zarezerwowana dla innych płytek</translation>
+    </message>
 </context>
 <context>
     <name>boardStockDialog</name>
@@ -3042,6 +3138,10 @@
         <source>left out</source>
         <translation>pominięte</translation>
     </message>
+    <message>
+        <source>it has no column &quot;key&quot; before a semicolon</source>
+        <translation>nie ma kolumny „key” przed średnikiem</translation>
+    </message>
 </context>
 <context>
     <name>bomImportWindow</name>
@@ -3168,6 +3268,10 @@
     <message>
         <source>Give it up</source>
         <translation>Porzuć</translation>
+    </message>
+    <message>
+        <source>What was decided before cannot be read, so that nothing is kept now; %1: %2</source>
+        <translation>Nie można odczytać wcześniejszych decyzji, więc teraz nic nie zostanie zapamiętane; %1: %2</translation>
     </message>
 </context>
 <context>
@@ -8302,6 +8406,141 @@ własne oznaczenie</translation>
         <source>invoiced</source>
         <translation>zafakturowane</translation>
     </message>
+    <message>
+        <source>Number</source>
+        <translation>Numer</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Sum [ PLN ]</source>
+        <translation>Suma [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>Delivery</source>
+        <translation>Dostawa</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Faktura</translation>
+    </message>
+    <message>
+        <source>Sent %1 by %2 to %3</source>
+        <translation>Wysłane %1, wysyłający: %2, do: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a price or a quantity are not in it</source>
+        <translation>
+            <numerusform>bez %n pozycji, która nie ma ceny lub ilości</numerusform>
+            <numerusform>bez %n pozycji, które nie mają ceny lub ilości</numerusform>
+            <numerusform>bez %n pozycji, które nie mają ceny lub ilości</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ordersWindow</name>
+    <message>
+        <source>Orders</source>
+        <translation>Zamówienia</translation>
+    </message>
+    <message>
+        <source>Search all lines: KTM, name, part number, target, delivery, invoice, order</source>
+        <translation>Szukaj we wszystkich pozycjach: KTM, nazwa, numer części, zlecenie, dostawa, faktura, zamówienie</translation>
+    </message>
+    <message>
+        <source>Lines found</source>
+        <translation>Znalezione pozycje</translation>
+    </message>
+    <message>
+        <source>Reading orders</source>
+        <translation>Wczytywanie zamówień</translation>
+    </message>
+    <message>
+        <source>Reading was cancelled; some orders are missing</source>
+        <translation>Wczytywanie przerwano; brakuje części zamówień</translation>
+    </message>
+    <message>
+        <source>There is no folder %1</source>
+        <translation>Nie ma folderu %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s)</source>
+        <translation>
+            <numerusform>%n zamówienie</numerusform>
+            <numerusform>%n zamówienia</numerusform>
+            <numerusform>%n zamówień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1; the first %2 are shown</source>
+        <translation>%1; pokazano pierwsze %2</translation>
+    </message>
+    <message>
+        <source>no order is selected</source>
+        <translation>nie zaznaczono zamówienia</translation>
+    </message>
+    <message>
+        <source>several orders are selected</source>
+        <translation>zaznaczono kilka zamówień</translation>
+    </message>
+    <message>
+        <source>one of these was sent</source>
+        <translation>jedno z nich jest wysłane</translation>
+    </message>
+    <message>
+        <source>none of these was sent</source>
+        <translation>żadne z nich nie jest wysłane</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) marked as sent</source>
+        <translation>
+            <numerusform>%n zamówienie oznaczono jako wysłane</numerusform>
+            <numerusform>%n zamówienia oznaczono jako wysłane</numerusform>
+            <numerusform>%n zamówień oznaczono jako wysłane</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) not sent any more</source>
+        <translation>
+            <numerusform>%n zamówienie nie jest już oznaczone jako wysłane</numerusform>
+            <numerusform>%n zamówienia nie są już oznaczone jako wysłane</numerusform>
+            <numerusform>%n zamówień nie jest już oznaczonych jako wysłane</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The orders are as their files are</source>
+        <translation>Zamówienia są takie jak ich pliki</translation>
+    </message>
 </context>
 <context>
     <name>partsColumns</name>
@@ -8509,6 +8748,10 @@ własne oznaczenie</translation>
     <message>
         <source>the case is not compared</source>
         <translation>obudowy nie porównano</translation>
+    </message>
+    <message>
+        <source>current</source>
+        <translation>prąd</translation>
     </message>
 </context>
 <context>

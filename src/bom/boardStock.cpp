@@ -27,8 +27,9 @@ std::unique_ptr<boardStruct> newBoard(const bomSets &list, const QString &reserv
     auto board = std::make_unique<boardStruct>();
     board->id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     const QDir folder = QFileInfo(reservationsPath).absoluteDir();
-    const QString relative = folder.relativeFilePath(list.bom->filePath);
-    board->list = relative.startsWith(QLatin1String("..")) ? list.bom->filePath : relative;
+    const QString path = QFileInfo(list.bom->filePath).absoluteFilePath();
+    const QString relative = folder.relativeFilePath(path);
+    board->list = relative.startsWith(QLatin1String("..")) ? path : relative;
     board->sets = QString::number(list.sets);
     board->date = when.time.toString(QStringLiteral("yyyy.MM.dd hh:mm"));
     board->author = when.author;
@@ -45,15 +46,6 @@ boardLineStruct *appendLine(boardStruct *board, const need &one, const decimal &
 }
 
 } // namespace
-
-QString userName()
-{
-    // Which of them is set depends on the system and on what started the program.
-    for (const char *variable : {"USER", "LOGNAME", "USERNAME"})
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
-            return name;
-    return QFileInfo(QDir::homePath()).fileName();
-}
 
 std::unique_ptr<boardStruct> boardOf(const bomSets &list, const ktmIndex &materials,
                                      const orderRules &rules, const QString &reservationsPath,
@@ -116,6 +108,8 @@ std::vector<taking> takingsOf(const demand &of, const ktmIndex &materials, bool 
         added.lacking = added.wanted - (added.before - added.after);
         if (added.lacking > decimal())
             added.fault = tr("not enough in stock");
+        else if (added.after < one.reserved)
+            added.fault = tr("some of it is reserved for other boards");
     }
     return takings;
 }

@@ -3,15 +3,13 @@
 
 #include "bom/bomOperations.h"
 #include "data/kiv_mat_reservationsStruct.h"
+#include "util/userName.h"
 
 #include <QDateTime>
 
 namespace boardStock {
 
 // --- Reserving ---
-
-// The name of the user at this machine.
-QString userName();
 
 // Who does it, when, and whether what gets lost while boards are built counts too.
 struct occasion

@@ -107,6 +107,11 @@ std::vector<decision> readDecisions(const QString &folder, QString *fault)
     const auto table = readPartsTable(path, options, fault);
     if (!table)
         return all;
+    if (table->rows.first().size() < 2 || table->rows.first()[0] != QLatin1String("key")) {
+        *fault =
+            QCoreApplication::translate("bomImport", "it has no column \"key\" before a semicolon");
+        return all;
+    }
     for (const QStringList &row : table->rows)
         if (row.size() > 1 && row[0] != QLatin1String("key"))
             all.push_back({row[0], row[1], row.value(2), row.value(3)});
@@ -141,6 +146,8 @@ void takeChosen(const staged &lines, const QDate &today, std::vector<decision> *
         if (!match || match->reason != matchReason::chosen)
             continue;
         const QString key = staged.line.key();
+        if (key.isEmpty())
+            continue;
         std::erase_if(*all, [&](const decision &one) { return one.key == key; });
         all->push_back({key, match->ktm, today.toString(Qt::ISODate), staged.line.name()});
     }

@@ -263,7 +263,17 @@ bool bomImportWindow::openList(const QString &path)
     }
     m_path = path;
     m_table = *table;
-    m_decisions = bomImport::readDecisions(m_folder, &fault);
+    // What was given up of another list is decided no more.
+    m_commands->clear();
+    m_lines->show({});
+    QString unreadable;
+    m_decisions = bomImport::readDecisions(m_folder, &unreadable);
+    m_keepsDecisions = unreadable.isEmpty();
+    if (!m_keepsDecisions)
+        userPrompts().showError(
+            tr("What was decided before cannot be read, so that nothing is kept now; %1: %2")
+                .arg(QDir::toNativeSeparators(bomImport::decisionsFile(m_folder)), unreadable)
+                .toHtmlEscaped());
     setWindowTitle(tr("Import list of parts")
                    + QStringLiteral(" [%1]").arg(QFileInfo(path).fileName()));
     m_columns->showTable(m_table);
@@ -549,7 +559,8 @@ void bomImportWindow::commandSet(bool)
         return;
     QString fault;
     bomImport::takeChosen(m_lines->lines(), QDate::currentDate(), &m_decisions);
-    if (!m_decisions.empty() && !bomImport::writeDecisions(m_folder, m_decisions, &fault))
+    if (m_keepsDecisions && !m_decisions.empty()
+        && !bomImport::writeDecisions(m_folder, m_decisions, &fault))
         userPrompts().showError(
             tr("What you decided could not be kept: %1").arg(fault).toHtmlEscaped());
     m_commands->clear();

@@ -77,6 +77,7 @@ private:
     QString m_path;
     partsTable m_table;
     std::vector<bomImport::decision> m_decisions;
+    bool m_keepsDecisions = true;
     int m_matchedCount = 0; // of KTMs in the databases then
     std::unique_ptr<commandStack> m_commands;
     partsColumnsPage *m_columns;

@@ -7,6 +7,7 @@
 #include "data/programData.h"
 #include "util/messages.h"
 #include "util/prompts.h"
+#include "util/userName.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -56,7 +57,7 @@ void Kiv_bomWindow::commandReserve(bool)
                             this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{boardStock::userName(), QDateTime::currentDateTime(),
+    const boardStock::occasion when{userName(), QDateTime::currentDateTime(),
                                     dialog.withExtra()};
     QString fault;
     const bool done = file.change(
@@ -86,7 +87,7 @@ void Kiv_bomWindow::commandBuilt(bool)
     boardStockDialog dialog(boardStockDialog::takingOut, needed, materials, boards, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{boardStock::userName(), QDateTime::currentDateTime(),
+    const boardStock::occasion when{userName(), QDateTime::currentDateTime(),
                                     dialog.withExtra()};
     // What is built is not built again by mistake.
     if (takeOut(boardStock::withdrawalsOf(dialog.takings(), read.lists, materials, rules,

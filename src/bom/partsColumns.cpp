@@ -37,7 +37,8 @@ const std::array<fieldRow, fieldCount> table{{
      "ktm indeks indeksmaterialowy index indeksktm ktmindex dktm"},
     {"part_number", QT_TRANSLATE_NOOP("partsColumns", "Part number"),
      "partnumber partno partnr part# mpn mfrpn mfgpn mfrpart mfrpartnumber mfgpartnumber mfrpart# "
-     "mfrpartno manufacturerpartnumber manufacturerpartno manufacturerpn manufacturerpart pn "
+     "mfrpartno manufacturerpartnumber manufacturerpartnumber1 manufacturerpartno manufacturerpn "
+     "manufacturerpart pn "
      "symbol numerkatalogowy nrkatalogowy nrczesciproducenta numerczesciproducenta nrproducenta "
      "catalognumber cataloguenumber katalognummer "
      "partsymbol orderingcode ordercode numerczesci nrczesci numerproducenta symbolproducenta "
@@ -61,7 +62,8 @@ const std::array<fieldRow, fieldCount> table{{
      "supplierpartnumber supplierpn supplierpartno suppliernumber supplierpart supplierpartnumber1 "
      "distributorpartnumber distributorpn vendorpartnumber vendorpn vendorpart digikey digikeypn "
      "digikeypartnumber mouser mouserpn mouserpartnumber farnell lcsc lcscpart lcscpartnumber "
-     "jlcpcbpart tme numerdostawcy kodtowaru kodproduktu symboldostawcy bestellnummer bestellnr "
+     "jlcpcbpart jlcpcbpartnumber lcscnumber supplierpartnumber2 tme numerdostawcy kodtowaru "
+     "kodproduktu symboldostawcy bestellnummer bestellnr "
      "lieferantennummer sku ordernumber"},
     {"tolerance", QT_TRANSLATE_NOOP("partsColumns", "Tolerance"),
      "tolerance tol tolerancja toleranz"},
@@ -82,8 +84,10 @@ QString folded(const QString &caption)
     QString letters;
     const QString plain = QString::fromStdString(text::folded(caption));
     for (const QChar c : plain)
-        if (c.isLetterOrNumber() || c == QLatin1Char('#'))
+        if (c.isLetterOrNumber())
             letters += c;
+        else if (c == QLatin1Char('#'))
+            letters += QLatin1String("number");
     return letters;
 }
 
@@ -192,7 +196,8 @@ QString captionOf(field of)
 
 bool mayBeSeveral(field of)
 {
-    return of == none || of == partNumber || of == supplierNumber || of == description;
+    return of == none || of == partNumber || of == supplierNumber || of == description
+           || of == notFitted;
 }
 
 field fieldNamed(const QString &name)
@@ -216,7 +221,11 @@ guess guessed(const partsTable &list, const QMap<QString, QString> &remembered)
     }
     if (of.header >= 0)
         for (int column = 0; column < columns; ++column) {
-            const field named = fieldOfCaption().value(folded(list.rows[of.header][column]), none);
+            field named = fieldOfCaption().value(folded(list.rows[of.header][column]), none);
+            // "Position" may be the running number of the row.
+            constexpr double nearlyAll = 0.9;
+            if (named == designator && share(list, of.header, column, isCount) >= nearlyAll)
+                named = none;
             // Of two columns of one field the first counts, unless it is empty.
             const int before = mayBeSeveral(named) ? -1 : of.columnOf(named);
             const auto isAny = [](const QString &) { return true; };

@@ -2,6 +2,7 @@
 
 #include "bom/partsTexts.h"
 #include "util/decimal.h"
+#include "util/quantity.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -48,7 +49,9 @@ bool isLeftOut(const rowFields &fields)
     using namespace partsColumns;
     const QString footprint = fields.text(package);
     const QStringList numbers = fields.all(partNumber);
-    return partsTexts::saysYes(fields.text(notFitted)) || partsTexts::saysNo(fields.text(fitted))
+    const QStringList marks = fields.all(notFitted);
+    return std::any_of(marks.begin(), marks.end(), partsTexts::saysYes)
+           || partsTexts::saysNo(fields.text(fitted))
            || partsTexts::saysNotFitted(fields.text(value))
            || partsTexts::saysNotFitted(fields.text(description))
            || footprint.endsWith(QLatin1String("_DNP"), Qt::CaseInsensitive)
@@ -60,7 +63,7 @@ partsLine lineOf(const rowFields &fields)
     using namespace partsColumns;
     partsLine line;
     line.designators = partsTexts::designatorsIn(fields.text(designator));
-    line.quantity = fields.text(quantity);
+    line.quantity = fields.text(partsColumns::quantity);
     line.ktm = fields.text(ktm);
     line.manufacturer = fields.text(manufacturer);
     line.value = fields.text(value);
@@ -79,6 +82,20 @@ partsLine lineOf(const rowFields &fields)
     line.supplierNumbers = fields.all(supplierNumber);
     line.isLeftOut = isLeftOut(fields);
     return line;
+}
+
+// Whether a row of designators can go on with those of another one: R9 does with R1 to R8, H1 does
+// not.
+bool areOfOneKind(const QStringList &before, const QStringList &after)
+{
+    const auto kindOf = [](const QStringList &designators) {
+        const QString first = designators.value(0).toUpper();
+        int letters = 0;
+        while (letters < first.size() && !first[letters].isDigit())
+            ++letters;
+        return first.left(letters);
+    };
+    return kindOf(before) == kindOf(after);
 }
 
 // Everything but designators and quantity.
@@ -127,13 +144,35 @@ void settleQuantity(partsLine *line, const QString &stated)
 
 QString partsLine::key() const
 {
-    for (const QString &number : partNumbers)
-        if (partsTexts::looksLikePartNumber(number))
-            return partsTexts::partNumber(number).folded();
+    for (const QString &text : partNumbers) {
+        const partsTexts::partNumber number(text);
+        if (number.isLikely())
+            return number.folded();
+        // Several makers have the same few digits.
+        if (number.digits() > 0)
+            return number.folded() + QLatin1Char('|')
+                   + partsTexts::partNumber(manufacturer).folded();
+    }
+    // Whatever is stated of the part, since another voltage is another part. Capitals count: 10m
+    // and 10M are different values.
+    const auto plain = [](QString text) {
+        return text.remove(QLatin1Char(' ')).replace(QLatin1Char(','), QLatin1Char('.'));
+    };
     const QString size = partsTexts::caseIn(package);
-    return QStringList{partsTexts::partNumber(value).folded(), size.isEmpty() ? package : size,
-                       partsTexts::partNumber(manufacturer).folded()}
-        .join(QLatin1Char('|'));
+    QString all = QStringList{plain(value),
+                              size.isEmpty() ? package.simplified() : size,
+                              partsTexts::partNumber(manufacturer).folded(),
+                              plain(tolerance),
+                              plain(voltage),
+                              plain(power),
+                              description.simplified()}
+                      .join(QLatin1Char('|'));
+    while (all.endsWith(QLatin1Char('|')))
+        all.chop(1);
+    if (!value.isEmpty() || !description.isEmpty())
+        return all;
+    return supplierNumbers.isEmpty() ? ktm.simplified()
+                                     : partsTexts::partNumber(supplierNumbers.first()).folded();
 }
 
 QString partsLine::name() const
@@ -151,6 +190,12 @@ QString partsLine::name() const
         const QString rest = size.isEmpty() ? package : size;
         if (!rest.isEmpty())
             words.append(rest);
+        for (const QString &stated : {tolerance, voltage, power})
+            if (!stated.isEmpty())
+                words.append(stated);
+        // "LED 0603" may be a red or a green one; what 100nF is is known.
+        if (!words.isEmpty() && !description.isEmpty() && !::quantity::parseStart(value))
+            words.append(description);
     }
     if (words.isEmpty())
         words.append(description.isEmpty() ? designators.join(QLatin1String(", ")) : description);
@@ -174,13 +219,16 @@ partsList linesOf(const partsTable &table, const partsColumns::guess &columns)
         const int fileLine = table.lines.value(i, i + 1);
         if (fields.isEmpty())
             continue;
-        if (last >= 0 && fields.hasOnly(partsColumns::designator)) {
-            list.lines[last].designators +=
-                partsTexts::designatorsIn(fields.text(partsColumns::designator));
+        const bool isBare = fields.hasOnly(partsColumns::designator);
+        const QStringList bare =
+            isBare ? partsTexts::designatorsIn(fields.text(partsColumns::designator))
+                   : QStringList();
+        if (last >= 0 && isBare && areOfOneKind(list.lines[last].designators, bare)) {
+            list.lines[last].designators += bare;
             list.lines[last].rows.append(fileLine);
             continue;
         }
-        if (!fields.namesPart()) {
+        if (isBare || !fields.namesPart()) {
             list.remarks.append(
                 translated(QT_TRANSLATE_NOOP("partsLines", "line %1 names no part: %2"))
                     .arg(fileLine)

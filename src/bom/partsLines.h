@@ -22,7 +22,8 @@ struct partsLine
     bool isLeftOut = false; // not fitted
     QStringList remarks;    // what the user has to know of it
 
-    // By which it is known again: its part number, else value, case and maker. Folded.
+    // By which it is known again: its part number, else all that is stated of it. Empty when that
+    // is nothing, which no decision is kept for.
     QString key() const;
     // What stands for a part that no database has: "MAKER PART-NUMBER [VALUE]".
     QString name() const;

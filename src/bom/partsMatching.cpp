@@ -161,6 +161,8 @@ QString nameOf(quantity::unitKind unit)
         return QStringLiteral(" V");
     case quantity::watt:
         return QStringLiteral(" W");
+    case quantity::ampere:
+        return QStringLiteral(" A");
     default:
         return {};
     }
@@ -274,10 +276,30 @@ bool partsMatcher::isOfKind(int place, quantity::unitKind unit) const
     return has.match(texts).hasMatch() && !hasNot.match(texts).hasMatch();
 }
 
-partsMatcher::parameters partsMatcher::parametersIn(const QStringList &texts)
+partsMatcher::parameters partsMatcher::parametersIn(const QString &tolerance,
+                                                    const QString &voltage, const QString &power,
+                                                    const QString &current,
+                                                    const QStringList &texts)
 {
     parameters found;
-    for (const QString &text : texts) {
+    const auto take = [](std::optional<quantity> *to, const QString &text,
+                         quantity::unitKind unit) {
+        std::optional<quantity> value = quantity::parse(text.trimmed());
+        if (value && value->unit == quantity::none) {
+            value->unit = unit;
+            // A workbook keeps 1 % as 0.01.
+            constexpr double share = 0.3;
+            if (unit == quantity::percent && value->value > 0 && value->value < share)
+                value->value *= 100;
+        }
+        if (value && value->unit == unit)
+            *to = value;
+    };
+    take(&found.tolerance, tolerance, quantity::percent);
+    take(&found.voltage, voltage, quantity::volt);
+    take(&found.power, power, quantity::watt);
+    take(&found.current, current, quantity::ampere);
+    for (const QString &text : QStringList{tolerance, voltage, power, current} + texts) {
         for (const QString &piece : piecesOf(text)) {
             const auto value = quantity::parse(piece);
             if (!value)
@@ -288,6 +310,8 @@ partsMatcher::parameters partsMatcher::parametersIn(const QStringList &texts)
                 found.voltage = value;
             else if (value->unit == quantity::watt && !found.power)
                 found.power = value;
+            else if (value->unit == quantity::ampere && !found.current)
+                found.current = value;
         }
         if (found.dielectric.isEmpty())
             found.dielectric = dielectricIn(text);
@@ -318,6 +342,7 @@ QStringList partsMatcher::differences(const parameters &wanted, const parameters
             false);
     compare(QT_TRANSLATE_NOOP("partsMatching", "voltage"), wanted.voltage, has.voltage, true);
     compare(QT_TRANSLATE_NOOP("partsMatching", "power"), wanted.power, has.power, true);
+    compare(QT_TRANSLATE_NOOP("partsMatching", "current"), wanted.current, has.current, true);
     if (!wanted.dielectric.isEmpty() && wanted.dielectric != has.dielectric)
         all.append(QCoreApplication::translate("partsMatching", "dielectric %1, not %2")
                        .arg(has.dielectric.isEmpty()
@@ -406,7 +431,7 @@ matchResult partsMatcher::byValue(const partsLine &line) const
         return {};
     const QString wantedCase = caseOf(line);
     parameters wanted =
-        parametersIn({line.tolerance, line.voltage, line.power, line.value, line.description});
+        parametersIn(line.tolerance, line.voltage, line.power, {}, {line.value, line.description});
     matchResult result;
     for (int place : *equal) {
         const materialStruct &material = *m_all[size_t(place)].material;
@@ -416,10 +441,11 @@ matchResult partsMatcher::byValue(const partsLine &line) const
         if (!isOfKind(place, value->unit))
             continue;
         matchCandidate found = candidate(place, matchReason::byValue);
-        found.differences =
-            differences(wanted, parametersIn({material.d_tolerance, material.d_voltage,
-                                              material.d_power, material.d_value,
-                                              material.d_otherParameters, material.d_description}));
+        found.differences = differences(
+            wanted,
+            parametersIn(material.d_tolerance, material.d_voltage, material.d_power,
+                         material.d_current,
+                         {material.d_value, material.d_otherParameters, material.d_description}));
         if (wantedCase.isEmpty() || itsCase.isEmpty())
             found.differences.append(
                 QCoreApplication::translate("partsMatching", "the case is not compared"));
@@ -452,7 +478,8 @@ matchResult partsMatcher::match(const partsLine &line, const matchDecisions &dec
     const auto byKtm = [&](const QString &ktm) {
         return ktm.isEmpty() ? -1 : m_byKtm.value(ktm, -1);
     };
-    const int decided = byKtm(decisions.value(line.key()));
+    const QString key = line.key();
+    const int decided = key.isEmpty() ? -1 : byKtm(decisions.value(key));
     if (decided >= 0)
         return one(decided, matchReason::decided);
     const int own = byKtm(line.ktm.trimmed());

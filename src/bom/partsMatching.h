@@ -71,11 +71,15 @@ private:
         std::optional<quantity> tolerance;
         std::optional<quantity> voltage;
         std::optional<quantity> power;
+        std::optional<quantity> current;
         QString dielectric;
     };
     using numberIndex = QMultiHash<QString, number>;
 
-    static parameters parametersIn(const QStringList &texts);
+    // What stands in the fields for it, also without a unit, and in further texts.
+    static parameters parametersIn(const QString &tolerance, const QString &voltage,
+                                   const QString &power, const QString &current,
+                                   const QStringList &texts);
     // Whether the material is one of the kind that a value of its unit is of: a bead of 600 ohm is
     // no resistor.
     bool isOfKind(int place, quantity::unitKind unit) const;

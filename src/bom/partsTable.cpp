@@ -109,9 +109,10 @@ bool readKicad(const QByteArray &xml, QVector<QStringList> *rows)
             put(caption, reader.readElementText());
         } else if (name == QLatin1String("property")) {
             // A mark without a value, such as "dnp", means yes.
-            const QString value = attributes.value(QLatin1String("value")).toString();
             put(attributes.value(QLatin1String("name")).toString(),
-                value.isEmpty() ? QStringLiteral("1") : value);
+                attributes.hasAttribute(QLatin1String("value"))
+                    ? attributes.value(QLatin1String("value")).toString()
+                    : QStringLiteral("1"));
         } else if (elements.contains(name)) {
             put(elements.value(name), reader.readElementText());
         }

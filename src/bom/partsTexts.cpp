@@ -151,9 +151,13 @@ partNumber::partNumber(const QString &text)
     const bool isAscii =
         std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
     const QString small = isAscii ? text : partsTexts::folded(text);
-    for (const QChar c : small)
-        if (c.isLetterOrNumber())
-            m_folded += c.toUpper();
+    for (int i = 0; i < small.size(); ++i) {
+        // 5.0 and 50 are different parts.
+        const bool isPoint = small[i] == QLatin1Char('.') && i > 0 && i + 1 < small.size()
+                             && small[i - 1].isDigit() && small[i + 1].isDigit();
+        if (small[i].isLetterOrNumber() || isPoint)
+            m_folded += small[i].toUpper();
+    }
 }
 
 bool partNumber::isLikely() const
@@ -177,9 +181,10 @@ int partNumber::digits() const
 {
     constexpr int least = 6;
     const bool isNumber =
-        m_folded.size() >= least
-        && std::all_of(m_folded.begin(), m_folded.end(), [](QChar c) { return c.isDigit(); });
-    return isNumber ? m_folded.size() : 0;
+        m_folded.size() >= least && std::all_of(m_folded.begin(), m_folded.end(), [](QChar c) {
+            return c.isDigit() || c == QLatin1Char('.');
+        });
+    return isNumber ? m_folded.size() - m_folded.count(QLatin1Char('.')) : 0;
 }
 
 QString partNumber::withoutPackaging() const
@@ -211,11 +216,16 @@ bool looksLikePartNumber(const QString &text) { return partNumber(text).isLikely
 
 bool saysNotFitted(const QString &text)
 {
+    // Alone, or behind what the part is: "100n n/m". "14 dni" and "0.5 N/m" are something else.
+    static const QRegularExpression brief(
+        QStringLiteral("^(?:[^ ]*[a-z][^ ]* +)?[(\\[]?(?:dni|dnm|n/m|n\\.m\\.|n/p)[)\\]]?$"));
+    if (brief.match(folded(text)).hasMatch())
+        return true;
     static const QRegularExpression form(QStringLiteral(
-        "(?:^|[^a-z0-9])(?:dnp|dnf|dnm|dni|d\\.n\\.p\\.|do ?not "
+        "(?:^|[^a-z0-9])(?:dnp|dnf|d\\.n\\.p\\.|do ?not "
         "?(?:populate|mount|fit|place|install|stuff|assemble)|"
         "not ?(?:fitted|mounted|populated|placed|assembled)|no "
-        "?(?:stuff|fit|pop)|n/m|n\\.m\\.|n/p|nie ?montowac|"
+        "?(?:stuff|fit|pop)|nie ?montowac|"
         "nie ?montuj|niemontowany|nie ?obsadzac|nicht ?bestucken|nicht ?bestuckt)(?:$|[^a-z0-9])"));
     return form.match(folded(text)).hasMatch();
 }

@@ -1,7 +1,5 @@
 #include "data/kiv_mat_orderStatesStruct.h"
 
-#include <algorithm>
-
 const fieldTable<orderStateStruct> &orderStateStruct::fields()
 {
     static const fieldTable<orderStateStruct> table{
@@ -24,13 +22,6 @@ const fieldTable<kiv_mat_orderStatesStruct> &kiv_mat_orderStatesStruct::fields()
 kiv_mat_orderStatesStruct::kiv_mat_orderStatesStruct()
     : documentStruct(fileKinds::orderStates)
 {
-}
-
-const orderStateStruct *kiv_mat_orderStatesStruct::stateOf(const QString &file) const
-{
-    const auto found = std::find_if(orders.rbegin(), orders.rend(),
-                                    [&file](const auto &one) { return one->file == file; });
-    return found == orders.rend() ? nullptr : found->get();
 }
 
 tagHandlerList kiv_mat_orderStatesStruct::tagHandlers()

@@ -28,9 +28,6 @@ public:
 
     std::vector<std::unique_ptr<orderStateStruct>> orders;
 
-    // The last one of a file; null when there is none.
-    const orderStateStruct *stateOf(const QString &file) const;
-
     tagHandlerList tagHandlers() override;
     int readXml(QXmlStreamReader *reader) override;
 

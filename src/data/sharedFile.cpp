@@ -12,6 +12,7 @@ documentStruct &sharedFile::current()
     if (m_read && state == m_state)
         return *m_content;
     m_read = true;
+    ++m_readings;
     m_state = state;
     m_fault.clear();
     m_content = m_make();

@@ -21,6 +21,8 @@ public:
     const QString &path() const { return m_path; }
     // Why it cannot be read, as of the last look; empty when it can, or there is none.
     const QString &fault() const { return m_fault; }
+    // How often it was read: what was made of its content is old when this is another number.
+    int readings() const { return m_readings; }
 
 protected:
     // What the file holds now; nothing where there is no file, and where it cannot be read.
@@ -35,6 +37,7 @@ private:
     std::unique_ptr<documentStruct> m_content;
     QString m_fault;
     bool m_read = false;
+    int m_readings = 0;
 };
 
 template <class Record>

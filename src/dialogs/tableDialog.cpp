@@ -1,10 +1,9 @@
 #include "dialogs/tableDialog.h"
 
+#include "tree/shownTexts.h"
 #include "util/text.h"
 
 #include <QAbstractTableModel>
-#include <QApplication>
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -103,15 +102,7 @@ tableDialog::tableDialog(readTable table, QWidget *parent)
         if (lines.isEmpty())
             for (int row = 0; row < rows->rowCount(); ++row)
                 lines.append(rows->index(row, 0));
-        std::sort(lines.begin(), lines.end());
-        QString all;
-        for (const QModelIndex &line : qAsConst(lines)) {
-            QStringList cells;
-            for (int column = 0; column < rows->columnCount(); ++column)
-                cells.append(line.siblingAtColumn(column).data().toString());
-            all += text::tabbedRow(cells) + QLatin1Char('\n');
-        }
-        QApplication::clipboard()->setText(all);
+        copyRows(lines);
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
 

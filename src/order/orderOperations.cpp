@@ -153,6 +153,34 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
     return false;
 }
 
+std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, const QString &number,
+                                               const QDate &today, const QDate &wait)
+{
+    auto order = std::make_unique<kiv_mat_zpStruct>();
+    order->attentions = other.attentions;
+    for (const auto &option : other.options.items) {
+        optionStruct *own = order->options.findOption(option->type);
+        if (!own)
+            own = order->options.append(std::make_unique<optionStruct>());
+        copyFields(*own, *option, optionStruct::fields());
+    }
+    const auto set = [&order](QLatin1String key, const QString &value) {
+        if (optionStruct *option = order->options.findOption(key))
+            option->value1 = value;
+    };
+    set(optionKey::orderNumber, number);
+    set(optionKey::orderDate, today.toString(labels::dateFormat()));
+    for (const auto &line : other.orderItems.items) {
+        auto copy = std::make_unique<orderItemStruct>();
+        copyFields(*copy, *line, orderItemStruct::fields());
+        copy->wait = wait.toString(labels::dateFormat());
+        copy->delivery.clear();
+        copy->invoice.clear();
+        order->orderItems.append(std::move(copy));
+    }
+    return order;
+}
+
 QDate usualDate(const configStruct &config)
 {
     return QDate::currentDate().addDays(config.options.value(optionKey::orderDateAdd).toInt());

@@ -67,6 +67,11 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
                   const std::vector<int> &columns, configStruct &config, QString *reason);
 
+// A new order with the options, lines and remarks of another one: with that number and today's
+// date, its lines needed by that day, and nothing delivered or invoiced yet.
+std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, const QString &number,
+                                               const QDate &today, const QDate &wait);
+
 // The day by which ordinary lines are needed: today and ORDER_DATE_ADD days.
 QDate usualDate(const configStruct &config);
 

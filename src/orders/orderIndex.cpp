@@ -136,8 +136,9 @@ public:
                 orderStage(std::clamp(query.value(10).toInt(), 0, int(orderStage::invoiced)));
             const QByteArray lines = query.value(11).toByteArray();
             content.lines.resize(size_t(lines.size()) / sizeof(line));
-            std::memcpy(content.lines.data(), lines.constData(),
-                        content.lines.size() * sizeof(line));
+            if (!content.lines.empty())
+                std::memcpy(content.lines.data(), lines.constData(),
+                            content.lines.size() * sizeof(line));
             for (const line &ofOrder : content.lines)
                 for (const quint32 number : ofOrder)
                     if (number >= texts)

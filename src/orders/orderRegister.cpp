@@ -28,10 +28,17 @@ QString orderRegister::statesIn(const QString &folder)
 
 bool orderRegister::update(const QStringList &folders, const progressFunction &progress)
 {
-    return m_index.update(folders, progress);
+    return index().update(folders, progress);
 }
 
-statesFile &orderRegister::statesOf(const QString &orderPath)
+orderIndex &orderRegister::index()
+{
+    if (!m_index)
+        m_index = std::make_unique<orderIndex>(m_cache);
+    return *m_index;
+}
+
+orderRegister::folderStates &orderRegister::statesOf(const QString &orderPath)
 {
     const QString folder = QFileInfo(orderPath).absolutePath();
     return m_states.try_emplace(folder, statesIn(folder)).first->second;
@@ -39,8 +46,17 @@ statesFile &orderRegister::statesOf(const QString &orderPath)
 
 const orderStateStruct *orderRegister::sentState(const QString &orderPath)
 {
-    return orderPath.isEmpty() ? nullptr
-                               : statesOf(orderPath).now().stateOf(QFileInfo(orderPath).fileName());
+    if (orderPath.isEmpty())
+        return nullptr;
+    folderStates &states = statesOf(orderPath);
+    const kiv_mat_orderStatesStruct &now = states.file.now();
+    if (states.seen != states.file.readings()) {
+        states.seen = states.file.readings();
+        states.byName.clear();
+        for (const auto &one : now.orders)
+            states.byName.insert(one->file, one.get());
+    }
+    return states.byName.value(QFileInfo(orderPath).fileName());
 }
 
 orderStage orderRegister::stageOf(const orderIndex::order &order)
@@ -57,25 +73,25 @@ bool orderRegister::isOrdered(const orderIndex::order &order)
 orderedMaterial orderRegister::orderedOf(const QString &ktm, const QString &except)
 {
     return ::orderedOf(
-        m_index, ktm, [this](const orderIndex::order &order) { return isOrdered(order); }, except);
+        index(), ktm, [this](const orderIndex::order &order) { return isOrdered(order); }, except);
 }
 
 QStringList orderRegister::faults()
 {
     QStringList all;
     for (auto &[folder, states] : m_states) {
-        states.now();
-        if (!states.fault().isEmpty())
-            all.append(QDir::toNativeSeparators(states.path()) + QLatin1String(": ")
-                       + states.fault());
+        states.file.now();
+        if (!states.file.fault().isEmpty())
+            all.append(QDir::toNativeSeparators(states.file.path()) + QLatin1String(": ")
+                       + states.file.fault());
     }
     return all;
 }
 
-QString orderRegister::nextNumber() const
+QString orderRegister::nextNumber()
 {
     QStringList used;
-    for (const orderIndex::order &order : m_index.orders())
+    for (const orderIndex::order &order : index().orders())
         if (!order.number.trimmed().isEmpty())
             used.append(order.number.trimmed());
     return nextOrderNumber(used, QDate::currentDate());
@@ -95,7 +111,7 @@ bool orderRegister::noteSent(const QString &orderPath, const sending &of, config
                                                  : QDir::toNativeSeparators(target);
         return false;
     }
-    const bool noted = statesOf(orderPath).change(
+    const bool noted = statesOf(orderPath).file.change(
         [&](kiv_mat_orderStatesStruct &states) {
             auto state = std::make_unique<orderStateStruct>();
             state->file = file.fileName();
@@ -116,7 +132,7 @@ bool orderRegister::noteSent(const QString &orderPath, const sending &of, config
 bool orderRegister::takeBackSent(const QString &orderPath, configStruct &config, QString *fault)
 {
     const QString name = QFileInfo(orderPath).fileName();
-    return statesOf(orderPath).change(
+    return statesOf(orderPath).file.change(
         [&name](kiv_mat_orderStatesStruct &states) {
             const size_t before = states.orders.size();
             std::erase_if(states.orders, [&name](const auto &one) { return one->file == name; });

@@ -15,8 +15,9 @@ using statesFile = sharedDocument<kiv_mat_orderStatesStruct>;
 class orderRegister
 {
 public:
+    // The cache is read when the index is first asked for.
     explicit orderRegister(QString cache = {})
-        : m_index(std::move(cache))
+        : m_cache(std::move(cache))
     {
     }
 
@@ -27,8 +28,7 @@ public:
 
     // As orderIndex::update().
     bool update(const QStringList &folders, const progressFunction &progress = {});
-    orderIndex &index() { return m_index; }
-    const orderIndex &index() const { return m_index; }
+    orderIndex &index();
 
     // When and how an order was sent last; null when it was not. Looked up as the files are now.
     const orderStateStruct *sentState(const QString &orderPath);
@@ -40,7 +40,7 @@ public:
     QStringList faults();
 
     // The next free number for a new order.
-    QString nextNumber() const;
+    QString nextNumber();
 
     // Who sends what, and when.
     struct sending
@@ -61,8 +61,19 @@ public:
     QString sentCopy(const QString &orderPath);
 
 private:
-    statesFile &statesOf(const QString &orderPath);
+    struct folderStates
+    {
+        explicit folderStates(const QString &path)
+            : file(path)
+        {
+        }
+        statesFile file;
+        int seen = -1;                                   // its readings when byName was made
+        QHash<QString, const orderStateStruct *> byName; // of the orders' files
+    };
+    folderStates &statesOf(const QString &orderPath);
 
-    orderIndex m_index;
-    std::map<QString, statesFile> m_states; // by folder
+    QString m_cache;
+    std::unique_ptr<orderIndex> m_index;
+    std::map<QString, folderStates> m_states; // by folder
 };

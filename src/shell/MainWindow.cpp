@@ -12,6 +12,7 @@
 #include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
+#include "orders/ordersWindow.h"
 #include "report/myWebView.h"
 #include "shell/logos.h"
 #include "shell/startupDialog.h"
@@ -168,6 +169,11 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Take prices and stock from the databases again")},
      &MainWindow::commandZpRefreshPrices},
     {doSeparator, nullptr},
+    {{"sentChanges", "Do", QT_TRANSLATE_NOOP("actions", "Changed since it was sent ..."),
+      "action_merge", nullptr,
+      QT_TRANSLATE_NOOP("actions", "What this order has otherwise than the one that was sent")},
+     &MainWindow::commandSentChanges},
+    {doSeparator, nullptr},
     {usualActions::moveUp("Do"), &MainWindow::commandMoveUp},
     {usualActions::moveDown("Do"), &MainWindow::commandMoveDown},
     {{"deleteLines", "Do", QT_TRANSLATE_NOOP("actions", "Delete lines"), "action_delete", nullptr,
@@ -187,6 +193,9 @@ const windowAction<MainWindow> actionTable[] = {
     {{"firm", "Tools", QT_TRANSLATE_NOOP("actions", "Open list of manufacturers and suppliers"),
       "action_firm", nullptr, QT_TRANSLATE_NOOP("actions", "The register of firms"), true},
      &MainWindow::commandFirm},
+    {{"orders", "Tools", QT_TRANSLATE_NOOP("actions", "Orders ..."), "action_list", "Ctrl+Shift+O",
+      QT_TRANSLATE_NOOP("actions", "All orders, and a search over their lines"), true},
+     &MainWindow::commandOrders},
     {{"messageTemplate", "Tools", QT_TRANSLATE_NOOP("actions", "Message template"), "action_mail",
       nullptr, QT_TRANSLATE_NOOP("actions", "Edit the text that goes along with an order")},
      &MainWindow::commandMessageTemplate},
@@ -359,6 +368,7 @@ void MainWindow::showDocument()
     m_order->show(m_document.order());
     setClean();
     setUnlocked(known().config().isOn(optionKey::editZp));
+    lockIfSent();
     refreshPreview();
     showSums();
 }
@@ -431,6 +441,8 @@ void MainWindow::updateActions()
     allowWhenUnlocked({"fillDown", "moveUp", "moveDown", "deleteLines"}, areSeen && !empty, whyNot);
     setAvailable("copyCells", areSeen && !empty, whyNot);
     setAvailable("archiveDD", !m_document.path().isEmpty(), tr("the order was not saved yet"));
+    setAvailable("sentChanges", !orders().sentCopy(m_document.path()).isEmpty(),
+                 tr("the order was not sent"));
 }
 
 void MainWindow::showContextMenu(const QPoint &position)

@@ -27,7 +27,9 @@ class addMaterialDialog;
 class configWindow;
 class firmWindow;
 class myWebView;
+class orderRegister;
 class orderView;
+class ordersWindow;
 class versionsWindow;
 struct fileKind;
 struct keptCopy;
@@ -112,6 +114,8 @@ public slots:
     void databaseCommand(bool);
     void commandBom(bool);
     void commandFirm(bool);
+    void commandOrders(bool);
+    void commandSentChanges(bool);
     void commandMessageTemplate(bool);
     void configCommand(bool);
     void commandShowLog(bool);
@@ -171,8 +175,8 @@ protected:
     void deletePressed(const myTreeView *view) override;
 
 private:
-    // Takes boards out of the databases' stock: one step in the window of each database. False, told
-    // to the user, when one of them cannot be changed; then none is.
+    // Takes boards out of the databases' stock: one step in the window of each database. False,
+    // told to the user, when one of them cannot be changed; then none is.
     bool takeOut(std::vector<boardStock::withdrawal> of, const QString &boards);
     // --- MainWindow.cpp ---
     void buildWidgets();
@@ -214,8 +218,15 @@ private:
     void deleteRows(const std::vector<int> &rows, const QString &what);
 
     // --- MainWindowBom.cpp ---
-    void startMail(const QString &description);
+    bool startMail(const QString &description);
     void sendData(mail::contents what);
+
+    // --- MainWindowOrders.cpp ---
+    void openInPlace(const QString &path);
+    void copyAsNew(const QString &path);
+    void noteSent();
+    void lockIfSent();
+    orderRegister &orders();
 
     orderDocument m_document;
     QTabWidget *m_tabs = nullptr;
@@ -230,6 +241,8 @@ private:
     std::unique_ptr<firmWindow> m_firm;
     std::unique_ptr<Kiv_bomWindow> m_bom;
     std::unique_ptr<versionsWindow> m_versions;
+    std::unique_ptr<orderRegister> m_register;
+    std::unique_ptr<ordersWindow> m_orders;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     bool m_previewIsOld = true;

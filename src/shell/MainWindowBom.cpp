@@ -148,14 +148,12 @@ void MainWindow::showUse(const materialUses::use &use)
     }
     const bool isOpen = QFileInfo(use.path) == QFileInfo(m_document.path());
     if (!isOpen
-        && (userPrompts().ask(tr("Open the order %1 in place of this one?").arg(native), false)
-                != prompts::answer::yes
-            || !closeDocument()))
+        && userPrompts().ask(tr("Open the order %1 in place of this one?").arg(native), false)
+               != prompts::answer::yes)
         return;
-    if (!isOpen)
-        openFile(use.path);
-    showNow();
-    m_tabs->setCurrentIndex(0);
+    openInPlace(use.path);
+    if (QFileInfo(use.path) != QFileInfo(m_document.path()))
+        return;
     if (!goTo(m_order->linesView(), orderTree::ktmColumn))
         tell(tr("The order has no line of %1").arg(use.ktm));
 }
@@ -242,12 +240,13 @@ void MainWindow::showBaskets(const std::vector<supplierBasket::item> &items)
 // --- Messages
 // -------------------------------------------------------------------------------------
 
-void MainWindow::startMail(const QString &description)
+bool MainWindow::startMail(const QString &description)
 {
-    tell(mail::start(description, known().config())
-             ? tr("Handed to the mail program")
-             : tr("The mail program cannot be started; the message is %1")
-                   .arg(QDir::toNativeSeparators(description)));
+    const bool started = mail::start(description, known().config());
+    tell(started ? tr("Handed to the mail program")
+                 : tr("The mail program cannot be started; the message is %1")
+                       .arg(QDir::toNativeSeparators(description)));
+    return started;
 }
 
 // What is sent is the saved order.
@@ -272,8 +271,8 @@ void MainWindow::commandZpSend(bool)
     if (description.isEmpty())
         userPrompts().showError(tr("The message cannot be written to %1")
                                     .arg(QDir::toNativeSeparators(mail::folder()).toHtmlEscaped()));
-    else
-        startMail(description);
+    else if (startMail(description))
+        noteSent();
 }
 
 void MainWindow::sendData(mail::contents what)

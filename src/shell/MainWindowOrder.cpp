@@ -9,6 +9,7 @@
 #include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
+#include "orders/ordersWindow.h"
 #include "report/myWebView.h"
 #include "report/orderReport.h"
 #include "report/pdfPrinter.h"
@@ -337,6 +338,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         window->closeAtEnd();
     if (m_versions)
         m_versions->close();
+    if (m_orders)
+        m_orders->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();

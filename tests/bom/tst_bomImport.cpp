@@ -137,7 +137,8 @@ private slots:
     {
         const rows<bool, QString> row;
         row("LMK107BJ475KAHT", true, "LMK107BJ475KAHT");
-        row("LT1117CST-3.3#TRPBF", true, "LT1117CST33");
+        row("LT1117CST-3.3#TRPBF", true, "LT1117CST3.3");
+        row("SMBJ5.0A", true, "SMBJ5.0A");
         row("MAX3232EUE+T", true, "MAX3232EUE");
         row("BAS16,215", true, "BAS16");
         row("9774060151R", true, "9774060151R");
@@ -160,8 +161,10 @@ private slots:
     void notFitted_data()
     {
         const rows<bool> row;
-        row.each({"DNP", "10k DNP", "do not mount", "n/m", "(nie montować)", "not fitted", "No Stuff"}, true);
-        row.each({"", "10n", "DNPX", "N/A", "montować", "manual mount"}, false);
+        row.each(
+            {"DNP", "10k DNP", "do not mount", "n/m", "(nie montować)", "not fitted", "No Stuff", "100n n/m", "DNI"},
+            true);
+        row.each({"", "10n", "DNPX", "N/A", "montować", "manual mount", "dostawa 14 dni", "14 dni", "0.5 N/m"}, false);
     }
     void notFitted()
     {
@@ -258,6 +261,9 @@ private slots:
             "none|designator|quantity|value|case|manufacturer|part_number");
         row("Polish catalogue", "Oznaczenie;Ilość szt.;Nr katalogowy;Indeks materiałowy\nR1;1;RC1;", 0,
             "designator|quantity|part_number|ktm");
+        row("with #", "Designator,Manufacturer Part #,LCSC Part #\nR1,RC1,C1", 0,
+            "designator|part_number|supplier_number");
+        row("running number", "Position;Menge;Bezeichner\n1;2;R1\n2;1;R2", 0, "none|quantity|designator");
         row("German", "Bezeichner;Menge;Wert;Bauform;Hersteller\nR1;1;10k;0402;Yageo", 0,
             "designator|quantity|value|case|manufacturer");
         row("below a title", "Board X,,\nof today,,\n,,\nRef,Qty,Value\nR1,1,10k", 2, "designator|quantity|value");
@@ -296,6 +302,18 @@ private slots:
         row("left out", head + "R1,1,DNP,\nR2,1,10k,RC0402FR-0710KL", "-R1=1 DNP; R2=1 RC0402FR-0710KL [10k]");
         row("twice", head + "\"R1,R1\",1,10k,\nR1,1,10k,",
             "R1=1 10k [designators stand twice, the file says 2, the designators are 1]");
+        row("another kind", head + "R1,1,10k,\nH1,,,\nR2,,,",
+            "R1 R2=2 10k [the file says 1, the designators are 2] / "
+            "line 3 names no part: H1");
+        row("other parameters", "Ref,Value,Voltage\nC1,10u,16V\nC2,10u,50V", "C1=1 10u 16V; C2=1 10u 50V");
+        row("other descriptions", "Ref,Value,Description\nD1,LED,red\nD2,LED,green", "D1=1 LED red; D2=1 LED green");
+        row("two marks", "Ref,Value,Exclude from BOM,DNP\nH1,a,x,\nR2,b,,x\nR3,c,,", "-H1=1 a; -R2=1 b; R3=1 c");
+        row("marks of KiCad",
+            "<export><components><comp ref=\"R1\"><value>1k</value><property name=\"dnp\"/></comp><comp ref=\"R2\">"
+            "<value>2k</value><property name=\"DNP\" value=\"\"/><property name=\"MPN\" "
+            "value=\"\"/></comp></components>"
+            "</export>",
+            "-R1=1 1k; R2=1 2k");
         row("a sum below", head + "R1,1,10k,\n,1,,", "R1=1 10k / line 3 names no part: 1");
     }
     void lines()
@@ -343,6 +361,10 @@ private slots:
         one("a bead is no resistor", "R1,,,,600,0603,,,", "");
         one("no resistor by its designator", "RV1,,,,10k,0402,,,", "");
         one("the stated number is not there", "R1,,ERJ2RKF1002X,,10k,0402,,,", "R1");
+        one("voltage without its unit", "C1,,,,100n,0603,,100,", "C1");
+        one("tolerance as a share", "R1,,,,10k,0402,0.001,,", "R1");
+        one("a current that is not stated", "R1,,,,10k 2A,0402,,,", "R1");
+        one("a point counts", "D1,,SMBJ5.0A,,,,,,", "");
         one("nothing", "X1,,,,Quartz,,,,", "");
         one("a case in millimetres", "R1,,,,10k,Resistor_SMD:1005_C,,,", "R1 value");
         one("a number of digits alone", "J1,,47346-0001,,,,,,", "D1 number");
@@ -364,6 +386,7 @@ private slots:
             "C1;Kondensatory;c;100nF;0603;;50V;10%;;",
             "D1;Gniazda;;;;;;;Molex;473460001",
             "D2;Gniazda;;;;;;;Bourns;123456",
+            "T1;Diody;;;;;;;Littelfuse;SMBJ50A",
             "F1;Koraliki ferrytowe;Rezystory ferrytowe;600Ω;0603;;;;;",
         });
         const bomImport::staged lines = staged(content, *database);
@@ -378,6 +401,29 @@ private slots:
         // What was decided counts first.
         const auto again = staged(content, *database, {{lines.lines[0].line.key(), "K2"}});
         QCOMPARE(again.lines[0].match()->ktm, QString("K2"));
+    }
+
+    // A decision is for what was stated, and for nothing else.
+    void keysTellPartsApart_data()
+    {
+        const rows<QByteArray> row;
+        row("4.7k,,,", "47k,,,");
+        row("10m,,,", "10M,,,");
+        row("100n,,16V,", "100n,,50V,");
+        row("HEADER,61300311121,,", "HEADER,61300411121,,");
+        row(",,,Blue LED", ",,,Screw M3");
+    }
+    void keysTellPartsApart()
+    {
+        const auto [other] = fetch<QByteArray>();
+        const QByteArray head = "Ref,Value,MPN,Voltage,Description\nX1,";
+        const auto keyOf = [&](const QByteArray &line) {
+            const partsTable table = read(head + line);
+            return linesOf(table, partsColumns::guessed(table)).lines.value(0).key();
+        };
+        QVERIFY(!keyOf(tag().toUtf8()).isEmpty());
+        QVERIFY(keyOf(tag().toUtf8()) != keyOf(other));
+        QCOMPARE(partsLine().key(), QString());
     }
 
     void listIsWritten()

@@ -451,6 +451,10 @@ private slots:
         QVERIFY(read(m_folder->path("stock.xml")).contains(">7<"));
         QVERIFY(call("reservations r.xml --json").out.contains("\"after\": 7"));
         QCOMPARE(call("validate r.xml").code, 0);
+        // A list is found again from wherever it was named.
+        QVERIFY(QDir(m_folder->path()).mkpath("res"));
+        QCOMPARE(call("bom-reserve a.xml=2 -d stock.xml -r res/r.xml").code, 0);
+        QCOMPARE(call("bom-reserve --release " + m_folder->path("a.xml") + "=2 -d stock.xml -r res/r.xml").code, 0);
         // More than there is: what there is is taken, and it is said.
         const ended lacking = call("bom-built a.xml=3 -d stock.xml -r r.xml");
         QCOMPARE(lacking.out, QString("K\t\t9\t7\t0\t2\tnot enough in stock\n"));
