@@ -87,6 +87,8 @@ const scenario actions[] = {
     {"", "#database Return", "front ~ db_warehouse.xml"},
     {"", "#bom", "front = Bill of materials"},
     {"", "#firm", "front = List of manufacturers and suppliers"},
+    {"", "#orders", "front = Orders"},
+    {"Ctrl+Shift+O|Return End Ctrl+M|<", "#sentChanges ", "status = Nothing was changed since it was sent"},
     {"", "#messageTemplate Ctrl+End ' Dziękuję' !OK", "file _e-mail/msg_template.htm ~ Dziękuję"},
     {"", "#messageTemplate !OK", "file _e-mail/msg_template.htm = <p>Order <b>{Do_no}</b></p>"},
     {"", "#config", "front = Configuration"},
