@@ -147,8 +147,13 @@ std::vector<bomDifference> compareBoms(const kiv_mat_bomStruct &beforeList,
                                          : !now ? bomDifference::removed
                                                 : bomDifference::quantity,
                                          old, now);
-        row.quantityBefore = old ? old->shown() : QString();
-        row.quantityAfter = now ? now->shown() : QString();
+        // What the rows of designators tell is not told again, unless these are the same.
+        const bool areSame = old && now && old->designators == now->designators;
+        const auto shown = [areSame](const part *of) {
+            return !of ? QString() : of->isNumber && !areSame ? of->beside().text() : of->shown();
+        };
+        row.quantityBefore = shown(old);
+        row.quantityAfter = shown(now);
         rows.push_back(row);
     };
     for (auto key = before.byKey.constBegin(); key != before.byKey.constEnd(); ++key) {

@@ -24,7 +24,8 @@ struct stagedLine
 {
     partsLine line;
     std::vector<matchCandidate> candidates;
-    int chosen = -1; // of the candidates; -1: none
+    int chosen = -1;    // of the candidates; -1: none
+    bool isOwn = false; // the user settled it
 
     state stateOf() const;
     // Null when there is none.

@@ -401,6 +401,7 @@ void bomImportWindow::updateActions()
 
 void bomImportWindow::change(int row, stagedLine to, const QString &what)
 {
+    to.isOwn = true;
     m_commands->push(std::make_unique<lineChange>(m_lines, row, std::move(to)), what);
     statusBar()->showMessage(what);
 }
@@ -474,21 +475,23 @@ void bomImportWindow::changeEvent(QEvent *event)
     baseWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && isVisible()
         && m_matchedCount != m_known.materials().size())
-        matchOpen();
+        rematch(true);
 }
 
-void bomImportWindow::matchOpen()
+void bomImportWindow::rematch(bool openOnly)
 {
     bomImport::staged again;
     if (!stageAll(again))
         return;
     for (int row = 0; row < int(m_lines->lines().lines.size()); ++row) {
-        const state of = m_lines->line(row).stateOf();
-        if (of == state::ambiguous || of == state::unknown)
+        const stagedLine &line = m_lines->line(row);
+        const state of = line.stateOf();
+        if (!line.isOwn && (!openOnly || of == state::ambiguous || of == state::unknown))
             m_lines->replace(row, again.lines[size_t(row)]);
     }
     showCounts();
     showCandidates();
+    updateActions();
 }
 
 void bomImportWindow::commandNext(bool)
@@ -506,7 +509,7 @@ void bomImportWindow::commandNext(bool)
     statusBar()->showMessage(tr("No line is open"));
 }
 
-void bomImportWindow::commandMatchAgain(bool) { match(); }
+void bomImportWindow::commandMatchAgain(bool) { rematch(false); }
 
 void bomImportWindow::commandUndo(bool)
 {

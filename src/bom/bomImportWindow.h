@@ -63,7 +63,9 @@ private:
     void readFile(const partsTableOptions &options);
     bool stageAll(bomImport::staged &lines);
     void match();
-    void matchOpen();
+    // Looks for materials anew, for all lines but those that the user settled, or for those of them
+    // that have none.
+    void rematch(bool openOnly);
     void showCounts();
     void showCandidates();
     void updateActions();

@@ -461,6 +461,9 @@ private slots:
         row("quantity", line("K1", "", "3"), line("K1", "", "5"), "= K1 nK1: 3 -> 5");
         row("moved between lines", line("K1", "R1", "1") + line("K2", "R2", "1"),
             line("K1", "R2", "1") + line("K2", "R1", "1"), "~ R1: 1 x K1 nK1 -> K2 nK2 / ~ R2: 1 x K2 nK2 -> K1 nK1");
+        row("pieces beside a designator", line("K1", "J1", "5"), "", "- J1: 1 x K1 nK1 / - 4 x K1 nK1");
+        row("another part with pieces beside", line("K1", "J1", "5"), line("K2", "J1", "5"),
+            "~ J1: 1 x K1 nK1 -> K2 nK2 / - 4 x K1 nK1 / + 4 x K2 nK2");
         row("only one has it", line("K1", "", "3"), "", "- 3 x K1 nK1");
     }
     void compared()

@@ -123,6 +123,8 @@ const scenario importActions[] = {
     {"lines@1,0", "#leaveOut", "lines@1,0 = left out"},
     {"lines@0,0", "#next", "at = unknown"},
     {"lines@1,0", "#matchAgain", "lines@1,0 = unknown; lines@0,0 = matched"},
+    {"lines@1,0 #leaveOut", "#matchAgain", "lines@1,0 = left out"},
+    {"lines@0,0 #unmatch", "#matchAgain", "lines@0,0 = choose of 1"},
     {"lines@1,0", "#newMaterial Return ~200 Escape", "front = Database of material [%/_files/db_warehouse.xml]"},
     {"", "#close", "title = closed"},
     {"lines@1,0 #leaveOut", "#close Return", "boxes ~ not written yet; title ~ in.csv"},
