@@ -174,15 +174,19 @@ void guessByContent(const partsTable &list, guess *of)
     take(ktm, nearlyAll, [](const QString &text) { return checkKtm(text); });
     take(designator, nearlyAll,
          [](const QString &text) { return partsTexts::areDesignators(text); });
-    // Without captions one column of numbers is as good as another.
-    if (of->header < 0) {
+    // Without captions one column of numbers is as good as another; beside known captions an
+    // unknown one has to hold little else.
+    const bool isAlone = of->header < 0;
+    if (isAlone)
         take(quantity, 1, isCount);
-        take(package, most,
-             [](const QString &text) { return !partsTexts::caseIn(text).isEmpty(); });
-        take(value, most, [](const QString &text) { return ::quantity::parse(text).has_value(); });
-        take(partNumber, most,
-             [](const QString &text) { return partsTexts::looksLikePartNumber(text); });
-    }
+    const double enough = isAlone ? most : nearlyAll;
+    take(package, enough, [](const QString &text) { return !partsTexts::caseIn(text).isEmpty(); });
+    take(value, enough, [isAlone](const QString &text) {
+        const auto read = ::quantity::parse(text);
+        return read && (isAlone || !read->bare);
+    });
+    take(partNumber, enough,
+         [](const QString &text) { return partsTexts::looksLikePartNumber(text); });
 }
 
 } // namespace

@@ -261,6 +261,8 @@ private slots:
             "none|designator|quantity|value|case|manufacturer|part_number");
         row("Polish catalogue", "Oznaczenie;Ilość szt.;Nr katalogowy;Indeks materiałowy\nR1;1;RC1;", 0,
             "designator|quantity|part_number|ktm");
+        row("unknown captions", "Ref,Qty,Was,Wo,Womit\nR1,1,10k,R_0402,RC0402FR-0710KL\nR2,1,4k7,0603,RC0603FR-074K7L",
+            0, "designator|quantity|value|case|part_number");
         row("with #", "Designator,Manufacturer Part #,LCSC Part #\nR1,RC1,C1", 0,
             "designator|part_number|supplier_number");
         row("running number", "Position;Menge;Bezeichner\n1;2;R1\n2;1;R2", 0, "none|quantity|designator");
