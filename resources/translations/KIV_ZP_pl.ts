@@ -8450,6 +8450,10 @@ własne oznaczenie</translation>
             <numerusform>bez %n pozycji, które nie mają ceny lub ilości</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
 </context>
 <context>
     <name>ordersWindow</name>

@@ -20,8 +20,8 @@ QString translated(const char *text) { return QCoreApplication::translate("order
 
 const std::array<shownColumn, orderRows::columns> orderColumns{{
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Number")); }, 120, false},
-    {labels::date, 90, false},
-    {[] { return translated(QT_TRANSLATE_NOOP("orders", "State")); }, 140, false},
+    {[] { return translated(QT_TRANSLATE_NOOP("orders", "Date")); }, 90, false},
+    {[] { return translated(QT_TRANSLATE_NOOP("orders", "State")); }, 185, false},
     {labels::target, 200, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Author")); }, 190, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Lines")); }, 70, true},
@@ -31,7 +31,7 @@ const std::array<shownColumn, orderRows::columns> orderColumns{{
 
 const std::array<shownColumn, foundLineRows::columns> lineColumns{{
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Order")); }, 110, false},
-    {labels::date, 90, false},
+    {[] { return translated(QT_TRANSLATE_NOOP("orders", "Date")); }, 90, false},
     {labels::ktm, 160, false},
     {labels::name, 190, false},
     {labels::quantity, 80, true},
