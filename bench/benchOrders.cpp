@@ -85,7 +85,8 @@ void scan(benchmark::State &state, const QString &folder)
     state.counters["ratio"] = seconds / double(state.iterations()) / (60 * share);
 }
 
-// From the cache to a register that can be searched; ratio against that share of half a second.
+// From the cache to a register that can be searched; ratio against half a second: the
+// texts are as many as in 10,000 orders, the lines a tenth.
 void start(benchmark::State &state, const QString &folder)
 {
     double seconds = 0;
@@ -99,10 +100,10 @@ void start(benchmark::State &state, const QString &folder)
         seconds += taken;
         state.SetIterationTime(taken);
     }
-    state.counters["ratio"] = seconds / double(state.iterations()) / (0.5 * share);
+    state.counters["ratio"] = seconds / double(state.iterations()) / 0.5;
 }
 
-// The slowest key of a search; ratio against that share of 50 ms.
+// The slowest key of a search; ratio against 50 ms, likewise.
 void keys(benchmark::State &state, const QString &folder)
 {
     orderIndex index(QStringLiteral(KIVZP_BENCH_DIR "/orders.sqlite"));
@@ -121,7 +122,7 @@ void keys(benchmark::State &state, const QString &folder)
         slowest = std::max(slowest, taken);
         state.SetIterationTime(taken);
     }
-    state.counters["ratio"] = slowest / (0.05 * share);
+    state.counters["ratio"] = slowest / 0.05;
 }
 
 } // namespace
