@@ -88,14 +88,8 @@ partsLine lineOf(const rowFields &fields)
 // not.
 bool areOfOneKind(const QStringList &before, const QStringList &after)
 {
-    const auto kindOf = [](const QStringList &designators) {
-        const QString first = designators.value(0).toUpper();
-        int letters = 0;
-        while (letters < first.size() && !first[letters].isDigit())
-            ++letters;
-        return first.left(letters);
-    };
-    return kindOf(before) == kindOf(after);
+    return partsTexts::designatorLetters(before.value(0))
+           == partsTexts::designatorLetters(after.value(0));
 }
 
 // Everything but designators and quantity.

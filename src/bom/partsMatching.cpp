@@ -140,11 +140,7 @@ QString designatorKind(const partsLine &line)
 {
     QString kind;
     for (const QString &designator : line.designators) {
-        const QString letters = designator
-                                    .left(int(std::find_if(designator.begin(), designator.end(),
-                                                           [](QChar c) { return c.isDigit(); })
-                                              - designator.begin()))
-                                    .toUpper();
+        const QString letters = partsTexts::designatorLetters(designator);
         if (!kind.isEmpty() && letters != kind)
             return {};
         kind = letters;

@@ -80,6 +80,13 @@ bool areDesignators(const QString &cell)
     });
 }
 
+QString designatorLetters(const QString &designator)
+{
+    const auto digit =
+        std::find_if(designator.begin(), designator.end(), [](QChar c) { return c.isDigit(); });
+    return designator.left(int(digit - designator.begin())).toUpper();
+}
+
 void sortDesignators(QStringList *designators)
 {
     const auto parted = [](const QString &designator) {

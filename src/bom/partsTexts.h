@@ -43,6 +43,9 @@ private:
 };
 bool looksLikePartNumber(const QString &text);
 
+// The letters before the number of a designator, as capitals: what kind of part it is.
+QString designatorLetters(const QString &designator);
+
 // "DNP", "do not mount", "n/m", "nie montować": in a value or description, or as a mark.
 bool saysNotFitted(const QString &text);
 // yes, 1, x, TAK ...; no, 0, NIE ...

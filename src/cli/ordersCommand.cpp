@@ -149,7 +149,7 @@ int runOrders(const QStringList &arguments)
         configStruct config;
         if (!loadConfiguration(&config))
             return refused;
-        folders = orderRegister::foldersOf(config);
+        folders = config.orderFolders();
         if (cachePath.isEmpty())
             cachePath = orderIndex::usualCache();
     }

@@ -172,6 +172,17 @@ QFont configStruct::font() const
     return font;
 }
 
+QStringList configStruct::orderFolders() const
+{
+    const optionStruct *option = options.findOption(optionKey::ordersFolders);
+    const QString named = option ? option->value1 : QStringLiteral("_zp");
+    QStringList folders;
+    for (const QString &one : named.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+        folders.append(QDir::cleanPath(QFileInfo(paths::data(one.trimmed())).absoluteFilePath()));
+    folders.removeDuplicates();
+    return folders;
+}
+
 QString configStruct::backupPath()
 {
     optionStruct *option = options.findOption(optionKey::pathBackup);

@@ -60,6 +60,10 @@ public:
     // The folder for backups. When PATH_BACKUP is missing or empty, it is set to a folder in the
     // system's temporary one.
     QString backupPath();
+
+    // The folders of orders, as absolute paths: those of ORDERS_FOLDERS, parted by semicolons,
+    // which may start at the data folder; "_zp" without the option.
+    QStringList orderFolders() const;
     // Where earlier versions go: that folder, a relative one being beside the program, and while it
     // is the temporary one, which others share and the system empties, one of the user's, too.
     QStringList backupFolders();

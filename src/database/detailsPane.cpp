@@ -95,10 +95,10 @@ bool detailsPane::eventFilter(QObject *watched, QEvent *event)
 
 void detailsPane::lookForFiles()
 {
-    const QDir orders(paths::data(QStringLiteral("_zp")));
     QStringList found;
-    for (const QString &name : orders.entryList({QStringLiteral("*.xml")}, QDir::Files))
-        found.append(orders.filePath(name));
+    for (const QDir folder : m_known.config().orderFolders())
+        for (const QString &name : folder.entryList({QStringLiteral("*.xml")}, QDir::Files))
+            found.append(folder.filePath(name));
     m_uses.follow(filesOf(m_known.boms(), m_known.boms().filePath), found);
     if (!m_uses.isComplete())
         m_reading->start();

@@ -62,11 +62,13 @@ orderedMaterials orderedIn(const kiv_mat_zpStruct &order)
     return found;
 }
 
-bool orderScan::update(const QString &folder, const progressFunction &progress)
+bool orderScan::update(const QStringList &folders, const progressFunction &progress)
 {
     QHash<QString, scanned> files;
-    const QFileInfoList found =
-        QDir(folder).entryInfoList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable);
+    QFileInfoList found;
+    for (const QString &folder : folders)
+        found +=
+            QDir(folder).entryInfoList({QStringLiteral("*.xml")}, QDir::Files | QDir::Readable);
     int done = 0;
     bool goesOn = true;
     for (const QFileInfo &info : found) {

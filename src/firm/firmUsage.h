@@ -21,14 +21,14 @@ struct orderedMaterials
 
 orderedMaterials orderedIn(const kiv_mat_zpStruct &order);
 
-// The orders of a folder, of which each file is read through once for its KTMs and its date, and
+// The orders of folders, of which each file is read through once for its KTMs and its date, and
 // again when it has changed. What is no order, or cannot be read, counts for nothing.
 class orderScan
 {
 public:
     // False when progress, which is told files, cancelled it: then the orders are those known by
     // then.
-    bool update(const QString &folder, const progressFunction &progress = {});
+    bool update(const QStringList &folders, const progressFunction &progress = {});
     std::vector<orderedMaterials> orders() const;
 
 private:

@@ -258,7 +258,7 @@ void firmWindow::findFigures()
         return;
     {
         workProgress::scope work(progress(), tr("Reading orders"));
-        m_orders.update(paths::data(QStringLiteral("_zp")), work.function());
+        m_orders.update(known().config().orderFolders(), work.function());
     }
     countFigures();
 }

@@ -17,7 +17,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSqlDatabase>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
 
@@ -397,6 +396,7 @@ bool orderIndex::update(const QStringList &folders, const progressFunction &prog
 
 void orderIndex::arrange()
 {
+    ++m_revision;
     std::sort(m_orders.begin(), m_orders.end(), [](const order &a, const order &b) {
         return a.date != b.date ? a.date > b.date : a.path > b.path;
     });

@@ -82,6 +82,9 @@ public:
     // progress is told files; false when it cancelled: then what is known so far stays.
     bool update(const QStringList &folders, const progressFunction &progress = {});
 
+    // Another number when other orders were read.
+    int revision() const { return m_revision; }
+
     // The latest first.
     const std::vector<order> &orders() const { return m_orders; }
     const QString &text(quint32 number) const { return m_texts[number]; }
@@ -131,6 +134,7 @@ private:
     QHash<QString, quint32> m_numbers;
     QHash<QString, file> m_files; // by path, without the orders' lines
     std::vector<order> m_orders;
+    int m_revision = 0;
     // By number of a KTM: folded part numbers.
     QHash<quint32, std::string> m_partNumbers;
     // The folded texts, each between line ends, and where each begins.

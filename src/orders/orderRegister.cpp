@@ -10,17 +10,6 @@
 
 #include <algorithm>
 
-QStringList orderRegister::foldersOf(const configStruct &config)
-{
-    const optionStruct *option = config.options.findOption(optionKey::ordersFolders);
-    const QString named = option ? option->value1 : QStringLiteral("_zp");
-    QStringList folders;
-    for (const QString &one : named.split(QLatin1Char(';'), Qt::SkipEmptyParts))
-        folders.append(QDir::cleanPath(QFileInfo(paths::data(one.trimmed())).absoluteFilePath()));
-    folders.removeDuplicates();
-    return folders;
-}
-
 QString orderRegister::statesIn(const QString &folder)
 {
     return folder + QLatin1String("/order_states.xml");
@@ -36,6 +25,16 @@ orderIndex &orderRegister::index()
     if (!m_index)
         m_index = std::make_unique<orderIndex>(m_cache);
     return *m_index;
+}
+
+int orderRegister::revision()
+{
+    int number = index().revision();
+    for (auto &[folder, states] : m_states) {
+        states.file.now();
+        number += states.file.readings();
+    }
+    return number;
 }
 
 orderRegister::folderStates &orderRegister::statesOf(const QString &orderPath)

@@ -21,14 +21,14 @@ public:
     {
     }
 
-    // The folders that the configuration names, as absolute paths.
-    static QStringList foldersOf(const configStruct &config);
     // The file of states in a folder of orders.
     static QString statesIn(const QString &folder);
 
     // As orderIndex::update().
     bool update(const QStringList &folders, const progressFunction &progress = {});
     orderIndex &index();
+    // Another number when orders or their states are others than before.
+    int revision();
 
     // When and how an order was sent last; null when it was not. Looked up as the files are now.
     const orderStateStruct *sentState(const QString &orderPath);

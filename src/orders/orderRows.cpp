@@ -21,7 +21,7 @@ QString translated(const char *text) { return QCoreApplication::translate("order
 const std::array<shownColumn, orderRows::columns> orderColumns{{
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Number")); }, 120, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Date")); }, 90, false},
-    {[] { return translated(QT_TRANSLATE_NOOP("orders", "State")); }, 185, false},
+    {[] { return translated(QT_TRANSLATE_NOOP("orders", "State")); }, 215, false},
     {labels::target, 200, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Author")); }, 190, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Lines")); }, 70, true},
@@ -35,7 +35,7 @@ const std::array<shownColumn, foundLineRows::columns> lineColumns{{
     {labels::ktm, 160, false},
     {labels::name, 190, false},
     {labels::quantity, 80, true},
-    {labels::unit, 60, false},
+    {labels::unit, 80, false},
     {labels::price, 80, true},
     {labels::target, 140, false},
     {[] { return translated(QT_TRANSLATE_NOOP("orders", "Delivery")); }, 130, false},
@@ -59,18 +59,16 @@ QVariant headerOf(const std::array<shownColumn, Count> &of, int section,
 QString dayOf(const QDate &date) { return date.toString(labels::dateFormat()); }
 
 // The state is never told by colour alone: the word stands beside the picture.
-const char *iconOf(orderStage stage)
+const QIcon &iconOf(orderStage stage)
 {
-    switch (stage) {
-    case orderStage::edited:
-        return ":/icons/icons/led_gray.png";
-    case orderStage::sent:
-        return ":/icons/icons/led_blue.png";
-    case orderStage::partlyDelivered:
-        return ":/icons/icons/led_purple.png";
-    default:
-        return ":/icons/icons/led_green.png";
-    }
+    static const std::array<QIcon, 5> icons{
+        QIcon(QStringLiteral(":/icons/icons/led_gray.png")),
+        QIcon(QStringLiteral(":/icons/icons/led_blue.png")),
+        QIcon(QStringLiteral(":/icons/icons/led_purple.png")),
+        QIcon(QStringLiteral(":/icons/icons/led_green.png")),
+        QIcon(QStringLiteral(":/icons/icons/led_green.png")),
+    };
+    return icons[size_t(stage)];
 }
 
 } // namespace
@@ -111,7 +109,7 @@ QVariant orderRows::data(const QModelIndex &index, int role) const
     if (role == Qt::TextAlignmentRole)
         return headerOf(orderColumns, index.column(), Qt::Horizontal, role);
     if (role == Qt::DecorationRole && index.column() == state)
-        return QIcon(QLatin1String(iconOf(m_stages[size_t(index.row())])));
+        return iconOf(m_stages[size_t(index.row())]);
     if (role == Qt::ToolTipRole) {
         const orderStateStruct *sent =
             index.column() == state ? m_orders->sentState(order.path) : nullptr;

@@ -20,6 +20,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 const windowAction<ordersWindow> actionTable[] = {
@@ -161,50 +163,61 @@ void ordersWindow::showNow()
     show();
     raise();
     activateWindow();
+    // Materials may have other part numbers by now.
+    m_shownRevision = -1;
+    statusBar()->clearMessage();
     readAgain();
     m_words->setFocus();
 }
-
-void ordersWindow::searchFor(const QString &words) { m_words->setText(words); }
 
 void ordersWindow::readAgain()
 {
     if (m_reading)
         return;
     const QScopedValueRollback reading(m_reading, true);
-    const QStringList folders = orderRegister::foldersOf(m_known.config());
+    const QStringList folders = m_known.config().orderFolders();
     if (!m_watcher->directories().isEmpty())
         m_watcher->removePaths(m_watcher->directories());
     QStringList lacking;
     for (const QString &folder : folders)
         if (!QDir(folder).exists() || !m_watcher->addPath(folder))
             lacking.append(QDir::toNativeSeparators(folder));
+    // The rows are numbers of orders, which are others afterwards.
+    const QStringList before = selectedPaths();
+    const int line = view()->currentIndex().row();
     bool complete = false;
     {
         workProgress::scope work(progress(), tr("Reading orders"));
         complete = m_orders.update(folders, work.function());
+        // Before events are handled again, which would paint the old rows.
+        if (m_orders.revision() != m_shownRevision)
+            showAgain(before.value(0), line);
     }
-    m_orders.index().setMaterials(m_known.materials());
-    // The order that one was at stays current.
-    const QStringList before = selectedPaths();
-    const int line = view()->currentIndex().row();
-    m_rows.showAgain();
-    search();
-    if (!before.isEmpty() && view() == m_list)
-        for (int row = 0; row < m_sorted.rowCount(); ++row)
-            if (m_rows.at(m_sorted.mapToSource(m_sorted.index(row, 0)).row()).path
-                == before.first()) {
-                m_list->setCurrentIndex(m_sorted.index(row, 0));
-                break;
-            }
-    if (!before.isEmpty() && view() == m_lines)
-        m_lines->setCurrentIndex(m_found.index(std::min(line, m_found.rowCount() - 1), 0));
     if (!complete)
         tell(tr("Reading was cancelled; some orders are missing"));
     else if (!lacking.isEmpty())
         tell(tr("There is no folder %1").arg(lacking.join(QLatin1String(", "))));
     else if (const QStringList faults = m_orders.faults(); !faults.isEmpty())
         tell(faults.join(QLatin1String("; ")));
+}
+
+void ordersWindow::showAgain(const QString &path, int line)
+{
+    m_orders.index().setMaterials(m_known.materials());
+    m_rows.showAgain();
+    m_shownRevision = m_orders.revision();
+    search();
+    if (path.isEmpty())
+        return;
+    // The order that one was at stays current, or what stands in its place.
+    QAbstractItemModel *model = view()->model();
+    QModelIndex current = model->index(std::min(line, model->rowCount() - 1), 0);
+    for (int row = 0; view() == m_list && row < m_rows.rowCount(); ++row)
+        if (m_rows.at(row).path == path)
+            current = m_sorted.mapFromSource(m_rows.index(row, 0));
+    // Whatever key is held: the view's own way would let Ctrl unselect it.
+    view()->selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect
+                                                           | QItemSelectionModel::Rows);
 }
 
 void ordersWindow::search()
@@ -340,6 +353,7 @@ void ordersWindow::commandFind(bool)
 
 void ordersWindow::commandReadAgain(bool)
 {
+    statusBar()->clearMessage();
     readAgain();
     if (statusBar()->currentMessage().isEmpty())
         tell(tr("The orders are as their files are"));

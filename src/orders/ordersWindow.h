@@ -22,8 +22,6 @@ public:
 
     // Comes to the front with the orders as their files are now.
     void showNow();
-    // Shows what a search finds.
-    void searchFor(const QString &words);
 
 public slots:
     void commandOpen(bool);
@@ -52,6 +50,9 @@ private:
     void buildWidgets();
     QTreeView *newTable(const char *name, const QString &accessibleName, QAbstractItemModel *model);
     void readAgain();
+    // Shows the orders and what the search finds anew, with that order or that line of the found
+    // ones current.
+    void showAgain(const QString &path, int line);
     void search();
     void updateActions();
     void tell(const QString &text);
@@ -73,5 +74,6 @@ private:
     QTreeView *m_list;
     QTreeView *m_lines;
     QLabel *m_counts;
+    int m_shownRevision = -1;
     bool m_reading = false;
 };

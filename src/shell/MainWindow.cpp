@@ -441,8 +441,7 @@ void MainWindow::updateActions()
     allowWhenUnlocked({"fillDown", "moveUp", "moveDown", "deleteLines"}, areSeen && !empty, whyNot);
     setAvailable("copyCells", areSeen && !empty, whyNot);
     setAvailable("archiveDD", !m_document.path().isEmpty(), tr("the order was not saved yet"));
-    setAvailable("sentChanges", !orders().sentCopy(m_document.path()).isEmpty(),
-                 tr("the order was not sent"));
+    setAvailable("sentChanges", m_hasSentCopy, tr("the order was not sent"));
 }
 
 void MainWindow::showContextMenu(const QPoint &position)

@@ -226,6 +226,7 @@ private:
     void copyAsNew(const QString &path);
     void noteSent();
     void lockIfSent();
+    void lookWhetherSent();
     orderRegister &orders();
 
     orderDocument m_document;
@@ -246,4 +247,5 @@ private:
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     bool m_previewIsOld = true;
+    bool m_hasSentCopy = false;
 };

@@ -266,6 +266,7 @@ void MainWindow::saved()
     userState::instance().lastZp = m_document.path();
     m_order->attentions()->document()->setModified(false);
     m_recovery->discard();
+    lookWhetherSent();
     refreshPreview();
     showSums();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -37,7 +37,7 @@ void MainWindow::commandOrders(bool)
                         showUse({true, path, line, ktm, {}, {}, {}});
                 });
         connect(m_orders.get(), &ordersWindow::copyWanted, this, &MainWindow::copyAsNew);
-        connect(m_orders.get(), &ordersWindow::stateChanged, this, &MainWindow::updateActions);
+        connect(m_orders.get(), &ordersWindow::stateChanged, this, &MainWindow::lookWhetherSent);
     }
     m_orders->showNow();
 }
@@ -90,12 +90,19 @@ void MainWindow::noteSent()
             known().config(), &fault))
         userPrompts().showError(messages::notWritten(
             orderRegister::statesIn(QFileInfo(m_document.path()).absolutePath()), fault));
+    lookWhetherSent();
+}
+
+void MainWindow::lookWhetherSent()
+{
+    m_hasSentCopy = !orders().sentCopy(m_document.path()).isEmpty();
     updateActions();
 }
 
 // What was sent is not changed by mistake.
 void MainWindow::lockIfSent()
 {
+    lookWhetherSent();
     const orderStateStruct *sent = orders().sentState(m_document.path());
     if (!sent)
         return;

@@ -231,7 +231,7 @@ private slots:
         testSupport::write(path("broken.xml"), "<kiv_mat_zp><order_items><order_item><ktm>1</ktm>");
         testSupport::write(path("other.xml"), "<kiv_mat_firm><ktm>1</ktm></kiv_mat_firm>");
         orderScan scan;
-        QVERIFY(scan.update(folder.path()));
+        QVERIFY(scan.update({folder.path()}));
         auto its = figuresOf({m_database.get()}, {}, scan.orders());
         const auto seen = [&its](firmKind kind, const QString &name) {
             const firmFigures found = its[kind].value(name);
@@ -244,13 +244,13 @@ private slots:
         // Read again when it changed, forgotten when it is gone; a name planned counts already.
         order("a.xml", "24.12.2026", "3 1 1 3"); // of another size: both may be written in one tick of the clock
         QVERIFY(QFile::remove(path("b.xml")));
-        QVERIFY(scan.update(folder.path()));
+        QVERIFY(scan.update({folder.path()}));
         renameStep step;
         step[firmOperations::manufacturer] = {{"a", "A"}};
         its = figuresOf({m_database.get()}, {step}, scan.orders());
         QCOMPARE(seen(firmOperations::manufacturer, "A"), QString("2 1 20261224"));
         QCOMPARE(seen(firmOperations::supplier, "A"), QString("1 0 "));
-        QVERIFY(!orderScan().update(folder.path(), [](long long, long long) { return false; }));
+        QVERIFY(!orderScan().update({folder.path()}, [](long long, long long) { return false; }));
     }
 
 private:

@@ -47,11 +47,16 @@ private slots:
     // What was deleted or written meanwhile is seen when the window is read again.
     void filesChangeMeanwhile()
     {
-        steps(ORDERS);
+        // The row that is current is there no more.
+        steps(ORDERS "Return End");
         QVERIFY(QFile::remove(path("_zp/a.xml")));
+        QVERIFY(QFile::remove(path("_zp/b.xml")));
         write("_zp/c.xml", "ZP/79/2020", "03.02.2020", "");
         work("F5");
-        look("orders:0 = ZP/12/2026|ZP/79/2020|ZP/78/2020");
+        look("orders:0 = ZP/12/2026|ZP/79/2020; counts = 2 orders");
+        // Nothing changed: what is selected stays.
+        work("End F5");
+        look("at = ZP/79/2020; status ~ as their files are");
     }
 
     // A sent order opens locked; what is changed all the same is shown beside what was sent.
