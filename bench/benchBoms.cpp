@@ -59,8 +59,7 @@ std::vector<bomSets> withSets(const bomVector &boms, size_t count)
 
 int order(const bomVector &boms, size_t count, const ktmIndex &materials, kiv_mat_zpStruct *into)
 {
-    return apply(planOf(demandOf(withSets(boms, count), materials), *into, amount::needed,
-                        present::raise, {}),
+    return apply(planOf(demandOf(withSets(boms, count), materials), *into, {}, {}),
                  into);
 }
 

@@ -351,6 +351,48 @@
             <numerusform>%n differences</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n price(s) of the last orders</source>
+        <translation>
+            <numerusform>%n price of the last order</numerusform>
+            <numerusform>%n prices of the last orders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them on the way already</source>
+        <translation>
+            <numerusform>%n of them on the way already</numerusform>
+            <numerusform>%n of them on the way already</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n CPV threshold(s) passed</source>
+        <translation>
+            <numerusform>%n CPV threshold passed</numerusform>
+            <numerusform>%n CPV thresholds passed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) delivered</source>
+        <translation>
+            <numerusform>%n line delivered</numerusform>
+            <numerusform>%n lines delivered</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them in part</source>
+        <translation>
+            <numerusform>%n of them in part</numerusform>
+            <numerusform>%n of them in part</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n price(s) of offers</source>
+        <translation>
+            <numerusform>%n price of offers</numerusform>
+            <numerusform>%n prices of offers</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -369,6 +411,61 @@
         <translation>
             <numerusform>%n material</numerusform>
             <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>annualPlanReport</name>
+    <message numerus="yes">
+        <source>%n line(s) whose price or quantity is no number are not in the sums</source>
+        <translation>
+            <numerusform>%n line whose price or quantity is no number is not in the sums</numerusform>
+            <numerusform>%n lines whose price or quantity is no number are not in the sums</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) with one for each firm in their place are not in the sums</source>
+        <translation>
+            <numerusform>%n order with one for each firm in its place is not in the sums</numerusform>
+            <numerusform>%n orders with one for each firm in their place are not in the sums</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>annualPlanWindow</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s)</source>
+        <translation>
+            <numerusform>%n order</numerusform>
+            <numerusform>%n orders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a CPV code</source>
+        <translation>
+            <numerusform>%n line without a CPV code</numerusform>
+            <numerusform>%n lines without a CPV code</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
         </translation>
     </message>
 </context>
@@ -668,6 +765,23 @@
     </message>
 </context>
 <context>
+    <name>deliveryDialog</name>
+    <message numerus="yes">
+        <source>%n line(s) of it</source>
+        <translation>
+            <numerusform>%n line came</numerusform>
+            <numerusform>%n lines came</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to come</source>
+        <translation>
+            <numerusform>%n to come</numerusform>
+            <numerusform>%n to come</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>droppedFiles</name>
     <message numerus="yes">
         <source>Attach %n file(s) to %1</source>
@@ -833,6 +947,37 @@
         <translation>
             <numerusform>%n firm merged into %1</numerusform>
             <numerusform>%n firms merged into %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>importOfferDialog</name>
+    <message numerus="yes">
+        <source>%n material(s) offered</source>
+        <translation>
+            <numerusform>%n material offered</numerusform>
+            <numerusform>%n materials offered</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without a price</source>
+        <translation>
+            <numerusform>%n without a price</numerusform>
+            <numerusform>%n without a price</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not named</source>
+        <translation>
+            <numerusform>%n not named</numerusform>
+            <numerusform>%n not named</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thing(s) keep the offer out</source>
+        <translation>
+            <numerusform>%n thing keeps the offer out</numerusform>
+            <numerusform>%n things keep the offer out</numerusform>
         </translation>
     </message>
 </context>
@@ -1097,6 +1242,119 @@
             <numerusform>%n to be ordered</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n on the way already</source>
+        <translation>
+            <numerusform>%n on the way already</numerusform>
+            <numerusform>%n on the way already</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>newRequestsDialog</name>
+    <message numerus="yes">
+        <source>%n firm(s)</source>
+        <translation>
+            <numerusform>%n firm</numerusform>
+            <numerusform>%n firms</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n material</numerusform>
+            <numerusform>%n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity are left out</source>
+        <translation>
+            <numerusform>%n line without a quantity is left out</numerusform>
+            <numerusform>%n lines without a quantity are left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>offerFirmRows</name>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>offerImport</name>
+    <message numerus="yes">
+        <source>%n more remark(s) of this kind</source>
+        <translation>
+            <numerusform>%n more remark of this kind</numerusform>
+            <numerusform>%n more remarks of this kind</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>offerRows</name>
+    <message numerus="yes">
+        <source>%n day(s) until it comes</source>
+        <translation>
+            <numerusform>%n day until it comes</numerusform>
+            <numerusform>%n days until it comes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>offersWindow</name>
+    <message numerus="yes">
+        <source>%n material(s) from nobody</source>
+        <translation>
+            <numerusform>%n material from nobody</numerusform>
+            <numerusform>%n materials from nobody</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n line without a quantity</numerusform>
+            <numerusform>%n lines without a quantity</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Offer of %1 taken in: %n material(s)</source>
+        <translation>
+            <numerusform>Offer of %1 taken in: %n material</numerusform>
+            <numerusform>Offer of %1 taken in: %n materials</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) are not offered there</source>
+        <translation>
+            <numerusform>%n material is not offered there</numerusform>
+            <numerusform>%n materials are not offered there</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2, %n line(s)</source>
+        <translation>
+            <numerusform>%1: %2, %n line</numerusform>
+            <numerusform>%1: %2, %n lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) written</source>
+        <translation>
+            <numerusform>%n order written</numerusform>
+            <numerusform>%n orders written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -1272,6 +1530,14 @@
         <source>OPTION_ORDERS_FOLDERS</source>
         <translation>Folders of orders</translation>
     </message>
+    <message>
+        <source>OPTION_ORDER_THRESHOLDS</source>
+        <translation>Thresholds of purchases by CPV [PLN] (digits: amount)</translation>
+    </message>
+    <message>
+        <source>OPTION_VAT_RATE</source>
+        <translation>VAT in the order&apos;s report [%] (empty: none)</translation>
+    </message>
 </context>
 <context>
     <name>orders</name>
@@ -1369,6 +1635,51 @@
         <translation>
             <numerusform>%n cannot be changed</numerusform>
             <numerusform>%n cannot be changed</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>requestsWindow</name>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n request</numerusform>
+            <numerusform>%n requests</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an offer</source>
+        <translation>
+            <numerusform>%n without an offer</numerusform>
+            <numerusform>%n without an offer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <translation>
+            <numerusform>%n overdue</numerusform>
+            <numerusform>%n overdue</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n message(s) handed to the mail program</source>
+        <translation>
+            <numerusform>%n message handed to the mail program</numerusform>
+            <numerusform>%n messages handed to the mail program</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n only written</source>
+        <translation>
+            <numerusform>%n only written</numerusform>
+            <numerusform>%n only written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>%n row copied</numerusform>
+            <numerusform>%n rows copied</numerusform>
         </translation>
     </message>
 </context>

@@ -842,6 +842,10 @@
         <source>The database is saved, but the boards that were built cannot be noted in %1; saving again tries it again</source>
         <translation>Bazę zapisano, ale zmontowanych płytek nie można odnotować w pliku %1; ponowny zapis spróbuje jeszcze raz</translation>
     </message>
+    <message>
+        <source>The database is saved, but the deliveries that went into its stock cannot be noted beside the orders; saving again tries it again</source>
+        <translation>Baza jest zapisana, ale dostaw przyjętych na jej stan nie można odnotować przy zamówieniach; ponowny zapis spróbuje jeszcze raz</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1336,6 +1340,86 @@
     <message>
         <source>After</source>
         <translation>Po</translation>
+    </message>
+    <message>
+        <source>None of these materials was ordered before</source>
+        <translation>Żadnego z tych materiałów jeszcze nie zamawiano</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n price(s) of the last orders</source>
+        <translation>
+            <numerusform>%n cena z ostatniego zamówienia</numerusform>
+            <numerusform>%n ceny z ostatnich zamówień</numerusform>
+            <numerusform>%n cen z ostatnich zamówień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them on the way already</source>
+        <translation>
+            <numerusform>%n z nich jest już w drodze</numerusform>
+            <numerusform>%n z nich są już w drodze</numerusform>
+            <numerusform>%n z nich jest już w drodze</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>pozycje %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n CPV threshold(s) passed</source>
+        <translation>
+            <numerusform>Przekroczony %n próg CPV</numerusform>
+            <numerusform>Przekroczone %n progi CPV</numerusform>
+            <numerusform>Przekroczonych %n progów CPV</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing of the selected lines is to come</source>
+        <translation>Z zaznaczonych pozycji nic już nie ma przyjść</translation>
+    </message>
+    <message>
+        <source>Nothing of the order is to come</source>
+        <translation>Z tego zamówienia nic już nie ma przyjść</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) delivered</source>
+        <translation>
+            <numerusform>dostarczono %n pozycję</numerusform>
+            <numerusform>dostarczono %n pozycje</numerusform>
+            <numerusform>dostarczono %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them in part</source>
+        <translation>
+            <numerusform>%n z nich częściowo</numerusform>
+            <numerusform>%n z nich częściowo</numerusform>
+            <numerusform>%n z nich częściowo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save the order first</source>
+        <translation>Najpierw zapisz zamówienie</translation>
+    </message>
+    <message>
+        <source>These deliveries cannot be taken into stock:</source>
+        <translation>Tych dostaw nie można przyjąć na stan:</translation>
+    </message>
+    <message>
+        <source>No delivery is to be taken into stock</source>
+        <translation>Nie ma dostaw do przyjęcia na stan</translation>
+    </message>
+    <message>
+        <source>Delivered into stock</source>
+        <translation>Dostawy na stan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n price(s) of offers</source>
+        <translation>
+            <numerusform>%n cena z ofert</numerusform>
+            <numerusform>%n ceny z ofert</numerusform>
+            <numerusform>%n cen z ofert</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2731,6 +2815,158 @@
         <source>All orders, and a search over their lines</source>
         <translation>Wszystkie zamówienia i wyszukiwanie w ich pozycjach</translation>
     </message>
+    <message>
+        <source>Save report ...</source>
+        <translation>Zapisz raport ...</translation>
+    </message>
+    <message>
+        <source>Save the plan as a page, for printing, or as a workbook</source>
+        <translation>Zapisz plan jako stronę, do druku albo jako skoroszyt</translation>
+    </message>
+    <message>
+        <source>Prices of the last orders</source>
+        <translation>Ceny z ostatnich zamówień</translation>
+    </message>
+    <message>
+        <source>Take the price that each material was ordered at last</source>
+        <translation>Przyjmij cenę, po której ostatnio zamówiono każdy materiał</translation>
+    </message>
+    <message>
+        <source>Delivery ...</source>
+        <translation>Dostawa ...</translation>
+    </message>
+    <message>
+        <source>Note what came of the lines, in whole or in part</source>
+        <translation>Odnotuj, co przyszło z pozycji, w całości lub częściowo</translation>
+    </message>
+    <message>
+        <source>Delivered into stock ...</source>
+        <translation>Dostawy na stan ...</translation>
+    </message>
+    <message>
+        <source>Add what was delivered to the stock of the databases</source>
+        <translation>Dodaj to, co dostarczono, do stanu w bazach</translation>
+    </message>
+    <message>
+        <source>Annual plan ...</source>
+        <translation>Plan roczny ...</translation>
+    </message>
+    <message>
+        <source>What the orders of a year come to, by CPV, target or supplier</source>
+        <translation>Na ile opiewają zamówienia roku, według CPV, zlecenia lub dostawcy</translation>
+    </message>
+    <message>
+        <source>Import an offer ...</source>
+        <translation>Wczytaj ofertę ...</translation>
+    </message>
+    <message>
+        <source>Read a request that was filled in, or a price list</source>
+        <translation>Wczytaj wypełnione zapytanie albo cennik</translation>
+    </message>
+    <message>
+        <source>Save the comparison ...</source>
+        <translation>Zapisz porównanie ...</translation>
+    </message>
+    <message>
+        <source>Save the comparison with the choice as a page, for printing, or as a workbook</source>
+        <translation>Zapisz porównanie z wyborem jako stronę, do druku albo jako arkusz</translation>
+    </message>
+    <message>
+        <source>Open what came</source>
+        <translation>Otwórz to, co przyszło</translation>
+    </message>
+    <message>
+        <source>Open the file of the current firm&apos;s offer</source>
+        <translation>Otwórz plik oferty bieżącej firmy</translation>
+    </message>
+    <message>
+        <source>Buy from this firm</source>
+        <translation>Kup w tej firmie</translation>
+    </message>
+    <message>
+        <source>Buy the selected materials from the firm of the column, or from nobody when they are (Space)</source>
+        <translation>Kup zaznaczone materiały w firmie z tej kolumny, a jeśli już są w niej wybrane, to nigdzie (spacja)</translation>
+    </message>
+    <message>
+        <source>Take the choice into the order ...</source>
+        <translation>Przenieś wybór do zamówienia ...</translation>
+    </message>
+    <message>
+        <source>Give the order&apos;s lines the chosen prices, and note the firms with the reason</source>
+        <translation>Nadaj pozycjom zamówienia wybrane ceny i odnotuj firmy z uzasadnieniem</translation>
+    </message>
+    <message>
+        <source>Part the order by firm</source>
+        <translation>Podziel zamówienie na firmy</translation>
+    </message>
+    <message>
+        <source>Write an order for each chosen firm beside this one</source>
+        <translation>Zapisz obok tego zamówienia osobne dla każdej wybranej firmy</translation>
+    </message>
+    <message>
+        <source>Look at the order and its offers again</source>
+        <translation>Odczytaj ponownie zamówienie i oferty</translation>
+    </message>
+    <message>
+        <source>New requests ...</source>
+        <translation>Nowe zapytania ...</translation>
+    </message>
+    <message>
+        <source>Ask firms for their prices of the order&apos;s materials</source>
+        <translation>Zapytaj firmy o ceny materiałów zamówienia</translation>
+    </message>
+    <message>
+        <source>Open document</source>
+        <translation>Otwórz dokument</translation>
+    </message>
+    <message>
+        <source>Open the page that the firm got</source>
+        <translation>Otwórz stronę, którą dostała firma</translation>
+    </message>
+    <message>
+        <source>Open table</source>
+        <translation>Otwórz tabelę</translation>
+    </message>
+    <message>
+        <source>Open the table that the firm got to fill in</source>
+        <translation>Otwórz tabelę, którą firma dostała do wypełnienia</translation>
+    </message>
+    <message>
+        <source>Remind</source>
+        <translation>Przypomnij</translation>
+    </message>
+    <message>
+        <source>Send a reminder to the selected firms that sent no offer yet</source>
+        <translation>Wyślij przypomnienie zaznaczonym firmom, które nie przysłały jeszcze oferty</translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Wyślij ponownie</translation>
+    </message>
+    <message>
+        <source>Send the same documents to the selected firm again</source>
+        <translation>Wyślij zaznaczonej firmie te same dokumenty jeszcze raz</translation>
+    </message>
+    <message>
+        <source>Look for requests and offers that came meanwhile</source>
+        <translation>Poszukaj zapytań i ofert, które pojawiły się w międzyczasie</translation>
+    </message>
+    <message>
+        <source>Offers ...</source>
+        <translation>Oferty ...</translation>
+    </message>
+    <message>
+        <source>Take in and compare the offers of firms, and choose</source>
+        <translation>Wczytaj i porównaj oferty firm, i wybierz</translation>
+    </message>
+    <message>
+        <source>Requests for quotation ...</source>
+        <translation>Zapytania ofertowe ...</translation>
+    </message>
+    <message>
+        <source>Ask firms for their prices, and see who answered</source>
+        <translation>Zapytaj firmy o ceny i zobacz, kto odpowiedział</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -2804,6 +3040,319 @@
     <message>
         <source>The next export will have nothing to compare with</source>
         <translation>Następny eksport nie będzie miał z czym się porównać</translation>
+    </message>
+</context>
+<context>
+    <name>annualPlan</name>
+    <message>
+        <source>without a CPV code</source>
+        <translation>bez kodu CPV</translation>
+    </message>
+    <message>
+        <source>not a CPV code: %1</source>
+        <translation>to nie kod CPV: %1</translation>
+    </message>
+    <message>
+        <source>without a target</source>
+        <translation>bez zlecenia</translation>
+    </message>
+    <message>
+        <source>supplier not known</source>
+        <translation>dostawca nieznany</translation>
+    </message>
+    <message>
+        <source>CPV %1: %2 PLN in %3, above the threshold of %4 PLN</source>
+        <translation>CPV %1: %2 PLN w roku %3, powyżej progu %4 PLN</translation>
+    </message>
+</context>
+<context>
+    <name>annualPlanReport</name>
+    <message>
+        <source>Thresholds</source>
+        <translation>Progi</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
+        <source>Lines without a CPV code</source>
+        <translation>Pozycje bez kodu CPV</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Made on %1</source>
+        <translation>Sporządzono %1</translation>
+    </message>
+    <message>
+        <source>Without CPV</source>
+        <translation>Bez CPV</translation>
+    </message>
+    <message>
+        <source>CPV group</source>
+        <translation>Grupa CPV</translation>
+    </message>
+    <message>
+        <source>Estimated [ PLN ]</source>
+        <translation>Szacowane [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Ordered [ PLN ]</source>
+        <translation>Zamówione [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Rest [ PLN ]</source>
+        <translation>Reszta [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Share [ % ]</source>
+        <translation>Udział [ % ]</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Pozycje</translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation>Zamówienia</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Pominięto</translation>
+    </message>
+    <message>
+        <source>Threshold [ PLN ]</source>
+        <translation>Próg [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Of the threshold</source>
+        <translation>Wobec progu</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Razem</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>poniżej</translation>
+    </message>
+    <message>
+        <source>80 % reached</source>
+        <translation>osiągnięto 80 %</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>powyżej</translation>
+    </message>
+    <message>
+        <source>CPV %1: %2 PLN, above the threshold of %3 PLN</source>
+        <translation>CPV %1: %2 PLN, powyżej progu %3 PLN</translation>
+    </message>
+    <message>
+        <source>CPV %1: %2 PLN, near the threshold of %3 PLN</source>
+        <translation>CPV %1: %2 PLN, blisko progu %3 PLN</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) whose price or quantity is no number are not in the sums</source>
+        <translation>
+            <numerusform>%n pozycja, której cena lub ilość nie jest liczbą, nie wchodzi do sum</numerusform>
+            <numerusform>%n pozycje, których cena lub ilość nie jest liczbą, nie wchodzą do sum</numerusform>
+            <numerusform>%n pozycji, których cena lub ilość nie jest liczbą, nie wchodzi do sum</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) with one for each firm in their place are not in the sums</source>
+        <translation>
+            <numerusform>%n zamówienie rozdzielone na firmy nie wchodzi do sum</numerusform>
+            <numerusform>%n zamówienia rozdzielone na firmy nie wchodzą do sum</numerusform>
+            <numerusform>%n zamówień rozdzielonych na firmy nie wchodzi do sum</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, pozycja %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 (not a CPV code: %2)</source>
+        <translation>%1 (to nie kod CPV: %2)</translation>
+    </message>
+    <message>
+        <source>Annual plan of purchases %1</source>
+        <translation>Roczny plan zakupów %1</translation>
+    </message>
+    <message>
+        <source>Sums by CPV code</source>
+        <translation>Sumy według kodu CPV</translation>
+    </message>
+    <message>
+        <source>Sums by CPV group, the first %1 digits</source>
+        <translation>Sumy według grupy CPV, pierwsze cyfry: %1</translation>
+    </message>
+    <message>
+        <source>Sums by target</source>
+        <translation>Sumy według zlecenia</translation>
+    </message>
+    <message>
+        <source>Sums by supplier</source>
+        <translation>Sumy według dostawcy</translation>
+    </message>
+</context>
+<context>
+    <name>annualPlanWindow</name>
+    <message>
+        <source>Annual plan</source>
+        <translation>Plan roczny</translation>
+    </message>
+    <message>
+        <source>Sums of the year</source>
+        <translation>Sumy roku</translation>
+    </message>
+    <message>
+        <source>Lines without a CPV code</source>
+        <translation>Pozycje bez kodu CPV</translation>
+    </message>
+    <message>
+        <source>Bars of the greatest sums</source>
+        <translation>Wykres największych sum</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Szacowane</translation>
+    </message>
+    <message>
+        <source>Ordered</source>
+        <translation>Zamówiono</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Próg</translation>
+    </message>
+    <message>
+        <source>There are no orders of this year</source>
+        <translation>Nie ma zamówień z tego roku</translation>
+    </message>
+    <message>
+        <source>&amp;Year</source>
+        <translation>&amp;Rok</translation>
+    </message>
+    <message>
+        <source>&amp;Sums by</source>
+        <translation>&amp;Sumy według</translation>
+    </message>
+    <message>
+        <source>&amp;Digits of a group</source>
+        <translation>&amp;Cyfry grupy</translation>
+    </message>
+    <message>
+        <source>CPV group</source>
+        <translation>Grupa CPV</translation>
+    </message>
+    <message>
+        <source>CPV code</source>
+        <translation>Kod CPV</translation>
+    </message>
+    <message>
+        <source>Reading orders</source>
+        <translation>Wczytywanie zamówień</translation>
+    </message>
+    <message>
+        <source>Reading was cancelled; some orders are missing</source>
+        <translation>Wczytywanie przerwano; brakuje części zamówień</translation>
+    </message>
+    <message>
+        <source>There is no folder %1</source>
+        <translation>Nie ma folderu %1</translation>
+    </message>
+    <message>
+        <source>Adding up orders</source>
+        <translation>Sumowanie zamówień</translation>
+    </message>
+    <message>
+        <source>Adding up was cancelled; the sums before are shown</source>
+        <translation>Sumowanie przerwano; widoczne są poprzednie sumy</translation>
+    </message>
+    <message>
+        <source>is not understood: %1</source>
+        <translation>nie jest zrozumiałe: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Estimated %1 PLN, ordered %2 PLN, rest %3 PLN</source>
+        <translation>Szacowane %1 PLN, zamówione %2 PLN, reszta %3 PLN</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s)</source>
+        <translation>
+            <numerusform>%n pozycja</numerusform>
+            <numerusform>%n pozycje</numerusform>
+            <numerusform>%n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s)</source>
+        <translation>
+            <numerusform>%n zamówienie</numerusform>
+            <numerusform>%n zamówienia</numerusform>
+            <numerusform>%n zamówień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a CPV code</source>
+        <translation>
+            <numerusform>%n pozycja bez kodu CPV</numerusform>
+            <numerusform>%n pozycje bez kodu CPV</numerusform>
+            <numerusform>%n pozycji bez kodu CPV</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All lines have a CPV code</source>
+        <translation>Wszystkie pozycje mają kod CPV</translation>
+    </message>
+    <message>
+        <source>threshold %1: %2</source>
+        <translation>próg %1: %2</translation>
+    </message>
+    <message>
+        <source>threshold: %1</source>
+        <translation>próg: %1</translation>
+    </message>
+    <message>
+        <source>there are no orders of this year</source>
+        <translation>nie ma zamówień z tego roku</translation>
+    </message>
+    <message>
+        <source>no line without a CPV code is selected</source>
+        <translation>nie zaznaczono pozycji bez kodu CPV</translation>
+    </message>
+    <message>
+        <source>no row is selected</source>
+        <translation>nie zaznaczono wiersza</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The plan is as the orders&apos; files are</source>
+        <translation>Plan odpowiada plikom zamówień</translation>
     </message>
 </context>
 <context>
@@ -4624,6 +5173,334 @@ Przykład: kivzp-cli orders find -f _zp 0603 100nF --json</translation>
         <source>Lists orders, and finds lines in all of them.</source>
         <translation>Wypisuje zamówienia i znajduje pozycje we wszystkich.</translation>
     </message>
+    <message>
+        <source>Order less what other orders, in the configured folders, have on the way.</source>
+        <translation>Zamów mniej o to, co inne zamówienia z ustawionych folderów mają w drodze.</translation>
+    </message>
+    <message>
+        <source>whole: %1, in part: %2</source>
+        <translation>w całości: %1, częściowo: %2</translation>
+    </message>
+    <message>
+        <source>Number of the delivery note.</source>
+        <translation>Numer dokumentu dostawy.</translation>
+    </message>
+    <message>
+        <source>Day of the delivery, dd.MM.yyyy; usually today.</source>
+        <translation>Dzień dostawy, dd.MM.rrrr; zwykle dzisiaj.</translation>
+    </message>
+    <message>
+        <source>The lines that came, such as &quot;1, 3=40, 5-8&quot;: of line 3 only 40. Decimals have a point here.</source>
+        <translation>Pozycje, które przyszły, np. &quot;1, 3=40, 5-8&quot;: z pozycji 3 tylko 40. Ułamki tu z kropką.</translation>
+    </message>
+    <message>
+        <source>Add what was delivered, and was not added before, to the stock of the databases.</source>
+        <translation>Dodaj do stanu w bazach to, co dostarczono, a czego jeszcze nie dodano.</translation>
+    </message>
+    <message>
+        <source>With --to-stock: tell only, write nothing.</source>
+        <translation>Z --to-stock: tylko wypisz, niczego nie zapisuj.</translation>
+    </message>
+    <message>
+        <source>give either --lines or --to-stock</source>
+        <translation>podaj albo --lines, albo --to-stock</translation>
+    </message>
+    <message>
+        <source>%1 is no date</source>
+        <translation>%1 nie jest datą</translation>
+    </message>
+    <message>
+        <source>Notes in an order what came of its lines, in whole or in part, or adds what was delivered to the stock of databases.</source>
+        <translation>Odnotowuje w zamówieniu, co przyszło z jego pozycji, w całości lub częściowo, albo dodaje dostarczone materiały do stanu w bazach.</translation>
+    </message>
+    <message>
+        <source>without a CPV code: %1</source>
+        <translation>bez kodu CPV: %1</translation>
+    </message>
+    <message>
+        <source>The year of the orders; usually the newest one.</source>
+        <translation>Rok zamówień; zwykle najnowszy.</translation>
+    </message>
+    <message>
+        <source>What the sums are of: cpv, group, target or firm.</source>
+        <translation>Według czego są sumy: cpv, group, target lub firm.</translation>
+    </message>
+    <message>
+        <source>The first digits of a CPV code that make a group, 3 to 8.</source>
+        <translation>Ile pierwszych cyfr kodu CPV tworzy grupę, od 3 do 8.</translation>
+    </message>
+    <message>
+        <source>Thresholds by first digits of CPV codes, in PLN, in place of the configuration&apos;s.</source>
+        <translation>Progi według pierwszych cyfr kodów CPV, w PLN, zamiast tych z konfiguracji.</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending, .html, .pdf, .xlsx or .csv, decides its kind.</source>
+        <translation>Plik do zapisania; o rodzaju decyduje końcówka .html, .pdf, .xlsx lub .csv.</translation>
+    </message>
+    <message>
+        <source>%1 is none of cpv, group, target, firm</source>
+        <translation>%1 nie jest jednym z: cpv, group, target, firm</translation>
+    </message>
+    <message>
+        <source>%1 is no number of digits from 3 to 8</source>
+        <translation>%1 nie jest liczbą cyfr od 3 do 8</translation>
+    </message>
+    <message>
+        <source>%1 is no year</source>
+        <translation>%1 nie jest rokiem</translation>
+    </message>
+    <message>
+        <source>give an output file that ends in .html, .pdf, .xlsx or .csv</source>
+        <translation>podaj plik wyjściowy o końcówce .html, .pdf, .xlsx lub .csv</translation>
+    </message>
+    <message>
+        <source>Prints a row for each with: name, estimated, ordered, rest, share, lines, orders, lines left out, threshold, state.
+Example: kivzp-cli plan -y 2026 --by group -t &quot;302: 50000; *: 130000&quot;</source>
+        <translation>Wypisuje dla każdej sumy wiersz: nazwa, szacowane, zamówione, reszta, udział, pozycje, zamówienia, pominięte pozycje, próg, stan.
+Przykład: kivzp-cli plan -y 2026 --by group -t &quot;302: 50000; *: 130000&quot;</translation>
+    </message>
+    <message>
+        <source>is not understood: %1</source>
+        <translation>nie jest zrozumiałe: %1</translation>
+    </message>
+    <message>
+        <source>There are no orders of %1</source>
+        <translation>Nie ma zamówień z roku %1</translation>
+    </message>
+    <message>
+        <source>Adds up the orders of a year, and tells of thresholds.</source>
+        <translation>Sumuje zamówienia roku i ostrzega o progach.</translation>
+    </message>
+    <message>
+        <source>The firm; else the one that the request went to.</source>
+        <translation>Firma; inaczej ta, do której wysłano zapytanie.</translation>
+    </message>
+    <message>
+        <source>Its tax number.</source>
+        <translation>Jej NIP.</translation>
+    </message>
+    <message>
+        <source>The day on which it came; today.</source>
+        <translation>Dzień otrzymania; dziś.</translation>
+    </message>
+    <message>
+        <source>The currency of its prices; else what the file says, or PLN.</source>
+        <translation>Waluta cen; inaczej ta z pliku albo PLN.</translation>
+    </message>
+    <message>
+        <source>PLN for one of the currency.</source>
+        <translation>PLN za jednostkę waluty.</translation>
+    </message>
+    <message>
+        <source>The day of that rate.</source>
+        <translation>Dzień tego kursu.</translation>
+    </message>
+    <message>
+        <source>VAT in percent: of the offer that is imported; in a comparison, of those that do not say it (23).</source>
+        <translation>VAT w procentach: wczytywanej oferty; w porównaniu ofert, które go nie podają (23).</translation>
+    </message>
+    <message>
+        <source>Its prices hold the tax.</source>
+        <translation>Ceny zawierają podatek.</translation>
+    </message>
+    <message>
+        <source>Days until it delivers, where no row says it.</source>
+        <translation>Dni do dostawy, gdy wiersz ich nie podaje.</translation>
+    </message>
+    <message>
+        <source>The last day on which it holds.</source>
+        <translation>Ostatni dzień ważności.</translation>
+    </message>
+    <message>
+        <source>In place of the firm&apos;s offer before.</source>
+        <translation>W miejsce poprzedniej oferty tej firmy.</translation>
+    </message>
+    <message>
+        <source>A material database whose part numbers rows without our number are matched by. May be given several times.</source>
+        <translation>Baza materiałów, po której numerach części dopasowuje się wiersze bez naszego numeru. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>What is proposed: cheapest (each material), one (firm for all), fewest (firms), date (what comes in time).</source>
+        <translation>Co proponować: cheapest (najtaniej każdy materiał), one (jedna firma na wszystko), fewest (najmniej firm), date (to, co dotrze na czas).</translation>
+    </message>
+    <message>
+        <source>With fewest: how much more than the cheapest it may cost.</source>
+        <translation>Przy fewest: o ile więcej od najtańszego może kosztować.</translation>
+    </message>
+    <message>
+        <source>With date: the day by which it has to come.</source>
+        <translation>Przy date: dzień, do którego ma dotrzeć.</translation>
+    </message>
+    <message>
+        <source>Why these firms are chosen.</source>
+        <translation>Dlaczego wybrano te firmy.</translation>
+    </message>
+    <message>
+        <source>Do not raise quantities to what has to be bought.</source>
+        <translation>Nie zwiększać ilości do tych, które trzeba kupić.</translation>
+    </message>
+    <message>
+        <source>%1: %2 offered, %3 not offered, %4 not named</source>
+        <translation>%1: oferowane %2, nieoferowane %3, niewymienione %4</translation>
+    </message>
+    <message>
+        <source>%1 is none of cheapest, one, fewest, date</source>
+        <translation>%1 nie jest żadnym z cheapest, one, fewest, date</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage</source>
+        <translation>%1 nie jest procentem</translation>
+    </message>
+    <message>
+        <source>give the day with --until</source>
+        <translation>podaj dzień opcją --until</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Razem</translation>
+    </message>
+    <message>
+        <source>%1: %2 offered, %3 missing, %4 PLN net, %5 PLN gross</source>
+        <translation>%1: oferowane %2, brakuje %3, %4 PLN netto, %5 PLN brutto</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>nieaktualna</translation>
+    </message>
+    <message>
+        <source>%1 materials chosen, %2 prices and %3 quantities set</source>
+        <translation>wybrano materiałów: %1, ustawiono cen: %2, ilości: %3</translation>
+    </message>
+    <message>
+        <source>give a --reason</source>
+        <translation>podaj --reason</translation>
+    </message>
+    <message>
+        <source>there are no offers for it</source>
+        <translation>nie ma do niego ofert</translation>
+    </message>
+    <message>
+        <source>without an offer: %1</source>
+        <translation>bez oferty: %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to choose</source>
+        <translation>nie ma czego wybrać</translation>
+    </message>
+    <message>
+        <source>  import ORDER FILE  takes in the table of a request filled in, or a price list
+  compare ORDER      a row for each material with: number, name, quantity, unit, and
+                     of the proposed firm its name, price, quantity to buy, cost,
+                     lead time, remark
+  choose ORDER       the same, and writes prices into the order
+  split ORDER        one order for each chosen firm, beside the order
+Example: kivzp-cli offers compare _zp/zp_7.xml --by fewest --within 5 -o offers.pdf</source>
+        <translation>  import ORDER FILE  wczytuje wypełnioną tabelę zapytania albo cennik
+  compare ORDER      wiersz dla każdego materiału: numer, nazwa, ilość, jednostka oraz
+                     proponowana firma, cena, ilość do kupienia, koszt, czas dostawy,
+                     uwaga
+  choose ORDER       to samo i wpisuje ceny do zamówienia
+  split ORDER        jedno zamówienie dla każdej wybranej firmy, obok zamówienia
+Przykład: kivzp-cli offers compare _zp/zp_7.xml --by fewest --within 5 -o oferty.pdf</translation>
+    </message>
+    <message>
+        <source>%1 is none of import, compare, choose, split</source>
+        <translation>%1 nie jest żadnym z import, compare, choose, split</translation>
+    </message>
+    <message>
+        <source>Takes in offers for an order, compares them, parts it by firm.</source>
+        <translation>Wczytuje oferty do zamówienia, porównuje je, dzieli je na firmy.</translation>
+    </message>
+    <message>
+        <source>The register of firms, with their details beside it.</source>
+        <translation>Rejestr firm, z danymi firm obok niego.</translation>
+    </message>
+    <message>
+        <source>The name or tax number of a firm of the register. May be given several times.</source>
+        <translation>Nazwa albo NIP firmy z rejestru. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>Day by which offers are expected, dd.MM.yyyy; usually a week from today.</source>
+        <translation>Dzień, do którego oczekuje się ofert, dd.MM.rrrr; zwykle za tydzień od dziś.</translation>
+    </message>
+    <message>
+        <source>A material database with makers and their part numbers. May be given several times.</source>
+        <translation>Baza materiałów z producentami i ich numerami części. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>The lines that are asked for, such as &quot;1,3-5&quot;; usually all.</source>
+        <translation>Pozycje, o które się pyta, np. &quot;1,3-5&quot;; zwykle wszystkie.</translation>
+    </message>
+    <message>
+        <source>Start the mail program with each message, and note it as sent.</source>
+        <translation>Uruchamia program pocztowy z każdą wiadomością i odnotowuje ją jako wysłaną.</translation>
+    </message>
+    <message>
+        <source>Remind the firms that sent no offer yet, or those given with --firm.</source>
+        <translation>Przypomina firmom, które nie przysłały jeszcze oferty, albo tym z --firm.</translation>
+    </message>
+    <message>
+        <source>Print who was asked and when, and who answered.</source>
+        <translation>Wypisuje, kogo i kiedy zapytano i kto odpowiedział.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no lines of the order</source>
+        <translation>&quot;%1&quot; nie oznacza pozycji zamówienia</translation>
+    </message>
+    <message>
+        <source>%1 is no firm of the register</source>
+        <translation>%1 nie jest firmą z rejestru</translation>
+    </message>
+    <message>
+        <source>%1 is the name of several firms; give the tax number</source>
+        <translation>%1 to nazwa kilku firm; podaj NIP</translation>
+    </message>
+    <message>
+        <source>no firm is to be reminded</source>
+        <translation>żadnej firmie nie trzeba przypominać</translation>
+    </message>
+    <message>
+        <source>%1 is past</source>
+        <translation>%1 już minął</translation>
+    </message>
+    <message>
+        <source>line %1 has no quantity above 0, and is left out</source>
+        <translation>pozycja %1 nie ma ilości większej od 0 i jest pominięta</translation>
+    </message>
+    <message>
+        <source>give either --list or --remind</source>
+        <translation>podaj albo --list, albo --remind</translation>
+    </message>
+    <message>
+        <source>give --firms and --firm</source>
+        <translation>podaj --firms i --firm</translation>
+    </message>
+    <message>
+        <source>is no register of firms</source>
+        <translation>nie jest rejestrem firm</translation>
+    </message>
+    <message>
+        <source>Asks firms for quotations for an order, each with a table to fill in, reminds them, and tells who was asked.</source>
+        <translation>Pyta firmy o oferty do zamówienia, każdą z tabelą do wypełnienia, przypomina im i mówi, kogo zapytano.</translation>
+    </message>
+    <message>
+        <source>Prints the files that were written; with --list a row for each request with: number, firm, sent, deadline, state, reminded, addresses, materials.
+Example: kivzp-cli request zp_13.xml --firms _files/firms.xml --firm TME --firm Mouser -d _files/db_warehouse.xml --send</source>
+        <translation>Wypisuje zapisane pliki; z --list wiersz dla każdego zapytania: numer, firma, wysłano, termin, stan, przypomniano, adresy, materiały.
+Przykład: kivzp-cli request zp_13.xml --firms _files/firms.xml --firm TME --firm Mouser -d _files/db_warehouse.xml --send</translation>
+    </message>
+    <message>
+        <source>What a column of the file holds, as price=5 for the fifth: key, part_number, from, price, prices, minimum, multiple, lead_time, remarks, currency or none. May be given several times.</source>
+        <translation>Co zawiera kolumna pliku, np. price=5 dla piątej: key, part_number, from, price, prices, minimum, multiple, lead_time, remarks, currency albo none. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>%1 is not what a column holds, as price=5</source>
+        <translation>%1 nie mówi, co zawiera kolumna, jak price=5</translation>
+    </message>
+    <message>
+        <source>it has %1 columns</source>
+        <translation>plik ma %1 kolumn</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -4660,6 +5537,10 @@ Przykład: kivzp-cli orders find -f _zp 0603 100nF --json</translation>
     <message>
         <source>is not understood: %1</source>
         <translation>nie jest zrozumiałe: %1</translation>
+    </message>
+    <message>
+        <source>is no rate from 0 to 100</source>
+        <translation>nie jest stawką od 0 do 100</translation>
     </message>
 </context>
 <context>
@@ -5363,6 +6244,119 @@ Przykład: kivzp-cli orders find -f _zp 0603 100nF --json</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>deliveredStock</name>
+    <message>
+        <source>no database has this KTM</source>
+        <translation>żadna baza nie ma tego KTM</translation>
+    </message>
+    <message>
+        <source>the stock is counted in another unit</source>
+        <translation>stan jest liczony w innej jednostce</translation>
+    </message>
+    <message>
+        <source>the stock is no number</source>
+        <translation>stan nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>deliveries</name>
+    <message>
+        <source>The order has no line %1</source>
+        <translation>Zamówienie nie ma pozycji %1</translation>
+    </message>
+    <message>
+        <source>Line %1 was delivered already, or has no quantity</source>
+        <translation>Pozycja %1 jest już dostarczona albo nie ma ilości</translation>
+    </message>
+    <message>
+        <source>Line %1: nothing came of it</source>
+        <translation>Pozycja %1: nic z niej nie przyszło</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 came, but only %3 were ordered</source>
+        <translation>Pozycja %1: przyszło %2, ale zamówiono tylko %3</translation>
+    </message>
+    <message>
+        <source>Line %1 is named twice</source>
+        <translation>Pozycja %1 jest podana dwa razy</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no lines of the order</source>
+        <translation>&quot;%1&quot; nie oznacza pozycji zamówienia</translation>
+    </message>
+</context>
+<context>
+    <name>deliveryDialog</name>
+    <message>
+        <source>What was delivered</source>
+        <translation>Co dostarczono</translation>
+    </message>
+    <message>
+        <source>Number of the delivery note</source>
+        <translation>Numer dokumentu dostawy</translation>
+    </message>
+    <message>
+        <source>Date of the delivery</source>
+        <translation>Data dostawy</translation>
+    </message>
+    <message>
+        <source>N&amp;umber of the delivery note</source>
+        <translation>N&amp;umer dokumentu dostawy</translation>
+    </message>
+    <message>
+        <source>D&amp;ate of the delivery</source>
+        <translation>D&amp;ata dostawy</translation>
+    </message>
+    <message>
+        <source>&amp;Note the delivery</source>
+        <translation>&amp;Odnotuj dostawę</translation>
+    </message>
+    <message>
+        <source>All &amp;whole</source>
+        <translation>&amp;Wszystko w całości</translation>
+    </message>
+    <message>
+        <source>All n&amp;othing</source>
+        <translation>&amp;Nic nie przyszło</translation>
+    </message>
+    <message>
+        <source>Lines that are to come</source>
+        <translation>Pozycje, które mają przyjść</translation>
+    </message>
+    <message>
+        <source>Ordered</source>
+        <translation>Zamówiono</translation>
+    </message>
+    <message>
+        <source>Came</source>
+        <translation>Przyszło</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) of it</source>
+        <translation>
+            <numerusform>przyszła %n pozycja</numerusform>
+            <numerusform>przyszły %n pozycje</numerusform>
+            <numerusform>przyszło %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to come</source>
+        <translation>
+            <numerusform>%n oczekiwana</numerusform>
+            <numerusform>%n oczekiwane</numerusform>
+            <numerusform>%n oczekiwanych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing came of any line</source>
+        <translation>z żadnej pozycji nic nie przyszło</translation>
+    </message>
+    <message>
+        <source>Line %1: of %2, &quot;%3&quot; cannot have come</source>
+        <translation>Pozycja %1: z %2 nie mogło przyjść &quot;%3&quot;</translation>
     </message>
 </context>
 <context>
@@ -6376,6 +7370,137 @@ własne oznaczenie</translation>
     </message>
 </context>
 <context>
+    <name>importOfferDialog</name>
+    <message>
+        <source>as the file says, else PLN</source>
+        <translation>jak w pliku, inaczej PLN</translation>
+    </message>
+    <message>
+        <source>PLN for one</source>
+        <translation>PLN za jednostkę</translation>
+    </message>
+    <message>
+        <source>as the file says</source>
+        <translation>jak w pliku</translation>
+    </message>
+    <message>
+        <source>Offer from %1</source>
+        <translation>Oferta z %1</translation>
+    </message>
+    <message>
+        <source>Prices that were understood</source>
+        <translation>Odczytane ceny</translation>
+    </message>
+    <message>
+        <source>What is wrong, and what was left out</source>
+        <translation>Co jest źle i co pominięto</translation>
+    </message>
+    <message>
+        <source>Take the offer &amp;in</source>
+        <translation>&amp;Przyjmij ofertę</translation>
+    </message>
+    <message>
+        <source>as the request says</source>
+        <translation>jak w zapytaniu</translation>
+    </message>
+    <message>
+        <source>as the file says, else net</source>
+        <translation>jak w pliku, inaczej netto</translation>
+    </message>
+    <message>
+        <source>net</source>
+        <translation>netto</translation>
+    </message>
+    <message>
+        <source>gross</source>
+        <translation>brutto</translation>
+    </message>
+    <message>
+        <source>&amp;Firm</source>
+        <translation>&amp;Firma</translation>
+    </message>
+    <message>
+        <source>&amp;Received</source>
+        <translation>&amp;Otrzymano</translation>
+    </message>
+    <message>
+        <source>&amp;Currency</source>
+        <translation>&amp;Waluta</translation>
+    </message>
+    <message>
+        <source>Ra&amp;te</source>
+        <translation>&amp;Kurs</translation>
+    </message>
+    <message>
+        <source>Date of t&amp;he rate</source>
+        <translation>&amp;Data kursu</translation>
+    </message>
+    <message>
+        <source>&amp;Prices</source>
+        <translation>&amp;Ceny</translation>
+    </message>
+    <message>
+        <source>&amp;VAT [%]</source>
+        <translation>&amp;VAT [%]</translation>
+    </message>
+    <message>
+        <source>&amp;Lead time [days]</source>
+        <translation>Cza&amp;s dostawy [dni]</translation>
+    </message>
+    <message>
+        <source>Valid &amp;until</source>
+        <translation>Ważn&amp;a do</translation>
+    </message>
+    <message>
+        <source>Re&amp;marks</source>
+        <translation>&amp;Uwagi</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Kolumna %1</translation>
+    </message>
+    <message>
+        <source>What the columns hold</source>
+        <translation>Co zawierają kolumny</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>Odrzucone: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) offered</source>
+        <translation>
+            <numerusform>oferowany %n materiał</numerusform>
+            <numerusform>oferowane %n materiały</numerusform>
+            <numerusform>oferowanych %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without a price</source>
+        <translation>
+            <numerusform>%n bez ceny</numerusform>
+            <numerusform>%n bez ceny</numerusform>
+            <numerusform>%n bez ceny</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not named</source>
+        <translation>
+            <numerusform>%n niewymieniony</numerusform>
+            <numerusform>%n niewymienione</numerusform>
+            <numerusform>%n niewymienionych</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thing(s) keep the offer out</source>
+        <translation>
+            <numerusform>%n rzecz nie pozwala przyjąć oferty</numerusform>
+            <numerusform>%n rzeczy nie pozwalają przyjąć oferty</numerusform>
+            <numerusform>%n rzeczy nie pozwala przyjąć oferty</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>keptSearchesDialog</name>
     <message>
         <source>Kept searches</source>
@@ -6967,6 +8092,14 @@ własne oznaczenie</translation>
     <message>
         <source>Reserved</source>
         <translation>Zarezerwowano</translation>
+    </message>
+    <message>
+        <source>On the way</source>
+        <translation>W drodze</translation>
+    </message>
+    <message>
+        <source>Last ordered</source>
+        <translation>Ostatnio zamówiono</translation>
     </message>
 </context>
 <context>
@@ -8118,12 +9251,853 @@ własne oznaczenie</translation>
         <source>What is ticked as orders for the shops of the suppliers</source>
         <translation>To, co zaznaczono, jako zamówienia do sklepów dostawców</translation>
     </message>
+    <message>
+        <source>Never t&amp;wice: less what is on the way</source>
+        <translation>Ni&amp;gdy dwa razy: mniej o to, co w drodze</translation>
+    </message>
+    <message>
+        <source>Other orders have some of these materials, not invoiced yet</source>
+        <translation>Inne zamówienia mają niektóre z tych materiałów, jeszcze bez faktury</translation>
+    </message>
+    <message>
+        <source>No other order has any of these materials on the way</source>
+        <translation>Żadne inne zamówienie nie ma tych materiałów w drodze</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n on the way already</source>
+        <translation>
+            <numerusform>%n już w drodze</numerusform>
+            <numerusform>%n już w drodze</numerusform>
+            <numerusform>%n już w drodze</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>newRequestsDialog</name>
+    <message>
+        <source>New requests for quotation</source>
+        <translation>Nowe zapytania ofertowe</translation>
+    </message>
+    <message>
+        <source>Name or address</source>
+        <translation>Nazwa albo adres</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Szukaj</translation>
+    </message>
+    <message>
+        <source>Offers expected &amp;by</source>
+        <translation>Oferty &amp;do dnia</translation>
+    </message>
+    <message>
+        <source>&amp;Write requests</source>
+        <translation>&amp;Napisz zapytania</translation>
+    </message>
+    <message>
+        <source>Firms of the register</source>
+        <translation>Firmy z rejestru</translation>
+    </message>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>Asked before</source>
+        <translation>Pytano wcześniej</translation>
+    </message>
+    <message>
+        <source>Materials of the order that name the firm as supplier or manufacturer</source>
+        <translation>Materiały zamówienia, które wymieniają firmę jako dostawcę albo producenta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n firm(s)</source>
+        <translation>
+            <numerusform>%n firma</numerusform>
+            <numerusform>%n firmy</numerusform>
+            <numerusform>%n firm</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s)</source>
+        <translation>
+            <numerusform>%n materiał</numerusform>
+            <numerusform>%n materiały</numerusform>
+            <numerusform>%n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity are left out</source>
+        <translation>
+            <numerusform>pominięto %n pozycję bez ilości</numerusform>
+            <numerusform>pominięto %n pozycje bez ilości</numerusform>
+            <numerusform>pominięto %n pozycji bez ilości</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to ask for</source>
+        <translation>Nie ma o co pytać</translation>
+    </message>
+    <message>
+        <source>No firm is ticked</source>
+        <translation>Żadna firma nie jest zaznaczona</translation>
+    </message>
 </context>
 <context>
     <name>numbers</name>
     <message>
         <source>is not a number</source>
         <translation>nie jest liczbą</translation>
+    </message>
+</context>
+<context>
+    <name>offerComparison</name>
+    <message>
+        <source>There is no rate for %1</source>
+        <translation>Brak kursu %1</translation>
+    </message>
+    <message>
+        <source>Its VAT is no percentage: %1</source>
+        <translation>VAT oferty nie jest procentem: %1</translation>
+    </message>
+    <message>
+        <source>Its prices cannot be read: %1</source>
+        <translation>Nie można odczytać cen: %1</translation>
+    </message>
+    <message>
+        <source>Its minimum or multiple cannot be read</source>
+        <translation>Nie można odczytać minimum lub wielokrotności</translation>
+    </message>
+    <message>
+        <source>It is sold from %1 on</source>
+        <translation>Sprzedawane od ilości %1</translation>
+    </message>
+    <message>
+        <source>%1 would cost less in total: %2 PLN</source>
+        <translation>%1 kosztowałoby razem mniej: %2 PLN</translation>
+    </message>
+</context>
+<context>
+    <name>offerFirmRows</name>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Otrzymano</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Waluta</translation>
+    </message>
+    <message>
+        <source>VAT</source>
+        <translation>VAT</translation>
+    </message>
+    <message>
+        <source>Lead time</source>
+        <translation>Czas dostawy</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Ważna do</translation>
+    </message>
+    <message>
+        <source>Offered</source>
+        <translation>Oferowane</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Brakuje</translation>
+    </message>
+    <message>
+        <source>Net [ PLN ]</source>
+        <translation>Netto [ PLN ]</translation>
+    </message>
+    <message>
+        <source>With VAT [ PLN ]</source>
+        <translation>Z VAT [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message>
+        <source>gross</source>
+        <translation>brutto</translation>
+    </message>
+    <message>
+        <source>net</source>
+        <translation>netto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <translation>
+            <numerusform>%n dzień</numerusform>
+            <numerusform>%n dni</numerusform>
+            <numerusform>%n dni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, expired</source>
+        <translation>%1, po terminie</translation>
+    </message>
+</context>
+<context>
+    <name>offerImport</name>
+    <message>
+        <source>(not used)</source>
+        <translation>(nieużywana)</translation>
+    </message>
+    <message>
+        <source>Our number</source>
+        <translation>Nasz numer</translation>
+    </message>
+    <message>
+        <source>Part number</source>
+        <translation>Numer części</translation>
+    </message>
+    <message>
+        <source>From quantity</source>
+        <translation>Od ilości</translation>
+    </message>
+    <message>
+        <source>Unit price</source>
+        <translation>Cena jednostkowa</translation>
+    </message>
+    <message>
+        <source>Prices by quantity</source>
+        <translation>Ceny wg ilości</translation>
+    </message>
+    <message>
+        <source>Minimum quantity</source>
+        <translation>Minimalna ilość</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Wielokrotność</translation>
+    </message>
+    <message>
+        <source>Lead time</source>
+        <translation>Czas dostawy</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more remark(s) of this kind</source>
+        <translation>
+            <numerusform>Jeszcze %n uwaga tego rodzaju</numerusform>
+            <numerusform>Jeszcze %n uwagi tego rodzaju</numerusform>
+            <numerusform>Jeszcze %n uwag tego rodzaju</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is an offer of %1 already, received on %2</source>
+        <translation>Jest już oferta firmy %1, otrzymana %2</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Waluta</translation>
+    </message>
+    <message>
+        <source>It offers nothing: no material of the order has a price</source>
+        <translation>Oferta jest pusta: żaden materiał z zamówienia nie ma ceny</translation>
+    </message>
+    <message>
+        <source>%1 is no request for this order</source>
+        <translation>%1 to nie zapytanie do tego zamówienia</translation>
+    </message>
+    <message>
+        <source>The day on which it was received is missing</source>
+        <translation>Brak dnia otrzymania oferty</translation>
+    </message>
+    <message>
+        <source>It is late: received on %1, expected by %2</source>
+        <translation>Oferta jest spóźniona: otrzymana %1, termin %2</translation>
+    </message>
+    <message>
+        <source>The request %1 went to %2, not to %3</source>
+        <translation>Zapytanie %1 wysłano do firmy %2, a nie do %3</translation>
+    </message>
+    <message>
+        <source>The firm is missing</source>
+        <translation>Brak firmy</translation>
+    </message>
+    <message>
+        <source>Row %1, &quot;%2&quot;: %3</source>
+        <translation>Wiersz %1, „%2”: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no number of days above 0</source>
+        <translation>%1 nie jest liczbą dni większą od 0</translation>
+    </message>
+    <message>
+        <source>%1 is no date</source>
+        <translation>%1 nie jest datą</translation>
+    </message>
+    <message>
+        <source>it was valid until %1, but was received on %2</source>
+        <translation>była ważna do %1, a otrzymano ją %2</translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; is not in %2</source>
+        <translation>Kolumna „%1” nie jest w walucie %2</translation>
+    </message>
+    <message>
+        <source>%1 is no currency</source>
+        <translation>%1 nie jest walutą</translation>
+    </message>
+    <message>
+        <source>the price is in %1, those before in %2</source>
+        <translation>cena jest w %1, poprzednie w %2</translation>
+    </message>
+    <message>
+        <source>The prices are in PLN: the rate %1 does not count</source>
+        <translation>Ceny są w PLN: kurs %1 nie ma znaczenia</translation>
+    </message>
+    <message>
+        <source>the rate of %1 is missing</source>
+        <translation>brak kursu %1</translation>
+    </message>
+    <message>
+        <source>%1 is no rate above 0</source>
+        <translation>%1 nie jest kursem większym od 0</translation>
+    </message>
+    <message>
+        <source>%1 is neither net nor gross</source>
+        <translation>%1 to ani netto, ani brutto</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage from 0 to 100</source>
+        <translation>%1 nie jest procentem od 0 do 100</translation>
+    </message>
+    <message>
+        <source>The VAT is less than one percent: %1 %</source>
+        <translation>VAT jest mniejszy niż jeden procent: %1 %</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Wiersz %1: %2</translation>
+    </message>
+    <message>
+        <source>No column has prices</source>
+        <translation>Żadna kolumna nie zawiera cen</translation>
+    </message>
+    <message>
+        <source>No column has our numbers, or part numbers</source>
+        <translation>Żadna kolumna nie zawiera naszych numerów ani numerów części</translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; has quantities without a column of prices beside it</source>
+        <translation>Kolumna „%1” zawiera ilości, a obok niej nie ma kolumny cen</translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; has prices without a column of quantities beside it</source>
+        <translation>Kolumna „%1” zawiera ceny, a obok niej nie ma kolumny ilości</translation>
+    </message>
+    <message>
+        <source>%1 may be any of %2, and is left out</source>
+        <translation>%1 może oznaczać każdy z: %2, dlatego wiersz pominięto</translation>
+    </message>
+    <message>
+        <source>%1 was not asked for</source>
+        <translation>o %1 nie pytano</translation>
+    </message>
+    <message>
+        <source>it has a price, but names no material</source>
+        <translation>jest cena, ale nie wskazano materiału</translation>
+    </message>
+    <message>
+        <source>%1 is nothing that the order needs</source>
+        <translation>%1 nie jest potrzebny w zamówieniu</translation>
+    </message>
+    <message>
+        <source>%1 is in row %2 already</source>
+        <translation>%1 jest już w wierszu %2</translation>
+    </message>
+    <message>
+        <source>%1 was asked for, but the order does not need it any more</source>
+        <translation>o %1 pytano, ale zamówienie już go nie potrzebuje</translation>
+    </message>
+    <message>
+        <source>%1 is no number above 0</source>
+        <translation>%1 nie jest liczbą większą od 0</translation>
+    </message>
+    <message>
+        <source>the price from %1 on is missing</source>
+        <translation>brak ceny od ilości %1</translation>
+    </message>
+    <message>
+        <source>the quantity from which on the price %1 holds is missing</source>
+        <translation>brak ilości, od której obowiązuje cena %1</translation>
+    </message>
+    <message>
+        <source>%1 is no quantity and price</source>
+        <translation>%1 to nie ilość i cena</translation>
+    </message>
+    <message>
+        <source>%1 is no price above 0</source>
+        <translation>%1 nie jest ceną większą od 0</translation>
+    </message>
+    <message>
+        <source>there are two prices from %1 on</source>
+        <translation>są dwie ceny od ilości %1</translation>
+    </message>
+    <message>
+        <source>the quantities do not ascend: %1 is behind %2</source>
+        <translation>ilości nie rosną: %1 jest po %2</translation>
+    </message>
+</context>
+<context>
+    <name>offerReport</name>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>Date of the order</source>
+        <translation>Data zamówienia</translation>
+    </message>
+    <message>
+        <source>Compared on</source>
+        <translation>Porównano dnia</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Wybrano</translation>
+    </message>
+    <message>
+        <source>Date of the choice</source>
+        <translation>Data wyboru</translation>
+    </message>
+    <message>
+        <source>Chosen by</source>
+        <translation>Wybór</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Uzasadnienie</translation>
+    </message>
+    <message>
+        <source>Without an offer</source>
+        <translation>Bez oferty</translation>
+    </message>
+    <message>
+        <source>Total net [ PLN ]</source>
+        <translation>Razem netto [ PLN ]</translation>
+    </message>
+    <message>
+        <source>VAT [ PLN ]</source>
+        <translation>VAT [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Total gross [ PLN ]</source>
+        <translation>Razem brutto [ PLN ]</translation>
+    </message>
+    <message>
+        <source>Comparison of offers %1</source>
+        <translation>Porównanie ofert %1</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>wybrana</translation>
+    </message>
+    <message>
+        <source>best</source>
+        <translation>najlepsza</translation>
+    </message>
+    <message>
+        <source>%1, at %2 PLN of %3</source>
+        <translation>%1, po %2 PLN z dnia %3</translation>
+    </message>
+    <message>
+        <source>%1, at %2 PLN</source>
+        <translation>%1, po %2 PLN</translation>
+    </message>
+    <message>
+        <source>Tax number</source>
+        <translation>NIP</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Zapytanie</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Otrzymano</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Waluta</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Ceny</translation>
+    </message>
+    <message>
+        <source>gross</source>
+        <translation>brutto</translation>
+    </message>
+    <message>
+        <source>net</source>
+        <translation>netto</translation>
+    </message>
+    <message>
+        <source>VAT</source>
+        <translation>VAT</translation>
+    </message>
+    <message>
+        <source>%1 (not said)</source>
+        <translation>%1 (nie podano)</translation>
+    </message>
+    <message>
+        <source>Lead time</source>
+        <translation>Czas dostawy</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 dni</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Ważna do</translation>
+    </message>
+    <message>
+        <source>%1 (expired)</source>
+        <translation>%1 (nieaktualna)</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>Not counted</source>
+        <translation>Nie liczy się</translation>
+    </message>
+    <message>
+        <source>Lines without a quantity, not compared</source>
+        <translation>Pozycje bez ilości, nieporównane</translation>
+    </message>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Oferta</translation>
+    </message>
+    <message>
+        <source>Offered</source>
+        <translation>Oferowane</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Brak</translation>
+    </message>
+    <message>
+        <source>Longest lead time</source>
+        <translation>Najdłuższy czas dostawy</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Materiał</translation>
+    </message>
+    <message>
+        <source>Needed</source>
+        <translation>Potrzeba</translation>
+    </message>
+    <message>
+        <source>not offered</source>
+        <translation>brak w ofercie</translation>
+    </message>
+    <message>
+        <source>Offers</source>
+        <translation>Oferty</translation>
+    </message>
+    <message>
+        <source>unit price [ PLN ]</source>
+        <translation>cena jednostkowa [ PLN ]</translation>
+    </message>
+    <message>
+        <source>quantity</source>
+        <translation>ilość</translation>
+    </message>
+    <message>
+        <source>cost [ PLN ]</source>
+        <translation>koszt [ PLN ]</translation>
+    </message>
+    <message>
+        <source>lead time [ days ]</source>
+        <translation>czas dostawy [ dni ]</translation>
+    </message>
+    <message>
+        <source>mark</source>
+        <translation>oznaczenie</translation>
+    </message>
+    <message>
+        <source>remarks</source>
+        <translation>uwagi</translation>
+    </message>
+</context>
+<context>
+    <name>offerRows</name>
+    <message>
+        <source>Bought from</source>
+        <translation>Kupowane w</translation>
+    </message>
+    <message>
+        <source>not offered</source>
+        <translation>nie oferuje</translation>
+    </message>
+    <message>
+        <source>nobody</source>
+        <translation>nigdzie</translation>
+    </message>
+    <message>
+        <source>The cheapest offer</source>
+        <translation>Najtańsza oferta</translation>
+    </message>
+    <message>
+        <source>The offer is not valid any more</source>
+        <translation>Oferta nie jest już ważna</translation>
+    </message>
+    <message>
+        <source>Offered: %1 %2</source>
+        <translation>Oferowane: %1 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s) until it comes</source>
+        <translation>
+            <numerusform>%n dzień do dostawy</numerusform>
+            <numerusform>%n dni do dostawy</numerusform>
+            <numerusform>%n dni do dostawy</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>offersWindow</name>
+    <message>
+        <source>Raise &amp;quantities to what is sold</source>
+        <translation>Podnieś &amp;ilości do sprzedawanych</translation>
+    </message>
+    <message>
+        <source>Offers</source>
+        <translation>Oferty</translation>
+    </message>
+    <message>
+        <source>Firms and their offers</source>
+        <translation>Firmy i ich oferty</translation>
+    </message>
+    <message>
+        <source>Materials and their prices</source>
+        <translation>Materiały i ich ceny</translation>
+    </message>
+    <message>
+        <source>the cheapest for each material</source>
+        <translation>najtaniej dla każdego materiału</translation>
+    </message>
+    <message>
+        <source>one firm for all</source>
+        <translation>jedna firma dla wszystkich</translation>
+    </message>
+    <message>
+        <source>the fewest firms</source>
+        <translation>jak najmniej firm</translation>
+    </message>
+    <message>
+        <source>only what comes in time</source>
+        <translation>tylko to, co przyjdzie na czas</translation>
+    </message>
+    <message>
+        <source>&amp;Propose</source>
+        <translation>Propo&amp;zycja</translation>
+    </message>
+    <message>
+        <source>&amp;Above the cheapest by</source>
+        <translation>Drożej od najtań&amp;szej o</translation>
+    </message>
+    <message>
+        <source>&amp;Until</source>
+        <translation>&amp;Termin do</translation>
+    </message>
+    <message>
+        <source>The order was not saved yet; offers are kept beside its file</source>
+        <translation>Zamówienia jeszcze nie zapisano; oferty leżą obok jego pliku</translation>
+    </message>
+    <message>
+        <source>Offers for %1</source>
+        <translation>Oferty na %1</translation>
+    </message>
+    <message>
+        <source>Chosen: %1 PLN net, %2 PLN VAT, %3 PLN with VAT</source>
+        <translation>Wybrane: %1 PLN netto, %2 PLN VAT, %3 PLN z VAT</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) from nobody</source>
+        <translation>
+            <numerusform>%n materiał nigdzie</numerusform>
+            <numerusform>%n materiały nigdzie</numerusform>
+            <numerusform>%n materiałów nigdzie</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) without a quantity</source>
+        <translation>
+            <numerusform>%n pozycja bez ilości</numerusform>
+            <numerusform>%n pozycje bez ilości</numerusform>
+            <numerusform>%n pozycji bez ilości</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No offer came yet: Import an offer (Ctrl+O)</source>
+        <translation>Nie przyszła jeszcze żadna oferta: Wczytaj ofertę (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>the order was not saved yet</source>
+        <translation>zamówienia jeszcze nie zapisano</translation>
+    </message>
+    <message>
+        <source>no offer came yet</source>
+        <translation>nie przyszła jeszcze żadna oferta</translation>
+    </message>
+    <message>
+        <source>nothing is chosen</source>
+        <translation>nic nie jest wybrane</translation>
+    </message>
+    <message>
+        <source>no choice was taken into the order yet</source>
+        <translation>żadnego wyboru nie przeniesiono jeszcze do zamówienia</translation>
+    </message>
+    <message>
+        <source>no firm&apos;s column is current</source>
+        <translation>bieżąca kolumna nie jest kolumną firmy</translation>
+    </message>
+    <message>
+        <source>no firm is selected</source>
+        <translation>nie zaznaczono firmy</translation>
+    </message>
+    <message>
+        <source>there are no rows</source>
+        <translation>nie ma wierszy</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Otwórz plik</translation>
+    </message>
+    <message>
+        <source>%1 has sent an offer before.</source>
+        <translation>Firma %1 przysłała już ofertę.</translation>
+    </message>
+    <message>
+        <source>Replace it</source>
+        <translation>Zastąp ją</translation>
+    </message>
+    <message numerus="yes">
+        <source>Offer of %1 taken in: %n material(s)</source>
+        <translation>
+            <numerusform>Przyjęto ofertę %1: %n materiał</numerusform>
+            <numerusform>Przyjęto ofertę %1: %n materiały</numerusform>
+            <numerusform>Przyjęto ofertę %1: %n materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n material(s) are not offered there</source>
+        <translation>
+            <numerusform>%n materiału nie ma w tej ofercie</numerusform>
+            <numerusform>%n materiałów nie ma w tej ofercie</numerusform>
+            <numerusform>%n materiałów nie ma w tej ofercie</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Take the choice into the order</source>
+        <translation>Przenieś wybór do zamówienia</translation>
+    </message>
+    <message>
+        <source>Reason of the choice</source>
+        <translation>Uzasadnienie wyboru</translation>
+    </message>
+    <message>
+        <source>The order has the chosen prices; save it to keep them</source>
+        <translation>Zamówienie ma wybrane ceny; zapisz je, by zostały</translation>
+    </message>
+    <message>
+        <source>Save the order first.</source>
+        <translation>Najpierw zapisz zamówienie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2, %n line(s)</source>
+        <translation>
+            <numerusform>%1: %2, %n pozycja</numerusform>
+            <numerusform>%1: %2, %n pozycje</numerusform>
+            <numerusform>%1: %2, %n pozycji</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no firm</source>
+        <translation>bez firmy</translation>
+    </message>
+    <message>
+        <source>Write these orders beside this one, which then counts no more?</source>
+        <translation>Zapisać te zamówienia obok tego, które odtąd się nie liczy?</translation>
+    </message>
+    <message>
+        <source>Write them</source>
+        <translation>Zapisz je</translation>
+    </message>
+    <message>
+        <source>The order was not parted</source>
+        <translation>Zamówienia nie podzielono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) written</source>
+        <translation>
+            <numerusform>zapisano %n zamówienie</numerusform>
+            <numerusform>zapisano %n zamówienia</numerusform>
+            <numerusform>zapisano %n zamówień</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Written:</source>
+        <translation>Zapisano:</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened: %1</source>
+        <translation>Pliku nie można otworzyć: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The offers are as their file is</source>
+        <translation>Oferty są takie jak w pliku</translation>
+    </message>
+    <message>
+        <source>The order was changed meanwhile; this is what is proposed for it now</source>
+        <translation>Zamówienie się w międzyczasie zmieniło; oto obecna propozycja</translation>
     </message>
 </context>
 <context>
@@ -8311,6 +10285,14 @@ własne oznaczenie</translation>
         <source>OPTION_ORDERS_FOLDERS</source>
         <translation>Foldery zamówień</translation>
     </message>
+    <message>
+        <source>OPTION_ORDER_THRESHOLDS</source>
+        <translation>Progi zakupów według CPV [PLN] (cyfry: kwota)</translation>
+    </message>
+    <message>
+        <source>OPTION_VAT_RATE</source>
+        <translation>VAT w raporcie zamówienia [%] (puste: bez)</translation>
+    </message>
 </context>
 <context>
     <name>orderDocument</name>
@@ -8332,6 +10314,32 @@ własne oznaczenie</translation>
     <message>
         <source>it is open elsewhere: %1</source>
         <translation>jest otwarty gdzie indziej: %1</translation>
+    </message>
+</context>
+<context>
+    <name>orderReport</name>
+    <message>
+        <source>VAT %1 %:</source>
+        <translation>VAT %1 %:</translation>
+    </message>
+    <message>
+        <source>Sum with VAT:</source>
+        <translation>Suma z VAT:</translation>
+    </message>
+</context>
+<context>
+    <name>orderSplitting</name>
+    <message>
+        <source>No firm is chosen for any material</source>
+        <translation>Dla żadnego materiału nie wybrano firmy</translation>
+    </message>
+    <message>
+        <source>All lines are of %1: there is nothing to part</source>
+        <translation>Wszystkie pozycje są firmy %1: nie ma czego dzielić</translation>
+    </message>
+    <message>
+        <source>It was parted before, and its parts are there</source>
+        <translation>Zamówienie było już podzielone, a jego części istnieją</translation>
     </message>
 </context>
 <context>
@@ -8363,6 +10371,10 @@ własne oznaczenie</translation>
     <message>
         <source>Too little: %1</source>
         <translation>Za mało: %1</translation>
+    </message>
+    <message>
+        <source>Ordered already, and not invoiced yet:</source>
+        <translation>Już zamówione, jeszcze bez faktury:</translation>
     </message>
 </context>
 <context>
@@ -8453,6 +10465,10 @@ własne oznaczenie</translation>
     <message>
         <source>Date</source>
         <translation>Data</translation>
+    </message>
+    <message>
+        <source>parted by firm</source>
+        <translation>podzielone na firmy</translation>
     </message>
 </context>
 <context>
@@ -8820,6 +10836,57 @@ własne oznaczenie</translation>
     </message>
 </context>
 <context>
+    <name>quotationRequests</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Nie można zapisać %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no e-mail address</source>
+        <translation>%1 nie ma adresu e-mail</translation>
+    </message>
+    <message>
+        <source>No firm is chosen</source>
+        <translation>Nie wybrano żadnej firmy</translation>
+    </message>
+    <message>
+        <source>No line with a quantity is to be asked for</source>
+        <translation>Nie ma pozycji z ilością, o którą można by zapytać</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>czeka</translation>
+    </message>
+    <message>
+        <source>overdue</source>
+        <translation>po terminie</translation>
+    </message>
+    <message>
+        <source>offer came</source>
+        <translation>jest oferta</translation>
+    </message>
+    <message>
+        <source>There is no request %1</source>
+        <translation>Nie ma zapytania %1</translation>
+    </message>
+    <message>
+        <source>Somebody else has just given out the number %1</source>
+        <translation>Ktoś inny właśnie nadał numer %1</translation>
+    </message>
+    <message>
+        <source>The mail program cannot be started; the message is %1</source>
+        <translation>Nie można uruchomić programu pocztowego; wiadomość to %1</translation>
+    </message>
+    <message>
+        <source>An offer has come for %1</source>
+        <translation>Na %1 przyszła już oferta</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>Brakuje %1</translation>
+    </message>
+</context>
+<context>
     <name>recoveryDialog</name>
     <message>
         <source>Unsaved work</source>
@@ -8994,6 +11061,180 @@ własne oznaczenie</translation>
             <numerusform>%n nie można zmienić</numerusform>
             <numerusform>%n nie można zmienić</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>reportSaving</name>
+    <message>
+        <source>Save to File</source>
+        <translation>Zapisz do pliku</translation>
+    </message>
+    <message>
+        <source>Html File</source>
+        <translation>Plik HTML</translation>
+    </message>
+    <message>
+        <source>Pdf File</source>
+        <translation>Plik PDF</translation>
+    </message>
+    <message>
+        <source>Xlsx File</source>
+        <translation>Plik XLSX</translation>
+    </message>
+    <message>
+        <source>CSV File</source>
+        <translation>Plik CSV</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drukowanie</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Zapisywanie</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Zapisano jako %1</translation>
+    </message>
+</context>
+<context>
+    <name>requestsWindow</name>
+    <message>
+        <source>Requests for quotation</source>
+        <translation>Zapytania ofertowe</translation>
+    </message>
+    <message>
+        <source>Request</source>
+        <translation>Zapytanie</translation>
+    </message>
+    <message>
+        <source>Firm</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Wysłano</translation>
+    </message>
+    <message>
+        <source>Deadline</source>
+        <translation>Termin</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Reminded</source>
+        <translation>Przypomniano</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>Adresy</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiały</translation>
+    </message>
+    <message>
+        <source>Requests for quotation for %1</source>
+        <translation>Zapytania ofertowe do %1</translation>
+    </message>
+    <message>
+        <source>No firm was asked yet: New requests (Ctrl+N)</source>
+        <translation>Nie zapytano jeszcze żadnej firmy: Nowe zapytania (Ctrl+N)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n request(s)</source>
+        <translation>
+            <numerusform>%n zapytanie</numerusform>
+            <numerusform>%n zapytania</numerusform>
+            <numerusform>%n zapytań</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an offer</source>
+        <translation>
+            <numerusform>%n bez oferty</numerusform>
+            <numerusform>%n bez oferty</numerusform>
+            <numerusform>%n bez oferty</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <translation>
+            <numerusform>%n po terminie</numerusform>
+            <numerusform>%n po terminie</numerusform>
+            <numerusform>%n po terminie</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>nie wysłano</translation>
+    </message>
+    <message>
+        <source>no request is selected</source>
+        <translation>nie zaznaczono zapytania</translation>
+    </message>
+    <message>
+        <source>several requests are selected</source>
+        <translation>zaznaczono kilka zapytań</translation>
+    </message>
+    <message>
+        <source>there is no order</source>
+        <translation>nie ma zamówienia</translation>
+    </message>
+    <message>
+        <source>an offer has come from each selected firm</source>
+        <translation>od każdej zaznaczonej firmy przyszła już oferta</translation>
+    </message>
+    <message>
+        <source>Writing requests</source>
+        <translation>Pisanie zapytań</translation>
+    </message>
+    <message>
+        <source>Writing messages</source>
+        <translation>Pisanie wiadomości</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n message(s) handed to the mail program</source>
+        <translation>
+            <numerusform>przekazano %n wiadomość programowi pocztowemu</numerusform>
+            <numerusform>przekazano %n wiadomości programowi pocztowemu</numerusform>
+            <numerusform>przekazano %n wiadomości programowi pocztowemu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n only written</source>
+        <translation>
+            <numerusform>%n tylko zapisano</numerusform>
+            <numerusform>%n tylko zapisano</numerusform>
+            <numerusform>%n tylko zapisano</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the rest was cancelled</source>
+        <translation>resztę anulowano</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>Brakuje %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz</numerusform>
+            <numerusform>Skopiowano %n wiersze</numerusform>
+            <numerusform>Skopiowano %n wierszy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The requests are as the order&apos;s file of offers is</source>
+        <translation>Zapytania są takie jak w pliku ofert zamówienia</translation>
+    </message>
+    <message>
+        <source>The details of the firms in %1 cannot be read</source>
+        <translation>Nie można przeczytać danych firm w %1</translation>
     </message>
 </context>
 <context>
@@ -9518,6 +11759,17 @@ własne oznaczenie</translation>
     <message>
         <source>Does not exist in databases</source>
         <translation>Nie istnieje w bazach</translation>
+    </message>
+</context>
+<context>
+    <name>withoutCodeRows</name>
+    <message>
+        <source>Order</source>
+        <translation>Zamówienie</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Pozycja</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,19 @@ demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
     return result;
 }
 
+void noteOrdered(demand *of, const orderedLookup &ordered, const QString &orderPath)
+{
+    if (!ordered)
+        return;
+    for (need &one : of->needs) {
+        if (!one.isKnown())
+            continue;
+        const orderedBefore before = ordered(one.ktm, orderPath);
+        one.onTheWay = before.onTheWayIn(labels::unitOrPieces(one.material->d_unit));
+        one.lastOrdered = before.lastText();
+    }
+}
+
 std::vector<const need *> shortagesOf(const demand &of)
 {
     std::vector<const need *> list;
@@ -203,7 +216,7 @@ struct decision
 };
 
 decision decide(const need &one, const orderRules &rules, const kiv_mat_zpStruct &order,
-                const std::vector<int> &there, amount which, present existing)
+                const std::vector<int> &there, const wish &wanted)
 {
     decision made;
     orderedNeed &row = made.row;
@@ -216,35 +229,37 @@ decision decide(const need &one, const orderRules &rules, const kiv_mat_zpStruct
                 && (line.unit.isEmpty() || line.unit == labels::unitOrPieces(one.material->d_unit)))
                 row.inOrder += *quantity;
         }
-    row.wanted = which == amount::needed     ? one.whole()
-                 : which == amount::shortage ? one.shortage()
-                                             : qMax(decimal(), one.whole() - row.inOrder);
+    row.wanted = wanted.which == amount::needed     ? one.whole()
+                 : wanted.which == amount::shortage ? one.shortage()
+                                                    : qMax(decimal(), one.whole() - row.inOrder);
+    if (wanted.neverTwice)
+        row.wanted = qMax(decimal(), row.wanted - one.onTheWay);
     if (one.isKnown())
         row.wanted = rules.raised(*one.material, row.wanted);
     if (row.wanted == decimal() || !one.isKnown())
         return made;
-    if (existing == present::raise)
+    if (wanted.existing == present::raise)
         made.raising = raise(order, there, *one.material, row.wanted);
     row.isSkipped = !made.raising && !there.empty()
-                    && (existing == present::skip || orderOperations::isTakenOnce(one.ktm));
+                    && (wanted.existing == present::skip || orderOperations::isTakenOnce(one.ktm));
     row.toOrder = row.isSkipped ? decimal() : row.wanted;
     return made;
 }
 
 } // namespace
 
-std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order, amount which,
-                                      present existing)
+std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order,
+                                      const wish &wanted)
 {
     const lineIndex lines = indexOf(order);
     std::vector<orderedNeed> rows;
     rows.reserve(of.needs.size());
     for (const need &one : of.needs)
-        rows.push_back(decide(one, of.rules, order, lines.value(one.ktm), which, existing).row);
+        rows.push_back(decide(one, of.rules, order, lines.value(one.ktm), wanted).row);
     return rows;
 }
 
-orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
+orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, const wish &wanted,
                  const QDate &wait, const std::function<bool(const need &)> &isChosen)
 {
     orderPlan plan;
@@ -253,7 +268,7 @@ orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, 
     for (const need &one : of.needs) {
         if (isChosen && !isChosen(one))
             continue;
-        decision made = decide(one, of.rules, order, lines.value(one.ktm), which, existing);
+        decision made = decide(one, of.rules, order, lines.value(one.ktm), wanted);
         if (made.row.wanted == decimal())
             continue;
         if (!one.isKnown()) {

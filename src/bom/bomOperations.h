@@ -8,6 +8,7 @@
 #include "data/ktmIndex.h"
 #include "data/lineSums.h"
 #include "data/orderRules.h"
+#include "data/orderedBefore.h"
 
 #include <QDate>
 #include <QStringList>
@@ -69,6 +70,8 @@ struct need
     decimal extra;                  // that gets lost while the boards are built
     std::optional<decimal> inStock; // nothing when unknown, or when the stock is no number
     decimal reserved;               // of the stock, for other boards
+    decimal onTheWay;               // in other orders, in the material's unit
+    QString lastOrdered;            // date, price and order; empty when it never was
     QStringList designators;        // of its lines, each once
 
     bool isKnown() const { return material != nullptr; }
@@ -89,6 +92,8 @@ struct demand
     std::vector<const materialStruct *> uncounted;
     orderRules rules;
 };
+// Notes what other orders than the one at that path have of the needs.
+void noteOrdered(demand *of, const orderedLookup &ordered, const QString &orderPath);
 // Looks at the lists and the materials, which have to live as long as it is used.
 demand demandOf(const std::vector<bomSets> &lists, const ktmIndex &materials,
                 const orderRules &rules = {});
@@ -125,9 +130,16 @@ struct orderedNeed
 
     decimal after() const { return inOrder + toOrder; }
 };
+// What of a need is ordered.
+struct wish
+{
+    amount which = amount::needed;
+    present existing = present::raise;
+    bool neverTwice = false; // less what is on the way
+};
 // In the order of the needs.
-std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order, amount which,
-                                      present existing);
+std::vector<orderedNeed> orderedNeeds(const demand &of, const kiv_mat_zpStruct &order,
+                                      const wish &wanted);
 
 // One change of an order: another quantity for line number "line", or, when that is -1, a line to
 // append. Lines are to be appended in the order of the changes.
@@ -148,7 +160,7 @@ struct orderPlan
 // quantity is a number or empty and its unit is the material's; else the amount becomes a line of
 // its own, as nothing else would be right. Materials of which an order takes one line (shipment,
 // PCB) are never doubled. Amounts of nothing make no change. isChosen leaves needs out.
-orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, amount which, present existing,
+orderPlan planOf(const demand &of, const kiv_mat_zpStruct &order, const wish &wanted,
                  const QDate &wait, const std::function<bool(const need &)> &isChosen = {});
 
 // Where a plan is carried out: on the order alone, or in a window, which keeps its rows and its

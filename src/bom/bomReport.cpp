@@ -215,6 +215,8 @@ QString workCaption(workColumn column)
         return labels::inWarehouse();
     case workReserved:
         return labels::reserved();
+    case workOnTheWay:
+        return labels::onTheWay();
     case workShort:
         return tr("Short");
     case workInOrder:
@@ -229,6 +231,8 @@ QString workCaption(workColumn column)
         return labels::price();
     case workAmount:
         return tr("Amount");
+    case workLastOrdered:
+        return labels::lastOrdered();
     case workSupplier:
         return labels::suppliers();
     default:
@@ -252,6 +256,8 @@ QString workText(const orderedNeed &row, workColumn column)
         return needText(*row.of, inStockColumn);
     case workReserved:
         return row.of->reserved == decimal() ? QString() : row.of->reserved.text();
+    case workOnTheWay:
+        return row.of->onTheWay == decimal() ? QString() : row.of->onTheWay.text();
     case workShort:
         return row.of->shortage().text();
     case workInOrder:
@@ -268,6 +274,8 @@ QString workText(const orderedNeed &row, workColumn column)
         const auto price = material ? decimal::read(material->d_price) : std::nullopt;
         return price && row.toOrder > decimal() ? (*price * row.toOrder).money() : QString();
     }
+    case workLastOrdered:
+        return row.of->lastOrdered;
     case workSupplier: {
         QStringList names;
         if (material)

@@ -40,6 +40,7 @@ enum workColumn
     workExtra, // that gets lost
     workInStock,
     workReserved, // for other boards
+    workOnTheWay, // in other orders
     workShort,
     workInOrder,
     workToOrder,
@@ -47,6 +48,7 @@ enum workColumn
     workUnit,
     workPrice,
     workAmount, // of what is to be ordered
+    workLastOrdered,
     workSupplier,
     workColumns
 };

@@ -57,8 +57,7 @@ void Kiv_bomWindow::commandReserve(bool)
                             this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{userName(), QDateTime::currentDateTime(),
-                                    dialog.withExtra()};
+    const boardStock::occasion when{userName(), QDateTime::currentDateTime(), dialog.withExtra()};
     QString fault;
     const bool done = file.change(
         [&](kiv_mat_reservationsStruct &all) {
@@ -87,8 +86,7 @@ void Kiv_bomWindow::commandBuilt(bool)
     boardStockDialog dialog(boardStockDialog::takingOut, needed, materials, boards, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const boardStock::occasion when{userName(), QDateTime::currentDateTime(),
-                                    dialog.withExtra()};
+    const boardStock::occasion when{userName(), QDateTime::currentDateTime(), dialog.withExtra()};
     // What is built is not built again by mistake.
     if (takeOut(boardStock::withdrawalsOf(dialog.takings(), read.lists, materials, rules,
                                           known().reservations().path(), when),

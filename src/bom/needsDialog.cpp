@@ -8,6 +8,7 @@
 #include "util/tableFile.h"
 #include "util/text.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -83,6 +84,15 @@ needsDialog::needsDialog(const demand &of, const kiv_mat_zpStruct &order, const 
     radio(tr("What is needed"), "needed", amounts, true);
     m_short = radio(tr("Only what is short of stock"), "short", amounts);
     m_topUp = radio(tr("What the order lacks of what is needed"), "topUp", amounts);
+    m_neverTwice = new QCheckBox(tr("Never t&wice: less what is on the way"), amounts);
+    m_neverTwice->setObjectName(QStringLiteral("neverTwice"));
+    m_neverTwice->setEnabled(std::any_of(of.needs.begin(), of.needs.end(),
+                                         [](const need &one) { return one.onTheWay > decimal(); }));
+    m_neverTwice->setToolTip(m_neverTwice->isEnabled()
+                                 ? tr("Other orders have some of these materials, not invoiced yet")
+                                 : tr("No other order has any of these materials on the way"));
+    amounts->layout()->addWidget(m_neverTwice);
+    connect(m_neverTwice, &QCheckBox::toggled, this, &needsDialog::showRows);
     auto *present = new QGroupBox(tr("Materials that the order has already"), this);
     present->setLayout(new QVBoxLayout);
     radio(tr("Raise the quantity of their lines"), "raise", present, true);
@@ -168,7 +178,7 @@ void needsDialog::makeTable()
             if (isNumber(workColumn(column)))
                 item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     m_table->addTopLevelItems(items);
-    constexpr int widths[] = {190, 190, 75, 60, 85, 75, 60, 70, 75, 60, 50, 70, 85, 130};
+    constexpr int widths[] = {190, 190, 75, 60, 85, 75, 75, 60, 70, 75, 60, 50, 70, 85, 210, 130};
     for (int column = 0; column < workColumns; ++column)
         m_table->header()->resizeSection(
             column, std::max(widths[column], m_table->header()->sectionSizeHint(column)));
@@ -181,16 +191,15 @@ void needsDialog::makeTable()
     });
 }
 
-amount needsDialog::wantedAmount() const
+wish needsDialog::wanted() const
 {
-    return m_short->isChecked()   ? amount::shortage
-           : m_topUp->isChecked() ? amount::topUp
-                                  : amount::needed;
-}
-
-present needsDialog::existing() const
-{
-    return m_add->isChecked() ? present::add : m_skip->isChecked() ? present::skip : present::raise;
+    return {m_short->isChecked()   ? amount::shortage
+            : m_topUp->isChecked() ? amount::topUp
+                                   : amount::needed,
+            m_add->isChecked()    ? present::add
+            : m_skip->isChecked() ? present::skip
+                                  : present::raise,
+            m_neverTwice->isChecked()};
 }
 
 // What is in no database has no tick, and is named when the plan is carried out.
@@ -202,7 +211,7 @@ bool needsDialog::isChosen(const need &one) const
 
 void needsDialog::showRows()
 {
-    m_rows = orderedNeeds(m_of, m_order, wantedAmount(), existing());
+    m_rows = orderedNeeds(m_of, m_order, wanted());
     {
         const QSignalBlocker quiet(m_table);
         for (size_t i = 0; i < m_rows.size(); ++i)
@@ -220,10 +229,12 @@ void needsDialog::showSums()
     int ordered = 0;
     int shortOf = 0;
     int unknown = 0;
+    int onTheWay = 0;
     lineSums sums;
     for (const orderedNeed &row : m_rows) {
         shortOf += row.of->isKnown() && row.of->isShort() ? 1 : 0;
         unknown += row.of->isKnown() ? 0 : 1;
+        onTheWay += row.of->onTheWay > decimal() ? 1 : 0;
         if (!row.of->isKnown() || !isChosen(*row.of) || row.toOrder == decimal())
             continue;
         ++ordered;
@@ -233,6 +244,8 @@ void needsDialog::showSums()
                       tr("%n short of stock", nullptr, shortOf)};
     if (unknown > 0)
         parts.append(tr("%n in no database", nullptr, unknown));
+    if (onTheWay > 0)
+        parts.append(tr("%n on the way already", nullptr, onTheWay));
     parts.append(tr("%n to be ordered", nullptr, ordered));
     parts.append(labels::sumPrice() + sums.price.money() + QLatin1String(" [ PLN ]")
                  + sums.price.note());

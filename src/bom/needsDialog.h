@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -20,8 +21,7 @@ public:
     needsDialog(const bomOperations::demand &of, const kiv_mat_zpStruct &order,
                 const QString &proposed, QWidget *parent);
 
-    bomOperations::amount wantedAmount() const;
-    bomOperations::present existing() const;
+    bomOperations::wish wanted() const;
     // Whether it is ticked.
     bool isChosen(const bomOperations::need &one) const;
     // The needs beside the order, as the chosen ways have them.
@@ -51,6 +51,7 @@ private:
     std::vector<QTreeWidgetItem *> m_items;
     QTreeWidget *m_table;
     QLabel *m_sum;
+    QCheckBox *m_neverTwice;
     QRadioButton *m_short;
     QRadioButton *m_topUp;
     QRadioButton *m_add;

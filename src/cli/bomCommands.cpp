@@ -11,6 +11,7 @@
 #include "data/loaders.h"
 #include "data/reservationsFile.h"
 #include "order/orderOperations.h"
+#include "orders/orderRegister.h"
 #include "util/files.h"
 #include "util/paths.h"
 
@@ -145,9 +146,13 @@ int runOrder(const QStringList &arguments)
     const QCommandLineOption topUp(
         QStringLiteral("top-up"),
         QCoreApplication::translate("cli", "Order only what ORDER lacks of what is needed."));
+    const QCommandLineOption neverTwice(
+        QStringLiteral("never-twice"),
+        QCoreApplication::translate(
+            "cli", "Order less what other orders, in the configured folders, have on the way."));
     const QCommandLineOption reservations = reservationsOption();
     for (const QCommandLineOption &option :
-         {database, output, from, onlyShort, topUp, existing, reservations})
+         {database, output, from, onlyShort, topUp, neverTwice, existing, reservations})
         options.addOption(option);
     if (!options.accept(arguments))
         return options.code();
@@ -180,11 +185,22 @@ int runOrder(const QStringList &arguments)
     if (!takeReserved(options.value(reservations), &needed, lists, databases))
         return refused;
     warnOfUncounted(needed);
+    if (options.isSet(neverTwice)) {
+        orderRegister orders(orderIndex::usualCache());
+        orders.update(config.orderFolders());
+        noteOrdered(
+            &needed,
+            [&orders](const QString &ktm, const QString &except) {
+                return orders.beforeOf(ktm, except);
+            },
+            target);
+    }
     orderPlan plan = planOf(needed, order,
-                            options.isSet(onlyShort) ? amount::shortage
-                            : options.isSet(topUp)   ? amount::topUp
-                                                     : amount::needed,
-                            chosen->meaning, orderOperations::usualDate(config));
+                            {options.isSet(onlyShort) ? amount::shortage
+                             : options.isSet(topUp)   ? amount::topUp
+                                                      : amount::needed,
+                             chosen->meaning, options.isSet(neverTwice)},
+                            orderOperations::usualDate(config));
     for (const need *one : plan.unknown)
         warn(QCoreApplication::translate("cli", "in no database, left out"),
              one->ktm + QLatin1Char(' ') + one->name);
@@ -337,9 +353,9 @@ int runBasket(const QStringList &arguments)
         options.isSet(from)
             ? supplierBasket::itemsOf(order, databases.index())
             : supplierBasket::itemsOf(
-                needed, orderedNeeds(needed, order,
-                                     options.isSet(onlyShort) ? amount::shortage : amount::needed,
-                                     present::raise));
+                needed,
+                orderedNeeds(needed, order,
+                             {options.isSet(onlyShort) ? amount::shortage : amount::needed}));
     const QString onlyOf = options.value(supplier);
     const auto baskets = supplierBasket::basketsOf(items, {}, onlyOf);
     const auto isWanted = [&onlyOf](const supplierBasket::basket &one) {

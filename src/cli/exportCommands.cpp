@@ -69,8 +69,7 @@ int runAltium(const QStringList &arguments)
 
 int runGroups(const QStringList &arguments)
 {
-    return runExport(groupsCommand, arguments, {{QStringLiteral(".xlsx"), exportGroups}},
-                     false);
+    return runExport(groupsCommand, arguments, {{QStringLiteral(".xlsx"), exportGroups}}, false);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "data/kiv_mat_bomsStruct.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 #include "data/kiv_mat_orderStatesStruct.h"
 #include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
@@ -73,7 +74,11 @@ QList<fact> factsOf(const documentStruct &document)
         return {count("reserved", boards->reserved.items.size()),
                 count("built", boards->built.items.size())};
     if (const auto *states = dynamic_cast<const kiv_mat_orderStatesStruct *>(&document))
-        return {count("sent", states->orders.size())};
+        return {count("sent", states->orders.size()), count("parted", states->parted.size()),
+                count("stocked", states->stocked.size())};
+    if (const auto *offers = dynamic_cast<const kiv_mat_offersStruct *>(&document))
+        return {count("requests", offers->requests.size()), count("offers", offers->offers.size()),
+                count("choices", offers->choices.size())};
     if (const auto *config = dynamic_cast<const configStruct *>(&document))
         return {count("options", config->options.items.size()),
                 count("persons", config->persons.items.size()),

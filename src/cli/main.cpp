@@ -24,7 +24,8 @@ const QList<const cli::subcommand *> &commands()
         &cli::packCommand,           &cli::unpackCommand,       &cli::versionsCommand,
         &cli::checkCommand,          &cli::setFieldCommand,     &cli::materialCommand,
         &cli::examineLinksCommand,   &cli::firmMergeCommand,    &cli::replaceMaterialCommand,
-        &cli::bomBasketCommand,      &cli::ordersCommand,
+        &cli::bomBasketCommand,      &cli::ordersCommand,       &cli::planCommand,
+        &cli::deliverCommand,        &cli::offersCommand,       &cli::requestCommand,
     };
     return table;
 }

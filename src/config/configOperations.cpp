@@ -1,6 +1,8 @@
 #include "config/configOperations.h"
 
+#include "data/lineSums.h"
 #include "data/orderRules.h"
+#include "data/purchaseThresholds.h"
 #include "data/vocabulary.h"
 #include "util/labels.h"
 #include "util/paths.h"
@@ -71,6 +73,12 @@ QString faultOf(const optionStruct &option)
         return notUnderstood(orderRules().readAttrition(option.value1));
     if (option.type == optionKey::bomMultiple)
         return notUnderstood(orderRules().readMultiples(option.value1));
+    if (option.type == optionKey::orderThresholds)
+        return notUnderstood(annualPlan::readThresholds(option.value1).faults);
+    if (option.type == optionKey::vatRate)
+        return option.value1.trimmed().isEmpty() || readVat(option.value1)
+                   ? QString()
+                   : tr("is no rate from 0 to 100");
     const optionType type = typeOf(option.type);
     switch (type.kind) {
     case optionKind::number: {

@@ -70,7 +70,9 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::serverUserPassword, "", ""},
     {optionKey::ordersFolders, "_zp", ""},
     {optionKey::bomAttrition, "", ""},
-    {optionKey::bomMultiple, "", ""}};
+    {optionKey::bomMultiple, "", ""},
+    {optionKey::orderThresholds, "", ""},
+    {optionKey::vatRate, "", "%"}};
 
 } // namespace
 

@@ -8,6 +8,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 #include "data/kiv_mat_orderStatesStruct.h"
 #include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
@@ -47,6 +48,20 @@ identity identityOf(const basketColumnStruct &column) { return {column.kind, col
 identity identityOf(const boardStruct &board) { return {board.id, board.list}; }
 identity identityOf(const boardLineStruct &line) { return {line.ktm, line.name}; }
 identity identityOf(const orderStateStruct &state) { return {state.file, state.number}; }
+identity identityOf(const partedOrderStruct &parted) { return {parted.file, parted.parts}; }
+identity identityOf(const stockedDeliveryStruct &stocked)
+{
+    return {stocked.file + QLatin1Char(' ') + stocked.ktm + QLatin1Char(' ') + stocked.delivery,
+            {}};
+}
+identity identityOf(const requestStruct &request) { return {request.number, request.firm}; }
+identity identityOf(const requestedStruct &asked) { return {asked.key, asked.name}; }
+identity identityOf(const offerStruct &offer)
+{
+    return {offer.firm + QLatin1Char(' ') + offer.received, {}};
+}
+identity identityOf(const offeredStruct &offered) { return {offered.key, {}}; }
+identity identityOf(const choiceStruct &choice) { return {choice.key, {}}; }
 identity identityOf(const fileStruct &file) { return {file.name, file.type}; }
 identity identityOf(const fileGroup &group) { return {group.name, {}}; }
 identity identityOf(const fileCategory &category) { return {category.name, {}}; }
@@ -598,6 +613,31 @@ void compare(differ &rows, const kiv_mat_orderStatesStruct &before,
              const kiv_mat_orderStatesStruct &after)
 {
     rows.compareList<shapeOf<orderStateStruct>>(before.orders, after.orders);
+    rows.compareList<shapeOf<partedOrderStruct>>(before.parted, after.parted);
+    rows.compareList<shapeOf<stockedDeliveryStruct>>(before.stocked, after.stocked);
+}
+
+// Lists, and what is in each of them.
+template <class List, class Child>
+void compareLists(differ &rows, const std::vector<std::unique_ptr<List>> &before,
+                  const std::vector<std::unique_ptr<List>> &after)
+{
+    level<List> lists;
+    lists.append(lists.before, before);
+    lists.append(lists.after, after);
+    match<shapeOf<List>>(lists, {});
+    level<Child> children = heldBy<Child>(lists);
+    match<shapeOf<Child>>(children, ownersOf(lists, {}));
+    rows.compareLevel<shapeOf<List>>(lists, {});
+    rows.compareLevel<shapeOf<Child>>(children, ownersOf(lists, {}));
+}
+
+void compare(differ &rows, const kiv_mat_offersStruct &before, const kiv_mat_offersStruct &after)
+{
+    compareOwnFields(rows, before, after);
+    compareLists<requestStruct, requestedStruct>(rows, before.requests, after.requests);
+    compareLists<offerStruct, offeredStruct>(rows, before.offers, after.offers);
+    rows.compareList<shapeOf<choiceStruct>>(before.choices, after.choices);
 }
 
 void compare(differ &rows, const configStruct &before, const configStruct &after)
@@ -653,7 +693,14 @@ int linesOf(const kiv_mat_reservationsStruct &boards)
 {
     return int(boards.reserved.items.size() + boards.built.items.size());
 }
-int linesOf(const kiv_mat_orderStatesStruct &states) { return int(states.orders.size()); }
+int linesOf(const kiv_mat_orderStatesStruct &states)
+{
+    return int(states.orders.size() + states.parted.size() + states.stocked.size());
+}
+int linesOf(const kiv_mat_offersStruct &all)
+{
+    return int(all.requests.size() + all.offers.size() + all.choices.size());
+}
 int linesOf(const configStruct &config)
 {
     return int(config.options.items.size() + config.persons.items.size()
@@ -686,6 +733,7 @@ void withType(const documentStruct &document, const Act &act)
         || is(dynamic_cast<const kiv_mat_firmDetailsStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_reservationsStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_orderStatesStruct *>(&document))
+        || is(dynamic_cast<const kiv_mat_offersStruct *>(&document))
         || is(dynamic_cast<const configStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomStruct *>(&document))
         || is(dynamic_cast<const kiv_mat_bomsStruct *>(&document))

@@ -1,6 +1,7 @@
 #include "data/documentStruct.h"
 
 #include "data/kiv_mat_firmDetailsStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 #include "data/streamValidation.h"
 #include "util/paths.h"
 #include "util/progressFile.h"
@@ -32,7 +33,7 @@ fileHead headOf(const QString &filePath)
         return head;
     }
     for (const fileKind *kind : {&order, &database, &firm, &firmDetails, &config, &bom, &boms,
-                                 &reservations, &orderStates, &info, &update})
+                                 &reservations, &orderStates, &offers, &info, &update})
         if (reader.name() == kind->root)
             head.kind = kind;
     if (!head.kind) {

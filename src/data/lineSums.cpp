@@ -104,3 +104,19 @@ lineSums sumsOf(const kiv_mat_zpStruct &order)
         lines.push_back(line.get());
     return sumsOf(lines);
 }
+
+std::optional<decimal> readVat(const QString &text)
+{
+    constexpr int whole = 100;
+    const auto rate = decimal::read(text.trimmed());
+    const bool isRate =
+        rate && *rate >= decimal() && *rate <= *decimal::read(QString::number(whole));
+    return isRate ? rate : std::nullopt;
+}
+
+// On whole grosz, as it stands on an invoice.
+decimal vatOf(const decimal &net, const decimal &rate)
+{
+    const decimal share = *decimal::read((rate * *decimal::read(QStringLiteral("0.01"))).text());
+    return *decimal::read((*decimal::read(net.money()) * share).money());
+}

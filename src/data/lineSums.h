@@ -51,6 +51,10 @@ struct lineSums
     // Of so many sets: the amounts grow, the numbers of lines do not.
     lineSums times(int sets) const;
 };
+// A rate of VAT in percent, from 0 to 100; nothing for any other text.
+std::optional<decimal> readVat(const QString &text);
+// The tax on a sum without it, both in whole grosz.
+decimal vatOf(const decimal &net, const decimal &rate);
 lineSums sumsOf(const std::vector<const orderItemStruct *> &lines);
 // Over all lines.
 lineSums sumsOf(const kiv_mat_zpStruct &order);

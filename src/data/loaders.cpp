@@ -9,6 +9,7 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
 #include "data/kiv_mat_firmStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 #include "data/kiv_mat_orderStatesStruct.h"
 #include "data/kiv_mat_reservationsStruct.h"
 #include "data/kiv_mat_zpStruct.h"
@@ -153,6 +154,8 @@ std::unique_ptr<documentStruct> newDocument(const fileKind &kind)
         return std::make_unique<kiv_mat_reservationsStruct>();
     if (&kind == &fileKinds::orderStates)
         return std::make_unique<kiv_mat_orderStatesStruct>();
+    if (&kind == &fileKinds::offers)
+        return std::make_unique<kiv_mat_offersStruct>();
     if (&kind == &fileKinds::info)
         return std::make_unique<kiv_infoStruct>();
     return std::make_unique<kiv_UpdateStruct>();

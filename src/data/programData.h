@@ -9,6 +9,7 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "data/ktmIndex.h"
 #include "data/materialSearch.h"
+#include "data/orderedBefore.h"
 #include "data/reservationsFile.h"
 #include "util/progress.h"
 
@@ -76,6 +77,14 @@ public:
     ktmIndex &materials() { return m_materials; }
     materialSearch &search() { return m_search; }
 
+    // What earlier orders say of a material; nothing until a register of orders was told. except is
+    // the path of an order that does not count.
+    void setOrderedLookup(orderedLookup lookup) { m_ordered = std::move(lookup); }
+    orderedBefore orderedOf(const QString &ktm, const QString &except = {}) const
+    {
+        return m_ordered && !ktm.isEmpty() ? m_ordered(ktm, except) : orderedBefore();
+    }
+
     // Everything empty again, as before the first load.
     void clear();
 
@@ -93,6 +102,7 @@ private:
     reservationsFile m_reservations;
     ktmIndex m_materials;
     materialSearch m_search;
+    orderedLookup m_ordered;
     bool m_schemasReported = false;
 };
 

@@ -275,6 +275,7 @@ void Kiv_mat_databaseWindow::showDatabase()
 {
     setClean();
     m_built.discard();
+    m_stocked.clear();
     m_model->setRecords(nullptr);
     const bool first = !m_rows;
     m_reserved = reservedTotals(known().reservations().now());
@@ -282,9 +283,11 @@ void Kiv_mat_databaseWindow::showDatabase()
         const auto found = m_reserved.constFind(ktm);
         return found == m_reserved.constEnd() ? QString() : found->text();
     };
-    m_rows = std::make_unique<materialRows>(&known().database(m_kind),
-                                            databaseTree::columns(known().config(), reservedOf),
-                                            &known().materials(), &known().search());
+    m_rows = std::make_unique<materialRows>(
+        &known().database(m_kind),
+        databaseTree::columns(known().config(), reservedOf,
+                              [this](const QString &ktm) { return known().orderedOf(ktm); }),
+        &known().materials(), &known().search());
     m_rows->show(m_model);
     if (first) {
         QHeaderView *header = m_view->header();
@@ -308,6 +311,13 @@ void Kiv_mat_databaseWindow::showReserved()
         return;
     m_reserved = std::move(now);
     m_rows->readAgain(QLatin1String("reserved"));
+    m_details->follow();
+}
+
+void Kiv_mat_databaseWindow::ordersChanged()
+{
+    for (const char *column : {"on_the_way", "last_ordered"})
+        m_rows->readAgain(QLatin1String(column));
     m_details->follow();
 }
 
@@ -386,7 +396,7 @@ void Kiv_mat_databaseWindow::itemTreeClicked(QPoint, uint, const QModelIndex &in
 // Boards that are built but not noted are noted with the next saving, which has to come.
 bool Kiv_mat_databaseWindow::isModified() const
 {
-    return editWindow::isModified() || m_built.areOverdue();
+    return editWindow::isModified() || m_built.areOverdue() || m_stocked.areOverdue();
 }
 
 bool Kiv_mat_databaseWindow::takeNote(const QString &note) { return m_built.takeUp(note); }
@@ -414,6 +424,12 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
             tr("The database is saved, but the boards that were built cannot be noted in %1; "
                "saving again tries it again")
                 .arg(QDir::toNativeSeparators(known().reservations().path()))
+                .toHtmlEscaped()
+            + QLatin1String("<br>") + fault.toHtmlEscaped());
+    if (saved && !m_stocked.settle(&fault))
+        userPrompts().showError(
+            tr("The database is saved, but the deliveries that went into its stock cannot be noted "
+               "beside the orders; saving again tries it again")
                 .toHtmlEscaped()
             + QLatin1String("<br>") + fault.toHtmlEscaped());
     showReserved();

@@ -14,6 +14,7 @@
 #include "database/exportResult.h"
 #include "database/linkExamination.h"
 #include "database/materialChange.h"
+#include "database/notedOnSave.h"
 #include "firm/firmOperations.h"
 #include "window/editWindow.h"
 
@@ -143,6 +144,10 @@ public slots:
     // Changes the stock as one step. The boards that it was taken out for are noted when the
     // database is saved.
     void takeOut(std::vector<materialChange> stock, builtBoards::boards built, const QString &what);
+    // Changes the stock as one step, which is noted elsewhere when the database is saved.
+    void takeIn(std::vector<materialChange> stock, notedOnSave::note note, const QString &what);
+    // Orders were placed or came: the columns that tell of them are read again.
+    void ordersChanged();
     // Gives links other addresses as one step; how many were changed.
     int replaceLinks(const std::vector<linkExamination::replacement> &replacements);
 
@@ -259,6 +264,7 @@ private:
     materialWindow *m_editor = nullptr;
     searchQuery m_query;
     builtBoards m_built;
+    notedOnSave m_stocked;              // deliveries that went into stock
     QHash<QString, decimal> m_reserved; // by KTM
     QString m_statusFilter;
     bool m_editedFilter = false;

@@ -4,13 +4,13 @@
 #include "database/exportNames.h"
 #include "database/kicadLibrary.h"
 #include "database/libraryDescription.h"
-#include "util/workbook.h"
 #include "util/files.h"
 #include "util/labels.h"
 #include "util/messages.h"
 #include "util/safeFile.h"
 #include "util/scratch.h"
 #include "util/text.h"
+#include "util/workbook.h"
 
 #include <QCoreApplication>
 #include <QFile>

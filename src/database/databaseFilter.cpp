@@ -109,7 +109,8 @@ void Kiv_mat_databaseWindow::applyFilter()
 {
     m_query = m_words->query();
     const bool searching = !m_query.terms().empty();
-    if (!m_opened.empty() && (!searching || known().search().find(m_query, 0).total > openedMatches))
+    if (!m_opened.empty()
+        && (!searching || known().search().find(m_query, 0).total > openedMatches))
         closeOpened();
     if (searching || m_editedFilter || !m_statusFilter.isEmpty()) {
         deselectUnmatched();

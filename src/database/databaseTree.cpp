@@ -112,7 +112,8 @@ treeColumn<materialStruct> joinedColumn(const char *key, const QString &label, M
 } // namespace
 
 treeColumns<materialStruct> columns(const configStruct &config,
-                                    const std::function<QString(const QString &ktm)> &reserved)
+                                    const std::function<QString(const QString &ktm)> &reserved,
+                                    const std::function<orderedBefore(const QString &ktm)> &ordered)
 {
     treeColumns<materialStruct> table;
     for (const materialColumn &c : materialColumns) {
@@ -169,6 +170,23 @@ treeColumns<materialStruct> columns(const configStruct &config,
                          [reserved](const materialStruct &m) { return reserved(m.d_ktm); },
                          {},
                          false});
+    if (ordered) {
+        table.push_back(
+            {QStringLiteral("on_the_way"),
+             labels::onTheWay(),
+             100,
+             standardKind,
+             [ordered](const materialStruct &m) { return ordered(m.d_ktm).onTheWayText(); },
+             {},
+             false});
+        table.push_back({QStringLiteral("last_ordered"),
+                         labels::lastOrdered(),
+                         230,
+                         standardKind,
+                         [ordered](const materialStruct &m) { return ordered(m.d_ktm).lastText(); },
+                         {},
+                         false});
+    }
     return table;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "data/kiv_mat_databaseStruct.h"
+#include "data/orderedBefore.h"
 #include "tree/columnTable.h"
 
 #include <QHash>
@@ -25,10 +26,11 @@ enum column
     statusColumn
 };
 
-// reserved gives what boards have reserved of a KTM, empty when nothing; without it there is no
-// column for that.
+// reserved gives what boards have reserved of a KTM, empty when nothing, and ordered what orders
+// have of it; without them there are no columns for that.
 treeColumns<materialStruct> columns(
-    const configStruct &config, const std::function<QString(const QString &ktm)> &reserved = {});
+    const configStruct &config, const std::function<QString(const QString &ktm)> &reserved = {},
+    const std::function<orderedBefore(const QString &ktm)> &ordered = {});
 // The number of columns that are shown until the user chooses others.
 int usuallyShown();
 

@@ -1,7 +1,7 @@
 #include "database/exportNames.h"
 
-#include "util/workbook.h"
 #include "util/text.h"
+#include "util/workbook.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -87,14 +87,13 @@ QByteArray text(const QString &fileName, const QStringList &tables, const QList<
         {QStringLiteral("connection_string"),
          QStringLiteral("Driver=%1;Database=${CWD}/%2").arg(driver(), fileName)},
     };
-    return QJsonDocument(
-               QJsonObject{
-                   {QStringLiteral("meta"), QJsonObject{{QStringLiteral("version"), 0}}},
-                   {QStringLiteral("name"), QFileInfo(fileName).completeBaseName()},
-                   {QStringLiteral("description"), fileName},
-                   {QStringLiteral("source"), source},
-                   {QStringLiteral("libraries"), libraries},
-               })
+    return QJsonDocument(QJsonObject{
+                             {QStringLiteral("meta"), QJsonObject{{QStringLiteral("version"), 0}}},
+                             {QStringLiteral("name"), QFileInfo(fileName).completeBaseName()},
+                             {QStringLiteral("description"), fileName},
+                             {QStringLiteral("source"), source},
+                             {QStringLiteral("libraries"), libraries},
+                         })
         .toJson();
 }
 

@@ -181,8 +181,7 @@ QString mergeTree::otherText(const entry &of, int place) const
 {
     if (of.kind == materialDifference::groupCpv)
         return of.otherGroup->cpv;
-    return place == groupPlace() ? of.otherGroup->name
-                                 : shownText(place, *of.other);
+    return place == groupPlace() ? of.otherGroup->name : shownText(place, *of.other);
 }
 
 // What is the same in both the other one tells.

@@ -113,4 +113,5 @@ void orderDocument::listFaults() const
          faults.withoutStatus);
 }
 
-QString orderDocument::report() const { return orderReport(*m_order, m_known.materials()); }
+QString orderDocument::report() const { return orderReport(*m_order, m_known.materials(),
+                       m_known.config().options.value(optionKey::vatRate)); }

@@ -153,8 +153,7 @@ bool appendToFile(const QString &path, const std::vector<const orderItemStruct *
     return false;
 }
 
-std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, const QString &number,
-                                               const QDate &today, const QDate &wait)
+std::unique_ptr<kiv_mat_zpStruct> copyOf(const kiv_mat_zpStruct &other)
 {
     auto order = std::make_unique<kiv_mat_zpStruct>();
     order->attentions = other.attentions;
@@ -164,19 +163,26 @@ std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, co
             own = order->options.append(std::make_unique<optionStruct>());
         copyFields(*own, *option, optionStruct::fields());
     }
+    for (const auto &line : other.orderItems.items)
+        copyFields(*order->orderItems.append(std::make_unique<orderItemStruct>()), *line,
+                   orderItemStruct::fields());
+    return order;
+}
+
+std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, const QString &number,
+                                               const QDate &today, const QDate &wait)
+{
+    auto order = copyOf(other);
     const auto set = [&order](QLatin1String key, const QString &value) {
         if (optionStruct *option = order->options.findOption(key))
             option->value1 = value;
     };
     set(optionKey::orderNumber, number);
     set(optionKey::orderDate, today.toString(labels::dateFormat()));
-    for (const auto &line : other.orderItems.items) {
-        auto copy = std::make_unique<orderItemStruct>();
-        copyFields(*copy, *line, orderItemStruct::fields());
-        copy->wait = wait.toString(labels::dateFormat());
-        copy->delivery.clear();
-        copy->invoice.clear();
-        order->orderItems.append(std::move(copy));
+    for (const auto &line : order->orderItems.items) {
+        line->wait = wait.toString(labels::dateFormat());
+        line->delivery.clear();
+        line->invoice.clear();
     }
     return order;
 }

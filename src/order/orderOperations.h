@@ -67,6 +67,9 @@ std::unique_ptr<orderItemStruct> newLine(const materialStruct &material,
 bool appendToFile(const QString &path, const std::vector<const orderItemStruct *> &lines,
                   const std::vector<int> &columns, configStruct &config, QString *reason);
 
+// The same options, lines and remarks.
+std::unique_ptr<kiv_mat_zpStruct> copyOf(const kiv_mat_zpStruct &other);
+
 // A new order with the options, lines and remarks of another one: with that number and today's
 // date, its lines needed by that day, and nothing delivered or invoiced yet.
 std::unique_ptr<kiv_mat_zpStruct> newOrderLike(const kiv_mat_zpStruct &other, const QString &number,

@@ -3,6 +3,7 @@
 #include "data/configStruct.h"
 #include "data/vocabulary.h"
 #include "util/labels.h"
+#include "util/text.h"
 
 #include <QCoreApplication>
 
@@ -73,6 +74,24 @@ void showStock(const orderItemStruct &line, myItemStandard *cell, const ktmIndex
                                     : QString());
 }
 
+// How much of it other orders have on the way: a warning as long as the line itself is to come.
+void showOnTheWay(const orderItemStruct &line, myItemStandard *cell, const orderedOfKtm &ordered)
+{
+    const orderedBefore before = ordered ? ordered(line.ktm) : orderedBefore();
+    const bool isAgain = before.isOnTheWay() && line.delivery.trimmed().isEmpty()
+                         && line.invoice.trimmed().isEmpty();
+    const QString orders = before.open.join(QLatin1Char('\n'));
+    set(cell, before.onTheWayText(), isAgain ? QStringLiteral("line_short") : QString(),
+        isAgain ? tr("Ordered already, and not invoiced yet:") + QLatin1Char('\n') + orders
+                : text::toolTip(orders));
+}
+
+void showLastOrdered(const orderItemStruct &line, myItemStandard *cell, const orderedOfKtm &ordered)
+{
+    const QString last = ordered ? ordered(line.ktm).lastText() : QString();
+    set(cell, last.isNull() ? QLatin1String("") : last, {}, text::toolTip(last));
+}
+
 struct lineColumn
 {
     const char *key;
@@ -101,6 +120,8 @@ constexpr lineColumn lineColumns[] = {
     {"attentions", 160, lineEditKind, true},
 };
 constexpr int statusWidth = 110;
+constexpr int onTheWayWidth = 110;
+constexpr int lastOrderedWidth = 230;
 
 struct optionRow
 {
@@ -134,9 +155,8 @@ comboEntries personEntries(const configStruct &config, const QString &role)
 } // namespace
 
 treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_zpStruct &order,
-                                     const ktmIndex &materials)
+                                     const ktmIndex &materials, const orderedOfKtm &ordered)
 {
-    const QString noNumber;
     treeColumns<orderItemStruct> table;
     for (const lineColumn &c : lineColumns)
         table.push_back(fieldColumn(orderItemStruct::fields(), QLatin1String(c.key), c.width,
@@ -156,36 +176,47 @@ treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_z
     table[indexColumn].look = [](const orderItemStruct &, myItemStandard *cell) {
         cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     };
-    treeColumn<orderItemStruct> status{QStringLiteral("status"),
-                                       labels::status(),
-                                       statusWidth,
-                                       standardKind,
-                                       [](const orderItemStruct &) { return QString(); },
-                                       {},
-                                       false};
+    const auto shownOnly = [](const char *key, const QString &label, int width) {
+        return treeColumn<orderItemStruct>{QLatin1String(key),
+                                           label,
+                                           width,
+                                           standardKind,
+                                           [](const orderItemStruct &) { return QString(); },
+                                           {},
+                                           false};
+    };
+    treeColumn<orderItemStruct> status = shownOnly("status", labels::status(), statusWidth);
     // A copy: saving the configuration puts another one in its place.
     status.look = [&materials, statuses = config.statuses](const orderItemStruct &line,
                                                            myItemStandard *cell) {
         showStatus(line, cell, materials, statuses);
     };
     table.push_back(std::move(status));
+    table.push_back(shownOnly("on_the_way", labels::onTheWay(), onTheWayWidth));
+    table.back().look = [ordered](const orderItemStruct &line, myItemStandard *cell) {
+        showOnTheWay(line, cell, ordered);
+    };
+    table.push_back(shownOnly("last_ordered", labels::lastOrdered(), lastOrderedWidth));
+    table.back().look = [ordered](const orderItemStruct &line, myItemStandard *cell) {
+        showLastOrdered(line, cell, ordered);
+    };
     return table;
 }
 
 const std::vector<int> &usualOrder()
 {
     static const std::vector<int> order{
-        indexColumn,   statusColumn,    nameColumn,        descriptionColumn, quantityColumn,
-        unitColumn,    waitColumn,      inWarehouseColumn, priceColumn,       averagePriceColumn,
-        targetColumn,  rohsColumn,      ktmColumn,         cpvColumn,         deliveryColumn,
-        invoiceColumn, attentionsColumn};
+        indexColumn,        statusColumn,      nameColumn,        descriptionColumn, quantityColumn,
+        unitColumn,         waitColumn,        inWarehouseColumn, onTheWayColumn,    priceColumn,
+        averagePriceColumn, lastOrderedColumn, targetColumn,      rohsColumn,        ktmColumn,
+        cpvColumn,          deliveryColumn,    invoiceColumn,     attentionsColumn};
     return order;
 }
 
 void refreshLooks(const myModel *model, int row, const treeColumns<orderItemStruct> &table)
 {
     const auto *first = static_cast<myItemStandard *>(model->item(row));
-    for (int c : {inWarehouseColumn, statusColumn})
+    for (int c : {inWarehouseColumn, statusColumn, onTheWayColumn, lastOrderedColumn})
         table[size_t(c)].look(*listRows<orderItemStruct>::recordOf(first),
                               static_cast<myItemStandard *>(model->item(row, c)));
 }

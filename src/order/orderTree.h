@@ -1,6 +1,7 @@
 // How an order stands in trees: the columns of its lines, and its options.
 #pragma once
 
+#include "data/orderedBefore.h"
 #include "order/orderOperations.h"
 #include "tree/columnTable.h"
 
@@ -26,13 +27,17 @@ enum column
     invoiceColumn,
     attentionsColumn,
     statusColumn,
+    onTheWayColumn,
+    lastOrderedColumn,
     columnCount
 };
 
 constexpr int quantityMaximum = 1000000;
 
+// ordered says what other orders have of a KTM; without it nothing is known of that.
+using orderedOfKtm = std::function<orderedBefore(const QString &ktm)>;
 treeColumns<orderItemStruct> columns(const configStruct &config, const kiv_mat_zpStruct &order,
-                                     const ktmIndex &materials);
+                                     const ktmIndex &materials, const orderedOfKtm &ordered = {});
 
 // The columns from left to right as they are first shown.
 const std::vector<int> &usualOrder();

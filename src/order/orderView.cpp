@@ -131,7 +131,8 @@ void orderView::show(kiv_mat_zpStruct &order)
     m_lines->setRecords(nullptr);
     m_lines->removeRows(0, m_lines->rowCount());
     m_lineRows = std::make_unique<listRows<orderItemStruct>>(
-        orderTree::columns(m_known.config(), order, m_known.materials()));
+        orderTree::columns(m_known.config(), order, m_known.materials(),
+                           [this](const QString &ktm) { return m_ordered ? m_ordered(ktm) : orderedBefore(); }));
     m_lineRows->makeRecord = [this] {
         return orderOperations::newLine(materialStruct(), *m_order, QStringLiteral("1"),
                                         QDate::currentDate());
@@ -141,6 +142,8 @@ void orderView::show(kiv_mat_zpStruct &order)
         case orderTree::quantityColumn:
         case orderTree::inWarehouseColumn:
         case orderTree::ktmColumn:
+        case orderTree::deliveryColumn:
+        case orderTree::invoiceColumn:
             orderTree::refreshLooks(m_lines, item->row(), m_lineRows->columns());
             break;
         default:

@@ -19,6 +19,9 @@ public:
     // The history outlives the page.
     orderView(programData &known, commandStack &stack, QWidget *parent);
 
+    // What other orders have of a KTM; to be given before an order is shown.
+    void setOrderedLookup(orderTree::orderedOfKtm lookup) { m_ordered = std::move(lookup); }
+
     // Shows an order, which outlives its use here, from its beginning: the history is empty.
     void show(kiv_mat_zpStruct &order);
 
@@ -73,6 +76,7 @@ private:
     QLabel *m_hint;
     orderTree::optionRows m_optionRows;
     std::unique_ptr<listRows<orderItemStruct>> m_lineRows;
+    orderTree::orderedOfKtm m_ordered;
     kiv_mat_zpStruct *m_order = nullptr;
     bool m_loading = false;
     bool m_attentionsTouched = false;

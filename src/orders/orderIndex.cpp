@@ -30,12 +30,13 @@ struct stageRow
     const char *name;
     const char *text; // English source text, context "orders"
 };
-const std::array<stageRow, 5> stages{{
+const std::array<stageRow, 6> stages{{
     {"edited", QT_TRANSLATE_NOOP("orders", "being prepared")},
     {"sent", QT_TRANSLATE_NOOP("orders", "sent")},
     {"partly_delivered", QT_TRANSLATE_NOOP("orders", "partly delivered")},
     {"delivered", QT_TRANSLATE_NOOP("orders", "delivered")},
     {"invoiced", QT_TRANSLATE_NOOP("orders", "invoiced")},
+    {"parted", QT_TRANSLATE_NOOP("orders", "parted by firm")},
 }};
 
 using textField = QString orderItemStruct::*;

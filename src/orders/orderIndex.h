@@ -26,7 +26,8 @@ enum class orderStage
     sent,
     partlyDelivered,
     delivered,
-    invoiced
+    invoiced,
+    parted // into one for each firm, which count instead
 };
 // For the user, and for files.
 QString stageText(orderStage stage);

@@ -2,13 +2,20 @@
 
 #include "data/configStruct.h"
 #include "data/vocabulary.h"
+#include "util/labels.h"
 #include "util/paths.h"
+#include "util/userName.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
+
+namespace {
+const QString timeForm = QStringLiteral("yyyy.MM.dd hh:mm");
+}
 
 QString orderRegister::statesIn(const QString &folder)
 {
@@ -17,7 +24,9 @@ QString orderRegister::statesIn(const QString &folder)
 
 bool orderRegister::update(const QStringList &folders, const progressFunction &progress)
 {
-    return index().update(folders, progress);
+    const bool complete = index().update(folders, progress);
+    noteOrdered();
+    return complete;
 }
 
 orderIndex &orderRegister::index()
@@ -43,36 +52,121 @@ orderRegister::folderStates &orderRegister::statesOf(const QString &orderPath)
     return m_states.try_emplace(folder, statesIn(folder)).first->second;
 }
 
+orderRegister::folderStates &orderRegister::currentStates(const QString &orderPath, bool looks)
+{
+    folderStates &states = statesOf(orderPath);
+    if (!looks && states.seen == states.file.readings())
+        return states;
+    const kiv_mat_orderStatesStruct &now = states.file.now();
+    if (states.seen == states.file.readings())
+        return states;
+    states.seen = states.file.readings();
+    states.byName.clear();
+    states.parts.clear();
+    for (const auto &one : now.orders)
+        states.byName.insert(one->file, one.get());
+    const QString folder = QFileInfo(orderPath).absolutePath() + QLatin1Char('/');
+    for (const auto &one : now.parted)
+        for (const QString &part : one->parts.split(QLatin1Char('/'), Qt::SkipEmptyParts))
+            states.parts[one->file].append(folder + part);
+    return states;
+}
+
 const orderStateStruct *orderRegister::sentState(const QString &orderPath)
 {
-    if (orderPath.isEmpty())
-        return nullptr;
-    folderStates &states = statesOf(orderPath);
-    const kiv_mat_orderStatesStruct &now = states.file.now();
-    if (states.seen != states.file.readings()) {
-        states.seen = states.file.readings();
-        states.byName.clear();
-        for (const auto &one : now.orders)
-            states.byName.insert(one->file, one.get());
-    }
-    return states.byName.value(QFileInfo(orderPath).fileName());
+    return orderPath.isEmpty()
+               ? nullptr
+               : currentStates(orderPath).byName.value(QFileInfo(orderPath).fileName());
 }
 
 orderStage orderRegister::stageOf(const orderIndex::order &order)
 {
-    return order.stage == orderStage::edited && sentState(order.path) ? orderStage::sent
-                                                                      : order.stage;
+    const bool isSent = sentState(order.path) != nullptr;
+    if (isParted(order))
+        return orderStage::parted;
+    return order.stage == orderStage::edited && isSent ? orderStage::sent : order.stage;
 }
 
 bool orderRegister::isOrdered(const orderIndex::order &order)
 {
-    return stageOf(order) != orderStage::edited;
+    const orderStage stage = stageOf(order);
+    return stage != orderStage::edited && stage != orderStage::parted;
+}
+
+bool orderRegister::isParted(const orderIndex::order &order)
+{
+    const QStringList parts =
+        currentStates(order.path, false).parts.value(QFileInfo(order.path).fileName());
+    return std::any_of(parts.begin(), parts.end(),
+                       [](const QString &part) { return QFileInfo::exists(part); });
+}
+
+QString orderRegister::firmOf(const orderIndex::order &order, const QString &ktmOrName)
+{
+    auto offers = m_offers.find(order.path);
+    if (offers == m_offers.end())
+        offers = m_offers.try_emplace(order.path, orderOffers::fileOf(order.path)).first;
+    const choiceStruct *choice = orderOffers::choiceFor(offers->second.now(), ktmOrName);
+    return choice ? choice->firm : QString();
+}
+
+// Not for each line of each row: a network's folder is slow to say whether a file is as it was.
+void orderRegister::noteOrdered()
+{
+    for (auto &[folder, states] : m_states)
+        currentStates(folder + QLatin1String("/x"));
+    m_ordered.clear();
+    for (const orderIndex::order &order : index().orders()) {
+        const folderStates &states = currentStates(order.path, false);
+        const bool isSent = order.stage != orderStage::edited
+                            || states.byName.contains(QFileInfo(order.path).fileName());
+        m_ordered.push_back(isSent && !isParted(order));
+    }
+    m_orderedAt = index().revision();
 }
 
 orderedMaterial orderRegister::orderedOf(const QString &ktm, const QString &except)
 {
+    if (m_orderedAt != index().revision())
+        noteOrdered();
+    const orderIndex::order *first = index().orders().data();
     return ::orderedOf(
-        index(), ktm, [this](const orderIndex::order &order) { return isOrdered(order); }, except);
+        index(), ktm,
+        [this, first](const orderIndex::order &order) { return m_ordered[size_t(&order - first)]; },
+        except);
+}
+
+orderedBefore orderRegister::beforeOf(const QString &ktm, const QString &except)
+{
+    const orderedMaterial ordered = orderedOf(ktm, except);
+    const auto lineAt = [this](const orderIndex::place &at) -> const orderIndex::line & {
+        return index().orders()[size_t(at.order)].lines[size_t(at.line)];
+    };
+    const auto nameAt = [this](const orderIndex::place &at) {
+        const orderIndex::order &order = index().orders()[size_t(at.order)];
+        return order.number.trimmed().isEmpty() ? QFileInfo(order.path).completeBaseName()
+                                                : order.number.trimmed();
+    };
+    orderedBefore before;
+    before.onTheWay = ordered.onTheWay;
+    for (const orderIndex::place &at : ordered.open) {
+        const auto text = [&](orderIndex::field which) {
+            return index().textOf(lineAt(at), which).trimmed();
+        };
+        QString line =
+            QStringLiteral("%1: %2 %3")
+                .arg(nameAt(at), text(orderIndex::quantity), labels::shown(text(orderIndex::unit)));
+        if (!text(orderIndex::wait).isEmpty())
+            line += QLatin1String(", ") + text(orderIndex::wait);
+        before.open.append(line);
+    }
+    if (ordered.last) {
+        before.last.date = index().orders()[size_t(ordered.last->order)].date;
+        before.last.order = nameAt(*ordered.last);
+        before.last.price = index().textOf(lineAt(*ordered.last), orderIndex::price);
+        before.last.unit = index().textOf(lineAt(*ordered.last), orderIndex::unit);
+    }
+    return before;
 }
 
 QStringList orderRegister::faults()
@@ -90,8 +184,14 @@ QStringList orderRegister::faults()
 QString orderRegister::nextNumber()
 {
     QStringList used;
+    // The parts of an order have its number, and theirs behind it.
+    QSet<QString> parts;
     for (const orderIndex::order &order : index().orders())
-        if (!order.number.trimmed().isEmpty())
+        for (const QString &part :
+             currentStates(order.path, false).parts.value(QFileInfo(order.path).fileName()))
+            parts.insert(part);
+    for (const orderIndex::order &order : index().orders())
+        if (!order.number.trimmed().isEmpty() && !parts.contains(order.path))
             used.append(order.number.trimmed());
     return nextOrderNumber(used, QDate::currentDate());
 }
@@ -115,7 +215,7 @@ bool orderRegister::noteSent(const QString &orderPath, const sending &of, config
             auto state = std::make_unique<orderStateStruct>();
             state->file = file.fileName();
             state->number = of.number;
-            state->sent = of.time.toString(QStringLiteral("yyyy.MM.dd hh:mm"));
+            state->sent = of.time.toString(timeForm);
             state->by = of.by;
             state->to = of.to;
             state->copy = copy;
@@ -125,17 +225,67 @@ bool orderRegister::noteSent(const QString &orderPath, const sending &of, config
         config, fault);
     if (!noted)
         QFile::remove(target);
+    m_orderedAt = -1;
     return noted;
 }
 
 bool orderRegister::takeBackSent(const QString &orderPath, configStruct &config, QString *fault)
 {
     const QString name = QFileInfo(orderPath).fileName();
+    m_orderedAt = -1;
     return statesOf(orderPath).file.change(
         [&name](kiv_mat_orderStatesStruct &states) {
             const size_t before = states.orders.size();
             std::erase_if(states.orders, [&name](const auto &one) { return one->file == name; });
             return states.orders.size() != before;
+        },
+        config, fault);
+}
+
+bool orderRegister::noteParted(const QString &orderPath, const QStringList &files,
+                               configStruct &config, QString *fault)
+{
+    QStringList names;
+    for (const QString &file : files)
+        names.append(QFileInfo(file).fileName());
+    m_orderedAt = -1;
+    return statesOf(orderPath).file.change(
+        [&](kiv_mat_orderStatesStruct &states) {
+            auto parted = std::make_unique<partedOrderStruct>();
+            parted->file = QFileInfo(orderPath).fileName();
+            parted->parts = names.join(QLatin1Char('/'));
+            parted->date = QDateTime::currentDateTime().toString(timeForm);
+            parted->by = userName();
+            states.parted.push_back(std::move(parted));
+            return true;
+        },
+        config, fault);
+}
+
+std::vector<const stockedDeliveryStruct *> orderRegister::stockedOf(const QString &orderPath)
+{
+    std::vector<const stockedDeliveryStruct *> found;
+    for (const auto &one : statesOf(orderPath).file.now().stocked)
+        if (one->file == QFileInfo(orderPath).fileName())
+            found.push_back(one.get());
+    return found;
+}
+
+bool orderRegister::noteStocked(const QString &orderPath,
+                                std::vector<stockedDeliveryStruct> deliveries, configStruct &config,
+                                QString *fault)
+{
+    return statesOf(orderPath).file.change(
+        [&](kiv_mat_orderStatesStruct &states) {
+            for (stockedDeliveryStruct &one : deliveries) {
+                auto stocked = std::make_unique<stockedDeliveryStruct>();
+                copyFields(*stocked, one, stockedDeliveryStruct::fields());
+                stocked->file = QFileInfo(orderPath).fileName();
+                stocked->date = QDateTime::currentDateTime().toString(timeForm);
+                stocked->by = userName();
+                states.stocked.push_back(std::move(stocked));
+            }
+            return !deliveries.empty();
         },
         config, fault);
 }

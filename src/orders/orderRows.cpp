@@ -61,12 +61,13 @@ QString dayOf(const QDate &date) { return date.toString(labels::dateFormat()); }
 // The state is never told by colour alone: the word stands beside the picture.
 const QIcon &iconOf(orderStage stage)
 {
-    static const std::array<QIcon, 5> icons{
+    static const std::array<QIcon, 6> icons{
         QIcon(QStringLiteral(":/icons/icons/led_gray.png")),
         QIcon(QStringLiteral(":/icons/icons/led_blue.png")),
         QIcon(QStringLiteral(":/icons/icons/led_purple.png")),
         QIcon(QStringLiteral(":/icons/icons/led_green.png")),
         QIcon(QStringLiteral(":/icons/icons/led_green.png")),
+        QIcon(QStringLiteral(":/icons/icons/action_duplicate.png")),
     };
     return icons[size_t(stage)];
 }

@@ -11,6 +11,8 @@
 #include "util/labels.h"
 #include "util/text.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 constexpr const char *lineColour = "#9AA5B1";
@@ -164,7 +166,7 @@ void writeLines(html::htmlTable &page, const kiv_mat_zpStruct &order, const ktmI
     }
 }
 
-void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
+void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order, const QString &vat)
 {
     const lineSums sums = sumsOf(order);
     page.openTable(QStringLiteral("class=\"sums\""));
@@ -177,6 +179,13 @@ void writeSums(html::htmlTable &page, const kiv_mat_zpStruct &order)
         page.closeRow();
     };
     row(labels::sumPrice(), sums.price);
+    if (const auto rate = readVat(vat)) {
+        lineSum tax;
+        tax.amount = vatOf(sums.price.amount, *rate);
+        row(QCoreApplication::translate("orderReport", "VAT %1 %:").arg(rate->text()), tax);
+        tax.amount += sums.price.amount;
+        row(QCoreApplication::translate("orderReport", "Sum with VAT:"), tax);
+    }
     row(labels::sumAveragePrice(), sums.averagePrice);
     page.closeTable();
 }
@@ -189,7 +198,7 @@ QString orderTitle(const kiv_mat_zpStruct &order)
            + order.options.value(optionKey::orderDate);
 }
 
-QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
+QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials, const QString &vat)
 {
     html::htmlTable page;
     page.reserve(4096 + int(order.orderItems.items.size()) * 1024);
@@ -200,7 +209,7 @@ QString orderReport(const kiv_mat_zpStruct &order, const ktmIndex &materials)
     writeLines(page, order, materials);
     page.append(QStringLiteral("</tbody>\n"));
     page.closeTable();
-    writeSums(page, order);
+    writeSums(page, order, vat);
     const QString attentions = cleanHtml(order.attentions);
     if (!attentions.isEmpty())
         page.append(QLatin1String("<h2>") + labels::attentions().toHtmlEscaped()

@@ -12,7 +12,10 @@
 #include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
+#include "orders/annualPlanWindow.h"
+#include "orders/offersWindow.h"
 #include "orders/ordersWindow.h"
+#include "orders/requestsWindow.h"
 #include "report/myWebView.h"
 #include "shell/logos.h"
 #include "shell/startupDialog.h"
@@ -168,7 +171,25 @@ const windowAction<MainWindow> actionTable[] = {
       "action_refresh", nullptr,
       QT_TRANSLATE_NOOP("actions", "Take prices and stock from the databases again")},
      &MainWindow::commandZpRefreshPrices},
+    {{"lastPrices", "Do", QT_TRANSLATE_NOOP("actions", "Prices of the last orders"),
+      "action_clear_price", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Take the price that each material was ordered at last")},
+     &MainWindow::commandZpLastPrices},
     {doSeparator, nullptr},
+    {{"requests", "Do", QT_TRANSLATE_NOOP("actions", "Requests for quotation ..."), "action_mail",
+      "Ctrl+Shift+R",
+      QT_TRANSLATE_NOOP("actions", "Ask firms for their prices, and see who answered"), true},
+     &MainWindow::commandRequests},
+    {{"offers", "Do", QT_TRANSLATE_NOOP("actions", "Offers ..."), "action_equal", "Ctrl+Shift+E",
+      QT_TRANSLATE_NOOP("actions", "Take in and compare the offers of firms, and choose"), true},
+     &MainWindow::commandOffers},
+    {{"delivery", "Do", QT_TRANSLATE_NOOP("actions", "Delivery ..."), "action_shipment", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Note what came of the lines, in whole or in part")},
+     &MainWindow::commandDelivery},
+    {{"deliveredToStock", "Do", QT_TRANSLATE_NOOP("actions", "Delivered into stock ..."),
+      "action_built", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Add what was delivered to the stock of the databases")},
+     &MainWindow::commandDeliveredToStock},
     {{"sentChanges", "Do", QT_TRANSLATE_NOOP("actions", "Changed since it was sent ..."),
       "action_merge", nullptr,
       QT_TRANSLATE_NOOP("actions", "What this order has otherwise than the one that was sent")},
@@ -196,6 +217,11 @@ const windowAction<MainWindow> actionTable[] = {
     {{"orders", "Tools", QT_TRANSLATE_NOOP("actions", "Orders ..."), "action_list", "Ctrl+Shift+O",
       QT_TRANSLATE_NOOP("actions", "All orders, and a search over their lines"), true},
      &MainWindow::commandOrders},
+    {{"annualPlan", "Tools", QT_TRANSLATE_NOOP("actions", "Annual plan ..."), "action_sum",
+      "Ctrl+Shift+P",
+      QT_TRANSLATE_NOOP("actions", "What the orders of a year come to, by CPV, target or supplier"),
+      true},
+     &MainWindow::commandAnnualPlan},
     {{"messageTemplate", "Tools", QT_TRANSLATE_NOOP("actions", "Message template"), "action_mail",
       nullptr, QT_TRANSLATE_NOOP("actions", "Edit the text that goes along with an order")},
      &MainWindow::commandMessageTemplate},
@@ -260,9 +286,10 @@ MainWindow::MainWindow(programData &files)
     m_order->linesView()->setFocus();
     splash::setProgress(stages, stages);
     userPrompts().showErrors();
+    m_lookAtOrders->start();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() { known().setOrderedLookup({}); }
 
 void MainWindow::buildWidgets()
 {
@@ -290,10 +317,15 @@ void MainWindow::buildWidgets()
     m_sums = new QLabel(this);
     m_sums->setObjectName(QStringLiteral("sums"));
     constexpr int labelMargin = 8;
-    for (QLabel *label : {m_path, m_sums})
+    m_overThreshold = new QLabel(this);
+    m_overThreshold->setObjectName(QStringLiteral("overThreshold"));
+    m_overThreshold->setTextFormat(Qt::PlainText);
+    m_overThreshold->hide();
+    for (QLabel *label : {m_path, m_sums, m_overThreshold})
         label->setContentsMargins(labelMargin, 0, labelMargin, 0);
     // A long note is cut where the window is narrow; the tool tip has all of it.
     m_sums->setMinimumWidth(1);
+    statusBar()->addPermanentWidget(m_overThreshold);
     statusBar()->addPermanentWidget(m_sums);
     statusBar()->addPermanentWidget(m_path);
     constexpr QSize usualSize(1240, 820);
@@ -306,7 +338,16 @@ void MainWindow::buildWidgets()
         if (isPreviewVisible())
             refreshPreview();
         showSums();
+        showThresholds();
     });
+
+    // Once the window is painted, and not for each of several files that are written.
+    m_lookAtOrders = new QTimer(this);
+    m_lookAtOrders->setSingleShot(true);
+    m_lookAtOrders->setInterval(refreshDelayMs);
+    connect(m_lookAtOrders, &QTimer::timeout, this, &MainWindow::lookAtOrders);
+    m_order->setOrderedLookup(
+        [this](const QString &ktm) { return known().orderedOf(ktm, m_document.path()); });
 
     connect(m_order, &orderView::changed, this, &MainWindow::orderChanged);
     connect(m_order, &orderView::actionWanted, this,
@@ -430,7 +471,8 @@ void MainWindow::updateActions()
     const QString noLines = tr("the order has no lines");
     allowWhenUnlocked({"addMaterial", "addShipment", "addPCB", "appendBom", "editAttentions"});
     allowWhenUnlocked({"zpClear", "allQuantities", "allDates", "allDescriptions", "allRoHS",
-                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "deleteAll"},
+                       "allUnits", "allTargets", "clearPrice", "refreshPrices", "lastPrices",
+                       "delivery", "deleteAll"},
                       !empty, noLines);
     for (const char *name : {"zpCopy", "allSum", "baskets", "find", "findNext"})
         setAvailable(name, !empty, noLines);
@@ -441,6 +483,8 @@ void MainWindow::updateActions()
     allowWhenUnlocked({"fillDown", "moveUp", "moveDown", "deleteLines"}, areSeen && !empty, whyNot);
     setAvailable("copyCells", areSeen && !empty, whyNot);
     setAvailable("archiveDD", !m_document.path().isEmpty(), tr("the order was not saved yet"));
+    setAvailable("deliveredToStock", !m_document.path().isEmpty() && !empty,
+                 empty ? noLines : tr("the order was not saved yet"));
     setAvailable("sentChanges", m_hasSentCopy, tr("the order was not sent"));
 }
 

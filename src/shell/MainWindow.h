@@ -1,7 +1,8 @@
 // The main window: the open order and the ways to everything else. Construction and what concerns
 // the program stand in MainWindow.cpp, the order's life in MainWindowOrder.cpp, its lines in
 // MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp, what was left unsaved in
-// MainWindowRecovery.cpp.
+// MainWindowRecovery.cpp, the register of orders in MainWindowOrders.cpp, and what becomes of an
+// order later in MainWindowPurchase.cpp.
 #pragma once
 
 #include "bom/boardStock.h"
@@ -12,6 +13,7 @@
 #include "order/orderDocument.h"
 #include "order/orderOperations.h"
 #include "order/orderRecovery.h"
+#include "orders/annualPlan.h"
 #include "window/editWindow.h"
 
 #include <array>
@@ -24,16 +26,22 @@ class QTimer;
 class Kiv_bomWindow;
 class Kiv_mat_databaseWindow;
 class addMaterialDialog;
+class annualPlanWindow;
 class configWindow;
 class firmWindow;
 class myWebView;
+class offersWindow;
 class orderRegister;
+class requestsWindow;
 class orderView;
 class ordersWindow;
 class versionsWindow;
 struct fileKind;
 struct keptCopy;
 
+namespace deliveredStock {
+struct delivery;
+}
 namespace mail {
 enum class contents;
 }
@@ -96,6 +104,7 @@ public slots:
     void commandZpAllSum(bool);
     void commandZpClearPrices(bool);
     void commandZpRefreshPrices(bool);
+    void commandZpLastPrices(bool);
     void commandZpDeleteAll(bool);
     void commandDeleteLines(bool);
     void commandMoveUp(bool);
@@ -115,7 +124,12 @@ public slots:
     void commandBom(bool);
     void commandFirm(bool);
     void commandOrders(bool);
+    void commandAnnualPlan(bool);
     void commandSentChanges(bool);
+    void commandRequests(bool);
+    void commandOffers(bool);
+    void commandDelivery(bool);
+    void commandDeliveredToStock(bool);
     void commandMessageTemplate(bool);
     void configCommand(bool);
     void commandShowLog(bool);
@@ -223,11 +237,18 @@ private:
 
     // --- MainWindowOrders.cpp ---
     void openInPlace(const QString &path);
+    void openAt(const QString &path, const QString &ktm, int line);
     void copyAsNew(const QString &path);
     void noteSent();
     void lockIfSent();
     void lookWhetherSent();
     orderRegister &orders();
+    // Looks at the orders' files, and shows anew what follows from them.
+    void lookAtOrders();
+    void ordersChanged();
+    void showThresholds();
+    void askFirms();
+    void takeIntoStock(const std::vector<deliveredStock::delivery> &chosen, const QString &what);
 
     orderDocument m_document;
     QTabWidget *m_tabs = nullptr;
@@ -236,7 +257,9 @@ private:
     myWebView *m_preview = nullptr;
     QLabel *m_path = nullptr;
     QLabel *m_sums = nullptr;
+    QLabel *m_overThreshold = nullptr;
     QTimer *m_refresh = nullptr;
+    QTimer *m_lookAtOrders = nullptr;
     std::unique_ptr<orderRecovery> m_recovery;
     std::unique_ptr<configWindow> m_config;
     std::unique_ptr<firmWindow> m_firm;
@@ -244,6 +267,10 @@ private:
     std::unique_ptr<versionsWindow> m_versions;
     std::unique_ptr<orderRegister> m_register;
     std::unique_ptr<ordersWindow> m_orders;
+    std::unique_ptr<annualPlanWindow> m_plan;
+    std::unique_ptr<offersWindow> m_offers;
+    std::unique_ptr<requestsWindow> m_requests;
+    annualPlan::yearSums m_yearSums;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;
     bool m_previewIsOld = true;

@@ -165,6 +165,12 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
         return;
     }
     demand needed = demandOf(lists, known().materials(), orderRules(known().config()));
+    noteOrdered(
+        &needed,
+        [this](const QString &ktm, const QString &except) {
+            return known().orderedOf(ktm, except);
+        },
+        m_document.path());
     reservationsFile &reservations = known().reservations();
     boardStock::noteReserved(&needed, lists, known().materials(), reservations.now());
     if (!reservations.fault().isEmpty())
@@ -181,7 +187,7 @@ void MainWindow::appendBoms(const std::vector<bomSets> &lists)
     });
     if (dialog.exec() != QDialog::Accepted)
         return;
-    orderPlan plan = planOf(needed, m_document.order(), dialog.wantedAmount(), dialog.existing(),
+    orderPlan plan = planOf(needed, m_document.order(), dialog.wanted(),
                             orderOperations::usualDate(known().config()),
                             [&dialog](const need &one) { return dialog.isChosen(one); });
     for (const need *one : plan.unknown)

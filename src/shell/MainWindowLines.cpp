@@ -202,6 +202,33 @@ void MainWindow::commandZpRefreshPrices(bool)
     m_order->refreshLooks();
 }
 
+void MainWindow::commandZpLastPrices(bool)
+{
+    const auto rows = wantedRows();
+    if (!rows)
+        return;
+    QHash<const myItemStandard *, QVariant> wanted;
+    QList<myItemStandard *> cells;
+    for (int row : *rows) {
+        const orderItemStruct *line = m_order->records({row}).front();
+        const orderedBefore before = known().orderedOf(line->ktm, m_document.path());
+        if (!before.last.date.isValid() || before.last.unit.trimmed() != line->unit.trimmed())
+            continue;
+        auto *cell =
+            static_cast<myItemStandard *>(m_order->lines()->item(row, orderTree::priceColumn));
+        wanted.insert(cell, numbers::value(before.last.price));
+        cells.append(cell);
+    }
+    if (cells.isEmpty()) {
+        tell(tr("None of these materials was ordered before"));
+        return;
+    }
+    push(cellBlock::set(
+             m_order->lines(), cells,
+             [&wanted](const myItemStandard &cell) { return wanted.value(&cell); }, this),
+         tr("%n price(s) of the last orders", nullptr, int(cells.size())));
+}
+
 void MainWindow::commandZpCopy(bool)
 {
     linesDialog dialog(linesDialog::copying, m_order->lineRows().columns(),
@@ -360,6 +387,11 @@ void MainWindow::appendToOrder(const materialKtms_list &ktms, uint quantity)
     QString answer = tr("%n line(s) added", nullptr, count);
     if (refused > 0)
         answer += QLatin1String(", ") + tr("%n material(s) refused", nullptr, refused);
+    const auto isOnTheWay = [this](const auto &line) {
+        return known().orderedOf(line->ktm, m_document.path()).isOnTheWay();
+    };
+    if (const auto again = std::count_if(lines.begin(), lines.end(), isOnTheWay); again > 0)
+        answer += QLatin1String(", ") + tr("%n of them on the way already", nullptr, int(again));
     appendLines(std::move(lines), answer);
     tell(answer);
     emit orderAnswered(answer);

@@ -9,7 +9,10 @@
 #include "dialogs/versionsWindow.h"
 #include "firm/firmWindow.h"
 #include "order/orderView.h"
+#include "orders/annualPlanWindow.h"
+#include "orders/offersWindow.h"
 #include "orders/ordersWindow.h"
+#include "orders/requestsWindow.h"
 #include "report/myWebView.h"
 #include "report/orderReport.h"
 #include "report/pdfPrinter.h"
@@ -31,6 +34,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStatusBar>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -267,6 +271,7 @@ void MainWindow::saved()
     m_order->attentions()->document()->setModified(false);
     m_recovery->discard();
     lookWhetherSent();
+    m_lookAtOrders->start();
     refreshPreview();
     showSums();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -341,6 +346,12 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_versions->close();
     if (m_orders)
         m_orders->close();
+    if (m_plan)
+        m_plan->close();
+    if (m_offers)
+        m_offers->close();
+    if (m_requests)
+        m_requests->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();

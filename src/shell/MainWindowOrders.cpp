@@ -7,6 +7,7 @@
 #include "mail/mail.h"
 #include "order/orderOperations.h"
 #include "order/orderView.h"
+#include "orders/annualPlanWindow.h"
 #include "orders/ordersWindow.h"
 #include "util/labels.h"
 #include "util/messages.h"
@@ -18,6 +19,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTabWidget>
+#include <QTimer>
 
 orderRegister &MainWindow::orders()
 {
@@ -30,16 +32,30 @@ void MainWindow::commandOrders(bool)
 {
     if (!m_orders) {
         m_orders = std::make_unique<ordersWindow>(known(), orders());
-        connect(m_orders.get(), &ordersWindow::openWanted, this,
-                [this](const QString &path, const QString &ktm, int line) {
-                    openInPlace(path);
-                    if (!ktm.isEmpty() && QFileInfo(path) == QFileInfo(m_document.path()))
-                        showUse({true, path, line, ktm, {}, {}, {}});
-                });
+        connect(m_orders.get(), &ordersWindow::openWanted, this, &MainWindow::openAt);
         connect(m_orders.get(), &ordersWindow::copyWanted, this, &MainWindow::copyAsNew);
-        connect(m_orders.get(), &ordersWindow::stateChanged, this, &MainWindow::lookWhetherSent);
+        connect(m_orders.get(), &ordersWindow::stateChanged, this, [this] {
+            lookWhetherSent();
+            m_lookAtOrders->start();
+        });
     }
     m_orders->showNow();
+}
+
+void MainWindow::commandAnnualPlan(bool)
+{
+    if (!m_plan) {
+        m_plan = std::make_unique<annualPlanWindow>(known(), orders());
+        connect(m_plan.get(), &annualPlanWindow::openWanted, this, &MainWindow::openAt);
+    }
+    m_plan->showNow();
+}
+
+void MainWindow::openAt(const QString &path, const QString &ktm, int line)
+{
+    openInPlace(path);
+    if (!ktm.isEmpty() && QFileInfo(path) == QFileInfo(m_document.path()))
+        showUse({true, path, line, ktm, {}, {}, {}});
 }
 
 // Another order than the one that is open takes its place, once that is saved or given up.
@@ -91,6 +107,7 @@ void MainWindow::noteSent()
         userPrompts().showError(messages::notWritten(
             orderRegister::statesIn(QFileInfo(m_document.path()).absolutePath()), fault));
     lookWhetherSent();
+    m_lookAtOrders->start();
 }
 
 void MainWindow::lookWhetherSent()

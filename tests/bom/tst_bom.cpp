@@ -100,7 +100,7 @@ private slots:
         kiv_mat_zpStruct order;
         fill(order, before);
         const demand of = demandOf({{list("A 4;B 0;C 1"), 3}, {list("B 1;A 0"), 2}}, m_index);
-        orderPlan plan = planOf(of, order, amount(which), present(existing), QDate(2026, 11, 24));
+        orderPlan plan = planOf(of, order, {amount(which), present(existing)}, QDate(2026, 11, 24));
         QCOMPARE(shown(order), before);
         QCOMPARE(plan.skipped, skipped);
         apply(std::move(plan), &order);
@@ -248,7 +248,7 @@ private slots:
         for (const present existing : {present::add, present::raise}) {
             kiv_mat_zpStruct order;
             fill(order, "SRV-000.100 1 set");
-            apply(planOf(demandOf({{list("SRV-000.100 1"), 1}}, m_index), order, amount::needed, existing, {}), &order);
+            apply(planOf(demandOf({{list("SRV-000.100 1"), 1}}, m_index), order, {amount::needed, existing}, {}), &order);
             QCOMPARE(shown(order), QString("SRV-000.100 1 set"));
         }
     }
@@ -257,7 +257,7 @@ private slots:
     {
         const kiv_mat_zpStruct order;
         const demand of = demandOf({{list("X 1; 2;A 1"), 1}}, m_index);
-        const orderPlan plan = planOf(of, order, amount::needed, present::raise, {});
+        const orderPlan plan = planOf(of, order, {amount::needed, present::raise}, {});
         QCOMPARE(plan.unknown, std::vector<const need *>({&of.needs[0], &of.needs[1]}));
         QCOMPARE(of.needs[0].name, QString("own name"));
         QCOMPARE(plan.changes.size(), size_t(1));

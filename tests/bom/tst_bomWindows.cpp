@@ -492,8 +492,8 @@ private slots:
         for (int row = 0; row < table->topLevelItemCount(); ++row)
             for (int column = 0; column < table->columnCount(); ++column)
                 texts.append(table->topLevelItem(row)->text(column));
-        QCOMPARE(texts.join('|'), QString("NONE-1||6||?||6|||||||"
-                                          "|NONE-1||many|||||||||||"));
+        QCOMPARE(texts.join('|'), QString("NONE-1||6||?|||6|||||||||"
+                                          "NONE-1||many|||||||||||||"));
     }
 };
 

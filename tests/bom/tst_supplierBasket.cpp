@@ -106,7 +106,7 @@ private slots:
         }
         const auto of = bomOperations::demandOf({{&bom, 3}, {&bom, 0}, {&bom, 1}}, m_index);
         const auto rows =
-            bomOperations::orderedNeeds(of, {}, bomOperations::amount::needed, bomOperations::present::raise);
+            bomOperations::orderedNeeds(of, {}, {bomOperations::amount::needed, bomOperations::present::raise});
         const auto items = itemsOf(of, rows, [](const bomOperations::need &one) { return one.ktm != "C"; });
         QCOMPARE(shown(basketsOf(items)),
                  QString("TME: A T-1 12; : D Y-4 4 (the material has no supplier), X  4 (in no database), A  many (the "

@@ -4,6 +4,7 @@
 #include "data/XmlValidator.h"
 #include "data/documentSaving.h"
 #include "data/kiv_mat_firmDetailsStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 
 #include <unistd.h>
 
@@ -241,7 +242,8 @@ private slots:
         const QString path = m_folder->path("r.xml");
         for (const fileKind *kind : {&fileKinds::order, &fileKinds::database, &fileKinds::firm, &fileKinds::config,
                                      &fileKinds::bom, &fileKinds::boms, &fileKinds::info, &fileKinds::update,
-                                     &fileKinds::firmDetails, &fileKinds::reservations, &fileKinds::orderStates}) {
+                                     &fileKinds::firmDetails, &fileKinds::reservations, &fileKinds::orderStates,
+                                     &fileKinds::offers}) {
             m_folder->write("r.xml", '<' + kind->root.toUtf8() + "/>");
             const auto record = newDocument(*kind);
             QCOMPARE(loadDocument(path, record.get()), 0);

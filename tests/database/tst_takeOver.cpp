@@ -184,7 +184,7 @@ private slots:
             const bomOperations::demand needed = bomOperations::demandOf({{&bom, 1 + random.bounded(3)}}, index);
             const auto existing = bomOperations::present(random.bounded(3));
             const auto plan = [&](const kiv_mat_zpStruct &order) {
-                return planOf(needed, order, bomOperations::amount::needed, existing, QDate(2026, 11, 25));
+                return planOf(needed, order, {bomOperations::amount::needed, existing}, QDate(2026, 11, 25));
             };
             const QByteArray before = saved(inTree);
             listRows<orderItemStruct> rows(orderTree::columns(config, inTree, index));
