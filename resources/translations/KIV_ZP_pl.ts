@@ -1421,6 +1421,14 @@
             <numerusform>%n cen z ofert</numerusform>
         </translation>
     </message>
+    <message>
+        <source>It cannot be seen which deliveries are in stock already</source>
+        <translation>Nie można sprawdzić, które dostawy są już na stanie</translation>
+    </message>
+    <message>
+        <source>It could not be noted for the new file which deliveries are in stock already</source>
+        <translation>Nie można odnotować dla nowego pliku, które dostawy są już na stanie</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -2966,6 +2974,14 @@
     <message>
         <source>Ask firms for their prices, and see who answered</source>
         <translation>Zapytaj firmy o ceny i zobacz, kto odpowiedział</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Pokaż folder</translation>
+    </message>
+    <message>
+        <source>Show the folder with what was sent and what came back</source>
+        <translation>Pokazuje folder z tym, co wysłano i co przyszło</translation>
     </message>
 </context>
 <context>
@@ -5500,6 +5516,10 @@ Przykład: kivzp-cli request zp_13.xml --firms _files/firms.xml --firm TME --fir
     <message>
         <source>it has %1 columns</source>
         <translation>plik ma %1 kolumn</translation>
+    </message>
+    <message>
+        <source>%1 has no request without an offer</source>
+        <translation>%1 nie ma zapytania bez oferty</translation>
     </message>
 </context>
 <context>
@@ -9354,6 +9374,10 @@ własne oznaczenie</translation>
         <source>No firm is ticked</source>
         <translation>Żadna firma nie jest zaznaczona</translation>
     </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
 </context>
 <context>
     <name>numbers</name>
@@ -9662,6 +9686,18 @@ własne oznaczenie</translation>
         <source>the quantities do not ascend: %1 is behind %2</source>
         <translation>ilości nie rosną: %1 jest po %2</translation>
     </message>
+    <message>
+        <source>Several firms are called %1: the tax number has to say which it is, of %2</source>
+        <translation>Kilka firm nazywa się %1: NIP musi wskazać, która to, spośród %2</translation>
+    </message>
+    <message>
+        <source>The prices of the column &quot;%1&quot; are not of one piece</source>
+        <translation>Ceny w kolumnie „%1” nie są za jedną sztukę</translation>
+    </message>
+    <message>
+        <source>There is an offer of %1 on the request %2 already, received on %3</source>
+        <translation>Jest już oferta %1 na zapytanie %2, otrzymana %3</translation>
+    </message>
 </context>
 <context>
     <name>offerReport</name>
@@ -9856,6 +9892,14 @@ własne oznaczenie</translation>
     <message>
         <source>remarks</source>
         <translation>uwagi</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Proponowane</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>proponowane</translation>
     </message>
 </context>
 <context>
@@ -10096,8 +10140,12 @@ własne oznaczenie</translation>
         <translation>Oferty są takie jak w pliku</translation>
     </message>
     <message>
-        <source>The order was changed meanwhile; this is what is proposed for it now</source>
-        <translation>Zamówienie się w międzyczasie zmieniło; oto obecna propozycja</translation>
+        <source>%1 has answered the request %2 before.</source>
+        <translation>%1 odpowiedziała już na zapytanie %2.</translation>
+    </message>
+    <message>
+        <source>The order or its offers were changed meanwhile; this is what is there now</source>
+        <translation>Zamówienie lub jego oferty zmieniono w międzyczasie; oto stan obecny</translation>
     </message>
 </context>
 <context>
@@ -10340,6 +10388,14 @@ własne oznaczenie</translation>
     <message>
         <source>It was parted before, and its parts are there</source>
         <translation>Zamówienie było już podzielone, a jego części istnieją</translation>
+    </message>
+    <message>
+        <source>It was sent already</source>
+        <translation>Zostało już wysłane</translation>
+    </message>
+    <message>
+        <source>Something of it was delivered or invoiced already</source>
+        <translation>Coś z niego już dostarczono lub zafakturowano</translation>
     </message>
 </context>
 <context>
@@ -10885,6 +10941,10 @@ własne oznaczenie</translation>
         <source>%1 is missing</source>
         <translation>Brakuje %1</translation>
     </message>
+    <message>
+        <source>written only</source>
+        <translation>tylko zapisane</translation>
+    </message>
 </context>
 <context>
     <name>recoveryDialog</name>
@@ -11235,6 +11295,14 @@ własne oznaczenie</translation>
     <message>
         <source>The details of the firms in %1 cannot be read</source>
         <translation>Nie można przeczytać danych firm w %1</translation>
+    </message>
+    <message>
+        <source>no firm was asked yet</source>
+        <translation>nie zapytano jeszcze żadnej firmy</translation>
+    </message>
+    <message>
+        <source>The folder cannot be shown: %1</source>
+        <translation>Nie można pokazać folderu: %1</translation>
     </message>
 </context>
 <context>

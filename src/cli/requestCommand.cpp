@@ -28,7 +28,7 @@ namespace {
 
 QString told(const char *text) { return QCoreApplication::translate("cli", text); }
 
-constexpr const char *states[] = {"waiting", "overdue", "answered"};
+constexpr const char *states[] = {"waiting", "overdue", "answered", "written"};
 
 int refuse(const QString &what)
 {
@@ -202,13 +202,24 @@ struct material
     offersFile offers;
 };
 
+bool isCalled(const requestStruct &of, const QString &name)
+{
+    return firmDetails::isSameName(of.firm, name)
+           || (!of.nip.isEmpty() && firmDetails::isSameNip(of.nip, name));
+}
+
 int remind(material &with, const means &how, const QStringList &names)
 {
+    const std::vector<const requestStruct *> open = unanswered(with.offers.now());
+    for (const QString &name : names)
+        if (std::none_of(open.begin(), open.end(),
+                         [&name](const requestStruct *one) { return isCalled(*one, name); }))
+            return refuse(
+                told(QT_TRANSLATE_NOOP("cli", "%1 has no request without an offer")).arg(name));
     QStringList numbers;
-    for (const requestStruct *one : unanswered(with.offers.now()))
+    for (const requestStruct *one : open)
         if (names.isEmpty() || std::any_of(names.begin(), names.end(), [one](const QString &name) {
-                return firmDetails::isSameName(one->firm, name)
-                       || (!one->nip.isEmpty() && firmDetails::isSameNip(one->nip, name));
+                return isCalled(*one, name);
             }))
             numbers.append(one->number);
     if (numbers.isEmpty())

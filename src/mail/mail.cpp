@@ -211,14 +211,18 @@ QString pdfPath(const kiv_mat_zpStruct &order)
     return paths::temporaryDir() + QLatin1Char('/') + messageName(order) + QLatin1String(".pdf");
 }
 
-QString writeOrder(const kiv_mat_zpStruct &order, const configStruct &config,
-                   const QString &orderPath, const QString &pdf)
+void removeOldMessages()
 {
     QDir old(folder());
     for (const QString &name :
          old.entryList({QStringLiteral("*.cmd"), QStringLiteral("*.html")}, QDir::Files))
         old.remove(name);
+}
 
+QString writeOrder(const kiv_mat_zpStruct &order, const configStruct &config,
+                   const QString &orderPath, const QString &pdf)
+{
+    removeOldMessages();
     const QString number = order.options.value(optionKey::orderNumber);
     const QString base = folder() + QLatin1String("/msg_") + messageName(order);
     message sent;

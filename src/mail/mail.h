@@ -38,6 +38,10 @@ struct message
 // The text of the description file: a line for each field, its value in brackets.
 QString description(const message &of);
 
+// Removes the description and body files of earlier messages: once before the messages that go out
+// together, of which the second must not take the files of the first.
+void removeOldMessages();
+
 // Starts the mail program with a description file and does not wait for it: the one for MAPI when
 // the configuration has the option EMAIL_MAPI, whatever its value. False when it cannot be started;
 // the files stay.

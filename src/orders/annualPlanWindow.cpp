@@ -9,6 +9,7 @@
 #include "util/labels.h"
 #include "util/numbers.h"
 #include "util/text.h"
+#include "window/rowTable.h"
 #include "window/workProgress.h"
 
 #include <QComboBox>
@@ -293,17 +294,9 @@ QWidget *annualPlanWindow::newChoices()
     auto *choices = new QWidget(this);
     auto *layout = new QHBoxLayout(choices);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](QWidget *widget, const char *name, const QString &caption) {
-        auto *label = new QLabel(caption, choices);
-        label->setBuddy(widget);
-        widget->setObjectName(QLatin1String(name));
-        widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
-        layout->addWidget(label);
-        layout->addWidget(widget);
-    };
-    add(m_year, "year", tr("&Year"));
-    add(m_grouping, "grouping", tr("&Sums by"));
-    add(m_digits, "digits", tr("&Digits of a group"));
+    addCaptioned(layout, m_year, "year", tr("&Year"));
+    addCaptioned(layout, m_grouping, "grouping", tr("&Sums by"));
+    addCaptioned(layout, m_digits, "digits", tr("&Digits of a group"));
     layout->addStretch();
     m_grouping->addItem(tr("CPV group"), int(grouping::group));
     m_grouping->addItem(tr("CPV code"), int(grouping::cpv));
@@ -322,15 +315,7 @@ QWidget *annualPlanWindow::newChoices()
 QTreeView *annualPlanWindow::newTable(const char *name, const QString &accessibleName,
                                       QAbstractItemModel *model)
 {
-    auto *table = new QTreeView(this);
-    table->setObjectName(QLatin1String(name));
-    table->setAccessibleName(accessibleName);
-    table->setModel(model);
-    table->setRootIsDecorated(false);
-    table->setUniformRowHeights(true);
-    table->setAlternatingRowColors(true);
-    table->setAllColumnsShowFocus(true);
-    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    QTreeView *table = newRowTable(name, accessibleName, model, this);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &annualPlanWindow::updateActions);
     return table;

@@ -25,13 +25,14 @@ namespace {
 enum column
 {
     nameColumn,
-    addressColumn,
+    mailColumn,
     languageColumn,
     namedColumn,
     beforeColumn,
+    addressColumn,
     columns
 };
-constexpr int widths[columns] = {260, 280, 80, 110, 160};
+constexpr int widths[columns] = {220, 240, 80, 90, 140, 200};
 
 bool isTicked(const QTreeWidgetItem &row) { return row.checkState(nameColumn) == Qt::Checked; }
 
@@ -88,6 +89,10 @@ newRequestsDialog::newRequestsDialog(std::vector<candidate> firms, const orderOf
     layout->addWidget(buttons);
     constexpr QSize usualSize(960, 560);
     resize(usualSize);
+    setTabOrder(m_search, m_deadline);
+    setTabOrder(m_deadline, m_table);
+    setTabOrder(m_table, m_write);
+    setTabOrder(m_write, buttons->button(QDialogButtonBox::Cancel));
     showCount();
     m_search->setFocus();
 }
@@ -102,16 +107,17 @@ QTreeWidget *newRequestsDialog::newTable()
     table->setAlternatingRowColors(true);
     table->setAllColumnsShowFocus(true);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    table->setHeaderLabels(
-        {tr("Firm"), tr("E-mail"), tr("Language"), tr("Materials"), tr("Asked before")});
+    table->setHeaderLabels({tr("Firm"), tr("E-mail"), tr("Language"), tr("Materials"),
+                            tr("Asked before"), tr("Address")});
     table->headerItem()->setToolTip(
         namedColumn, tr("Materials of the order that name the firm as supplier or manufacturer"));
     for (int i = 0; i < columns; ++i)
         table->header()->resizeSection(i, widths[i]);
     for (const candidate &one : m_firms) {
         const QString addresses = one.to.join(QLatin1String(", "));
-        auto *row = new QTreeWidgetItem(
-            table, {one.firm, addresses, one.language, QString::number(one.named), one.before});
+        auto *row =
+            new QTreeWidgetItem(table, {one.firm, addresses, one.language,
+                                        QString::number(one.named), one.before, one.address});
         row->setTextAlignment(namedColumn, Qt::AlignRight | Qt::AlignVCenter);
         const QString fault = faultOf(one);
         if (fault.isEmpty())
@@ -146,8 +152,9 @@ void newRequestsDialog::filter(const QString &words)
     const QStringList wanted = words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (int i = 0; i < m_table->topLevelItemCount(); ++i) {
         const candidate &of = m_firms[size_t(i)];
-        const std::string all = text::folded(of.firm + QLatin1Char('\n') + of.nip
-                                             + QLatin1Char('\n') + of.to.join(QLatin1Char('\n')));
+        const std::string all =
+            text::folded(of.firm + QLatin1Char('\n') + of.nip + QLatin1Char('\n')
+                         + of.to.join(QLatin1Char('\n')) + QLatin1Char('\n') + of.address);
         m_table->topLevelItem(i)->setHidden(
             std::any_of(wanted.begin(), wanted.end(), [&all](const QString &word) {
                 return all.find(text::folded(word)) == std::string::npos;

@@ -2,6 +2,7 @@
 
 #include "data/firmDetails.h"
 #include "data/kiv_mat_zpStruct.h"
+#include "order/orderOperations.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -14,24 +15,24 @@ namespace {
 
 const QString dateForm = QStringLiteral("yyyy.MM.dd");
 
-bool isFirm(const QString &name, const QString &nip, const QString &otherName,
-            const QString &otherNip)
-{
-    return firmDetails::isSameName(name, otherName)
-           && (nip.isEmpty() || otherNip.isEmpty() || firmDetails::isSameNip(nip, otherNip));
-}
-
 template <class Record>
 const Record *lastOf(const std::vector<std::unique_ptr<Record>> &all, const QString &firm,
                      const QString &nip)
 {
     for (auto one = all.rbegin(); one != all.rend(); ++one)
-        if (isFirm((*one)->firm, (*one)->nip, firm, nip))
+        if (isSameFirm((*one)->firm, (*one)->nip, firm, nip))
             return one->get();
     return nullptr;
 }
 
 } // namespace
+
+bool isSameFirm(const QString &name, const QString &nip, const QString &otherName,
+                const QString &otherNip)
+{
+    return firmDetails::isSameName(name, otherName)
+           && (nip.isEmpty() || otherNip.isEmpty() || firmDetails::isSameNip(nip, otherNip));
+}
 
 QString folderOf(const QString &orderPath)
 {
@@ -80,6 +81,8 @@ needs needsOf(const kiv_mat_zpStruct &order, const std::optional<std::vector<int
     QHash<QString, size_t> byMaterial; // and unit
     for (const int place : lines ? *lines : places) {
         const orderItemStruct &line = *items[size_t(place)];
+        if (orderOperations::isShipment(line.ktm))
+            continue;
         const auto quantity = decimal::read(line.quantity);
         if (!quantity || *quantity <= decimal()) {
             result.uncounted.push_back(place);
@@ -127,6 +130,25 @@ const offerStruct *offerOf(const kiv_mat_offersStruct &offers, const QString &fi
                            const QString &nip)
 {
     return lastOf(offers.offers, firm, nip);
+}
+
+std::vector<const offerStruct *> offersOf(const kiv_mat_offersStruct &offers, const QString &firm,
+                                          const QString &nip)
+{
+    std::vector<const offerStruct *> all;
+    for (auto one = offers.offers.rbegin(); one != offers.offers.rend(); ++one)
+        if (isSameFirm((*one)->firm, (*one)->nip, firm, nip))
+            all.push_back(one->get());
+    return all;
+}
+
+const offerStruct *offerOn(const kiv_mat_offersStruct &offers, const QString &firm,
+                           const QString &nip, const QString &request)
+{
+    for (const offerStruct *one : offersOf(offers, firm, nip))
+        if (one->request.trimmed() == request.trimmed())
+            return one;
+    return nullptr;
 }
 
 } // namespace orderOffers

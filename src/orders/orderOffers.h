@@ -22,6 +22,10 @@ namespace orderOffers {
 QString folderOf(const QString &orderPath);
 QString fileOf(const QString &orderPath);
 
+// Whether these are one firm: the same name, and where both have one the same tax number.
+bool isSameFirm(const QString &name, const QString &nip, const QString &otherName,
+                const QString &otherNip);
+
 // A file name for something of a firm in that folder: letters, digits, points and dashes of the
 // parts, joined by "_". Not one that is there already.
 QString freeName(const QString &folder, const QStringList &parts, const QString &ending);
@@ -31,6 +35,7 @@ QString dateText(const QDate &date);
 QDate readDate(const QString &text);
 
 // What is bought of one material: its lines in one unit together, since prices go by the quantity.
+// Nobody is asked for shipment and service.
 struct need
 {
     QString key; // the KTM, or the name of lines without one; with the unit behind it where the
@@ -53,10 +58,16 @@ needs needsOf(const kiv_mat_zpStruct &order, const std::optional<std::vector<int
 
 // The firm chosen for a line of that KTM (or name); null when none was.
 const choiceStruct *choiceFor(const kiv_mat_offersStruct &offers, const QString &key);
-// The offers of a firm, and the request to it, the latest last; null when there is none.
+// The latest request to a firm, and its latest offer; null when there is none.
 const requestStruct *requestTo(const kiv_mat_offersStruct &offers, const QString &firm,
                                const QString &nip);
 const offerStruct *offerOf(const kiv_mat_offersStruct &offers, const QString &firm,
                            const QString &nip);
+// Its offers, the latest first.
+std::vector<const offerStruct *> offersOf(const kiv_mat_offersStruct &offers, const QString &firm,
+                                          const QString &nip);
+// Its offer on that request, or on none when the number is empty; null when there is none.
+const offerStruct *offerOn(const kiv_mat_offersStruct &offers, const QString &firm,
+                           const QString &nip, const QString &request);
 
 } // namespace orderOffers

@@ -5,6 +5,8 @@
 #include "util/text.h"
 #include "util/workbook.h"
 
+#include <algorithm>
+
 namespace quotationDocuments {
 
 using namespace quotationForm;
@@ -110,6 +112,21 @@ void writeMaterials(html::htmlTable &page, const content &of)
     page.closeTable();
 }
 
+// As wide as what is in it, so that no text is cut by the cell beside it.
+void setWidths(workbook *book, const content &of)
+{
+    constexpr int narrowest = 9;
+    constexpr int widest = 48;
+    for (int i = 0; i < columnCount; ++i) {
+        int longest = captionOf(column(i), of.language).size();
+        for (int one = 0; i + 1 == captionColumn && one < entryCount; ++one)
+            longest = std::max(longest, captionOf(entry(one), of.language).size());
+        for (int one = 0; one < int(of.materials.size()); ++one)
+            longest = std::max(longest, valueOf(of.materials[size_t(one)], one, column(i)).size());
+        book->setWidth(i + 1, std::clamp(longest + 1, narrowest, widest));
+    }
+}
+
 bool writeCells(workbook &book, const content &of)
 {
     if (!book.addSheet(textOf(quotationForm::title, of.language)))
@@ -140,6 +157,7 @@ bool writeCells(workbook &book, const content &of)
         }
         ++place;
     }
+    setWidths(&book, of);
     return true;
 }
 

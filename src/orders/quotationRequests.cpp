@@ -7,7 +7,6 @@
 #include "data/ktmIndex.h"
 #include "data/vocabulary.h"
 #include "mail/mail.h"
-#include "order/orderOperations.h"
 #include "orders/quotationDocuments.h"
 #include "orders/quotationForm.h"
 #include "util/files.h"
@@ -29,19 +28,20 @@ constexpr int usualDays = 7;
 
 QString nameKey(const QString &name) { return name.simplified().toCaseFolded(); }
 
-bool isSameFirm(const QString &name, const QString &nip, const QString &otherName,
-                const QString &otherNip)
-{
-    return firmDetails::isSameName(name, otherName)
-           && (nip.isEmpty() || otherNip.isEmpty() || firmDetails::isSameNip(nip, otherNip));
-}
-
 bool isAnswered(const requestStruct &of, const kiv_mat_offersStruct &offers)
 {
     return std::any_of(offers.offers.begin(), offers.offers.end(), [&](const auto &offer) {
         return offer->request.trimmed() == of.number.trimmed()
-               && isSameFirm(offer->firm, offer->nip, of.firm, of.nip);
+               && orderOffers::isSameFirm(offer->firm, offer->nip, of.firm, of.nip);
     });
+}
+
+// Not those of another firm of the same name: it would get this one's request.
+const firmDetailsStruct *detailsOf(const kiv_mat_firmDetailsStruct &details, const QString &firm,
+                                   const QString &nip)
+{
+    const firmDetailsStruct *its = firmDetails::find(details, firm, nip);
+    return its && orderOffers::isSameFirm(its->name, its->nip, firm, nip) ? its : nullptr;
 }
 
 // "maker number; maker number"
@@ -69,15 +69,6 @@ QString cannotWrite(const QString &path, const QString &reason)
 }
 
 // --- Messages
-
-// Once for all messages of a batch: the next one must not take the files of the first.
-void removeOldMessages()
-{
-    QDir folder(mail::folder());
-    for (const QString &name :
-         folder.entryList({QStringLiteral("*.cmd"), QStringLiteral("*.html")}, QDir::Files))
-        folder.remove(name);
-}
 
 struct letter
 {
@@ -188,13 +179,13 @@ public:
         done.number = number;
         const requestStruct *kept = find(offers(), number);
         if (!kept) {
-            done.fault = QCoreApplication::translate("quotationRequests", "There is no request %1")
-                             .arg(number);
+            done.fault = noRequest(number);
             return done;
         }
         done.firm = kept->firm;
         requestStruct request;
         copyFields(request, *kept, requestStruct::fields());
+        m_toBefore = kept->to;
         request.to = addressesOf(request).join(QLatin1String(", "));
         done.fault = refusalOf(why, request);
         if (!done.fault.isEmpty())
@@ -212,6 +203,12 @@ private:
             if (one->number == number)
                 return one.get();
         return nullptr;
+    }
+
+    static QString noRequest(const QString &number)
+    {
+        return QCoreApplication::translate("quotationRequests", "There is no request %1")
+            .arg(number);
     }
 
     QString folder() const { return orderOffers::folderOf(m_orderPath); }
@@ -300,16 +297,21 @@ private:
         if (!m_with.start)
             return true;
         m_before = request.*timeOf(why);
-        return change(
+        bool isThere = false;
+        const bool written = change(
             [&](kiv_mat_offersStruct &offers) {
                 requestStruct *kept = find(offers, request.number);
-                if (!kept)
+                isThere = kept != nullptr;
+                if (!isThere)
                     return false;
                 kept->*timeOf(why) = timeText(m_with.now);
                 kept->to = request.to;
                 return true;
             },
             fault);
+        if (written && !isThere)
+            *fault = noRequest(request.number);
+        return written && isThere;
     }
 
     // Nothing of what failed stays; a message that cannot be started does, and is not noted as
@@ -336,9 +338,12 @@ private:
         if (!change(
                 [&](kiv_mat_offersStruct &offers) {
                     requestStruct *kept = find(offers, done.number);
-                    if (kept)
-                        kept->*timeOf(why) = m_before;
-                    return kept != nullptr;
+                    if (!kept)
+                        return false;
+                    kept->*timeOf(why) = m_before;
+                    if (m_toBefore)
+                        kept->to = *m_toBefore;
+                    return true;
                 },
                 &fault))
             done.fault += QLatin1String("; ") + fault;
@@ -348,8 +353,7 @@ private:
     QStringList addressesOf(const requestStruct &request) const
     {
         const firmDetailsStruct *details =
-            m_with.details ? firmDetails::find(*m_with.details, request.firm, request.nip)
-                           : nullptr;
+            m_with.details ? detailsOf(*m_with.details, request.firm, request.nip) : nullptr;
         const QStringList now = details ? mail::addresses(details->email) : QStringList();
         return now.isEmpty() ? mail::addresses(request.to) : now;
     }
@@ -362,12 +366,10 @@ private:
         if (mail::addresses(request.to).isEmpty())
             return QCoreApplication::translate("quotationRequests", "%1 has no e-mail address")
                 .arg(request.firm);
-        // A name that leads elsewhere would send what nobody meant to.
         for (const QString &name : {request.document, request.table})
-            if (const QFileInfo file(folder() + QLatin1Char('/') + name);
-                name.isEmpty() || file.fileName() != name || !file.isFile())
+            if (keptFile(m_orderPath, name).isEmpty())
                 return QCoreApplication::translate("quotationRequests", "%1 is missing")
-                    .arg(QDir::toNativeSeparators(file.filePath()));
+                    .arg(QDir::toNativeSeparators(folder() + QLatin1Char('/') + name));
         return {};
     }
 
@@ -375,7 +377,8 @@ private:
     const means &m_with;
     configStruct &m_config;
     offersFile m_file;
-    QString m_before; // when it was sent or reminded the last time
+    QString m_before;                  // when it was sent or reminded the last time
+    std::optional<QString> m_toBefore; // and whereto; nothing for a new one
 };
 
 // Goes through firms or numbers, as far as progress lets it.
@@ -383,12 +386,17 @@ template <class List, class Function>
 void forEach(const List &all, const progressFunction &progress, result *to, const Function &one)
 {
     long long done = 0;
+    const auto isCancelled = [&] {
+        to->isCancelled = progress && !progress(done, (long long)(all.size()));
+        return to->isCancelled;
+    };
     for (const auto &each : all) {
-        if (progress && !progress(done, (long long)(all.size()))) {
-            to->isCancelled = true;
+        if (isCancelled())
             return;
-        }
-        to->firms.push_back(one(each));
+        outcome of = one(each);
+        if (!of.isWritten && isCancelled())
+            return;
+        to->firms.push_back(std::move(of));
         ++done;
     }
 }
@@ -405,8 +413,7 @@ orderOffers::needs asked(const kiv_mat_zpStruct &order,
     const QSet<int> wanted = lines ? QSet<int>(lines->begin(), lines->end()) : QSet<int>();
     std::vector<int> bought;
     for (int place = 0; place < int(items.size()); ++place)
-        if ((!lines || wanted.contains(place))
-            && !orderOperations::isShipment(items[size_t(place)]->ktm))
+        if (!lines || wanted.contains(place))
             bought.push_back(place);
     // A part of the lines may have one unit of a material alone; its offers are compared under the
     // key of the whole order.
@@ -445,7 +452,8 @@ std::vector<candidate> candidatesOf(const kiv_mat_firmStruct &firms,
             const QString name = nameKey(firm->name);
             const QList<size_t> same = places.values(name);
             const auto known = std::find_if(same.begin(), same.end(), [&](size_t place) {
-                return isSameFirm(all[place].firm, all[place].nip, firm->name, firm->nip);
+                return orderOffers::isSameFirm(all[place].firm, all[place].nip, firm->name,
+                                               firm->nip);
             });
             if (name.isEmpty() || known != same.end()) {
                 if (known != same.end() && all[*known].nip.isEmpty())
@@ -454,12 +462,13 @@ std::vector<candidate> candidatesOf(const kiv_mat_firmStruct &firms,
             }
             places.insert(name, all.size());
             all.push_back(
-                {firm->name.simplified(), firm->nip.trimmed(), {}, {}, named.value(name), {}});
+                {firm->name.simplified(), firm->nip.trimmed(), {}, {}, named.value(name), {}, {}});
         }
     for (candidate &one : all) {
-        const firmDetailsStruct *its = firmDetails::find(details, one.firm, one.nip);
+        const firmDetailsStruct *its = detailsOf(details, one.firm, one.nip);
         one.to = its ? mail::addresses(its->email) : QStringList();
         one.language = quotationForm::known(its ? its->language : QString());
+        one.address = its ? its->address.simplified() : QString();
         if (const requestStruct *last = orderOffers::requestTo(offers, one.firm, one.nip))
             one.before = last->number;
     }
@@ -533,7 +542,7 @@ result send(const batch &of, const means &with, configStruct &config)
                                                 "No line with a quantity is to be asked for");
     if (!all.fault.isEmpty() || !sending.begin(&all.fault))
         return all;
-    removeOldMessages();
+    mail::removeOldMessages();
     forEach(of.firms, with.progress, &all,
             [&](const candidate &one) { return sending.sendNew(of, one, needs); });
     return all;
@@ -546,10 +555,17 @@ result sendKept(occasion why, const QString &orderPath, const QStringList &numbe
     sender sending(orderPath, with, config);
     if (!sending.begin(&all.fault))
         return all;
-    removeOldMessages();
+    mail::removeOldMessages();
     forEach(numbers, with.progress, &all,
             [&](const QString &number) { return sending.sendKept(why, number); });
     return all;
+}
+
+QString keptFile(const QString &orderPath, const QString &name)
+{
+    const QFileInfo file(orderOffers::folderOf(orderPath) + QLatin1Char('/') + name);
+    return !name.isEmpty() && file.fileName() == name && file.isFile() ? file.filePath()
+                                                                       : QString();
 }
 
 // --- Who answered
@@ -560,7 +576,10 @@ state stateOf(const requestStruct &of, const kiv_mat_offersStruct &offers, const
     if (isAnswered(of, offers))
         return state::answered;
     const QDate deadline = orderOffers::readDate(of.deadline);
-    return deadline.isValid() && deadline < today ? state::overdue : state::waiting;
+    if (deadline.isValid() && deadline < today)
+        return state::overdue;
+    // A reminder takes the documents along.
+    return of.sent.isEmpty() && of.reminded.isEmpty() ? state::unsent : state::waiting;
 }
 
 QString stateText(state of)
@@ -570,6 +589,8 @@ QString stateText(state of)
         return QCoreApplication::translate("quotationRequests", "waiting");
     case state::overdue:
         return QCoreApplication::translate("quotationRequests", "overdue");
+    case state::unsent:
+        return QCoreApplication::translate("quotationRequests", "written only");
     default:
         return QCoreApplication::translate("quotationRequests", "offer came");
     }

@@ -31,6 +31,7 @@ struct candidate
     QString language; // as quotationForm knows it
     int named = 0;    // how many of the materials name it as supplier or maker
     QString before;   // number of the last request to it; empty when there was none
+    QString address;  // of the post
 };
 // Each manufacturer and supplier once: those that the most materials name first, then by name.
 std::vector<candidate> candidatesOf(const kiv_mat_firmStruct &firms,
@@ -60,7 +61,8 @@ struct means
     // Starts the mail program with a description file; without it messages are only written, and
     // not noted as sent.
     std::function<bool(const QString &description)> start;
-    // Asked between firms; false leaves out the rest.
+    // Asked between firms, and once more when nothing could be written for one, whose printing may
+    // have been broken off; false leaves out the rest, and that one.
     progressFunction progress;
     // Addresses of these count before those that were noted with a request; may be null.
     const kiv_mat_firmDetailsStruct *details = nullptr;
@@ -114,18 +116,23 @@ enum class occasion
 result sendKept(occasion why, const QString &orderPath, const QStringList &numbers,
                 const means &with, configStruct &config);
 
+// The path of a document or table of a request; empty when it is missing, and where the name leads
+// out of the folder of the order's offers.
+QString keptFile(const QString &orderPath, const QString &name);
+
 // --- Who answered
 
 enum class state
 {
     waiting,
     overdue,
-    answered
+    answered,
+    unsent
 };
 // Answered is a request that an offer of its firm has the number of; one whose deadline is past on
-// that day is overdue.
+// that day is overdue, else one that nobody handed to the mail program is only written.
 state stateOf(const requestStruct &of, const kiv_mat_offersStruct &offers, const QDate &today);
-// "waiting", "overdue", "offer came"
+// "waiting", "overdue", "offer came", "written only"
 QString stateText(state of);
 // The requests without an offer, and those of them that are overdue.
 std::vector<const requestStruct *> unanswered(const kiv_mat_offersStruct &offers);

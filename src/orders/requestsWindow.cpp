@@ -19,14 +19,18 @@
 
 #include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSet>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
+#include <memory>
 
 using namespace quotationRequests;
 
@@ -43,6 +47,9 @@ const windowAction<requestsWindow> actionTable[] = {
     {{"openTable", "File", QT_TRANSLATE_NOOP("actions", "Open table"), "action_xlsx", "Ctrl+T",
       QT_TRANSLATE_NOOP("actions", "Open the table that the firm got to fill in"), true},
      &requestsWindow::commandOpenTable},
+    {{"showFolder", "File", QT_TRANSLATE_NOOP("actions", "Show folder"), "action_open", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Show the folder with what was sent and what came back")},
+     &requestsWindow::commandShowFolder},
     {{nullptr, "File", nullptr, nullptr, nullptr, nullptr, false}, nullptr},
     {{"close", "File", "Close", "action_close", "Ctrl+W", nullptr}, &requestsWindow::commandClose},
 
@@ -81,10 +88,11 @@ constexpr int widths[columns] = {150, 220, 130, 100, 120, 130, 260, 90};
 // The word stands beside the picture.
 const QIcon &iconOf(state of)
 {
-    static const std::array<QIcon, 3> icons{
+    static const std::array<QIcon, 4> icons{
         QIcon(QStringLiteral(":/icons/icons/led_blue.png")),
         QIcon(QStringLiteral(":/icons/icons/led_red.png")),
         QIcon(QStringLiteral(":/icons/icons/led_green.png")),
+        QIcon(QStringLiteral(":/icons/icons/led_gray.png")),
     };
     return icons[size_t(of)];
 }
@@ -185,9 +193,11 @@ void requestsWindow::readAgain()
     QSet<QString> chosen;
     for (const QTreeWidgetItem *row : m_table->selectedItems())
         chosen.insert(row->text(numberColumn));
+    // What follows a selection may read the file again, and takes the offers away.
+    const QSignalBlocker quiet(m_table);
     m_table->clear();
     for (const auto &one : offers.requests)
-        addRow(*one);
+        addRow(*one, offers);
     for (int i = 0; i < m_table->topLevelItemCount(); ++i)
         if (QTreeWidgetItem *row = m_table->topLevelItem(i);
             chosen.contains(row->text(numberColumn))) {
@@ -212,9 +222,9 @@ void requestsWindow::readAgain()
     updateActions();
 }
 
-void requestsWindow::addRow(const requestStruct &of)
+void requestsWindow::addRow(const requestStruct &of, const kiv_mat_offersStruct &offers)
 {
-    const state standing = stateOf(of, m_offers.now(), m_shownDay);
+    const state standing = stateOf(of, offers, m_shownDay);
     auto *row = new QTreeWidgetItem(
         m_table, {of.number, of.firm, of.sent.isEmpty() ? tr("not sent") : timeOf(of.sent),
                   dayOf(of.deadline), stateText(standing), timeOf(of.reminded), of.to,
@@ -237,13 +247,14 @@ void requestsWindow::addRow(const requestStruct &of)
 // --------------------------------------------------------------------------------------
 
 // The rows are in the order of the file as it was shown.
-std::vector<const requestStruct *> requestsWindow::selected()
+std::vector<const requestStruct *> requestsWindow::selected(
+    const kiv_mat_offersStruct &offers) const
 {
     std::vector<const requestStruct *> all;
     QSet<QString> numbers;
     for (const QTreeWidgetItem *row : m_table->selectedItems())
         numbers.insert(row->text(numberColumn));
-    for (const auto &one : m_offers.now().requests)
+    for (const auto &one : offers.requests)
         if (numbers.contains(one->number))
             all.push_back(one.get());
     return all;
@@ -251,14 +262,14 @@ std::vector<const requestStruct *> requestsWindow::selected()
 
 const requestStruct *requestsWindow::current()
 {
-    const auto all = selected();
+    const auto all = selected(m_offers.now());
     return all.size() == 1 ? all.front() : nullptr;
 }
 
 void requestsWindow::updateActions()
 {
-    const auto all = selected();
     const kiv_mat_offersStruct &offers = m_offers.now();
+    const auto all = selected(offers);
     const QString none = tr("no request is selected");
     const QString notOne = all.empty() ? none : tr("several requests are selected");
     setAvailable("newRequests", !m_orderPath.isEmpty(), tr("there is no order"));
@@ -270,6 +281,8 @@ void requestsWindow::updateActions()
                  all.empty() ? none : tr("an offer has come from each selected firm"));
     for (const char *name : {"sendAgain", "openDocument", "openTable"})
         setAvailable(name, all.size() == 1, notOne);
+    setAvailable("showFolder", QFileInfo(orderOffers::folderOf(m_orderPath)).isDir(),
+                 tr("no firm was asked yet"));
     setAvailable("copy", !all.empty(), none);
 }
 
@@ -292,11 +305,14 @@ means requestsWindow::meansWith(const kiv_mat_firmDetailsStruct &details,
                                 const progressFunction &progress)
 {
     means with;
-    with.print = [](const QString &html, const QString &path, const QString &title,
-                    QString *fault) {
+    // While pages are printed the bar stays at the firm that they are for.
+    const auto place = std::make_shared<std::pair<long long, long long>>();
+    with.print = [progress, place](const QString &html, const QString &path, const QString &title,
+                                   QString *fault) {
         myWebView printed;
         printed.showReport(html);
-        if (printPdf(&printed, path, title))
+        if (printPdf(&printed, path, title,
+                     [&](long long, long long) { return progress(place->first, place->second); }))
             return true;
         *fault = files::whyNotWritten(path);
         return false;
@@ -304,7 +320,10 @@ means requestsWindow::meansWith(const kiv_mat_firmDetailsStruct &details,
     with.start = [this](const QString &description) {
         return mail::start(description, m_known.config());
     };
-    with.progress = progress;
+    with.progress = [progress, place](long long done, long long total) {
+        *place = {done, total};
+        return progress(done, total);
+    };
     with.details = &details;
     return with;
 }
@@ -369,9 +388,10 @@ void requestsWindow::commandNew(bool) { emit newWanted(); }
 
 void requestsWindow::commandRemind(bool)
 {
+    const kiv_mat_offersStruct &offers = m_offers.now();
     QStringList numbers;
-    for (const requestStruct *one : selected())
-        if (stateOf(*one, m_offers.now(), m_shownDay) != state::answered)
+    for (const requestStruct *one : selected(offers))
+        if (stateOf(*one, offers, m_shownDay) != state::answered)
             numbers.append(one->number);
     sendKept(occasion::reminder, numbers);
 }
@@ -384,10 +404,12 @@ void requestsWindow::commandSendAgain(bool)
 
 void requestsWindow::openKept(const QString &name)
 {
-    const QString path = orderOffers::folderOf(m_orderPath) + QLatin1Char('/') + name;
-    if (name.isEmpty() || !QFileInfo(path).isFile())
-        userPrompts().showError(
-            tr("%1 is missing").arg(QDir::toNativeSeparators(path)).toHtmlEscaped());
+    const QString path = keptFile(m_orderPath, name);
+    if (path.isEmpty())
+        userPrompts().showError(tr("%1 is missing")
+                                    .arg(QDir::toNativeSeparators(orderOffers::folderOf(m_orderPath)
+                                                                  + QLatin1Char('/') + name))
+                                    .toHtmlEscaped());
     else
         desktop::openFile(path);
 }
@@ -402,6 +424,14 @@ void requestsWindow::commandOpenTable(bool)
 {
     if (const requestStruct *one = current())
         openKept(one->table);
+}
+
+void requestsWindow::commandShowFolder(bool)
+{
+    const QString folder = orderOffers::folderOf(m_orderPath);
+    if (!desktop::openFolder(folder))
+        userPrompts().showError(
+            asBox({tr("The folder cannot be shown: %1").arg(QDir::toNativeSeparators(folder))}));
 }
 
 void requestsWindow::commandCopy(bool)

@@ -29,6 +29,7 @@ public slots:
     void commandSendAgain(bool);
     void commandOpenDocument(bool);
     void commandOpenTable(bool);
+    void commandShowFolder(bool);
     void commandCopy(bool);
     void commandReadAgain(bool);
     void commandClose(bool) { close(); }
@@ -43,11 +44,11 @@ protected:
 private:
     void buildWidgets();
     void readAgain();
-    void addRow(const requestStruct &of);
+    void addRow(const requestStruct &of, const kiv_mat_offersStruct &offers);
     void updateActions();
     void tell(const QString &text);
-    // Of the selected rows.
-    std::vector<const requestStruct *> selected();
+    // Of the selected rows; they last as long as the content that they are in.
+    std::vector<const requestStruct *> selected(const kiv_mat_offersStruct &offers) const;
     const requestStruct *current();
     void openKept(const QString &name);
     // The details of firms; false, which is told, when they cannot be read.

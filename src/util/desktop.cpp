@@ -77,4 +77,9 @@ bool openFile(const QString &path)
     return isDocument(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
+bool openFolder(const QString &path)
+{
+    return QFileInfo(path).isDir() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
 } // namespace desktop

@@ -18,4 +18,7 @@ bool followLink(const QUrl &link);
 // documents, too. False when it was not opened.
 bool openFile(const QString &path);
 
+// Shows a folder in the desktop's file manager. False when it was not shown.
+bool openFolder(const QString &path);
+
 } // namespace desktop

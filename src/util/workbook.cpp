@@ -77,6 +77,12 @@ bool workbook::write(int row, int column, double number)
                                        nullptr));
 }
 
+void workbook::setWidth(int column, int characters)
+{
+    worksheet_set_column(m_sheet, lxw_col_t(column - 1), lxw_col_t(column - 1), characters,
+                         nullptr);
+}
+
 bool workbook::pack(const progressFunction &progress)
 {
     lxw_workbook *book = std::exchange(m_book, nullptr); // closing frees it, also when it fails

@@ -35,6 +35,9 @@ public:
     // The same with a number.
     bool write(int row, int column, double number);
 
+    // Makes a column as wide as so many characters of the usual font.
+    void setWidth(int column, int characters);
+
     // Writes the file in one piece in the place of an older one, which stays as it was when that
     // fails: then false, with error() set. progress is asked while the library packs, which says
     // nothing of how far it is (a total of 0), and may cancel: then false, with isCancelled(). The

@@ -171,6 +171,7 @@ private slots:
         row("request orders/a.xml --list --remind", 2, "", "either --list or --remind");
         row("request orders/a.xml", 2, "", "give --firms and --firm");
         row("request orders/a.xml --remind", 1, "", "no firm is to be reminded");
+        row("request orders/a.xml --remind --firm X", 1, "", "X has no request without an offer");
         row("request bom.xml --list", 1, "", "is no order");
         row("offers compare orders/a.xml", 1, "", "there are no offers for it");
         row("offers import orders/a.xml", 2, "", "an argument is missing");

@@ -347,6 +347,30 @@ private slots:
         QCOMPARE(noted(), QString("ZP/13/2026/Z1 Mouser 2026.11.26 09:05>"));
     }
 
+    // Printing that is broken off is no fault of the firm; one that fails by itself is.
+    void cancelStopsAPrint()
+    {
+        bool isPressed = false;
+        means some = with();
+        some.progress = [&isPressed](long long, long long) { return !isPressed; };
+        some.print = [&](const QString &html, const QString &path, const QString &, QString *) {
+            isPressed = html.contains("TME");
+            if (!isPressed)
+                testSupport::write(path, "x");
+            return !isPressed;
+        };
+        const result all = quotationRequests::send(batchFor({"Mouser", "TME", "Würth & Co"}), some, m_config);
+        QVERIFY(all.isCancelled && all.faults().isEmpty());
+        QCOMPARE(told(all), QString("|ZP/13/2026/Z1 Mouser written started"));
+        QCOMPARE(noted(), QString("ZP/13/2026/Z1 Mouser 2026.11.26 09:05>"));
+        QCOMPARE(QDir(orderOffers::folderOf(orderPath())).entryList({"*TME*"}), QStringList());
+        isPressed = false;
+        some.print = [](const QString &, const QString &, const QString &, QString *) { return false; };
+        const result failing = quotationRequests::send(batchFor({"TME", "Mouser"}), some, m_config);
+        QCOMPARE(failing.faults().size(), 2);
+        QVERIFY(!failing.isCancelled);
+    }
+
     void numbers_data()
     {
         const rows<QString, QString> row;
@@ -388,6 +412,7 @@ private slots:
         appendTo(m_firms.manufacturers)->name = "  yageo ";
         appendTo(m_firms.manufacturers)->name = "tme";
         appendTo(m_firms.manufacturers)->name = "";
+        m_details.details[1]->address = "Ustronna 41\n93-350 Łódź";
         send({"Mouser"});
         QStringList all;
         for (const candidate &one : candidates())
@@ -395,6 +420,7 @@ private slots:
                        + QString::number(one.to.size()) + ' ' + one.before);
         QCOMPARE(all.join('|'), QString("TME pl 2 1 |Mouser en 1 2 ZP/13/2026/Z1|yageo en 1 0 |Anonim pl 0 0 |"
                                         "Würth & Co de 0 1 "));
+        QCOMPARE(candidates().front().address, QString("Ustronna 41 93-350 Łódź"));
     }
 
     // An offer of another firm, or for another request, is no answer.
@@ -419,6 +445,38 @@ private slots:
         QCOMPARE(unanswered(*all).front()->firm, QString("Mouser"));
         all->requests[0]->deadline.clear();
         QVERIFY(overdue(*all, {2030, 1, 1}).empty());
+    }
+
+    // Nobody waits for an answer to what was only written; a reminder takes the documents along.
+    void whatWasOnlyWritten()
+    {
+        send({"Mouser", "TME"}, false);
+        const auto all = offers();
+        all->requests[1]->reminded = "2026.11.27 10:00";
+        const auto standing = [&all](const QDate &today) {
+            return stateText(stateOf(*all->requests[0], *all, today)) + '|'
+                   + stateText(stateOf(*all->requests[1], *all, today));
+        };
+        QCOMPARE(standing({2026, 12, 3}), QString("written only|waiting"));
+        QCOMPARE(standing({2026, 12, 4}), QString("overdue|overdue"));
+        answer("Mouser", "ZP/13/2026/Z1");
+        QCOMPARE(stateOf(*all->requests[0], *offers(), {2026, 12, 3}), state::answered);
+    }
+
+    // Names in the file of offers lead nowhere else.
+    void keptFiles_data()
+    {
+        const rows<bool> row;
+        row("Z1.pdf", true);
+        row.each({"", "Z2.pdf", "../zp_13.xml", "deep/Z1.pdf", "deep", "./Z1.pdf", "%/Z1.pdf"}, false);
+    }
+    void keptFiles()
+    {
+        for (const char *name : {"zp/offers/zp_13/Z1.pdf", "zp/offers/zp_13/deep/Z1.pdf", "zp/offers/zp_13.xml"})
+            m_folder->write(name, "x");
+        const auto [isKept] = fetch<bool>();
+        const QString name = tag().replace('%', orderOffers::folderOf(orderPath()));
+        QCOMPARE(keptFile(orderPath(), name), isKept ? kept(name) : QString());
     }
 
     void remindersGoToThoseWithoutAnOffer_data()
@@ -469,8 +527,10 @@ private slots:
         // Failing, it is noted as it was before.
         m_unstartable = "TME";
         later.now = later.now.addDays(1);
+        m_details.details[1]->email = "newer@tme.example";
         QCOMPARE(sendKept(occasion::again, orderPath(), {"ZP/13/2026/Z1"}, later, m_config).faults().size(), 1);
         QCOMPARE(noted(), QString("ZP/13/2026/Z1 TME 2026.12.05 10:00>"));
+        QCOMPARE(offers()->requests.front()->to, QString("new@tme.example"));
         QVERIFY(QFile::remove(table));
         const result all = sendKept(occasion::again, orderPath(), {"ZP/13/2026/Z1"}, later, m_config);
         QVERIFY2(all.faults().value(0).endsWith("is missing"), qPrintable(all.faults().value(0)));

@@ -31,6 +31,7 @@ class tst_requestsWindow : public folderTest
         its.name = name;
         its.email = email;
         its.language = language;
+        its.address = name + "\nStreet";
         firmDetails::put(&details, name, {}, its);
     }
     std::unique_ptr<kiv_mat_offersStruct> offers()
@@ -147,6 +148,7 @@ private slots:
         row("Down Ctrl+A Space", "TME|Mouser|Zeta: 3");
         row("'zeta.exam' Return Space Alt+S Ctrl+A Delete Return Down Down Space", "Mouser|Zeta: 2");
         row("'anon' Return Space", ": Anonim has no e-mail address");
+        row("'mouser street' Return Space", "Mouser: 1");
         // Nothing is sent by Return.
         row("Return Space Return Return", "TME: 1");
     }
@@ -173,6 +175,24 @@ private slots:
                                          + QString::number(QDate::currentDate().daysTo(last->date()));
                               }),
                  QString("No firm is ticked-|Anonim has no e-mail address|1|7"));
+    }
+
+    void tabGoesWhereTheEyeGoes_data()
+    {
+        const rows<QString> row;
+        row("Tab", "deadline");
+        row("Return Shift+Tab", "deadline");
+        row("Return Space Tab", "write");
+    }
+    void tabGoesWhereTheEyeGoes()
+    {
+        const auto [name] = fetch<QString>();
+        QCOMPARE(seenInDialog(tag(),
+                              [](QDialog &dialog) {
+                                  const QWidget *focus = dialog.focusWidget();
+                                  return focus ? focus->objectName() : QString();
+                              }),
+                 name);
     }
 
     // From the firms to the messages, the files and the rows.
@@ -246,7 +266,7 @@ private slots:
         QVERIFY(QFile::remove(m_folder->path("_e-mail/KIV_EMAIL.exe")));
         work("Ctrl+N Return Space Alt+W ~300 Return");
         QVERIFY2(m_hands->boxes().join(' ').contains("TME: The mail program cannot be started"), "not told");
-        QCOMPARE(cells({1, 2, 4}), QString("TME not sent waiting"));
+        QCOMPARE(cells({1, 2, 4}), QString("TME not sent written only"));
         QVERIFY2(m_hands->status().contains("1 only written"), qPrintable(m_hands->status()));
         work("Ctrl+W");
         QVERIFY(!m_window->isVisible());

@@ -1,0 +1,30 @@
+#include "window/rowTable.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QTreeView>
+
+QTreeView *newRowTable(const char *name, const QString &accessibleName, QAbstractItemModel *model,
+                       QWidget *parent)
+{
+    auto *table = new QTreeView(parent);
+    table->setObjectName(QLatin1String(name));
+    table->setAccessibleName(accessibleName);
+    table->setModel(model);
+    table->setRootIsDecorated(false);
+    table->setUniformRowHeights(true);
+    table->setAlternatingRowColors(true);
+    table->setAllColumnsShowFocus(true);
+    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    return table;
+}
+
+void addCaptioned(QBoxLayout *to, QWidget *widget, const char *name, const QString &caption)
+{
+    auto *label = new QLabel(caption, widget->parentWidget());
+    label->setBuddy(widget);
+    widget->setObjectName(QLatin1String(name));
+    widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+    to->addWidget(label);
+    to->addWidget(widget);
+}
