@@ -12,7 +12,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QSet>
 
 namespace cli {
 
@@ -39,7 +38,8 @@ int noteDelivery(const QString &path, kiv_mat_zpStruct &order, const QString &li
     return writeDocument(path, order);
 }
 
-// Only the databases whose stock grew are written; what went into one that was is noted.
+// Only the databases whose stock grew are written. What cannot be noted is taken back again: it
+// would be added once more the next time.
 int takeIntoStock(const QString &path, const kiv_mat_zpStruct &order,
                   const QStringList &databasePaths, bool isTrial)
 {
@@ -49,35 +49,44 @@ int takeIntoStock(const QString &path, const kiv_mat_zpStruct &order,
     configStruct config;
     if (!config.load(paths::config()))
         config.setDefaults();
-    orderRegister orders;
+    QString fault;
+    const auto before = deliveredStock::takenOf(path, &fault);
+    if (!before) {
+        err() << fault << '\n' << Qt::flush;
+        return refused;
+    }
+    const auto open = deliveredStock::openOf(order, databases.index(), *before);
     bool isWhole = true;
-    for (const auto &database : databases.all()) {
-        std::vector<deliveredStock::delivery> own;
-        for (const deliveredStock::delivery &one :
-             deliveredStock::openOf(order, databases.index(), orders.stockedOf(path))) {
-            if (!one.fault.isEmpty() && database == databases.all().front()) {
-                err() << one.ktm << ": " << one.fault << '\n' << Qt::flush;
-                isWhole = false;
-            }
-            if (one.fault.isEmpty() && one.database == database.get())
-                own.push_back(one);
-        }
-        for (const deliveredStock::delivery &one : own) {
+    for (const deliveredStock::delivery &one : open) {
+        isWhole = isWhole && one.fault.isEmpty();
+        if (!one.fault.isEmpty())
+            err() << one.ktm << ": " << one.fault << '\n' << Qt::flush;
+        else
             out() << one.ktm << '\t' << one.delivery << '\t' << one.before << '\t' << one.after
                   << '\n'
                   << Qt::flush;
-            if (!isTrial)
-                one.material->d_inWarehouse = one.after;
-        }
+    }
+    for (const auto &database : databases.all()) {
+        std::vector<deliveredStock::delivery> own;
+        for (const deliveredStock::delivery &one : open)
+            if (one.fault.isEmpty() && one.database == database.get())
+                own.push_back(one);
         if (own.empty() || isTrial)
             continue;
+        const QString update = database->update;
+        for (const deliveredStock::delivery &one : own)
+            one.material->d_inWarehouse = one.after;
         database->update =
             QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
         if (const int code = writeDocument(database->filePath, *database); code != done)
             return code;
-        QString fault;
-        if (!orders.noteStocked(path, deliveredStock::noteOf(own), config, &fault))
-            return cannotWrite(orderRegister::statesIn(QFileInfo(path).absolutePath()), fault);
+        if (deliveredStock::noteTaken(path, deliveredStock::takenOf(own), config, &fault))
+            continue;
+        for (auto one = own.rbegin(); one != own.rend(); ++one)
+            one->material->d_inWarehouse = one->before;
+        database->update = update;
+        writeDocument(database->filePath, *database);
+        return cannotWrite(orderRegister::statesIn(QFileInfo(path).absolutePath()), fault);
     }
     return isWhole ? done : refused;
 }

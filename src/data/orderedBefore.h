@@ -12,7 +12,7 @@
 
 struct orderedBefore
 {
-    // Ordered and not invoiced yet, by the unit as files have it.
+    // Ordered, neither invoiced nor in stock yet, by the unit as files have it.
     std::vector<std::pair<QString, decimal>> onTheWay;
     // The orders of it, a line each: number, quantity, the day it is needed.
     QStringList open;

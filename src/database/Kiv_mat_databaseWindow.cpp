@@ -237,7 +237,9 @@ void Kiv_mat_databaseWindow::buildWidgets()
     });
 
     keepJournal(fileKinds::database, [this] { return &m_rows->database(); }, {m_model});
-    m_built.changed = [this] { noteAside(m_built.text()); };
+    // Each takes up its own of it.
+    m_built.changed = [this] { noteAside(m_built.text() + m_stocked.text()); };
+    m_stocked.changed = m_built.changed;
 
     m_words = new searchLine(m_view);
     m_words->completeFrom(known().search(), [this] { return &m_rows->database(); });
@@ -275,7 +277,7 @@ void Kiv_mat_databaseWindow::showDatabase()
 {
     setClean();
     m_built.discard();
-    m_stocked.clear();
+    m_stocked.discard();
     m_model->setRecords(nullptr);
     const bool first = !m_rows;
     m_reserved = reservedTotals(known().reservations().now());
@@ -399,7 +401,11 @@ bool Kiv_mat_databaseWindow::isModified() const
     return editWindow::isModified() || m_built.areOverdue() || m_stocked.areOverdue();
 }
 
-bool Kiv_mat_databaseWindow::takeNote(const QString &note) { return m_built.takeUp(note); }
+bool Kiv_mat_databaseWindow::takeNote(const QString &note)
+{
+    const bool hasBoards = m_built.takeUp(note);
+    return m_stocked.takeUp(note) || hasBoards;
+}
 
 void Kiv_mat_databaseWindow::historyMoved()
 {
@@ -426,7 +432,7 @@ bool Kiv_mat_databaseWindow::write(const QString &path)
                 .arg(QDir::toNativeSeparators(known().reservations().path()))
                 .toHtmlEscaped()
             + QLatin1String("<br>") + fault.toHtmlEscaped());
-    if (saved && !m_stocked.settle(&fault))
+    if (saved && !m_stocked.settle(known().config(), &fault))
         userPrompts().showError(
             tr("The database is saved, but the deliveries that went into its stock cannot be noted "
                "beside the orders; saving again tries it again")

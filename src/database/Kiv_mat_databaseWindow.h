@@ -14,7 +14,7 @@
 #include "database/exportResult.h"
 #include "database/linkExamination.h"
 #include "database/materialChange.h"
-#include "database/notedOnSave.h"
+#include "database/stockedDeliveries.h"
 #include "firm/firmOperations.h"
 #include "window/editWindow.h"
 
@@ -144,8 +144,15 @@ public slots:
     // Changes the stock as one step. The boards that it was taken out for are noted when the
     // database is saved.
     void takeOut(std::vector<materialChange> stock, builtBoards::boards built, const QString &what);
-    // Changes the stock as one step, which is noted elsewhere when the database is saved.
-    void takeIn(std::vector<materialChange> stock, notedOnSave::note note, const QString &what);
+    // Changes the stock as one step. The deliveries that it came by are noted when the database is
+    // saved.
+    void takeIn(std::vector<materialChange> stock, stockedDeliveries::entries deliveries,
+                const QString &what);
+    // Those of an order that went into the stock and are not noted yet.
+    deliveredStock::takenList pendingOf(const QString &orderPath) const
+    {
+        return m_stocked.pendingOf(orderPath);
+    }
     // Orders were placed or came: the columns that tell of them are read again.
     void ordersChanged();
     // Gives links other addresses as one step; how many were changed.
@@ -264,7 +271,7 @@ private:
     materialWindow *m_editor = nullptr;
     searchQuery m_query;
     builtBoards m_built;
-    notedOnSave m_stocked;              // deliveries that went into stock
+    stockedDeliveries m_stocked;
     QHash<QString, decimal> m_reserved; // by KTM
     QString m_statusFilter;
     bool m_editedFilter = false;

@@ -332,11 +332,12 @@ void Kiv_mat_databaseWindow::takeOut(std::vector<materialChange> stock, builtBoa
         what);
 }
 
-void Kiv_mat_databaseWindow::takeIn(std::vector<materialChange> stock, notedOnSave::note note,
-                                    const QString &what)
+void Kiv_mat_databaseWindow::takeIn(std::vector<materialChange> stock,
+                                    stockedDeliveries::entries deliveries, const QString &what)
 {
-    push(std::make_unique<notedStep>(std::make_unique<changeTexts>(m_rows.get(), std::move(stock)),
-                                     &m_stocked, std::move(note)),
+    push(std::make_unique<deliveriesStocked>(
+             std::make_unique<changeTexts>(m_rows.get(), std::move(stock)), &m_stocked,
+             std::move(deliveries)),
          what);
 }
 

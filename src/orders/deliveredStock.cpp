@@ -3,9 +3,14 @@
 #include "data/kiv_mat_databaseStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/ktmIndex.h"
+#include "orders/orderRegister.h"
 #include "util/labels.h"
+#include "util/userName.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 #include <QHash>
 
 namespace deliveredStock {
@@ -44,8 +49,48 @@ void fillIn(delivery *one, const ktmIndex &materials,
 
 } // namespace
 
+std::optional<takenList> takenOf(const QString &orderPath, QString *fault)
+{
+    const QFileInfo order(orderPath);
+    statesFile file(orderRegister::statesIn(order.absolutePath()));
+    const kiv_mat_orderStatesStruct &states = file.now();
+    if (!file.fault().isEmpty()) {
+        *fault = QDir::toNativeSeparators(file.path()) + QLatin1String(": ") + file.fault();
+        return {};
+    }
+    takenList all;
+    for (const auto &one : states.stocked)
+        if (one->file == order.fileName())
+            all.push_back({one->ktm.trimmed(), one->delivery.trimmed(),
+                           decimal::read(one->quantity).value_or(decimal())});
+    return all;
+}
+
+bool noteTaken(const QString &orderPath, const takenList &deliveries, configStruct &config,
+               QString *fault)
+{
+    const QFileInfo order(orderPath);
+    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd hh:mm"));
+    return statesFile(orderRegister::statesIn(order.absolutePath()))
+        .change(
+            [&](kiv_mat_orderStatesStruct &states) {
+                for (const taken &one : deliveries) {
+                    auto stocked = std::make_unique<stockedDeliveryStruct>();
+                    stocked->file = order.fileName();
+                    stocked->ktm = one.ktm;
+                    stocked->delivery = one.delivery;
+                    stocked->quantity = one.quantity.text();
+                    stocked->date = now;
+                    stocked->by = userName();
+                    states.stocked.push_back(std::move(stocked));
+                }
+                return !deliveries.empty();
+            },
+            config, fault);
+}
+
 std::vector<delivery> openOf(const kiv_mat_zpStruct &order, const ktmIndex &materials,
-                             const std::vector<const stockedDeliveryStruct *> &stocked)
+                             const takenList &before)
 {
     std::vector<delivery> all;
     QHash<QString, size_t> places;
@@ -67,11 +112,22 @@ std::vector<delivery> openOf(const kiv_mat_zpStruct &order, const ktmIndex &mate
         one.unit = line->unit.trimmed();
         one.quantity = *quantity;
     }
-    for (const stockedDeliveryStruct *one : stocked) {
-        const auto place = places.constFind(keyOf(one->ktm, one->delivery));
-        if (place != places.constEnd())
-            all[*place].quantity =
-                all[*place].quantity - decimal::read(one->quantity).value_or(decimal());
+    QHash<QString, decimal> others; // taken beyond what the lines of that text have, by KTM
+    for (const taken &one : before) {
+        const auto place = places.constFind(keyOf(one.ktm, one.delivery));
+        decimal left = one.quantity;
+        if (place != places.constEnd()) {
+            const decimal own = qMin(left, all[*place].quantity);
+            all[*place].quantity = all[*place].quantity - own;
+            left = left - own;
+        }
+        others[one.ktm] += left;
+    }
+    for (delivery &one : all) {
+        decimal &left = others[one.ktm];
+        const decimal own = qMin(left, one.quantity);
+        one.quantity = one.quantity - own;
+        left = left - own;
     }
     std::erase_if(all, [](const delivery &one) { return one.quantity <= decimal(); });
     QHash<const materialStruct *, QString> stocks;
@@ -80,15 +136,12 @@ std::vector<delivery> openOf(const kiv_mat_zpStruct &order, const ktmIndex &mate
     return all;
 }
 
-std::vector<stockedDeliveryStruct> noteOf(const std::vector<delivery> &taken)
+takenList takenOf(const std::vector<delivery> &deliveries)
 {
-    std::vector<stockedDeliveryStruct> notes(taken.size());
-    for (size_t i = 0; i < taken.size(); ++i) {
-        notes[i].ktm = taken[i].ktm;
-        notes[i].delivery = taken[i].delivery;
-        notes[i].quantity = taken[i].quantity.text();
-    }
-    return notes;
+    takenList all;
+    for (const delivery &one : deliveries)
+        all.push_back({one.ktm, one.delivery, one.quantity});
+    return all;
 }
 
 } // namespace deliveredStock

@@ -14,8 +14,15 @@
 #include <algorithm>
 
 namespace {
+
 const QString timeForm = QStringLiteral("yyyy.MM.dd hh:mm");
+
+QString stockedKey(const QString &file, const QString &ktm, const QString &delivery)
+{
+    return QStringList{file, ktm, delivery}.join(QLatin1Char('\n'));
 }
+
+} // namespace
 
 QString orderRegister::statesIn(const QString &folder)
 {
@@ -63,6 +70,10 @@ orderRegister::folderStates &orderRegister::currentStates(const QString &orderPa
     states.seen = states.file.readings();
     states.byName.clear();
     states.parts.clear();
+    states.stocked.clear();
+    for (const auto &one : now.stocked)
+        states.stocked[stockedKey(one->file, one->ktm.trimmed(), one->delivery.trimmed())] +=
+            decimal::read(one->quantity).value_or(decimal());
     for (const auto &one : now.orders)
         states.byName.insert(one->file, one.get());
     const QString folder = QFileInfo(orderPath).absolutePath() + QLatin1Char('/');
@@ -130,10 +141,40 @@ orderedMaterial orderRegister::orderedOf(const QString &ktm, const QString &exce
     if (m_orderedAt != index().revision())
         noteOrdered();
     const orderIndex::order *first = index().orders().data();
-    return ::orderedOf(
+    orderedMaterial ordered = ::orderedOf(
         index(), ktm,
         [this, first](const orderIndex::order &order) { return m_ordered[size_t(&order - first)]; },
         except);
+    leaveOutStock(&ordered, ktm);
+    return ordered;
+}
+
+// Else it would count twice: as stock, and as something that is still to come.
+void orderRegister::leaveOutStock(orderedMaterial *of, const QString &ktm)
+{
+    QHash<QString, decimal> counted; // by order and delivery
+    std::erase_if(of->open, [&](const orderIndex::place &at) {
+        const orderIndex::order &order = index().orders()[size_t(at.order)];
+        const auto text = [&](orderIndex::field which) {
+            return index().textOf(order.lines[size_t(at.line)], which);
+        };
+        const auto &stocked = currentStates(order.path, false).stocked;
+        const QString delivery = text(orderIndex::delivery).trimmed();
+        const auto all =
+            stocked.constFind(stockedKey(QFileInfo(order.path).fileName(), ktm, delivery));
+        const auto same =
+            std::find_if(of->onTheWay.begin(), of->onTheWay.end(),
+                         [&](const auto &one) { return one.first == text(orderIndex::unit); });
+        if (delivery.isEmpty() || all == stocked.constEnd() || same == of->onTheWay.end())
+            return false;
+        decimal &before = counted[order.path + QLatin1Char('\n') + delivery];
+        const decimal quantity = decimal::read(text(orderIndex::quantity)).value_or(decimal());
+        const decimal own = qMin(*all - before, quantity);
+        before += own;
+        same->second = same->second - own;
+        return own == quantity;
+    });
+    std::erase_if(of->onTheWay, [](const auto &one) { return one.second <= decimal(); });
 }
 
 orderedBefore orderRegister::beforeOf(const QString &ktm, const QString &except)
@@ -258,34 +299,6 @@ bool orderRegister::noteParted(const QString &orderPath, const QStringList &file
             parted->by = userName();
             states.parted.push_back(std::move(parted));
             return true;
-        },
-        config, fault);
-}
-
-std::vector<const stockedDeliveryStruct *> orderRegister::stockedOf(const QString &orderPath)
-{
-    std::vector<const stockedDeliveryStruct *> found;
-    for (const auto &one : statesOf(orderPath).file.now().stocked)
-        if (one->file == QFileInfo(orderPath).fileName())
-            found.push_back(one.get());
-    return found;
-}
-
-bool orderRegister::noteStocked(const QString &orderPath,
-                                std::vector<stockedDeliveryStruct> deliveries, configStruct &config,
-                                QString *fault)
-{
-    return statesOf(orderPath).file.change(
-        [&](kiv_mat_orderStatesStruct &states) {
-            for (stockedDeliveryStruct &one : deliveries) {
-                auto stocked = std::make_unique<stockedDeliveryStruct>();
-                copyFields(*stocked, one, stockedDeliveryStruct::fields());
-                stocked->file = QFileInfo(orderPath).fileName();
-                stocked->date = QDateTime::currentDateTime().toString(timeForm);
-                stocked->by = userName();
-                states.stocked.push_back(std::move(stocked));
-            }
-            return !deliveries.empty();
         },
         config, fault);
 }

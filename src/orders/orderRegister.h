@@ -42,7 +42,8 @@ public:
     bool isParted(const orderIndex::order &order);
     // The firm that was chosen for a material of it, by its KTM or its name; empty when none was.
     QString firmOf(const orderIndex::order &order, const QString &ktmOrName);
-    // What the orders say of a material, as of the last update().
+    // What the orders say of a material, as of the last update(). What came and is in stock already
+    // is not on the way.
     orderedMaterial orderedOf(const QString &ktm, const QString &except = {});
     orderedBefore beforeOf(const QString &ktm, const QString &except = {});
     // Why files of states cannot be read, a line each.
@@ -69,10 +70,6 @@ public:
     // Notes that these orders, in the same folder, are in the place of that one.
     bool noteParted(const QString &orderPath, const QStringList &files, configStruct &config,
                     QString *fault);
-    // Which deliveries of an order were added to stock, and that these were, too.
-    std::vector<const stockedDeliveryStruct *> stockedOf(const QString &orderPath);
-    bool noteStocked(const QString &orderPath, std::vector<stockedDeliveryStruct> deliveries,
-                     configStruct &config, QString *fault);
     // The path of the order as it was sent last; empty when it was not, or the copy is gone.
     QString sentCopy(const QString &orderPath);
 
@@ -87,11 +84,13 @@ private:
         int seen = -1;                                   // its readings when byName was made
         QHash<QString, const orderStateStruct *> byName; // of the orders' files
         QHash<QString, QStringList> parts;               // paths, by the file in whose place
+        QHash<QString, decimal> stocked;                 // by order, material and delivery
     };
     folderStates &statesOf(const QString &orderPath);
     // The states with what was made of them, as the file is now, or as it was looked at last.
     folderStates &currentStates(const QString &orderPath, bool looks = true);
     void noteOrdered();
+    void leaveOutStock(orderedMaterial *of, const QString &ktm);
 
     QString m_cache;
     std::unique_ptr<orderIndex> m_index;

@@ -248,6 +248,8 @@ private:
     void ordersChanged();
     void showThresholds();
     void askFirms();
+    // Deliveries that are in stock are so for the order under its other name, too.
+    void takeNotesAlong(const QString &from, const QString &to);
     void takeIntoStock(const std::vector<deliveredStock::delivery> &chosen, const QString &what);
 
     orderDocument m_document;

@@ -279,12 +279,13 @@ void MainWindow::saved()
 
 bool MainWindow::saveAs()
 {
-    const QString &path = m_document.path();
+    const QString path = m_document.path();
     const QString proposed =
         path.isEmpty() ? paths::data(known().config().options.value(optionKey::fileNewZp)) : path;
     const QString chosen = userPrompts().saveFile(tr("Save to File"), proposed, xmlFilter());
     if (chosen.isEmpty() || !saveTo(chosen))
         return false;
+    takeNotesAlong(path, chosen);
     const QString page = reportPath(chosen);
     if (!files::writeText(page, m_document.report())) {
         userPrompts().showError(messages::notWritten(page));

@@ -172,8 +172,21 @@ void MainWindow::commandDeliveredToStock(bool)
         tell(tr("Save the order first"));
         return;
     }
-    const std::vector<deliveredStock::delivery> open = deliveredStock::openOf(
-        m_document.order(), known().materials(), orders().stockedOf(m_document.path()));
+    const QString &path = m_document.path();
+    QString fault;
+    auto before = deliveredStock::takenOf(path, &fault);
+    if (!before) {
+        userPrompts().showError(
+            tr("It cannot be seen which deliveries are in stock already").toHtmlEscaped()
+            + QLatin1String("<br>") + fault.toHtmlEscaped());
+        return;
+    }
+    for (const auto &window : m_databases)
+        if (window)
+            for (const deliveredStock::taken &one : window->pendingOf(path))
+                before->push_back(one);
+    const std::vector<deliveredStock::delivery> open =
+        deliveredStock::openOf(m_document.order(), known().materials(), *before);
     std::vector<const deliveredStock::delivery *> good;
     QList<QStringList> shown;
     QStringList faults;
@@ -207,6 +220,23 @@ void MainWindow::commandDeliveredToStock(bool)
     takeIntoStock(chosen, what);
 }
 
+void MainWindow::takeNotesAlong(const QString &from, const QString &to)
+{
+    if (from.isEmpty() || QFileInfo(from) == QFileInfo(to))
+        return;
+    QString fault;
+    auto taken = deliveredStock::takenOf(from, &fault);
+    for (const auto &window : m_databases)
+        if (window && taken)
+            for (const deliveredStock::taken &one : window->pendingOf(from))
+                taken->push_back(one);
+    if (!taken || !deliveredStock::noteTaken(to, *taken, known().config(), &fault))
+        userPrompts().showError(
+            tr("It could not be noted for the new file which deliveries are in stock already")
+                .toHtmlEscaped()
+            + QLatin1String("<br>") + fault.toHtmlEscaped());
+}
+
 void MainWindow::takeIntoStock(const std::vector<deliveredStock::delivery> &chosen,
                                const QString &what)
 {
@@ -235,12 +265,10 @@ void MainWindow::takeIntoStock(const std::vector<deliveredStock::delivery> &chos
             else
                 same->after = after;
         }
-        window.takeIn(
-            std::move(stock),
-            [this, path = m_document.path(), own](QString *fault) {
-                return orders().noteStocked(path, deliveredStock::noteOf(own), known().config(),
-                                            fault);
-            },
-            what);
+        stockedDeliveries::entries taken;
+        for (const deliveredStock::taken &one : deliveredStock::takenOf(own))
+            taken.push_back(std::make_shared<stockedDeliveries::entry>(
+                stockedDeliveries::entry{m_document.path(), one}));
+        window.takeIn(std::move(stock), std::move(taken), what);
     }
 }

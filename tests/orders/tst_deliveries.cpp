@@ -95,7 +95,7 @@ private slots:
         ktmIndex materials;
         materials.add(&database);
         const QString path = m_folder->path("zp/o.xml");
-        const auto told = [&](const QString &lines, const std::vector<const stockedDeliveryStruct *> &before) {
+        const auto told = [&](const QString &lines, const deliveredStock::takenList &before) {
             QStringList all;
             for (const auto &one : deliveredStock::openOf(*orderOf(lines), materials, before))
                 all.append(QStringList{one.ktm, one.delivery, one.quantity.text(), one.before, one.after, one.fault}
@@ -108,17 +108,43 @@ private slots:
         const QString open = told(first, {});
         QCOMPARE(open, QString("A W1 7 5 12;A W2 2 12 14;B W1 1  1;B W3 6 1  the stock is counted in another unit;"
                                "N W1 1   no database has this KTM;X W1 1 some  the stock is no number"));
-        orderRegister orders;
         configStruct config;
         QString fault;
         auto taken = deliveredStock::openOf(*orderOf(first), materials, {});
         taken.resize(3);
-        QVERIFY2(orders.noteStocked(path, deliveredStock::noteOf(taken), config, &fault), qPrintable(fault));
-        orderRegister later;
-        QCOMPARE(later.stockedOf(path).size(), size_t(3));
-        QCOMPARE(told("A 3 pcs. W1;A 4 pcs. W1;A 2 pcs. W2", later.stockedOf(path)), QString());
-        QCOMPARE(told("A 9 pcs. W1;A 1 pcs. W4", later.stockedOf(path)), QString("A W1 2 5 7;A W4 1 7 8"));
-        QVERIFY(later.stockedOf(m_folder->path("zp/p.xml")).empty());
+        QVERIFY2(deliveredStock::noteTaken(path, deliveredStock::takenOf(taken), config, &fault), qPrintable(fault));
+        const auto before = deliveredStock::takenOf(path, &fault);
+        QVERIFY(before && before->size() == 3);
+        QCOMPARE(told("A 3 pcs. W1;A 4 pcs. W1;A 2 pcs. W2", *before), QString());
+        QCOMPARE(told("A 9 pcs. W1;A 1 pcs. W4", *before), QString("A W4 1 5 6"));
+        // A text that was corrected in its line is the same delivery.
+        QCOMPARE(told("A 7 pcs. W1/2026;A 2 pcs. W2", *before), QString());
+        QCOMPARE(told("A 8 pcs. W1/2026;A 2 pcs. W2", *before), QString("A W1/2026 1 5 6"));
+        QVERIFY(deliveredStock::takenOf(m_folder->path("zp/p.xml"), &fault)->empty());
+        // What was taken cannot be known from a damaged file.
+        m_folder->write("zp/order_states.xml", "<spoilt");
+        fault.clear();
+        QVERIFY(!deliveredStock::takenOf(path, &fault) && fault.contains("line 1"));
+        QVERIFY(!deliveredStock::noteTaken(path, deliveredStock::takenOf(taken), config, &fault));
+    }
+
+    // What came is on the way until it is in stock, where it counts as such.
+    void stockIsNotOnTheWay()
+    {
+        const auto order = orderOf("K 10 pcs. W1;K 5 pcs.;K 2 reel W1");
+        const QString path = m_folder->path("zp/o.xml");
+        QCOMPARE(saveXmlNoEvents(path, order.get()), 0);
+        orderRegister orders;
+        configStruct config;
+        QString fault;
+        QStringList told;
+        for (const char *taken : {"0", "4", "6"}) {
+            QVERIFY(deliveredStock::noteTaken(path, {{"K", "W1", *decimal::read(taken)}}, config, &fault));
+            orders.update({m_folder->path("zp")});
+            told.append(
+                QString("%1 in %2").arg(orders.beforeOf("K").onTheWayText()).arg(orders.beforeOf("K").open.size()));
+        }
+        QCOMPARE(told, (QStringList{"15 pcs., 2 reel in 3", "11 pcs., 2 reel in 3", "5 pcs., 2 reel in 2"}));
     }
 
     // Others are in the place of an order as long as one of them is there: then it is not on the way.

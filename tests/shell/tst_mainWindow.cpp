@@ -164,6 +164,47 @@ private slots:
         QVERIFY(!QFile::exists(file));
     }
 
+    // What deliveries brought is in the stock once: it waits to be noted, goes with its step, is there again after the
+    // program was killed, and counts for the order under another name, too.
+    void deliveriesGoIntoStockOnce()
+    {
+        const QString states = path("_zp/order_states.xml");
+        const auto proposesNothing = [this] {
+            turnTo(mainWindow());
+            work("#deliveredToStock ~200");
+            look("status = No delivery is to be taken into stock");
+        };
+        const auto turnToDatabase = [this] {
+            for (QMainWindow *shown : shownWindows())
+                if (shown->windowTitle().contains("Database"))
+                    turnTo(*shown);
+        };
+        openWindow("#deliveredToStock Return");
+        look("title ~ Database; title ~ *");
+        proposesNothing();
+        turnToDatabase();
+        work("Ctrl+Z");
+        look("title !~ *");
+        openWindow("<#deliveredToStock Return");
+        look("title ~ *");
+        restart("Return");
+        boxes();
+        proposesNothing();
+        turnToDatabase();
+        look("title ~ *");
+        work("Ctrl+S");
+        look("title !~ *");
+        const int noted = testSupport::read(states).count("<stocked ");
+        QVERIFY(noted > 3);
+        proposesNothing();
+        work("#zpSaveAs Ctrl+A '" + path("_zp/renamed.xml") + "' Return ~400");
+        QCOMPARE(testSupport::read(states).count("<stocked "), 2 * noted);
+        proposesNothing();
+        testSupport::write(states, "<spoilt");
+        work("#deliveredToStock ~200 Return");
+        look("boxes ~ cannot be seen which deliveries are in stock");
+    }
+
     void stagesAdvanceTheSplash()
     {
         class watchedSplash : public startupDialog
