@@ -88,15 +88,17 @@ orderRows::orderRows(orderRegister *orders, QObject *parent)
 void orderRows::showAgain()
 {
     beginResetModel();
-    m_stages.clear();
+    m_rows.clear();
     for (const orderIndex::order &order : m_orders->index().orders())
-        m_stages.push_back(m_orders->stageOf(order));
+        m_rows.push_back({order.path, order.number, order.date, m_orders->stageOf(order),
+                          order.target, order.author, int(order.lines.size()), order.sum,
+                          order.leftOut});
     endResetModel();
 }
 
 int orderRows::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_stages.size());
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 QVariant orderRows::headerData(int section, Qt::Orientation orientation, int role) const
@@ -106,11 +108,11 @@ QVariant orderRows::headerData(int section, Qt::Orientation orientation, int rol
 
 QVariant orderRows::data(const QModelIndex &index, int role) const
 {
-    const orderIndex::order &order = at(index.row());
+    const row &order = at(index.row());
     if (role == Qt::TextAlignmentRole)
         return headerOf(orderColumns, index.column(), Qt::Horizontal, role);
     if (role == Qt::DecorationRole && index.column() == state)
-        return iconOf(m_stages[size_t(index.row())]);
+        return iconOf(order.stage);
     if (role == Qt::ToolTipRole) {
         const orderStateStruct *sent =
             index.column() == state ? m_orders->sentState(order.path) : nullptr;
@@ -134,14 +136,13 @@ QVariant orderRows::data(const QModelIndex &index, int role) const
     case date:
         return sorts ? QVariant(order.date) : dayOf(order.date);
     case state:
-        return sorts ? QVariant(int(m_stages[size_t(index.row())]))
-                     : stageText(m_stages[size_t(index.row())]);
+        return sorts ? QVariant(int(order.stage)) : stageText(order.stage);
     case target:
         return order.target;
     case author:
         return order.author;
     case lines:
-        return int(order.lines.size());
+        return order.lines;
     case sum:
         return sorts ? QVariant(order.sum.text().toDouble()) : numbers::grouped(order.sum.money());
     default:
@@ -154,22 +155,29 @@ QVariant orderRows::data(const QModelIndex &index, int role) const
 
 int foundLineRows::widthOf(int column) { return lineColumns[size_t(column)].width; }
 
-foundLineRows::foundLineRows(const orderIndex *index, QObject *parent)
-    : QAbstractTableModel(parent)
-    , m_index(index)
-{
-}
-
-void foundLineRows::show(std::vector<orderIndex::place> places)
+void foundLineRows::show(const orderIndex &index, const std::vector<orderIndex::place> &places)
 {
     beginResetModel();
-    m_places = std::move(places);
+    m_rows.clear();
+    for (const orderIndex::place &place : places) {
+        const orderIndex::order &of = index.orders()[size_t(place.order)];
+        const auto textOf = [&](orderIndex::field which) {
+            return index.textOf(of.lines[size_t(place.line)], which);
+        };
+        m_rows.push_back({of.path,
+                          place.line,
+                          {of.number.isEmpty() ? QFileInfo(of.path).fileName() : of.number,
+                           dayOf(of.date), textOf(orderIndex::ktm), textOf(orderIndex::name),
+                           textOf(orderIndex::quantity), labels::shown(textOf(orderIndex::unit)),
+                           numbers::price(textOf(orderIndex::price)), textOf(orderIndex::target),
+                           textOf(orderIndex::delivery), textOf(orderIndex::invoice)}});
+    }
     endResetModel();
 }
 
 int foundLineRows::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_places.size());
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 QVariant foundLineRows::headerData(int section, Qt::Orientation orientation, int role) const
@@ -183,34 +191,6 @@ QVariant foundLineRows::data(const QModelIndex &index, int role) const
         return headerOf(lineColumns, index.column(), Qt::Horizontal, role);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
-    const orderIndex::place &place = at(index.row());
-    const orderIndex::order &of = m_index->orders()[size_t(place.order)];
-    const auto textOf = [&](orderIndex::field which) {
-        return m_index->textOf(of.lines[size_t(place.line)], which);
-    };
-    const auto shown = [&]() -> QString {
-        switch (index.column()) {
-        case order:
-            return of.number.isEmpty() ? QFileInfo(of.path).fileName() : of.number;
-        case date:
-            return dayOf(of.date);
-        case ktm:
-            return textOf(orderIndex::ktm);
-        case name:
-            return textOf(orderIndex::name);
-        case quantity:
-            return textOf(orderIndex::quantity);
-        case unit:
-            return labels::shown(textOf(orderIndex::unit));
-        case price:
-            return numbers::price(textOf(orderIndex::price));
-        case target:
-            return textOf(orderIndex::target);
-        case delivery:
-            return textOf(orderIndex::delivery);
-        default:
-            return textOf(orderIndex::invoice);
-        }
-    };
-    return role == Qt::ToolTipRole ? text::toolTip(shown()) : shown();
+    const QString &shown = at(index.row()).texts[size_t(index.column())];
+    return role == Qt::ToolTipRole ? text::toolTip(shown) : shown;
 }

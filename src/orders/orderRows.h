@@ -1,4 +1,5 @@
-// The tables of the register's window: all orders, and the lines that a search found.
+// The tables of the register's window: all orders, and the lines that a search found. They hold
+// what they show: the register may be read again behind them.
 #pragma once
 
 #include "orders/orderRegister.h"
@@ -28,9 +29,22 @@ public:
 
     orderRows(orderRegister *orders, QObject *parent);
 
+    struct row
+    {
+        QString path;
+        QString number;
+        QDate date;
+        orderStage stage;
+        QString target;
+        QString author;
+        int lines;
+        decimal sum;
+        int leftOut;
+    };
+
     // The register was read again.
     void showAgain();
-    const orderIndex::order &at(int row) const { return m_orders->index().orders()[size_t(row)]; }
+    const row &at(int place) const { return m_rows[size_t(place)]; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &) const override { return columns; }
@@ -39,7 +53,7 @@ public:
 
 private:
     orderRegister *m_orders;
-    std::vector<orderStage> m_stages; // of the rows
+    std::vector<row> m_rows;
 };
 
 class foundLineRows : public QAbstractTableModel
@@ -62,10 +76,20 @@ public:
     };
     static int widthOf(int column);
 
-    foundLineRows(const orderIndex *index, QObject *parent);
+    struct row
+    {
+        QString path; // of the order
+        int line;     // from 0
+        std::array<QString, columns> texts;
+    };
 
-    void show(std::vector<orderIndex::place> places);
-    const orderIndex::place &at(int row) const { return m_places[size_t(row)]; }
+    explicit foundLineRows(QObject *parent)
+        : QAbstractTableModel(parent)
+    {
+    }
+
+    void show(const orderIndex &index, const std::vector<orderIndex::place> &places);
+    const row &at(int place) const { return m_rows[size_t(place)]; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &) const override { return columns; }
@@ -73,6 +97,5 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    const orderIndex *m_index;
-    std::vector<orderIndex::place> m_places;
+    std::vector<row> m_rows;
 };

@@ -6,6 +6,7 @@
 #include "util/messages.h"
 #include "util/prompts.h"
 #include "util/userName.h"
+#include "window/rowTable.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -70,7 +71,7 @@ ordersWindow::ordersWindow(programData &known, orderRegister &orders)
     , m_known(known)
     , m_orders(orders)
     , m_rows(&orders, nullptr)
-    , m_found(&orders.index(), nullptr)
+    , m_found(nullptr)
     , m_watcher(new QFileSystemWatcher(this))
     , m_words(new QLineEdit(this))
     , m_tables(new QStackedWidget(this))
@@ -133,15 +134,7 @@ void ordersWindow::buildWidgets()
 QTreeView *ordersWindow::newTable(const char *name, const QString &accessibleName,
                                   QAbstractItemModel *model)
 {
-    auto *table = new QTreeView(m_tables);
-    table->setObjectName(QLatin1String(name));
-    table->setAccessibleName(accessibleName);
-    table->setModel(model);
-    table->setRootIsDecorated(false);
-    table->setUniformRowHeights(true);
-    table->setAlternatingRowColors(true);
-    table->setAllColumnsShowFocus(true);
-    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    QTreeView *table = newRowTable(name, accessibleName, model, m_tables);
     m_tables->addWidget(table);
     connect(table, &QTreeView::activated, this, [this] { commandOpen(false); });
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -182,14 +175,12 @@ void ordersWindow::readAgain()
     for (const QString &folder : folders)
         if (!QDir(folder).exists() || !m_watcher->addPath(folder))
             lacking.append(QDir::toNativeSeparators(folder));
-    // The rows are numbers of orders, which are others afterwards.
     const QStringList before = selectedPaths();
     const int line = view()->currentIndex().row();
     bool complete = false;
     {
         workProgress::scope work(progress(), tr("Reading orders"));
         complete = m_orders.update(folders, work.function());
-        // Before events are handled again, which would paint the old rows.
         if (m_orders.revision() != m_shownRevision)
             showAgain(before.value(0), line);
     }
@@ -226,7 +217,7 @@ void ordersWindow::search()
     const bool searches = !words.trimmed().isEmpty();
     m_tables->setCurrentWidget(searches ? m_lines : m_list);
     if (!searches) {
-        m_found.show({});
+        m_found.show(m_orders.index(), {});
         m_counts->setText(tr("%n order(s)", nullptr, m_rows.rowCount()));
     } else {
         orderIndex::foundLines found = m_orders.index().search(words, linesShown);
@@ -236,7 +227,7 @@ void ordersWindow::search()
             found.total > int(found.lines.size())
                 ? tr("%1; the first %2 are shown").arg(counted).arg(found.lines.size())
                 : counted);
-        m_found.show(std::move(found.lines));
+        m_found.show(m_orders.index(), found.lines);
     }
     updateActions();
 }
@@ -249,9 +240,8 @@ QStringList ordersWindow::selectedPaths() const
     QStringList paths;
     const QModelIndexList rows = view()->selectionModel()->selectedRows();
     for (const QModelIndex &row : rows)
-        paths.append(view() == m_list
-                         ? m_rows.at(m_sorted.mapToSource(row).row()).path
-                         : m_orders.index().orders()[size_t(m_found.at(row.row()).order)].path);
+        paths.append(view() == m_list ? m_rows.at(m_sorted.mapToSource(row).row()).path
+                                      : m_found.at(row.row()).path);
     paths.removeDuplicates();
     return paths;
 }
@@ -283,11 +273,8 @@ void ordersWindow::commandOpen(bool)
         emit openWanted(paths.first(), {}, 0);
         return;
     }
-    const orderIndex::place &place = m_found.at(row.row());
-    const orderIndex &index = m_orders.index();
-    const orderIndex::order &order = index.orders()[size_t(place.order)];
-    emit openWanted(paths.first(), index.textOf(order.lines[size_t(place.line)], orderIndex::ktm),
-                    place.line);
+    const foundLineRows::row &of = m_found.at(row.row());
+    emit openWanted(of.path, of.texts[foundLineRows::ktm], of.line);
 }
 
 void ordersWindow::commandCopyAsNew(bool)
@@ -318,9 +305,9 @@ void ordersWindow::commandMarkSent(bool)
 {
     const int marked = noteEach([this](const QString &path, QString *fault) {
         QString number;
-        for (const orderIndex::order &order : m_orders.index().orders())
-            if (order.path == path)
-                number = order.number;
+        for (int row = 0; row < m_rows.rowCount(); ++row)
+            if (m_rows.at(row).path == path)
+                number = m_rows.at(row).number;
         return m_orders.noteSent(path, {number, userName(), {}}, m_known.config(), fault);
     });
     if (marked > 0)

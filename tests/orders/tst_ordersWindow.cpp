@@ -59,6 +59,21 @@ private slots:
         look("at = ZP/79/2020; status ~ as their files are");
     }
 
+    // Saving the open order reads the register again while the window still shows what it was.
+    void rowsAreTheOrdersShown()
+    {
+        steps(ORDERS "Return End");
+        look("at = ZP/77/2020");
+        QVERIFY(QFile::remove(path("_zp/b.xml")));
+        write("_zp/c.xml", "ZP/79/2020", "03.01.2020", "");
+        QMainWindow &list = window();
+        turnTo(mainWindow());
+        work("orderLines@0,1 F2 'x' Return Ctrl+S");
+        turnTo(list);
+        work("Ctrl+M");
+        look("file _zp/order_states.xml ~ a.xml; file _zp/order_states.xml !~ c.xml");
+    }
+
     // A sent order opens locked; what is changed all the same is shown beside what was sent.
     void sentOrders()
     {
