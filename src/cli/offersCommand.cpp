@@ -118,9 +118,9 @@ struct offersOptions
 
     QList<QCommandLineOption> all() const
     {
-        return {firm,  nip,      received, currency, rate,   rateDate,      vat,
-                gross, leadTime, validity, column,   replace, database,     by,
-                within, until,   json,     output,   reason, keepQuantities};
+        return {firm,   nip,      received, currency, rate,    rateDate,      vat,
+                gross,  leadTime, validity, column,   replace, database,      by,
+                within, until,    json,     output,   reason,  keepQuantities};
     }
 };
 
@@ -225,8 +225,8 @@ int importOffer(const parser &given, const offersOptions &known, const QString &
     if (!sheet)
         return refuse(source, fault);
     if (!offerImport::setFields(&*sheet, columns))
-        return refuse(source, told(QT_TRANSLATE_NOOP("cli", "it has %1 columns"))
-                                  .arg(sheet->fields.size()));
+        return refuse(
+            source, told(QT_TRANSLATE_NOOP("cli", "it has %1 columns")).arg(sheet->fields.size()));
     const offerImport::order asked{of.number(), orderOffers::needsOf(of.order), of.offers(),
                                    &databases.index()};
     const offerImport::result read = offerImport::offerOf(*sheet, terms, asked);
@@ -237,7 +237,8 @@ int importOffer(const parser &given, const offersOptions &known, const QString &
         return refused;
     const bool replaces = given.isSet(known.replace);
     const bool isThere =
-        orderOffers::offerOf(of.offers(), read.offer->firm, read.offer->nip) != nullptr;
+        orderOffers::offerOn(of.offers(), read.offer->firm, read.offer->nip, read.offer->request)
+        != nullptr;
     QString stored;
     if (!offerImport::store(*read.offer, source, path, of.number(), replaces, of.config, &fault,
                             &stored))
@@ -468,8 +469,8 @@ int compareOffers(const parser &given, const offersOptions &known, const QString
                      .arg(compared.materials[size_t(one)].need.key)
               << '\n';
     printFirms(compared);
-    offerReport::content report{compared, chosen, of.order.options.value(optionKey::orderDate),
-                                {},       {},     {}};
+    offerReport::content report{
+        compared, chosen, of.order.options.value(optionKey::orderDate), !chooses, {}, {}, {}};
     if (chooses) {
         if (chosen.firms.empty())
             return refuse(path, told(QT_TRANSLATE_NOOP("cli", "there is nothing to choose")));

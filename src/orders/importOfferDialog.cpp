@@ -20,6 +20,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace offerImport;
 
 namespace {
@@ -32,6 +34,41 @@ enum taxChoice
     net,
     gross
 };
+
+struct firm
+{
+    QString name;
+    QString nip;
+};
+
+// Those that were asked first, then those of the register by name; several of one name have
+// different tax numbers.
+std::vector<firm> firmsOf(const kiv_mat_offersStruct &asked, const kiv_mat_firmStruct &known)
+{
+    std::vector<firm> all;
+    const auto add = [&all](const QString &name, const QString &nip) {
+        if (name.trimmed().isEmpty())
+            return;
+        const auto same = std::find_if(all.begin(), all.end(), [&](const firm &one) {
+            return orderOffers::isSameFirm(one.name, one.nip, name, nip);
+        });
+        if (same == all.end())
+            all.push_back({name, nip.trimmed()});
+        else if (same->nip.isEmpty())
+            same->nip = nip.trimmed();
+    };
+    for (const auto &request : asked.requests)
+        add(request->firm, request->nip);
+    const auto requested = std::ptrdiff_t(all.size());
+    for (const auto &one : known.suppliers.items)
+        add(one->name, one->nip);
+    for (const auto &one : known.manufacturers.items)
+        add(one->name, one->nip);
+    std::stable_sort(all.begin() + requested, all.end(), [](const firm &one, const firm &other) {
+        return one.name.compare(other.name, Qt::CaseInsensitive) < 0;
+    });
+    return all;
+}
 
 } // namespace
 
@@ -123,20 +160,11 @@ QWidget *importOfferDialog::newTerms(const kiv_mat_firmStruct &firms)
     m_firm->setObjectName(QStringLiteral("firm"));
     if (m_sheet.isForm)
         m_firm->addItem(tr("as the request says"));
-    QStringList names;
-    for (const auto &request : m_asked.offers.requests)
-        names.append(request->firm);
-    QStringList others;
-    for (const auto &firm : firms.suppliers.items)
-        others.append(firm->name);
-    for (const auto &firm : firms.manufacturers.items)
-        others.append(firm->name);
-    others.sort(Qt::CaseInsensitive);
-    names += others;
-    names.removeDuplicates();
-    names.removeAll({});
-    for (const QString &name : qAsConst(names))
-        m_firm->addItem(name, name);
+    for (const firm &one : firmsOf(m_asked.offers, firms)) {
+        const QString shown =
+            one.nip.isEmpty() ? one.name : QStringLiteral("%1 (%2)").arg(one.name, one.nip);
+        m_firm->addItem(shown, QStringList{one.name, one.nip});
+    }
     for (QDateEdit *date : {m_received, m_rateDate}) {
         date->setCalendarPopup(true);
         date->setDisplayFormat(labels::dateFormat());
@@ -200,10 +228,9 @@ QWidget *importOfferDialog::newColumns()
 terms importOfferDialog::terms() const
 {
     offerImport::terms told;
-    told.firm = m_firm->currentData().toString();
-    for (const auto &request : m_asked.offers.requests)
-        if (request->firm == told.firm)
-            told.nip = request->nip;
+    const QStringList firm = m_firm->currentData().toStringList();
+    told.firm = firm.value(0);
+    told.nip = firm.value(1);
     told.received = m_received->date();
     told.currency = m_currency->text().trimmed().toUpper();
     told.rate = m_rate->text().trimmed();

@@ -1,8 +1,8 @@
 #include "orders/offerComparison.h"
 
-#include "data/firmDetails.h"
 #include "data/kiv_mat_zpStruct.h"
 #include "data/vocabulary.h"
+#include "order/deliveries.h"
 #include "util/numbers.h"
 
 #include <QCoreApplication>
@@ -428,13 +428,6 @@ private:
     std::vector<std::vector<int>> m_byCost; // of each material, the best first
 };
 
-bool isSameFirm(const firm &one, const choiceStruct &choice)
-{
-    return firmDetails::isSameName(one.name, choice.firm)
-           && (one.nip.isEmpty() || choice.nip.isEmpty()
-               || firmDetails::isSameNip(one.nip, choice.nip));
-}
-
 } // namespace
 
 // --- Prices by quantity
@@ -505,6 +498,29 @@ bool comparison::isOffered(int material, int firm) const
            && firm < int(firms.size()) && cellAt(*this, material, firm).isOffered;
 }
 
+namespace {
+
+// An offer with its terms.
+struct offerRowsOf
+{
+    firm terms;
+    QHash<QString, const offeredStruct *> rows;
+};
+
+// By the firm's latest offer that has the material: an answer to a second request may be of other
+// lines. Those before it have to be valid still.
+cell cellOf(const orderOffers::need &need, const std::vector<offerRowsOf> &offers)
+{
+    for (const offerRowsOf &one : offers) {
+        const offeredStruct *row = one.rows.value(need.key);
+        if (row && (&one == &offers.front() || !one.terms.isExpired))
+            return cellMaker(need, *row, one.terms).make();
+    }
+    return {};
+}
+
+} // namespace
+
 comparison comparisonOf(const kiv_mat_zpStruct &order, const kiv_mat_offersStruct &offers,
                         const decimal &vat, const QDate &day)
 {
@@ -520,20 +536,20 @@ comparison comparisonOf(const kiv_mat_zpStruct &order, const kiv_mat_offersStruc
                          const int names = one->firm.compare(other->firm, Qt::CaseInsensitive);
                          return names != 0 ? names < 0 : one->nip < other->nip;
                      });
-    std::vector<QHash<QString, const offeredStruct *>> rows;
+    std::vector<std::vector<offerRowsOf>> rows;
     for (const offerStruct *offer : latest) {
         result.firms.push_back(firmOf(*offer, vat, day));
-        rows.push_back(rowsOf(*offer));
+        rows.emplace_back();
+        for (const offerStruct *one : orderOffers::offersOf(offers, offer->firm, offer->nip))
+            rows.back().push_back({firmOf(*one, vat, day), rowsOf(*one)});
     }
 
     orderOffers::needs needs = orderOffers::needsOf(order);
     result.uncounted = std::move(needs.uncounted);
     for (orderOffers::need &need : needs.all) {
         material line;
-        for (size_t i = 0; i < latest.size(); ++i) {
-            const offeredStruct *row = rows[i].value(need.key);
-            line.cells.push_back(row ? cellMaker(need, *row, result.firms[i]).make() : cell());
-        }
+        for (const auto &ofFirm : rows)
+            line.cells.push_back(cellOf(need, ofFirm));
         line.need = std::move(need);
         result.materials.push_back(std::move(line));
     }
@@ -601,7 +617,8 @@ selection chosenBefore(const comparison &of, const kiv_mat_offersStruct &offers)
         firmOf.push_back(-1);
         const choiceStruct *choice = orderOffers::choiceFor(offers, line.need.key);
         for (int i = 0; choice && i < int(of.firms.size()) && firmOf.back() < 0; ++i)
-            if (isSameFirm(of.firms[size_t(i)], *choice))
+            if (orderOffers::isSameFirm(of.firms[size_t(i)].name, of.firms[size_t(i)].nip,
+                                        choice->firm, choice->nip))
                 firmOf.back() = i;
     }
     return selectionOf(of, std::move(firmOf));
@@ -621,12 +638,17 @@ std::vector<lineChange> changesOf(const kiv_mat_zpStruct &order, const compariso
         if (!need || chosen.firmOf[size_t(i)] < 0)
             continue;
         const cell &at = cellAt(of, i, chosen.firmOf[size_t(i)]);
-        for (const int line : need->lines) {
+        // What came or was invoiced stays as it was bought.
+        std::vector<int> open;
+        for (const int line : need->lines)
+            if (deliveries::isOpen(*lines[size_t(line)]))
+                open.push_back(line);
+        for (const int line : open) {
             const orderItemStruct &item = *lines[size_t(line)];
             lineChange change{line, {}, {}};
             if (decimal::read(item.price) != at.price)
                 change.price = at.price.text(mostDecimals, 2);
-            if (raisesQuantities && line == need->lines.back() && at.bought > need->quantity)
+            if (raisesQuantities && line == open.back() && at.bought > need->quantity)
                 change.quantity =
                     (decimal::read(item.quantity).value_or(decimal()) + at.bought - need->quantity)
                         .text();

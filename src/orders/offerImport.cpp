@@ -28,117 +28,12 @@ constexpr int mostDecimals = 6;
 // More remarks than a user reads: a supplier's whole catalogue may be a price list.
 constexpr int mostRemarks = 200;
 
-QString tr(const char *text) { return QCoreApplication::translate("offerImport", text); }
-
 QString counted(const char *text, int number)
 {
     return QCoreApplication::translate("offerImport", text, nullptr, number);
 }
 
 QString dayOf(const QDate &date) { return date.toString(labels::dateFormat()); }
-
-// --- Captions
-
-struct fieldRow
-{
-    const char *name;
-    const char *caption; // English source text, context "offerImport"
-    // As they stand in price lists, folded to letters and digits; a blank parts them.
-    const char *captions;
-};
-
-const std::array<fieldRow, fieldCount> table{{
-    {"none", QT_TRANSLATE_NOOP("offerImport", "(not used)"), ""},
-    {"key", QT_TRANSLATE_NOOP("offerImport", "Our number"),
-     "ktm ournumber yournumber customernumber customerpartnumber customerpart indeks indeksklienta "
-     "indeksmaterialowy indekszamawiajacego nasznumer nrklienta kundennummer kundenartikelnummer "
-     "unserenummer ihrenummer"},
-    {"part_number", QT_TRANSLATE_NOOP("offerImport", "Part number"),
-     "partnumber partno partnr mpn mfrpn mfgpn mfrpartnumber mfgpartnumber manufacturerpartnumber "
-     "manufacturerpartno manufacturerpn manufacturerpart pn symbol symbolproducenta numerczesci "
-     "nrczesci numerproducenta nrproducenta kodproducenta numerkatalogowy nrkatalogowy "
-     "catalognumber orderingcode typ type teilenummer herstellernummer herstellerteilenummer "
-     "herstellernr bestellbezeichnung"},
-    {"from", QT_TRANSLATE_NOOP("offerImport", "From quantity"),
-     "from fromquantity fromqty breakqty qtybreak quantitybreak pricebreakqty pricebreakquantity "
-     "od odilosci odszt prog progilosci progilosciowy iloscod ab abmenge abstuck staffelmenge "
-     "mengeab"},
-    {"price", QT_TRANSLATE_NOOP("offerImport", "Unit price"),
-     "price unitprice netprice unitnetprice priceperunit priceeach pricenet unitcost cena "
-     "cenajednostkowa cenajedn cenanetto cenajednostkowanetto cenajednnetto cenazaszt "
-     "cenabrutto preis stuckpreis einzelpreis preisprostuck nettopreis preisnetto ep"},
-    {"prices", QT_TRANSLATE_NOOP("offerImport", "Prices by quantity"),
-     "prices pricebreaks breaks pricesbyquantity pricelist ceny progicenowe progi cenyilosciowe "
-     "preise staffelpreise staffel preisstaffel"},
-    {"minimum", QT_TRANSLATE_NOOP("offerImport", "Minimum quantity"),
-     "minimum min moq minqty minquantity minimumquantity minimumorder minimumorderquantity "
-     "minorderqty minorder minimalnailosc minilosc minimalnezamowienie iloscminimalna "
-     "mindestmenge mindestbestellmenge mindestabnahme"},
-    {"multiple", QT_TRANSLATE_NOOP("offerImport", "Multiple"),
-     "multiple ordermultiple multiples spq mpq packqty packquantity packsize packagequantity "
-     "standardpack standardpackquantity standardpackqty wielokrotnosc krotnosc iloscwopakowaniu "
-     "opakowanie vielfaches vpe verpackungseinheit packungsgrosse"},
-    {"lead_time", QT_TRANSLATE_NOOP("offerImport", "Lead time"),
-     "leadtime lt deliverytime leadtimedays deliverydays czasdostawy termindostawy "
-     "czasrealizacji terminrealizacji lieferzeit lieferfrist"},
-    {"remarks", QT_TRANSLATE_NOOP("offerImport", "Remarks"),
-     "remarks remark notes note comments comment uwagi uwaga komentarz bemerkungen bemerkung "
-     "anmerkungen anmerkung hinweis"},
-    {"currency", QT_TRANSLATE_NOOP("offerImport", "Currency"),
-     "currency pricecurrency waluta walutaceny walutacen wahrung preiswahrung"},
-}};
-
-// Letters and digits without what stands in brackets, a currency and a number behind them:
-// "Unit price (2) [EUR]".
-QString folded(QString caption)
-{
-    static const QRegularExpression brackets(QStringLiteral("\\([^)]*\\)|\\[[^\\]]*\\]"));
-    static const QRegularExpression end(QStringLiteral("(pln|eur|usd|gbp|chf|zl)?[0-9]*$"));
-    caption.remove(brackets);
-    QString letters;
-    const QString plain = QString::fromStdString(text::folded(caption));
-    for (const QChar c : plain)
-        if (c.isLetterOrNumber())
-            letters += c;
-    return letters.remove(end);
-}
-
-field fieldNamed(const QString &caption)
-{
-    static const QHash<QString, field> fields = [] {
-        QHash<QString, field> all;
-        for (int i = 1; i < fieldCount; ++i)
-            for (const QString &one :
-                 QString::fromLatin1(table[size_t(i)].captions).split(QLatin1Char(' ')))
-                all.insert(one, field(i));
-        return all;
-    }();
-    switch (quotationForm::columnNamed(caption)) {
-    case quotationForm::key:
-        return key;
-    case quotationForm::price:
-    case quotationForm::price2:
-    case quotationForm::price3:
-        return price;
-    case quotationForm::from2:
-    case quotationForm::from3:
-        return from;
-    case quotationForm::minimum:
-        return minimum;
-    case quotationForm::multiple:
-        return multiple;
-    case quotationForm::leadTime:
-        return leadTime;
-    case quotationForm::remarks:
-        return remarks;
-    case quotationForm::columnCount:
-        return fields.value(folded(caption), none);
-    default:
-        return none;
-    }
-}
-
-bool isRepeated(field of) { return of == none || of == price || of == from || of == breaks; }
 
 bool hasPrices(const QVector<field> &fields)
 {
@@ -184,51 +79,12 @@ void readEntries(sheet *of)
     of->isForm = !of->entries[quotationForm::request].isEmpty();
 }
 
-// --- Values
-
-QString withoutBlanks(const QString &text)
-{
-    QString result;
-    for (const QChar c : text)
-        if (!c.isSpace())
-            result += c;
-    return result;
-}
-
 QString numberText(const decimal &number) { return number.text(mostDecimals); }
 
 std::optional<decimal> positive(const QString &text)
 {
     const auto number = numberOf(text);
     return number && *number > decimal() ? number : std::nullopt;
-}
-
-QString currencyOf(const QString &text)
-{
-    const QString word = text.trimmed().toUpper();
-    static const QHash<QString, QString> signs{{QStringLiteral("ZŁ"), QStringLiteral("PLN")},
-                                               {QStringLiteral("ZL"), QStringLiteral("PLN")},
-                                               {QStringLiteral("€"), QStringLiteral("EUR")},
-                                               {QStringLiteral("EURO"), QStringLiteral("EUR")},
-                                               {QStringLiteral("$"), QStringLiteral("USD")},
-                                               {QStringLiteral("£"), QStringLiteral("GBP")}};
-    return signs.value(word, word);
-}
-
-// The currency that a caption names, as in "Price [EUR]"; empty when it names none.
-QString currencyIn(const QString &caption)
-{
-    static const QRegularExpression form(
-        QStringLiteral("(PLN|EUR|USD|GBP|CHF|zł|€|\\$|£)(?![a-z])"),
-        QRegularExpression::CaseInsensitiveOption);
-    const auto match = form.match(caption);
-    return match.hasMatch() ? currencyOf(match.captured(1)) : QString();
-}
-
-bool saysGross(const QString &caption)
-{
-    return caption.contains(QLatin1String("brutto"), Qt::CaseInsensitive)
-           || caption.contains(QLatin1String("gross"), Qt::CaseInsensitive);
 }
 
 // --- The offer
@@ -317,14 +173,37 @@ private:
                                               "It is late: received on %1, expected by %2")
                       .arg(dayOf(m_known.received), dayOf(deadline)));
     }
+    // The tax numbers of the firms of that name that were asked or have sent offers.
+    QStringList nipsOf(const QString &firm) const
+    {
+        QStringList all;
+        const auto note = [&](const auto &one) {
+            const bool isKnown = std::any_of(all.begin(), all.end(), [&one](const QString &nip) {
+                return firmDetails::isSameNip(nip, one->nip);
+            });
+            if (!isKnown && !one->nip.trimmed().isEmpty()
+                && firmDetails::isSameName(one->firm, firm))
+                all.append(one->nip.trimmed());
+        };
+        for (const auto &one : m_asked.offers.requests)
+            note(one);
+        for (const auto &one : m_asked.offers.offers)
+            note(one);
+        return all;
+    }
     void takeFirm()
     {
         offerStruct &offer = *m_result.offer;
+        const QStringList nips = nipsOf(offer.firm);
+        if (!m_sheet.isForm && offer.nip.isEmpty() && nips.size() > 1)
+            fault(QCoreApplication::translate(
+                      "offerImport", "Several firms are called %1: the tax number has to say which "
+                                     "it is, of %2")
+                      .arg(offer.firm, nips.join(QLatin1String(", "))));
         if (m_request) {
-            const bool isOther = !offer.firm.isEmpty()
-                                 && (!firmDetails::isSameName(offer.firm, m_request->firm)
-                                     || (!offer.nip.isEmpty() && !m_request->nip.isEmpty()
-                                         && !firmDetails::isSameNip(offer.nip, m_request->nip)));
+            const bool isOther =
+                !offer.firm.isEmpty()
+                && !orderOffers::isSameFirm(offer.firm, offer.nip, m_request->firm, m_request->nip);
             if (isOther)
                 fault(QCoreApplication::translate("offerImport",
                                                   "The request %1 went to %2, not to %3")
@@ -403,6 +282,11 @@ private:
             else if (!named.isEmpty() && named != offer.currency)
                 fault(QCoreApplication::translate("offerImport", "The column \"%1\" is not in %2")
                           .arg(captionAt(column), offer.currency));
+            // The table of a request has captions of our own.
+            if (!m_sheet.isForm && isOfSeveral(captionAt(column)))
+                fault(QCoreApplication::translate(
+                          "offerImport", "The prices of the column \"%1\" are not of one piece")
+                          .arg(captionAt(column)));
         }
     }
     static bool isCurrency(const QString &code)
@@ -761,8 +645,14 @@ private:
                           "offerImport", "the quantity from which on the price %1 holds is missing")
                           .arg(amount));
         else
-            addBreak(fromColumn < 0 ? QStringLiteral("1") : quantity, amount, fromColumn,
+            addBreak(fromColumn < 0 ? firstOf(priceColumn) : quantity, amount, fromColumn,
                      priceColumn, to);
+    }
+    // The quantity from which on the prices of a column hold that has none beside it.
+    QString firstOf(int priceColumn) const
+    {
+        const QString named = m_sheet.isForm ? QString() : breakIn(captionAt(priceColumn));
+        return named.isEmpty() ? QStringLiteral("1") : named;
     }
     void readBreaks(const QString &text, int column, breakList *to)
     {
@@ -827,18 +717,6 @@ private:
 
 } // namespace
 
-QString captionOf(field of) { return tr(table[size_t(of)].caption); }
-
-QString nameOf(field of) { return QLatin1String(table[size_t(of)].name); }
-
-field fieldCalled(const QString &name)
-{
-    for (size_t i = 0; i < table.size(); ++i)
-        if (name == QLatin1String(table[i].name))
-            return field(i);
-    return fieldCount;
-}
-
 std::optional<sheet> readSheet(const QString &path, const partsTableOptions &options,
                                QString *fault)
 {
@@ -851,16 +729,6 @@ std::optional<sheet> readSheet(const QString &path, const partsTableOptions &opt
     setHeader(&result, headerOf(result.cells));
     readEntries(&result);
     return result;
-}
-
-QVector<field> fieldsOf(const QStringList &captions)
-{
-    QVector<field> fields;
-    for (const QString &caption : captions) {
-        const field of = fieldNamed(caption);
-        fields.append(isRepeated(of) || !fields.contains(of) ? of : none);
-    }
-    return fields;
 }
 
 void setHeader(sheet *of, int row)
@@ -895,12 +763,19 @@ bool store(const offerStruct &offer, const QString &file, const QString &orderPa
     const QString folder = orderOffers::folderOf(orderPath);
     offersFile offers(orderOffers::fileOf(orderPath));
     const auto refusal = [&](const kiv_mat_offersStruct &now) {
-        const offerStruct *earlier = orderOffers::offerOf(now, offer.firm, offer.nip);
-        return earlier && !replaces
+        const offerStruct *earlier =
+            orderOffers::offerOn(now, offer.firm, offer.nip, offer.request);
+        if (!earlier || replaces)
+            return QString();
+        const QString received = dayOf(orderOffers::readDate(earlier->received));
+        return earlier->request.trimmed().isEmpty()
                    ? QCoreApplication::translate("offerImport",
                                                  "There is an offer of %1 already, received on %2")
-                         .arg(earlier->firm, dayOf(orderOffers::readDate(earlier->received)))
-                   : QString();
+                         .arg(earlier->firm, received)
+                   : QCoreApplication::translate(
+                         "offerImport",
+                         "There is an offer of %1 on the request %2 already, received on %3")
+                         .arg(earlier->firm, earlier->request, received);
     };
     *fault = refusal(offers.now());
     if (!fault->isEmpty())
@@ -923,7 +798,8 @@ bool store(const offerStruct &offer, const QString &file, const QString &orderPa
             refused = refusal(now);
             if (!refused.isEmpty())
                 return false;
-            while (const offerStruct *earlier = orderOffers::offerOf(now, offer.firm, offer.nip))
+            while (const offerStruct *earlier =
+                       orderOffers::offerOn(now, offer.firm, offer.nip, offer.request))
                 std::erase_if(now.offers, [&](const auto &one) { return one.get() == earlier; });
             if (now.number.isEmpty())
                 now.number = orderNumber;
@@ -948,52 +824,6 @@ bool store(const offerStruct &offer, const QString &file, const QString &orderPa
     if (stored)
         *stored = copy;
     return true;
-}
-
-std::optional<decimal> numberOf(const QString &text)
-{
-    // Thousands are parted by a blank, which may be one that does not break.
-    static const QRegularExpression form(
-        QStringLiteral("^([+-]?)(\\d{1,3}(?:[ \\x{A0}\\x{2009}\\x{202F}]\\d{3})+|\\d*)"
-                       "(?:[.,](\\d*))?([eE][+-]?\\d{1,3})?$"));
-    const auto match = form.match(text.trimmed());
-    if (!match.hasMatch())
-        return {};
-    const QString sign = match.captured(1);
-    const QString integer = withoutBlanks(match.captured(2));
-    const QString fraction = match.captured(3);
-    if (integer.isEmpty() && fraction.isEmpty())
-        return {};
-    QString plain = sign + integer + QLatin1Char('.') + fraction;
-    constexpr int room = 18; // digits that a decimal has behind the point
-    // A workbook writes small numbers with an exponent.
-    if (!match.captured(4).isEmpty())
-        plain = QString::number((plain + match.captured(4)).toDouble(), 'f', mostDecimals);
-    else
-        plain = sign + integer + QLatin1Char('.') + fraction.left(room);
-    const auto exact = decimal::read(plain);
-    return exact ? decimal::read(exact->text(mostDecimals)) : std::nullopt;
-}
-
-QDate dateOf(const QString &text)
-{
-    static const QRegularExpression dayFirst(
-        QStringLiteral("^(\\d{1,2})\\.(\\d{1,2})\\.(\\d{4})$"));
-    static const QRegularExpression yearFirst(
-        QStringLiteral("^(\\d{4})([-.])(\\d{1,2})\\2(\\d{1,2})$"));
-    static const QRegularExpression number(QStringLiteral("^(\\d{5})(?:\\.\\d+)?$"));
-    const QString plain = text.trimmed();
-    if (const auto match = dayFirst.match(plain); match.hasMatch())
-        return {match.captured(3).toInt(), match.captured(2).toInt(), match.captured(1).toInt()};
-    if (const auto match = yearFirst.match(plain); match.hasMatch())
-        return {match.captured(1).toInt(), match.captured(3).toInt(), match.captured(4).toInt()};
-    // Days of a workbook, of this century.
-    if (const auto match = number.match(plain); match.hasMatch()) {
-        constexpr int firstDay = 36526; // 01.01.2000
-        const int days = match.captured(1).toInt();
-        return days >= firstDay ? QDate(1899, 12, 30).addDays(days) : QDate();
-    }
-    return {};
 }
 
 } // namespace offerImport

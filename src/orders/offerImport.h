@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bom/partsTable.h"
+#include "orders/offerColumns.h"
 #include "orders/orderOffers.h"
 #include "orders/quotationForm.h"
 
@@ -14,28 +15,6 @@ class configStruct;
 class ktmIndex;
 
 namespace offerImport {
-
-// What a column holds. price, from and breaks may be those of several columns.
-enum field
-{
-    none,
-    key,        // our number: the KTM, or what was asked under
-    partNumber, // of the maker
-    from,       // the quantity from which on the price beside it holds
-    price,      // for one unit
-    breaks,     // all prices in one text: "1: 0.50; 100: 0.42"
-    minimum,
-    multiple,
-    leadTime, // days
-    remarks,
-    currency, // of the prices in that row
-    fieldCount
-};
-// As the user reads it.
-QString captionOf(field of);
-// The name in commands; fieldCount when no field has it.
-QString nameOf(field of);
-field fieldCalled(const QString &name);
 
 // A file as it was read, before anything is made of it.
 struct sheet
@@ -58,8 +37,6 @@ struct sheet
 // Nothing, with the reason in fault, when the file cannot be read or holds no table.
 std::optional<sheet> readSheet(const QString &path, const partsTableOptions &options,
                                QString *fault);
-// What the captions of a row say, by column; none for those that are not known.
-QVector<field> fieldsOf(const QStringList &captions);
 // Sets the row with the captions, and the fields by it. -1: no row, and no fields.
 void setHeader(sheet *of, int row);
 // Sets what columns hold, counted from 0. What was found of these fields in other columns counts no
@@ -76,7 +53,7 @@ struct terms
     // Else that of the captions of prices ("Price [EUR]") or of the column of currencies, else PLN.
     // What the file says may not be another one.
     QString currency;
-    QString rate;     // PLN for one of the currency
+    QString rate; // PLN for one of the currency
     QDate rateDate;
     std::optional<bool> isGross; // else as the captions of prices say, else net
     QString vat;                 // percent
@@ -108,18 +85,12 @@ struct result
 result offerOf(const sheet &of, const terms &known, const order &asked);
 
 // Keeps the file that came in the folder of the order's offers and writes the offer into its
-// offers file. An earlier offer of the firm is refused unless it is to be replaced; its file stays.
+// offers file. Where the firm has an offer on the same request, or both are on none, this one is
+// refused unless it is to replace that; the file of the earlier one stays.
 // False, with nothing changed and the reason in fault, when that or the writing fails.
 // orderNumber: for an offers file that is not there yet. stored: gets the path of the copy.
 bool store(const offerStruct &offer, const QString &file, const QString &orderPath,
            const QString &orderNumber, bool replaces, configStruct &config, QString *fault,
            QString *stored = nullptr);
-
-// Texts as firms write them: thousands parted by blanks, comma or point; rounded to six decimals,
-// which takes away what a workbook adds to 0.1. Nothing for any other text.
-std::optional<decimal> numberOf(const QString &text);
-// dd.MM.yyyy, yyyy-MM-dd, yyyy.MM.dd, or the number of a day as a workbook has it; null for any
-// other text.
-QDate dateOf(const QString &text);
 
 } // namespace offerImport

@@ -59,6 +59,12 @@ QString nameOf(const orderOffers::need &need)
                                                         : need.key + QLatin1Char('\n') + need.name;
 }
 
+QString chosenCaption(const content &of)
+{
+    return of.isProposed ? QCoreApplication::translate("offerReport", "Proposed")
+                         : QCoreApplication::translate("offerReport", "Chosen");
+}
+
 QString missingText(const content &of)
 {
     QStringList keys;
@@ -94,7 +100,7 @@ std::vector<said> headOf(const content &of)
         {QCoreApplication::translate("offerReport", "Lines without a quantity, not compared"),
          uncountedText(of)});
     if (!of.chosen.firms.empty()) {
-        all.push_back({QCoreApplication::translate("offerReport", "Chosen"), firmsText(of)});
+        all.push_back({chosenCaption(of), firmsText(of)});
         all.push_back(
             {QCoreApplication::translate("offerReport", "Date of the choice"), dayOf(of.date)});
         all.push_back({QCoreApplication::translate("offerReport", "Chosen by"), of.by});
@@ -207,7 +213,7 @@ private:
                              QCoreApplication::translate("offerReport", "Needed")};
         for (const firm &one : m_of.compared.firms)
             captions.append(one.name);
-        captions.append(QCoreApplication::translate("offerReport", "Chosen"));
+        captions.append(chosenCaption(m_of));
         open(captions, 2);
         for (int i = 0; i < int(m_of.compared.materials.size()); ++i)
             writeMaterial(i);
@@ -318,9 +324,9 @@ public:
     {
         tableFile::content table;
         table.sheet = QCoreApplication::translate("offerReport", "Offers");
-        table.captions = QStringList{
-            labels::ktm(), labels::name(), QCoreApplication::translate("offerReport", "Needed"),
-            labels::unit(), QCoreApplication::translate("offerReport", "Chosen")};
+        table.captions = QStringList{labels::ktm(), labels::name(),
+                                     QCoreApplication::translate("offerReport", "Needed"),
+                                     labels::unit(), chosenCaption(m_of)};
         table.numbers = {neededColumn};
         for (int i = 0; i < int(m_of.compared.firms.size()); ++i) {
             for (const QString &one :
@@ -407,7 +413,14 @@ private:
 content contentOf(const comparison &compared, const selection &chosen,
                   const kiv_mat_zpStruct &order, const kiv_mat_offersStruct &offers)
 {
-    content result{compared, chosen, order.options.value(optionKey::orderDate), {}, {}, {}};
+    content result;
+    result.compared = compared;
+    result.chosen = chosen;
+    result.orderDate = order.options.value(optionKey::orderDate);
+    result.isProposed =
+        offers.choices.empty() || chosenBefore(compared, offers).firmOf != chosen.firmOf;
+    if (result.isProposed)
+        return result;
     for (const auto &choice : offers.choices) {
         const QDate date = orderOffers::readDate(choice->date);
         if (result.date.isValid() && date < result.date)
@@ -430,7 +443,8 @@ QString markOf(const content &of, int material, int firm)
 {
     QStringList words;
     if (isChosen(of, material, firm))
-        words.append(QCoreApplication::translate("offerReport", "chosen"));
+        words.append(of.isProposed ? QCoreApplication::translate("offerReport", "proposed")
+                                   : QCoreApplication::translate("offerReport", "chosen"));
     if (cellAt(of, material, firm).isBest)
         words.append(QCoreApplication::translate("offerReport", "best"));
     return words.join(QLatin1String(", "));

@@ -6,26 +6,28 @@
 
 namespace offerReport {
 
-// What is written. chosen may be a proposal; reason, date and by are of the choice and may be
-// empty.
+// What is written. reason, date and by are of the choice that was taken into the order; a proposal
+// has none.
 struct content
 {
     offerComparison::comparison compared;
     offerComparison::selection chosen;
     QString orderDate; // as the order has it
+    bool isProposed = true;
     QString reason;
     QDate date;
     QString by;
 };
-// With the reason, the date and the person of the choices that the offers file has; the latest
-// ones.
+// Where the offers file has these choices, with the reason, the date and the person of the latest
+// of them; any others are proposed.
 content contentOf(const offerComparison::comparison &compared,
                   const offerComparison::selection &chosen, const kiv_mat_zpStruct &order,
                   const kiv_mat_offersStruct &offers);
 
 // "Comparison of offers ZP/7/2026", which also stands at the foot of printed pages.
 QString title(const content &of);
-// "best", "chosen" or both; empty for neither. Words, since a colour alone says nothing.
+// "best", "chosen" or "proposed", or both; empty for neither. Words, since a colour alone says
+// nothing.
 QString markOf(const content &of, int material, int firm);
 // The data of a firm's offer, those that are not said left out.
 struct said

@@ -15,6 +15,7 @@
 #include "util/numbers.h"
 #include "util/prompts.h"
 #include "util/userName.h"
+#include "window/rowTable.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,6 +30,7 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -109,7 +111,7 @@ void offersWindow::buildWidgets()
 {
     m_firmTable = newTable("firms", tr("Firms and their offers"), &m_firms);
     m_materials = newTable("materials", tr("Materials and their prices"), &m_rows);
-    m_firmTable->setAllColumnsShowFocus(true);
+    m_materials->setAllColumnsShowFocus(false);
     m_materials->setSelectionBehavior(QAbstractItemView::SelectItems);
     for (int column = 0; column < offerFirmRows::columns; ++column)
         m_firmTable->setColumnWidth(column, offerFirmRows::widthOf(column));
@@ -144,14 +146,6 @@ QWidget *offersWindow::newChoices()
     auto *choices = new QWidget(this);
     auto *layout = new QHBoxLayout(choices);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](QWidget *widget, const char *name, const QString &caption) {
-        auto *label = new QLabel(caption, choices);
-        label->setBuddy(widget);
-        widget->setObjectName(QLatin1String(name));
-        widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
-        layout->addWidget(label);
-        layout->addWidget(widget);
-    };
     m_mode->addItem(tr("the cheapest for each material"), int(mode::cheapest));
     m_mode->addItem(tr("one firm for all"), int(mode::oneFirm));
     m_mode->addItem(tr("the fewest firms"), int(mode::fewestFirms));
@@ -162,9 +156,9 @@ QWidget *offersWindow::newChoices()
     m_within->setSuffix(QStringLiteral(" %"));
     m_until->setCalendarPopup(true);
     m_until->setDisplayFormat(labels::dateFormat());
-    add(m_mode, "mode", tr("&Propose"));
-    add(m_within, "within", tr("&Above the cheapest by"));
-    add(m_until, "until", tr("&Until"));
+    addCaptioned(layout, m_mode, "mode", tr("&Propose"));
+    addCaptioned(layout, m_within, "within", tr("&Above the cheapest by"));
+    addCaptioned(layout, m_until, "until", tr("&Until"));
     m_raise->setObjectName(QStringLiteral("raise"));
     m_raise->setChecked(true);
     layout->addStretch();
@@ -179,14 +173,7 @@ QWidget *offersWindow::newChoices()
 QTreeView *offersWindow::newTable(const char *name, const QString &accessibleName,
                                   QAbstractItemModel *model)
 {
-    auto *table = new QTreeView(this);
-    table->setObjectName(QLatin1String(name));
-    table->setAccessibleName(accessibleName);
-    table->setModel(model);
-    table->setAlternatingRowColors(true);
-    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    table->setRootIsDecorated(false);
-    table->setUniformRowHeights(true);
+    QTreeView *table = newRowTable(name, accessibleName, model, this);
     table->installEventFilter(this);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &offersWindow::updateActions);
@@ -227,6 +214,8 @@ void offersWindow::readAgain()
     m_offers.choices.clear();
     QString fault;
     const QString file = orderOffers::fileOf(path);
+    m_state = fileState::of(file);
+    m_isChosenByHand = false;
     if (!path.isEmpty() && QFileInfo::exists(file) && !readChecked(file, &m_offers, &fault))
         fault = QDir::toNativeSeparators(file) + QLatin1String(": ") + fault;
     if (path.isEmpty())
@@ -262,6 +251,7 @@ question offersWindow::asked() const
 void offersWindow::propose()
 {
     m_rows.choose(offerComparison::propose(m_rows.compared(), asked()));
+    m_isChosenByHand = true;
     chosenChanged();
 }
 
@@ -338,11 +328,14 @@ void offersWindow::importFile(const QString &path)
     if (dialog.exec() != QDialog::Accepted)
         return;
     const offerStruct &offer = dialog.offer();
-    const bool isSecond = orderOffers::offerOf(m_offers, offer.firm, offer.nip) != nullptr;
-    if (isSecond
-        && userPrompts().decide(tr("%1 has sent an offer before.").arg(offer.firm.toHtmlEscaped()),
-                                {tr("Replace it")}, true)
-               != 0)
+    const offerStruct *earlier =
+        orderOffers::offerOn(m_offers, offer.firm, offer.nip, offer.request);
+    const QString told =
+        earlier && !earlier->request.isEmpty()
+            ? tr("%1 has answered the request %2 before.").arg(offer.firm, earlier->request)
+            : tr("%1 has sent an offer before.").arg(offer.firm);
+    const bool isSecond = earlier != nullptr;
+    if (isSecond && userPrompts().decide(told.toHtmlEscaped(), {tr("Replace it")}, true) != 0)
         return;
     if (!offerImport::store(offer, path, orderPath, asked.number, isSecond, m_known.config(),
                             &fault)) {
@@ -374,18 +367,23 @@ void offersWindow::commandChoose(bool)
         chosen = chosen == firm ? -1 : firm;
     }
     m_rows.choose(selectionOf(m_rows.compared(), std::move(firmOf)));
+    m_isChosenByHand = true;
     chosenChanged();
     if (refused > 0)
         tell(tr("%n material(s) are not offered there", nullptr, refused));
 }
 
-// Whether the order needs something else than what is shown was compared for.
+// Whether the offers are others now, or the order needs something else, than what is shown was
+// compared for.
 bool offersWindow::isOutdated() const
 {
     QString path;
-    const orderOffers::needs now = orderOffers::needsOf(*openOrder(&path));
+    const kiv_mat_zpStruct *order = openOrder(&path);
+    if (!order)
+        return true;
+    const orderOffers::needs now = orderOffers::needsOf(*order);
     const std::vector<material> &shown = m_rows.compared().materials;
-    return path != m_path
+    return path != m_path || fileState::of(orderOffers::fileOf(m_path)) != m_state
            || !std::equal(now.all.begin(), now.all.end(), shown.begin(), shown.end(),
                           [](const orderOffers::need &one, const material &other) {
                               return one.key == other.need.key
@@ -393,17 +391,25 @@ bool offersWindow::isOutdated() const
                           });
 }
 
+// False, with what is there now shown and told of, when it is no more what the user looked at.
+bool offersWindow::isUpToDate()
+{
+    if (!isOutdated())
+        return true;
+    readAgain();
+    tell(tr("The order or its offers were changed meanwhile; this is what is there now"));
+    return false;
+}
+
 void offersWindow::commandTakeOver(bool)
 {
-    if (isOutdated()) {
-        readAgain();
-        tell(tr("The order was changed meanwhile; this is what is proposed for it now"));
+    if (!isUpToDate())
         return;
-    }
     const auto reason = userPrompts().inputText(
         tr("Take the choice into the order"), tr("Reason of the choice"),
         m_offers.choices.empty() ? m_mode->currentText() : m_offers.choices.front()->reason);
-    if (!reason || !takeOver(m_rows.compared(), m_rows.chosen(), m_raise->isChecked()))
+    if (!reason || !isUpToDate()
+        || !takeOver(m_rows.compared(), m_rows.chosen(), m_raise->isChecked()))
         return;
     QString fault;
     const auto choices =
@@ -418,6 +424,8 @@ void offersWindow::commandTakeOver(bool)
 
 void offersWindow::commandSplit(bool)
 {
+    if (!isUpToDate())
+        return;
     QString path;
     const kiv_mat_zpStruct *order = openOrder(&path);
     if (!isOrderSaved()) {
@@ -438,7 +446,8 @@ void offersWindow::commandSplit(bool)
             tr("Write these orders beside this one, which then counts no more?").toHtmlEscaped()
                 + QLatin1String("<br>") + parts.join(QLatin1String("<br>")),
             {tr("Write them")}, true)
-        != 0)
+            != 0
+        || !isUpToDate())
         return;
     QString fault;
     const QStringList files =
@@ -459,6 +468,8 @@ void offersWindow::commandSplit(bool)
 
 void offersWindow::commandSaveReport(bool)
 {
+    if (!isUpToDate())
+        return;
     QString path;
     const kiv_mat_zpStruct *order = openOrder(&path);
     const offerReport::content content =
@@ -512,10 +523,13 @@ void offersWindow::changeEvent(QEvent *event)
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()
         || !openOrder)
         return;
-    QString path;
-    openOrder(&path);
-    if (path != m_path)
-        readAgain();
+    // Later, so that what a prompt was asked about is not another thing when it is closed.
+    QTimer::singleShot(0, this, [this] {
+        QString path;
+        openOrder(&path);
+        if (path != m_path || (!m_isChosenByHand && isOutdated()))
+            readAgain();
+    });
 }
 
 bool offersWindow::eventFilter(QObject *watched, QEvent *event)

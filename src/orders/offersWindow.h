@@ -2,6 +2,7 @@
 // parted by the firms that were chosen.
 #pragma once
 
+#include "data/documentSaving.h"
 #include "orders/offerReport.h"
 #include "orders/offerRows.h"
 #include "window/baseWindow.h"
@@ -67,12 +68,15 @@ private:
     void tell(const QString &text);
     void importFile(const QString &path);
     bool isOutdated() const;
+    bool isUpToDate();
 
     programData &m_known;
     orderRegister &m_orders;
     offerRows m_rows;
     offerFirmRows m_firms;
     kiv_mat_offersStruct m_offers; // as read for what is shown
+    fileState m_state;             // of their file then
+    bool m_isChosenByHand = false; // and neither taken over nor read again
     QString m_path;                // of the order that is shown
     QComboBox *m_mode;
     QDoubleSpinBox *m_within;

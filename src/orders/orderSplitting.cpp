@@ -1,6 +1,5 @@
 #include "orders/orderSplitting.h"
 
-#include "data/firmDetails.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "order/orderOperations.h"
@@ -20,9 +19,7 @@ namespace {
 part *partOf(std::vector<part> *parts, const choiceStruct &choice)
 {
     for (part &one : *parts)
-        if (firmDetails::isSameName(one.firm, choice.firm)
-            && (one.nip.isEmpty() || choice.nip.isEmpty()
-                || firmDetails::isSameNip(one.nip, choice.nip)))
+        if (orderOffers::isSameFirm(one.firm, one.nip, choice.firm, choice.nip))
             return &one;
     parts->push_back({});
     parts->back().firm = choice.firm;
@@ -70,8 +67,11 @@ private:
     QString freePath(const part &of) const
     {
         const QFileInfo whole(m_path);
-        QStringList name{whole.completeBaseName(),
-                         of.firm.isEmpty() ? QStringLiteral("rest") : of.firm};
+        // Short enough for a counter behind them.
+        constexpr int mostOfName = 40;
+        constexpr int mostOfFirm = 30;
+        QStringList name{whole.completeBaseName().left(mostOfName),
+                         of.firm.isEmpty() ? QStringLiteral("rest") : of.firm.left(mostOfFirm)};
         for (int i = 2;; ++i) {
             const QString path =
                 whole.absolutePath() + QLatin1Char('/')
@@ -168,7 +168,10 @@ plan planOf(const kiv_mat_zpStruct &order, const kiv_mat_offersStruct &offers)
     if (result.parts.empty())
         result.fault =
             QCoreApplication::translate("orderSplitting", "No firm is chosen for any material");
-    else if (result.parts.size() == 1 && rest.lines.empty())
+    else if (result.parts.size() == 1
+             && std::all_of(rest.lines.begin(), rest.lines.end(), [&order](int line) {
+                    return orderOperations::isShipment(order.orderItems.items[size_t(line)]->ktm);
+                }))
         result.fault = QCoreApplication::translate("orderSplitting",
                                                    "All lines are of %1: there is nothing to part")
                            .arg(result.parts.front().firm);
@@ -176,7 +179,7 @@ plan planOf(const kiv_mat_zpStruct &order, const kiv_mat_offersStruct &offers)
         result.parts.push_back(std::move(rest));
     const QString number = order.options.value(optionKey::orderNumber).trimmed();
     for (size_t i = 0; i < result.parts.size(); ++i)
-        result.parts[i].number = QStringLiteral("%1/%2").arg(number).arg(i + 1);
+        result.parts[i].number = number + QLatin1Char('/') + QString::number(i + 1);
     return result;
 }
 
@@ -188,7 +191,13 @@ QString faultOf(const kiv_mat_zpStruct &order, const QString &orderPath,
         return fault;
     orderIndex::order whole;
     whole.path = orderPath;
-    orders.sentState(orderPath); // looks at the states as they are now
+    // Its parts would be ordered again, and what came of it taken into stock again.
+    if (orders.sentState(orderPath))
+        return QCoreApplication::translate("orderSplitting", "It was sent already");
+    for (const auto &line : order.orderItems.items)
+        if (!line->delivery.trimmed().isEmpty() || !line->invoice.trimmed().isEmpty())
+            return QCoreApplication::translate("orderSplitting",
+                                               "Something of it was delivered or invoiced already");
     return orders.isParted(whole) ? QCoreApplication::translate(
                "orderSplitting", "It was parted before, and its parts are there")
                                   : QString();

@@ -377,6 +377,8 @@ private slots:
             "Teilenummer;Staffelpreise;VPE;Lieferzeit [Tage];Bemerkungen\n"
             "RC0603FR-0710KL;\"1: 0,5; 100: 0,4\";50;21;ja\n",
             "[K-1|1: 0.50; 100: 0.40||50|21|ja]", "");
+        row("quantities in captions", "KTM;Price 1+;Price 100+;Price (2500 +) [PLN]\nK-1;0.5;0.4;0,3\n",
+            "[K-1|1: 0.50; 100: 0.40; 2500: 0.30||||]", "");
         row("nothing is guessed", "MPN;Price\nSHARED-1;3\nSHARED-2;4\nRC0603FR-0710KL;5\n;6\nSHARED-3;\n",
             "[K-1|1: 5.00||||]",
             "Row 2: SHARED-1 may be any of K-2, K-3, and is left out\nRow 3: SHARED-2 is nothing that the order "
@@ -424,6 +426,11 @@ private slots:
         row("Cena brutto zł", "", "PLN TAK");
         row("Price [EUR]", "USD", "The column \"Price [EUR]\" is not in USD");
         row("Price", "USD", "USD 4 NIE");
+        row("Price [CZK]", "", "CZK 4 NIE");
+        row("Unit price (EURO)", "", "EUR 4 NIE");
+        row("Price (net) [szt]", "PLN", "PLN NIE");
+        for (const char *caption : {"Price per 100", "Cena za 1000 szt.", "Preis pro Tsd. Stück", "Price /10 pcs"})
+            row(caption, "PLN", QString("The prices of the column \"%1\" are not of one piece").arg(caption));
     }
     void captionsSayCurrencyAndTax()
     {
@@ -432,7 +439,8 @@ private slots:
         terms.firm = "M";
         terms.rate = wanted.startsWith("PLN") ? "" : "4";
         terms.currency = currency;
-        const auto read = taken(m_folder->write("list.csv", "KTM;" + tag().toUtf8() + "\nK-1;1\n"), terms);
+        const auto read = taken(m_folder->write("list.csv", "KTM;" + tag().toUtf8() + "\nK-1;1\n"), terms,
+                                {offerImport::key, offerImport::price});
         QCOMPARE(read.offer ? textOf(*read.offer) : read.faults.join('\n'),
                  read.offer ? "M 2026.06.09 " + wanted + " [K-1|1: 1.00||||]" : wanted);
     }
@@ -458,6 +466,21 @@ private slots:
             terms.rate = "4";
         const auto read = taken(m_folder->write("list.csv", "KTM;Waluta;Cena\n" + tag().toUtf8() + "\n"), terms);
         QCOMPARE(read.offer ? read.offer->currency : read.faults.join('\n'), wanted);
+    }
+    // The details of one firm are not those of another one of its name.
+    void namesakesAreTold()
+    {
+        addOffer("Tme", "K-1=1: 1").nip = "111";
+        termsOf terms = plainTerms();
+        terms.firm = "TME";
+        const QString path = m_folder->write("list.csv", "KTM;Price\nK-1;2\n");
+        QCOMPARE(
+            taken(path, terms).faults,
+            QStringList{"Several firms are called TME: the tax number has to say which it is, of 7290108984, 111"});
+        terms.nip = "111";
+        QCOMPARE(textOf(*taken(path, terms).offer), "TME 111 2026.06.09 PLN NIE [K-1|1: 2.00||||]");
+        terms.nip = "729-010-89-84";
+        QVERIFY(textOf(*taken(path, terms).offer).startsWith("TME 729-010-89-84 ZP/7/1"));
     }
     // A KTM in two units is two materials, of which a price list names neither.
     void unitsAreNotGuessed()
@@ -502,9 +525,10 @@ private slots:
     void filesAreKept()
     {
         const QString file = m_folder->write("came.XLSX", "first");
-        const auto store = [&](const QString &firm, bool replaces, QString *fault) {
+        const auto store = [&](const QString &firm, bool replaces, QString *fault, const QString &request = {}) {
             offerStruct offer;
             offer.firm = firm;
+            offer.request = request;
             offer.received = "2026.06.09";
             offer.append(std::make_unique<offeredStruct>())->key = "K-1";
             return offerImport::store(offer, file, m_path, "ZP/7", replaces, m_config, fault);
@@ -524,13 +548,19 @@ private slots:
         QCOMPARE(offers.now().offers.size(), size_t(2));
         QCOMPARE(read(folder + '/' + offers.now().offers[1]->file), "second");
         QCOMPARE(copies().size(), 3);
+        // An answer to another request is one more.
+        QVERIFY(store("TME", true, &fault, "ZP/7/2"));
+        QVERIFY(!store("TME", false, &fault, "ZP/7/2"));
+        QCOMPARE(fault, "There is an offer of TME on the request ZP/7/2 already, received on 09.06.2026");
+        QCOMPARE(offersFile(orderOffers::fileOf(m_path)).now().offers.size(), size_t(3));
+        QCOMPARE(copies().size(), 4);
 
         // What cannot be noted is not kept either.
         const QByteArray broken = "<broken";
         write(orderOffers::fileOf(m_path), broken);
         QVERIFY(!store("Mouser", false, &fault));
         QVERIFY(!fault.isEmpty());
-        QCOMPARE(copies().size(), 3);
+        QCOMPARE(copies().size(), 4);
         QCOMPARE(read(orderOffers::fileOf(m_path)), broken);
         QVERIFY(QDir(folder).removeRecursively());
         write(folder, "in the way");
@@ -624,6 +654,29 @@ private slots:
         QCOMPARE(of.materials[0].best, 0);
         QCOMPARE(of.materials[1].best, 2);
         QCOMPARE(of.materials[0].need.quantity.text(), "120");
+    }
+
+    // A firm's second offer may be of other materials: the first counts for the rest while it is valid. Nobody offers
+    // shipment.
+    void severalOffersOfAFirm()
+    {
+        addLine("SRV-000.100", "1");
+        offerStruct &first = addOffer("A", "K-1=1: 2; K-2=1: 5");
+        first.currency = "EUR";
+        first.rate = "4";
+        first.validity = "2026.06.10";
+        addOffer("A", "K-1=1: 3");
+        const auto prices = [this] {
+            QStringList all;
+            for (const auto &one : compared().materials)
+                all.append(one.cells[0].isOffered ? one.cells[0].price.text() : "-");
+            return all.join(' ');
+        };
+        QCOMPARE(prices(), "3 20");
+        m_offers.offers[0]->validity = "2026.06.09";
+        QCOMPARE(prices(), "3 -");
+        m_offers.offers[1]->validity = "2026.06.09";
+        QCOMPARE(prices(), "3 -");
     }
 
     // --- What is proposed
@@ -726,6 +779,18 @@ private slots:
         QCOMPARE(done.quantities, raised);
         QVERIFY(changesOf(m_order, of, chosen, raises).empty());
     }
+    // What came stays as it was bought.
+    void deliveredLinesStay()
+    {
+        m_order.orderItems.items[2]->delivery = "WZ 1";
+        addOffer("A", "K-1=1: 0.50//150");
+        const comparison of = compared();
+        applyChoice(&m_order, of, propose(of, {}), true);
+        QStringList lines;
+        for (const auto &line : m_order.orderItems.items)
+            lines.append(line->quantity + ' ' + line->price);
+        QCOMPARE(lines.join("; "), "130 0.50; 7 9.99; 20 9.99");
+    }
     void choicesAreStored()
     {
         addOffer("A", "K-1=1: 0.50; K-2=1: 3");
@@ -744,6 +809,13 @@ private slots:
             all.append(QStringList{one->key, one->firm, one->price, one->date, one->by, one->reason}.join(' '));
         QCOMPARE(all, (QStringList{"K-2 A 3.00 2026.06.10 jk from stock"}));
         QCOMPARE(textOf(of, chosenBefore(of, file.now())), "- A: 21 25.83 without K-1");
+        // Only of what was chosen so does a report tell who chose it, and why.
+        const auto told = [&](const selection &shown) {
+            const auto content = offerReport::contentOf(of, shown, m_order, file.now());
+            return content.reason + '|' + content.by + '|' + offerReport::markOf(content, 1, 0);
+        };
+        QCOMPARE(told(selectionOf(of, {-1, 0})), "from stock|jk|chosen");
+        QCOMPARE(told(selectionOf(of, {0, 0})), "||proposed");
     }
 
     // --- Parting
@@ -816,6 +888,20 @@ private slots:
         QCOMPARE(files(), before);
         QVERIFY(!QFileInfo::exists(m_folder->path("zp/offers/zp_7_TME")));
     }
+    // The parts of what was sent or came would be ordered, and taken into stock, once more.
+    void nothingIsPartedTwice()
+    {
+        choose("K-1", "TME");
+        orderRegister orders;
+        QString fault;
+        m_order.orderItems.items[0]->delivery = "WZ 1";
+        QCOMPARE(orderSplitting::faultOf(m_order, m_path, m_offers, orders),
+                 "Something of it was delivered or invoiced already");
+        m_order.orderItems.items[0]->delivery.clear();
+        QVERIFY(orders.noteSent(m_path, {"ZP/7", "anna", ""}, m_config, &fault));
+        QVERIFY(orderSplitting::split(m_order, m_path, m_offers, orders, m_config, &fault).isEmpty());
+        QCOMPARE(fault, "It was sent already");
+    }
     void nothingToPart()
     {
         QCOMPARE(orderSplitting::planOf(m_order, m_offers).fault, "No firm is chosen for any material");
@@ -833,7 +919,8 @@ private slots:
         addOffer("B", "K-1=1: 1000; K-2=1: 3");
         m_offers.offers[1]->validity = "2026.06.01";
         const comparison of = compared();
-        offerReport::content content{of, selectionOf(of, {0, 1}), "01.06.2026", "only <one>", QDate(2026, 6, 10), "jk"};
+        offerReport::content content{of,           selectionOf(of, {0, 1}), "01.06.2026", false,
+                                     "only <one>", QDate(2026, 6, 10),      "jk"};
         const QString page = offerReport::page(content);
         QVERIFY(!page.contains("<script>") && !page.contains("<A>") && !page.contains("<one>"));
         for (const char *text :

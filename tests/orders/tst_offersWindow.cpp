@@ -89,6 +89,7 @@ protected slots:
         };
         m_window->showNow();
         m_hands = std::make_unique<hands>(*m_window);
+        work("~50"); // as it was shown, it is looked at
     }
     void cleanup() override
     {
@@ -131,6 +132,28 @@ private slots:
         QVERIFY(m_seen && m_hands->status().contains("changed meanwhile"));
     }
 
+    // So are offers that came meanwhile: nobody takes over what is not shown.
+    void offersComeMeanwhile()
+    {
+        kiv_mat_offersStruct offers;
+        offer(offers, "A", {"1: 2", "1: 5"});
+        offer(offers, "C", {"1: 1", "1: 1"});
+        auto choice = std::make_unique<choiceStruct>();
+        choice->key = "K-1";
+        choice->firm = "C";
+        offers.choices.push_back(std::move(choice));
+        offer(offers, "D", {"1: 9"});
+        QVERIFY(saveXmlNoEvents(orderOffers::fileOf(orderPath()), &offers) == 0);
+        work("Ctrl+Return");
+        QCOMPARE(lines(), QString("K-1 10 ; K-2 10 ; K-3 10 "));
+        QCOMPARE(chosen(), QString("C nobody nobody"));
+        QVERIFY(m_hands->status().contains("changed meanwhile"));
+        offers.offers.pop_back();
+        QVERIFY(saveXmlNoEvents(orderOffers::fileOf(orderPath()), &offers) == 0);
+        work("#split");
+        QCOMPARE(m_window->findChild<QTreeView *>("firms")->model()->rowCount(), 2);
+    }
+
     // Prices go to the order, firms with the reason to the file of offers; then each firm gets its order.
     void theChoiceIsTakenOverAndParted()
     {
@@ -171,6 +194,25 @@ private slots:
         QVERIFY(QFile::exists(orderOffers::folderOf(orderPath()) + '/' + offer.file));
         // Nothing was taken over yet: it is proposed where it is the cheapest.
         QCOMPARE(chosen(), QString("A B C"));
+    }
+
+    // Of two firms of one name the tax number says which it is.
+    void namesakesAreTwoFirms()
+    {
+        for (const char *nip : {"111", "222"}) {
+            auto *firm = appendTo(programData::instance().firm().suppliers);
+            firm->name = "C";
+            firm->nip = nip;
+        }
+        const QString path = m_folder->write("list.csv", "KTM;Cena\nK-1;1,50\n");
+        for (const char *steps : {"", "Down "})
+            work("Ctrl+O '" + path + "' Return ~100 " + steps + "~400 Alt+I");
+        kiv_mat_offersStruct kept;
+        QVERIFY(readChecked(orderOffers::fileOf(orderPath()), &kept));
+        QStringList nips;
+        for (const auto &one : kept.offers)
+            nips.append(one->nip);
+        QCOMPARE(nips.join(' ').trimmed(), QString("111 222"));
     }
 };
 
