@@ -4,6 +4,7 @@
 #include "util/labels.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "window/rowTable.h"
 
 #include <QDateEdit>
 #include <QDialogButtonBox>
@@ -128,7 +129,7 @@ void deliveryDialog::fillTable(const std::vector<int> &lines)
     }
     constexpr int widths[] = {44, 180, 250, 90, 90, 100};
     for (int column = 0; column < columnCount; ++column)
-        m_table->setColumnWidth(column, widths[column]);
+        resizeColumn(m_table->horizontalHeader(), column, widths[column]);
     if (m_table->rowCount() > 0)
         m_table->setCurrentCell(0, cameColumn);
 }

@@ -248,10 +248,10 @@ void annualPlanWindow::buildWidgets()
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(annualPlanReport::estimatedColumn, Qt::DescendingOrder);
     for (int i = 0; i < annualPlanReport::columns; ++i)
-        m_table->header()->resizeSection(i, planRows::widthOf(i));
+        resizeColumn(m_table->header(), i, planRows::widthOf(i));
     m_lines = newTable("withoutCode", tr("Lines without a CPV code"), &m_without);
     for (int i = 0; i < withoutCodeRows::columns; ++i)
-        m_lines->header()->resizeSection(i, withoutCodeRows::widthOf(i));
+        resizeColumn(m_lines->header(), i, withoutCodeRows::widthOf(i));
     connect(m_lines, &QTreeView::activated, this, [this] { commandOpen(false); });
     m_chart->setObjectName(QStringLiteral("chart"));
     m_chart->setAccessibleName(tr("Bars of the greatest sums"));

@@ -4,6 +4,7 @@
 #include "data/vocabulary.h"
 #include "util/labels.h"
 #include "util/text.h"
+#include "window/rowTable.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -283,7 +284,7 @@ void importOfferDialog::showRows()
             m_rows->setItem(row, column, item);
         }
     }
-    constexpr int widths[] = {190, 230, 100, 100, 110, 140};
+    constexpr int widths[] = {190, 220, 130, 100, 110, 140};
     for (int column = 0; column < m_rows->columnCount(); ++column)
-        m_rows->setColumnWidth(column, widths[column]);
+        resizeColumn(m_rows->horizontalHeader(), column, widths[column]);
 }

@@ -3,6 +3,7 @@
 #include "util/foldedText.h"
 #include "util/labels.h"
 #include "util/text.h"
+#include "window/rowTable.h"
 
 #include <QDateEdit>
 #include <QDialogButtonBox>
@@ -112,7 +113,7 @@ QTreeWidget *newRequestsDialog::newTable()
     table->headerItem()->setToolTip(
         namedColumn, tr("Materials of the order that name the firm as supplier or manufacturer"));
     for (int i = 0; i < columns; ++i)
-        table->header()->resizeSection(i, widths[i]);
+        resizeColumn(table->header(), i, widths[i]);
     for (const candidate &one : m_firms) {
         const QString addresses = one.to.join(QLatin1String(", "));
         auto *row =

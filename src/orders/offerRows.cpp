@@ -33,7 +33,7 @@ const QIcon &pictureOf(const char *name)
 int offerRows::widthOf(int section)
 {
     constexpr int widths[] = {170, 200, 75, 90, 130};
-    constexpr int firmWidth = 250;
+    constexpr int firmWidth = 280;
     return section < firms ? widths[section] : firmWidth;
 }
 

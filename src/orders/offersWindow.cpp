@@ -114,7 +114,7 @@ void offersWindow::buildWidgets()
     m_materials->setAllColumnsShowFocus(false);
     m_materials->setSelectionBehavior(QAbstractItemView::SelectItems);
     for (int column = 0; column < offerFirmRows::columns; ++column)
-        m_firmTable->setColumnWidth(column, offerFirmRows::widthOf(column));
+        resizeColumn(m_firmTable->header(), column, offerFirmRows::widthOf(column));
     connect(m_materials, &QTreeView::doubleClicked, this, [this] { commandChoose(false); });
     m_fault->setObjectName(QStringLiteral("fault"));
     m_fault->setWordWrap(true);
@@ -234,7 +234,7 @@ void offersWindow::readAgain()
     m_firms.show(compared.firms);
     m_rows.show(std::move(compared), std::move(chosen));
     for (int column = 0; column < m_rows.columnCount(); ++column)
-        m_materials->setColumnWidth(column, offerRows::widthOf(column));
+        resizeColumn(m_materials->header(), column, offerRows::widthOf(column));
     const bool isSame = before == path && current.isValid();
     m_materials->setCurrentIndex(
         m_rows.index(isSame ? current.row() : 0, isSame ? current.column() : offerRows::firms));

@@ -108,10 +108,10 @@ void ordersWindow::buildWidgets()
     // The latest first, as the register has them.
     m_list->sortByColumn(-1, Qt::AscendingOrder);
     for (int column = 0; column < orderRows::columns; ++column)
-        m_list->header()->resizeSection(column, orderRows::widthOf(column));
+        resizeColumn(m_list->header(), column, orderRows::widthOf(column));
     m_lines = newTable("lines", tr("Lines found"), &m_found);
     for (int column = 0; column < foundLineRows::columns; ++column)
-        m_lines->header()->resizeSection(column, foundLineRows::widthOf(column));
+        resizeColumn(m_lines->header(), column, foundLineRows::widthOf(column));
     auto *page = new QWidget(this);
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(m_words);

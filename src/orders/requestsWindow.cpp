@@ -15,6 +15,7 @@
 #include "util/paths.h"
 #include "util/prompts.h"
 #include "util/text.h"
+#include "window/rowTable.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -147,7 +148,7 @@ void requestsWindow::buildWidgets()
     m_table->setHeaderLabels({tr("Request"), tr("Firm"), tr("Sent"), tr("Deadline"), tr("State"),
                               tr("Reminded"), tr("Addresses"), tr("Materials")});
     for (int i = 0; i < columns; ++i)
-        m_table->header()->resizeSection(i, widths[i]);
+        resizeColumn(m_table->header(), i, widths[i]);
     connect(m_table, &QTreeWidget::itemSelectionChanged, this, &requestsWindow::updateActions);
     connect(m_table, &QTreeWidget::itemActivated, this, [this] { commandOpenDocument(false); });
     auto *page = new QWidget(this);

@@ -1,8 +1,11 @@
 #include "window/rowTable.h"
 
 #include <QBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QTreeView>
+
+#include <algorithm>
 
 QTreeView *newRowTable(const char *name, const QString &accessibleName, QAbstractItemModel *model,
                        QWidget *parent)
@@ -17,6 +20,11 @@ QTreeView *newRowTable(const char *name, const QString &accessibleName, QAbstrac
     table->setAllColumnsShowFocus(true);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     return table;
+}
+
+void resizeColumn(QHeaderView *header, int column, int width)
+{
+    header->resizeSection(column, std::max(width, header->sectionSizeHint(column)));
 }
 
 void addCaptioned(QBoxLayout *to, QWidget *widget, const char *name, const QString &caption)
