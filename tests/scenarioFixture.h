@@ -9,6 +9,7 @@
 #include <QDesktopServices>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTextBrowser>
 #include <QTextEdit>
 #include <QTreeView>
@@ -109,6 +110,8 @@ protected:
         if (place.startsWith("file "))
             return testSupport::read(path(place.mid(5)));
         if (const auto *text = window().findChild<QTextEdit *>(place))
+            return text->toPlainText();
+        if (const auto *text = window().findChild<QPlainTextEdit *>(place))
             return text->toPlainText();
         if (const auto *label = window().findChild<QLabel *>(place))
             return label->text();

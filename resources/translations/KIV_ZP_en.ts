@@ -393,6 +393,13 @@
             <numerusform>%n prices of offers</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The update is in %1: %n file(s)</source>
+        <translation>
+            <numerusform>The update is in %1: %n file</numerusform>
+            <numerusform>The update is in %1: %n files</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -1157,6 +1164,10 @@
         <source>The file %1 cannot be written</source>
         <translation>The file %1 cannot be written</translation>
     </message>
+    <message>
+        <source>An update cannot replace </source>
+        <translation>An update cannot replace </translation>
+    </message>
 </context>
 <context>
     <name>materialWindow</name>
@@ -1538,6 +1549,14 @@
         <source>OPTION_VAT_RATE</source>
         <translation>VAT in the order&apos;s report [%] (empty: none)</translation>
     </message>
+    <message>
+        <source>OPTION_UPDATE_ADDRESS</source>
+        <translation>Address of updates</translation>
+    </message>
+    <message>
+        <source>OPTION_UPDATE_UNSIGNED</source>
+        <translation>Updates without a signature</translation>
+    </message>
 </context>
 <context>
     <name>orders</name>
@@ -1717,6 +1736,40 @@
         <translation>
             <numerusform>%1: at most %n decimal</numerusform>
             <numerusform>%1: at most %n decimals</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>updateWindow</name>
+    <message numerus="yes">
+        <source>%n BOM list(s)</source>
+        <translation>
+            <numerusform>%n BOM list</numerusform>
+            <numerusform>%n BOM lists</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) with materials that change</source>
+        <translation>
+            <numerusform>%n order with materials that change</numerusform>
+            <numerusform>%n orders with materials that change</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of the program</source>
+        <translation>
+            <numerusform>%n file of the program</numerusform>
+            <numerusform>%n files of the program</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>updates</name>
+    <message numerus="yes">
+        <source>was changed here, and merged; %n text(s) stay yours</source>
+        <translation>
+            <numerusform>was changed here, and merged; %n text stays yours</numerusform>
+            <numerusform>was changed here, and merged; %n texts stay yours</numerusform>
         </translation>
     </message>
 </context>

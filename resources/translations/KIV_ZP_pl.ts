@@ -1429,6 +1429,34 @@
         <source>It could not be noted for the new file which deliveries are in stock already</source>
         <translation>Nie można odnotować dla nowego pliku, które dostawy są już na stanie</translation>
     </message>
+    <message>
+        <source>Updates cannot be looked for </source>
+        <translation>Nie można sprawdzić aktualizacji </translation>
+    </message>
+    <message>
+        <source>An update is there: %1</source>
+        <translation>Jest aktualizacja: %1</translation>
+    </message>
+    <message>
+        <source>Making the update</source>
+        <translation>Tworzenie aktualizacji</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was changed</source>
+        <translation>Anulowano; niczego nie zmieniono</translation>
+    </message>
+    <message numerus="yes">
+        <source>The update is in %1: %n file(s)</source>
+        <translation>
+            <numerusform>Aktualizacja jest w %1: %n plik</numerusform>
+            <numerusform>Aktualizacja jest w %1: %n pliki</numerusform>
+            <numerusform>Aktualizacja jest w %1: %n plików</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is new in the update</source>
+        <translation>Co nowego w aktualizacji</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -2982,6 +3010,50 @@
     <message>
         <source>Show the folder with what was sent and what came back</source>
         <translation>Pokazuje folder z tym, co wysłano i co przyszło</translation>
+    </message>
+    <message>
+        <source>See what is newer at the address of updates, and install it</source>
+        <translation>Zobacz, co nowego pod adresem aktualizacji, i zainstaluj</translation>
+    </message>
+    <message>
+        <source>CreateUpdate</source>
+        <translation>Utwórz aktualizację</translation>
+    </message>
+    <message>
+        <source>Make an update of the program and the data as they are here</source>
+        <translation>Utwórz aktualizację z programu i danych w obecnym stanie</translation>
+    </message>
+    <message>
+        <source>UpdateDesc</source>
+        <translation>Opis aktualizacji</translation>
+    </message>
+    <message>
+        <source>Say what is new in the update that is made next</source>
+        <translation>Opisz, co nowego w następnej aktualizacji</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Sprawdź ponownie</translation>
+    </message>
+    <message>
+        <source>Ask the address of updates for what is on offer</source>
+        <translation>Zapytaj adres aktualizacji, co jest do pobrania</translation>
+    </message>
+    <message>
+        <source>Install ...</source>
+        <translation>Zainstaluj ...</translation>
+    </message>
+    <message>
+        <source>Download and check what is ticked, show what it changes, and put it in place</source>
+        <translation>Pobierz i sprawdź zaznaczone, pokaż, co zmienia, i umieść na miejscu</translation>
+    </message>
+    <message>
+        <source>Back to the version before ...</source>
+        <translation>Wróć do poprzedniej wersji ...</translation>
+    </message>
+    <message>
+        <source>Put back the program that the last update replaced; data stay</source>
+        <translation>Przywróć program zastąpiony przez ostatnią aktualizację; dane pozostają</translation>
     </message>
 </context>
 <context>
@@ -5521,6 +5593,110 @@ Przykład: kivzp-cli request zp_13.xml --firms _files/firms.xml --firm TME --fir
         <source>%1 has no request without an offer</source>
         <translation>%1 nie ma zapytania bez oferty</translation>
     </message>
+    <message>
+        <source>Where updates are: http(s)://, scp://host/folder or a folder; else the configuration&apos;s.</source>
+        <translation>Gdzie są aktualizacje: http(s)://, scp://host/folder albo folder; w przeciwnym razie adres z konfiguracji.</translation>
+    </message>
+    <message>
+        <source>The folder that is updated, or whose data are packed; the program&apos;s.</source>
+        <translation>Folder, który jest aktualizowany albo którego dane są pakowane; folder programu.</translation>
+    </message>
+    <message>
+        <source>Only this part: program, boms, firms, service, warehouse or mechanics. With create its release, as firms=12. May be given several times.</source>
+        <translation>Tylko ta część: program, boms, firms, service, warehouse lub mechanics. Przy create z wydaniem, np. firms=12. Można podać kilka razy.</translation>
+    </message>
+    <message>
+        <source>The key that signatures are checked with, or with create made with; else that of the program, or none.</source>
+        <translation>Klucz, którym sprawdzane są podpisy, a przy create – którym są składane; w przeciwnym razie klucz programu albo żaden.</translation>
+    </message>
+    <message>
+        <source>Take an update that nobody signed.</source>
+        <translation>Przyjmij aktualizację, której nikt nie podpisał.</translation>
+    </message>
+    <message>
+        <source>With create: a page that says what is new.</source>
+        <translation>Przy create: strona mówiąca, co nowego.</translation>
+    </message>
+    <message>
+        <source>With create: also copy it to the address, by secure copy.</source>
+        <translation>Przy create: także skopiuj pod adres przez bezpieczne kopiowanie.</translation>
+    </message>
+    <message>
+        <source>With install: only tell what would change.</source>
+        <translation>Przy install: tylko powiedz, co by się zmieniło.</translation>
+    </message>
+    <message>
+        <source>newer</source>
+        <translation>nowsza</translation>
+    </message>
+    <message>
+        <source>lower</source>
+        <translation>niższa</translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation>ta sama</translation>
+    </message>
+    <message>
+        <source>%1 is no part</source>
+        <translation>%1 nie jest częścią</translation>
+    </message>
+    <message>
+        <source>nothing is newer</source>
+        <translation>nie ma nic nowszego</translation>
+    </message>
+    <message>
+        <source>cannot be replaced now</source>
+        <translation>nie można teraz zastąpić</translation>
+    </message>
+    <message>
+        <source>%1 is no part with its release, as firms=12</source>
+        <translation>%1 nie jest częścią z wydaniem, np. firms=12</translation>
+    </message>
+    <message>
+        <source>give at least one --part, as --part firms=12</source>
+        <translation>podaj co najmniej jedno --part, np. --part firms=12</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>Nie można odczytać %1</translation>
+    </message>
+    <message>
+        <source>give an --address</source>
+        <translation>podaj --address</translation>
+    </message>
+    <message>
+        <source>It is not signed: give a --key</source>
+        <translation>Nie jest podpisana: podaj --key</translation>
+    </message>
+    <message>
+        <source>  check          a row for each part on offer: its release here and there, size
+  install        downloads and checks what is newer, merges what was changed here,
+                 and puts it in place
+  back           puts back the files of the program that the last update replaced
+  settle         finishes an update that was broken off, as each start does
+  create FOLDER  packages, information file, script and signature, for the address
+  key NAME       makes NAME.pub, which goes beside the program as _config/update.pub,
+                 and NAME.key, which is nobody else&apos;s business
+Example: kivzp-cli update create out --part firms=12 --key ours.key</source>
+        <translation>  check          wiersz dla każdej oferowanej części: wydanie tutaj i tam, rozmiar
+  install        pobiera i sprawdza, co nowsze, scala to, co tu zmieniono,
+                 i umieszcza na miejscu
+  back           przywraca pliki programu, które zastąpiła ostatnia aktualizacja
+  settle         kończy przerwaną aktualizację, jak przy każdym uruchomieniu
+  create FOLDER  pakiety, plik informacyjny, skrypt i podpis, do umieszczenia pod adresem
+  key NAZWA      tworzy NAZWA.pub, który leży obok programu jako _config/update.pub,
+                 i NAZWA.key, który jest tylko dla właściciela
+Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2</source>
+        <translation>%1 nie jest żadnym z: %2</translation>
+    </message>
+    <message>
+        <source>Updates: looks for them, installs them, makes them.</source>
+        <translation>Aktualizacje: szuka ich, instaluje je, tworzy je.</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -5639,6 +5815,73 @@ Przykład: kivzp-cli request zp_13.xml --firms _files/firms.xml --firm TME --fir
     <message>
         <source>Group does not exist</source>
         <translation>Grupa nie istnieje</translation>
+    </message>
+</context>
+<context>
+    <name>createUpdateDialog</name>
+    <message>
+        <source>Copy it to the &amp;address of updates</source>
+        <translation>Skopiuj pod &amp;adres aktualizacji</translation>
+    </message>
+    <message>
+        <source>Make an update</source>
+        <translation>Tworzenie aktualizacji</translation>
+    </message>
+    <message>
+        <source>not signed</source>
+        <translation>bez podpisu</translation>
+    </message>
+    <message>
+        <source>&amp;Make it</source>
+        <translation>&amp;Utwórz</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Folder</translation>
+    </message>
+    <message>
+        <source>Folder of the update</source>
+        <translation>Folder aktualizacji</translation>
+    </message>
+    <message>
+        <source>&amp;Key</source>
+        <translation>&amp;Klucz</translation>
+    </message>
+    <message>
+        <source>Key to sign with</source>
+        <translation>Klucz do podpisu</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Klucze</translation>
+    </message>
+    <message>
+        <source>Parts of the update</source>
+        <translation>Części aktualizacji</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Część</translation>
+    </message>
+    <message>
+        <source>Release before</source>
+        <translation>Poprzednie wydanie</translation>
+    </message>
+    <message>
+        <source>New release (F2)</source>
+        <translation>Nowe wydanie (F2)</translation>
+    </message>
+    <message>
+        <source>No part is ticked</source>
+        <translation>Nie zaznaczono żadnej części</translation>
+    </message>
+    <message>
+        <source>The folder is missing</source>
+        <translation>Brakuje folderu</translation>
+    </message>
+    <message>
+        <source>Without a key nobody&apos;s program will take it, unless its configuration allows that</source>
+        <translation>Bez klucza żaden program jej nie przyjmie, chyba że pozwala na to jego konfiguracja</translation>
     </message>
 </context>
 <context>
@@ -8566,6 +8809,10 @@ własne oznaczenie</translation>
         <source>The file %1 cannot be written</source>
         <translation>Nie można zapisać pliku %1</translation>
     </message>
+    <message>
+        <source>An update cannot replace </source>
+        <translation>Aktualizacja nie może zastąpić </translation>
+    </message>
 </context>
 <context>
     <name>logWindow</name>
@@ -10341,6 +10588,14 @@ własne oznaczenie</translation>
         <source>OPTION_VAT_RATE</source>
         <translation>VAT w raporcie zamówienia [%] (puste: bez)</translation>
     </message>
+    <message>
+        <source>OPTION_UPDATE_ADDRESS</source>
+        <translation>Adres aktualizacji</translation>
+    </message>
+    <message>
+        <source>OPTION_UPDATE_UNSIGNED</source>
+        <translation>Aktualizacje bez podpisu</translation>
+    </message>
 </context>
 <context>
     <name>orderDocument</name>
@@ -11601,6 +11856,18 @@ własne oznaczenie</translation>
         <source>Your copy</source>
         <translation>Twoja kopia</translation>
     </message>
+    <message>
+        <source>The updated program has not started completely. Go back to the one before it?</source>
+        <translation>Zaktualizowany program nie uruchomił się w całości. Wrócić do poprzedniego?</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Wróć</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
 </context>
 <context>
     <name>supplierBasket</name>
@@ -11677,6 +11944,388 @@ własne oznaczenie</translation>
     <message>
         <source>%1: dates from %2 to %3</source>
         <translation>%1: daty od %2 do %3</translation>
+    </message>
+</context>
+<context>
+    <name>updateWindow</name>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>What is on offer</source>
+        <translation>Co jest do pobrania</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Część</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Tutaj</translation>
+    </message>
+    <message>
+        <source>On offer</source>
+        <translation>Do pobrania</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Rozmiar</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Co nowego</translation>
+    </message>
+    <message>
+        <source>What it changes here</source>
+        <translation>Co tutaj zmienia</translation>
+    </message>
+    <message>
+        <source>What it changes here is shown once it is downloaded, before it is put in place</source>
+        <translation>Co tutaj zmienia, widać po pobraniu, przed umieszczeniem na miejscu</translation>
+    </message>
+    <message>
+        <source>The configuration names no address of updates</source>
+        <translation>Konfiguracja nie podaje adresu aktualizacji</translation>
+    </message>
+    <message>
+        <source>Looking for updates</source>
+        <translation>Szukanie aktualizacji</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznane</translation>
+    </message>
+    <message>
+        <source>newer</source>
+        <translation>nowsza</translation>
+    </message>
+    <message>
+        <source>lower than here</source>
+        <translation>niższa niż tutaj</translation>
+    </message>
+    <message>
+        <source>as it is here</source>
+        <translation>taka jak tutaj</translation>
+    </message>
+    <message>
+        <source>There is something newer</source>
+        <translation>Jest coś nowszego</translation>
+    </message>
+    <message>
+        <source>Everything is up to date</source>
+        <translation>Wszystko jest aktualne</translation>
+    </message>
+    <message>
+        <source>made on %1</source>
+        <translation>utworzono %1</translation>
+    </message>
+    <message>
+        <source>signed with the key that came with the program</source>
+        <translation>podpisano kluczem dołączonym do programu</translation>
+    </message>
+    <message>
+        <source>nobody signed it</source>
+        <translation>nikt tego nie podpisał</translation>
+    </message>
+    <message>
+        <source>nothing is ticked</source>
+        <translation>nic nie zaznaczono</translation>
+    </message>
+    <message>
+        <source>no update has replaced anything</source>
+        <translation>żadna aktualizacja niczego nie zastąpiła</translation>
+    </message>
+    <message>
+        <source>Downloading</source>
+        <translation>Pobieranie</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was changed</source>
+        <translation>Anulowano; niczego nie zmieniono</translation>
+    </message>
+    <message>
+        <source>Comparing</source>
+        <translation>Porównywanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n BOM list(s)</source>
+        <translation>
+            <numerusform>%n lista materiałów</numerusform>
+            <numerusform>%n listy materiałów</numerusform>
+            <numerusform>%n list materiałów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order(s) with materials that change</source>
+        <translation>
+            <numerusform>%n zamówienie z materiałami, które się zmieniają</numerusform>
+            <numerusform>%n zamówienia z materiałami, które się zmieniają</numerusform>
+            <numerusform>%n zamówień z materiałami, które się zmieniają</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2 added, %3 changed, %4 removed</source>
+        <translation>%1: dodano %2, zmieniono %3, usunięto %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of the program</source>
+        <translation>
+            <numerusform>%n plik programu</numerusform>
+            <numerusform>%n pliki programu</numerusform>
+            <numerusform>%n plików programu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save or close what is changed first; an update merges files as they are saved.</source>
+        <translation>Najpierw zapisz lub zamknij to, co zmieniono; aktualizacja scala pliki w zapisanej postaci.</translation>
+    </message>
+    <message>
+        <source>Put the update in place? The program is begun anew then.</source>
+        <translation>Umieścić aktualizację na miejscu? Program uruchomi się potem ponownie.</translation>
+    </message>
+    <message>
+        <source>Put the update in place?</source>
+        <translation>Umieścić aktualizację na miejscu?</translation>
+    </message>
+    <message>
+        <source>Put it in place</source>
+        <translation>Umieść na miejscu</translation>
+    </message>
+    <message>
+        <source>The update is in place</source>
+        <translation>Aktualizacja jest na miejscu</translation>
+    </message>
+    <message>
+        <source>Data are read again at the next start. Begin the program anew now?</source>
+        <translation>Dane zostaną wczytane ponownie przy następnym uruchomieniu. Uruchomić program ponownie teraz?</translation>
+    </message>
+    <message>
+        <source>Go back from version %1 to %2? The program is begun anew; data stay as they are.</source>
+        <translation>Wrócić z wersji %1 do %2? Program uruchomi się ponownie; dane pozostają bez zmian.</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Wróć</translation>
+    </message>
+</context>
+<context>
+    <name>updates</name>
+    <message>
+        <source>Line %1 of the list of files is damaged</source>
+        <translation>Wiersz %1 listy plików jest uszkodzony</translation>
+    </message>
+    <message>
+        <source>%1 is not in the list of files</source>
+        <translation>%1 nie ma na liście plików</translation>
+    </message>
+    <message>
+        <source>%1 is not the file that the list of files names</source>
+        <translation>%1 nie jest plikiem z listy plików</translation>
+    </message>
+    <message>
+        <source>%1 cannot be run</source>
+        <translation>Nie można uruchomić %1</translation>
+    </message>
+    <message>
+        <source>%1 refuses it</source>
+        <translation>%1 to odrzuca</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>Brakuje %1</translation>
+    </message>
+    <message>
+        <source>%1 is there already</source>
+        <translation>%1 już istnieje</translation>
+    </message>
+    <message>
+        <source>Another program is updating, or cannot write %1</source>
+        <translation>Inny program właśnie aktualizuje albo nie może zapisać %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced now; it is replaced at the next start</source>
+        <translation>Nie można teraz zastąpić %1; nastąpi to przy następnym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>There is no version to go back to</source>
+        <translation>Nie ma wersji, do której można wrócić</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not newer than %3</source>
+        <translation>%1: %2 nie jest nowsze niż %3</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen</source>
+        <translation>Nic nie wybrano</translation>
+    </message>
+    <message>
+        <source>%1 leads out of the folder</source>
+        <translation>%1 prowadzi poza folder</translation>
+    </message>
+    <message>
+        <source>%1 is no address of secure copy</source>
+        <translation>%1 nie jest adresem bezpiecznego kopiowania</translation>
+    </message>
+    <message>
+        <source>It was cancelled</source>
+        <translation>Anulowano</translation>
+    </message>
+    <message>
+        <source>%1 is open elsewhere: %2</source>
+        <translation>%1 jest otwarty gdzie indziej: %2</translation>
+    </message>
+    <message>
+        <source>was changed here, and is not removed</source>
+        <translation>zmieniono tutaj, plik nie zostanie usunięty</translation>
+    </message>
+    <message>
+        <source>was changed here, and stays as it is</source>
+        <translation>zmieniono tutaj, plik pozostaje bez zmian</translation>
+    </message>
+    <message>
+        <source>%1 cannot be merged</source>
+        <translation>Nie można scalić %1</translation>
+    </message>
+    <message>
+        <source>was changed here, and merged</source>
+        <translation>zmieniono tutaj, scalono</translation>
+    </message>
+    <message numerus="yes">
+        <source>was changed here, and merged; %n text(s) stay yours</source>
+        <translation>
+            <numerusform>zmieniono tutaj, scalono; %n tekst pozostaje Twój</numerusform>
+            <numerusform>zmieniono tutaj, scalono; %n teksty pozostają Twoje</numerusform>
+            <numerusform>zmieniono tutaj, scalono; %n tekstów pozostaje Twoich</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>BOM lists</source>
+        <translation>Listy materiałów</translation>
+    </message>
+    <message>
+        <source>Register of firms</source>
+        <translation>Rejestr firm</translation>
+    </message>
+    <message>
+        <source>Database of services</source>
+        <translation>Baza usług</translation>
+    </message>
+    <message>
+        <source>Database of the warehouse</source>
+        <translation>Baza magazynu</translation>
+    </message>
+    <message>
+        <source>Database of mechanics</source>
+        <translation>Baza mechaniki</translation>
+    </message>
+    <message>
+        <source>%1 is no name of a file</source>
+        <translation>%1 nie jest nazwą pliku</translation>
+    </message>
+    <message>
+        <source>Command %1, &quot;%2&quot;: %3</source>
+        <translation>Polecenie %1, „%2”: %3</translation>
+    </message>
+    <message>
+        <source>it is not known</source>
+        <translation>jest nieznane</translation>
+    </message>
+    <message>
+        <source>%1 cannot be unpacked: %2</source>
+        <translation>Nie można rozpakować %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no file</source>
+        <translation>%1 nie jest plikiem</translation>
+    </message>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 jest folderem</translation>
+    </message>
+    <message>
+        <source>%1 may not be changed</source>
+        <translation>Nie wolno zmieniać %1</translation>
+    </message>
+    <message>
+        <source>it is not signed</source>
+        <translation>nie jest podpisana</translation>
+    </message>
+    <message>
+        <source>The update is refused: %1</source>
+        <translation>Aktualizacja odrzucona: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not on offer</source>
+        <translation>%1: brak w aktualizacji</translation>
+    </message>
+    <message>
+        <source>The program&apos;s folder cannot be written: the package is %1</source>
+        <translation>Nie można zapisywać w folderze programu: pakiet to %1</translation>
+    </message>
+    <message>
+        <source>%1 is larger than it should be</source>
+        <translation>%1 jest większy, niż powinien</translation>
+    </message>
+    <message>
+        <source>%1 broke off</source>
+        <translation>%1: przerwano</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 nie odpowiada</translation>
+    </message>
+    <message>
+        <source>The configuration has no account of the server</source>
+        <translation>Konfiguracja nie ma konta serwera</translation>
+    </message>
+    <message>
+        <source>%1 is no address of updates</source>
+        <translation>%1 nie jest adresem aktualizacji</translation>
+    </message>
+    <message>
+        <source>%1 leads away from the address</source>
+        <translation>%1 prowadzi poza adres</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>nie można odczytać</translation>
+    </message>
+    <message>
+        <source>The folder is missing</source>
+        <translation>Brakuje folderu</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no release, as 12 or 1.4 is</source>
+        <translation>%1: „%2” nie jest wydaniem, takim jak 12 lub 1.4</translation>
+    </message>
+    <message>
+        <source>%1: the file is missing: %2</source>
+        <translation>%1: brak pliku: %2</translation>
+    </message>
+    <message>
+        <source>%1 lies outside of %2</source>
+        <translation>%1 leży poza %2</translation>
+    </message>
+    <message>
+        <source>it cannot be replaced</source>
+        <translation>nie można zastąpić</translation>
+    </message>
+    <message>
+        <source>the files before are in %1</source>
+        <translation>poprzednie pliki są w %1</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>trwało to zbyt długo</translation>
     </message>
 </context>
 <context>

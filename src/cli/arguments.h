@@ -150,6 +150,7 @@ extern const subcommand offersCommand;
 extern const subcommand requestCommand;
 extern const subcommand mailCommand;
 extern const subcommand helpersCommand;
+extern const subcommand updateCommandOf;
 extern const subcommand downloadCommand;
 extern const subcommand uploadCommand;
 extern const subcommand packCommand;

@@ -21,6 +21,7 @@ const QList<const cli::subcommand *> &commands()
         &cli::bomImportCommand,      &cli::bomDiffCommand,      &cli::bomReserveCommand,
         &cli::bomBuiltCommand,       &cli::reservationsCommand, &cli::mailCommand,
         &cli::helpersCommand,        &cli::downloadCommand,     &cli::uploadCommand,
+        &cli::updateCommandOf,
         &cli::packCommand,           &cli::unpackCommand,       &cli::versionsCommand,
         &cli::checkCommand,          &cli::setFieldCommand,     &cli::materialCommand,
         &cli::examineLinksCommand,   &cli::firmMergeCommand,    &cli::replaceMaterialCommand,

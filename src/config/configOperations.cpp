@@ -37,6 +37,7 @@ constexpr typeRow types[] = {
     {optionKey::archivePassword, {optionKind::password}},
     {optionKey::serverUserPassword, {optionKind::password}},
     {optionKey::openReportHtml, {optionKind::yesNo}},
+    {optionKey::updateUnsigned, {optionKind::yesNo}},
     {word("EDIT_"), {optionKind::yesNo}},
     {word("LOAD_"), {optionKind::yesNo, 0, 0, true}},
     {word("THRESHOLD_"), {optionKind::number, 0, percent}},

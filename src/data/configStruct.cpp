@@ -72,7 +72,9 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::bomAttrition, "", ""},
     {optionKey::bomMultiple, "", ""},
     {optionKey::orderThresholds, "", ""},
-    {optionKey::vatRate, "", "%"}};
+    {optionKey::vatRate, "", "%"},
+    {optionKey::updateAddress, "", ""},
+    {optionKey::updateUnsigned, "NIE", ""}};
 
 } // namespace
 

@@ -2,7 +2,6 @@
 
 #include "bom/Kiv_bomWindow.h"
 #include "config/configWindow.h"
-#include "data/kiv_infoStruct.h"
 #include "data/lineSums.h"
 #include "data/loaders.h"
 #include "data/programData.h"
@@ -22,6 +21,7 @@
 #include "tree/myHeaderView.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "update/updateWindow.h"
 #include "util/desktop.h"
 #include "util/labels.h"
 #include "util/messages.h"
@@ -43,7 +43,6 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <QVersionNumber>
 
 namespace {
 
@@ -222,6 +221,16 @@ const windowAction<MainWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "What the orders of a year come to, by CPV, target or supplier"),
       true},
      &MainWindow::commandAnnualPlan},
+    {{"update", "Tools", QT_TRANSLATE_NOOP("actions", "Update"), "action_refresh", nullptr,
+      QT_TRANSLATE_NOOP("actions", "See what is newer at the address of updates, and install it")},
+     &MainWindow::commandUpdate},
+    {{"createUpdate", "Tools", QT_TRANSLATE_NOOP("actions", "CreateUpdate"), "action_archive",
+      nullptr,
+      QT_TRANSLATE_NOOP("actions", "Make an update of the program and the data as they are here")},
+     &MainWindow::commandCreateUpdate},
+    {{"updateDesc", "Tools", QT_TRANSLATE_NOOP("actions", "UpdateDesc"), "action_edit", nullptr,
+      QT_TRANSLATE_NOOP("actions", "Say what is new in the update that is made next")},
+     &MainWindow::commandUpdateDesc},
     {{"messageTemplate", "Tools", QT_TRANSLATE_NOOP("actions", "Message template"), "action_mail",
       nullptr, QT_TRANSLATE_NOOP("actions", "Edit the text that goes along with an order")},
      &MainWindow::commandMessageTemplate},
@@ -652,19 +661,6 @@ void MainWindow::commandHelp(bool)
 void MainWindow::commandAbout(bool) { aboutDialog(logos::logo(), this).exec(); }
 
 void MainWindow::commandExit(bool) { close(); }
-
-// Tells of a newer program named by the information file that lies beside this one.
-void MainWindow::checkUpdate()
-{
-    const QString path = paths::beside(QStringLiteral("kiv_info.xml"));
-    kiv_infoStruct info;
-    if (!QFileInfo::exists(path) || !readChecked(path, &info))
-        return;
-    if (QVersionNumber::fromString(info.kivVersion)
-        > QVersionNumber::fromString(QCoreApplication::applicationVersion()))
-        userPrompts().log(messages::done(tr("A newer version is available "), info.kivVersion,
-                                         info.kivServerLink));
-}
 
 void MainWindow::deletePressed(const myTreeView *view)
 {

@@ -1,8 +1,8 @@
 // The main window: the open order and the ways to everything else. Construction and what concerns
 // the program stand in MainWindow.cpp, the order's life in MainWindowOrder.cpp, its lines in
 // MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp, what was left unsaved in
-// MainWindowRecovery.cpp, the register of orders in MainWindowOrders.cpp, and what becomes of an
-// order later in MainWindowPurchase.cpp.
+// MainWindowRecovery.cpp, the register of orders in MainWindowOrders.cpp, what becomes of an
+// order later in MainWindowPurchase.cpp, and updates in MainWindowUpdate.cpp.
 #pragma once
 
 #include "bom/boardStock.h"
@@ -35,6 +35,7 @@ class orderRegister;
 class requestsWindow;
 class orderView;
 class ordersWindow;
+class updateWindow;
 class versionsWindow;
 struct fileKind;
 struct keptCopy;
@@ -68,6 +69,8 @@ public:
     void endNow();
 
     bool isModified() const override;
+    // Whether it was closed for the program to begin anew.
+    bool beginsAnew() const { return m_beginsAnew; }
     bool storeRecovery() override;
     void leaveUnsaved() override;
 
@@ -138,6 +141,9 @@ public slots:
     void commandAbout(bool);
     void commandExit(bool);
     void checkUpdate();
+    void commandUpdate(bool);
+    void commandCreateUpdate(bool);
+    void commandUpdateDesc(bool);
     void configChange();
 
     // Appends a line for each material; those of shipment and service that the order holds already
@@ -272,6 +278,8 @@ private:
     std::unique_ptr<annualPlanWindow> m_plan;
     std::unique_ptr<offersWindow> m_offers;
     std::unique_ptr<requestsWindow> m_requests;
+    std::unique_ptr<updateWindow> m_update;
+    bool m_beginsAnew = false;
     annualPlan::yearSums m_yearSums;
     addMaterialDialog *m_addMaterial = nullptr;
     std::array<std::unique_ptr<Kiv_mat_databaseWindow>, programData::databaseCount> m_databases;

@@ -18,6 +18,7 @@
 #include "report/pdfPrinter.h"
 #include "tree/myTextEdit.h"
 #include "tree/myTreeView.h"
+#include "update/updateWindow.h"
 #include "util/desktop.h"
 #include "util/fileVersions.h"
 #include "util/files.h"
@@ -353,6 +354,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_offers->close();
     if (m_requests)
         m_requests->close();
+    if (m_update)
+        m_update->close();
     logWindow::instance().hideNow();
     errorsWindow::instance().hideNow();
     pendingSysCommands::executeAll();

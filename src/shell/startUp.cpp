@@ -6,6 +6,7 @@
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
+#include "update/updateJournal.h"
 #include "util/dataFolder.h"
 #include "util/endSignals.h"
 #include "util/labels.h"
@@ -22,6 +23,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontMetrics>
+#include <QProcess>
 #include <QSessionManager>
 
 namespace {
@@ -135,6 +137,34 @@ void settleDataFolder()
     offerNewerFiles(choice.dir);
 }
 
+void beginAnew() { QProcess::startDetached(QCoreApplication::applicationFilePath(), {}); }
+
+// Finishes an update that was broken off, before anything of it is read; this program may be the
+// one before it then. True when it is to begin anew.
+bool settleUpdate()
+{
+    const QString root = paths::programDir();
+    const updateJournal::settled result = updateJournal::settle(root);
+    for (const QString &path : result.faults)
+        userPrompts().listError(messages::failed(
+            QCoreApplication::translate("log", "An update cannot replace "), path));
+    if (result.wasUnfinished)
+        return true;
+    if (!updateJournal::beginsAgain(root)
+        || userPrompts().decide(
+               QCoreApplication::translate("startUp", "The updated program has not started "
+                                                      "completely. Go back to the one before it?")
+                   .toHtmlEscaped(),
+               {QCoreApplication::translate("startUp", "Go back"),
+                QCoreApplication::translate("startUp", "Try again")})
+               != 0)
+        return false;
+    const QString fault = updateJournal::goBack(root);
+    if (!fault.isEmpty())
+        userPrompts().showError(fault.toHtmlEscaped());
+    return fault.isEmpty();
+}
+
 // What killed programs left of saving; orders follow when they are opened.
 void clearLeftSaves()
 {
@@ -171,6 +201,11 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     dialogPrompts dialogs;
     installPrompts(&dialogs);
 
+    if (settleUpdate()) {
+        installPrompts(nullptr);
+        beginAnew();
+        return 0;
+    }
     auto dialog = std::make_unique<startupDialog>();
     splash::hold(dialog.get());
     constexpr int stepsBeforeLoading = 10;
@@ -217,7 +252,10 @@ int runProgram(int &argc, char **argv, const std::function<void(MainWindow &)> &
     state.runningMarker.clear();
     state.save();
     scratch::remove();
+    const bool beginsAnew = window->beginsAnew();
     window.reset();
+    if (beginsAnew)
+        beginAnew();
     installPrompts(nullptr);
     qInstallMessageHandler(earlierHandler);
     return code;

@@ -9,7 +9,7 @@
 
 namespace helpers {
 
-QStringList all() { return {curl, pscp, zip, unzip, htmlToDocPdf, templateDoc}; }
+QStringList all() { return {curl, pscp, zip, unzip, minisign, htmlToDocPdf, templateDoc}; }
 
 QString path(const QString &name)
 {

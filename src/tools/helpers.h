@@ -11,6 +11,7 @@ inline const QLatin1String curl("_bin/curl.exe");
 inline const QLatin1String pscp("_bin/pscp.exe");
 inline const QLatin1String zip("_bin\\zip.exe");
 inline const QLatin1String unzip("_bin\\unzip.exe");
+inline const QLatin1String minisign("_bin/minisign.exe");
 inline const QLatin1String htmlToDocPdf("KIV_HTML_TO_DOC_PDF.exe");
 inline const QLatin1String templateDoc("KIV_TEMPLATE_DOC.exe");
 

@@ -92,6 +92,9 @@ const scenario actions[] = {
     {"", "#annualPlan", "front = Annual plan"},
     {"", "#requests", "front ~ Requests for quotation for "},
     {"", "#offers", "front ~ Offers for "},
+    {"", "#update", "front = Update; state ~ names no address"},
+    {"", "#createUpdate Escape", "boxes = Make an update"},
+    {"", "#updateDesc 'Nowe ceny' !OK", "file _config/update_description.html ~ Nowe ceny"},
     {"", "#lastPrices", "status = None of these materials was ordered before"},
     {"", "#delivery 'WZ 7' Alt+N", "status = 15 lines delivered; orderLines@20,13 ~ WZ 7, ", edits},
     // Of one line a part came: the rest stands behind it, and one step takes it back.
