@@ -13,22 +13,24 @@ WIDTH, BOX, HEIGHT, STEP, TOP = 1000, 190, 54, 92, 56
 places = {
     "shell": (300, 0, "start-up, main window"),
     "cli": (560, 0, "kivzp-cli"),
-    "bom": (150, 1, "BOM lists"),
     "database": (360, 1, "material database"),
-    "firm": (570, 2, "firm register"),
+    "update": (570, 1, "fetched, merged, in place"),
     "config": (780, 1, "configuration"),
-    "order": (360, 2, "the order"),
-    "dialogs": (570, 3, "dialogs of no subsystem"),
-    "window": (780, 4, "editWindow, progress, log"),
-    "commands": (780, 5, "undo history, edits"),
-    "report": (150, 6, "pages, PDF"),
-    "mail": (465, 6, "messages"),
-    "tree": (780, 6, "cells, model, views"),
-    "tools": (255, 7, "child processes"),
-    "data": (570, 7, "records, files, schemas"),
-    "util": (412, 8, "numbers, text, prompts"),
+    "orders": (360, 2, "register, offers, plan"),
+    "bom": (150, 3, "BOM lists"),
+    "firm": (700, 3, "firm register"),
+    "order": (360, 4, "the order"),
+    "dialogs": (570, 5, "dialogs of no subsystem"),
+    "window": (780, 6, "editWindow, progress, log"),
+    "commands": (780, 7, "undo history, edits"),
+    "report": (150, 8, "pages, PDF"),
+    "mail": (465, 8, "messages"),
+    "tree": (780, 8, "cells, model, views"),
+    "tools": (255, 9, "child processes"),
+    "data": (570, 9, "records, files, schemas"),
+    "util": (412, 10, "numbers, text, prompts"),
 }
-layers = ["programs", "subsystems", "", "", "editing", "", "pages, cells", "records", "helpers"]
+layers = ["programs", "subsystems", "", "", "", "", "editing", "", "pages, cells", "records", "helpers"]
 colours = {"core": "#d9ead3", "both": "#fff2cc", "gui": "#d0e0f5", "programs": "#eeeeee"}
 
 
