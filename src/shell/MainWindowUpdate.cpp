@@ -12,6 +12,7 @@
 #include "window/workProgress.h"
 
 #include <QDir>
+#include <QTimer>
 
 namespace {
 
@@ -24,6 +25,12 @@ QString descriptionPath() { return paths::data(QStringLiteral("_config/update_de
 // worked with meanwhile.
 void MainWindow::checkUpdate()
 {
+    // The start-up lets events through before the window is there.
+    if (!isVisible()) {
+        constexpr int againMs = 200;
+        QTimer::singleShot(againMs, this, &MainWindow::checkUpdate);
+        return;
+    }
     updateJournal::noteStarted(paths::programDir());
     const updates::settings with = updates::settingsOf(known().config());
     if (with.address.isEmpty())

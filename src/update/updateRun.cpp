@@ -68,7 +68,6 @@ public:
             QFile::remove(target);
         return fault;
     }
-    bool isCancelled() const { return m_source.isCancelled(); }
 
 private:
     updateSource m_source;
@@ -173,8 +172,11 @@ public:
         : m_with(with)
         , m_from(from)
         , m_wanted(wanted)
-        , m_progress(progress)
         , m_source(with, from.sums)
+        , m_progress([this, progress](long long done, long long total) {
+            m_cancelled = m_cancelled || (progress && !progress(done, total));
+            return !m_cancelled;
+        })
     {
     }
 
@@ -192,9 +194,8 @@ public:
         if (!readScript(&script, &fault))
             return refused(fault);
         m_made.what = planOf(script, means());
-        if (!m_made.what.faults.isEmpty() || m_made.what.isCancelled || m_source.isCancelled()) {
+        if (!m_made.what.faults.isEmpty() || m_cancelled) {
             m_made.faults = m_made.what.faults;
-            m_made.isCancelled = m_made.what.isCancelled || m_source.isCancelled();
             return refused({});
         }
         fault = mergeUsers(root, m_made.scratch, &m_made.what.changes, &m_made.told, m_progress);
@@ -208,6 +209,7 @@ private:
     {
         if (!fault.isEmpty())
             m_made.faults.append(fault);
+        m_made.isCancelled = m_cancelled;
         if (!m_made.scratch.isEmpty())
             updateJournal::discard(m_made.scratch);
         m_made.scratch.clear();
@@ -306,8 +308,9 @@ private:
     const settings &m_with;
     const offer &m_from;
     const std::set<part> &m_wanted;
-    const progressFunction &m_progress;
     checkedSource m_source;
+    const progressFunction m_progress; // which notes that the user has cancelled
+    bool m_cancelled = false;
     prepared m_made;
 };
 

@@ -232,11 +232,14 @@ bool updateWindow::fetch()
         return false;
     }
     m_preparedParts = parts;
-    showPrepared();
-    return true;
+    if (showPrepared())
+        return true;
+    drop();
+    tell(tr("Cancelled; nothing was changed"));
+    return false;
 }
 
-void updateWindow::showPrepared()
+bool updateWindow::showPrepared()
 {
     QStringList lines;
     int program = 0;
@@ -253,6 +256,8 @@ void updateWindow::showPrepared()
         uses.follow(filesOf(m_known.boms(), m_known.boms().filePath), orders);
         while (work.function()(0, 0) && uses.readNext()) {
         }
+        if (work.cancelled())
+            return false;
         const touched those = touchedBy(all, uses);
         if (those.lists + those.orders > 0)
             lines.append(tr("%n BOM list(s)", nullptr, those.lists) + QLatin1String(", ")
@@ -268,6 +273,7 @@ void updateWindow::showPrepared()
     if (m_preparedParts.count(updates::program) > 0)
         lines.append(tr("%n file(s) of the program", nullptr, program));
     m_changes->setPlainText(lines.join(QLatin1Char('\n')));
+    return true;
 }
 
 void updateWindow::commandInstall(bool)

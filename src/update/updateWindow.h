@@ -37,7 +37,8 @@ private:
     void updateActions();
     std::set<updates::part> ticked() const;
     bool fetch();
-    void showPrepared();
+    // False when the user has cancelled it.
+    bool showPrepared();
     void drop();
     void tell(const QString &text);
 
