@@ -9,6 +9,8 @@ foreach(dir _config _files _zp _e-mail)
         if(NOT EXISTS "${root}/${file}")
             get_filename_component(folder "${file}" DIRECTORY)
             file(COPY "${source}/${file}" DESTINATION "${root}/${folder}")
+            # The first update is compared with what was installed.
+            file(COPY "${source}/${file}" DESTINATION "${root}/update/base/${folder}")
         endif()
     endforeach()
 endforeach()

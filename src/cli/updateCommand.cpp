@@ -177,12 +177,12 @@ int installOffer(const parser &given, const updateOptions &known, setting &of)
     return fault.isEmpty() ? int(done) : cannotWrite(of.root, fault);
 }
 
-int goBack(const setting &of)
+int back(const setting &of)
 {
     QString before;
     QString version;
     updateJournal::stageOf(of.root, &version, &before);
-    if (const QString fault = updateJournal::goBack(of.root); !fault.isEmpty())
+    if (const QString fault = updates::goBack(of.root); !fault.isEmpty())
         return refuse(fault);
     out() << version << " -> " << before << '\n' << Qt::flush;
     return done;
@@ -305,7 +305,7 @@ int runUpdate(const QStringList &arguments)
     if (verb == QLatin1String("install"))
         return installOffer(given, known, of);
     if (verb == QLatin1String("back"))
-        return goBack(of);
+        return back(of);
     if (verb == QLatin1String("settle"))
         return settleNow(of);
     return verb == QLatin1String("create") ? create(given, known, of, words[1])

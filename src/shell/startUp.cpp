@@ -6,7 +6,7 @@
 #include "shell/MyProxyStyle.h"
 #include "shell/cleanScript.h"
 #include "shell/startupDialog.h"
-#include "update/updateJournal.h"
+#include "update/updateRun.h"
 #include "util/dataFolder.h"
 #include "util/endSignals.h"
 #include "util/labels.h"
@@ -159,7 +159,7 @@ bool settleUpdate()
                 QCoreApplication::translate("startUp", "Try again")})
                != 0)
         return false;
-    const QString fault = updateJournal::goBack(root);
+    const QString fault = updates::goBack(root);
     if (!fault.isEmpty())
         userPrompts().showError(fault.toHtmlEscaped());
     return fault.isEmpty();

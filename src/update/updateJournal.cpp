@@ -239,6 +239,9 @@ QStringList finish(const QString &root, journal of)
     if (isBack ? !QFile::remove(journalPath(root)) : !write(root, of).isEmpty())
         return {QDir::toNativeSeparators(journalPath(root))};
     removeOthers(root, isBack ? QString() : of.folder);
+    // Only what was replaced is of use any more.
+    for (const char *name : {"/new", "/temp"})
+        files::removeFolder(root + QLatin1Char('/') + of.folder + QLatin1String(name));
     return {};
 }
 

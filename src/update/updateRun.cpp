@@ -294,6 +294,7 @@ private:
         }
         return addDocument(QStringLiteral("cleanScript.xml"), later);
     }
+    // The data's releases stay when the program goes back.
     QString addDocument(const QString &place, const documentStruct &document)
     {
         const QString path = m_made.scratch + QLatin1String("/new/") + place;
@@ -301,7 +302,7 @@ private:
         if (saveXmlNoEvents(path, &document, &fault) < 0)
             return QDir::toNativeSeparators(path) + QLatin1String(": ") + fault;
         // Before the program itself, which is the last.
-        m_made.what.changes.insert(m_made.what.changes.begin(), {place, path, true});
+        m_made.what.changes.insert(m_made.what.changes.begin(), {place, path, place != infoName});
         return {};
     }
 
@@ -417,6 +418,28 @@ QString install(const prepared &of, configStruct &config)
     for (const QString &folder : of.what.foldersToRemove)
         QDir().rmdir(of.root + QLatin1Char('/') + folder);
     return {};
+}
+
+// The version is noted first: a program that is newer than that is known by itself.
+QString goBack(const QString &root)
+{
+    QString before;
+    const updateJournal::stage at = updateJournal::stageOf(root, nullptr, &before);
+    if (at != updateJournal::stage::installed && at != updateJournal::stage::started)
+        return updateJournal::goBack(root);
+    const QString path = root + QLatin1Char('/') + infoName;
+    const auto info = installed(root);
+    const auto note = [&](const QString &version) {
+        info->kivVersion = version;
+        if (QFileInfo::exists(path))
+            saveXmlNoEvents(path, info.get());
+    };
+    const QString version = info->kivVersion;
+    note(before);
+    const QString fault = updateJournal::goBack(root);
+    if (!fault.isEmpty() && updateJournal::stageOf(root) != updateJournal::stage::goingBack)
+        note(version);
+    return fault;
 }
 
 void discard(const prepared &of)

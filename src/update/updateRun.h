@@ -84,6 +84,9 @@ touched touchedBy(const std::vector<difference> &differences, const materialUses
 // Puts it in place. The reason when it is not; then all is as it was, or settled at the next start
 // (updateJournal::install()). Users' files are kept as earlier versions before.
 QString install(const prepared &of, configStruct &config);
+// Puts back the program that the installed version replaced; data, and their releases, stay. The
+// reason when it cannot be.
+QString goBack(const QString &root);
 // Removes what was fetched of one that is not wanted after all.
 void discard(const prepared &of);
 

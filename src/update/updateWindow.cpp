@@ -326,7 +326,7 @@ void updateWindow::commandBack(bool)
             {tr("Go back")}, true)
         != 0)
         return;
-    if (const QString fault = updateJournal::goBack(paths::programDir()); !fault.isEmpty()) {
+    if (const QString fault = updates::goBack(paths::programDir()); !fault.isEmpty()) {
         userPrompts().showError(fault.toHtmlEscaped());
         return;
     }

@@ -100,6 +100,10 @@ private slots:
         QCOMPARE(call({"back", "--folder", app()}).code, 0);
         textMap back = files(app());
         QCOMPARE(back.take("_files/firms.xml"), merged);
+        QVERIFY(back.take("kiv_info.xml").contains("<firm_server_release>7<"));
+        const ended again =
+            call({"check", "-a", m_folder->path("server"), "--folder", app(), "--key", m_folder->path("ours.pub")});
+        QVERIFY2(again.out.contains("99.1\tnewer") && again.out.contains("7\tthe same"), qPrintable(again.out));
         textMap wanted = before;
         wanted.remove("_files/firms.xml");
         QCOMPARE(back, wanted);
