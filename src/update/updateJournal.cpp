@@ -97,7 +97,7 @@ std::optional<journal> read(const QString &root)
     found.before = all.value(QLatin1String("before")).toString();
     found.begun = all.value(QLatin1String("begun")).toBool();
     bool isGood = isBelow(found.folder);
-    for (const QJsonValue &value : all.value(QLatin1String("files")).toArray()) {
+    for (const auto &value : all.value(QLatin1String("files")).toArray()) {
         const QJsonObject one = value.toObject();
         entry of{one.value(QLatin1String("place")).toString(),
                  one.value(QLatin1String("source")).toString(),
