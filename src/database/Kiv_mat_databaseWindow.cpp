@@ -355,6 +355,9 @@ void Kiv_mat_databaseWindow::begin()
 
 void Kiv_mat_databaseWindow::updateActions()
 {
+    // The history is made clean before there are any rows; this is called again once there are.
+    if (!m_rows)
+        return;
     allowWhenUnlocked({"update", "changeMaterials", "cutMaterials", "deleteMaterials", "addGroup",
                        "addMaterial", "editParameters", "editCpv", "fillDown", "parse", "loadCpv",
                        "moveCpv"});

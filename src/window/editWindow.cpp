@@ -55,6 +55,8 @@ editWindow::~editWindow()
 {
     // What is unsaved stays to be found.
     m_journal.reset();
+    // A window that goes while it is in front moves the focus when nothing of this is left.
+    qApp->disconnect(this);
     m_stack->changed = nullptr;
     m_stack->clear();
     // An editor that is still open commits when its view goes, and may be refused.
