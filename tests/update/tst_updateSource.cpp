@@ -81,7 +81,7 @@ private slots:
     // The account's password goes to the program alone.
     void secureCopy()
     {
-        m_folder->script("_bin/pscp.exe", "for last; do :; done; echo \"$@\" > args; echo no such file >&2; "
+        m_folder->script("_bin/pscp.exe", "for last; do :; done; echo no such file >&2; "
                                           "case \"$*\" in *missing*) exit 1;; esac; printf hello > \"$last\"");
         updateSource source("scp://host/srv/up", {"me", "secret", "SHA256:x"});
         QCOMPARE(source.fetch("n.zip", target(), 10), QString());
