@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -30,6 +31,7 @@ std::optional<fileSums> fileSums::read(const QByteArray &text, QString *fault)
     static const QRegularExpression form(
         QStringLiteral("^([0-9a-f]{64}) (\\d{1,15}) ([^/\\\\\\x00-\\x1f]+)$"));
     fileSums all;
+    QSet<QString> names; // a long list takes no longer for each of its lines
     int number = 0;
     for (const QByteArray &line : text.split('\n')) {
         ++number;
@@ -37,12 +39,13 @@ std::optional<fileSums> fileSums::read(const QByteArray &text, QString *fault)
         if (plain.trimmed().isEmpty() || plain.startsWith(QLatin1Char('#')))
             continue;
         const auto match = form.match(plain);
-        if (!match.hasMatch() || all.find(match.captured(3))) {
+        if (!match.hasMatch() || names.contains(match.captured(3))) {
             *fault =
                 QCoreApplication::translate("updates", "Line %1 of the list of files is damaged")
                     .arg(number);
             return {};
         }
+        names.insert(match.captured(3));
         all.m_all.push_back(
             {match.captured(3), match.captured(2).toLongLong(), match.captured(1).toLatin1()});
     }

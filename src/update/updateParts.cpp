@@ -5,8 +5,9 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QVersionNumber>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace updates {
@@ -33,11 +34,20 @@ const std::array<partRow, partCount> rows{{
      &info::mechanicsServerRelease, &info::mechanicsServerLink, optionKey::fileDbMechanics},
 }};
 
-QVersionNumber versionOf(const QString &release)
+// The numbers without leading zeros, and none of the zeros at the end but the first number; nothing
+// of any other text. They stay texts, since a date with a time is larger than an int.
+QStringList numbersOf(const QString &release)
 {
-    int end = 0;
-    const QVersionNumber version = QVersionNumber::fromString(release.trimmed(), &end);
-    return end == release.trimmed().size() ? version.normalized() : QVersionNumber();
+    static const QRegularExpression form(QStringLiteral("^[0-9]+(\\.[0-9]+)*$"));
+    static const QRegularExpression zeros(QStringLiteral("^0+"));
+    const QString plain = release.trimmed();
+    if (!form.match(plain).hasMatch())
+        return {};
+    QStringList numbers = plain.split(QLatin1Char('.'));
+    numbers.replaceInStrings(zeros, QString());
+    while (numbers.size() > 1 && numbers.last().isEmpty())
+        numbers.removeLast();
+    return numbers;
 }
 
 } // namespace
@@ -62,13 +72,14 @@ part partCalled(const QString &word)
 
 int compareReleases(const QString &one, const QString &other)
 {
-    const QVersionNumber first = versionOf(one);
-    const QVersionNumber second = versionOf(other);
-    // "0" is a release, no text is none.
-    const bool isFirst = !one.trimmed().isEmpty() && one.trimmed()[0].isDigit();
-    const bool isSecond = !other.trimmed().isEmpty() && other.trimmed()[0].isDigit();
-    const int order = QVersionNumber::compare(first, second);
-    return order != 0 ? order : int(isFirst) - int(isSecond);
+    const QStringList first = numbersOf(one);
+    const QStringList second = numbersOf(other);
+    for (int i = 0; i < std::min(first.size(), second.size()); ++i) {
+        const int longer = first[i].size() - second[i].size();
+        if (const int order = longer != 0 ? longer : first[i].compare(second[i]); order != 0)
+            return order;
+    }
+    return first.size() - second.size();
 }
 
 std::unique_ptr<kiv_infoStruct> installed(const QString &programDir)

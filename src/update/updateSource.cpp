@@ -234,6 +234,9 @@ QUrl updateSource::urlOf(const QString &link) const
         const bool isSafe =
             own.scheme() == m_base.scheme()
             || (m_base.scheme() == QLatin1String("http") && own.scheme() == QLatin1String("https"));
+        // The password is for one server.
+        if (own.scheme() == QLatin1String("scp") && own.host() != m_base.host())
+            return {};
         return isSafe && !m_base.isLocalFile() && !own.host().isEmpty() ? own : QUrl();
     }
     // A name at the address, or below it.

@@ -26,6 +26,8 @@ private slots:
         row("less safe", "https://a.pl/", "http://b.pl/n", "");
         row("this computer", "https://a.pl/", "file:///etc/passwd", "");
         row("from a folder", "/srv/", "file:///etc/passwd", "");
+        row("same server", "scp://h/srv", "scp://h/n.zip", "scp://h/n.zip");
+        row("another server gets no password", "scp://h/srv", "scp://other/n.zip", "");
         row("upwards", "https://a.pl/x/", "../n", "");
         row("root", "https://a.pl/x/", "/n", "");
         row("backslash", "/srv/", "..\\n", "");
@@ -96,9 +98,21 @@ private slots:
 
     void releasesAreCompared()
     {
-        const std::vector<std::tuple<const char *, const char *, int>> pairs{
-            {"1", "2", -1}, {"9", "10", -1}, {"1.2", "1.10", -1}, {"1.0", "1", 0},  {"2", "1.9.9", 1},
-            {"0", "", 1},   {"", "", 0},     {"x", "0", -1},      {"1.2b", "1", -1}};
+        const std::vector<std::tuple<const char *, const char *, int>> pairs{{"1", "2", -1},
+                                                                             {"9", "10", -1},
+                                                                             {"1.2", "1.10", -1},
+                                                                             {"1.0", "1", 0},
+                                                                             {"2", "1.9.9", 1},
+                                                                             {"0", "", 1},
+                                                                             {"", "", 0},
+                                                                             {"x", "0", -1},
+                                                                             {"1.2b", "1", -1},
+                                                                             {"1.2b", "0", -1},
+                                                                             {"1.2b", "", 0},
+                                                                             {"1.2b", "x", 0},
+                                                                             {"03", "3", 0},
+                                                                             {"202611261300", "202611261200", 1},
+                                                                             {"202611261300", "1", 1}};
         for (const auto &[one, other, order] : pairs) {
             QVERIFY2((updates::compareReleases(one, other) > 0) - (updates::compareReleases(one, other) < 0) == order,
                      one);
