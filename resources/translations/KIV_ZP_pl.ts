@@ -5697,6 +5697,10 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
         <source>Updates: looks for them, installs them, makes them.</source>
         <translation>Aktualizacje: szuka ich, instaluje je, tworzy je.</translation>
     </message>
+    <message>
+        <source>to read</source>
+        <translation>do przeczytania</translation>
+    </message>
 </context>
 <context>
     <name>commands</name>
@@ -12326,6 +12330,10 @@ własne oznaczenie</translation>
     <message>
         <source>it took too long</source>
         <translation>trwało to zbyt długo</translation>
+    </message>
+    <message>
+        <source>A file was changed meanwhile; nothing was put in place. Install it again</source>
+        <translation>Plik zmieniono w międzyczasie; niczego nie umieszczono na miejscu. Zainstaluj ponownie</translation>
     </message>
 </context>
 <context>

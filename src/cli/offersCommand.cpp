@@ -8,6 +8,7 @@
 #include "order/orderOperations.h"
 #include "orders/offerImport.h"
 #include "orders/offerReport.h"
+#include "orders/offerStoring.h"
 #include "orders/orderRegister.h"
 #include "orders/orderSplitting.h"
 #include "util/paths.h"

@@ -174,6 +174,8 @@ int installOffer(const parser &given, const updateOptions &known, setting &of)
         return done;
     }
     const QString fault = install(made, of.config);
+    for (const QString &place : made.what.toOpen)
+        out() << told(QT_TRANSLATE_NOOP("cli", "to read")) << '\t' << place << '\n' << Qt::flush;
     return fault.isEmpty() ? int(done) : cannotWrite(of.root, fault);
 }
 

@@ -11,7 +11,6 @@
 #include <array>
 #include <memory>
 
-class configStruct;
 class ktmIndex;
 
 namespace offerImport {
@@ -83,14 +82,5 @@ struct result
     QStringList notNamed; // keys of materials that no row is of
 };
 result offerOf(const sheet &of, const terms &known, const order &asked);
-
-// Keeps the file that came in the folder of the order's offers and writes the offer into its
-// offers file. Where the firm has an offer on the same request, or both are on none, this one is
-// refused unless it is to replace that; the file of the earlier one stays.
-// False, with nothing changed and the reason in fault, when that or the writing fails.
-// orderNumber: for an offers file that is not there yet. stored: gets the path of the copy.
-bool store(const offerStruct &offer, const QString &file, const QString &orderPath,
-           const QString &orderNumber, bool replaces, configStruct &config, QString *fault,
-           QString *stored = nullptr);
 
 } // namespace offerImport

@@ -5,6 +5,7 @@
 #include "data/programData.h"
 #include "data/vocabulary.h"
 #include "orders/importOfferDialog.h"
+#include "orders/offerStoring.h"
 #include "orders/orderRegister.h"
 #include "orders/orderSplitting.h"
 #include "orders/reportSaving.h"

@@ -7,6 +7,15 @@
 
 namespace KivScp {
 
+QString commandStart(const QString &password, const QString &hostKey)
+{
+    QString text = helpers::pscp + QLatin1String(" -P 22 -pw ") + helpers::argument(password)
+                   + QLatin1String(" -batch");
+    if (!hostKey.isEmpty())
+        text += QLatin1String(" -hostkey ") + helpers::argument(hostKey);
+    return text + QLatin1String(" -- ");
+}
+
 scp::scp(QObject *parent)
     : timedRunner(parent)
 {
@@ -48,12 +57,8 @@ void scp::log(const QString &text)
 // no colon in it is taken for a host, and nothing after "--" for an option.
 QString scp::command(const upload &job)
 {
-    QString text = helpers::pscp + QLatin1String(" -P 22 -pw ") + helpers::argument(job.password)
-                   + QLatin1String(" -batch");
-    if (!job.hostKey.isEmpty())
-        text += QLatin1String(" -hostkey ") + helpers::argument(job.hostKey);
-    return text + QLatin1String(" -- ") + helpers::quoted(QFileInfo(job.source).absoluteFilePath())
-           + QLatin1Char(' ')
+    return commandStart(job.password, job.hostKey)
+           + helpers::quoted(QFileInfo(job.source).absoluteFilePath()) + QLatin1Char(' ')
            + helpers::quoted(job.account + QLatin1Char('@') + job.host + QLatin1Char(':')
                              + job.target);
 }

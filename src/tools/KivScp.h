@@ -17,6 +17,9 @@ struct upload
     QString hostKey;
 };
 
+// pscp with what is the same for all copies, up to and with "--".
+QString commandStart(const QString &password, const QString &hostKey);
+
 class scp : public timedRunner
 {
     Q_OBJECT

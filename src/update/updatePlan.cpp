@@ -166,6 +166,32 @@ private:
 
     // A file comes to that place; staged lies in the scratch folder.
     void install(const QString &place, const QString &staged) { m_changes[place] = staged; }
+    // A file comes to a path of the script, written by write, which gives the reason when it is
+    // not.
+    QString bring(const QString &path, const std::function<QString(const QString &staged)> &write)
+    {
+        QString fault;
+        QString place;
+        const QString target = resolve(path, &fault, &place);
+        if (target.isEmpty())
+            return fault;
+        const QString staged = place.isEmpty() ? target : newStaged();
+        QDir().mkpath(QFileInfo(staged).absolutePath());
+        QFile::remove(staged);
+        fault = write(staged);
+        if (fault.isEmpty() && !place.isEmpty())
+            install(place, staged);
+        return fault;
+    }
+    // The place that a command names, which is not in the scratch folder.
+    QString placeOf(const commandStruct &command, QString *fault)
+    {
+        QString place;
+        if (!resolve(command.from, fault, &place).isEmpty() && place.isEmpty())
+            *fault = QCoreApplication::translate("updates", "%1 leads out of the folder")
+                         .arg(command.from);
+        return place;
+    }
 
     // --- Commands
 
@@ -175,17 +201,8 @@ private:
             m_unwanted.insert(command.to);
             return {};
         }
-        QString fault;
-        QString place;
-        const QString target = resolve(command.to, &fault, &place);
-        if (target.isEmpty())
-            return fault;
-        const QString staged = place.isEmpty() ? target : newStaged();
-        QDir().mkpath(QFileInfo(staged).absolutePath());
-        fault = m_with.fetch(command.from, staged);
-        if (fault.isEmpty() && !place.isEmpty())
-            install(place, staged);
-        return fault;
+        return bring(command.to,
+                     [&](const QString &staged) { return m_with.fetch(command.from, staged); });
     }
 
     QString extract(const commandStruct &command)
@@ -247,19 +264,12 @@ private:
         const QString from = source(command.from, &fault);
         if (from.isEmpty())
             return fault;
-        QString place;
-        const QString target = resolve(command.to, &fault, &place);
-        if (target.isEmpty())
-            return fault;
-        const QString staged = place.isEmpty() ? target : newStaged();
-        QDir().mkpath(QFileInfo(staged).absolutePath());
-        QFile::remove(staged);
-        QFile file(from);
-        if (!file.copy(staged))
-            return QDir::toNativeSeparators(staged) + QLatin1String(": ") + file.errorString();
-        if (!place.isEmpty())
-            install(place, staged);
-        return {};
+        return bring(command.to, [&from](const QString &staged) {
+            QFile file(from);
+            return file.copy(staged) ? QString()
+                                     : QDir::toNativeSeparators(staged) + QLatin1String(": ")
+                                           + file.errorString();
+        });
     }
 
     QString removeFile(const commandStruct &command)
@@ -311,33 +321,20 @@ private:
     QString restart(const commandStruct &command)
     {
         QString fault;
-        QString place;
-        if (resolve(command.from, &fault, &place).isEmpty())
-            return fault;
-        if (place.isEmpty())
-            return QCoreApplication::translate("updates", "%1 leads out of the folder")
-                .arg(command.from);
-        m_plan.restartWith = place;
-        return {};
+        m_plan.restartWith = placeOf(command, &fault);
+        return fault;
     }
     QString open(const commandStruct &command)
     {
         QString fault;
-        QString place;
-        if (resolve(command.from, &fault, &place).isEmpty())
-            return fault;
-        if (!place.isEmpty())
-            m_plan.toOpen.append(place);
-        return {};
+        m_plan.toOpen.append(placeOf(command, &fault));
+        return fault;
     }
     QString afterwards(const commandStruct &command)
     {
         QString fault;
-        QString place;
-        if (resolve(command.from, &fault, &place).isEmpty())
-            return fault;
-        m_plan.afterwards.emplace_back(command.name, place);
-        return {};
+        m_plan.afterwards.emplace_back(command.name, placeOf(command, &fault));
+        return fault;
     }
 
     // --- The whole

@@ -198,6 +198,11 @@ public:
             m_made.faults = m_made.what.faults;
             return refused({});
         }
+        for (const updateJournal::change &one : m_made.what.changes)
+            if (isUsers(one.place)) {
+                const QString path = root + QLatin1Char('/') + one.place;
+                m_made.merged.emplace_back(path, fileState::of(path));
+            }
         fault = mergeUsers(root, m_made.scratch, &m_made.what.changes, &m_made.told, m_progress);
         if (fault.isEmpty())
             fault = addOwnFiles();
@@ -405,8 +410,19 @@ touched touchedBy(const std::vector<difference> &differences, const materialUses
     return {lists.size(), orders.size()};
 }
 
+bool isOutdated(const prepared &of)
+{
+    return std::any_of(of.merged.begin(), of.merged.end(),
+                       [](const auto &one) { return fileState::of(one.first) != one.second; });
+}
+
 QString install(const prepared &of, configStruct &config)
 {
+    if (isOutdated(of)) {
+        discard(of);
+        return QCoreApplication::translate(
+            "updates", "A file was changed meanwhile; nothing was put in place. Install it again");
+    }
     for (const updateJournal::change &one : of.what.changes)
         if (const QString path = of.root + QLatin1Char('/') + one.place;
             isUsers(one.place) && QFileInfo::exists(path))

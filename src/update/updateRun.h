@@ -2,6 +2,7 @@
 // what it would change, and the change.
 #pragma once
 
+#include "data/documentSaving.h"
 #include "update/fileSums.h"
 #include "update/updateMerge.h"
 #include "update/updateParts.h"
@@ -53,7 +54,8 @@ struct prepared
     plan what;
     QString root;
     QString scratch;
-    QString version; // of the program, after it
+    QString version;                                   // of the program, after it
+    std::vector<std::pair<QString, fileState>> merged; // users' files as they were merged
 };
 // root: the folder of the program, or of the user's files where that cannot be written; the program
 // itself is updated only in the former. wanted: parts of the offer that are newer; others are
@@ -81,7 +83,11 @@ struct touched
 };
 touched touchedBy(const std::vector<difference> &differences, const materialUses &uses);
 
-// Puts it in place. The reason when it is not; then all is as it was, or settled at the next start
+// Whether a user's file has changed since it was merged.
+bool isOutdated(const prepared &of);
+
+// Puts it in place, unless it is outdated. The reason when it is not; then all is as it was, or
+// settled at the next start
 // (updateJournal::install()). Users' files are kept as earlier versions before.
 QString install(const prepared &of, configStruct &config);
 // Puts back the program that the installed version replaced; data, and their releases, stay. The

@@ -1,5 +1,6 @@
 #include "update/updateSource.h"
 
+#include "tools/KivScp.h"
 #include "tools/childRunner.h"
 #include "tools/helpers.h"
 #include "util/safeFile.h"
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QRegularExpression>
 #include <QTimer>
 
 namespace {
@@ -162,11 +164,7 @@ private:
     static QString command(const QUrl &url, const updateSource::login &account,
                            const QString &target)
     {
-        QString text = helpers::pscp + QLatin1String(" -P 22 -pw ")
-                       + helpers::argument(account.password) + QLatin1String(" -batch");
-        if (!account.hostKey.isEmpty())
-            text += QLatin1String(" -hostkey ") + helpers::argument(account.hostKey);
-        return text + QLatin1String(" -- ")
+        return KivScp::commandStart(account.password, account.hostKey)
                + helpers::quoted(account.account + QLatin1Char('@') + url.host() + QLatin1Char(':')
                                  + url.path(QUrl::FullyDecoded))
                + QLatin1Char(' ') + helpers::quoted(QFileInfo(target).absoluteFilePath());
@@ -214,15 +212,21 @@ updateSource::updateSource(const QString &address, login account)
     const QString plain = address.trimmed();
     m_base = QFileInfo(plain).isAbsolute() ? QUrl::fromLocalFile(QDir::cleanPath(plain))
                                            : QUrl(plain, QUrl::StrictMode);
+    const bool isValid = m_base.isValid();
     if (!m_base.path().endsWith(QLatin1Char('/')))
         m_base.setPath(m_base.path() + QLatin1Char('/'));
     const bool hasHost = !m_base.host().isEmpty();
     const bool isGood =
-        m_base.isValid()
-        && ((isWeb(m_base) && hasHost) || (m_base.scheme() == QLatin1String("scp") && hasHost)
+        isValid && m_base.userInfo().isEmpty()
+        && ((isWeb(m_base) && hasHost)
+            // The port is always that of secure copy.
+            || (m_base.scheme() == QLatin1String("scp") && hasHost && m_base.port() < 0)
             || (m_base.isLocalFile() && !hasHost));
+    // An account in it is not shown; it has options of its own.
+    static const QRegularExpression userInfo(QStringLiteral("//[^/]*@"));
     if (!isGood)
-        m_fault = QCoreApplication::translate("updates", "%1 is no address of updates").arg(plain);
+        m_fault = QCoreApplication::translate("updates", "%1 is no address of updates")
+                      .arg(QString(plain).replace(userInfo, QStringLiteral("//")));
 }
 
 QUrl updateSource::urlOf(const QString &link) const

@@ -3,6 +3,7 @@
 #include "data/materialUses.h"
 #include "data/programData.h"
 #include "data/vocabulary.h"
+#include "util/desktop.h"
 #include "util/labels.h"
 #include "util/paths.h"
 #include "util/prompts.h"
@@ -211,8 +212,9 @@ void updateWindow::drop()
 
 bool updateWindow::fetch()
 {
-    if (!m_prepared.scratch.isEmpty())
+    if (!m_prepared.scratch.isEmpty() && !isOutdated(m_prepared))
         return true;
+    drop();
     const std::set<part> parts = ticked();
     {
         workProgress::scope work(progress(), tr("Downloading"));
@@ -300,11 +302,15 @@ void updateWindow::commandInstall(bool)
     const prepared what = std::exchange(m_prepared, prepared());
     const QString fault = updates::install(what, m_known.config());
     drop();
-    if (!fault.isEmpty())
-        userPrompts().showError(fault.toHtmlEscaped());
     m_offer.parts = compare(*installed(paths::dataDir()), *m_offer.info);
     showOffer();
+    if (!fault.isEmpty()) {
+        userPrompts().showError(fault.toHtmlEscaped());
+        return;
+    }
     tell(tr("The update is in place"));
+    for (const QString &place : what.what.toOpen)
+        desktop::openFile(what.root + QLatin1Char('/') + place);
     if (restarts
         || userPrompts().ask(tr("Data are read again at the next start. Begin the "
                                 "program anew now?")

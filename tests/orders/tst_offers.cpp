@@ -3,6 +3,7 @@
 #include "bom/workbookReader.h"
 #include "orders/offerImport.h"
 #include "orders/offerReport.h"
+#include "orders/offerStoring.h"
 #include "orders/orderRegister.h"
 #include "orders/orderSplitting.h"
 #include "orders/quotationDocuments.h"

@@ -216,8 +216,7 @@ private slots:
         row("equal", "12", "", "12 is not newer than 12");
         row("equal in other words", "12.0", "", "12.0 is not newer than 12");
         row("lower", "9.9", "", "9.9 is not newer than 12");
-        row.each({"", "1x", "0", "13/../../x", "../13", "13 ", "-13"}, "<tag>", "",
-                 "is no release");
+        row.each({"", "1x", "0", "13/../../x", "../13", "13 ", "-13"}, "<tag>", "", "is no release");
         row("invalid file", "13", firms("\n<firm>\n<colour/></firm>"), "firms.xml: line 4, column ");
         row("no XML", "13", firms("\n<firm>\n<name></firm>"), "firms.xml: line 4, column ");
         row("empty file", "13", "\n", "firms.xml: ");

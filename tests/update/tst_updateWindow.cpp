@@ -80,6 +80,19 @@ private slots:
         look("title = closed");
     }
 
+    // What was merged is merged again when the file was changed since.
+    void filesChangeMeanwhile()
+    {
+        openWindow("~500 #update ~100");
+        work("Ctrl+Return ~200 Escape");
+        const QByteArray now = testSupport::read(file());
+        testSupport::write(file(),
+                           QByteArray(now).replace("</suppliers>", "<firm><name>Wlasny</name></firm></suppliers>"));
+        work("Ctrl+Return ~200 !Put_it_in_place ~200 !No");
+        const QByteArray saved = testSupport::read(file());
+        QVERIFY(saved.contains("Wlasny") && saved.contains("Nowy dostawca"));
+    }
+
     // What another program changed meanwhile is refused, and nothing is changed.
     void damagedPackages()
     {
