@@ -828,6 +828,27 @@
             <numerusform>Restored as it was %1, not saved: %n records</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n change(s) fetched</source>
+        <translation>
+            <numerusform>%n change fetched</numerusform>
+            <numerusform>%n changes fetched</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sent</source>
+        <translation>
+            <numerusform>%n sent</numerusform>
+            <numerusform>%n sent</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) are in the shared store</source>
+        <translation>
+            <numerusform>%n record is in the shared store</numerusform>
+            <numerusform>%n records are in the shared store</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>exportChanges</name>
@@ -1556,6 +1577,10 @@
     <message>
         <source>OPTION_UPDATE_UNSIGNED</source>
         <translation>Updates without a signature</translation>
+    </message>
+    <message>
+        <source>OPTION_STORE_ADDRESS</source>
+        <translation>Address of the shared store</translation>
     </message>
 </context>
 <context>

@@ -3055,6 +3055,22 @@
         <source>Put back the program that the last update replaced; data stay</source>
         <translation>Przywróć program zastąpiony przez ostatnią aktualizację; dane pozostają</translation>
     </message>
+    <message>
+        <source>Synchronise</source>
+        <translation>Synchronizuj</translation>
+    </message>
+    <message>
+        <source>Fetch what others changed from the shared store, and send what was changed here</source>
+        <translation>Pobiera ze wspólnej bazy to, co zmienili inni, i wysyła to, co zmieniono tutaj</translation>
+    </message>
+    <message>
+        <source>Put into the shared store ...</source>
+        <translation>Umieść we wspólnej bazie ...</translation>
+    </message>
+    <message>
+        <source>Share this file with others, who fetch it from the server</source>
+        <translation>Udostępnia ten plik innym, którzy pobiorą go z serwera</translation>
+    </message>
 </context>
 <context>
     <name>addMaterialDialog</name>
@@ -4926,10 +4942,6 @@ Kody wyjścia: 0 wykonano, 1 odrzucono dane lub odpowiedź brzmi nie, 2 błędne
         <translation>Te pola są w obu bazach jednakowe</translation>
     </message>
     <message>
-        <source>Writes a material database as a component library for CAD tools: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and a description of each for Altium (.DbLib), of the SQLite file for KiCad, too (.kicad_dbl). Lists the files, then what has changed since the last export.</source>
-        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programów CAD: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt, do każdego opis dla programu Altium (.DbLib), a do pliku SQLite także dla programu KiCad (.kicad_dbl). Wypisuje pliki, a potem zmiany od ostatniego eksportu.</translation>
-    </message>
-    <message>
         <source>Conditions are parted by blanks, and all of them must hold:
   rezystor 0603        both words, in any field, also inside a word
   &quot;rezystor smd&quot;       these words in this order
@@ -5700,6 +5712,134 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
     <message>
         <source>to read</source>
         <translation>do przeczytania</translation>
+    </message>
+    <message>
+        <source>Instead of DB: the name of a material database in the shared store. Makes views of it on the server, and OUT.DbLib by which Altium reads them.</source>
+        <translation>Zamiast DB: nazwa bazy materiałów we wspólnej bazie. Tworzy jej widoki na serwerze oraz OUT.DbLib, przez który czyta je Altium.</translation>
+    </message>
+    <message>
+        <source>The store: postgresql://user@server/database or sqlite:FILE; else the configuration&apos;s. A password comes from ~/.pgpass or PGPASSWORD.</source>
+        <translation>Wspólna baza: postgresql://użytkownik@serwer/baza lub sqlite:PLIK; bez tego ta z konfiguracji. Hasło pochodzi z ~/.pgpass lub PGPASSWORD.</translation>
+    </message>
+    <message>
+        <source>With --shared: the login as which Altium reads the views, a member of kivzp_reader.</source>
+        <translation>Z --shared: użytkownik, jako który Altium czyta widoki, należący do kivzp_reader.</translation>
+    </message>
+    <message>
+        <source>give a database or --shared</source>
+        <translation>podaj bazę albo --shared</translation>
+    </message>
+    <message>
+        <source>--store and --login belong to --shared</source>
+        <translation>--store i --login należą do --shared</translation>
+    </message>
+    <message>
+        <source>Writes a material database as a component library for CAD tools: OUT.xlsx, or OUT.sqlite with its script OUT.txt, and a description of each for Altium (.DbLib), of the SQLite file for KiCad, too (.kicad_dbl). Lists the files, then what has changed since the last export. With --shared: a library that Altium reads straight from the shared store; lists the file and the views with how many materials each has.</source>
+        <translation>Zapisuje bazę materiałów jako bibliotekę elementów dla programów CAD: OUT.xlsx albo OUT.sqlite ze skryptem OUT.txt, do każdego opis dla programu Altium (.DbLib), a do pliku SQLite także dla programu KiCad (.kicad_dbl). Wypisuje pliki, a potem zmiany od ostatniego eksportu. Z --shared: biblioteka, którą Altium czyta wprost ze wspólnej bazy; wypisuje plik i widoki z liczbą materiałów w każdym.</translation>
+    </message>
+    <message>
+        <source>Make the tables, and on a server the roles kivzp_reader, kivzp_editor and kivzp_administrator, where they are missing.</source>
+        <translation>Tworzy brakujące tabele, a na serwerze role kivzp_reader, kivzp_editor i kivzp_administrator.</translation>
+    </message>
+    <message>
+        <source>The document&apos;s name in the store; else the file&apos;s.</source>
+        <translation>Nazwa dokumentu we wspólnej bazie; bez niej nazwa pliku.</translation>
+    </message>
+    <message>
+        <source>give files, or --init</source>
+        <translation>podaj pliki albo --init</translation>
+    </message>
+    <message>
+        <source>--as is for one file</source>
+        <translation>--as dotyczy jednego pliku</translation>
+    </message>
+    <message>
+        <source>The root element, where documents of several kinds have that name.</source>
+        <translation>Element główny, gdy tę nazwę mają dokumenty różnych rodzajów.</translation>
+    </message>
+    <message>
+        <source>the store has no document %1</source>
+        <translation>we wspólnej bazie nie ma dokumentu %1</translation>
+    </message>
+    <message>
+        <source>there are several, give --kind: %1</source>
+        <translation>jest ich kilka, podaj --kind: %1</translation>
+    </message>
+    <message>
+        <source>%1 is no known kind of file</source>
+        <translation>%1 nie jest znanym rodzajem pliku</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(brak)</translation>
+    </message>
+    <message>
+        <source>both sides changed the same: give --mine or --theirs, or settle it in the program</source>
+        <translation>obie strony zmieniły to samo: podaj --mine lub --theirs albo rozstrzygnij to w programie</translation>
+    </message>
+    <message>
+        <source>Where both sides changed the same, what is here stays.</source>
+        <translation>Gdzie obie strony zmieniły to samo, zostaje to, co jest tutaj.</translation>
+    </message>
+    <message>
+        <source>Where both sides changed the same, what the store has comes.</source>
+        <translation>Gdzie obie strony zmieniły to samo, przychodzi to, co jest we wspólnej bazie.</translation>
+    </message>
+    <message>
+        <source>give --mine or --theirs</source>
+        <translation>podaj --mine albo --theirs</translation>
+    </message>
+    <message>
+        <source>no file is shared</source>
+        <translation>żaden plik nie jest wspólny</translation>
+    </message>
+    <message>
+        <source>%1 has no material %2</source>
+        <translation>w %1 nie ma materiału %2</translation>
+    </message>
+    <message>
+        <source>%1 is another document of the store</source>
+        <translation>%1 jest innym dokumentem wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>Only of this shared database.</source>
+        <translation>Tylko z tej wspólnej bazy materiałów.</translation>
+    </message>
+    <message>
+        <source>With -d: make the material in the file what it was after this release. The next sync sends that.</source>
+        <translation>Z -d: przywraca materiał w pliku do stanu po tym wydaniu. Wyśle to następna synchronizacja.</translation>
+    </message>
+    <message>
+        <source>give one database</source>
+        <translation>podaj jedną bazę</translation>
+    </message>
+    <message>
+        <source>%1 is no release</source>
+        <translation>%1 nie jest numerem wydania</translation>
+    </message>
+    <message>
+        <source>%1 is not shared</source>
+        <translation>%1 nie jest wspólny</translation>
+    </message>
+    <message>
+        <source>the store has no material %1</source>
+        <translation>we wspólnej bazie nie ma materiału %1</translation>
+    </message>
+    <message>
+        <source>Puts databases, the firm register, reservations, states of orders and offers into a shared store.</source>
+        <translation>Umieszcza bazy materiałów, rejestr firm, rezerwacje, stany zamówień i oferty we wspólnej bazie.</translation>
+    </message>
+    <message>
+        <source>Makes a file of a document in the shared store; without arguments lists what there is.</source>
+        <translation>Tworzy plik z dokumentu we wspólnej bazie; bez argumentów podaje, co w niej jest.</translation>
+    </message>
+    <message>
+        <source>Brings shared files and the store together: what others changed comes, what was changed here goes. A row a file: how many rows came and went, and the release.</source>
+        <translation>Uzgadnia wspólne pliki ze wspólną bazą: przychodzi to, co zmienili inni, wychodzi to, co zmieniono tutaj. Wiersz na plik: ile wierszy przyszło i wyszło oraz numer wydania.</translation>
+    </message>
+    <message>
+        <source>Who changed what of a material in the shared store, the latest first.</source>
+        <translation>Kto co zmienił w materiale we wspólnej bazie, od najnowszej zmiany.</translation>
     </message>
 </context>
 <context>
@@ -6956,6 +7096,86 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
     <message>
         <source>Lose it</source>
         <translation>Utrać to</translation>
+    </message>
+    <message>
+        <source>The shared store holds the same</source>
+        <translation>We wspólnej bazie jest to samo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) fetched</source>
+        <translation>
+            <numerusform>Pobrano %n zmianę</numerusform>
+            <numerusform>Pobrano %n zmiany</numerusform>
+            <numerusform>Pobrano %n zmian</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sent</source>
+        <translation>
+            <numerusform>wysłano %n</numerusform>
+            <numerusform>wysłano %n</numerusform>
+            <numerusform>wysłano %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the shared store you may read this file, but not change it.</source>
+        <translation>We wspólnej bazie wolno Ci ten plik czytać, ale nie zmieniać.</translation>
+    </message>
+    <message>
+        <source>Another program changed the file: take that in first</source>
+        <translation>Inny program zmienił plik: najpierw przejmij tę zmianę</translation>
+    </message>
+    <message>
+        <source>This file is not shared: put it into the shared store first</source>
+        <translation>Ten plik nie jest wspólny: najpierw umieść go we wspólnej bazie</translation>
+    </message>
+    <message>
+        <source>Synchronising</source>
+        <translation>Synchronizacja</translation>
+    </message>
+    <message>
+        <source>Changes here and by others</source>
+        <translation>Zmiany tutaj i innych osób</translation>
+    </message>
+    <message>
+        <source>Nothing was fetched and nothing sent</source>
+        <translation>Niczego nie pobrano ani nie wysłano</translation>
+    </message>
+    <message>
+        <source>The file and the shared store could not be brought together: </source>
+        <translation>Nie udało się uzgodnić pliku ze wspólną bazą: </translation>
+    </message>
+    <message>
+        <source>Synchronise</source>
+        <translation>Synchronizuj</translation>
+    </message>
+    <message>
+        <source>This file is shared already: Synchronise brings both together</source>
+        <translation>Ten plik jest już wspólny: uzgadnia go Synchronizuj</translation>
+    </message>
+    <message>
+        <source>Put into the shared store</source>
+        <translation>Umieszczenie we wspólnej bazie</translation>
+    </message>
+    <message>
+        <source>&amp;Name that others find it by:</source>
+        <translation>&amp;Nazwa, pod którą znajdą go inni:</translation>
+    </message>
+    <message>
+        <source>Putting it into the shared store</source>
+        <translation>Umieszczanie we wspólnej bazie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) are in the shared store</source>
+        <translation>
+            <numerusform>We wspólnej bazie jest %n rekord</numerusform>
+            <numerusform>We wspólnej bazie są %n rekordy</numerusform>
+            <numerusform>We wspólnej bazie jest %n rekordów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was put into the shared store</source>
+        <translation>Niczego nie umieszczono we wspólnej bazie</translation>
     </message>
 </context>
 <context>
@@ -10600,6 +10820,10 @@ własne oznaczenie</translation>
         <source>OPTION_UPDATE_UNSIGNED</source>
         <translation>Aktualizacje bez podpisu</translation>
     </message>
+    <message>
+        <source>OPTION_STORE_ADDRESS</source>
+        <translation>Adres wspólnej bazy</translation>
+    </message>
 </context>
 <context>
     <name>orderDocument</name>
@@ -11148,6 +11372,10 @@ własne oznaczenie</translation>
     <message>
         <source>The file %1 exists already. Replace it?</source>
         <translation>Plik %1 już istnieje. Zastąpić go?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it in the desktop&apos;s store of secrets</source>
+        <translation>&amp;Zachowaj w magazynie haseł pulpitu</translation>
     </message>
 </context>
 <context>
@@ -11816,6 +12044,33 @@ własne oznaczenie</translation>
     </message>
 </context>
 <context>
+    <name>sharedLibrary</name>
+    <message>
+        <source>a library is made on a PostgreSQL server only</source>
+        <translation>biblioteka powstaje tylko na serwerze PostgreSQL</translation>
+    </message>
+    <message>
+        <source>only an administrator of the store may make its library, and %1 is none</source>
+        <translation>bibliotekę może utworzyć tylko administrator wspólnej bazy, a %1 nim nie jest</translation>
+    </message>
+    <message>
+        <source>the store has no material database %1</source>
+        <translation>we wspólnej bazie nie ma bazy materiałów %1</translation>
+    </message>
+    <message>
+        <source>the library belongs to %1, who alone may make it again</source>
+        <translation>biblioteka należy do %1 i tylko on może ją utworzyć ponownie</translation>
+    </message>
+    <message>
+        <source>the library is made the first time by the owner of the database, or after: %1</source>
+        <translation>za pierwszym razem bibliotekę tworzy właściciel bazy danych albo można to zrobić po: %1</translation>
+    </message>
+    <message>
+        <source>Read on this computer only, by the address</source>
+        <translation>Do odczytu tylko na tym komputerze, pod adresem</translation>
+    </message>
+</context>
+<context>
     <name>stagedLinesModel</name>
     <message numerus="yes">
         <source>choose of %n</source>
@@ -11871,6 +12126,144 @@ własne oznaczenie</translation>
     <message>
         <source>Try again</source>
         <translation>Spróbuj ponownie</translation>
+    </message>
+</context>
+<context>
+    <name>store</name>
+    <message>
+        <source>%1, line %2: this is no row of a shared document</source>
+        <translation>%1, wiersz %2: to nie jest wiersz wspólnego dokumentu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no option of an address that is known here</source>
+        <translation>&quot;%1&quot; nie jest znaną opcją adresu</translation>
+    </message>
+    <message>
+        <source>the address holds a password: leave it out, and it is asked for</source>
+        <translation>adres zawiera hasło: pomiń je, program o nie zapyta</translation>
+    </message>
+    <message>
+        <source>the address is not of the form postgresql://user@server/database</source>
+        <translation>adres nie ma postaci postgresql://użytkownik@serwer/baza</translation>
+    </message>
+    <message>
+        <source>the driver %1 of Qt is not installed</source>
+        <translation>sterownik %1 biblioteki Qt nie jest zainstalowany</translation>
+    </message>
+    <message>
+        <source>there is no shared store yet, or you may not read it: %1</source>
+        <translation>wspólnej bazy jeszcze nie ma albo nie wolno Ci jej czytać: %1</translation>
+    </message>
+    <message>
+        <source>the shared store is of version %1, and this program knows version %2</source>
+        <translation>wspólna baza ma wersję %1, a ten program zna wersję %2</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>nie można go odczytać</translation>
+    </message>
+    <message>
+        <source>the file was not written</source>
+        <translation>plik nie został zapisany</translation>
+    </message>
+    <message>
+        <source>the configuration names no shared store</source>
+        <translation>konfiguracja nie podaje wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>this document is not shared</source>
+        <translation>ten dokument nie jest wspólny</translation>
+    </message>
+    <message>
+        <source>it is open elsewhere: %1</source>
+        <translation>jest otwarty gdzie indziej: %1</translation>
+    </message>
+    <message>
+        <source>it was changed meanwhile</source>
+        <translation>w międzyczasie został zmieniony</translation>
+    </message>
+    <message>
+        <source>this document is shared already</source>
+        <translation>ten dokument jest już wspólny</translation>
+    </message>
+    <message>
+        <source>documents of this kind are not shared</source>
+        <translation>dokumenty tego rodzaju nie są wspólne</translation>
+    </message>
+    <message>
+        <source>there is such a file already</source>
+        <translation>taki plik już istnieje</translation>
+    </message>
+    <message>
+        <source>the material did not exist then</source>
+        <translation>materiału wtedy nie było</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>dodano</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>usunięto</translation>
+    </message>
+    <message>
+        <source>restored</source>
+        <translation>przywrócono</translation>
+    </message>
+    <message>
+        <source>moved from %1 to %2</source>
+        <translation>przeniesiono z %1 do %2</translation>
+    </message>
+    <message>
+        <source>this document belongs to another shared store</source>
+        <translation>ten dokument należy do innej wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>there is a document of that name in the shared store: clone it</source>
+        <translation>we wspólnej bazie jest już dokument o tej nazwie: pobierz go</translation>
+    </message>
+    <message>
+        <source>the shared store has no such document</source>
+        <translation>we wspólnej bazie nie ma takiego dokumentu</translation>
+    </message>
+    <message>
+        <source>the shared store was changed by somebody else meanwhile</source>
+        <translation>w międzyczasie ktoś inny zmienił wspólną bazę</translation>
+    </message>
+    <message>
+        <source>the shared store is older than this document: it was restored from an earlier state. Clone it anew</source>
+        <translation>wspólna baza jest starsza niż ten dokument: przywrócono jej wcześniejszy stan. Pobierz dokument od nowa</translation>
+    </message>
+    <message>
+        <source>you may read the shared store, but not change it</source>
+        <translation>wspólną bazę wolno Ci czytać, ale nie zmieniać</translation>
+    </message>
+</context>
+<context>
+    <name>storeAccess</name>
+    <message>
+        <source>Shared store</source>
+        <translation>Wspólna baza</translation>
+    </message>
+    <message>
+        <source>This password is wrong. Password for %1:</source>
+        <translation>To hasło jest błędne. Hasło dla %1:</translation>
+    </message>
+    <message>
+        <source>Password for %1:</source>
+        <translation>Hasło dla %1:</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept: this desktop has no store of secrets.</source>
+        <translation>Nie można zachować hasła: ten pulpit nie ma magazynu haseł.</translation>
+    </message>
+    <message>
+        <source>Looking for the shared store</source>
+        <translation>Szukanie wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>The shared store cannot be reached. </source>
+        <translation>Nie można połączyć się ze wspólną bazą. </translation>
     </message>
 </context>
 <context>

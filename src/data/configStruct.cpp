@@ -74,7 +74,8 @@ constexpr optionDefault optionDefaults[] = {
     {optionKey::orderThresholds, "", ""},
     {optionKey::vatRate, "", "%"},
     {optionKey::updateAddress, "", ""},
-    {optionKey::updateUnsigned, "NIE", ""}};
+    {optionKey::updateUnsigned, "NIE", ""},
+    {optionKey::storeAddress, "", ""}};
 
 } // namespace
 

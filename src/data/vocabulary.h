@@ -52,6 +52,7 @@ constexpr QLatin1String orderThresholds = word("ORDER_THRESHOLDS");
 constexpr QLatin1String vatRate = word("VAT_RATE");
 constexpr QLatin1String updateAddress = word("UPDATE_ADDRESS");
 constexpr QLatin1String updateUnsigned = word("UPDATE_UNSIGNED");
+constexpr QLatin1String storeAddress = word("STORE_ADDRESS");
 constexpr QLatin1String pathBackup = word("PATH_BACKUP");
 constexpr QLatin1String backupCount = word("BACKUP_COUNT");
 constexpr QLatin1String language = word("LANGUAGE");

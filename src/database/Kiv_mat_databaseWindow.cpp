@@ -43,6 +43,8 @@ const windowAction<Kiv_mat_databaseWindow> actionTable[] = {
       QT_TRANSLATE_NOOP("actions", "Compare with another file and take over changes")},
      &Kiv_mat_databaseWindow::commandMerge},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::synchronize, &Kiv_mat_databaseWindow::commandSynchronize},
+    {usualActions::publish, &Kiv_mat_databaseWindow::commandPublish},
     {usualActions::versions, &Kiv_mat_databaseWindow::commandVersions},
     {usualActions::close, &Kiv_mat_databaseWindow::commandClose},
 

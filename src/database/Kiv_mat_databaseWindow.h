@@ -177,6 +177,7 @@ protected:
     QString filePath() const override;
     QString title() const override;
     void begin() override;
+    std::unique_ptr<command> takeRows(const store::syncResult &result, store::base *known) override;
     documentStruct *record() override;
     std::unique_ptr<command> become(documentStruct &wanted) override;
     bool load() override;

@@ -35,6 +35,25 @@ materialStruct *databaseRowsTarget::replace(d_groupStruct *group, materialStruct
     return replaced;
 }
 
+void databaseRowsTarget::addAt(d_groupStruct *group, std::unique_ptr<materialStruct> material,
+                               int row)
+{
+    m_members.push_back(
+        std::make_unique<appendItems>(fetched(group), m_rows->makeRow(std::move(material)), row));
+}
+
+void databaseRowsTarget::setName(d_groupStruct *group, const QString &name)
+{
+    m_members.push_back(std::make_unique<changeValue>(
+        m_model, static_cast<myItem::myItemStandard *>(m_rows->groupItem(group)), name));
+}
+
+void databaseRowsTarget::removeGroup(d_groupStruct *group)
+{
+    m_members.push_back(
+        std::make_unique<deleteMaterial>(m_model, m_rows->groupItem(group)->index()));
+}
+
 void databaseRowsTarget::setCpv(d_groupStruct *group, const QString &cpv)
 {
     const int row = m_rows->groupItem(group)->row();

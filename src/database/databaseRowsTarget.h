@@ -20,6 +20,11 @@ public:
     void add(d_groupStruct *group, std::unique_ptr<materialStruct> material) override;
     materialStruct *replace(d_groupStruct *group, materialStruct *material,
                             std::unique_ptr<materialStruct> content) override;
+    // At a place among the materials of the group.
+    void addAt(d_groupStruct *group, std::unique_ptr<materialStruct> material, int row);
+    void setName(d_groupStruct *group, const QString &name);
+    // A group without materials.
+    void removeGroup(d_groupStruct *group);
     void setCpv(d_groupStruct *group, const QString &cpv) override;
     void remove(d_groupStruct *group, const QSet<const materialStruct *> &materials) override;
 

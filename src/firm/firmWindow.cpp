@@ -43,6 +43,8 @@ constexpr actionRow saveRegister{
 const windowAction<firmWindow> actionTable[] = {
     {saveRegister, &firmWindow::commandSave},
     {usualActions::fileSeparator, nullptr},
+    {usualActions::synchronize, &firmWindow::commandSynchronize},
+    {usualActions::publish, &firmWindow::commandPublish},
     {usualActions::versions, &firmWindow::commandVersions},
     {usualActions::close, &firmWindow::commandClose},
     {usualActions::edit(QT_TRANSLATE_NOOP("actions", "Allow changes of the firms")),

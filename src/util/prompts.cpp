@@ -53,6 +53,11 @@ void prompts::showWarning(const QString &) {}
 
 std::optional<int> prompts::decide(const QString &, const QStringList &, bool) { return {}; }
 
+std::optional<prompts::password> prompts::inputPassword(const QString &, const QString &)
+{
+    return {};
+}
+
 std::optional<QString> prompts::inputText(const QString &, const QString &, const QString &)
 {
     return {};

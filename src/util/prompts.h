@@ -45,6 +45,13 @@ public:
     // One value in a small dialog; nothing when the user gives none.
     virtual std::optional<QString> inputText(const QString &title, const QString &label,
                                              const QString &initial);
+    // A password, which is shown to nobody; keep: whether it may be kept where secrets are.
+    struct password
+    {
+        QString text;
+        bool keep = false;
+    };
+    virtual std::optional<password> inputPassword(const QString &title, const QString &label);
     virtual std::optional<int> inputNumber(const QString &title, const QString &label, int initial,
                                            int minimum, int maximum);
     virtual std::optional<QDate> inputDate(const QString &title, const QDate &initial);

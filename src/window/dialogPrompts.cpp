@@ -9,11 +9,13 @@
 #include "window/messageWindow.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -123,6 +125,33 @@ std::optional<QString> dialogPrompts::inputText(const QString &title, const QStr
     const QString text = QInputDialog::getText(QApplication::activeWindow(), title, label,
                                                QLineEdit::Normal, initial, &accepted);
     return accepted ? std::optional(text::storable(text)) : std::nullopt;
+}
+
+std::optional<prompts::password> dialogPrompts::inputPassword(const QString &title,
+                                                              const QString &label)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(title);
+    auto *line = new QLineEdit(&dialog);
+    line->setObjectName(QStringLiteral("password"));
+    line->setAccessibleName(label);
+    line->setEchoMode(QLineEdit::Password);
+    auto *keep = new QCheckBox(
+        titleOf(QT_TRANSLATE_NOOP("prompts", "&Keep it in the desktop's store of secrets")),
+        &dialog);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(&dialog);
+    auto *caption = new QLabel(label, &dialog);
+    caption->setTextFormat(Qt::PlainText);
+    layout->addWidget(caption);
+    layout->addWidget(line);
+    layout->addWidget(keep);
+    layout->addWidget(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return password{line->text(), keep->isChecked()};
 }
 
 std::optional<int> dialogPrompts::inputNumber(const QString &title, const QString &label,

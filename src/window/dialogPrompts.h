@@ -12,6 +12,7 @@ public:
     answer ask(const QString &html, bool withCancel) override;
     std::optional<int> decide(const QString &html, const QStringList &buttons,
                               bool noneIsHarmless) override;
+    std::optional<password> inputPassword(const QString &title, const QString &label) override;
     std::optional<QString> inputText(const QString &title, const QString &label,
                                      const QString &initial) override;
     std::optional<int> inputNumber(const QString &title, const QString &label, int initial,

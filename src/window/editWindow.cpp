@@ -107,6 +107,7 @@ bool editWindow::isModified() const { return m_stack->state() != m_clean; }
 void editWindow::setClean()
 {
     m_clean = 0;
+    m_readOnly = readOnlyInStore();
     stayOpen();
     m_stack->clear();
 }
@@ -170,13 +171,16 @@ QString editWindow::lockedReason() const
 {
     if (mayUnlock())
         return tr("editing is locked");
-    return fault().isEmpty() ? forbidden(editOption()) : fault();
+    if (!fault().isEmpty())
+        return fault();
+    return m_readOnly.isEmpty() ? forbidden(editOption()) : m_readOnly;
 }
 
 bool editWindow::mayUnlock() const
 {
     const QLatin1String option = editOption();
-    return fault().isEmpty() && (option.size() == 0 || !m_known.isSwitchedOff(option));
+    return fault().isEmpty() && m_readOnly.isEmpty()
+           && (option.size() == 0 || !m_known.isSwitchedOff(option));
 }
 
 void editWindow::setUnlocked(bool wanted)

@@ -26,6 +26,10 @@ class myModel;
 class myTreeView;
 class documentStruct;
 class programData;
+namespace store {
+struct base;
+struct syncResult;
+} // namespace store
 
 // The actions that windows share, for their tables.
 namespace usualActions {
@@ -45,6 +49,21 @@ inline constexpr actionRow versions{
     "action_archive",
     "Ctrl+Shift+H",
     QT_TRANSLATE_NOOP("actions", "What is kept of the file: compare, open, restore")};
+inline constexpr actionRow synchronize{
+    "synchronize",
+    "File",
+    QT_TRANSLATE_NOOP("actions", "Synchronise"),
+    "action_refresh",
+    "Ctrl+Shift+Y",
+    QT_TRANSLATE_NOOP("actions", "Fetch what others changed from the shared store, and send what "
+                                 "was changed here")};
+inline constexpr actionRow publish{
+    "publish",
+    "File",
+    QT_TRANSLATE_NOOP("actions", "Put into the shared store ..."),
+    "action_send",
+    nullptr,
+    QT_TRANSLATE_NOOP("actions", "Share this file with others, who fetch it from the server")};
 inline constexpr actionRow undo{"undo",
                                 QT_TRANSLATE_NOOP("actions", "Edit"),
                                 QT_TRANSLATE_NOOP("actions", "Undo"),
@@ -150,6 +169,8 @@ public slots:
     void commandClose(bool);
     void commandEdit(bool on);
     void commandVersions(bool);
+    void commandSynchronize(bool);
+    void commandPublish(bool);
     void commandUndo(bool);
     void commandRedo(bool);
     void commandCopyCells(bool);
@@ -196,6 +217,9 @@ protected:
     // Makes the document like another one of its kind, which is used up by that: one step, applied
     // already; null when nothing changed.
     virtual std::unique_ptr<command> become(documentStruct &) { return nullptr; }
+    // Makes the changes that others made in the document, as become(); known is brought up to what
+    // the document is then.
+    virtual std::unique_ptr<command> takeRows(const store::syncResult &result, store::base *known);
     // Writes the document, by writeDocument() where that is a file; false when that failed or the
     // user thought better of it, told to the user unless it is the file.
     virtual bool write(const QString &path) = 0;
@@ -327,6 +351,11 @@ private:
     bool mergeWith(const QString &theirs, const fileState &state);
     void rememberOpened();
 
+    // --- editWindowStore.cpp ---
+    QString readOnlyInStore() const;
+    bool canMeetStore();
+    void finishSynchronizing(const store::syncResult &result, store::base known);
+
     bool mayUnlock() const;
     QString lockedText() const;
 
@@ -348,6 +377,7 @@ private:
     QTimer *m_storing;
     QString m_wanted; // what is searched
     QString m_writeFault;
+    QString m_readOnly; // in the shared store
     std::unique_ptr<recoveryJournal> m_journal;
     const leftChanges *m_recovering = nullptr;
     std::optional<recordChanges::outcome> m_remade;

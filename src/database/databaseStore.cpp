@@ -1,0 +1,168 @@
+// What others changed in a shared database, put into its window: only the rows that changed are
+// touched, of a hundred thousand.
+#include "database/Kiv_mat_databaseWindow.h"
+
+#include "database/databaseRowsTarget.h"
+#include "store/storeLocal.h"
+#include "store/storeSync.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+using store::rowChange;
+
+enum tablePlace
+{
+    groupTable,
+    materialTable
+};
+
+class rowTaking
+{
+public:
+    rowTaking(const store::syncResult &result, kiv_mat_databaseStruct &database,
+              databaseRowsTarget &target)
+        : m_result(result)
+        , m_rows(store::localRows(database))
+        , m_target(target)
+    {
+        for (size_t i = 0; i < m_rows.size(); ++i) {
+            m_known.insert(m_rows[i].record, result.known[i]);
+            if (m_rows[i].table == groupTable)
+                m_groups.insert(result.known[i].id, static_cast<d_groupStruct *>(m_rows[i].record));
+        }
+    }
+
+    // What leaves a place goes first, then what comes is put between what is there.
+    void run()
+    {
+        for (const rowChange &change : m_result.changes)
+            if (change.table == groupTable && !change.gone)
+                takeGroup(change);
+        std::vector<const rowChange *> coming;
+        for (const rowChange &change : m_result.changes)
+            if (change.table == materialTable)
+                takeMaterial(change, &coming);
+        for (const auto &[group, doomed] : m_doomed)
+            m_target.remove(group, doomed);
+        std::stable_sort(coming.begin(), coming.end(), [](const rowChange *a, const rowChange *b) {
+            return a->place != b->place ? a->place < b->place : a->id < b->id;
+        });
+        for (const rowChange *change : coming)
+            put(*change);
+        for (const rowChange &change : m_result.changes)
+            if (change.table == groupTable && change.gone && change.local >= 0)
+                m_target.removeGroup(
+                    static_cast<d_groupStruct *>(m_rows[size_t(change.local)].record));
+    }
+
+    const QHash<const xmlData *, store::knownRow> &known() const { return m_known; }
+
+private:
+    static const store::table &tableOf(int place)
+    {
+        return *store::tablesOf(fileKinds::database)[size_t(place)];
+    }
+
+    template <class Record>
+    static std::unique_ptr<Record> recordOf(const rowChange &change)
+    {
+        const store::table &of = tableOf(change.table);
+        std::unique_ptr<Record> record(static_cast<Record *>(of.make().release()));
+        for (size_t i = 0; i < of.columns.size(); ++i)
+            of.setText(record.get(), i, change.texts[int(i)]);
+        return record;
+    }
+
+    void takeGroup(const rowChange &change)
+    {
+        if (change.local < 0) {
+            d_groupStruct *added = m_target.addGroup(recordOf<d_groupStruct>(change));
+            m_groups.insert(change.id, added);
+            m_known.insert(added, {change.id, change.release, change.place});
+            return;
+        }
+        auto *group = static_cast<d_groupStruct *>(m_rows[size_t(change.local)].record);
+        m_known[group].place = change.place;
+        if (change.texts.isEmpty())
+            return;
+        const auto wanted = recordOf<d_groupStruct>(change);
+        if (group->name != wanted->name)
+            m_target.setName(group, wanted->name);
+        if (group->cpv != wanted->cpv)
+            m_target.setCpv(group, wanted->cpv);
+    }
+
+    void takeMaterial(const rowChange &change, std::vector<const rowChange *> *coming)
+    {
+        if (change.local < 0) {
+            coming->push_back(&change);
+            return;
+        }
+        const store::localRow &row = m_rows[size_t(change.local)];
+        auto *material = static_cast<materialStruct *>(row.record);
+        auto *home = static_cast<d_groupStruct *>(m_rows[size_t(row.below)].record);
+        if (!change.gone && !change.moved) {
+            if (change.texts.isEmpty())
+                return;
+            materialStruct *replaced =
+                m_target.replace(home, material, recordOf<materialStruct>(change));
+            m_known.insert(replaced, m_known.take(material));
+            return;
+        }
+        if (!change.gone) {
+            coming->push_back(&change);
+            if (change.texts.isEmpty())
+                m_moved.emplace(&change, material->copy());
+        }
+        m_doomed[home].insert(material);
+        m_known.remove(material);
+    }
+
+    void put(const rowChange &change)
+    {
+        d_groupStruct *group = m_groups.value(change.below);
+        if (!group)
+            return;
+        const auto moved = m_moved.find(&change);
+        std::unique_ptr<materialStruct> material =
+            moved == m_moved.end() ? recordOf<materialStruct>(change) : std::move(moved->second);
+        const auto before = std::find_if(
+            group->items.begin(), group->items.end(), [this, &change](const auto &other) {
+                const auto place = m_known.constFind(other.get());
+                return place != m_known.constEnd()
+                       && (place->place > change.place
+                           || (place->place == change.place && place->id > change.id));
+            });
+        const qint64 release =
+            change.local < 0 ? change.release : m_result.known[size_t(change.local)].release;
+        m_known.insert(material.get(), {change.id, release, change.place});
+        m_target.addAt(group, std::move(material), int(before - group->items.begin()));
+    }
+
+    const store::syncResult &m_result;
+    std::vector<store::localRow> m_rows;
+    databaseRowsTarget &m_target;
+    QHash<QString, d_groupStruct *> m_groups;
+    QHash<const xmlData *, store::knownRow> m_known;
+    std::map<d_groupStruct *, QSet<const materialStruct *>> m_doomed;
+    std::map<const rowChange *, std::unique_ptr<materialStruct>> m_moved;
+};
+
+} // namespace
+
+std::unique_ptr<command> Kiv_mat_databaseWindow::takeRows(const store::syncResult &result,
+                                                          store::base *known)
+{
+    const changeBatch batch(m_model);
+    kiv_mat_databaseStruct &database = m_rows->database();
+    databaseRowsTarget target(m_model, m_rows.get());
+    rowTaking taking(result, database, target);
+    taking.run();
+    *known = store::knownOf(database, taking.known(), *known, result);
+    return target.step();
+}

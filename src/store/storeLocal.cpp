@@ -1,0 +1,256 @@
+#include "store/storeLocal.h"
+
+#include "data/recordMatching.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace store {
+
+namespace {
+
+// Those of one table.
+struct side
+{
+    std::vector<size_t> rows; // places among all
+    std::vector<QString> keys;
+};
+
+// The place in the base of the row that a record lies below.
+int baseBelow(const std::vector<localRow> &rows, const localRow &row)
+{
+    return row.below < 0 ? -1 : rows[size_t(row.below)].base;
+}
+
+// Contents that only one record on each side has.
+void matchByContent(std::vector<localRow> *rows, const base &known, const side &mine,
+                    const side &theirs, std::vector<bool> *taken)
+{
+    QHash<quint64, int> alike; // base rows; -2: several
+    for (const size_t place : theirs.rows)
+        if (!(*taken)[place]) {
+            const auto found = alike.find(known.rows[place].hash);
+            if (found == alike.end())
+                alike.insert(known.rows[place].hash, int(place));
+            else
+                *found = -2;
+        }
+    QHash<quint64, int> counts;
+    for (const size_t place : mine.rows)
+        if ((*rows)[place].base < 0)
+            ++counts[(*rows)[place].hash];
+    for (const size_t place : mine.rows) {
+        localRow &row = (*rows)[place];
+        const int found = alike.value(row.hash, -1);
+        if (row.base < 0 && found >= 0 && counts.value(row.hash) == 1) {
+            row.base = found;
+            (*taken)[size_t(found)] = true;
+        }
+    }
+}
+
+// Runs of unknown records between the same neighbours, when they are as long on both sides.
+void matchByNeighbours(std::vector<localRow> *rows, const base &known, const side &mine,
+                       const side &theirs, std::vector<bool> *taken)
+{
+    // What follows a row, or the beginning of a parent (-1), below a parent.
+    using beginning = std::pair<int, int>;
+    std::map<beginning, std::vector<int>> left;
+    std::map<int, int> last; // known row, by parent
+    for (const size_t place : theirs.rows) {
+        const int below = known.rows[place].below;
+        int &before = last.try_emplace(below, -1).first->second;
+        if ((*taken)[place])
+            before = int(place);
+        else
+            left[{below, before}].push_back(int(place));
+    }
+    if (left.empty())
+        return;
+    std::map<beginning, std::vector<size_t>> fresh;
+    last.clear();
+    for (const size_t place : mine.rows) {
+        const localRow &row = (*rows)[place];
+        const int below = baseBelow(*rows, row);
+        if (row.below >= 0 && below < 0)
+            continue;
+        int &before = last.try_emplace(below, -1).first->second;
+        if (row.base >= 0)
+            before = row.base;
+        else
+            fresh[{below, before}].push_back(place);
+    }
+    for (const auto &[where, places] : fresh) {
+        const auto found = left.find(where);
+        if (found == left.end() || found->second.size() != places.size())
+            continue;
+        for (size_t i = 0; i < places.size(); ++i) {
+            (*rows)[places[i]].base = found->second[i];
+            (*rows)[places[i]].isGuess = true;
+            (*taken)[size_t(found->second[i])] = true;
+        }
+    }
+}
+
+// The longest run of places, not necessarily side by side, that rises; which of them are in it.
+std::vector<bool> longestRising(const std::vector<double> &values)
+{
+    std::vector<size_t> ends; // of the runs of each length, the lowest
+    std::vector<int> before(values.size(), -1);
+    for (size_t i = 0; i < values.size(); ++i) {
+        const auto place =
+            std::lower_bound(ends.begin(), ends.end(), values[i],
+                             [&values](size_t end, double value) { return values[end] < value; });
+        if (place != ends.begin())
+            before[i] = int(*(place - 1));
+        if (place == ends.end())
+            ends.push_back(i);
+        else
+            *place = i;
+    }
+    std::vector<bool> in(values.size());
+    for (int i = ends.empty() ? -1 : int(ends.back()); i >= 0; i = before[size_t(i)])
+        in[size_t(i)] = true;
+    return in;
+}
+
+// Those of one parent, in order. Equal places in the base are told apart by the ids.
+void setPlacesOf(std::vector<localRow> *rows, const base &known, const std::vector<size_t> &list)
+{
+    constexpr double step = 1024;
+    const auto stays = [&](const localRow &row) {
+        return row.base >= 0 && known.rows[size_t(row.base)].below == baseBelow(*rows, row);
+    };
+    std::vector<size_t> old;
+    std::vector<double> values;
+    for (const size_t place : list)
+        if (stays((*rows)[place])) {
+            old.push_back(place);
+            values.push_back(known.rows[size_t((*rows)[place].base)].place);
+        }
+    const std::vector<bool> rising = longestRising(values);
+    std::vector<bool> fixed(list.size());
+    for (size_t i = 0, next = 0; i < list.size(); ++i)
+        if (next < old.size() && list[i] == old[next]) {
+            fixed[i] = rising[next];
+            (*rows)[list[i]].place = values[next];
+            ++next;
+        }
+    for (size_t begin = 0; begin < list.size();) {
+        if (fixed[begin]) {
+            ++begin;
+            continue;
+        }
+        const bool isFirst = begin == 0;
+        const double before = isFirst ? 0 : (*rows)[list[begin - 1]].place;
+        size_t end = begin;
+        double low = 0;
+        double high = 0;
+        double count = 0;
+        // Where numbers between two neighbours have run out, the next one moves, too.
+        do {
+            while (end < list.size() && !fixed[end])
+                ++end;
+            const bool isLast = end == list.size();
+            count = double(end - begin + 1);
+            high = isLast ? before + step * count : (*rows)[list[end]].place;
+            low = isFirst && !isLast ? high - step * count : before;
+            if (isLast || (low + (high - low) / count > low && high - (high - low) / count < high))
+                break;
+            fixed[end] = false;
+        } while (true);
+        for (size_t i = begin; i < end; ++i)
+            (*rows)[list[i]].place = low + (high - low) * double(i - begin + 1) / count;
+        begin = end;
+    }
+}
+
+} // namespace
+
+std::vector<localRow> localRows(documentStruct &document)
+{
+    const tables &all = tablesOf(document.kind());
+    std::vector<localRow> rows;
+    std::vector<std::pair<size_t, size_t>> spans; // of each table
+    for (size_t t = 0; t < all.size(); ++t) {
+        const table &of = *all[t];
+        const size_t begin = rows.size();
+        const auto add = [&](xmlData *parent, int below) {
+            const int count = of.count(parent);
+            for (int i = 0; i < count; ++i) {
+                localRow row;
+                row.record = of.at(parent, i);
+                row.table = int(t);
+                row.below = below;
+                row.hash = of.hash(row.record);
+                row.key = of.key(row.record);
+                rows.push_back(std::move(row));
+            }
+        };
+        if (of.above < 0)
+            add(&document, -1);
+        else
+            for (size_t i = spans[size_t(of.above)].first; i < spans[size_t(of.above)].second; ++i)
+                add(rows[i].record, int(i));
+        spans.emplace_back(begin, rows.size());
+    }
+    return rows;
+}
+
+void matchRows(std::vector<localRow> *rows, const base &known)
+{
+    std::map<int, side> mine;
+    std::map<int, side> theirs;
+    for (size_t i = 0; i < rows->size(); ++i) {
+        mine[(*rows)[i].table].rows.push_back(i);
+        mine[(*rows)[i].table].keys.push_back((*rows)[i].key);
+    }
+    for (size_t i = 0; i < known.rows.size(); ++i) {
+        theirs[known.rows[i].table].rows.push_back(i);
+        theirs[known.rows[i].table].keys.push_back(known.rows[i].key);
+    }
+    std::set<int> folders;
+    for (const localRow &row : *rows)
+        if (row.below >= 0)
+            folders.insert((*rows)[size_t(row.below)].table);
+    std::vector<bool> taken(known.rows.size());
+    for (const auto &[table, of] : mine) {
+        const side &before = theirs[table];
+        const auto content = [&](bool later, int place) {
+            return later ? (*rows)[of.rows[size_t(place)]].hash
+                         : known.rows[before.rows[size_t(place)]].hash;
+        };
+        const auto parent = [&](bool later, int place) {
+            return quint64(later ? baseBelow(*rows, (*rows)[of.rows[size_t(place)]])
+                                 : known.rows[before.rows[size_t(place)]].below);
+        };
+        const auto both = [&](bool later, int place) {
+            return content(later, place) + 31 * parent(later, place);
+        };
+        const recordMatches matches = matchRecords(before.keys, of.keys, {both, content, parent});
+        for (size_t i = 0; i < of.rows.size(); ++i)
+            if (matches.before[i] >= 0) {
+                const size_t found = before.rows[size_t(matches.before[i])];
+                (*rows)[of.rows[i]].base = int(found);
+                taken[found] = true;
+            }
+        // A folder has few texts of its own, which others share.
+        if (!folders.count(table))
+            matchByContent(rows, known, of, before, &taken);
+        matchByNeighbours(rows, known, of, before, &taken);
+    }
+}
+
+void setPlaces(std::vector<localRow> *rows, const base &known)
+{
+    std::map<std::pair<int, int>, std::vector<size_t>> lists;
+    for (size_t i = 0; i < rows->size(); ++i)
+        lists[{(*rows)[i].table, (*rows)[i].below}].push_back(i);
+    for (const auto &[parent, list] : lists)
+        setPlacesOf(rows, known, list);
+}
+
+} // namespace store
