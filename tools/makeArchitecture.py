@@ -28,7 +28,7 @@ places = {
     "tree": (780, 8, "cells, model, views"),
     "tools": (255, 9, "child processes"),
     "data": (570, 9, "records, files, schemas"),
-    "store": (780, 9, "shared store"),
+    "store": (520, 7, "shared store"),
     "util": (412, 10, "numbers, text, prompts"),
 }
 layers = ["programs", "subsystems", "", "", "", "", "editing", "", "pages, cells", "records", "helpers"]

@@ -849,6 +849,13 @@
             <numerusform>%n records are in the shared store</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n change(s) by others</source>
+        <translation>
+            <numerusform>%n change by others</numerusform>
+            <numerusform>%n changes by others</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>exportChanges</name>

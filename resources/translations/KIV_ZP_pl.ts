@@ -846,6 +846,30 @@
         <source>The database is saved, but the deliveries that went into its stock cannot be noted beside the orders; saving again tries it again</source>
         <translation>Baza jest zapisana, ale dostaw przyjętych na jej stan nie można odnotować przy zamówieniach; ponowny zapis spróbuje jeszcze raz</translation>
     </message>
+    <message>
+        <source>This file is not shared: there is no history</source>
+        <translation>Ten plik nie jest wspólny: nie ma historii</translation>
+    </message>
+    <message>
+        <source>Select a material first</source>
+        <translation>Najpierw wybierz materiał</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Odczyt historii</translation>
+    </message>
+    <message>
+        <source>The shared store does not know this material yet</source>
+        <translation>Wspólna baza nie zna jeszcze tego materiału</translation>
+    </message>
+    <message>
+        <source>The material is as it was then</source>
+        <translation>Materiał jest taki, jaki był wtedy</translation>
+    </message>
+    <message>
+        <source>Back to an earlier state</source>
+        <translation>Powrót do wcześniejszego stanu</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -3070,6 +3094,14 @@
     <message>
         <source>Share this file with others, who fetch it from the server</source>
         <translation>Udostępnia ten plik innym, którzy pobiorą go z serwera</translation>
+    </message>
+    <message>
+        <source>History ...</source>
+        <translation>Historia ...</translation>
+    </message>
+    <message>
+        <source>Who changed what of this material in the shared store</source>
+        <translation>Kto co zmienił w tym materiale we wspólnej bazie</translation>
     </message>
 </context>
 <context>
@@ -7177,6 +7209,18 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
         <source>Nothing was put into the shared store</source>
         <translation>Niczego nie umieszczono we wspólnej bazie</translation>
     </message>
+    <message>
+        <source>Fetch them: Synchronise</source>
+        <translation>Pobierz je: Synchronizuj</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) by others</source>
+        <translation>
+            <numerusform>%n zmiana innych osób</numerusform>
+            <numerusform>%n zmiany innych osób</numerusform>
+            <numerusform>%n zmian innych osób</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>emailTempWindow</name>
@@ -7854,6 +7898,45 @@ własne oznaczenie</translation>
     <message>
         <source>The firm has no name yet. Give it one first.</source>
         <translation>Firma nie ma jeszcze nazwy. Najpierw ją nadaj.</translation>
+    </message>
+</context>
+<context>
+    <name>historyDialog</name>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Kiedy</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Kto</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>&amp;Back to this state</source>
+        <translation>&amp;Wróć do tego stanu</translation>
+    </message>
+    <message>
+        <source>The material becomes what it was after this change, as one step; synchronising sends it</source>
+        <translation>Materiał staje się taki, jaki był po tej zmianie, w jednym kroku; wyśle to synchronizacja</translation>
+    </message>
+    <message>
+        <source>Editing is locked</source>
+        <translation>Edycja zablokowana</translation>
     </message>
 </context>
 <context>
@@ -9203,6 +9286,14 @@ własne oznaczenie</translation>
     <message>
         <source>Left in stock</source>
         <translation>Zostaje w magazynie</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Kto co zmienił i kiedy</translation>
+    </message>
+    <message>
+        <source>%1 edits this material now</source>
+        <translation>Ten materiał edytuje teraz %1</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,8 @@
 #include "data/kiv_mat_firmStruct.h"
 #include "data/kiv_mat_zpStruct.h"
 
+#include "util/labels.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -241,6 +243,7 @@ QString mergeCaption(const QString &field)
         addCaptions<informationsStruct>(&all);
         addCaptions<materialStruct>(&all);
         addCaptions<orderItemStruct>(&all);
+        all.insert(d_groupStruct::element, labels::group);
         return all;
     }();
     const auto found = captions.value(field);

@@ -101,6 +101,7 @@ public slots:
     void commandColumns(bool);
     void commandDetails(bool on);
     void commandGoToDetails(bool);
+    void commandHistory(bool);
 
     // Of the context menu, on the current cell or the selected materials.
     void commandOpenLink(bool);
@@ -177,6 +178,8 @@ protected:
     QString filePath() const override;
     QString title() const override;
     void begin() override;
+    QString editedKey() const override;
+    void takeTexts(materialStruct *material, const QStringList &texts);
     std::unique_ptr<command> takeRows(const store::syncResult &result, store::base *known) override;
     documentStruct *record() override;
     std::unique_ptr<command> become(documentStruct &wanted) override;

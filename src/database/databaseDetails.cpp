@@ -3,6 +3,7 @@
 
 #include "database/detailsPane.h"
 #include "tree/myTreeView.h"
+#include "window/storeListener.h"
 
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -22,11 +23,17 @@ void Kiv_mat_databaseWindow::buildDetails(QWidget *page)
         const materialStruct *material = m_rows->materialAt(at);
         const d_groupStruct *group =
             material ? m_rows->homeOf(material) : materialRows::groupOf(m_model->itemFromIndex(at));
-        return materialPage::subject{material, group, &m_rows->database(), &known().firm(),
-                                     &known().reservations().now()};
+        materialPage::subject of{
+            material,   group, &m_rows->database(), &known().firm(), &known().reservations().now(),
+            isShared(), {}};
+        if (material && isShared())
+            of.editor = storeListener::instance().editorOf(storeDocument(), material->d_ktm);
+        return of;
     };
     m_details->openOrder = [this] { return openOrder ? &openOrder() : nullptr; };
     connect(m_details, &detailsPane::useWanted, this, &Kiv_mat_databaseWindow::useWanted);
+    connect(m_details, &detailsPane::historyWanted, this, [this] { commandHistory(false); });
+    connect(&storeListener::instance(), &storeListener::edited, m_details, &detailsPane::follow);
     connect(m_details, &detailsPane::left, m_view, [this] { m_view->setFocus(); });
 }
 

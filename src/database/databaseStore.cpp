@@ -2,9 +2,17 @@
 // touched, of a hundred thousand.
 #include "database/Kiv_mat_databaseWindow.h"
 
+#include "data/programData.h"
 #include "database/databaseRowsTarget.h"
+#include "database/historyDialog.h"
+#include "store/storeHistory.h"
 #include "store/storeLocal.h"
 #include "store/storeSync.h"
+
+#include "tree/myTreeView.h"
+#include "util/prompts.h"
+#include "window/storeAccess.h"
+#include "window/workProgress.h"
 
 #include <QHash>
 
@@ -165,4 +173,65 @@ std::unique_ptr<command> Kiv_mat_databaseWindow::takeRows(const store::syncResul
     taking.run();
     *known = store::knownOf(database, taking.known(), *known, result);
     return target.step();
+}
+
+// What a material was is made of what it is now and its history.
+void Kiv_mat_databaseWindow::commandHistory(bool)
+{
+    if (!finishEditing())
+        return;
+    materialStruct *material = m_rows->materialAt(m_view->currentIndex());
+    if (!material || !isShared()) {
+        tell(material ? tr("This file is not shared: there is no history")
+                      : tr("Select a material first"));
+        return;
+    }
+    const std::unique_ptr<store::connection> with = storeAccess::open(known().config(), progress());
+    if (!with)
+        return;
+    std::vector<store::materialHistory> found;
+    {
+        workProgress::scope work(progress(), tr("Reading the history"));
+        found =
+            store::historyOf(*with, material->d_ktm, store::base::readHead(filePath()).document);
+    }
+    if (found.empty()) {
+        if (with->fault().isEmpty())
+            tell(tr("The shared store does not know this material yet"));
+        else
+            userPrompts().showError(with->fault().toHtmlEscaped());
+        return;
+    }
+    historyDialog dialog(std::move(found), !isLocked(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QString fault;
+    const auto texts = store::textsAt(*with, dialog.picked().row, dialog.picked().release, &fault);
+    if (!texts) {
+        userPrompts().showError(fault.toHtmlEscaped());
+        return;
+    }
+    takeTexts(material, *texts);
+}
+
+void Kiv_mat_databaseWindow::takeTexts(materialStruct *material, const QStringList &texts)
+{
+    const store::table &of = *store::tablesOf(fileKinds::database)[materialTable];
+    auto wanted = std::make_unique<materialStruct>();
+    for (size_t i = 0; i < of.columns.size(); ++i)
+        of.setText(wanted.get(), i, texts[int(i)]);
+    if (*wanted == *material) {
+        tell(tr("The material is as it was then"));
+        return;
+    }
+    const changeBatch batch(m_model);
+    databaseRowsTarget target(m_model, m_rows.get());
+    target.replace(m_rows->homeOf(material), material, std::move(wanted));
+    push(target.step(), tr("Back to an earlier state"));
+}
+
+QString Kiv_mat_databaseWindow::editedKey() const
+{
+    const materialStruct *material = m_rows->materialAt(m_view->currentIndex());
+    return material ? material->d_ktm : QString();
 }

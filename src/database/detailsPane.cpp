@@ -142,7 +142,9 @@ void detailsPane::makePage()
 void detailsPane::open(const QUrl &link)
 {
     const int use = materialPage::useOf(link);
-    if (use < 0)
+    if (materialPage::isHistory(link))
+        emit historyWanted();
+    else if (use < 0)
         desktop::followLink(link);
     else if (use < int(m_shownUses.size()))
         emit useWanted(m_shownUses[size_t(use)]);

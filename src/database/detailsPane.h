@@ -39,6 +39,8 @@ public:
 signals:
     // A line of a BOM list or an order was clicked.
     void useWanted(const materialUses::use &use);
+    // The link to the material's history was clicked.
+    void historyWanted();
     // Escape was pressed.
     void left();
 

@@ -208,6 +208,19 @@ QString reservedHtml(const materialStruct &material, const kiv_mat_reservationsS
     return part.text();
 }
 
+const QLatin1String historyScheme("kivzp-history");
+
+QString historyHtml(const QString &editor)
+{
+    const QString now =
+        editor.isEmpty() ? QString()
+                         : QStringLiteral("<p><b>%1</b></p>\n")
+                               .arg(tr("%1 edits this material now").arg(editor).toHtmlEscaped());
+    return now
+           + QStringLiteral("<p><a href=\"%1:\">%2</a></p>\n")
+                 .arg(historyScheme, tr("Who changed what, and when").toHtmlEscaped());
+}
+
 QString materialHtml(const subject &of, const knownUses &uses)
 {
     const materialStruct &material = *of.material;
@@ -293,7 +306,7 @@ QString page(const subject &of, const knownUses &uses)
 {
     QString body;
     if (of.material)
-        body = materialHtml(of, uses);
+        body = materialHtml(of, uses) + (of.isShared ? historyHtml(of.editor) : QString());
     else if (of.group)
         body = groupHtml(of);
     else
@@ -317,6 +330,8 @@ QUrl linkTarget(const QString &stored)
     const QString beside = paths::data(text);
     return QFileInfo(beside).isFile() ? QUrl::fromLocalFile(beside) : QUrl::fromUserInput(text);
 }
+
+bool isHistory(const QUrl &link) { return link.scheme() == historyScheme; }
 
 int useOf(const QUrl &link)
 {

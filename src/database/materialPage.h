@@ -23,6 +23,8 @@ struct subject
     const kiv_mat_databaseStruct *database = nullptr;
     const kiv_mat_firmStruct *firms = nullptr;
     const kiv_mat_reservationsStruct *reservations = nullptr;
+    bool isShared = false; // in a shared store, which knows its history
+    QString editor;        // who else edits it now; empty when nobody does
 };
 
 // Where the material is used, as far as that is known yet.
@@ -47,6 +49,9 @@ std::vector<field> filledFields(const materialStruct &material);
 // the group, without that it says what to do. Links lead to what linkTarget() gives, or have the
 // scheme "use" and the place of one of the uses: "use:3".
 QString page(const subject &of, const knownUses &uses);
+
+// Whether a link of the page is the one to the material's history.
+bool isHistory(const QUrl &link);
 
 // What a stored link or file name leads to: a web address, which may be written without "http://",
 // or a file, whose relative name starts at the data folder. Invalid for an empty text. Whether it

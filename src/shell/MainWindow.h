@@ -141,6 +141,9 @@ public slots:
     void commandAbout(bool);
     void commandExit(bool);
     void checkUpdate();
+    // Listens to the shared store when a file of the configuration is in it, and it is reached
+    // without asking.
+    void checkStore();
     void commandUpdate(bool);
     void commandCreateUpdate(bool);
     void commandUpdateDesc(bool);

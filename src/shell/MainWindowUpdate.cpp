@@ -2,6 +2,7 @@
 #include "shell/MainWindow.h"
 
 #include "data/programData.h"
+#include "store/storeFiles.h"
 #include "tree/richtexteditDialog.h"
 #include "update/createUpdateDialog.h"
 #include "update/updateWindow.h"
@@ -9,6 +10,8 @@
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
+#include "window/storeAccess.h"
+#include "window/storeListener.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -32,6 +35,7 @@ void MainWindow::checkUpdate()
         return;
     }
     updateJournal::noteStarted(paths::programDir());
+    checkStore();
     const updates::settings with = updates::settingsOf(known().config());
     if (with.address.isEmpty())
         return;
@@ -54,6 +58,14 @@ void MainWindow::checkUpdate()
     userPrompts().log(messages::done(tr("A newer version is available "),
                                      newer.join(QLatin1String(", ")), with.address));
     tell(tr("An update is there: %1").arg(newer.join(QLatin1String(", "))));
+}
+
+void MainWindow::checkStore()
+{
+    if (store::sharedFiles(known().config()).isEmpty())
+        return;
+    if (auto with = storeAccess::open(known().config(), progress(), false))
+        storeListener::instance().listen(std::move(with));
 }
 
 void MainWindow::commandUpdate(bool)

@@ -25,6 +25,7 @@ struct pickedSide
 using picks = QHash<QPair<QString, int>, pickedSide>;
 
 constexpr int wholeRow = -1;
+constexpr int belowColumn = -2;
 
 // One row in the making: what it was, what it is here and in the store, and what comes of it.
 struct meeting
@@ -445,7 +446,7 @@ private:
             if (!of.theirs) {
                 // New here; or the store lost it, and it is sent once more.
                 of.result = {of.table, id, {}, 0, 0, of.isMineGone, mine};
-                place(&of);
+                place(&of, conflicts, where);
                 continue;
             }
             of.result = *of.theirs;
@@ -462,7 +463,7 @@ private:
             }
             for (size_t i = 0; i < rows.columns.size(); ++i)
                 mergeText(&of, i, mine[int(i)], conflicts, where);
-            place(&of);
+            place(&of, conflicts, where);
         }
     }
 
@@ -517,17 +518,26 @@ private:
                 of->result.texts[int(i)] = mine[int(i)];
                 of->sent.push_back(i);
             }
-        place(of);
+        place(of, conflicts, where);
     }
 
-    // Where it stands is nobody's to be asked about: what was moved here stays so.
-    void place(meeting *of)
+    // Below what it stands is as a text of it; where among the others is nobody's to be asked
+    // about: what was moved here stays so.
+    void place(meeting *of, std::vector<mergeRow> *conflicts,
+               std::vector<QPair<QString, int>> *where)
     {
         if (of->local < 0)
             return;
         const localRow &row = m_rows[size_t(of->local)];
         const bool isNew = !of->theirs;
-        const bool isBelowMine = isBelowAnother(of->local);
+        bool isBelowMine = isBelowAnother(of->local);
+        if (isBelowMine && !isNew) {
+            const QString &was = m_known.rows[size_t(m_known.rows[size_t(row.base)].below)].id;
+            const QString &theirs = of->theirs->below;
+            isBelowMine = theirs == was || theirs == belowId(row)
+                          || !pick(*of, belowColumn, QStringLiteral("d_group"), nameOf(was),
+                                   nameOf(belowId(row)), nameOf(theirs), conflicts, where);
+        }
         if (isNew || isBelowMine)
             of->result.below = belowId(row);
         if (isNew || isBelowMine || (of->isPlaceMine && row.base >= 0))
@@ -542,6 +552,16 @@ private:
         const localRow &row = m_rows[size_t(local)];
         return row.base >= 0 && row.below >= 0
                && m_known.rows[size_t(row.base)].below != m_rows[size_t(row.below)].base;
+    }
+
+    // Of a record that others lie below.
+    QString nameOf(const QString &id) const
+    {
+        if (const int local = m_places.value(id, -1); local >= 0)
+            return m_tables[size_t(m_rows[size_t(local)].table)]->caption(
+                m_rows[size_t(local)].record);
+        const auto theirs = m_theirs.constFind(id);
+        return theirs == m_theirs.constEnd() ? QString() : theirs->texts.first();
     }
 
     // Two records of one place would stand now this way, now that.

@@ -1,4 +1,5 @@
 #include "window/editWindow.h"
+#include "window/storeListener.h"
 
 #include "commands/editCommands.h"
 #include "data/programData.h"
@@ -43,6 +44,7 @@ editWindow::editWindow(const QString &name, programData &known, QWidget *parent)
     m_changed->setObjectName(QStringLiteral("changed"));
     statusBar()->addPermanentWidget(m_changed);
     m_changed->hide();
+    followStore();
     m_storing->setSingleShot(true);
     m_storing->setInterval(storeEveryMs);
     connect(m_storing, &QTimer::timeout, this, &editWindow::storeRecovery);
@@ -107,7 +109,7 @@ bool editWindow::isModified() const { return m_stack->state() != m_clean; }
 void editWindow::setClean()
 {
     m_clean = 0;
-    m_readOnly = readOnlyInStore();
+    readStoreState();
     stayOpen();
     m_stack->clear();
 }
@@ -252,6 +254,8 @@ void editWindow::push(std::unique_ptr<command> change, const QString &what)
         return;
     historyMoved();
     tell(what);
+    if (m_isShared)
+        storeListener::instance().tellEditing(m_storeDocument, m_storeProgram, editedKey());
 }
 
 void editWindow::tellHistory(const QString &form, const QString &what)

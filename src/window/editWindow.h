@@ -19,6 +19,7 @@ class myItemStandard;
 class QLabel;
 class QTemporaryDir;
 class QTimer;
+class QToolButton;
 class changedBar;
 class fileWatch;
 class htmlView;
@@ -279,6 +280,11 @@ protected:
     // Called by load() with what was read, before it is shown: changes that are to be recovered are
     // made in it.
     void remake(documentStruct &document);
+    // Whether the file is one of a shared store.
+    bool isShared() const { return m_isShared; }
+    const QString &storeDocument() const { return m_storeDocument; }
+    // What others are told that is edited here; empty when nothing is.
+    virtual QString editedKey() const { return {}; }
     // Whether the user wants what could not be saved kept aside.
     bool isKeptAside() const { return m_keptAside; }
 
@@ -352,7 +358,9 @@ private:
     void rememberOpened();
 
     // --- editWindowStore.cpp ---
-    QString readOnlyInStore() const;
+    void readStoreState();
+    void followStore();
+    void showChangesOfOthers();
     bool canMeetStore();
     void finishSynchronizing(const store::syncResult &result, store::base known);
 
@@ -378,6 +386,10 @@ private:
     QString m_wanted; // what is searched
     QString m_writeFault;
     QString m_readOnly; // in the shared store
+    bool m_isShared = false;
+    QString m_storeDocument; // its id, and that of this copy
+    QString m_storeProgram;
+    QToolButton *m_byOthers; // how many changes of others wait in the shared store
     std::unique_ptr<recoveryJournal> m_journal;
     const leftChanges *m_recovering = nullptr;
     std::optional<recordChanges::outcome> m_remade;

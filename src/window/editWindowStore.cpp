@@ -7,10 +7,13 @@
 #include "util/prompts.h"
 #include "window/mergeDialog.h"
 #include "window/storeAccess.h"
+#include "window/storeListener.h"
 #include "window/workProgress.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStatusBar>
+#include <QToolButton>
 
 namespace {
 
@@ -44,13 +47,39 @@ QString sentence(const store::syncResult &result)
 
 } // namespace
 
-// Why changes would not be taken; empty when they would, or the file is not shared.
-QString editWindow::readOnlyInStore() const
+void editWindow::readStoreState()
 {
-    const store::base known = store::base::readHead(filePath());
-    return known.isShared() && !known.mayWrite
-               ? tr("In the shared store you may read this file, but not change it.")
-               : QString();
+    const QString path = filePath();
+    const store::base known = path.isEmpty() ? store::base() : store::base::readHead(path);
+    m_isShared = known.isShared();
+    m_storeDocument = known.document;
+    m_storeProgram = known.program;
+    m_readOnly = m_isShared && !known.mayWrite
+                     ? tr("In the shared store you may read this file, but not change it.")
+                     : QString();
+}
+
+void editWindow::followStore()
+{
+    m_byOthers = new QToolButton(this);
+    m_byOthers->setObjectName(QStringLiteral("byOthers"));
+    m_byOthers->setToolTip(tr("Fetch them: Synchronise"));
+    m_byOthers->hide();
+    statusBar()->addPermanentWidget(m_byOthers);
+    connect(m_byOthers, &QToolButton::clicked, this, [this] { commandSynchronize(false); });
+    connect(&storeListener::instance(), &storeListener::changed, this,
+            [this](const QString &document) {
+                if (document == m_storeDocument && isVisible())
+                    showChangesOfOthers();
+            });
+}
+
+void editWindow::showChangesOfOthers()
+{
+    const int count =
+        m_isShared ? storeListener::instance().changesOf(store::base::readHead(filePath())) : 0;
+    m_byOthers->setText(tr("%n change(s) by others", nullptr, count));
+    m_byOthers->setVisible(count > 0);
 }
 
 // What the window shows is the file as it was read, with what was changed here.
@@ -79,7 +108,7 @@ void editWindow::commandSynchronize(bool)
         tell(tr("This file is not shared: put it into the shared store first"));
         return;
     }
-    const std::unique_ptr<store::connection> with = storeAccess::open(m_known.config(), progress());
+    std::unique_ptr<store::connection> with = storeAccess::open(m_known.config(), progress());
     if (!with)
         return;
     store::syncResult result;
@@ -101,6 +130,9 @@ void editWindow::commandSynchronize(bool)
             },
             go);
     }
+    with->setWaiting({});
+    if (!storeListener::instance().isListening())
+        storeListener::instance().listen(std::move(with));
     if (result.done)
         finishSynchronizing(result, std::move(known));
     else if (result.fault.isEmpty())
@@ -127,8 +159,9 @@ void editWindow::finishSynchronizing(const store::syncResult &result, store::bas
         userPrompts().showError(fault.toHtmlEscaped());
         return;
     }
-    m_readOnly = readOnlyInStore();
+    readStoreState();
     setUnlocked(!m_locked);
+    showChangesOfOthers();
     tell(sentence(result));
 }
 
@@ -171,6 +204,7 @@ void editWindow::commandPublish(bool)
         with->setWaiting([&go] { return go(0, 0); });
         result = store::publishFile(*with, filePath(), name->trimmed(), go);
     }
+    readStoreState();
     if (!result.fault.isEmpty())
         userPrompts().showError(result.fault.toHtmlEscaped());
     else

@@ -238,6 +238,8 @@ private slots:
         row("a second of one KTM", "+A@G2 A.d_price=9", "C.d_price=3", false, {},
             "G1(A[d_name=opornik,d_price=9] B C[d_price=3]) G2(D A)");
         row("moved, and changed by them", "B>G2", "B.d_price=3", false, {}, "G1(" + a + " C) G2(D B[d_price=3])");
+        row("moved by both", "B>G2", "B>G3", true, {"G2 / B d_group: G1|G2|G3"}, "G1(" + a + " C) G2(D) G3(B)");
+        row("moved by both to the same", "B>G2", "B>G2", false, {}, "G1(" + a + " C) G2(D B)");
         row("moved to a new group", "B>G3", "", false, {}, "G1(" + a + " C) G2(D) G3(B)");
         row("first in its group", "C^", "+E@G1", false, {}, "G1(C " + a + " B E) G2(D)");
         row("group removed, and they put something in", "--G2", "+E@G2", false, {}, "G1(" + a + " B C) G2(E)");

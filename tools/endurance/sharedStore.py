@@ -199,7 +199,8 @@ class Client:
                 continue
             _, base_below, base_content = self.base[row]
             if below != base_below:
-                found.append({"what": "moved", "row": row, "after": below})
+                found.append({"what": "moved", "row": row, "after": below,
+                              "ktm": ET.fromstring(content).findtext("d_ktm")})
             if content != base_content:
                 texts, base_texts = (texts_of(ET.fromstring(one)) for one in (content, base_content))
                 found += [{"what": "changed", "row": row, "field": field, "after": text, "ktm": texts.get("d_ktm")}
@@ -242,6 +243,8 @@ class Client:
         elif what == "add":
             material = copy.deepcopy(material)
             material.find("d_ktm").text = self.new_ktm()
+            # One that is the same but for its KTM may be taken for the other, when that is renamed, too.
+            material.find("d_name").text = "new " + material.findtext("d_ktm")
             self.put(self.chance.choice(self.groups()), material)
         elif what == "rename":
             material.find("d_ktm").text = self.new_ktm()
