@@ -132,7 +132,7 @@ void tell(benchmark::State &state, double seconds, double allowed, const setting
 }
 
 // A file made of the store's document. ratio: over reading that file, three times is the bound.
-void clone(benchmark::State &state, const setting &with)
+void cloneInFile(benchmark::State &state, const setting &with)
 {
     const QTemporaryDir folder(KIVZP_BENCH_DIR "/cloneXXXXXX");
     store::connection from;
@@ -309,7 +309,7 @@ int main(int argc, char **argv)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);
     };
-    add("clone/100k", clone)->Iterations(3);
+    add("clone/100k", cloneInFile)->Iterations(3);
     add("cloneRecords/100k", cloneRecords)->Iterations(3);
     add("syncNothing/100k", nothingNew)->Iterations(10);
     add("syncNothing/100k/file", nothingNewInFile)->Iterations(10);

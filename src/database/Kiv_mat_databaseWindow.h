@@ -178,6 +178,7 @@ protected:
     QString filePath() const override;
     QString title() const override;
     void begin() override;
+    void keepCurrent(const materialStruct *material, int column);
     QString editedKey() const override;
     void takeTexts(materialStruct *material, const QStringList &texts);
     std::unique_ptr<command> takeRows(const store::syncResult &result, store::base *known) override;

@@ -170,9 +170,23 @@ std::unique_ptr<command> Kiv_mat_databaseWindow::takeRows(const store::syncResul
     kiv_mat_databaseStruct &database = m_rows->database();
     databaseRowsTarget target(m_model, m_rows.get());
     rowTaking taking(result, database, target);
+    const QModelIndex current = m_view->currentIndex();
+    const QString currentRow = taking.known().value(m_rows->materialAt(current)).id;
     taking.run();
     *known = store::knownOf(database, taking.known(), *known, result);
+    // Whoever stands on a row that others changed goes on standing there.
+    if (!currentRow.isEmpty())
+        for (auto row = taking.known().cbegin(); row != taking.known().cend(); ++row)
+            if (row->id == currentRow)
+                keepCurrent(static_cast<const materialStruct *>(row.key()), current.column());
     return target.step();
+}
+
+void Kiv_mat_databaseWindow::keepCurrent(const materialStruct *material, int column)
+{
+    const QStandardItem *first = m_rows->bring(material);
+    if (first && m_rows->materialAt(m_view->currentIndex()) != material)
+        m_view->setCurrentIndex(first->index().siblingAtColumn(column));
 }
 
 // What a material was is made of what it is now and its history.
@@ -226,8 +240,11 @@ void Kiv_mat_databaseWindow::takeTexts(materialStruct *material, const QStringLi
     }
     const changeBatch batch(m_model);
     databaseRowsTarget target(m_model, m_rows.get());
-    target.replace(m_rows->homeOf(material), material, std::move(wanted));
+    const int column = m_view->currentIndex().column();
+    const materialStruct *changed =
+        target.replace(m_rows->homeOf(material), material, std::move(wanted));
     push(target.step(), tr("Back to an earlier state"));
+    keepCurrent(changed, column);
 }
 
 QString Kiv_mat_databaseWindow::editedKey() const

@@ -72,7 +72,7 @@ historyDialog::historyDialog(std::vector<store::materialHistory> materials, bool
             items.append(item);
         }
     m_view->addTopLevelItems(items);
-    constexpr int widths[] = {130, 150, 160, 190, 190};
+    constexpr int widths[] = {130, 190, 150, 190, 190};
     for (int at = whenColumn; at <= afterColumn; ++at)
         m_view->header()->resizeSection(at, widths[at]);
 

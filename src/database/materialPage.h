@@ -24,7 +24,7 @@ struct subject
     const kiv_mat_firmStruct *firms = nullptr;
     const kiv_mat_reservationsStruct *reservations = nullptr;
     bool isShared = false; // in a shared store, which knows its history
-    QString editor;        // who else edits it now; empty when nobody does
+    QString editor = {};   // who else edits it now; empty when nobody does
 };
 
 // Where the material is used, as far as that is known yet.

@@ -249,7 +249,9 @@ bool connection::open(const address &to, const QString &password)
     }
     if (!made.open()) {
         note(made.lastError());
-        m_wantsPassword = m_fault.contains(QLatin1String("password"));
+        // A server that speaks Polish says so in Polish.
+        m_wantsPassword = m_fault.contains(QLatin1String("password"))
+                          || m_fault.contains(QStringLiteral("hasł"));
         return false;
     }
     return !to.isServer

@@ -52,6 +52,41 @@ void matchByContent(std::vector<localRow> *rows, const base &known, const side &
     }
 }
 
+// A folder that is not found by its name is the one, not found either, at least half of whose
+// records lie in it now.
+void matchByChildren(std::vector<localRow> *rows, const base &known, const side &mine,
+                     const side &theirs, std::vector<bool> *taken)
+{
+    QHash<int, int> counts; // records of the folders that are left
+    for (const size_t place : theirs.rows)
+        if (!(*taken)[place])
+            counts.insert(int(place), 0);
+    if (counts.isEmpty())
+        return;
+    QHash<QString, int> homes; // of the records, by their keys
+    for (const baseRow &row : known.rows)
+        if (const auto count = counts.find(row.below); row.below >= 0 && count != counts.end()) {
+            ++*count;
+            homes.insert(row.key, row.below);
+        }
+    std::map<int, QHash<int, int>> votes; // of the folders here
+    for (const localRow &row : *rows)
+        if (row.below >= 0 && (*rows)[size_t(row.below)].base < 0)
+            if (const auto home = homes.constFind(row.key); home != homes.constEnd())
+                ++votes[row.below][*home];
+    for (const size_t place : mine.rows) {
+        const auto of = votes.find(int(place));
+        if (of == votes.end())
+            continue;
+        for (auto vote = of->second.cbegin(); vote != of->second.cend(); ++vote)
+            if (2 * vote.value() >= counts.value(vote.key()) && !(*taken)[size_t(vote.key())]) {
+                (*rows)[place].base = vote.key();
+                (*taken)[size_t(vote.key())] = true;
+                break;
+            }
+    }
+}
+
 // Runs of unknown records between the same neighbours, when they are as long on both sides.
 void matchByNeighbours(std::vector<localRow> *rows, const base &known, const side &mine,
                        const side &theirs, std::vector<bool> *taken)
@@ -238,7 +273,9 @@ void matchRows(std::vector<localRow> *rows, const base &known)
                 taken[found] = true;
             }
         // A folder has few texts of its own, which others share.
-        if (!folders.count(table))
+        if (folders.count(table))
+            matchByChildren(rows, known, of, before, &taken);
+        else
             matchByContent(rows, known, of, before, &taken);
         matchByNeighbours(rows, known, of, before, &taken);
     }

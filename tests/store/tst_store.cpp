@@ -247,6 +247,8 @@ private slots:
         row("group renamed, and they put something in", "G2:=G9", "+E@G2", false, {}, "G1(" + a + " B C) G9(D E)");
         row("group removed, and another one made in its place", "--G2 +E@G5", "G2:=G6", false, {"G6 : G2|(none)|G6"},
             "G1(" + a + " B C) G5(E)");
+        row("group renamed, and the one beside it removed", "--G1 G2:=G9", "D.d_unit=m", false, {}, "G9(D[d_unit=m])");
+        row("group renamed, and they move out of it", "G1:=G9", "B>G2", false, {}, "G9(" + a + " C) G2(D B)");
         row("groups of the same name", "+E@G7", "+F@G7", false, {}, "G1(" + a + " B C) G2(D) G7(F E)");
         row("suppliers, mine", "A.supplier=TME", "A.supplier=Farnell", false,
             {"G1 / A opornik suppliers: |TME|Farnell"}, "G1(A[d_name=opornik,d_price=1,suppliers=TME] B C) G2(D)");

@@ -557,8 +557,7 @@ class Check:
             # A new group may have got the row of the one that was removed.
             if (same or what == "moved") and self.history.text_at(row, field, last) == wanted:
                 return "the same by others"
-            if self.gave_way and what == "changed" and any((change["field"] or change["what"]) == field
-                                                           for change in others):
+            if self.gave_way and any((change["field"] or change["what"]) == field for change in others):
                 return "gave way"
             if self.gave_way and any(change["what"] == "removed" for change in others):
                 return "gave way to a removal"
