@@ -21,6 +21,8 @@ namespace {
 
 double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
 
+const QLatin1String author("bench");
+
 // A server that lives as long as this.
 class server
 {
@@ -90,7 +92,7 @@ struct person
     // added to applying.
     store::syncResult sync(double *applying = nullptr)
     {
-        store::syncResult result = store::synchronize(with, *document, known, {}, {});
+        store::syncResult result = store::synchronize(with, *document, known, author, {});
         QElapsedTimer timer;
         timer.start();
         if (result.done)
@@ -189,8 +191,8 @@ void publish(benchmark::State &state, const setting &with)
         store::base known;
         QElapsedTimer timer;
         timer.start();
-        const store::syncResult result =
-            store::publish(to, database, QStringLiteral("another %1").arg(++number), {}, &known);
+        const store::syncResult result = store::publish(
+            to, database, QStringLiteral("another %1").arg(++number), author, &known);
         state.SetIterationTime(since(timer));
         seconds += since(timer);
         if (!result.done)
@@ -209,7 +211,7 @@ void nothingNew(benchmark::State &state, const setting &with)
         QElapsedTimer timer;
         timer.start();
         const store::syncResult result =
-            store::synchronize(me.with, *me.document, me.known, {}, {});
+            store::synchronize(me.with, *me.document, me.known, author, {});
         state.SetIterationTime(since(timer));
         seconds += since(timer);
         if (!result.done || result.fetched + result.sent != 0)
@@ -296,8 +298,10 @@ int main(int argc, char **argv)
         kiv_mat_databaseStruct database;
         store::base known;
         if (!store::makeTables(owner) || loadDatabase(file, &database) != 0
-            || !store::publish(owner, database, QStringLiteral("db"), {}, &known).done)
-            qFatal("the store cannot be filled: %s", qPrintable(owner.fault()));
+            || !store::publish(owner, database, QStringLiteral("db"), author, &known).done) {
+            qWarning("the store cannot be filled: %s", qPrintable(owner.fault()));
+            return 1;
+        }
         // As a server does by itself after a while.
         owner.run(QStringLiteral("vacuum analyze"));
     }

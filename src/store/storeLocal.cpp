@@ -252,7 +252,9 @@ void matchRows(std::vector<localRow> *rows, const base &known)
         if (row.below >= 0)
             folders.insert((*rows)[size_t(row.below)].table);
     std::vector<bool> taken(known.rows.size());
-    for (const auto &[table, of] : mine) {
+    for (const auto &entry : mine) {
+        const int table = entry.first;
+        const side &of = entry.second; // no binding: a lambda may not hold one
         const side &before = theirs[table];
         const auto content = [&](bool later, int place) {
             return later ? (*rows)[of.rows[size_t(place)]].hash

@@ -51,6 +51,11 @@ const scenario databaseActions[] = {
     {"", "#columns Down Return", "materials^ = 9", reads},
     {"", "#details #details ~100", "focus = materials; details ~ 317111-01.01-00001; details ~ \u25cf GREEN",
      reads},
+    // What is in no shared store, and where none is.
+    {"", "#synchronize", "status = This file is not shared: put it into the shared store first", reads},
+    {"", "#publish 'db' Return Escape",
+     "boxes ~ Error: The shared store cannot be reached. the configuration names no shared store", reads},
+    {"", "#history", "status = This file is not shared: there is no history", reads},
     {"", "#goToDetails ~300 Tab Return", "focus = details; desktop = https://www.yageo.com", reads},
     {"#goToDetails", "Escape ", "focus = materials", reads},
     {"materials@0/0,3", "#copyText", "clipboard = GREEN", reads},

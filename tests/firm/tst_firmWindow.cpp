@@ -34,6 +34,8 @@ const scenario actions[] = {
     {"", "#delete Escape", "boxes ~ is deleted: Abracon: ; errors ~ <b>Abracon</b>: ; manufacturers = 59", guards},
     {"+manufacturers@1,1", "#mergeFirms Return",
      "status = 1 firm merged into Abracon; manufacturers = 58; saved !~ <name>Advanced Monolithic", edits},
+    {"", "#synchronize", "status = This file is not shared: put it into the shared store first", reads},
+    {"", "#publish Escape", "at = Abracon LLC", reads},
     {"", "#homePage", "desktop = https://abracon.com", reads},
     {"", "#details Tab 'a@b.example' Return",
      "file " DETAILS " ~ <email>a@b.example</email>; status = The details of Abracon are saved; title !~ *", guards},
