@@ -108,7 +108,7 @@ std::optional<QStringList> textsAt(connection &from, const QString &id, qint64 r
     const bool isGood = fetchRows(from, fileKinds::database, materialTable, {id},
                                   [&rows](storedRow &&row) {
                                       const QString known = row.id;
-                                      rows.insert(known, std::move(row));
+                                      rows.insert(known, row);
                                       return true;
                                   })
                         && goBack(from, fileKinds::database, {{id, release}}, {}, &rows, &young);

@@ -232,7 +232,7 @@ private:
         const bool isGood =
             fetchRows(m_with, m_kind, m_known.document, m_known.release, [&](storedRow &&row) {
                 const QString id = row.id;
-                m_theirs.insert(id, std::move(row));
+                m_theirs.insert(id, row);
                 return m_theirs.size() % 256 != 0 || isGoing(result, m_theirs.size(), 0);
             });
         return isGood || (result->fault.isEmpty() ? failed(result) : false);
@@ -334,7 +334,7 @@ private:
         for (auto list = missing.cbegin(); list != missing.cend(); ++list)
             if (!fetchRows(m_with, m_kind, list.key(), list.value(), [&](storedRow &&row) {
                     const QString id = row.id;
-                    m_present.insert(id, std::move(row));
+                    m_present.insert(id, row);
                     return true;
                 }))
                 return failed(result);

@@ -458,7 +458,7 @@ private:
         QHash<QString, store::storedRow> rows;
         QVERIFY(store::fetchRows(of.with, fileKinds::database, of.known.document, 0, [&rows](store::storedRow &&row) {
             const QString id = row.id;
-            rows.insert(id, std::move(row));
+            rows.insert(id, row);
             return true;
         }));
         QVERIFY(rows.size() > 20);
