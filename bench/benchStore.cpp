@@ -17,9 +17,40 @@
 
 #include <benchmark/benchmark.h>
 
+#include <ctime>
+
 namespace {
 
-double since(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e9; }
+// What something took: seconds that passed, and those in which this process worked, without the
+// server's and without what others on the machine take away.
+struct spent
+{
+    double seconds = 0;
+    double working = 0;
+
+    spent &operator+=(const spent &other)
+    {
+        seconds += other.seconds;
+        working += other.working;
+        return *this;
+    }
+    spent operator/(double count) const { return {seconds / count, working / count}; }
+};
+
+class stopwatch
+{
+public:
+    stopwatch() { m_timer.start(); }
+    spent read() const
+    {
+        return {double(m_timer.nsecsElapsed()) / 1e9,
+                double(std::clock() - m_before) / CLOCKS_PER_SEC};
+    }
+
+private:
+    QElapsedTimer m_timer;
+    std::clock_t m_before = std::clock();
+};
 
 const QLatin1String author("bench");
 
@@ -90,47 +121,47 @@ struct person
 
     // Brought together, and the changes made; the seconds that the second takes are
     // added to applying.
-    store::syncResult sync(double *applying = nullptr)
+    store::syncResult sync(spent *applying = nullptr)
     {
         store::syncResult result = store::synchronize(with, *document, known, author, {});
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         if (result.done)
             store::apply(result, document.get(), &known);
         if (applying)
-            *applying += since(timer);
+            *applying += watch.read();
         return result;
     }
 };
 
 // What the others are measured against: the file opened as by a user, which checks it. Its time
 // stamp is a new one, for a file that was checked is not checked again.
-double readingSeconds(const QString &path)
+spent openedAsAFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite)
         || !file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime))
-        return 0;
+        return {};
     file.close();
     kiv_mat_databaseStruct database;
-    QElapsedTimer timer;
-    timer.start();
-    return readChecked(path, &database) && database.materialCount() > 0 ? since(timer) : 0;
+    const stopwatch watch;
+    return readChecked(path, &database) && database.materialCount() > 0 ? watch.read() : spent();
 }
 
 struct setting
 {
     const server &at;
     QString file; // of this benchmark's own
-    double reading = 0;
+    spent reading;
 };
 
-void tell(benchmark::State &state, double seconds, double allowed, const setting &with)
+// ratio: the seconds over those allowed.
+void tell(benchmark::State &state, const spent &all, double allowed, const setting &with)
 {
-    const double once = seconds / double(state.iterations());
-    state.counters["seconds"] = once;
-    state.counters["reading"] = once / with.reading;
-    state.counters["ratio"] = once / allowed;
+    const spent once = all / double(state.iterations());
+    state.counters["seconds"] = once.seconds;
+    state.counters["working"] = once.working;
+    state.counters["reading"] = once.seconds / with.reading.seconds;
+    state.counters["ratio"] = once.seconds / allowed;
 }
 
 // A file made of the store's document. ratio: over reading that file, three times is the bound.
@@ -139,42 +170,44 @@ void cloneInFile(benchmark::State &state, const setting &with)
     const QTemporaryDir folder(KIVZP_BENCH_DIR "/cloneXXXXXX");
     store::connection from;
     with.at.open(&from);
-    double seconds = 0;
-    double reading = 0;
+    spent all;
+    spent reading;
     int number = 0;
     for (auto _ : state) {
         const QString path = folder.filePath(QStringLiteral("db%1.xml").arg(++number));
         QString fault;
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         const bool good =
             store::cloneFile(from, fileKinds::database, QStringLiteral("db"), path, &fault);
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
-        const double once = readingSeconds(path);
-        reading += once;
-        if (!good || once <= 0) {
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
+        const spent opened = openedAsAFile(path);
+        reading += opened;
+        if (!good || opened.seconds <= 0) {
             state.SkipWithError("it was not cloned");
             return;
         }
         QFile::remove(path);
     }
-    tell(state, seconds, reading / double(state.iterations()), with);
+    tell(state, all, reading.seconds / double(state.iterations()), with);
+    // Of this process alone, on both sides.
+    state.counters["workingRatio"] = all.working / reading.working;
 }
 
 // The same without the file.
 void cloneRecords(benchmark::State &state, const setting &with)
 {
-    double seconds = 0;
+    spent all;
     for (auto _ : state) {
         person fresh;
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         fresh.clone(with.at);
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
     }
-    tell(state, seconds, with.reading, with);
+    tell(state, all, with.reading.seconds, with);
 }
 
 // The document is put into an empty store.
@@ -183,22 +216,22 @@ void publish(benchmark::State &state, const setting &with)
     store::connection to;
     with.at.open(&to);
     kiv_mat_databaseStruct database;
-    double seconds = 0;
+    spent all;
     int number = 0;
     if (loadDatabase(with.file, &database) != 0)
         state.SkipWithError("not read");
     for (auto _ : state) {
         store::base known;
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         const store::syncResult result = store::publish(
             to, database, QStringLiteral("another %1").arg(++number), author, &known);
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
         if (!result.done)
             state.SkipWithError("it was not published");
     }
-    tell(state, seconds, with.reading, with);
+    tell(state, all, with.reading.seconds, with);
 }
 
 // Nobody changed anything, the document in memory.
@@ -206,19 +239,19 @@ void nothingNew(benchmark::State &state, const setting &with)
 {
     person me;
     me.clone(with.at);
-    double seconds = 0;
+    spent all;
     for (auto _ : state) {
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         const store::syncResult result =
             store::synchronize(me.with, *me.document, me.known, author, {});
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
         if (!result.done || result.fetched + result.sent != 0)
             state.SkipWithError("a wrong result");
     }
     constexpr double allowed = 0.2;
-    tell(state, seconds, allowed, with);
+    tell(state, all, allowed, with);
 }
 
 // The same of a file, which is not read for that.
@@ -232,18 +265,18 @@ void nothingNewInFile(benchmark::State &state, const setting &with)
     if (!store::cloneFile(from, fileKinds::database, QStringLiteral("db"), path, &fault))
         state.SkipWithError("it was not cloned");
     configStruct config;
-    double seconds = 0;
+    spent all;
     for (auto _ : state) {
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         const store::syncResult result = store::synchronizeFile(from, path, config, {});
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
         if (!result.done || !result.fault.isEmpty())
             state.SkipWithError("a wrong result");
     }
     constexpr double allowed = 0.2;
-    tell(state, seconds, allowed, with);
+    tell(state, all, allowed, with);
 }
 
 // A hundred rows that somebody else changed come, a hundred own ones go.
@@ -255,8 +288,8 @@ void bothChanged(benchmark::State &state, const setting &with)
     person other;
     me.clone(with.at);
     other.clone(with.at);
-    double seconds = 0;
-    double applying = 0;
+    spent all;
+    spent applying;
     int round = 0;
     for (auto _ : state) {
         const QString text = QString::number(++round);
@@ -265,17 +298,17 @@ void bothChanged(benchmark::State &state, const setting &with)
         if (!other.sync().done)
             state.SkipWithError("the other one failed");
         me.edit(changed, step / 2, step, text);
-        QElapsedTimer timer;
-        timer.start();
+        const stopwatch watch;
         const store::syncResult result = me.sync(&applying);
-        state.SetIterationTime(since(timer));
-        seconds += since(timer);
+        const spent once = watch.read();
+        state.SetIterationTime(once.seconds);
+        all += once;
         if (!result.done || result.fetched != changed || result.sent != changed)
             state.SkipWithError("a wrong result");
     }
-    state.counters["applying"] = applying / double(state.iterations());
+    state.counters["applying"] = applying.seconds / double(state.iterations());
     constexpr double allowed = 0.5;
-    tell(state, seconds, allowed, with);
+    tell(state, all, allowed, with);
 }
 
 } // namespace
@@ -305,7 +338,7 @@ int main(int argc, char **argv)
         // As a server does by itself after a while.
         owner.run(QStringLiteral("vacuum analyze"));
     }
-    const setting with{at, file, readingSeconds(file)};
+    const setting with{at, file, openedAsAFile(file)};
 
     const auto add = [&with](const char *name, auto function) {
         return benchmark::RegisterBenchmark(

@@ -250,8 +250,8 @@ bool connection::open(const address &to, const QString &password)
     if (!made.open()) {
         note(made.lastError());
         // A server that speaks Polish says so in Polish.
-        m_wantsPassword = m_fault.contains(QLatin1String("password"))
-                          || m_fault.contains(QStringLiteral("hasł"));
+        m_wantsPassword =
+            m_fault.contains(QLatin1String("password")) || m_fault.contains(QStringLiteral("hasł"));
         return false;
     }
     return !to.isServer
@@ -311,6 +311,7 @@ QVariant connection::askOne(const QString &sql, const QVariantList &values)
 
 bool connection::begin(bool forWriting)
 {
+    m_gaveUp = false;
     if (!m_isServer)
         return m_inside =
                    run(forWriting ? QStringLiteral("begin immediate") : QStringLiteral("begin"));
@@ -338,7 +339,10 @@ bool connection::beginWaiting()
             return m_inside;
         rollback();
         const QLatin1String isLocked("55P03");
-        if (m_code != isLocked || since.hasExpired(mostMs) || !m_waiting())
+        if (m_code != isLocked || since.hasExpired(mostMs))
+            return false;
+        m_gaveUp = !m_waiting();
+        if (m_gaveUp)
             return false;
         QThread::msleep(stepMs);
     }

@@ -62,6 +62,8 @@ public:
     void setWaiting(std::function<bool()> waiting) { m_waiting = std::move(waiting); }
     // Writing: nobody else writes until it ends. Reading: all questions are answered as of now.
     bool begin(bool forWriting);
+    // Whether the last begin() failed because waiting was given up.
+    bool wasGivenUp() const { return m_gaveUp; }
     bool commit();
     void rollback();
 
@@ -75,6 +77,7 @@ private:
     bool m_isServer = false;
     bool m_wantsPassword = false;
     bool m_inside = false; // a transaction
+    bool m_gaveUp = false; // waiting for others
     int m_affected = 0;
     bool beginWaiting();
 

@@ -204,8 +204,12 @@ private:
         m_takenPlaces.clear();
         const bool sends = !m_own.empty() || !m_gone.empty();
         result->mayWrite = mayWrite(m_with);
-        if (!m_with.begin(sends && result->mayWrite))
-            return failed(result);
+        if (!m_with.begin(sends && result->mayWrite)) {
+            if (!m_with.wasGivenUp())
+                return failed(result);
+            result->fault = cancelledMark();
+            return false;
+        }
         const qint64 now = m_with.askOne(QStringLiteral("select release from about")).toLongLong();
         if (now < m_known.release)
             return m_with.fault().isEmpty() ? (result->fault = QCoreApplication::translate(
@@ -966,8 +970,10 @@ syncResult publish(connection &to, documentStruct &document, const QString &name
     std::vector<localRow> rows = localRows(document);
     setPlaces(&rows, made);
     result.known.resize(rows.size());
-    if (!to.begin(true))
-        return failed(to.fault());
+    if (!to.begin(true)) {
+        result.cancelled = to.wasGivenUp();
+        return failed(result.cancelled ? QString() : to.fault());
+    }
     if (!documentId(to, kind, name).isEmpty())
         return failed(QCoreApplication::translate(
             "store", "there is a document of that name in the shared store: clone it"));

@@ -9,10 +9,10 @@
 #include "data/loaders.h"
 #include "util/labels.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <functional>
+
+#include <xxhash.h>
 
 namespace store {
 
@@ -86,6 +86,12 @@ void setListText(const QString &text, std::vector<std::unique_ptr<Child>> *items
     }
 }
 
+// Qt's own has 32 bits and takes "4R7" for "537": a change between them would never be sent.
+quint64 hashOf(const QString &text)
+{
+    return XXH3_64bits(text.constData(), size_t(text.size()) * sizeof(QChar));
+}
+
 quint64 mixed(quint64 hash, quint64 more)
 {
     constexpr quint64 factor = 1099511628211U;
@@ -97,7 +103,7 @@ quint64 fieldsHash(const Record &record)
 {
     quint64 hash = 0;
     for (const auto &field : Record::fields())
-        hash = mixed(hash, qHash(record.*field.member));
+        hash = mixed(hash, hashOf(record.*field.member));
     return hash;
 }
 
@@ -272,11 +278,11 @@ public:
         quint64 hash = 0;
         const auto &fields = Record::fields();
         for (size_t i = 1; i < fields.size(); ++i)
-            hash = mixed(hash, qHash(of.*fields[i].member));
+            hash = mixed(hash, hashOf(of.*fields[i].member));
         if constexpr (hasInformation)
             hash = mixed(hash, fieldsHash(of.information));
         for (const auto &part : m_parts)
-            hash = mixed(hash, part.hash ? part.hash(of) : qHash(part.text(of)));
+            hash = mixed(hash, part.hash ? part.hash(of) : hashOf(part.text(of)));
         return hash;
     }
 

@@ -203,9 +203,16 @@ class Client:
                               "ktm": ET.fromstring(content).findtext("d_ktm")})
             if content != base_content:
                 texts, base_texts = (texts_of(ET.fromstring(one)) for one in (content, base_content))
-                found += [{"what": "changed", "row": row, "field": field, "after": text, "ktm": texts.get("d_ktm")}
+                found += [{"what": "changed", "row": row, "field": field, "after": text, "ktm": texts.get("d_ktm"),
+                           "another": table == "material_group" and not self.holds_the_same(row, now)}
                           for field, text in texts.items() if text != base_texts.get(field, "")]
         return found
+
+    def holds_the_same(self, group, now):
+        """Whether a group still has half of its materials. A renamed one is known by them."""
+        before, after = ({ET.fromstring(content).findtext("d_ktm") for _, below, content in state.values()
+                          if below == group} for state in (self.base, now))
+        return bool(before) and 2 * len(before & after) >= len(before)
 
     def write(self):
         ET.ElementTree(self.root).write(self.file, encoding="UTF-8", xml_declaration=True)
@@ -534,7 +541,8 @@ class Check:
         row, what = edit["row"], edit["what"]
         field = edit.get("field", what)
         wanted = frozen(edit.get("after"))
-        if what == "moved" and wanted not in self.history.rows:
+        is_new_group = what == "moved" and wanted not in self.history.rows
+        if is_new_group:
             wanted = next(iter(self.history.by_key[wanted]), None)  # a new group, by its name
         changes = [change for change in self.history.of_row[row] if self.within(change)]
         same = [change for change in changes if (change["field"] or change["what"]) == field]
@@ -555,7 +563,7 @@ class Check:
                 return "gave way"
         else:
             # A new group may have got the row of the one that was removed.
-            if (same or what == "moved") and self.history.text_at(row, field, last) == wanted:
+            if (same or is_new_group) and self.history.text_at(row, field, last) == wanted:
                 return "the same by others"
             if self.gave_way and any((change["field"] or change["what"]) == field for change in others):
                 return "gave way"
@@ -564,11 +572,16 @@ class Check:
         return self.in_another_row(edit, changes, last)
 
     def in_another_row(self, edit, changes, last):
-        """A record of which KTM and content were changed at once may have become a new row, and a new one
-        may have got the row of one that was removed in its place."""
+        """A record of which KTM and content were changed at once may have become a new row, a group that was
+        renamed and lost its materials, too; and a new one may have got the row of one that was removed in its
+        place."""
         if edit["what"] == "removed":
             renamed = any(self.mine(change) and change["field"] in ("d_ktm", "name") for change in changes)
             return "became another" if renamed else ""
+        if edit.get("another") and any(self.mine(change) and change["what"] == "added"
+                                       for row in self.history.by_key[edit["after"]]
+                                       for change in self.history.of_row[row]):
+            return "in another row"
         for row in self.history.by_key[edit.get("ktm")]:
             if any(self.mine(change) and (change["what"] == "added" or change["field"] == "d_ktm")
                    for change in self.history.of_row[row]) \
@@ -581,6 +594,7 @@ class Check:
         """What the store says that this client changed, it did change."""
         made = set()
         keys = set()
+        others = set()  # groups that became others, under both rows
         half = []
         for place, line in enumerate(self.log):
             if line["half"]:
@@ -588,6 +602,8 @@ class Check:
             for edit in line["edits"]:
                 made.add((edit.get("row"), edit.get("field", edit["what"]),
                           None if edit["what"] in ("removed", "added", "moved") else frozen(edit["after"])))
+                if edit.get("another"):
+                    others |= {edit["row"]} | self.history.by_key[edit["after"]]
                 keys.add(edit.get("ktm") or edit.get("texts", {}).get("d_ktm") or edit.get("texts", {}).get("name"))
         became = {(change["row_id"], change["release"]) for change in self.history.changes
                   if change["program"] == self.program and change["field"] in ("d_ktm", "name")
@@ -600,7 +616,7 @@ class Check:
             if (change["row_id"], change["field"] or change["what"], after) in made:
                 continue
             row = self.history.rows[change["row_id"]]
-            if (change["row_id"], change["release"]) in became or (
+            if (change["row_id"], change["release"]) in became or {change["row_id"], change["after"]} & others or (
                     change["what"] == "removed" and row.get("d_ktm") is not None
                     and any(made_row == change["row_id"] and field == "d_ktm" for made_row, field, _ in made)):
                 self.counts["told of another row"] += 1
@@ -685,7 +701,7 @@ class Run:
         used = self.server.processor()
         connected = self.server.connected()
         until = time.monotonic() + seconds
-        workers = [multiprocessing.Process(target=client.work, args=(until, given.kill_clients))
+        workers = [multiprocessing.Process(target=client.work, args=(until, given.kill_clients), daemon=True)
                    for client in self.clients]
         begun = time.monotonic()
         for worker in workers:
