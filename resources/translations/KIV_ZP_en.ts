@@ -400,6 +400,13 @@
             <numerusform>The update is in %1: %n files</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n shared file(s)</source>
+        <translation>
+            <numerusform>%n shared file</numerusform>
+            <numerusform>%n shared files</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>
@@ -840,13 +847,6 @@
         <translation>
             <numerusform>%n sent</numerusform>
             <numerusform>%n sent</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n record(s) are in the shared store</source>
-        <translation>
-            <numerusform>%n record is in the shared store</numerusform>
-            <numerusform>%n records are in the shared store</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1758,6 +1758,16 @@
         <translation>
             <numerusform>choose of %n</numerusform>
             <numerusform>choose of %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>storeAccess</name>
+    <message numerus="yes">
+        <source>%n record(s) are in the shared store</source>
+        <translation>
+            <numerusform>%n record is in the shared store</numerusform>
+            <numerusform>%n records are in the shared store</numerusform>
         </translation>
     </message>
 </context>

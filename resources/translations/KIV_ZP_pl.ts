@@ -483,10 +483,6 @@
 <context>
     <name>Kiv_mat_databaseWindow</name>
     <message>
-        <source>Xml File</source>
-        <translation>Plik XML</translation>
-    </message>
-    <message>
         <source>Cancelled</source>
         <translation>Anulowano</translation>
     </message>
@@ -936,10 +932,6 @@
     <message>
         <source>the order was not saved yet</source>
         <translation>zamówienia jeszcze nie zapisano</translation>
-    </message>
-    <message>
-        <source>Xml File</source>
-        <translation>Plik XML</translation>
     </message>
     <message>
         <source>Save &amp; close order</source>
@@ -1480,6 +1472,46 @@
     <message>
         <source>What is new in the update</source>
         <translation>Co nowego w aktualizacji</translation>
+    </message>
+    <message>
+        <source>No file is shared: put one into the shared store first</source>
+        <translation>Żaden plik nie jest wspólny: najpierw umieść jakiś we wspólnej bazie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shared file(s)</source>
+        <translation>
+            <numerusform>%n wspólny plik</numerusform>
+            <numerusform>%n wspólne pliki</numerusform>
+            <numerusform>%n wspólnych plików</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not synchronised: %1</source>
+        <translation>Niezsynchronizowane: %1</translation>
+    </message>
+    <message>
+        <source>The shared store is empty</source>
+        <translation>Wspólna baza jest pusta</translation>
+    </message>
+    <message>
+        <source>Take from the shared store</source>
+        <translation>Pobranie ze wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>&amp;Document:</source>
+        <translation>&amp;Dokument:</translation>
+    </message>
+    <message>
+        <source>A newer program put this document into the shared store.</source>
+        <translation>Ten dokument umieścił we wspólnej bazie nowszy program.</translation>
+    </message>
+    <message>
+        <source>Taking it from the shared store</source>
+        <translation>Pobieranie ze wspólnej bazy</translation>
+    </message>
+    <message>
+        <source>%1 is in %2</source>
+        <translation>%1 jest w pliku %2</translation>
     </message>
 </context>
 <context>
@@ -3102,6 +3134,30 @@
     <message>
         <source>Who changed what of this material in the shared store</source>
         <translation>Kto co zmienił w tym materiale we wspólnej bazie</translation>
+    </message>
+    <message>
+        <source>Synchronise all</source>
+        <translation>Synchronizuj wszystko</translation>
+    </message>
+    <message>
+        <source>Bring all shared files together with the shared store</source>
+        <translation>Uzgadnia wszystkie wspólne pliki ze wspólną bazą</translation>
+    </message>
+    <message>
+        <source>Take from the shared store ...</source>
+        <translation>Pobierz ze wspólnej bazy ...</translation>
+    </message>
+    <message>
+        <source>Make a file of a document that others share</source>
+        <translation>Tworzy plik z dokumentu, który udostępniają inni</translation>
+    </message>
+    <message>
+        <source>Put a file into the shared store ...</source>
+        <translation>Umieść plik we wspólnej bazie ...</translation>
+    </message>
+    <message>
+        <source>Share a database, firms, reservations, states or offers</source>
+        <translation>Udostępnia bazę, firmy, rezerwacje, stany lub oferty</translation>
     </message>
 </context>
 <context>
@@ -7162,14 +7218,6 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
         <translation>Ten plik nie jest wspólny: najpierw umieść go we wspólnej bazie</translation>
     </message>
     <message>
-        <source>Synchronising</source>
-        <translation>Synchronizacja</translation>
-    </message>
-    <message>
-        <source>Changes here and by others</source>
-        <translation>Zmiany tutaj i innych osób</translation>
-    </message>
-    <message>
         <source>Nothing was fetched and nothing sent</source>
         <translation>Niczego nie pobrano ani nie wysłano</translation>
     </message>
@@ -7186,30 +7234,6 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
         <translation>Ten plik jest już wspólny: uzgadnia go Synchronizuj</translation>
     </message>
     <message>
-        <source>Put into the shared store</source>
-        <translation>Umieszczenie we wspólnej bazie</translation>
-    </message>
-    <message>
-        <source>&amp;Name that others find it by:</source>
-        <translation>&amp;Nazwa, pod którą znajdą go inni:</translation>
-    </message>
-    <message>
-        <source>Putting it into the shared store</source>
-        <translation>Umieszczanie we wspólnej bazie</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n record(s) are in the shared store</source>
-        <translation>
-            <numerusform>We wspólnej bazie jest %n rekord</numerusform>
-            <numerusform>We wspólnej bazie są %n rekordy</numerusform>
-            <numerusform>We wspólnej bazie jest %n rekordów</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Nothing was put into the shared store</source>
-        <translation>Niczego nie umieszczono we wspólnej bazie</translation>
-    </message>
-    <message>
         <source>Fetch them: Synchronise</source>
         <translation>Pobierz je: Synchronizuj</translation>
     </message>
@@ -7220,6 +7244,10 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
             <numerusform>%n zmiany innych osób</numerusform>
             <numerusform>%n zmian innych osób</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Xml File</source>
+        <translation>Plik XML</translation>
     </message>
 </context>
 <context>
@@ -12355,6 +12383,38 @@ własne oznaczenie</translation>
     <message>
         <source>The shared store cannot be reached. </source>
         <translation>Nie można połączyć się ze wspólną bazą. </translation>
+    </message>
+    <message>
+        <source>Synchronising</source>
+        <translation>Synchronizacja</translation>
+    </message>
+    <message>
+        <source>Changes here and by others</source>
+        <translation>Zmiany tutaj i innych osób</translation>
+    </message>
+    <message>
+        <source>Nothing was put into the shared store</source>
+        <translation>Niczego nie umieszczono we wspólnej bazie</translation>
+    </message>
+    <message>
+        <source>Put into the shared store</source>
+        <translation>Umieszczenie we wspólnej bazie</translation>
+    </message>
+    <message>
+        <source>&amp;Name that others find it by:</source>
+        <translation>&amp;Nazwa, pod którą znajdą go inni:</translation>
+    </message>
+    <message>
+        <source>Putting it into the shared store</source>
+        <translation>Umieszczanie we wspólnej bazie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) are in the shared store</source>
+        <translation>
+            <numerusform>We wspólnej bazie jest %n rekord</numerusform>
+            <numerusform>We wspólnej bazie są %n rekordy</numerusform>
+            <numerusform>We wspólnej bazie jest %n rekordów</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -58,14 +58,6 @@ QString absolute(const QString &path) { return QFileInfo(path).absoluteFilePath(
 
 // --- publish
 
-// Offers lie in a folder named after their order, and are all called the same.
-QString usualName(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.completeBaseName() == QLatin1String("offers") ? info.dir().dirName()
-                                                              : info.completeBaseName();
-}
-
 int runPublish(const QStringList &arguments)
 {
     parser given(publishCommand, QStringLiteral("[FILE...]"), 0, -1);
@@ -94,7 +86,7 @@ int runPublish(const QStringList &arguments)
         return refuse(of.with.fault());
     for (const QString &file : files) {
         const QString path = absolute(file);
-        const QString name = given.isSet(as) ? given.value(as) : usualName(path);
+        const QString name = given.isSet(as) ? given.value(as) : store::usualName(path);
         const store::syncResult result = store::publishFile(of.with, path, name);
         if (!result.done || !result.fault.isEmpty())
             return refuse(result.fault);

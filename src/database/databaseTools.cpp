@@ -38,8 +38,6 @@ QString xlsxFilter()
     return Kiv_mat_databaseWindow::tr("Xlsx File") + QLatin1String(" (*.xlsx)");
 }
 
-QString xmlFilter() { return Kiv_mat_databaseWindow::tr("Xml File") + QLatin1String(" (*.xml)"); }
-
 // Many texts of records as one step; rows that are made follow.
 class changeTexts : public command
 {

@@ -2,7 +2,8 @@
 // the program stand in MainWindow.cpp, the order's life in MainWindowOrder.cpp, its lines in
 // MainWindowLines.cpp, BOM lists and messages in MainWindowBom.cpp, what was left unsaved in
 // MainWindowRecovery.cpp, the register of orders in MainWindowOrders.cpp, what becomes of an
-// order later in MainWindowPurchase.cpp, and updates in MainWindowUpdate.cpp.
+// order later in MainWindowPurchase.cpp, updates in MainWindowUpdate.cpp, and the shared store in
+// MainWindowStore.cpp.
 #pragma once
 
 #include "bom/boardStock.h"
@@ -144,6 +145,9 @@ public slots:
     // Listens to the shared store when a file of the configuration is in it, and it is reached
     // without asking.
     void checkStore();
+    void commandSynchronizeAll(bool);
+    void commandTakeShared(bool);
+    void commandPutShared(bool);
     void commandUpdate(bool);
     void commandCreateUpdate(bool);
     void commandUpdateDesc(bool);

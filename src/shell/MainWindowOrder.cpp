@@ -40,8 +40,6 @@
 
 namespace {
 
-QString xmlFilter() { return MainWindow::tr("Xml File") + QLatin1String(" (*.xml)"); }
-
 QString reportPath(const QString &path)
 {
     QString target = path;

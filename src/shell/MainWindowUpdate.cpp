@@ -2,16 +2,14 @@
 #include "shell/MainWindow.h"
 
 #include "data/programData.h"
-#include "store/storeFiles.h"
 #include "tree/richtexteditDialog.h"
 #include "update/createUpdateDialog.h"
+#include "update/updateSource.h"
 #include "update/updateWindow.h"
 #include "util/files.h"
 #include "util/messages.h"
 #include "util/paths.h"
 #include "util/prompts.h"
-#include "window/storeAccess.h"
-#include "window/storeListener.h"
 #include "window/workProgress.h"
 
 #include <QDir>
@@ -45,8 +43,8 @@ void MainWindow::checkUpdate()
     if (!isVisible())
         return;
     if (!found.fault.isEmpty()) {
-        userPrompts().log(
-            messages::failed(tr("Updates cannot be looked for "), with.address, found.fault));
+        userPrompts().log(messages::failed(tr("Updates cannot be looked for "),
+                                           updateSource::shown(with.address), found.fault));
         return;
     }
     QStringList newer;
@@ -56,16 +54,9 @@ void MainWindow::checkUpdate()
     if (newer.isEmpty())
         return;
     userPrompts().log(messages::done(tr("A newer version is available "),
-                                     newer.join(QLatin1String(", ")), with.address));
+                                     newer.join(QLatin1String(", ")),
+                                     updateSource::shown(with.address)));
     tell(tr("An update is there: %1").arg(newer.join(QLatin1String(", "))));
-}
-
-void MainWindow::checkStore()
-{
-    if (store::sharedFiles(known().config()).isEmpty())
-        return;
-    if (auto with = storeAccess::open(known().config(), progress(), false))
-        storeListener::instance().listen(std::move(with));
 }
 
 void MainWindow::commandUpdate(bool)

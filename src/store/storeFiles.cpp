@@ -119,6 +119,14 @@ syncResult synchronizeFile(connection &with, const QString &path, configStruct &
     return result;
 }
 
+// Offers lie in a folder named after their order, and are all called the same.
+QString usualName(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.completeBaseName() == QLatin1String("offers") ? info.dir().dirName()
+                                                              : info.completeBaseName();
+}
+
 syncResult publishFile(connection &to, const QString &path, const QString &name,
                        const progressFunction &progress)
 {

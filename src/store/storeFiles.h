@@ -22,6 +22,9 @@ QString authorName();
 syncResult synchronizeFile(connection &with, const QString &path, configStruct &config,
                            const conflictsSettled &settle, const progressFunction &progress = {});
 
+// What a file is called in the store unless somebody says otherwise.
+QString usualName(const QString &path);
+
 // Puts a file into the store.
 syncResult publishFile(connection &to, const QString &path, const QString &name,
                        const progressFunction &progress = {});

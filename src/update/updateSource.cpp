@@ -222,11 +222,16 @@ updateSource::updateSource(const QString &address, login account)
             // The port is always that of secure copy.
             || (m_base.scheme() == QLatin1String("scp") && hasHost && m_base.port() < 0)
             || (m_base.isLocalFile() && !hasHost));
-    // An account in it is not shown; it has options of its own.
-    static const QRegularExpression userInfo(QStringLiteral("//[^/]*@"));
     if (!isGood)
-        m_fault = QCoreApplication::translate("updates", "%1 is no address of updates")
-                      .arg(QString(plain).replace(userInfo, QStringLiteral("//")));
+        m_fault =
+            QCoreApplication::translate("updates", "%1 is no address of updates").arg(shown(plain));
+}
+
+QString updateSource::shown(const QString &address)
+{
+    // By its text: a password may have any characters where it does not belong.
+    static const QRegularExpression account(QStringLiteral("//.*@"));
+    return QString(address).replace(account, QStringLiteral("//"));
 }
 
 QUrl updateSource::urlOf(const QString &link) const

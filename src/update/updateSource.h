@@ -21,6 +21,10 @@ public:
     // the end is added. Anything else has a fault().
     explicit updateSource(const QString &address, login account = {});
 
+    // An address as it may be shown and logged: an account in it, which has options of its own, is
+    // left out.
+    static QString shown(const QString &address);
+
     // Why nothing can be fetched from it; empty when it is an address.
     const QString &fault() const { return m_fault; }
 

@@ -29,6 +29,7 @@ class documentStruct;
 class programData;
 namespace store {
 struct base;
+class connection;
 struct syncResult;
 } // namespace store
 
@@ -162,6 +163,13 @@ public:
     // is kept as a version first. what names the version. False, told to the user, when it may not.
     bool restoreVersion(documentStruct &version, const QString &what);
 
+    // Fetches what others changed in the shared store and sends what was changed here; the file is
+    // written then. Conflicts are shown. Cancelled, with the reason in the fault, when the window
+    // cannot just now. The fault was not told yet.
+    store::syncResult synchronize(store::connection &with);
+    // Puts the file into the shared store under a name that is asked for; what came of it.
+    QString publish();
+
     // Locks or unlocks as the configuration and the document allow.
     void setUnlocked(bool wanted);
 
@@ -200,6 +208,12 @@ protected:
         baseWindow::addActions(table);
         followHistory();
     }
+
+    // What was fetched and sent, for the status bar.
+    static QString sentence(const store::syncResult &result);
+
+    // For dialogs that choose a file.
+    static QString xmlFilter() { return tr("Xml File") + QLatin1String(" (*.xml)"); }
 
     // A tree whose edits are steps of the history. Further columns, hints and menus are the
     // window's.
@@ -361,8 +375,8 @@ private:
     void readStoreState();
     void followStore();
     void showChangesOfOthers();
-    bool canMeetStore();
-    void finishSynchronizing(const store::syncResult &result, store::base known);
+    bool canMeetStore(QString *why);
+    void finishSynchronizing(const store::syncResult &result, store::base known, QString *fault);
 
     bool mayUnlock() const;
     QString lockedText() const;

@@ -5,7 +5,6 @@
 #include "data/programData.h"
 #include "store/storeFiles.h"
 #include "util/prompts.h"
-#include "window/mergeDialog.h"
 #include "window/storeAccess.h"
 #include "window/storeListener.h"
 #include "window/workProgress.h"
@@ -14,38 +13,6 @@
 #include <QFileInfo>
 #include <QStatusBar>
 #include <QToolButton>
-
-namespace {
-
-// Work that ends while the user is asked something.
-class pausedWork
-{
-public:
-    pausedWork(workProgress &progress, QString text)
-        : m_progress(progress)
-        , m_text(std::move(text))
-    {
-        goOn();
-    }
-    void goOn() { m_scope.emplace(m_progress, m_text); }
-    void pause() { m_scope.reset(); }
-    bool tell(qint64 done, qint64 total) { return !m_scope || m_scope->function()(done, total); }
-
-private:
-    workProgress &m_progress;
-    QString m_text;
-    std::optional<workProgress::scope> m_scope;
-};
-
-QString sentence(const store::syncResult &result)
-{
-    return result.fetched + result.sent == 0
-               ? editWindow::tr("The shared store holds the same")
-               : editWindow::tr("%n change(s) fetched", nullptr, result.fetched)
-                     + QLatin1String(", ") + editWindow::tr("%n sent", nullptr, result.sent);
-}
-
-} // namespace
 
 void editWindow::readStoreState()
 {
@@ -83,67 +50,69 @@ void editWindow::showChangesOfOthers()
 }
 
 // What the window shows is the file as it was read, with what was changed here.
-bool editWindow::canMeetStore()
+bool editWindow::canMeetStore(QString *why)
 {
     if (!finishEditing() || !record())
-        return false;
+        return false; // the editor has told why
     if (fileState::of(filePath()) == onDisk())
         return true;
     lookAtFile();
-    tell(tr("Another program changed the file: take that in first"));
+    *why = tr("Another program changed the file: take that in first");
     return false;
+}
+
+QString editWindow::sentence(const store::syncResult &result)
+{
+    return result.fetched + result.sent == 0
+               ? tr("The shared store holds the same")
+               : tr("%n change(s) fetched", nullptr, result.fetched) + QLatin1String(", ")
+                     + tr("%n sent", nullptr, result.sent);
 }
 
 void editWindow::commandSynchronize(bool)
 {
-    if (!canMeetStore())
-        return;
-    QString fault;
-    store::base known = store::base::read(filePath(), &fault);
-    if (!fault.isEmpty()) {
-        userPrompts().showError(fault.toHtmlEscaped());
-        return;
-    }
-    if (!known.isShared()) {
+    if (!store::base::readHead(filePath()).isShared()) {
         tell(tr("This file is not shared: put it into the shared store first"));
         return;
     }
     std::unique_ptr<store::connection> with = storeAccess::open(m_known.config(), progress());
     if (!with)
         return;
-    store::syncResult result;
-    {
-        pausedWork work(progress(), tr("Synchronising"));
-        const progressFunction go = [&work](long long done, long long total) {
-            return work.tell(done, total);
-        };
-        with->setWaiting([&go] { return go(0, 0); });
-        result = store::synchronize(
-            *with, *record(), known, store::authorName(),
-            [this, &work](std::vector<mergeRow> &rows) {
-                work.pause();
-                mergeDialog dialog(rows, true, this);
-                dialog.setWindowTitle(tr("Changes here and by others"));
-                const bool isSettled = dialog.exec() == QDialog::Accepted;
-                work.goOn();
-                return isSettled;
-            },
-            go);
-    }
-    with->setWaiting({});
-    if (!storeListener::instance().isListening())
-        storeListener::instance().listen(std::move(with));
+    const store::syncResult result = synchronize(*with);
+    storeAccess::listen(std::move(with));
     if (result.done)
-        finishSynchronizing(result, std::move(known));
-    else if (result.fault.isEmpty())
-        tell(tr("Nothing was fetched and nothing sent"));
-    else
-        userPrompts().showError(tr("The file and the shared store could not be brought together: ")
-                                + result.fault.toHtmlEscaped());
+        tell(sentence(result));
+    else if (result.cancelled)
+        tell(result.fault.isEmpty() ? tr("Nothing was fetched and nothing sent") : result.fault);
+    if (!result.cancelled && !result.fault.isEmpty())
+        userPrompts().showError(result.fault.toHtmlEscaped());
+}
+
+store::syncResult editWindow::synchronize(store::connection &with)
+{
+    store::syncResult result;
+    if (!canMeetStore(&result.fault)) {
+        result.cancelled = true;
+        return result;
+    }
+    store::base known = store::base::read(filePath(), &result.fault);
+    if (!result.fault.isEmpty())
+        return result;
+    result = storeAccess::bringTogether(
+        with, progress(), this, [&](const auto &settle, const progressFunction &go) {
+            return store::synchronize(with, *record(), known, store::authorName(), settle, go);
+        });
+    if (result.done)
+        finishSynchronizing(result, std::move(known), &result.fault);
+    else if (!result.fault.isEmpty())
+        result.fault =
+            tr("The file and the shared store could not be brought together: ") + result.fault;
+    return result;
 }
 
 // What was sent is in the store: the file follows at once, so that both go on being the same.
-void editWindow::finishSynchronizing(const store::syncResult &result, store::base known)
+void editWindow::finishSynchronizing(const store::syncResult &result, store::base known,
+                                     QString *fault)
 {
     historyMoves();
     auto step = takeRows(result, &known);
@@ -154,15 +123,11 @@ void editWindow::finishSynchronizing(const store::syncResult &result, store::bas
     if (isModified() && !save())
         return;
     known.synced = fileState::of(filePath());
-    QString fault;
-    if (!known.write(filePath(), &fault)) {
-        userPrompts().showError(fault.toHtmlEscaped());
+    if (!known.write(filePath(), fault))
         return;
-    }
     readStoreState();
     setUnlocked(!m_locked);
     showChangesOfOthers();
-    tell(sentence(result));
 }
 
 std::unique_ptr<command> editWindow::takeRows(const store::syncResult &result, store::base *known)
@@ -176,38 +141,21 @@ std::unique_ptr<command> editWindow::takeRows(const store::syncResult &result, s
     return become(*wanted);
 }
 
-void editWindow::commandPublish(bool)
+void editWindow::commandPublish(bool) { tell(publish()); }
+
+QString editWindow::publish()
 {
-    if (!canMeetStore())
-        return;
     QString fault;
-    if (store::base::read(filePath(), &fault).isShared()) {
-        tell(tr("This file is shared already: Synchronise brings both together"));
-        return;
-    }
+    if (!canMeetStore(&fault))
+        return fault;
+    if (store::base::read(filePath(), &fault).isShared())
+        return tr("This file is shared already: Synchronise brings both together");
     if (!fault.isEmpty()) {
         userPrompts().showError(fault.toHtmlEscaped());
-        return;
+        return {};
     }
-    const auto name = userPrompts().inputText(tr("Put into the shared store"),
-                                              tr("&Name that others find it by:"),
-                                              QFileInfo(filePath()).completeBaseName());
-    if (!name || name->trimmed().isEmpty() || (isModified() && !save()))
-        return;
-    const std::unique_ptr<store::connection> with = storeAccess::open(m_known.config(), progress());
-    if (!with)
-        return;
-    store::syncResult result;
-    {
-        workProgress::scope work(progress(), tr("Putting it into the shared store"));
-        const progressFunction go = work.function();
-        with->setWaiting([&go] { return go(0, 0); });
-        result = store::publishFile(*with, filePath(), name->trimmed(), go);
-    }
+    const QString told = storeAccess::put(m_known.config(), progress(), filePath(),
+                                          [this] { return !isModified() || save(); });
     readStoreState();
-    if (!result.fault.isEmpty())
-        userPrompts().showError(result.fault.toHtmlEscaped());
-    else
-        tell(result.done ? tr("%n record(s) are in the shared store", nullptr, result.sent)
-                         : tr("Nothing was put into the shared store"));
+    return told;
 }

@@ -71,12 +71,15 @@ mergeDialog::mergeDialog(std::vector<mergeRow> &rows, bool mayTake, QWidget *par
     auto *buttons = new QDialogButtonBox(this);
     m_merge = buttons->addButton(tr("Merge"), QDialogButtonBox::AcceptRole);
     m_merge->setObjectName(QStringLiteral("mergeVersions"));
+    m_merge->setDefault(true);
     buttons->addButton(QDialogButtonBox::Cancel);
     for (const bool theirs : {false, true}) {
         QPushButton *button = buttons->addButton(theirs ? tr("Take &theirs") : tr("Take &mine"),
                                                  QDialogButtonBox::ActionRole);
         button->setObjectName(theirs ? QStringLiteral("takeTheirs") : QStringLiteral("takeMine"));
         button->setToolTip(tr("In the selected rows"));
+        // Return merges, wherever the focus is.
+        button->setAutoDefault(false);
         button->setEnabled(m_mayTake);
         connect(button, &QPushButton::clicked, this, [this, theirs] { take(theirs); });
     }

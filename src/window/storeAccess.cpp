@@ -3,6 +3,8 @@
 #include "data/configStruct.h"
 #include "store/storeFiles.h"
 #include "util/prompts.h"
+#include "window/mergeDialog.h"
+#include "window/storeListener.h"
 #include "window/workProgress.h"
 
 #include <QCoreApplication>
@@ -112,6 +114,27 @@ bool openAsking(store::connection *with, const store::address &to)
     return false;
 }
 
+// Work that ends while the user is asked something.
+class pausedWork
+{
+public:
+    explicit pausedWork(workProgress &progress)
+        : m_progress(progress)
+    {
+        goOn();
+    }
+    void goOn()
+    {
+        m_scope.emplace(m_progress, QCoreApplication::translate("storeAccess", "Synchronising"));
+    }
+    void pause() { m_scope.reset(); }
+    bool tell(qint64 done, qint64 total) { return !m_scope || m_scope->function()(done, total); }
+
+private:
+    workProgress &m_progress;
+    std::optional<workProgress::scope> m_scope;
+};
+
 } // namespace
 
 std::unique_ptr<store::connection> open(const configStruct &config, workProgress &progress,
@@ -146,6 +169,63 @@ std::unique_ptr<store::connection> open(const configStruct &config, workProgress
         QCoreApplication::translate("storeAccess", "The shared store cannot be reached. ")
         + (where + fault).toHtmlEscaped());
     return nullptr;
+}
+
+store::syncResult bringTogether(
+    store::connection &with, workProgress &progress, QWidget *window,
+    const std::function<store::syncResult(const store::conflictsSettled &settle,
+                                          const progressFunction &progress)> &work)
+{
+    pausedWork shown(progress);
+    const progressFunction go = [&shown](long long done, long long total) {
+        return shown.tell(done, total);
+    };
+    with.setWaiting([&go] { return go(0, 0); });
+    store::syncResult result = work(
+        [&shown, window](std::vector<mergeRow> &rows) {
+            shown.pause();
+            mergeDialog dialog(rows, true, window);
+            dialog.setWindowTitle(
+                QCoreApplication::translate("storeAccess", "Changes here and by others"));
+            const bool isSettled = dialog.exec() == QDialog::Accepted;
+            shown.goOn();
+            return isSettled;
+        },
+        go);
+    with.setWaiting({});
+    return result;
+}
+
+QString put(const configStruct &config, workProgress &progress, const QString &path,
+            const std::function<bool()> &isSaved)
+{
+    const QString nothing =
+        QCoreApplication::translate("storeAccess", "Nothing was put into the shared store");
+    const auto name = userPrompts().inputText(
+        QCoreApplication::translate("storeAccess", "Put into the shared store"),
+        QCoreApplication::translate("storeAccess", "&Name that others find it by:"),
+        store::usualName(path));
+    if (!name || name->trimmed().isEmpty() || !isSaved())
+        return nothing;
+    const std::unique_ptr<store::connection> with = open(config, progress);
+    if (!with)
+        return nothing;
+    workProgress::scope work(
+        progress, QCoreApplication::translate("storeAccess", "Putting it into the shared store"));
+    const progressFunction go = work.function();
+    with->setWaiting([&go] { return go(0, 0); });
+    const store::syncResult result = store::publishFile(*with, path, name->trimmed(), go);
+    if (!result.fault.isEmpty())
+        userPrompts().showError(result.fault.toHtmlEscaped());
+    return result.done ? QCoreApplication::translate(
+               "storeAccess", "%n record(s) are in the shared store", nullptr, result.sent)
+                       : nothing;
+}
+
+void listen(std::unique_ptr<store::connection> with)
+{
+    if (!storeListener::instance().isListening())
+        storeListener::instance().listen(std::move(with));
 }
 
 } // namespace storeAccess
