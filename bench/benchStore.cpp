@@ -279,10 +279,9 @@ void nothingNewInFile(benchmark::State &state, const setting &with)
     tell(state, all, allowed, with);
 }
 
-// A hundred rows that somebody else changed come, a hundred own ones go.
-void bothChanged(benchmark::State &state, const setting &with)
+// Rows that somebody else changed come, own ones go.
+void changed(benchmark::State &state, const setting &with, int own, int others)
 {
-    constexpr int changed = 100;
     constexpr int step = 900;
     person me;
     person other;
@@ -294,16 +293,16 @@ void bothChanged(benchmark::State &state, const setting &with)
     for (auto _ : state) {
         const QString text = QString::number(++round);
         other.sync();
-        other.edit(changed, 0, step, text);
+        other.edit(others, 0, step, text);
         if (!other.sync().done)
             state.SkipWithError("the other one failed");
-        me.edit(changed, step / 2, step, text);
+        me.edit(own, step / 2, step, text);
         const stopwatch watch;
         const store::syncResult result = me.sync(&applying);
         const spent once = watch.read();
         state.SetIterationTime(once.seconds);
         all += once;
-        if (!result.done || result.fetched != changed || result.sent != changed)
+        if (!result.done || result.fetched != others || result.sent != own)
             state.SkipWithError("a wrong result");
     }
     state.counters["applying"] = applying.seconds / double(state.iterations());
@@ -350,7 +349,12 @@ int main(int argc, char **argv)
     add("cloneRecords/100k", cloneRecords)->Iterations(3);
     add("syncNothing/100k", nothingNew)->Iterations(10);
     add("syncNothing/100k/file", nothingNewInFile)->Iterations(10);
-    add("sync/100k", bothChanged)->Iterations(10);
+    for (const auto &[name, own, others] :
+         {std::make_tuple("sync/100k/sent", 100, 0), std::make_tuple("sync/100k/fetched", 0, 100),
+          std::make_tuple("sync/100k/both", 100, 100)})
+        add(name, [own = own, others = others](benchmark::State &state, const setting &of) {
+            changed(state, of, own, others);
+        })->Iterations(10);
     add("publish/100k", publish)->Iterations(1);
 
     benchmark::Initialize(&argc, argv);

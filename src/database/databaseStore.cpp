@@ -35,7 +35,7 @@ public:
     rowTaking(const store::syncResult &result, kiv_mat_databaseStruct &database,
               databaseRowsTarget &target)
         : m_result(result)
-        , m_rows(store::localRows(database))
+        , m_rows(store::localRows(database, store::withHashes::no))
         , m_target(target)
     {
         for (size_t i = 0; i < m_rows.size(); ++i) {

@@ -37,16 +37,6 @@ QString inFile(const QString &path, const QString &fault)
            + (fault.isEmpty() ? QCoreApplication::translate("store", "it cannot be read") : fault);
 }
 
-// Nothing was changed on either side: no file needs to be read.
-bool isUpToDate(connection &with, const QString &path, const base &head)
-{
-    if (!(fileState::of(path) == head.synced))
-        return false;
-    QString fault;
-    return idOf(with, &fault) == head.store && changesSince(with, head) == 0
-           && with.fault().isEmpty();
-}
-
 // Writes what came, and what is known of it. The document first: what is known of less than there
 // is only makes the next time ask for it again.
 QString writeBoth(const QString &path, documentStruct &document, const syncResult &result,
@@ -73,6 +63,15 @@ std::optional<address> addressOf(const configStruct &config, const QString &inst
         return {};
     }
     return address::parse(text, fault);
+}
+
+bool isUpToDate(connection &with, const QString &path, const base &head)
+{
+    if (!(fileState::of(path) == head.synced))
+        return false;
+    QString fault;
+    return idOf(with, &fault) == head.store && changesSince(with, head) == 0
+           && with.fault().isEmpty() && mayWrite(with) == head.mayWrite;
 }
 
 QString authorName() { return userName(); }

@@ -22,6 +22,11 @@ QString authorName();
 syncResult synchronizeFile(connection &with, const QString &path, configStruct &config,
                            const conflictsSettled &settle, const progressFunction &progress = {});
 
+// Whether nothing was changed on either side since the file was brought together with the store
+// last, and the user's role is the same: neither needs to be looked at more closely then. head:
+// what base::readHead() tells of it.
+bool isUpToDate(connection &with, const QString &path, const base &head);
+
 // What a file is called in the store unless somebody says otherwise.
 QString usualName(const QString &path);
 

@@ -15,8 +15,8 @@ namespace {
 // Those of one table.
 struct side
 {
-    std::vector<size_t> rows; // places among all
-    std::vector<QString> keys;
+    std::vector<size_t> rows;  // places among all
+    std::vector<QString> keys; // of these rows, where they are needed
 };
 
 // The place in the base of the row that a record lies below.
@@ -130,6 +130,57 @@ void matchByNeighbours(std::vector<localRow> *rows, const base &known, const sid
     }
 }
 
+size_t tableCount(const std::vector<localRow> &rows, const base &known)
+{
+    int last = -1;
+    for (const localRow &row : rows)
+        last = std::max(last, row.table);
+    for (const baseRow &row : known.rows)
+        last = std::max(last, row.table);
+    return size_t(last + 1);
+}
+
+// What stands where it stood, as it was: nearly all of a large document, from both its ends.
+void matchInPlace(std::vector<localRow> *rows, const base &known, const side &mine,
+                  const side &theirs, std::vector<bool> *taken)
+{
+    const auto isSame = [&](size_t here, size_t there) {
+        const localRow &row = (*rows)[here];
+        const baseRow &was = known.rows[there];
+        if (row.hash != was.hash || row.key != was.key || baseBelow(*rows, row) != was.below)
+            return false;
+        (*rows)[here].base = int(there);
+        (*taken)[there] = true;
+        return true;
+    };
+    // A changed text keeps its place: the others behind it are looked at all the same.
+    const size_t shorter = std::min(mine.rows.size(), theirs.rows.size());
+    size_t begin = 0;
+    while (begin < shorter
+           && (isSame(mine.rows[begin], theirs.rows[begin])
+               || (*rows)[mine.rows[begin]].key == known.rows[theirs.rows[begin]].key))
+        ++begin;
+    for (size_t end = 1; end <= shorter - begin; ++end) {
+        const size_t here = mine.rows[mine.rows.size() - end];
+        const size_t there = theirs.rows[theirs.rows.size() - end];
+        if (!isSame(here, there) && (*rows)[here].key != known.rows[there].key)
+            break;
+    }
+}
+
+// Those that are still to be matched. keyOf: null for the others.
+template <class KeyOf>
+side left(const side &all, const KeyOf &keyOf)
+{
+    side found;
+    for (const size_t place : all.rows)
+        if (const QString *key = keyOf(place)) {
+            found.rows.push_back(place);
+            found.keys.push_back(*key);
+        }
+    return found;
+}
+
 // The longest run of places, not necessarily side by side, that rises; which of them are in it.
 std::vector<bool> longestRising(const std::vector<double> &values)
 {
@@ -205,7 +256,7 @@ void setPlacesOf(std::vector<localRow> *rows, const base &known, const std::vect
 
 } // namespace
 
-std::vector<localRow> localRows(documentStruct &document)
+std::vector<localRow> localRows(documentStruct &document, withHashes hashes)
 {
     const tables &all = tablesOf(document.kind());
     std::vector<localRow> rows;
@@ -213,23 +264,26 @@ std::vector<localRow> localRows(documentStruct &document)
     for (size_t t = 0; t < all.size(); ++t) {
         const table &of = *all[t];
         const size_t begin = rows.size();
-        const auto add = [&](xmlData *parent, int below) {
-            const int count = of.count(parent);
-            for (int i = 0; i < count; ++i) {
+        std::vector<std::pair<xmlData *, int>> parents; // with their places
+        if (of.above < 0)
+            parents.emplace_back(&document, -1);
+        else
+            for (size_t i = spans[size_t(of.above)].first; i < spans[size_t(of.above)].second; ++i)
+                parents.emplace_back(rows[i].record, int(i));
+        size_t count = 0;
+        for (const auto &parent : parents)
+            count += size_t(of.count(parent.first));
+        rows.reserve(begin + count);
+        for (const auto &parent : parents)
+            for (int i = 0; i < of.count(parent.first); ++i) {
                 localRow row;
-                row.record = of.at(parent, i);
+                row.record = of.at(parent.first, i);
                 row.table = int(t);
-                row.below = below;
-                row.hash = of.hash(row.record);
+                row.below = parent.second;
+                row.hash = hashes == withHashes::yes ? of.hash(row.record) : 0;
                 row.key = of.key(row.record);
                 rows.push_back(std::move(row));
             }
-        };
-        if (of.above < 0)
-            add(&document, -1);
-        else
-            for (size_t i = spans[size_t(of.above)].first; i < spans[size_t(of.above)].second; ++i)
-                add(rows[i].record, int(i));
         spans.emplace_back(begin, rows.size());
     }
     return rows;
@@ -237,25 +291,25 @@ std::vector<localRow> localRows(documentStruct &document)
 
 void matchRows(std::vector<localRow> *rows, const base &known)
 {
-    std::map<int, side> mine;
-    std::map<int, side> theirs;
-    for (size_t i = 0; i < rows->size(); ++i) {
-        mine[(*rows)[i].table].rows.push_back(i);
-        mine[(*rows)[i].table].keys.push_back((*rows)[i].key);
-    }
-    for (size_t i = 0; i < known.rows.size(); ++i) {
-        theirs[known.rows[i].table].rows.push_back(i);
-        theirs[known.rows[i].table].keys.push_back(known.rows[i].key);
-    }
+    std::vector<side> mine(tableCount(*rows, known));
+    std::vector<side> theirs(mine.size());
+    for (size_t i = 0; i < rows->size(); ++i)
+        mine[size_t((*rows)[i].table)].rows.push_back(i);
+    for (size_t i = 0; i < known.rows.size(); ++i)
+        theirs[size_t(known.rows[i].table)].rows.push_back(i);
     std::set<int> folders;
     for (const localRow &row : *rows)
         if (row.below >= 0)
             folders.insert((*rows)[size_t(row.below)].table);
     std::vector<bool> taken(known.rows.size());
-    for (const auto &entry : mine) {
-        const int table = entry.first;
-        const side &of = entry.second; // no binding: a lambda may not hold one
-        const side &before = theirs[table];
+    for (size_t table = 0; table < mine.size(); ++table) {
+        matchInPlace(rows, known, mine[table], theirs[table], &taken);
+        const side of = left(mine[table], [&](size_t place) {
+            return (*rows)[place].base < 0 ? &(*rows)[place].key : nullptr;
+        });
+        const side before = left(theirs[table], [&](size_t place) {
+            return taken[place] ? nullptr : &known.rows[place].key;
+        });
         const auto content = [&](bool later, int place) {
             return later ? (*rows)[of.rows[size_t(place)]].hash
                          : known.rows[before.rows[size_t(place)]].hash;
@@ -275,11 +329,11 @@ void matchRows(std::vector<localRow> *rows, const base &known)
                 taken[found] = true;
             }
         // A folder has few texts of its own, which others share.
-        if (folders.count(table))
+        if (folders.count(int(table)))
             matchByChildren(rows, known, of, before, &taken);
         else
             matchByContent(rows, known, of, before, &taken);
-        matchByNeighbours(rows, known, of, before, &taken);
+        matchByNeighbours(rows, known, mine[table], theirs[table], &taken);
     }
 }
 

@@ -20,8 +20,14 @@ struct localRow
     double place = 0;
 };
 
+enum class withHashes
+{
+    no, // they stay 0
+    yes
+};
+
 // All records, those of a table in file order, tables in theirs.
-std::vector<localRow> localRows(documentStruct &document);
+std::vector<localRow> localRows(documentStruct &document, withHashes hashes = withHashes::yes);
 
 // Finds the row of each record: by what it is known by; of several with one key, and where the key
 // changed, by its content; last of all by its neighbours, which may also be another record in the

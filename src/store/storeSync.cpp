@@ -164,13 +164,23 @@ private:
         return 2 * equal >= all && equal > 0;
     }
 
+    // Among the rows; -1 when it is none of them. Most syncs ask for none of a large document.
+    int placeOf(const QString &id) const
+    {
+        if (m_places.isEmpty()) {
+            m_places.reserve(int(m_ids.size()));
+            for (size_t i = 0; i < m_ids.size(); ++i)
+                m_places.insert(m_ids[i], int(i));
+        }
+        return m_places.value(id, -1);
+    }
+
     // By the marks of the contents only: what exactly changed is asked of the store.
     void findOwnChanges()
     {
         std::vector<bool> seen(m_known.rows.size());
         for (size_t i = 0; i < m_rows.size(); ++i) {
             const localRow &row = m_rows[i];
-            m_places.insert(m_ids[i], int(i));
             if (row.base < 0) {
                 m_own.push_back(int(i));
                 continue;
@@ -261,9 +271,8 @@ private:
             const auto found = fresh.find({row->table, keyOf(*row)});
             if (found == fresh.end())
                 continue;
-            m_places.remove(m_ids[size_t(*found)]);
             m_ids[size_t(*found)] = row.key();
-            m_places.insert(row.key(), *found);
+            m_places.clear();
             fresh.erase(found);
         }
     }
@@ -323,7 +332,7 @@ private:
         for (auto row = m_theirs.cbegin(); row != m_theirs.cend(); ++row) {
             meeting &of = meetingOf(row.key(), row->table);
             if (of.local < 0)
-                of.local = m_places.value(row.key(), -1);
+                of.local = placeOf(row.key());
             // What was sent may have been set back to what it was before.
             if (of.local >= 0 && isAnswerLost)
                 of.isMineChanged = true;
@@ -402,7 +411,7 @@ private:
                 if (!rows.columns[i].nested)
                     rows.setText(record.get(), i, of.theirs->texts[int(i)]);
             line = rows.caption(record.get());
-            above = m_places.value(of.theirs->below, -1);
+            above = placeOf(of.theirs->below);
         }
         const QString below =
             above < 0 ? QString()
@@ -561,7 +570,7 @@ private:
     // Of a record that others lie below.
     QString nameOf(const QString &id) const
     {
-        if (const int local = m_places.value(id, -1); local >= 0)
+        if (const int local = placeOf(id); local >= 0)
             return m_tables[size_t(m_rows[size_t(local)].table)]->caption(
                 m_rows[size_t(local)].record);
         const auto theirs = m_theirs.constFind(id);
@@ -678,6 +687,7 @@ private:
         result->known.resize(m_rows.size());
         for (size_t i = 0; i < m_rows.size(); ++i) {
             result->known[i].id = m_ids[i];
+            result->known[i].hash = m_rows[i].hash;
             if (m_rows[i].base >= 0) {
                 const baseRow &was = m_known.rows[size_t(m_rows[i].base)];
                 result->known[i].release = was.release;
@@ -694,6 +704,7 @@ private:
                               : of.theirs            ? of.theirs->release
                                                      : row.release;
                 row.place = of.result.place;
+                row.hash = 0;
             }
             noteChange(of, result);
         }
@@ -745,12 +756,12 @@ private:
     const fileKind &m_kind;
     const tables &m_tables;
     std::vector<localRow> m_rows;
-    std::vector<QString> m_ids;          // of the rows
-    QHash<QString, int> m_places;        // of the ids among the rows
-    std::vector<int> m_own;              // rows that were changed here, or are new
-    std::vector<int> m_gone;             // places in the base
-    QHash<QString, storedRow> m_theirs;  // changed since
-    QHash<QString, storedRow> m_present; // as they are, of those that were not
+    std::vector<QString> m_ids;           // of the rows
+    mutable QHash<QString, int> m_places; // of the ids; made when it is asked for
+    std::vector<int> m_own;               // rows that were changed here, or are new
+    std::vector<int> m_gone;              // places in the base
+    QHash<QString, storedRow> m_theirs;   // changed since
+    QHash<QString, storedRow> m_present;  // as they are, of those that were not
     QHash<QString, meeting> m_meetings;
     std::vector<QString> m_order;
     QHash<QString, qint64> m_releases;
@@ -767,12 +778,18 @@ public:
     placing(const syncResult &result, documentStruct *document)
         : m_document(document)
         , m_tables(tablesOf(document->kind()))
-        , m_rows(localRows(*document))
+        , m_rows(localRows(*document, withHashes::no))
         , m_fresh(m_tables.size())
         , m_touched(m_tables.size())
     {
+        m_known.reserve(int(m_rows.size()));
+        std::vector<bool> isFolder(m_tables.size());
+        for (const auto &of : m_tables)
+            if (of->above >= 0)
+                isFolder[size_t(of->above)] = true;
         for (size_t i = 0; i < m_rows.size(); ++i) {
-            m_records.insert(result.known[i].id, m_rows[i].record);
+            if (isFolder[size_t(m_rows[i].table)])
+                m_folders.insert(result.known[i].id, m_rows[i].record);
             m_known.insert(m_rows[i].record, result.known[i]);
         }
     }
@@ -798,7 +815,7 @@ private:
 
     void prepare(const rowChange &change, const table &of)
     {
-        xmlData *parent = change.below.isEmpty() ? root() : m_records.value(change.below, nullptr);
+        xmlData *parent = change.below.isEmpty() ? root() : m_folders.value(change.below, nullptr);
         const auto t = size_t(change.table);
         if (change.local < 0) {
             std::unique_ptr<xmlData> record = of.make();
@@ -806,7 +823,7 @@ private:
                 return;
             for (size_t i = 0; i < of.columns.size(); ++i)
                 of.setText(record.get(), i, change.texts[int(i)]);
-            m_records.insert(change.id, record.get());
+            m_folders.insert(change.id, record.get());
             m_known.insert(record.get(), {change.id, change.release, change.place});
             m_fresh[t][parent].push_back(std::move(record));
             m_touched[t].insert(parent);
@@ -856,7 +873,7 @@ private:
     documentStruct *m_document;
     const tables &m_tables;
     std::vector<localRow> m_rows;
-    QHash<QString, xmlData *> m_records;
+    QHash<QString, xmlData *> m_folders; // of other records, by their ids
     QHash<const xmlData *, knownRow> m_known;
     QHash<const xmlData *, xmlData *> m_targets; // null: it goes
     std::vector<std::map<xmlData *, records>> m_fresh;
@@ -904,17 +921,20 @@ base knownOf(documentStruct &document, const QHash<const xmlData *, knownRow> &r
     after.release = result.release;
     after.mayWrite = result.mayWrite;
     after.rows.clear();
-    const std::vector<localRow> all = localRows(document);
+    const tables &of = tablesOf(document.kind());
+    const std::vector<localRow> all = localRows(document, withHashes::no);
     after.rows.reserve(all.size());
     std::vector<int> places(all.size(), -1); // among the known rows
     for (size_t i = 0; i < all.size(); ++i) {
         const localRow &row = all[i];
-        const auto of = rows.constFind(row.record);
-        if (of == rows.constEnd())
+        const auto found = rows.constFind(row.record);
+        if (found == rows.constEnd())
             continue;
         places[i] = int(after.rows.size());
-        after.rows.push_back({row.table, of->id, row.below < 0 ? -1 : places[size_t(row.below)],
-                              of->place, of->release, row.hash, row.key});
+        after.rows.push_back(
+            {row.table, found->id, row.below < 0 ? -1 : places[size_t(row.below)], found->place,
+             found->release,
+             found->hash != 0 ? found->hash : of[size_t(row.table)]->hash(row.record), row.key});
     }
     return after;
 }
@@ -991,7 +1011,7 @@ syncResult publish(connection &to, documentStruct &document, const QString &name
         for (; end < rows.size() && end - begin < most && rows[end].table == rows[begin].table;
              ++end) {
             const localRow &row = rows[end];
-            result.known[end] = {newId(), result.release, row.place};
+            result.known[end] = {newId(), result.release, row.place, row.hash};
             some.push_back({row.table, result.known[end].id,
                             row.below < 0 ? QString() : result.known[size_t(row.below)].id,
                             row.place, result.release, false,

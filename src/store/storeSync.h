@@ -39,6 +39,7 @@ struct knownRow
     QString id;
     qint64 release = 0;
     double place = 0;
+    quint64 hash = 0; // of its content; 0 where that is another one now
 };
 
 struct syncResult

@@ -95,6 +95,11 @@ store::syncResult editWindow::synchronize(store::connection &with)
         result.cancelled = true;
         return result;
     }
+    if (const store::base head = store::base::readHead(filePath());
+        !isModified() && head.isShared() && store::isUpToDate(with, filePath(), head)) {
+        result.done = true;
+        return result;
+    }
     store::base known = store::base::read(filePath(), &result.fault);
     if (!result.fault.isEmpty())
         return result;
