@@ -137,7 +137,7 @@ size_t tableCount(const std::vector<localRow> &rows, const base &known)
         last = std::max(last, row.table);
     for (const baseRow &row : known.rows)
         last = std::max(last, row.table);
-    return size_t(last + 1);
+    return size_t(last) + 1; // 0 where there is none
 }
 
 // What stands where it stood, as it was: nearly all of a large document, from both its ends.

@@ -536,7 +536,10 @@ private slots:
 
     void killed()
     {
-        const auto [where, dies] = fetch<moment, bool>();
+        const auto row = fetch<moment, bool>();
+        // No bindings: a lambda may not hold one.
+        const moment where = std::get<0>(row);
+        const bool dies = std::get<1>(row);
         person anna;
         QVERIFY(anna.open(address("editor")));
         constexpr int count = 600;
