@@ -7249,6 +7249,10 @@ Przykład: kivzp-cli update create out --part firms=12 --key ours.key</translati
         <source>Xml File</source>
         <translation>Plik XML</translation>
     </message>
+    <message>
+        <source>The file was not written</source>
+        <translation>Plik nie został zapisany</translation>
+    </message>
 </context>
 <context>
     <name>emailTempWindow</name>

@@ -173,7 +173,7 @@ std::unique_ptr<command> Kiv_mat_databaseWindow::takeRows(const store::syncResul
     const QModelIndex current = m_view->currentIndex();
     const QString currentRow = taking.known().value(m_rows->materialAt(current)).id;
     taking.run();
-    *known = store::knownOf(database, taking.known(), *known, result);
+    *known = store::knownOf(database, taking.known(), std::move(*known), result);
     // Whoever stands on a row that others changed goes on standing there.
     if (!currentRow.isEmpty())
         for (auto row = taking.known().cbegin(); row != taking.known().cend(); ++row)

@@ -40,7 +40,7 @@ void MainWindow::commandSynchronizeAll(bool)
         editWindow *window = kind ? windowOf(path, *kind) : nullptr;
         const store::syncResult result =
             window
-                ? window->synchronize(*with)
+                ? window->synchronize(*with, *this)
                 : storeAccess::bringTogether(
                     *with, progress(), this, [&](const auto &settle, const progressFunction &go) {
                         return store::synchronizeFile(*with, path, known().config(), settle, go);
@@ -50,7 +50,10 @@ void MainWindow::commandSynchronizeAll(bool)
         if (!result.done)
             left.append(QFileInfo(path).fileName());
         if (!result.fault.isEmpty())
-            faults += result.fault.toHtmlEscaped() + QLatin1String("<br>");
+            faults += (window ? QDir::toNativeSeparators(path) + QLatin1String(": ") + result.fault
+                              : result.fault)
+                          .toHtmlEscaped()
+                      + QLatin1String("<br>");
     }
     storeAccess::listen(std::move(with));
     lookAtOrders();
@@ -96,9 +99,7 @@ void MainWindow::commandTakeShared(bool)
     bool isDone = false;
     {
         workProgress::scope work(progress(), tr("Taking it from the shared store"));
-        const progressFunction go = work.function();
-        with->setWaiting([&go] { return go(0, 0); });
-        isDone = store::cloneFile(*with, *kind, document.name, path, &fault, go);
+        isDone = store::cloneFile(*with, *kind, document.name, path, &fault, work.function());
     }
     if (!fault.isEmpty())
         userPrompts().showError(fault.toHtmlEscaped());
@@ -116,6 +117,6 @@ void MainWindow::commandPutShared(bool)
     const fileKind *kind = fileKinds::ofFile(path);
     editWindow *window = kind ? windowOf(path, *kind) : nullptr;
     tell(window && window != this
-             ? window->publish()
+             ? window->publish(*this)
              : storeAccess::put(known().config(), progress(), path, [] { return true; }));
 }

@@ -170,7 +170,7 @@ void matchInPlace(std::vector<localRow> *rows, const base &known, const side &mi
 
 // Those that are still to be matched. keyOf: null for the others.
 template <class KeyOf>
-side left(const side &all, const KeyOf &keyOf)
+side unmatched(const side &all, const KeyOf &keyOf)
 {
     side found;
     for (const size_t place : all.rows)
@@ -304,10 +304,10 @@ void matchRows(std::vector<localRow> *rows, const base &known)
     std::vector<bool> taken(known.rows.size());
     for (size_t table = 0; table < mine.size(); ++table) {
         matchInPlace(rows, known, mine[table], theirs[table], &taken);
-        const side of = left(mine[table], [&](size_t place) {
+        const side of = unmatched(mine[table], [&](size_t place) {
             return (*rows)[place].base < 0 ? &(*rows)[place].key : nullptr;
         });
-        const side before = left(theirs[table], [&](size_t place) {
+        const side before = unmatched(theirs[table], [&](size_t place) {
             return taken[place] ? nullptr : &known.rows[place].key;
         });
         const auto content = [&](bool later, int place) {

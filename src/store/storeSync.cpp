@@ -164,15 +164,18 @@ private:
         return 2 * equal >= all && equal > 0;
     }
 
-    // Among the rows; -1 when it is none of them. Most syncs ask for none of a large document.
-    int placeOf(const QString &id) const
+    // Those of the rows that others changed, and of those that others lie below: few of a large
+    // document.
+    void findPlaces()
     {
-        if (m_places.isEmpty()) {
-            m_places.reserve(int(m_ids.size()));
-            for (size_t i = 0; i < m_ids.size(); ++i)
+        std::vector<bool> isFolder(m_tables.size());
+        for (const auto &of : m_tables)
+            if (of->above >= 0)
+                isFolder[size_t(of->above)] = true;
+        m_places.clear();
+        for (size_t i = 0; i < m_ids.size(); ++i)
+            if (isFolder[size_t(m_rows[i].table)] || m_theirs.contains(m_ids[i]))
                 m_places.insert(m_ids[i], int(i));
-        }
-        return m_places.value(id, -1);
     }
 
     // By the marks of the contents only: what exactly changed is asked of the store.
@@ -231,6 +234,7 @@ private:
         if (now > m_known.release && !fetch(result))
             return false;
         joinFresh();
+        findPlaces();
         if (!meet(result) || !reconstruct(result))
             return false;
         merge(conflicts, where);
@@ -272,7 +276,6 @@ private:
             if (found == fresh.end())
                 continue;
             m_ids[size_t(*found)] = row.key();
-            m_places.clear();
             fresh.erase(found);
         }
     }
@@ -332,7 +335,7 @@ private:
         for (auto row = m_theirs.cbegin(); row != m_theirs.cend(); ++row) {
             meeting &of = meetingOf(row.key(), row->table);
             if (of.local < 0)
-                of.local = placeOf(row.key());
+                of.local = m_places.value(row.key(), -1);
             // What was sent may have been set back to what it was before.
             if (of.local >= 0 && isAnswerLost)
                 of.isMineChanged = true;
@@ -411,7 +414,7 @@ private:
                 if (!rows.columns[i].nested)
                     rows.setText(record.get(), i, of.theirs->texts[int(i)]);
             line = rows.caption(record.get());
-            above = placeOf(of.theirs->below);
+            above = m_places.value(of.theirs->below, -1);
         }
         const QString below =
             above < 0 ? QString()
@@ -570,7 +573,7 @@ private:
     // Of a record that others lie below.
     QString nameOf(const QString &id) const
     {
-        if (const int local = placeOf(id); local >= 0)
+        if (const int local = m_places.value(id, -1); local >= 0)
             return m_tables[size_t(m_rows[size_t(local)].table)]->caption(
                 m_rows[size_t(local)].record);
         const auto theirs = m_theirs.constFind(id);
@@ -756,12 +759,12 @@ private:
     const fileKind &m_kind;
     const tables &m_tables;
     std::vector<localRow> m_rows;
-    std::vector<QString> m_ids;           // of the rows
-    mutable QHash<QString, int> m_places; // of the ids; made when it is asked for
-    std::vector<int> m_own;               // rows that were changed here, or are new
-    std::vector<int> m_gone;              // places in the base
-    QHash<QString, storedRow> m_theirs;   // changed since
-    QHash<QString, storedRow> m_present;  // as they are, of those that were not
+    std::vector<QString> m_ids;          // of the rows
+    QHash<QString, int> m_places;        // among the rows, as findPlaces() says
+    std::vector<int> m_own;              // rows that were changed here, or are new
+    std::vector<int> m_gone;             // places in the base
+    QHash<QString, storedRow> m_theirs;  // changed since
+    QHash<QString, storedRow> m_present; // as they are, of those that were not
     QHash<QString, meeting> m_meetings;
     std::vector<QString> m_order;
     QHash<QString, qint64> m_releases;
@@ -770,124 +773,6 @@ private:
     qint64 m_release = 0;
     picks m_picks;
 };
-
-// The changes of a result, made in a document.
-class placing
-{
-public:
-    placing(const syncResult &result, documentStruct *document)
-        : m_document(document)
-        , m_tables(tablesOf(document->kind()))
-        , m_rows(localRows(*document, withHashes::no))
-        , m_fresh(m_tables.size())
-        , m_touched(m_tables.size())
-    {
-        m_known.reserve(int(m_rows.size()));
-        std::vector<bool> isFolder(m_tables.size());
-        for (const auto &of : m_tables)
-            if (of->above >= 0)
-                isFolder[size_t(of->above)] = true;
-        for (size_t i = 0; i < m_rows.size(); ++i) {
-            if (isFolder[size_t(m_rows[i].table)])
-                m_folders.insert(result.known[i].id, m_rows[i].record);
-            m_known.insert(m_rows[i].record, result.known[i]);
-        }
-    }
-
-    void run(const syncResult &result)
-    {
-        // What is new below something new finds it, and what leaves something that goes is out of
-        // it before.
-        for (size_t t = 0; t < m_tables.size(); ++t)
-            for (const rowChange &change : result.changes)
-                if (size_t(change.table) == t)
-                    prepare(change, *m_tables[t]);
-        for (size_t t = m_tables.size(); t > 0; --t)
-            arrange(t - 1);
-    }
-
-    const QHash<const xmlData *, knownRow> &known() const { return m_known; }
-
-private:
-    using records = std::vector<std::unique_ptr<xmlData>>;
-
-    xmlData *root() const { return m_document; }
-
-    void prepare(const rowChange &change, const table &of)
-    {
-        xmlData *parent = change.below.isEmpty() ? root() : m_folders.value(change.below, nullptr);
-        const auto t = size_t(change.table);
-        if (change.local < 0) {
-            std::unique_ptr<xmlData> record = of.make();
-            if (!record || !parent)
-                return;
-            for (size_t i = 0; i < of.columns.size(); ++i)
-                of.setText(record.get(), i, change.texts[int(i)]);
-            m_folders.insert(change.id, record.get());
-            m_known.insert(record.get(), {change.id, change.release, change.place});
-            m_fresh[t][parent].push_back(std::move(record));
-            m_touched[t].insert(parent);
-            return;
-        }
-        const localRow &row = m_rows[size_t(change.local)];
-        xmlData *home = row.below < 0 ? root() : m_rows[size_t(row.below)].record;
-        m_touched[t].insert(home);
-        if (change.gone) {
-            m_targets.insert(row.record, nullptr);
-            return;
-        }
-        for (size_t i = 0; i < size_t(change.texts.size()); ++i)
-            if (of.text(row.record, i) != change.texts[int(i)])
-                of.setText(row.record, i, change.texts[int(i)]);
-        m_known[row.record].place = change.place;
-        if (parent && parent != home) {
-            m_targets.insert(row.record, parent);
-            m_touched[t].insert(parent);
-        }
-    }
-
-    // The lists of one table, each in the order of the places.
-    void arrange(size_t t)
-    {
-        const table &of = *m_tables[t];
-        std::map<xmlData *, records> lists = std::move(m_fresh[t]);
-        for (xmlData *parent : m_touched[t]) {
-            records all = of.take(parent);
-            for (auto &record : all) {
-                xmlData *to = m_targets.value(record.get(), parent);
-                if (to)
-                    lists[to].push_back(std::move(record));
-            }
-        }
-        for (auto &[parent, list] : lists) {
-            std::stable_sort(list.begin(), list.end(), [this](const auto &a, const auto &b) {
-                const knownRow &first = *m_known.constFind(a.get());
-                const knownRow &second = *m_known.constFind(b.get());
-                return first.place != second.place ? first.place < second.place
-                                                   : first.id < second.id;
-            });
-            of.give(parent, std::move(list));
-        }
-    }
-
-    documentStruct *m_document;
-    const tables &m_tables;
-    std::vector<localRow> m_rows;
-    QHash<QString, xmlData *> m_folders; // of other records, by their ids
-    QHash<const xmlData *, knownRow> m_known;
-    QHash<const xmlData *, xmlData *> m_targets; // null: it goes
-    std::vector<std::map<xmlData *, records>> m_fresh;
-    std::vector<std::set<xmlData *>> m_touched;
-};
-
-// The document's row in the store, with its kind's name and its own.
-QString documentId(connection &from, const fileKind &kind, const QString &name)
-{
-    return from
-        .askOne(QStringLiteral("select id from document where kind = ? and name = ?"),
-                {kind.root, name})
-        .toString();
-}
 
 } // namespace
 
@@ -905,222 +790,6 @@ syncResult synchronize(connection &with, documentStruct &document, const base &k
         return result;
     }
     return synchronization(with, document, known, author, progress).run(settle);
-}
-
-void apply(const syncResult &result, documentStruct *document, base *known)
-{
-    placing rows(result, document);
-    rows.run(result);
-    *known = knownOf(*document, rows.known(), *known, result);
-}
-
-base knownOf(documentStruct &document, const QHash<const xmlData *, knownRow> &rows,
-             const base &before, const syncResult &result)
-{
-    base after = before;
-    after.release = result.release;
-    after.mayWrite = result.mayWrite;
-    after.rows.clear();
-    const tables &of = tablesOf(document.kind());
-    const std::vector<localRow> all = localRows(document, withHashes::no);
-    after.rows.reserve(all.size());
-    std::vector<int> places(all.size(), -1); // among the known rows
-    for (size_t i = 0; i < all.size(); ++i) {
-        const localRow &row = all[i];
-        const auto found = rows.constFind(row.record);
-        if (found == rows.constEnd())
-            continue;
-        places[i] = int(after.rows.size());
-        after.rows.push_back(
-            {row.table, found->id, row.below < 0 ? -1 : places[size_t(row.below)], found->place,
-             found->release,
-             found->hash != 0 ? found->hash : of[size_t(row.table)]->hash(row.record), row.key});
-    }
-    return after;
-}
-
-std::unique_ptr<documentStruct> copyOf(documentStruct &document)
-{
-    std::unique_ptr<documentStruct> copied = newDocument(document.kind());
-    const tables &all = tablesOf(document.kind());
-    std::map<const xmlData *, xmlData *> copies{{&document, copied.get()}};
-    for (size_t t = 0; t < all.size(); ++t) {
-        const table &of = *all[t];
-        std::map<xmlData *, std::vector<std::unique_ptr<xmlData>>> lists;
-        const auto copyBelow = [&](xmlData *parent) {
-            for (int i = 0; i < of.count(parent); ++i) {
-                const xmlData *record = of.at(parent, i);
-                std::unique_ptr<xmlData> made = of.make();
-                xmlData *to = made ? made.get() : copied.get();
-                for (size_t place = 0; place < of.columns.size(); ++place)
-                    of.setText(to, place, of.text(record, place));
-                copies[record] = to;
-                if (made)
-                    lists[copies[parent]].push_back(std::move(made));
-            }
-        };
-        if (of.above < 0)
-            copyBelow(&document);
-        else
-            for (int i = 0; i < all[size_t(of.above)]->count(&document); ++i)
-                copyBelow(all[size_t(of.above)]->at(&document, i));
-        for (auto &[parent, list] : lists)
-            of.give(parent, std::move(list));
-    }
-    return copied;
-}
-
-syncResult publish(connection &to, documentStruct &document, const QString &name,
-                   const QString &author, base *known, const progressFunction &progress)
-{
-    syncResult result;
-    base made;
-    made.store = idOf(to, &result.fault);
-    if (made.store.isEmpty())
-        return result;
-    const auto failed = [&](const QString &fault) {
-        to.rollback();
-        result.fault = fault;
-        return result;
-    };
-    const fileKind &kind = document.kind();
-    made.document = newId();
-    made.kind = kind.root;
-    made.program = newId();
-    std::vector<localRow> rows = localRows(document);
-    setPlaces(&rows, made);
-    result.known.resize(rows.size());
-    if (!to.begin(true)) {
-        result.cancelled = to.wasGivenUp();
-        return failed(result.cancelled ? QString() : to.fault());
-    }
-    if (!documentId(to, kind, name).isEmpty())
-        return failed(QCoreApplication::translate(
-            "store", "there is a document of that name in the shared store: clone it"));
-    rowWriter writer(to, kind, made.document);
-    result.release = writer.open(author, made.program);
-    if (result.release < 0
-        || !to.run(
-            QStringLiteral("insert into document (id, kind, name, release) values (?, ?, ?, ?)"),
-            {made.document, kind.root, name, result.release}))
-        return failed(to.fault());
-    constexpr size_t most = 1000; // rows in memory twice
-    for (size_t begin = 0; begin < rows.size();) {
-        std::vector<storedRow> some;
-        size_t end = begin;
-        for (; end < rows.size() && end - begin < most && rows[end].table == rows[begin].table;
-             ++end) {
-            const localRow &row = rows[end];
-            result.known[end] = {newId(), result.release, row.place, row.hash};
-            some.push_back({row.table, result.known[end].id,
-                            row.below < 0 ? QString() : result.known[size_t(row.below)].id,
-                            row.place, result.release, false,
-                            tablesOf(kind)[size_t(row.table)]->texts(row.record)});
-        }
-        std::vector<const storedRow *> all;
-        for (const storedRow &row : some)
-            all.push_back(&row);
-        if (!writer.add(all))
-            return failed(to.fault());
-        begin = end;
-        if (progress && !progress(qint64(end), qint64(rows.size()))) {
-            result.cancelled = true;
-            return failed({});
-        }
-    }
-    if (!to.commit())
-        return failed(to.fault());
-    result.done = true;
-    result.sent = writer.written();
-    *known = made;
-    return result;
-}
-
-std::unique_ptr<documentStruct> clone(connection &from, const fileKind &kind, const QString &name,
-                                      base *known, QString *fault, const progressFunction &progress)
-{
-    fault->clear();
-    base made;
-    made.store = idOf(from, fault);
-    if (made.store.isEmpty())
-        return nullptr;
-    made.kind = kind.root;
-    made.program = newId();
-    made.mayWrite = mayWrite(from);
-    if (!from.begin(false)) {
-        *fault = from.fault();
-        return nullptr;
-    }
-    made.document = documentId(from, kind, name);
-    made.release = from.askOne(QStringLiteral("select release from about")).toLongLong();
-    if (made.document.isEmpty()) {
-        from.rollback();
-        *fault = QCoreApplication::translate("store", "the shared store has no such document");
-        return nullptr;
-    }
-    const tables &all = tablesOf(kind);
-    std::unique_ptr<documentStruct> document = newDocument(kind);
-    std::vector<std::map<xmlData *, std::vector<std::unique_ptr<xmlData>>>> lists(all.size());
-    QHash<QString, xmlData *> records;
-    QHash<const xmlData *, knownRow> ids;
-    qint64 done = 0;
-    bool isCancelled = false;
-    const bool isGood = fetchRows(from, kind, made.document, -1, [&](storedRow &&row) {
-        const table &of = *all[size_t(row.table)];
-        xmlData *parent = row.below.isEmpty() ? document.get() : records.value(row.below, nullptr);
-        std::unique_ptr<xmlData> fresh = of.make();
-        xmlData *record = fresh ? fresh.get() : document.get();
-        for (size_t i = 0; i < of.columns.size(); ++i)
-            if (const QString &text = row.texts[int(i)]; !of.columns[i].nested || !text.isEmpty())
-                of.setText(record, i, sharedText(QStringRef(&text)));
-        records.insert(row.id, record);
-        ids.insert(record, {row.id, row.release, row.place});
-        if (fresh && parent)
-            lists[size_t(row.table)][parent].push_back(std::move(fresh));
-        isCancelled = ++done % 256 == 0 && progress && !progress(done, 0);
-        return !isCancelled;
-    });
-    if (!isGood || !from.commit()) {
-        *fault = isCancelled ? QString() : from.fault();
-        from.rollback();
-        return nullptr;
-    }
-    for (size_t t = all.size(); t > 0; --t)
-        for (auto &[parent, list] : lists[t - 1])
-            all[t - 1]->give(parent, std::move(list));
-    for (const localRow &row : localRows(*document)) {
-        const knownRow &of = *ids.constFind(row.record);
-        made.rows.push_back({row.table, of.id, row.below, of.place, of.release, row.hash, row.key});
-    }
-    *known = std::move(made);
-    return document;
-}
-
-std::vector<sharedName> documentsIn(connection &of)
-{
-    std::vector<sharedName> all;
-    auto query =
-        of.ask(QStringLiteral("select kind, name, release from document order by kind, name"));
-    while (query && query->next())
-        all.push_back(
-            {query->value(0).toString(), query->value(1).toString(), query->value(2).toLongLong()});
-    return all;
-}
-
-int changesSince(connection &of, const base &known)
-{
-    const fileKind *kind = kindOf(known.kind);
-    int count = 0;
-    if (kind)
-        for (const auto &table : tablesOf(*kind))
-            count +=
-                of.askOne(QStringLiteral("select count(*) from %1 where row_document = ? and "
-                                         "row_release > ? and row_release not in (select number "
-                                         "from release where program = ? and number > ?)")
-                              .arg(quoted(table->name)),
-                          {known.document, known.release, known.program, known.release})
-                    .toInt();
-    return count;
 }
 
 } // namespace store

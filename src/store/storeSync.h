@@ -30,7 +30,7 @@ struct rowChange
     qint64 release = 0;
     bool gone = false;
     bool moved = false; // it is at another place in the document now
-    QStringList texts; // all columns; none where only the place is another one
+    QStringList texts;  // all columns; none where only the place is another one
 };
 
 // What the rows of the records are after it, in the order of localRows().
@@ -73,8 +73,8 @@ void apply(const syncResult &result, documentStruct *document, base *known);
 
 // What is known of a document whose records have these rows: of another way to make the changes. A
 // record without one is new, and is sent the next time.
-base knownOf(documentStruct &document, const QHash<const xmlData *, knownRow> &rows,
-             const base &before, const syncResult &result);
+base knownOf(documentStruct &document, const QHash<const xmlData *, knownRow> &rows, base before,
+             const syncResult &result);
 
 // A document of its own with the same records in the same order.
 std::unique_ptr<documentStruct> copyOf(documentStruct &document);

@@ -164,11 +164,12 @@ public:
     bool restoreVersion(documentStruct &version, const QString &what);
 
     // Fetches what others changed in the shared store and sends what was changed here; the file is
-    // written then. Conflicts are shown. Cancelled, with the reason in the fault, when the window
-    // cannot just now. The fault was not told yet.
-    store::syncResult synchronize(store::connection &with);
+    // written then. seen: the window that shows progress and conflicts. Cancelled, with the reason
+    // in the fault, when this window cannot just now, or the file was not written. The fault was
+    // not told yet.
+    store::syncResult synchronize(store::connection &with, editWindow &seen);
     // Puts the file into the shared store under a name that is asked for; what came of it.
-    QString publish();
+    QString publish(editWindow &seen);
 
     // Locks or unlocks as the configuration and the document allow.
     void setUnlocked(bool wanted);
@@ -376,7 +377,7 @@ private:
     void followStore();
     void showChangesOfOthers();
     bool canMeetStore(QString *why);
-    void finishSynchronizing(const store::syncResult &result, store::base known, QString *fault);
+    void finishSynchronizing(store::syncResult *result, store::base known);
 
     bool mayUnlock() const;
     QString lockedText() const;

@@ -71,14 +71,15 @@ QString editWindow::sentence(const store::syncResult &result)
 
 void editWindow::commandSynchronize(bool)
 {
-    if (!store::base::readHead(filePath()).isShared()) {
+    // One that cannot be read is told of when it is.
+    if (!QFileInfo::exists(store::base::fileOf(filePath()))) {
         tell(tr("This file is not shared: put it into the shared store first"));
         return;
     }
     std::unique_ptr<store::connection> with = storeAccess::open(m_known.config(), progress());
     if (!with)
         return;
-    const store::syncResult result = synchronize(*with);
+    const store::syncResult result = synchronize(*with, *this);
     storeAccess::listen(std::move(with));
     if (result.done)
         tell(sentence(result));
@@ -88,7 +89,7 @@ void editWindow::commandSynchronize(bool)
         userPrompts().showError(result.fault.toHtmlEscaped());
 }
 
-store::syncResult editWindow::synchronize(store::connection &with)
+store::syncResult editWindow::synchronize(store::connection &with, editWindow &seen)
 {
     store::syncResult result;
     if (!canMeetStore(&result.fault)) {
@@ -104,11 +105,11 @@ store::syncResult editWindow::synchronize(store::connection &with)
     if (!result.fault.isEmpty())
         return result;
     result = storeAccess::bringTogether(
-        with, progress(), this, [&](const auto &settle, const progressFunction &go) {
+        with, seen.progress(), &seen, [&](const auto &settle, const progressFunction &go) {
             return store::synchronize(with, *record(), known, store::authorName(), settle, go);
         });
     if (result.done)
-        finishSynchronizing(result, std::move(known), &result.fault);
+        finishSynchronizing(&result, std::move(known));
     else if (!result.fault.isEmpty())
         result.fault =
             tr("The file and the shared store could not be brought together: ") + result.fault;
@@ -116,19 +117,23 @@ store::syncResult editWindow::synchronize(store::connection &with)
 }
 
 // What was sent is in the store: the file follows at once, so that both go on being the same.
-void editWindow::finishSynchronizing(const store::syncResult &result, store::base known,
-                                     QString *fault)
+void editWindow::finishSynchronizing(store::syncResult *result, store::base known)
 {
     historyMoves();
-    auto step = takeRows(result, &known);
+    auto step = takeRows(*result, &known);
     if (step)
         push(std::move(step), tr("Synchronise"));
     else
         historyMoved();
-    if (isModified() && !save())
+    // What was sent comes back the next time, and is known by then.
+    if (isModified() && !save()) {
+        result->done = false;
+        result->cancelled = true;
+        result->fault = tr("The file was not written");
         return;
+    }
     known.synced = fileState::of(filePath());
-    if (!known.write(filePath(), fault))
+    if (!known.write(filePath(), &result->fault))
         return;
     readStoreState();
     setUnlocked(!m_locked);
@@ -146,9 +151,9 @@ std::unique_ptr<command> editWindow::takeRows(const store::syncResult &result, s
     return become(*wanted);
 }
 
-void editWindow::commandPublish(bool) { tell(publish()); }
+void editWindow::commandPublish(bool) { tell(publish(*this)); }
 
-QString editWindow::publish()
+QString editWindow::publish(editWindow &seen)
 {
     QString fault;
     if (!canMeetStore(&fault))
@@ -159,7 +164,7 @@ QString editWindow::publish()
         userPrompts().showError(fault.toHtmlEscaped());
         return {};
     }
-    const QString told = storeAccess::put(m_known.config(), progress(), filePath(),
+    const QString told = storeAccess::put(m_known.config(), seen.progress(), filePath(),
                                           [this] { return !isModified() || save(); });
     readStoreState();
     return told;

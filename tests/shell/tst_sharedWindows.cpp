@@ -162,6 +162,20 @@ private slots:
         look("boxes ~ there is such a file already");
     }
 
+    // What is known of a file is spoilt: that is told, and nothing changes on either side.
+    void spoiltBeside()
+    {
+        QVERIFY(store::publishFile(m_store, file(), "db").done);
+        testSupport::write(store::base::fileOf(file()), "<spoilt");
+        const QByteArray before = testSupport::read(file());
+        openWindow(DATABASE);
+        work("Ctrl+Shift+Y ~200 Return");
+        look("boxes ~ " + store::base::fileOf(file()) + "; title !~ *");
+        openWindow("<#synchronizeAll ~200 Return");
+        look("boxes ~ db_warehouse.xml; status ~ Not synchronised: db_warehouse.xml");
+        QCOMPARE(testSupport::read(file()), before);
+    }
+
     // Who may only read is told so, and fetches all the same.
     void reader()
     {
