@@ -52,6 +52,9 @@ void editWindow::showChangesOfOthers()
 // What the window shows is the file as it was read, with what was changed here.
 bool editWindow::canMeetStore(QString *why)
 {
+    // A window that is not shown may have read nothing yet.
+    if (!isVisible())
+        begin();
     if (!finishEditing() || !record())
         return false; // the editor has told why
     if (fileState::of(filePath()) == onDisk())

@@ -150,6 +150,15 @@ private slots:
         QString fault;
         QVERIFY(store::cloneFile(m_store, fileKinds::database, "db", copy(), &fault));
         restart("");
+        // No window was opened yet.
+        kiv_mat_firmStruct others;
+        QVERIFY(store::cloneFile(m_store, fileKinds::firm, "firms", path("firms2.xml"), &fault));
+        QCOMPARE(loadFirm(path("firms2.xml"), &others), 0);
+        others.manufacturers.items[1]->fullname = "Nowa SA";
+        QVERIFY(saveXml(path("firms2.xml"), &others) >= 0);
+        QVERIFY(store::synchronizeFile(m_store, path("firms2.xml"), *m_config, {}).done);
+        work("Ctrl+Shift+Y ~400");
+        look("status = 2 shared files: 1 change fetched, 0 sent; file _files/firms.xml ~ >Nowa SA<");
         changeByOthers(1, "Theirs");
         openWindow("#firm|manufacturers@0,1 F2 Ctrl+A 'Żuk & Syn' Return");
         openWindow("<Ctrl+Shift+Y ~400");
