@@ -1513,6 +1513,30 @@
         <source>%1 is in %2</source>
         <translation>%1 jest w pliku %2</translation>
     </message>
+    <message>
+        <source>materials</source>
+        <translation>materiały</translation>
+    </message>
+    <message>
+        <source>firms</source>
+        <translation>firmy</translation>
+    </message>
+    <message>
+        <source>details of firms</source>
+        <translation>dane firm</translation>
+    </message>
+    <message>
+        <source>reservations</source>
+        <translation>rezerwacje</translation>
+    </message>
+    <message>
+        <source>states of orders</source>
+        <translation>stany zamówień</translation>
+    </message>
+    <message>
+        <source>offers</source>
+        <translation>oferty</translation>
+    </message>
 </context>
 <context>
     <name>XmlValidator</name>

@@ -2,6 +2,8 @@
 // documents taken out of it, and files put into it that no window edits.
 #include "shell/MainWindow.h"
 
+#include "data/kiv_mat_firmDetailsStruct.h"
+#include "data/kiv_mat_offersStruct.h"
 #include "data/loaders.h"
 #include "data/vocabulary.h"
 #include "store/storeFiles.h"
@@ -13,6 +15,31 @@
 
 #include <QDir>
 #include <QFileInfo>
+
+namespace {
+
+// What others share, as a person calls it; a newer program's by its root element.
+QString captionOf(const QString &root)
+{
+    const struct
+    {
+        const fileKind &kind;
+        const char *caption;
+    } captions[] = {
+        {fileKinds::database, QT_TRANSLATE_NOOP("MainWindow", "materials")},
+        {fileKinds::firm, QT_TRANSLATE_NOOP("MainWindow", "firms")},
+        {fileKinds::firmDetails, QT_TRANSLATE_NOOP("MainWindow", "details of firms")},
+        {fileKinds::reservations, QT_TRANSLATE_NOOP("MainWindow", "reservations")},
+        {fileKinds::orderStates, QT_TRANSLATE_NOOP("MainWindow", "states of orders")},
+        {fileKinds::offers, QT_TRANSLATE_NOOP("MainWindow", "offers")},
+    };
+    for (const auto &one : captions)
+        if (one.kind.root == root)
+            return MainWindow::tr(one.caption);
+    return root;
+}
+
+} // namespace
 
 void MainWindow::checkStore()
 {
@@ -72,7 +99,7 @@ void MainWindow::commandTakeShared(bool)
     const std::vector<store::sharedName> documents = store::documentsIn(*with);
     QStringList names;
     for (const store::sharedName &one : documents)
-        names.append(one.name + QLatin1String("  (") + one.kind + QLatin1Char(')'));
+        names.append(one.name + QLatin1String(" (") + captionOf(one.kind) + QLatin1Char(')'));
     if (!with->fault().isEmpty()) {
         userPrompts().showError(with->fault().toHtmlEscaped());
         return;

@@ -64,7 +64,8 @@ mergeDialog::mergeDialog(std::vector<mergeRow> &rows, bool mayTake, QWidget *par
         items.append(item);
     }
     m_view->addTopLevelItems(items);
-    constexpr int widths[] = {260, 130, 170, 170, 170, 90};
+    // The line ends in what tells it from others: a KTM and a name.
+    constexpr int widths[] = {340, 110, 150, 150, 150, 90};
     for (int column = 0; column < columnCount; ++column)
         m_view->header()->resizeSection(column, widths[column]);
 
